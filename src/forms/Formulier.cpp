@@ -1,0 +1,244 @@
+#include "forms/Formulier.h"
+
+#include <algorithm>
+
+namespace lb77 {
+
+Formulier::Formulier(std::string_view naam, std::string_view titel) : naam_(naam), titel_(titel) {}
+
+Bediening* Formulier::Zoek(std::string_view naam) const {
+  for (Bediening* bediening : bedieningen_) {
+    if (bediening->Naam() == naam) return bediening;
+  }
+  return nullptr;
+}
+
+Bediening* Formulier::TerugKnop() const {
+  Bediening* knop = Zoek("BackButton");
+  return knop ? knop : Zoek("CancelButton");
+}
+
+bool Formulier::Laad() {
+  gesloten_ = verborgen_ = gewijzigd_ = bezig_ = stop_ = false;
+  focus_ = nullptr;
+  BijLaden();
+  return !gesloten_;
+}
+
+void Formulier::Activeer() {
+  BijActiveren();
+  if (gesloten_ || focus_ || !eersteVeld_ || !eersteVeld_->Bruikbaar()) return;
+  Betreed(*eersteVeld_);
+}
+
+// Input that arrives while a form repaints is dropped; what would leave becomes a stop request.
+bool Formulier::Verstoord(const Bediening* bediening) {
+  if (!verversing_) return false;
+  if (bediening && bediening == TerugKnop()) stop_ = true;
+  return true;
+}
+
+bool Formulier::LeaveOk(Bediening& bediening) {
+  if (!bediening.bijVerlaten_ || inControle_) return true;
+  inControle_ = true;
+  const bool ok = bediening.bijVerlaten_();
+  inControle_ = false;
+  return ok;
+}
+
+void Formulier::Betreed(Bediening& bediening) {
+  focus_ = &bediening;
+  if (bediening.bijBetreden_) bediening.bijBetreden_();
+}
+
+void Formulier::ZetFocus(Bediening& bediening) {
+  if (bediening.Bruikbaar() && bediening.KanFocus()) Betreed(bediening);
+}
+
+bool Formulier::VerlaatVeld() {
+  if (!focus_) return true;
+  Bediening* const oud = focus_;
+  if (!LeaveOk(*oud)) {
+    focus_ = oud;
+    return false;
+  }
+  if (focus_ == oud) focus_ = nullptr;  // the check itself may have moved on
+  return true;
+}
+
+bool Formulier::GaNaar(Bediening& bediening) {
+  if (Verstoord(&bediening) || !bediening.Bruikbaar() || !bediening.KanFocus()) return false;
+  if (focus_ == &bediening) return true;
+  if (!VerlaatVeld()) return false;
+  if (gesloten_ || focus_) return focus_ == &bediening;  // the form's own move wins
+  Betreed(bediening);
+  return true;
+}
+
+bool Formulier::Klik(Bediening& bediening) {
+  if (Verstoord(&bediening) || !bediening.Bruikbaar()) return false;
+  if (focus_ != &bediening && &bediening != TerugKnop() && !VerlaatVeld()) return false;
+  if (gesloten_) return true;
+  if (bediening.KanFocus()) focus_ = &bediening;
+  Schakel(bediening);
+  if (bediening.bijKlik_) bediening.bijKlik_();
+  return true;
+}
+
+void Formulier::Schakel(Bediening& bediening) {
+  if (bediening.Soort() == BedieningSoort::Vinkje) {
+    auto& vinkje = static_cast<Vinkje&>(bediening);
+    vinkje.Zet(!vinkje.Gekozen());
+  } else if (bediening.Soort() == BedieningSoort::Optie) {
+    static_cast<Optie&>(bediening).Zet(true);
+  } else {
+    return;
+  }
+  gewijzigd_ = true;
+  if (bediening.bijWijziging_) bediening.bijWijziging_();
+}
+
+bool Formulier::Dubbelklik(Bediening& bediening) {
+  if (Verstoord(&bediening) || !bediening.Bruikbaar()) return false;
+  if (focus_ != &bediening && !VerlaatVeld()) return false;
+  if (bediening.KanFocus()) focus_ = &bediening;
+  if (bediening.bijDubbelklik_) bediening.bijDubbelklik_();
+  return true;
+}
+
+bool Formulier::Kies(Lijst& lijst, int index) {
+  if (!GaNaar(lijst)) return false;
+  if (lijst.Index() == index) return true;
+  lijst.ZetIndex(index);
+  gewijzigd_ = true;
+  if (lijst.bijWijziging_) lijst.bijWijziging_();
+  return true;
+}
+
+void Formulier::Bewerkt(Invoerveld& veld, std::string_view tekst) {
+  if (verversing_ || veld.Tekst() == tekst) return;
+  veld.ZetTekst(tekst);
+  gewijzigd_ = true;
+  if (veld.bijWijziging_) veld.bijWijziging_();
+}
+
+void Formulier::Typ(Invoerveld& veld, char teken) {
+  const char getypt = veld.Gefilterd(teken);
+  if (!getypt) return;
+  if (veld.MaxLengte() && veld.Tekst().size() >= veld.MaxLengte()) return;
+  Bewerkt(veld, veld.Tekst() + getypt);
+}
+
+bool Formulier::Toets(Bediening* doel, ToetsGebeurtenis toets) {
+  if (verversing_) {
+    if (toets.code == toets::kEscape) stop_ = true;
+    return true;
+  }
+  if (doel && doel->bijToets_) doel->bijToets_(toets);
+  if (!toets.verwerkt) BijToets(toets);
+  return toets.verwerkt || gesloten_ || StandaardToets(doel, toets);
+}
+
+bool Formulier::StandaardToets(Bediening* doel, const ToetsGebeurtenis& toets) {
+  switch (toets.code) {
+    case toets::kEscape:
+      VraagSluiten();
+      return true;
+    case toets::kTab:
+      if (Bediening* buur = Buur(doel, toets.shift ? -1 : 1)) GaNaar(*buur);
+      return true;
+    case toets::kEnter:
+    case toets::kNumEnter:
+      return doel && EnterIn(*doel);
+    case toets::kSpatie:
+      if (!doel || (doel->Soort() != BedieningSoort::Knop &&
+                    doel->Soort() != BedieningSoort::Vinkje &&
+                    doel->Soort() != BedieningSoort::Optie)) {
+        return false;
+      }
+      Klik(*doel);
+      return true;
+    default:
+      break;
+  }
+  const bool lijst = doel && (doel->Soort() == BedieningSoort::Keuzevak ||
+                              doel->Soort() == BedieningSoort::Keuzelijst);
+  return lijst && KeuzeToets(static_cast<Lijst&>(*doel), toets.code);
+}
+
+bool Formulier::KeuzeToets(Lijst& lijst, int code) {
+  const int laatste = static_cast<int>(lijst.Rijen().size()) - 1;
+  int index = lijst.Index();
+  if (code == toets::kOmhoog) {
+    index = std::max(index - 1, 0);
+  } else if (code == toets::kOmlaag) {
+    index = std::min(index + 1, laatste);
+  } else if (code == toets::kHome) {
+    index = 0;
+  } else if (code == toets::kEnd) {
+    index = laatste;
+  } else {
+    return false;
+  }
+  Kies(lijst, index);
+  return true;
+}
+
+// Enter in a field does what the field's kind of Enter says; on anything pressable it presses.
+bool Formulier::EnterIn(Bediening& bediening) {
+  const auto* veld = dynamic_cast<const Invoerveld*>(&bediening);
+  if (!veld) {
+    if (bediening.Soort() == BedieningSoort::Knop) {
+      Klik(bediening);
+    } else if (Bediening* buur = Buur(&bediening, 1)) {
+      GaNaar(*buur);
+    }
+    return true;
+  }
+  if (bediening.Soort() == BedieningSoort::Tekstblok) return false;
+  switch (veld->Enter()) {
+    case EnterSoort::Controle:
+      if (!LeaveOk(bediening)) focus_ = &bediening;
+      break;
+    case EnterSoort::Door:
+      if (Bediening* buur = Buur(&bediening, 1)) GaNaar(*buur);
+      break;
+    case EnterSoort::OK:
+      if (Bediening* ok = Zoek("OKButton")) Klik(*ok);
+      break;
+  }
+  return true;
+}
+
+Bediening* Formulier::Buur(const Bediening* van, int stap) const {
+  const int aantal = static_cast<int>(bedieningen_.size());
+  int plaats = stap > 0 ? -1 : aantal;
+  for (int i = 0; i < aantal; ++i) {
+    if (bedieningen_[static_cast<std::size_t>(i)] == van) plaats = i;
+  }
+  for (int n = 0; n < aantal; ++n) {
+    plaats = (plaats + stap + aantal) % aantal;
+    Bediening* kandidaat = bedieningen_[static_cast<std::size_t>(plaats)];
+    if (kandidaat != van && kandidaat->Bruikbaar() && kandidaat->KanFocus()) return kandidaat;
+  }
+  return nullptr;
+}
+
+void Formulier::VraagSluiten() {
+  if (verversing_) {
+    stop_ = true;
+    return;
+  }
+  Terug();
+}
+
+void Formulier::Terug() {
+  Bediening* knop = TerugKnop();
+  if (!knop) {
+    if (MagSluiten()) Sluit();
+  } else if (knop->Bruikbaar() && knop->bijKlik_) {
+    knop->bijKlik_();
+  }
+}
+
+}  // namespace lb77

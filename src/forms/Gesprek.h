@@ -1,0 +1,87 @@
+// The one door to the user: boxes, modal forms, file questions, printing, repainting.
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lb77 {
+
+class Formulier;
+
+// The symbol of a message box: none, information, exclamation mark (warnings), question mark,
+// stop symbol (errors).
+enum class BerichtSoort { Geen, Info, Uitroep, Vraag, Stop };
+enum class Knoppen { OK, OKAnnuleren, JaNee, JaNeeAnnuleren };
+enum class Antwoord { OK, Annuleren, Ja, Nee };
+
+enum class BestandsWijze { Openen, Opslaan, Map };
+
+// A question for a file or a directory. `filter` is "naam|patroon|naam|patroon...".
+struct BestandsVraag {
+  BestandsWijze wijze = BestandsWijze::Openen;
+  std::string filter;
+  std::filesystem::path beginmap;
+};
+
+// Pages of fixed-pitch text for the printer, each a list of lines.
+struct Afdruk {
+  std::string titel;
+  std::vector<std::vector<std::string>> paginas;
+};
+
+// Two implementations: the window and the script player. A form cannot tell them apart.
+class Gesprek {
+ public:
+  Gesprek() = default;
+  virtual ~Gesprek() = default;
+  Gesprek(const Gesprek&) = delete;
+  Gesprek& operator=(const Gesprek&) = delete;
+
+  // Shows a message box and gives the button that was pressed. With a single button the answer is
+  // OK; closing the box counts as its Cancel or No.
+  virtual Antwoord Bericht(BerichtSoort soort, Knoppen knoppen, std::string_view tekst) = 0;
+
+  // An information box with OK that may carry a tick box `vinkje`; True when it was ticked. A
+  // script sees every box, so there the answer is False.
+  virtual bool BerichtMetVinkje(std::string_view tekst, std::string_view vinkje) = 0;
+
+  // The chosen path; empty when the user cancelled.
+  virtual std::optional<std::filesystem::path> VraagBestand(const BestandsVraag& vraag) = 0;
+
+  // Sends pages to the printer; False when the user cancelled or the printer failed.
+  virtual bool DrukAf(const Afdruk& afdruk) = 0;
+
+  // Repaints a form during long work; cheap enough to be called for every record. What the user
+  // does meanwhile is dropped, but for a stop request, which Formulier keeps.
+  virtual void Ververs(Formulier& formulier) = 0;
+
+  // The test for a stop request of a form that works.
+  [[nodiscard]] virtual bool StopGevraagd(Formulier& formulier) = 0;
+
+  // Runs the form's whole life: loaded, shown, activated, what the user does, closed. A form that
+  // closes while it loads is never shown. Returns when the form has closed.
+  void ToonModaal(Formulier& formulier);
+
+  // The usual boxes.
+  void Waarschuw(std::string_view tekst) { Meld(BerichtSoort::Uitroep, tekst); }
+  void Fout(std::string_view tekst) { Meld(BerichtSoort::Stop, tekst); }
+  void Informeer(std::string_view tekst) { Meld(BerichtSoort::Info, tekst); }
+  void Meld(BerichtSoort soort, std::string_view tekst) {
+    static_cast<void>(Bericht(soort, Knoppen::OK, tekst));
+  }
+  // Yes or No, with a question mark; True for Yes.
+  [[nodiscard]] bool Vraag(std::string_view tekst) {
+    return Bericht(BerichtSoort::Vraag, Knoppen::JaNee, tekst) == Antwoord::Ja;
+  }
+
+ protected:
+  // Puts the form on the screen, runs it until it has closed, and takes it away.
+  virtual void Open(Formulier& formulier) = 0;
+  virtual void Voer(Formulier& formulier) = 0;
+  virtual void Dicht(Formulier& formulier) = 0;
+};
+
+}  // namespace lb77

@@ -1,0 +1,31 @@
+#include "forms/Keuzen.h"
+
+#include "forms/Formulier.h"
+
+namespace lb77 {
+
+void Optie::Zet(bool gekozen) {
+  if (gekozen) {
+    for (Bediening* ander : formulier_.Bedieningen()) {
+      if (ander == this || ander->Soort() != BedieningSoort::Optie) continue;
+      auto& optie = static_cast<Optie&>(*ander);
+      if (optie.groep_ == groep_) optie.Schakelaar::Zet(false);
+    }
+  }
+  Schakelaar::Zet(gekozen);
+}
+
+void Lijst::ZetRijen(std::vector<std::string> rijen) {
+  rijen_ = std::move(rijen);
+  index_ = -1;
+}
+
+void Lijst::ZetIndex(int index) {
+  index_ = index >= 0 && index < static_cast<int>(rijen_.size()) ? index : -1;
+}
+
+std::string Lijst::Tekst() const {
+  return index_ < 0 ? std::string() : rijen_[static_cast<std::size_t>(index_)];
+}
+
+}  // namespace lb77

@@ -1,0 +1,69 @@
+// The controls that only show: label, counter, fixed-pitch page, status bar; and the menu entry.
+#pragma once
+
+#include <vector>
+
+#include "forms/Bediening.h"
+
+namespace lb77 {
+
+// A text on the form. With a handler of its own it can be clicked.
+class Label : public Bediening {
+ public:
+  Label(Formulier& formulier, std::string_view naam, std::string_view bijschrift = {})
+      : Bediening(formulier, BedieningSoort::Label, naam, bijschrift) {}
+};
+
+// A value that the program shows: a running count, a name found. Its caption stands before it.
+class Teller : public Bediening {
+ public:
+  Teller(Formulier& formulier, std::string_view naam, std::string_view bijschrift = {})
+      : Bediening(formulier, BedieningSoort::Teller, naam, bijschrift) {}
+  [[nodiscard]] const std::string& Tekst() const { return tekst_; }
+  void ZetTekst(std::string_view tekst) { tekst_ = tekst; }
+  [[nodiscard]] std::string Waarde() const override { return tekst_; }
+
+ private:
+  std::string tekst_;
+};
+
+// A page of fixed-pitch text, line by line.
+class Tekstpagina : public Bediening {
+ public:
+  Tekstpagina(Formulier& formulier, std::string_view naam)
+      : Bediening(formulier, BedieningSoort::Tekstpagina, naam, {}) {}
+  [[nodiscard]] const std::vector<std::string>& Regels() const { return regels_; }
+  void ZetRegels(std::vector<std::string> regels) { regels_ = std::move(regels); }
+  // The lines joined by line feeds.
+  [[nodiscard]] std::string Waarde() const override;
+
+ private:
+  std::vector<std::string> regels_;
+};
+
+class Statusbalk : public Bediening {
+ public:
+  Statusbalk(Formulier& formulier, std::string_view naam)
+      : Bediening(formulier, BedieningSoort::Statusbalk, naam, {}) {}
+  [[nodiscard]] const std::string& Tekst() const { return tekst_; }
+  void ZetTekst(std::string_view tekst) { tekst_ = tekst; }
+  [[nodiscard]] std::string Waarde() const override { return tekst_; }
+
+ private:
+  std::string tekst_;
+};
+
+// A menu or an entry of one. `menu` names the control of the menu that it stands in, empty for a
+// menu of the menu bar.
+class MenuKeuze : public Bediening {
+ public:
+  MenuKeuze(Formulier& formulier, std::string_view naam, std::string_view bijschrift,
+            std::string_view menu)
+      : Bediening(formulier, BedieningSoort::MenuKeuze, naam, bijschrift), menu_(menu) {}
+  [[nodiscard]] const std::string& Menu() const { return menu_; }
+
+ private:
+  std::string menu_;
+};
+
+}  // namespace lb77
