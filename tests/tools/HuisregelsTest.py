@@ -83,6 +83,10 @@ class Tekst(Regel):
         self.verwacht("src/app/X.cpp", 'auto f() { return "geëxporteerd"; }\n', 1, "_w")
         self.verwacht("src/app/X.cpp", "\nauto f() { return 'ë'; }\n", 2, "_w")
 
+    def test_een_tekst_in_stukken_heeft_een_w_voor_alle(self):
+        self.schoon("src/app/X.cpp", 'auto f() {\n  return "ë "\n         "é"\n         " "_w;\n}\n')
+        self.verwacht("src/app/X.cpp", 'auto f() {\n  return g("ë ", "é"_w);\n}\n', 2, "_w")
+
     def test_commentaar_en_voorkanten_mogen_unicode_hebben(self):
         self.schoon("src/app/X.cpp", "// De ë van geëxporteerd.\n")
         self.schoon("src/qt/X.cpp", 'auto f() { return "geëxporteerd"; }\n')
