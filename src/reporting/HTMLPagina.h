@@ -1,0 +1,41 @@
+// What all reports write around their text: the HTML head, the closing lines.
+#pragma once
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace lb77 {
+
+class TekstSchrijver;
+
+// The texts around a report; an empty one is left out.
+struct PaginaTeksten {
+  std::string titel;
+  std::array<std::string, 3> inleiding;
+  std::string copyrightRegel;
+  std::string programmaRegel;
+  std::string email;
+  std::string emailTekst;
+  std::string homePage;
+  std::string homePageTekst;  // the text of the link
+  std::string homePageLabel;  // the text before the link
+  std::string hskHome;
+  std::string hskHomeTekst;
+};
+
+// A text in double quotes, as an attribute of a tag wants it.
+[[nodiscard]] std::string TussenQuotes(std::string_view tekst);
+// <A NAME="naam"></A>
+[[nodiscard]] std::string Anker(std::string_view naam);
+// <A HREF="#naam">tekst</A>
+[[nodiscard]] std::string Verwijzing(std::string_view naam, std::string_view tekst);
+
+// The head of a page; `kop` is what the browser's title says before the names ("Kwartierstaat").
+void SchrijfHTMLKop(TekstSchrijver& uit, const PaginaTeksten& teksten, std::string_view kop,
+                    std::string_view voornaam, std::string_view achternaam);
+
+// The closing lines of a report, in HTML or in text, and the empty line behind them.
+void SchrijfSlot(TekstSchrijver& uit, const PaginaTeksten& teksten, bool inHTML);
+
+}  // namespace lb77
