@@ -27,18 +27,29 @@ bool Formulier::Laad() {
 
 void Formulier::Activeer() {
   BijActiveren();
-  if (gesloten_ || focus_ || !eersteVeld_ || !eersteVeld_->Bruikbaar()) return;
+  if (gesloten_ || focus_ || !eersteVeld_ || !Bereikbaar(*eersteVeld_)) return;
   Betreed(*eersteVeld_);
 }
 
-// Input that arrives while a form repaints is dropped; what would leave becomes a stop request.
-bool Formulier::Verstoord(const Bediening* bediening) {
-  if (!verversing_) return false;
-  if (bediening && bediening == TerugKnop()) stop_ = true;
-  return true;
+void Formulier::Beeindig() {
+  BijGesloten();
 }
 
-bool Formulier::LeaveOk(Bediening& bediening) {
+bool Formulier::IsTerug(const Bediening& bediening) {
+  return bediening.Naam() == "BackButton" || bediening.Naam() == "CancelButton";
+}
+
+bool Formulier::Bereikbaar(const Bediening& bediening) {
+  return bediening.Bruikbaar() && bediening.KanFocus();
+}
+
+// Input that arrives while a form repaints is dropped; what would leave becomes a stop request.
+bool Formulier::Verstoord(const Bediening& bediening) {
+  if (verversing_ && IsTerug(bediening)) stop_ = true;
+  return verversing_;
+}
+
+bool Formulier::Controleer(Bediening& bediening) {
   if (!bediening.bijVerlaten_ || inControle_) return true;
   inControle_ = true;
   const bool ok = bediening.bijVerlaten_();
@@ -52,13 +63,15 @@ void Formulier::Betreed(Bediening& bediening) {
 }
 
 void Formulier::ZetFocus(Bediening& bediening) {
-  if (bediening.Bruikbaar() && bediening.KanFocus()) Betreed(bediening);
+  if (Bereikbaar(bediening)) Betreed(bediening);
 }
 
 bool Formulier::VerlaatVeld() {
-  if (!focus_) return true;
   Bediening* const oud = focus_;
-  if (!LeaveOk(*oud)) {
+  if (!oud) return true;
+  if (verversing_ || inControle_) return false;
+  // A field that went out of reach is not checked: the user could not come back to mend it.
+  if (oud->Bruikbaar() && !Controleer(*oud)) {
     focus_ = oud;
     return false;
   }
@@ -67,21 +80,36 @@ bool Formulier::VerlaatVeld() {
 }
 
 bool Formulier::GaNaar(Bediening& bediening) {
-  if (Verstoord(&bediening) || !bediening.Bruikbaar() || !bediening.KanFocus()) return false;
+  if (Verstoord(bediening) || !Bereikbaar(bediening)) return false;
   if (focus_ == &bediening) return true;
-  if (!VerlaatVeld()) return false;
-  if (gesloten_ || focus_) return focus_ == &bediening;  // the form's own move wins
+  if (!VerlaatVeld() || gesloten_) return false;
+  if (focus_) return focus_ == &bediening;  // the form's own move wins
+  if (!Bereikbaar(bediening)) return false;
   Betreed(bediening);
   return true;
 }
 
+// What a click does before anything happens: it leaves the field. Menus take no focus; the button
+// that leads back leaves the focus where it is, so that the check still comes if the form stays.
+bool Formulier::Pak(Bediening& bediening) {
+  if (Verstoord(bediening) || !bediening.Bruikbaar()) return false;
+  if (IsTerug(bediening) || bediening.Soort() == BedieningSoort::MenuKeuze) return true;
+  if (focus_ == &bediening) return true;
+  if (!VerlaatVeld() || gesloten_ || !bediening.Bruikbaar()) return false;
+  if (bediening.KanFocus()) Betreed(bediening);
+  return !gesloten_;
+}
+
 bool Formulier::Klik(Bediening& bediening) {
-  if (Verstoord(&bediening) || !bediening.Bruikbaar()) return false;
-  if (focus_ != &bediening && &bediening != TerugKnop() && !VerlaatVeld()) return false;
-  if (gesloten_) return true;
-  if (bediening.KanFocus()) focus_ = &bediening;
+  if (!Pak(bediening)) return false;
   Schakel(bediening);
-  if (bediening.bijKlik_) bediening.bijKlik_();
+  if (!gesloten_ && bediening.bijKlik_) bediening.bijKlik_();
+  return true;
+}
+
+bool Formulier::Dubbelklik(Bediening& bediening) {
+  if (!Pak(bediening)) return false;
+  if (bediening.bijDubbelklik_) bediening.bijDubbelklik_();
   return true;
 }
 
@@ -90,36 +118,34 @@ void Formulier::Schakel(Bediening& bediening) {
     auto& vinkje = static_cast<Vinkje&>(bediening);
     vinkje.Zet(!vinkje.Gekozen());
   } else if (bediening.Soort() == BedieningSoort::Optie) {
-    static_cast<Optie&>(bediening).Zet(true);
+    auto& optie = static_cast<Optie&>(bediening);
+    if (optie.Gekozen()) return;
+    optie.Zet(true);
   } else {
     return;
   }
+  MeldWijziging(bediening);
+}
+
+void Formulier::MeldWijziging(Bediening& bediening) {
   gewijzigd_ = true;
   if (bediening.bijWijziging_) bediening.bijWijziging_();
 }
 
-bool Formulier::Dubbelklik(Bediening& bediening) {
-  if (Verstoord(&bediening) || !bediening.Bruikbaar()) return false;
-  if (focus_ != &bediening && !VerlaatVeld()) return false;
-  if (bediening.KanFocus()) focus_ = &bediening;
-  if (bediening.bijDubbelklik_) bediening.bijDubbelklik_();
-  return true;
-}
-
 bool Formulier::Kies(Lijst& lijst, int index) {
-  if (!GaNaar(lijst)) return false;
-  if (lijst.Index() == index) return true;
+  if (!GaNaar(lijst) || gesloten_) return false;
+  const int oud = lijst.Index();
   lijst.ZetIndex(index);
-  gewijzigd_ = true;
-  if (lijst.bijWijziging_) lijst.bijWijziging_();
+  if (lijst.Index() != oud) MeldWijziging(lijst);
   return true;
 }
 
 void Formulier::Bewerkt(Invoerveld& veld, std::string_view tekst) {
   if (verversing_ || veld.Tekst() == tekst) return;
+  // The toolkit's focus may rest here after a click that took none: the field is to be left again.
+  if (!focus_) focus_ = &veld;
   veld.ZetTekst(tekst);
-  gewijzigd_ = true;
-  if (veld.bijWijziging_) veld.bijWijziging_();
+  MeldWijziging(veld);
 }
 
 void Formulier::Typ(Invoerveld& veld, char teken) {
@@ -135,7 +161,7 @@ bool Formulier::Toets(Bediening* doel, ToetsGebeurtenis toets) {
     return true;
   }
   if (doel && doel->bijToets_) doel->bijToets_(toets);
-  if (!toets.verwerkt) BijToets(toets);
+  if (!toets.verwerkt && !gesloten_) BijToets(toets);
   return toets.verwerkt || gesloten_ || StandaardToets(doel, toets);
 }
 
@@ -151,24 +177,27 @@ bool Formulier::StandaardToets(Bediening* doel, const ToetsGebeurtenis& toets) {
     case toets::kNumEnter:
       return doel && EnterIn(*doel);
     case toets::kSpatie:
-      if (!doel || (doel->Soort() != BedieningSoort::Knop &&
-                    doel->Soort() != BedieningSoort::Vinkje &&
-                    doel->Soort() != BedieningSoort::Optie)) {
-        return false;
-      }
-      Klik(*doel);
-      return true;
+      return doel && SpatieIn(*doel);
     default:
-      break;
+      return doel && KeuzeToets(*doel, toets.code);
   }
-  const bool lijst = doel && (doel->Soort() == BedieningSoort::Keuzevak ||
-                              doel->Soort() == BedieningSoort::Keuzelijst);
-  return lijst && KeuzeToets(static_cast<Lijst&>(*doel), toets.code);
 }
 
-bool Formulier::KeuzeToets(Lijst& lijst, int code) {
-  const int laatste = static_cast<int>(lijst.Rijen().size()) - 1;
-  int index = lijst.Index();
+// The blank presses what can be pressed; in a field it is a character.
+bool Formulier::SpatieIn(Bediening& bediening) {
+  const BedieningSoort soort = bediening.Soort();
+  const bool drukbaar = soort == BedieningSoort::Knop || soort == BedieningSoort::Vinkje ||
+                        soort == BedieningSoort::Optie;
+  if (drukbaar) Klik(bediening);
+  return drukbaar;
+}
+
+// The arrows and their like choose in a list.
+bool Formulier::KeuzeToets(Bediening& bediening, int code) {
+  auto* const lijst = dynamic_cast<Lijst*>(&bediening);
+  if (!lijst) return false;
+  const int laatste = static_cast<int>(lijst->Rijen().size()) - 1;
+  int index = lijst->Index();
   if (code == toets::kOmhoog) {
     index = std::max(index - 1, 0);
   } else if (code == toets::kOmlaag) {
@@ -180,7 +209,7 @@ bool Formulier::KeuzeToets(Lijst& lijst, int code) {
   } else {
     return false;
   }
-  Kies(lijst, index);
+  Kies(*lijst, index);
   return true;
 }
 
@@ -198,7 +227,7 @@ bool Formulier::EnterIn(Bediening& bediening) {
   if (bediening.Soort() == BedieningSoort::Tekstblok) return false;
   switch (veld->Enter()) {
     case EnterSoort::Controle:
-      if (!LeaveOk(bediening)) focus_ = &bediening;
+      if (!Controleer(bediening)) focus_ = &bediening;
       break;
     case EnterSoort::Door:
       if (Bediening* buur = Buur(&bediening, 1)) GaNaar(*buur);

@@ -20,7 +20,8 @@ namespace lb77 {
 // Focus: at most one control has it. Leaving a control by the user runs its leave check; when that
 // fails the focus stays and whatever caused the leaving is swallowed. BackButton, CancelButton,
 // Escape and the frame run no leave check. Moving the focus from code runs no leave check, and the
-// entered event of the new control.
+// entered event of the new control. A control that is hidden or disabled meanwhile is left unchecked.
+// What arrives while a leave check runs (its own boxes move a toolkit's focus) is swallowed.
 class Formulier {
  public:
   Formulier(std::string_view naam, std::string_view titel);
@@ -61,6 +62,8 @@ class Formulier {
   // False when the form closed itself while loading.
   [[nodiscard]] bool Laad();
   void Activeer();
+  // Behind the last event, when the form has left the screen.
+  void Beeindig();
 
   // What the user does. A True result means that it went through; False that it was swallowed.
   bool GaNaar(Bediening& bediening);
@@ -70,7 +73,8 @@ class Formulier {
   bool Dubbelklik(Bediening& bediening);
   // Chooses the item of that index, -1 for none.
   bool Kies(Lijst& lijst, int index);
-  // The field's text as the user's editing left it.
+  // The field's text as the user's editing left it (no filter, no maximum: the toolkit's own editing
+  // has seen to those).
   void Bewerkt(Invoerveld& veld, std::string_view tekst);
   // Types one character at the end of the field: its filter and its maximum length apply.
   void Typ(Invoerveld& veld, char teken);
@@ -96,6 +100,7 @@ class Formulier {
   virtual void BijLaden() {}
   virtual void BijActiveren() {}
   virtual void BijToets(ToetsGebeurtenis&) {}
+  virtual void BijGesloten() {}
   // The frame's close when there is no BackButton or CancelButton; False refuses.
   [[nodiscard]] virtual bool MagSluiten() { return true; }
 
@@ -109,15 +114,22 @@ class Formulier {
   void WisStop() { stop_ = false; }
   // Runs what BackButton or CancelButton does, without a leave check.
   void Terug();
+  // Runs the control's leave check without leaving it. True when it holds, when there is none, and
+  // inside a check.
+  [[nodiscard]] bool Controleer(Bediening& bediening);
 
  private:
-  [[nodiscard]] bool Verstoord(const Bediening* bediening);
-  [[nodiscard]] bool LeaveOk(Bediening& bediening);
+  [[nodiscard]] static bool IsTerug(const Bediening& bediening);
+  [[nodiscard]] static bool Bereikbaar(const Bediening& bediening);
+  [[nodiscard]] bool Verstoord(const Bediening& bediening);
+  [[nodiscard]] bool Pak(Bediening& bediening);
   void Betreed(Bediening& bediening);
   void Schakel(Bediening& bediening);
+  void MeldWijziging(Bediening& bediening);
   [[nodiscard]] bool EnterIn(Bediening& bediening);
+  [[nodiscard]] bool SpatieIn(Bediening& bediening);
+  [[nodiscard]] bool KeuzeToets(Bediening& bediening, int code);
   [[nodiscard]] bool StandaardToets(Bediening* doel, const ToetsGebeurtenis& toets);
-  [[nodiscard]] bool KeuzeToets(Lijst& lijst, int code);
 
   std::string naam_;
   std::string titel_;

@@ -10,6 +10,7 @@ void Gesprek::ToonModaal(Formulier& formulier) {
   formulier.Activeer();
   if (!formulier.Gesloten()) Voer(formulier);
   Dicht(formulier);
+  formulier.Beeindig();
 }
 
 }  // namespace lb77

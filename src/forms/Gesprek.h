@@ -62,7 +62,8 @@ class Gesprek {
   [[nodiscard]] virtual bool StopGevraagd(Formulier& formulier) = 0;
 
   // Runs the form's whole life: loaded, shown, activated, what the user does, closed. A form that
-  // closes while it loads is never shown. Returns when the form has closed.
+  // closes while it loads is never shown, and has no closed event. Returns when the form has closed;
+  // one that is hidden when its handler is done counts as closed, as nobody could reach it.
   void ToonModaal(Formulier& formulier);
 
   // The usual boxes.

@@ -29,7 +29,9 @@ class Rij {
   }
 
   // Precondition: `nummer` lies in Eerste() to Laatste().
-  [[nodiscard]] T& operator()(int nummer) { return rij_.at(static_cast<std::size_t>(nummer - eerste_)); }
+  [[nodiscard]] T& operator()(int nummer) {
+    return rij_.at(static_cast<std::size_t>(nummer - eerste_));
+  }
   [[nodiscard]] const T& operator()(int nummer) const {
     return rij_.at(static_cast<std::size_t>(nummer - eerste_));
   }

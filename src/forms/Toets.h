@@ -1,6 +1,8 @@
 // Key presses as the forms see them, whatever the toolkit calls them.
 #pragma once
 
+#include "text/Tekens.h"
+
 namespace lb77 {
 
 // Virtual key codes; the values are those of the platform's virtual keys that the older data-entry
@@ -40,5 +42,16 @@ struct ToetsGebeurtenis {
   char teken = 0;
   bool verwerkt = false;
 };
+
+// The key that types `teken`. Letters and digits have the code of their capital; a line feed is the
+// Enter key; every other character has code 0, as its own byte would be the code of another key.
+[[nodiscard]] constexpr ToetsGebeurtenis ToetsVanTeken(char teken) {
+  const char groot = Hoofdletter(teken);
+  const bool letter = groot >= 'A' && groot <= 'Z';
+  if (letter) return {.code = groot, .shift = teken == groot, .teken = teken};
+  if (teken == '\n') return {.code = toets::kEnter, .teken = teken};
+  const bool eigen = IsCijfer(teken) || teken == ' ';
+  return {.code = eigen ? teken : 0, .teken = teken};
+}
 
 }  // namespace lb77

@@ -5,13 +5,17 @@
 
 namespace lb77 {
 
-char AlleenCijfers(char teken) { return IsCijfer(teken) ? teken : '\0'; }
+char AlleenCijfers(char teken) {
+  return IsCijfer(teken) ? teken : '\0';
+}
 
-char InHoofdletters(char teken) { return Hoofdletter(teken); }
+char InHoofdletters(char teken) {
+  return Hoofdletter(teken);
+}
 
 std::filesystem::path Padvak::Pad() const {
   const std::string_view tekst = Trim(Tekst());
-  return tekst == getoond_ ? pad_ : PadVan(tekst);
+  return tekst == Trim(getoond_) ? pad_ : PadVan(tekst);
 }
 
 void Padvak::ZetPad(const std::filesystem::path& pad) {
