@@ -62,7 +62,7 @@ std::string NaamSorteer(std::string_view naam, const Voorvoegsels& voorvoegsels)
   const std::string achter = ", " + KleineLetters(eerst.eerste);
   if (!HeeftBlank(eerst.rest)) return std::string(eerst.rest) + achter;
   const Woorden tweede = SplitsEersteWoord(eerst.rest);
-  const std::string sorteer = std::string(tweede.rest) + achter;
+  std::string sorteer = std::string(tweede.rest) + achter;
   // kept: a second word that is no prefix drops out; nothing but the sort form relies on it.
   if (!StaatIn(voorvoegsels.Voor2, tweede.eerste)) return sorteer;
   return sorteer + " " + KleineLetters(tweede.eerste);

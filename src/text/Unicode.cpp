@@ -37,7 +37,8 @@ constexpr std::array kSamenvoegingen = {
 }
 
 // `vervanging` stands in for what cannot be written; without it that ends the conversion.
-std::optional<std::string> ZetOm(std::string_view utf8, std::optional<std::string> vervanging) {
+std::optional<std::string> ZetOm(std::string_view utf8,
+                                 const std::optional<std::string>& vervanging) {
   std::string uit;
   for (std::size_t i = 0; i < utf8.size();) {
     const Utf8Teken gelezen = LeesUtf8(utf8, i);
