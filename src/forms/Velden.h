@@ -86,8 +86,4 @@ class Padvak : public Invoerveld {
   std::string getoond_;  // the text that stands for pad_
 };
 
-// A path as display text, and display text as a path.
-[[nodiscard]] std::string PadTekst(const std::filesystem::path& pad);
-[[nodiscard]] std::filesystem::path PadVan(std::string_view tekst);
-
 }  // namespace lb77
