@@ -1,0 +1,144 @@
+// The frame that the four record classes share: one buffer, its file, its trackers, its messages.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "store/Bestandenset.h"
+#include "store/Opslag.h"
+#include "store/RecordBestand.h"
+#include "store/SysteemFout.h"
+#include "store/Veld.h"
+#include "store/Volgers.h"
+
+namespace lb77 {
+
+/// How one record class differs from the others, as data.
+struct RaamTabel {
+  BestandSoort soort;
+  std::span<const Veld> velden;
+  std::span<const char> leeg;      ///< an empty record, of the record's length
+  std::size_t sonde;               ///< offset of the field that tells whether a record is there
+  std::string_view schildwacht;    ///< what it holds before a read
+  std::size_t telling;             ///< offset of the count in record 1
+  std::int16_t Volgers::*bufNr;    ///< the tracker of the buffer
+  std::int16_t geenNr;             ///< its value when nothing valid lies in the buffer
+  std::string_view recordNaam;     ///< "Persoonsrecord", in "... lezen van Persoonsrecord 12"
+  std::string_view schrijfNaam;    ///< the same in the message of a write
+  std::string_view leesAdminFout;  ///< message of a record 1 that can't be read
+  std::string_view schrijfAdminFout;
+  std::string_view aantalFout;  ///< warning of a wrong count; empty when there is none
+};
+
+/// Holds one record. Reading replaces it; every write reaches the file at once. A failure is shown
+/// to the user here and returns False. A read that fails leaves the buffer empty.
+class RecordRaam {
+ public:
+  RecordRaam(const RecordRaam&) = delete;
+  RecordRaam& operator=(const RecordRaam&) = delete;
+
+  /// Reads record 1 into the buffer. A record 1 that is absent or no admin record is a failure
+  /// with its message.
+  [[nodiscard]] bool LeesAdmin();
+
+  /// Writes the buffer to record 1.
+  [[nodiscard]] bool SchrijfAdmin();
+
+  /// The count that record 1 states; 0 when it can't be read. The buffer then holds record 1.
+  std::int16_t AantalInAdmin();
+
+  /// The highest record number, found downward from the count of record 1; warns when they differ.
+  /// An empty set gives 1; a file without a record 1 gives 0, one of places 1. The buffer then
+  /// holds that record.
+  std::int16_t AantalRecords();
+
+  /// The highest number reached by reading upward from 2 until a read fails. The buffer is empty
+  /// after it.
+  std::int16_t MaxRecordNr();
+
+  /// Stores one field of the buffer from text. A name that the class doesn't know shows a warning,
+  /// a number that doesn't fit in 16 bits an error; both change nothing.
+  void Zet(std::string_view veld, std::string_view waarde);
+
+  /// Stores the count in the buffer, which must hold record 1.
+  void ZetAantal(std::int16_t aantal);
+
+  /// The bytes of the buffer, for tests and dumps.
+  std::span<const char> Bytes() const { return {buffer_.data(), tabel_.leeg.size()}; }
+
+ protected:
+  RecordRaam(const Opslag& opslag, const RaamTabel& tabel);
+  ~RecordRaam() = default;
+
+  enum class Soort { Gewoon, Admin };
+
+  /// Reads a record into the buffer. Absent records fail silently.
+  [[nodiscard]] bool LeesRecord(std::int32_t nr);
+  /// Writes the buffer and makes it the buffer's record; without a message.
+  [[nodiscard]] SysteemFout SchrijfStil(std::int32_t nr);
+  /// The same, with the message of a failed write.
+  [[nodiscard]] bool SchrijfRecord(std::int32_t nr);
+  /// Writes an empty record at `nr`, raises the count in record 1 and reads `nr` back. A record
+  /// that is in use is never overwritten: that fails with a message.
+  [[nodiscard]] bool NieuwRecord(std::int32_t nr);
+  /// Writes an empty record at `nr`; the first step of NieuwRecord.
+  [[nodiscard]] bool SchrijfLeeg(std::int32_t nr);
+  /// Raises the count of the admin record in the buffer; shows the message when it is full.
+  [[nodiscard]] bool VerhoogAantal();
+  /// Reads record 1 without a message; an error of the system is in the result.
+  struct AdminUitslag {
+    bool gelukt = false;
+    SysteemFout fout;
+  };
+  AdminUitslag LeesAdminStil();
+  /// Empties the buffer and its tracker.
+  void Leeg();
+
+  /// Shows a message as an error; the system's text, if any, goes behind a line break.
+  void MeldFout(std::string_view tekst, const SysteemFout& fout = {}) const;
+
+  std::string Tekst(const Veld& veld) const;
+  /// The stored bytes of a text without surrounding blanks.
+  std::string_view Kaal(const Veld& veld) const;
+  std::int16_t Getal(const Veld& veld) const { return GetalOp(buffer_, veld.plaats); }
+  char Teken(const Veld& veld) const { return buffer_[veld.plaats]; }
+  void ZetGetal(const Veld& veld, std::int16_t getal) { ZetGetalOp(buffer_, veld.plaats, getal); }
+  void ZetTekstIn(const Veld& veld, std::string_view windows);
+  void ZetBytesIn(const Veld& veld, std::string_view bytes) { ZetBytes(Buffer(), veld, bytes); }
+
+  std::span<char> Buffer() { return {buffer_.data(), tabel_.leeg.size()}; }
+  RecordBestand& Bestand() const { return opslag_.bestanden.Bestand(tabel_.soort); }
+  Volgers& Trackers() const { return opslag_.volgers; }
+  Gesprek& Door() const { return opslag_.gesprek; }
+  const Opslag& DeOpslag() const { return opslag_; }
+
+ private:
+  /// True when the buffer, fully read, is a part of the file that was never written.
+  virtual bool IsGat(Soort soort) const = 0;
+  /// True when the stored text of the probe may equal its sentinel.
+  virtual bool MagSchildwachtZijn(Soort) const { return false; }
+  /// Puts the probe right after a read that was accepted.
+  virtual void HerstelSonde(Soort) {}
+
+  AdminUitslag LeesRuw(std::int32_t nr, Soort soort);
+  [[nodiscard]] bool IsAanwezig(std::size_t gelezen, Soort soort) const;
+  [[nodiscard]] bool MagNieuw(std::int32_t nr);
+  std::int32_t ZoekHoogste(std::int32_t vanaf);
+  void Verwerk(const Veld& veld, std::string_view waarde);
+
+  static constexpr std::size_t kGrootste = 128;
+
+  Opslag opslag_;
+  const RaamTabel& tabel_;
+  std::array<char, kGrootste> buffer_{};
+  std::uint64_t scanStand_ = 0;
+  std::int32_t scanVanaf_ = -1;
+  std::int32_t scanHoogste_ = 0;
+};
+
+}  // namespace lb77

@@ -1,0 +1,38 @@
+// A record file on the disk.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <span>
+
+#include "store/Platform.h"
+#include "store/RecordBestand.h"
+#include "store/SysteemFout.h"
+
+namespace lb77 {
+
+class SchijfBestand final : public RecordBestand {
+ public:
+  explicit SchijfBestand(std::size_t recordLengte) : recordLengte_(recordLengte) {}
+
+  /// Opens for reading and writing; an absent file is created empty.
+  [[nodiscard]] SysteemFout Open(const std::filesystem::path& pad);
+
+  [[nodiscard]] Leesuitslag Lees(std::int32_t nr, std::span<char> doel) override;
+  [[nodiscard]] SysteemFout Schrijf(std::int32_t nr, std::span<const char> bron) override;
+  std::uint64_t Lengte() override { return greep_.Lengte(); }
+  [[nodiscard]] SysteemFout Veiligstellen() override;
+  std::uint64_t Wijzigingen() const override { return wijzigingen_; }
+  std::size_t RecordLengte() const override { return recordLengte_; }
+
+ private:
+  std::uint64_t Plaats(std::int32_t nr) const;
+
+  Bestandsgreep greep_;
+  std::size_t recordLengte_;
+  std::uint64_t wijzigingen_ = 0;
+  std::uint64_t veilig_ = 0;
+};
+
+}  // namespace lb77
