@@ -213,7 +213,7 @@ constexpr std::array kMerken = {
     MerkGeval{"\360\367", ".......Ç.......ç"_w},
 };
 
-TEST(AnselNaarWindowsTest, VoegtElkMerkMetElkeLetterSamenWaarDieBestaat) {
+TEST(AnselNaarWindowsTest, VoegtElkMerkSamenMetDeLettersDieHetDragen) {
   for (const MerkGeval& geval : kMerken) {
     for (const char merk : geval.merken) {
       for (std::size_t i = 0; i < kKaal.size(); ++i) {

@@ -57,7 +57,7 @@ TEST(DosNaarWindowsTest, LaatBytesOnder128DoorOpDrieNa) {
   EXPECT_EQ(DosNaarWindows("^|~"), "\x88\xA6\x98");
 }
 
-TEST(DosNaarWindowsTest, LaatGulden158EnRangtelwoorden166En167OngewijzigdDoor) {
+TEST(DosNaarWindowsTest, LaatByte158En166En167OngewijzigdDoor) {
   EXPECT_EQ(DosNaarWindows("\x9E\xA6\xA7"), "\x9E\xA6\xA7");
 }
 
