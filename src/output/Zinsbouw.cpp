@@ -1,0 +1,292 @@
+#include "output/Zinsbouw.h"
+
+#include "output/DatumZin.h"
+#include "output/HuwVorm.h"
+#include "text/Getallen.h"
+#include "text/Gezindte.h"
+
+namespace lb77 {
+
+struct Zinsbouw::Gebeurtenis {
+  std::int16_t plaatsNr = 0;
+  std::int16_t dagMaand = 0;
+  std::int16_t jaar = 0;
+
+  [[nodiscard]] bool DatumBekend() const { return dagMaand != 0 || jaar != 0; }
+  [[nodiscard]] bool Bekend() const { return plaatsNr != 0 || DatumBekend(); }
+};
+
+// The rubrics of one event; 0 where no remark can follow.
+struct Zinsbouw::Rubrieken {
+  int label = 0;
+  int plaats = 0;
+  int datum = 0;
+
+  [[nodiscard]] int Alle() const { return label | plaats | datum; }
+};
+
+// Birth with baptism, or death with burial.
+struct Zinsbouw::Levenspaar {
+  std::string label1;
+  std::string label2;
+  std::string label2InPaar;  // in the phrase of both
+  std::string corr;
+  Gebeurtenis een;
+  Gebeurtenis twee;
+  Rubrieken rubrieken1;
+  Rubrieken rubrieken2;
+  int uiteenBij = 0;  // the remarks that part the two
+};
+
+struct Zinsbouw::Huwelijk {
+  Gebeurtenis ondertrouw;
+  Gebeurtenis wettig;
+  Gebeurtenis kerk;
+  std::string label1;
+  std::string label2;
+  std::string corr;
+  std::string voorvoegsel;
+  unsigned bekend = 0;
+};
+
+namespace {
+
+constexpr std::string_view kOndertrouwLabel = "ondertr.";
+constexpr int kRubriekBeroep = 2048;
+constexpr int kRubriekHeleRelatie = -256;
+
+std::string MetKomma(std::string_view tekst, std::string_view erachter = {}) {
+  return std::string(", ").append(tekst).append(erachter);
+}
+
+std::string BondLabel(const RelatieLB77& relatie) {
+  const std::string soort = relatie.HuwSwPs();
+  if (soort.empty()) return "tr.";
+  return soort == "S" ? "samenwonend" : "partnerschap";
+}
+
+}  // namespace
+
+std::string Zinsbouw::Datum(const Gebeurtenis& gebeurtenis, std::string_view corr) const {
+  return KaleDatum(gebeurtenis.dagMaand, gebeurtenis.jaar, corr,
+                   bronnen_.schrijfwijze.DatumScheider);
+}
+
+void Zinsbouw::PlaatsVan(const Gebeurtenis& gebeurtenis, int rubriek) {
+  if (gebeurtenis.plaatsNr != 0) uit_.Los(bronnen_.plaats.Naam2(gebeurtenis.plaatsNr));
+  uit_.Rubriek(rubriek);
+}
+
+void Zinsbouw::DatumVan(const Gebeurtenis& gebeurtenis, std::string_view corr, int rubriek) {
+  if (gebeurtenis.DatumBekend()) uit_.Los(Datum(gebeurtenis, corr));
+  uit_.Rubriek(rubriek);
+}
+
+void Zinsbouw::Alleen(std::string_view label, const Gebeurtenis& gebeurtenis, std::string_view corr,
+                      const Rubrieken& rubrieken) {
+  uit_.Aan(MetKomma(label));
+  uit_.Rubriek(rubrieken.label);
+  PlaatsVan(gebeurtenis, rubrieken.plaats);
+  DatumVan(gebeurtenis, corr, rubrieken.datum);
+}
+
+// Two dates that are the bounds of one span.
+void Zinsbouw::Tussen(std::string_view label, const Gebeurtenis& begin,
+                      const Rubrieken& rubriekenBegin, const Gebeurtenis& einde,
+                      const Rubrieken& rubriekenEinde) {
+  uit_.Aan(MetKomma(label));
+  uit_.Rubriek(rubriekenBegin.label);
+  PlaatsVan(begin, rubriekenBegin.plaats);
+  uit_.Los("tussen");
+  DatumVan(begin, {}, rubriekenBegin.datum);
+  uit_.Los("en");
+  PlaatsVan(einde, rubriekenEinde.plaats);
+  DatumVan(einde, {}, rubriekenEinde.datum);
+}
+
+void Zinsbouw::Leven(int opmCode) {
+  GeboorteEnDoop(opmCode);
+  const std::string beroep = bronnen_.persoon.beroep();
+  if (!beroep.empty()) uit_.Aan(MetKomma(beroep));
+  uit_.Rubriek(kRubriekBeroep);
+  OverlijdenEnBegraven(opmCode);
+}
+
+void Zinsbouw::GeboorteEnDoop(int opmCode) {
+  const PersoonLB77& persoon = bronnen_.persoon;
+  const std::string gedoopt =
+      "ged." + GezindteNaam(persoon.Religie(), bronnen_.schrijfwijze.gezindten);
+  Levenspaar paar;
+  paar.label1 = "geb.";
+  paar.label2 = paar.label2InPaar = gedoopt;
+  paar.corr = persoon.GebCorr();
+  paar.een = {persoon.GebPlaatsNr(), persoon.GebDagMaand(), persoon.GebJaar()};
+  paar.twee = {persoon.DoopPlaatsNr(), persoon.DoopDagMaand(), persoon.DoopJaar()};
+  paar.rubrieken1 = {0, 4, 8};
+  paar.rubrieken2 = {64, 16, 32};
+  paar.uiteenBij = 4 | 8 | 16 | 32;  // kept: a remark on the denomination parts nothing
+  Paar(paar, opmCode);
+}
+
+void Zinsbouw::OverlijdenEnBegraven(int opmCode) {
+  const PersoonLB77& persoon = bronnen_.persoon;
+  Levenspaar paar;
+  paar.label1 = "overl.";
+  paar.label2 = persoon.BegrCrem() ? "crematie" : "begr.";
+  paar.label2InPaar = "begr.";  // kept: also for a cremation
+  paar.corr = persoon.OvlCorr();
+  paar.een = {persoon.OvlPlaatsNr(), persoon.OvDagMaand(), persoon.OvJaar()};
+  paar.twee = {persoon.BegrPlaatsNr(), persoon.BegrDagMaand(), persoon.BegrJaar()};
+  paar.rubrieken1 = {0, 128, 256};
+  paar.rubrieken2 = {0, 512, 1024};
+  paar.uiteenBij = 128 | 256 | 512 | 1024;
+  Paar(paar, opmCode);
+}
+
+void Zinsbouw::Paar(const Levenspaar& paar, int opmCode) {
+  if ((opmCode & paar.uiteenBij) != 0) {
+    PaarUiteen(paar);
+    return;
+  }
+  const std::string zin = DatumZin({paar.label1,
+                                    paar.label2InPaar,
+                                    {},
+                                    paar.een.plaatsNr,
+                                    paar.een.dagMaand,
+                                    paar.een.jaar,
+                                    paar.corr,
+                                    paar.twee.plaatsNr,
+                                    paar.twee.dagMaand,
+                                    paar.twee.jaar},
+                                   bronnen_.plaats, bronnen_.schrijfwijze.DatumScheider);
+  if (!zin.empty()) uit_.Aan(MetKomma(zin));
+}
+
+// A range of which a bound is missing is none: the events are told by themselves then.
+void Zinsbouw::PaarUiteen(const Levenspaar& paar) {
+  if (paar.corr == "T" && paar.een.DatumBekend() && paar.twee.DatumBekend()) {
+    Tussen(paar.label1, paar.een, paar.rubrieken1, paar.twee, paar.rubrieken2);
+    return;
+  }
+  const std::string_view corr = paar.corr == "T" ? std::string_view{} : paar.corr;
+  if (paar.een.Bekend()) Alleen(paar.label1, paar.een, corr, paar.rubrieken1);
+  if (paar.twee.Bekend()) Alleen(paar.label2, paar.twee, {}, paar.rubrieken2);
+}
+
+namespace {
+
+// What may be remarked of each marriage event, as rubrics (negative).
+constexpr int kOtrPlaats = -1;
+constexpr int kOtrDatum = -2;
+constexpr int kWetPlaats = -4;
+constexpr int kWetDatum = -8;
+constexpr int kWetSoort = -16;
+constexpr int kKerkPlaats = -32;
+constexpr int kKerkDatum = -64;
+
+// Their bits in an OpmCode.
+constexpr int kOtrBits = 1 | 2;
+constexpr int kWetBits = 4 | 8 | 16;
+constexpr int kKerkBits = 32 | 64;
+
+}  // namespace
+
+Zinsbouw::Huwelijk Zinsbouw::LeesHuwelijk(int opmCode) const {
+  const RelatieLB77& relatie = bronnen_.relatie;
+  Huwelijk uit;
+  uit.ondertrouw = {relatie.OtrPlaatsNr(), relatie.OtrDagMaand(), relatie.OtrJaar()};
+  uit.wettig = {relatie.WetHuwPlaatsNr(), relatie.WetHuwDagMaand(), relatie.WetHuwJaar()};
+  uit.kerk = {relatie.KHuwPlaatsNr(), relatie.KHuwDagMaand(), relatie.KHuwJaar()};
+  uit.label1 = BondLabel(relatie);
+  uit.label2 = relatie.KHuwSch() ? "sch." : "tr.kerk";
+  uit.corr = relatie.HuwCorr();
+  if (uit.ondertrouw.Bekend() || (opmCode & kOtrBits) != 0) uit.bekend |= huw::kOndertrouw;
+  if (uit.wettig.Bekend() || (opmCode & kWetBits) != 0) uit.bekend |= huw::kWettig;
+  if (uit.kerk.Bekend() || (opmCode & kKerkBits) != 0) uit.bekend |= huw::kKerk;
+  return uit;
+}
+
+void Zinsbouw::Relatie(int opmCode, std::string_view voorvoegsel, std::string_view toonTrouw) {
+  Huwelijk huwelijk = LeesHuwelijk(opmCode);
+  huwelijk.voorvoegsel = voorvoegsel;
+  if (huwelijk.bekend == 0) {
+    uit_.Aan(MetKomma(huwelijk.label1, voorvoegsel));
+    return;
+  }
+  const Gezindten& gezindten = bronnen_.schrijfwijze.gezindten;
+  huwelijk.label1 += GezindteNaam(bronnen_.relatie.HuwSoort(), gezindten);
+  huwelijk.label2 += GezindteNaam(bronnen_.relatie.Religie(), gezindten);
+  const bool tussen = huwelijk.corr == "T";
+  if (tussen && huwelijk.wettig.DatumBekend() && huwelijk.kerk.DatumBekend()) {
+    // kept: the banns do not take the number of the relation away from the marriage.
+    if ((huwelijk.bekend & huw::kOndertrouw) != 0) Ondertrouw(huwelijk);
+    Tussen(huwelijk.label1 + huwelijk.voorvoegsel, huwelijk.wettig,
+           {kWetSoort, kWetPlaats, kWetDatum}, huwelijk.kerk, {0, kKerkPlaats, kKerkDatum});
+    return;
+  }
+  if (tussen) huwelijk.corr.clear();
+  Huwelijken(huwelijk, opmCode, toonTrouw);
+}
+
+void Zinsbouw::Ondertrouw(const Huwelijk& huwelijk) {
+  Alleen(std::string(kOndertrouwLabel) + huwelijk.voorvoegsel, huwelijk.ondertrouw, {},
+         {0, kOtrPlaats, kOtrDatum});
+}
+
+// In the order banns, civil, church; a pair comes behind what is told by itself.
+void Zinsbouw::Huwelijken(Huwelijk& huwelijk, int opmCode, std::string_view toonTrouw) {
+  const HuwVorm vorm = KiesHuwVorm(huwelijk.bekend, opmCode, toonTrouw);
+  if ((vorm.alleen & huw::kOndertrouw) != 0) {
+    Ondertrouw(huwelijk);
+    huwelijk.voorvoegsel.clear();
+  }
+  if ((vorm.alleen & huw::kWettig) != 0) {
+    Alleen(huwelijk.label1 + huwelijk.voorvoegsel, huwelijk.wettig, huwelijk.corr,
+           {kWetSoort, kWetPlaats, kWetDatum});
+    huwelijk.voorvoegsel.clear();
+  }
+  if ((vorm.alleen & huw::kKerk) != 0) {  // kept: a pair behind it has the number again
+    Alleen(huwelijk.label2 + huwelijk.voorvoegsel, huwelijk.kerk, {}, {0, kKerkPlaats, kKerkDatum});
+  }
+  if (vorm.samen != 0) Samen(huwelijk, vorm.samen);
+}
+
+void Zinsbouw::Samen(const Huwelijk& huwelijk, unsigned samen) {
+  const bool metOndertrouw = (samen & huw::kOndertrouw) != 0;
+  const bool metKerk = (samen & huw::kKerk) != 0;
+  const Gebeurtenis& een = metOndertrouw ? huwelijk.ondertrouw : huwelijk.wettig;
+  const Gebeurtenis& twee = metKerk ? huwelijk.kerk : huwelijk.wettig;
+  // kept: only the pair of civil and church marriage tells the correction of the date.
+  const std::string zin =
+      DatumZin({metOndertrouw ? kOndertrouwLabel : huwelijk.label1,
+                metKerk ? huwelijk.label2 : huwelijk.label1, huwelijk.voorvoegsel, een.plaatsNr,
+                een.dagMaand, een.jaar, metOndertrouw ? std::string_view{} : huwelijk.corr,
+                twee.plaatsNr, twee.dagMaand, twee.jaar},
+               bronnen_.plaats, bronnen_.schrijfwijze.DatumScheider);
+  uit_.Aan(MetKomma(zin));
+  uit_.Rubriek(kRubriekHeleRelatie);
+}
+
+std::string RelatieVoorvoegsel(std::int16_t relNr, int volgNr, bool isEerste, bool ookNrs) {
+  std::string uit;
+  if (!isEerste) uit = "(" + GetalTekst(volgNr) + ")";
+  if (ookNrs) uit += " [" + GetalTekst(relNr) + "]";
+  return uit;
+}
+
+bool HeeftHuwelijksgegevens(const RelatieLB77& relatie) {
+  return !relatie.HuwSwPs().empty() || relatie.OtrPlaatsNr() != 0 || relatie.OtrDagMaand() != 0 ||
+         relatie.OtrJaar() != 0 || relatie.WetHuwPlaatsNr() != 0 || relatie.WetHuwDagMaand() != 0 ||
+         relatie.WetHuwJaar() != 0 || relatie.KHuwPlaatsNr() != 0 || relatie.KHuwDagMaand() != 0 ||
+         relatie.KHuwJaar() != 0;
+}
+
+std::int16_t PartnerVan(const RelatieLB77& relatie, std::int16_t nr, bool isMan) {
+  const std::int16_t man = relatie.ManNr();
+  const std::int16_t vrouw = relatie.VrouwNr();
+  const std::int16_t partner = isMan ? vrouw : man;
+  if (partner != nr) return partner;
+  return isMan ? man : vrouw;
+}
+
+}  // namespace lb77
