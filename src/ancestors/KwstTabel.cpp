@@ -26,7 +26,9 @@ KwstUitslag Leesfout(Volgers& volgers) {
 
 }  // namespace
 
-int KwstTabel::KwPersoon(int i) const { return i < KwstAantal() ? persoon_[Plaats(i)] : 0; }
+int KwstTabel::KwPersoon(int i) const {
+  return i < KwstAantal() ? persoon_[Plaats(i)] : 0;
+}
 
 std::int16_t KwstTabel::Persoon(int i) const {
   int persoon = KwPersoon(i);

@@ -56,7 +56,7 @@ enum class KwstUitslag { Klaar, Vol, Afgebroken, Leesfout };
 
 // What a build asks and tells while it runs.
 struct KwstVerloop {
-  std::function<bool()> afbreken;                  // tested before each entry; True ends the build
+  std::function<bool()> afbreken;  // tested before each entry; True ends the build
   std::function<void(int persoon, int kwartieren)> toon;  // person 0: none being read
 };
 

@@ -42,9 +42,13 @@ void SlotInTekst(TekstSchrijver& uit, const PaginaTeksten& t) {
 
 }  // namespace
 
-std::string TussenQuotes(std::string_view tekst) { return '"' + std::string(tekst) + '"'; }
+std::string TussenQuotes(std::string_view tekst) {
+  return '"' + std::string(tekst) + '"';
+}
 
-std::string Anker(std::string_view naam) { return "<A NAME=" + TussenQuotes(naam) + "></A>"; }
+std::string Anker(std::string_view naam) {
+  return "<A NAME=" + TussenQuotes(naam) + "></A>";
+}
 
 std::string Verwijzing(std::string_view naam, std::string_view tekst) {
   return "<A HREF=" + TussenQuotes("#" + std::string(naam)) + ">" + std::string(tekst) + "</A>";

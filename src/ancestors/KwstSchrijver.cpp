@@ -1,0 +1,322 @@
+#include "ancestors/KwstSchrijver.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "output/TekstSchrijver.h"
+#include "output/Zinsbouw.h"
+#include "reporting/HTMLPagina.h"
+#include "text/Getallen.h"
+#include "text/RomeinsGetal.h"
+
+namespace lb77 {
+namespace {
+
+// The rubrics of a relation's events: their remarks are told even when the events are not known.
+constexpr int kHuwelijksRubrieken = 1 | 2 | 4 | 8 | 16 | 32 | 64;
+
+std::string Romeins(int generatie) {
+  return RomeinsGetal(static_cast<std::int16_t>(generatie));
+}
+
+// The letter of a child slot: "a" to "z", then "aa", "ab" ...
+std::string KindLetter(int plaats) {
+  if (plaats <= 26) return std::string(1, static_cast<char>('a' + plaats - 1));
+  return std::string("a") + static_cast<char>('a' + plaats - 27);
+}
+
+}  // namespace
+
+KwstSchrijver::KwstSchrijver(const KwstTabel& tabel, const KwstOpties& opties,
+                             const ZinBronnen& bronnen, const ZinOpties& zinOpties,
+                             TekstSchrijver& uit, const KwstVerloop& verloop)
+    : tabel_(tabel),
+      opties_(opties),
+      bronnen_(bronnen),
+      verteller_(bronnen, uit, zinOpties),
+      uit_(uit),
+      verloop_(verloop),
+      beginGen_(opties.KwBeginNr.Generatie()),
+      maxGen_(std::min(opties.KwMaxGen, tabel.KwNummer(tabel.KwstAantal() - 1).Generatie())),
+      huidigeGen_(beginGen_) {}
+
+KwstUitslag KwstSchrijver::Schrijf() {
+  if (!bronnen_.persoon.Lees(opties_.KwProbandNr)) return KwstUitslag::Leesfout;
+  uit_.ZetMarge(true, 0);
+  if (opties_.KwInHTML) {
+    SchrijfHTMLKop(uit_, opties_.teksten, "Kwartierstaat", bronnen_.persoon.VoorNaamTrue(),
+                   bronnen_.persoon.AchterNaamTrue());
+  }
+  if (opties_.KwBeginNr.Vanaf(opties_.KwVanafNr) && !SchrijfProband()) {
+    return KwstUitslag::Leesfout;
+  }
+  const KwstUitslag uitslag = SchrijfVoorouders();
+  if (uitslag == KwstUitslag::Klaar) SchrijfSlot(uit_, opties_.teksten, opties_.KwInHTML);
+  return uitslag;
+}
+
+void KwstSchrijver::SchrijfGeneratieKop(int generatie) {
+  const int eersteGen = opties_.KwVanafNr.Generatie();
+  const auto link = [](int gen) {
+    return Verwijzing(Romeins(gen), "(Generatie " + Romeins(gen) + ")");
+  };
+  if (opties_.KwInHTML) uit_.Vast("<HR><H4>");
+  if (generatie > eersteGen) {
+    uit_.LegeRegel();
+    uit_.LegeRegel();
+  }
+  uit_.Vast("Generatie " + Romeins(generatie));
+  if (!opties_.KwInHTML) {
+    uit_.EindeRegel();
+    return;
+  }
+  uit_.Vast(Anker(Romeins(generatie)));
+  if (generatie > eersteGen) uit_.Vast(link(generatie - 1));
+  if (generatie < maxGen_) uit_.Vast(link(generatie + 1));
+  uit_.VolleRegel("</H4>");
+  uit_.LegeRegel();
+}
+
+// Numbers are right-aligned in six columns; the text hangs at column 8.
+void KwstSchrijver::SchrijfKop(std::string_view nummer) {
+  const int lengte = static_cast<int>(nummer.size());
+  uit_.EindeRegel();
+  uit_.ZetMarge(true, lengte >= 6 ? 0 : 6 - lengte);
+  uit_.Vast(nummer);
+  uit_.ZetMarge(true, lengte >= 6 ? lengte + 2 : 8);
+}
+
+// The anchor of an entry and the links to its child and its parents.
+void KwstSchrijver::SchrijfLinks(int index) {
+  if (!opties_.KwInHTML) return;
+  uit_.Vast(Anker(tabel_.KwNummer(index).Tekst()));
+  if (index > 0) {
+    uit_.Vast(Verwijzing(tabel_.KwNummer(tabel_.KwKindIndex(index) - 1).Tekst(), "K"));
+  }
+  // The parents stand in the table in the order of their children.
+  while (linkIndex_ < tabel_.KwstAantal() && tabel_.KwKindIndex(linkIndex_) <= index) ++linkIndex_;
+  for (; linkIndex_ < tabel_.KwstAantal() && tabel_.KwKindIndex(linkIndex_) == index + 1;
+       ++linkIndex_) {
+    uit_.Vast(
+        Verwijzing(tabel_.KwNummer(linkIndex_).Tekst(), tabel_.IsMoeder(linkIndex_) ? "V" : "M"));
+  }
+}
+
+bool KwstSchrijver::SchrijfProband() {
+  Ouder proband = MaakOuder(0);
+  if (!LeesOuder(proband)) return false;
+  SchrijfGeneratieKop(beginGen_);
+  if (opties_.KwBroerZus == BroerZus::Zonder || proband.relNrOuders <= 0) {
+    return SchrijfProbandAlleen(proband);
+  }
+  Kindtab kinderen{};
+  bronnen_.volgers.HuidigRelatieNr = proband.relNrOuders;
+  if (!bronnen_.relatie.Lees(proband.relNrOuders)) return false;
+  bronnen_.relatie.VulKindtab(proband.relNrOuders, kinderen);
+  if (opties_.KwInHTML) {
+    uit_.Vast("<BR>");
+    SchrijfLinks(0);
+    uit_.Vast("<UL>");
+  }
+  if (!SchrijfKinderen(kinderen, proband.nr, true)) return false;
+  if (opties_.KwInHTML) uit_.Vast("</UL>");
+  return true;
+}
+
+bool KwstSchrijver::SchrijfProbandAlleen(const Ouder& proband) {
+  int volgNr = 1;
+  SchrijfKop(opties_.KwBeginNr.Tekst());
+  SchrijfLinks(0);
+  if (!verteller_.SchrijfPersoon(proband.nr)) return false;
+  if (!SchrijfAndereRelaties(proband.nr, 0, false, volgNr)) return false;
+  uit_.VolleRegel(".");
+  verteller_.SchrijfAlgemeneOpm(proband.opmRecord, proband.opmCode, kRubriekPersoon);
+  return true;
+}
+
+// Lettered by child slot: the letter is right-aligned in six columns, the text hangs at column 8,
+// in the proband's own list further by the letter's length.
+bool KwstSchrijver::SchrijfKinderen(const Kindtab& kinderen, std::int16_t nietDeze,
+                                    bool vanProband) {
+  for (int plaats = 1; plaats < static_cast<int>(kinderen.size()); ++plaats) {
+    const std::int16_t kind = kinderen[static_cast<std::size_t>(plaats)];
+    if (kind <= 0 || (kind == nietDeze && !vanProband)) continue;
+    if (!bronnen_.persoon.Lees(kind)) return true;  // ends the list, not the report
+    if (!SchrijfKind(plaats, kind, vanProband)) return false;
+  }
+  return true;
+}
+
+bool KwstSchrijver::SchrijfKind(int plaats, std::int16_t kind, bool vanProband) {
+  const std::int16_t opmRecord = bronnen_.persoon.OpmRecord();
+  const std::int16_t opmCode = bronnen_.persoon.OpmCode();
+  const std::string letter = KindLetter(plaats);
+  const int lengte = static_cast<int>(letter.size());
+  int volgNr = 1;
+  uit_.EindeRegel();
+  if (opties_.KwInHTML) uit_.Vast("<BR>");
+  uit_.ZetMarge(true, 6 - lengte);
+  uit_.Vast(letter + ".");
+  uit_.ZetMarge(true, vanProband ? 8 + lengte : 8);
+  if (!verteller_.SchrijfPersoon(kind)) return false;
+  if (!SchrijfAndereRelaties(kind, 0, false, volgNr)) return false;
+  uit_.Vast(".");
+  verteller_.SchrijfAlgemeneOpm(opmRecord, opmCode, kRubriekPersoon);
+  return true;
+}
+
+bool KwstSchrijver::SchrijfAndereRelaties(std::int16_t nr, std::int16_t hoofdRel, bool eenOverslaan,
+                                          int& volgNr) {
+  if (!bronnen_.persoon.Lees(nr)) return true;
+  const bool isMan = bronnen_.persoon.Geslacht() == "M";
+  if (eenOverslaan && bronnen_.persoon.AantalHuw(nr) == 1) return true;
+  Huwtab relaties{};
+  bronnen_.persoon.VulHuwtab(nr, relaties);
+  for (std::size_t plaats = 1; plaats < relaties.size(); ++plaats) {
+    const std::int16_t relatie = relaties[plaats];
+    if (relatie <= 0) continue;
+    const int volg = static_cast<int>(plaats);
+    if (relatie == hoofdRel) {
+      volgNr = volg;
+    } else if (!SchrijfRelatieMetPartner(nr, isMan, relatie, volg)) {
+      return false;
+    }
+  }
+  return true;
+}
+
+bool KwstSchrijver::SchrijfRelatieMetPartner(std::int16_t nr, bool isMan, std::int16_t relatie,
+                                             int volgNr) {
+  if (!bronnen_.relatie.Lees(relatie)) return false;
+  const std::int16_t partner = PartnerVan(bronnen_.relatie, nr, isMan);
+  const bool partnerIsMan = partner == bronnen_.relatie.ManNr();
+  if (partner == 0) return true;
+  if (!verteller_.SchrijfRelatie(relatie, volgNr)) return false;
+  uit_.Tekst(" ");
+  if (!verteller_.SchrijfPersoon(partner)) return false;
+  if (!bronnen_.persoon.Lees(partner)) return false;
+  const std::int16_t ouders = bronnen_.persoon.RelNrOuders();
+  return ouders <= 0 || verteller_.SchrijfOuders(partnerIsMan ? 1 : 0, ouders);
+}
+
+// Has the relation in the buffer anything that can be told between its partners?
+bool KwstSchrijver::ZegtIets(const RelatieLB77& relatie) const {
+  const int opmCode = opties_.KwOokOpm ? std::abs(int{relatie.OpmCode()}) : 0;
+  return HeeftHuwelijksgegevens(relatie) || (opmCode & kHuwelijksRubrieken) != 0;
+}
+
+KwstSchrijver::Ouder KwstSchrijver::MaakOuder(int index) const {
+  Ouder ouder;
+  ouder.index = index;
+  ouder.nr = tabel_.Persoon(index);
+  ouder.herhaling = tabel_.IsHerhaling(index);
+  ouder.geschreven = tabel_.KwNummer(index).Vanaf(opties_.KwVanafNr);
+  return ouder;
+}
+
+bool KwstSchrijver::LeesOuder(Ouder& ouder) {
+  if (!bronnen_.persoon.Lees(ouder.nr)) return false;
+  ouder.opmRecord = bronnen_.persoon.OpmRecord();
+  ouder.opmCode = bronnen_.persoon.OpmCode();
+  ouder.relNrOuders = bronnen_.persoon.RelNrOuders();
+  return true;
+}
+
+KwstUitslag KwstSchrijver::SchrijfVoorouders() {
+  const int aantal = tabel_.KwstAantal();
+  for (int i = 1; i < aantal;) {
+    if (verloop_.afbreken()) return KwstUitslag::Afgebroken;
+    verloop_.toon(0, i);
+    const int eerste = i;
+    const bool beiden = i < aantal - 1 && tabel_.KwKindIndex(i) == tabel_.KwKindIndex(i + 1);
+    Paar paar;
+    if (beiden || !tabel_.IsMoeder(i)) paar.vader = MaakOuder(i);
+    if (beiden) ++i;
+    if (beiden || tabel_.IsMoeder(i)) paar.moeder = MaakOuder(i);
+    ++i;
+    const std::int16_t kind = tabel_.Persoon(tabel_.KwKindIndex(eerste) - 1);
+    if (!bronnen_.persoon.Lees(kind)) return KwstUitslag::Leesfout;
+    paar.relatie = bronnen_.persoon.RelNrOuders();
+    if (!SchrijfPaar(paar)) return KwstUitslag::Leesfout;
+  }
+  return KwstUitslag::Klaar;
+}
+
+bool KwstSchrijver::SchrijfPaar(Paar& paar) {
+  uit_.ZetMarge(true, 0);
+  if (!SchrijfOuder(paar.vader, paar) || !SchrijfHuwelijk(paar) ||
+      !SchrijfOuder(paar.moeder, paar)) {
+    return false;
+  }
+  if (paar.vader.geschreven || paar.moeder.geschreven) {
+    uit_.VolleRegel(".");
+    if (opties_.KwInHTML) uit_.Vast("<BR>");
+  }
+  SchrijfOpmerkingen(paar);
+  return opties_.KwBroerZus != BroerZus::Alle || SchrijfBroersZussen(paar);
+}
+
+bool KwstSchrijver::SchrijfOuder(Ouder& ouder, Paar& paar) {
+  if (!ouder.geschreven) return true;
+  if (!LeesOuder(ouder)) return false;
+  const int generatie = beginGen_ + tabel_.Generatie(ouder.index);
+  if (generatie != huidigeGen_) {
+    huidigeGen_ = generatie;
+    SchrijfGeneratieKop(generatie);
+  }
+  if (opties_.KwInHTML) uit_.Vast("<BR>");
+  SchrijfKop(tabel_.KwNummer(ouder.index).Tekst());
+  SchrijfLinks(ouder.index);
+  if (ouder.herhaling) {
+    uit_.Tekst("= " + tabel_.KwNummer(-tabel_.KwPersoon(ouder.index)).Tekst());
+    return true;
+  }
+  int volgNr = 1;
+  if (!verteller_.SchrijfPersoon(ouder.nr)) return false;
+  if (!SchrijfAndereRelaties(ouder.nr, paar.relatie, true, volgNr)) return false;
+  if (!tabel_.IsMoeder(ouder.index)) paar.volgNr = volgNr;
+  return true;
+}
+
+// What stands between a father and a mother who are both told.
+bool KwstSchrijver::SchrijfHuwelijk(Paar& paar) {
+  if (!paar.Beiden()) return true;
+  if (!bronnen_.relatie.Lees(paar.relatie)) return false;
+  paar.opmRecord = bronnen_.relatie.OpmRecord();
+  paar.opmCode = bronnen_.relatie.OpmCode();
+  if (!ZegtIets(bronnen_.relatie)) return true;
+  if (!verteller_.SchrijfRelatie(paar.relatie, paar.volgNr)) return false;
+  uit_.Vast(".");
+  return true;
+}
+
+void KwstSchrijver::SchrijfOpmerkingen(const Paar& paar) {
+  for (const Ouder& ouder : {paar.vader, paar.moeder}) {
+    if (ouder.geschreven && !ouder.herhaling) {
+      verteller_.SchrijfAlgemeneOpm(ouder.opmRecord, ouder.opmCode, kRubriekPersoon);
+    }
+  }
+  if (paar.Beiden()) verteller_.SchrijfAlgemeneOpm(paar.opmRecord, paar.opmCode, kRubriekRelatie);
+}
+
+// kept: also those of the mother are left out when the father is a repeat, and not when she is.
+bool KwstSchrijver::SchrijfBroersZussen(const Paar& paar) {
+  const auto heeft = [&paar](const Ouder& ouder) {
+    return ouder.geschreven && ouder.relNrOuders > 0 && !paar.vader.herhaling;
+  };
+  if (!heeft(paar.vader) && !heeft(paar.moeder)) return true;
+  if (opties_.KwInHTML) uit_.Vast("<UL>");
+  if (heeft(paar.vader) && !SchrijfBroersZussenVan(paar.vader)) return false;
+  if (heeft(paar.moeder) && !SchrijfBroersZussenVan(paar.moeder)) return false;
+  if (opties_.KwInHTML) uit_.Vast("</UL>");
+  return true;
+}
+
+bool KwstSchrijver::SchrijfBroersZussenVan(const Ouder& ouder) {
+  Kindtab kinderen{};
+  if (!bronnen_.relatie.Lees(ouder.relNrOuders)) return false;
+  bronnen_.relatie.VulKindtab(ouder.relNrOuders, kinderen);
+  return SchrijfKinderen(kinderen, ouder.nr, false);
+}
+
+}  // namespace lb77

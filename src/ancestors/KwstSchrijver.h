@@ -1,0 +1,86 @@
+// Writes an ancestor table as running text: generation by generation, couple by couple.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "ancestors/KwstOpties.h"
+#include "ancestors/KwstTabel.h"
+#include "output/Verteller.h"
+
+namespace lb77 {
+
+class TekstSchrijver;
+
+// One run. The file is open and stays so; what was written stands, however the run ends.
+class KwstSchrijver {
+ public:
+  KwstSchrijver(const KwstTabel& tabel, const KwstOpties& opties, const ZinBronnen& bronnen,
+                const ZinOpties& zinOpties, TekstSchrijver& uit, const KwstVerloop& verloop);
+
+  // Writes the whole report. Vol is not among its results.
+  [[nodiscard]] KwstUitslag Schrijf();
+
+ private:
+  // One side of a couple; index -1 for an unknown parent.
+  struct Ouder {
+    int index = -1;
+    std::int16_t nr = 0;
+    bool herhaling = false;
+    bool geschreven = false;
+    std::int16_t opmRecord = 0;
+    std::int16_t opmCode = 0;
+    std::int16_t relNrOuders = 0;
+  };
+  struct Paar {
+    Ouder vader;
+    Ouder moeder;
+    std::int16_t relatie = 0;
+    int volgNr = 1;  // the relation's place among those of the father
+    std::int16_t opmRecord = 0;
+    std::int16_t opmCode = 0;
+
+    [[nodiscard]] bool Beiden() const {
+      return vader.geschreven && moeder.geschreven && !vader.herhaling && !moeder.herhaling;
+    }
+  };
+
+  [[nodiscard]] bool SchrijfProband();
+  [[nodiscard]] bool SchrijfProbandAlleen(const Ouder& proband);
+  [[nodiscard]] KwstUitslag SchrijfVoorouders();
+
+  [[nodiscard]] Ouder MaakOuder(int index) const;
+  [[nodiscard]] bool LeesOuder(Ouder& ouder);
+  [[nodiscard]] bool SchrijfPaar(Paar& paar);
+  [[nodiscard]] bool SchrijfOuder(Ouder& ouder, Paar& paar);
+  [[nodiscard]] bool SchrijfHuwelijk(Paar& paar);
+  void SchrijfOpmerkingen(const Paar& paar);
+  [[nodiscard]] bool SchrijfBroersZussen(const Paar& paar);
+  [[nodiscard]] bool SchrijfBroersZussenVan(const Ouder& ouder);
+
+  [[nodiscard]] bool SchrijfKinderen(const Kindtab& kinderen, std::int16_t nietDeze,
+                                     bool vanProband);
+  [[nodiscard]] bool SchrijfKind(int plaats, std::int16_t kind, bool vanProband);
+  [[nodiscard]] bool SchrijfAndereRelaties(std::int16_t nr, std::int16_t hoofdRel,
+                                           bool eenOverslaan, int& volgNr);
+  [[nodiscard]] bool SchrijfRelatieMetPartner(std::int16_t nr, bool isMan, std::int16_t relatie,
+                                              int volgNr);
+  [[nodiscard]] bool ZegtIets(const RelatieLB77& relatie) const;
+
+  void SchrijfGeneratieKop(int generatie);
+  void SchrijfKop(std::string_view nummer);
+  void SchrijfLinks(int index);
+
+  const KwstTabel& tabel_;
+  const KwstOpties& opties_;
+  ZinBronnen bronnen_;
+  Verteller verteller_;
+  TekstSchrijver& uit_;
+  const KwstVerloop& verloop_;
+  int beginGen_;
+  int maxGen_;
+  int huidigeGen_;
+  int linkIndex_ = 1;  // the next entry whose link to it has not been written
+};
+
+}  // namespace lb77

@@ -1,0 +1,47 @@
+// The options of the ancestor report.
+#pragma once
+
+#include "ancestors/KwstOpties.h"
+#include "ancestors/KwstVelden.h"
+#include "forms/Formulier.h"
+#include "reporting/JaNeeVak.h"
+#include "reporting/TitelVelden.h"
+
+namespace lb77 {
+
+class Hoofdmodule;
+
+// OK puts the choices into `opties` and, when the user wants them kept, into the settings.
+// BackButton sets HuidigPersoonNr to -1.
+class KwstTxtParam final : public Formulier {
+ public:
+  KwstTxtParam(Hoofdmodule& hoofd, KwstOpties& opties);
+
+  ProbandKop Proband;
+  KwstNummerVelden Nummers;
+  Keuzevak BroerZusBox{*this,
+                       "BroerZusBox",
+                       "Broers en Zussen:",
+                       {"Zonder Broers en Zussen", "Met Broers en Zussen van de Proband",
+                        "Met Alle Broers en Zussen"}};
+  JaNeeVak OokNrsBox{*this, "OokNrsBox", "Ook Persoons- en Relatienummers uitvoeren ?"};
+  JaNeeVak OokOpmBox{*this, "OokOpmBox", "Ook Opmerkingen uitvoeren ?"};
+  JaNeeVak KwHerhaalBox{*this, "KwHerhaalBox", "Kwartierherhaling blijven volgen ?"};
+  JaNeeVak InHTMLBox{*this, "InHTMLBox", "Uitvoer voor Internet (HTML) ?"};
+  TitelVelden Titels;
+  Knop OKButton{*this, "OKButton", "&OK"};
+  Knop BackButton{*this, "BackButton", "&Terug"};
+
+ protected:
+  void BijLaden() override;
+
+ private:
+  [[nodiscard]] std::array<JaNeeSleutel, 4> Sleutels();
+  void OKKlik();
+  void Bewaar();
+
+  Hoofdmodule& hoofd_;
+  KwstOpties& opties_;
+};
+
+}  // namespace lb77

@@ -1,0 +1,51 @@
+// The first form of every report on a person: it asks the number, by number or by name.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "forms/Formulier.h"
+
+namespace lb77 {
+
+class Hoofdmodule;
+
+// What tells one prompt from another.
+struct PersoonPromptSoort {
+  std::string_view naam;
+  std::string_view titel;
+  std::string_view vraag;
+};
+
+// A derived form runs the report's chain of forms in Keten(). The prompt closes behind it.
+class PersoonPrompt : public Formulier {
+ public:
+  Label VraagLabel;
+  Tekstvak RecordNr{*this, "RecordNr", "Persoonsnummer:", 5};
+  Tekstvak VoorNm{*this, "VoorNm", "Voornamen:", 30};
+  Tekstvak AchterNm{*this, "AchterNm", "Achternaam:", 25};
+  Knop OKButton{*this, "OKButton", "&OK"};
+  Knop ZoekButton{*this, "ZoekButton", "&Zoek Persoon"};
+  Knop BackButton{*this, "BackButton", "&Terug"};
+
+ protected:
+  PersoonPrompt(const PersoonPromptSoort& soort, Hoofdmodule& hoofd);
+
+  void BijLaden() override;
+  // The forms behind the prompt. HuidigPersoonNr is `persoonNr` on entry.
+  virtual void Keten(std::int16_t persoonNr) = 0;
+  // May the chain go on? HuidigPersoonNr -1 says no.
+  [[nodiscard]] bool GaatDoor() const;
+  [[nodiscard]] Hoofdmodule& Hoofd() { return hoofd_; }
+
+ private:
+  [[nodiscard]] bool RecordNrVerlaten();
+  void ToonNamen(std::int16_t nr);
+  void OKKlik();
+  void ZoekKlik();
+  void BackKlik();
+
+  Hoofdmodule& hoofd_;
+};
+
+}  // namespace lb77
