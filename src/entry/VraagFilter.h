@@ -1,0 +1,29 @@
+// Asks the names that the list of persons is to show.
+#pragma once
+
+#include "entry/NaamFilter.h"
+#include "forms/Formulier.h"
+
+namespace lb77 {
+
+/// OK puts both texts into the filter; Terug leaves it as it is.
+class VraagFilter final : public Formulier {
+ public:
+  explicit VraagFilter(NaamFilter& filter);
+
+  Label VraagLabel{*this, "VraagLabel", "Alleen Personen tonen met de naam:"};
+  Tekstvak VoorNm{*this, "VoorNm", "Voornamen:", 31};
+  Tekstvak AchterNm{*this, "AchterNm", "Achternaam:", 26};
+  Label TipJoker{*this, "TipJoker", "Gebruik een sterretje aan het eind als joker"};
+  Label TipLetters{*this, "TipLetters",
+                   "Het filter maakt onderscheid tussen HOOFDLETTERS en kleine letters"};
+  Knop OKButton{*this, "OKButton", "&OK"};
+  Knop BackButton{*this, "BackButton", "&Terug"};
+
+ private:
+  void OKKlik();
+
+  NaamFilter& filter_;
+};
+
+}  // namespace lb77
