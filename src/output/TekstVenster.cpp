@@ -1,0 +1,152 @@
+#include "output/TekstVenster.h"
+
+#include <array>
+#include <cstddef>
+#include <utility>
+
+#include "text/Getallen.h"
+
+namespace lb77 {
+
+namespace {
+
+// The four directions, by the number of their button.
+struct Stap {
+  std::string_view bijschrift;
+  int kolommen;
+  int rijen;
+};
+constexpr std::array<Stap, 4> kStappen = {{
+    {"Naar &links", -1, 0},
+    {"Naar &rechts", 1, 0},
+    {"Om&hoog", 0, -1},
+    {"O&mlaag", 0, 1},
+}};
+constexpr int kOmlaagKnop = 4;
+
+constexpr std::string_view kHTMLFilter =
+    "Alle Bestanden (*.*)|*.*|Internetbestanden (*.htm)|*.htm|Internetbestanden (*.html)|*.html";
+
+constexpr std::string_view kPrintFout = "Fout bij het printen van de tekst.";
+constexpr std::string_view kOpslaanFout = "Fout bij het opslaan van de tekst.";
+
+const Stap& StapVan(int knop) {
+  return kStappen.at(static_cast<std::size_t>(knop - 1));
+}
+
+std::string MetFout(std::string_view tekst, const SysteemFout& fout) {
+  return std::string(tekst) + "\n" + fout.tekst;
+}
+
+}  // namespace
+
+TekstVenster::TekstVenster(Hoofdmodule& hoofd, std::string_view naam, std::string_view titel)
+    : Formulier(naam, titel), hoofd_(hoofd) {
+  MoveButton.Elk([this](int nummer, Knop& knop) {
+    const Stap& stap = StapVan(nummer);
+    knop.ZetBijschrift(stap.bijschrift);
+    knop.BijKlik([this, &stap] { Ga(stap.kolommen, stap.rijen); });
+  });
+  PrintButton(1).ZetBijschrift("&Print deze");
+  PrintButton(1).BijKlik([this] { DrukPaginaAf(); });
+  PrintButton(2).ZetBijschrift("Print &Alles");
+  PrintButton(2).BijKlik([this] { DrukAllesAf(); });
+  SaveButton.BijKlik([this] { SlaOp(); });
+  BackButton.BijKlik([this] { Sluit(); });
+}
+
+void TekstVenster::Toon(const std::filesystem::path& pad, bool HTMLUitvoer) {
+  HTMLUitvoer_ = HTMLUitvoer;
+  kolom_ = rij_ = 1;
+  const bool leesbaar = paginas_.Open(pad);
+  PrintButton.Elk([leesbaar](int, Knop& knop) { knop.ZetIngeschakeld(leesbaar); });
+  SaveButton.ZetIngeschakeld(leesbaar);
+  ToonPagina();
+  Knop& omlaag = MoveButton(kOmlaagKnop);
+  ZetEersteVeld(omlaag.Ingeschakeld() ? omlaag : BackButton);
+}
+
+void TekstVenster::ToonPagina() {
+  std::vector<std::string> regels;
+  if (paginas_.Lees(kolom_, rij_, regels)) {
+    if (paginas_.Leeg()) regels = {"<< Het bestand is leeg >>"};
+    UitvoerBox.ZetRegels(std::move(regels));
+  } else {
+    UitvoerBox.ZetRegels({"Fout: " + paginas_.Fout().tekst});
+  }
+  XY_label.ZetBijschrift("pagina " + GetalTekst(kolom_) + "," + GetalTekst(rij_));
+  MoveButton(1).ZetIngeschakeld(kolom_ > 1);
+  MoveButton(2).ZetIngeschakeld(kolom_ < paginas_.Kolommen());
+  MoveButton(3).ZetIngeschakeld(rij_ > 1);
+  MoveButton(4).ZetIngeschakeld(rij_ < paginas_.Rijen());
+}
+
+void TekstVenster::Ga(int kolommen, int rijen) {
+  const int kolom = kolom_ + kolommen;
+  const int rij = rij_ + rijen;
+  if (kolom < 1 || kolom > paginas_.Kolommen() || rij < 1 || rij > paginas_.Rijen()) return;
+  kolom_ = kolom;
+  rij_ = rij;
+  ToonPagina();
+}
+
+void TekstVenster::BijToets(ToetsGebeurtenis& toets) {
+  struct Toetsstap {
+    int code;
+    int kolommen;
+    int rijen;
+  };
+  constexpr std::array<Toetsstap, 6> kToetsen = {{
+      {toets::kLinks, -1, 0},
+      {toets::kRechts, 1, 0},
+      {toets::kOmhoog, 0, -1},
+      {toets::kOmlaag, 0, 1},
+      {toets::kPageUp, 0, -1},
+      {toets::kPageDown, 0, 1},
+  }};
+  for (const Toetsstap& stap : kToetsen) {
+    if (stap.code != toets.code) continue;
+    toets.verwerkt = true;
+    Ga(stap.kolommen, stap.rijen);
+    return;
+  }
+}
+
+void TekstVenster::DrukPaginaAf() {
+  DrukAf({Titel(), {UitvoerBox.Regels()}});
+}
+
+void TekstVenster::DrukAllesAf() {
+  Afdruk afdruk{Titel(), {}};
+  if (paginas_.Leeg()) afdruk.paginas.push_back(UitvoerBox.Regels());
+  for (int rij = 1; rij <= paginas_.Rijen() && !paginas_.Leeg(); ++rij) {
+    for (int kolom = 1; kolom <= paginas_.Kolommen(); ++kolom) {
+      if (!paginas_.Lees(kolom, rij, afdruk.paginas.emplace_back())) {
+        hoofd_.gesprek.Fout(MetFout(kPrintFout, paginas_.Fout()));
+        return;
+      }
+    }
+  }
+  DrukAf(afdruk);
+}
+
+void TekstVenster::DrukAf(const Afdruk& afdruk) {
+  if (hoofd_.gesprek.DrukAf(afdruk)) {
+    hoofd_.gesprek.Informeer("De tekst is naar de printer verstuurd.");
+  }
+}
+
+void TekstVenster::SlaOp() {
+  const std::string_view filter = HTMLUitvoer_ ? kHTMLFilter : kTekstFilter;
+  const auto pad = hoofd_.gesprek.VraagBestand(
+      {BestandsWijze::Opslaan, std::string(filter), hoofd_.Ini.TekstDir()});
+  if (!pad) return;
+  const SysteemFout fout = KopieerTekst(paginas_.Pad(), *pad);
+  if (fout) {
+    hoofd_.gesprek.Fout(MetFout(kOpslaanFout, fout));
+  } else {
+    hoofd_.gesprek.Informeer("De tekst is opgeslagen.");
+  }
+}
+
+}  // namespace lb77

@@ -1,0 +1,54 @@
+// What the viewers of text share: the page, moving over the pages, printing and saving.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "app/Hoofdmodule.h"
+#include "forms/Formulier.h"
+#include "forms/Rij.h"
+#include "output/Tekstpaginas.h"
+
+namespace lb77 {
+
+/// The filter of a file dialog for text files, with all files first.
+inline constexpr std::string_view kTekstFilter =
+    "Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt";
+
+/// Shows one page of a file. MoveButton 1 to 4 and the arrow keys go left, right, up and down,
+/// PageUp and PageDown up and down; PrintButton 1 prints this page, 2 all pages.
+class TekstVenster : public Formulier {
+ public:
+  Tekstpagina UitvoerBox{*this, "UitvoerBox"};
+  Label XY_label{*this, "XY_label", "pagina 99,99"};
+  Rij<Knop, 4> MoveButton{*this, "MoveButton", 1, std::string_view{}};
+  Rij<Knop, 2> PrintButton{*this, "PrintButton", 1, std::string_view{}};
+  Knop SaveButton{*this, "SaveButton", "&Opslaan Als"};
+  Knop BackButton{*this, "BackButton", "&Terug"};
+
+ protected:
+  TekstVenster(Hoofdmodule& hoofd, std::string_view naam, std::string_view titel);
+
+  /// Opens the file and shows its first page, or why it can't be read.
+  void Toon(const std::filesystem::path& pad, bool HTMLUitvoer);
+
+  void BijToets(ToetsGebeurtenis& toets) override;
+
+  Hoofdmodule& hoofd_;
+
+ private:
+  void Ga(int kolommen, int rijen);
+  void ToonPagina();
+  void DrukPaginaAf();
+  void DrukAllesAf();
+  void DrukAf(const Afdruk& afdruk);
+  void SlaOp();
+
+  Tekstpaginas paginas_;
+  bool HTMLUitvoer_ = false;
+  int kolom_ = 1;
+  int rij_ = 1;
+};
+
+}  // namespace lb77

@@ -1,0 +1,127 @@
+#include "output/Tekstpaginas.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <fstream>
+#include <ios>
+#include <limits>
+#include <string_view>
+#include <system_error>
+
+#include "output/Regelstroom.h"
+
+namespace lb77 {
+
+namespace {
+
+constexpr std::size_t kBreedte = Tekstpaginas::kBreedte;
+
+std::uint64_t LengteVanRegel(Regelstroom& stroom) {
+  std::uint64_t lengte = 0;
+  for (std::string_view stuk = stroom.Stuk(); !stuk.empty(); stuk = stroom.Stuk()) {
+    lengte += stuk.size();
+  }
+  return lengte;
+}
+
+// The part of the present line that stands in a column which begins behind `links` characters.
+std::string DeelVanRegel(Regelstroom& stroom, std::uint64_t links) {
+  std::string uit;
+  std::uint64_t plaats = 0;
+  for (std::string_view stuk = stroom.Stuk(); !stuk.empty(); stuk = stroom.Stuk()) {
+    const std::uint64_t einde = plaats + stuk.size();
+    if (einde > links && uit.size() < kBreedte) {
+      const std::uint64_t van = links > plaats ? links - plaats : 0;
+      uit += stuk.substr(static_cast<std::size_t>(van), kBreedte - uit.size());
+    }
+    plaats = einde;
+  }
+  std::replace(uit.begin(), uit.end(), '\0', ' ');
+  return uit;
+}
+
+}  // namespace
+
+bool Tekstpaginas::Open(const std::filesystem::path& pad) {
+  pad_ = pad;
+  rijBegin_.clear();
+  std::uint64_t langste = 0;
+  Regelstroom stroom;
+  if (stroom.Open(pad)) {
+    std::uint64_t begin = 0;
+    for (std::uint64_t regel = 0; stroom.VolgendeRegel(); ++regel) {
+      if (regel % kRegels == 0) rijBegin_.push_back(begin);
+      langste = std::max(langste, LengteVanRegel(stroom));
+      begin = stroom.Plaats();
+    }
+  }
+  fout_ = stroom.Fout();
+  if (fout_) {
+    rijBegin_.clear();
+    langste = 0;
+  }
+  kolommen_ = static_cast<int>(
+      std::min<std::uint64_t>(langste / kBreedte + 1, std::numeric_limits<int>::max()));
+  return !fout_;
+}
+
+int Tekstpaginas::Rijen() const {
+  return std::max(1, static_cast<int>(rijBegin_.size()));
+}
+
+bool Tekstpaginas::Lees(int kolom, int rij, std::vector<std::string>& regels) {
+  regels.clear();
+  if (Leeg()) return !fout_;
+  const auto links = static_cast<std::uint64_t>(kolom - 1) * kBreedte;
+  Regelstroom stroom;
+  if (stroom.Open(pad_, rijBegin_.at(static_cast<std::size_t>(rij - 1)))) {
+    while (regels.size() < kRegels && stroom.VolgendeRegel()) {
+      regels.push_back(DeelVanRegel(stroom, links));
+    }
+  }
+  fout_ = stroom.Fout();
+  if (fout_) regels.clear();
+  return !fout_;
+}
+
+namespace {
+
+SysteemFout LaatsteFout() {
+  return FoutVan({errno == 0 ? EIO : errno, std::generic_category()});
+}
+
+// Writes the copy; what went wrong, or success.
+SysteemFout SchrijfKopie(const std::filesystem::path& van, const std::filesystem::path& naar) {
+  Regelstroom stroom;
+  if (!stroom.Open(van)) return stroom.Fout();
+  errno = 0;
+  std::ofstream uit(naar, std::ios::binary | std::ios::trunc);
+  if (!uit) return LaatsteFout();
+  while (uit && stroom.VolgendeRegel()) {
+    for (std::string_view stuk = stroom.Stuk(); !stuk.empty(); stuk = stroom.Stuk()) {
+      uit.write(stuk.data(), static_cast<std::streamsize>(stuk.size()));
+    }
+    uit << "\r\n";
+  }
+  uit.close();
+  if (!uit) return LaatsteFout();
+  return stroom.Fout();
+}
+
+}  // namespace
+
+SysteemFout KopieerTekst(const std::filesystem::path& van, const std::filesystem::path& naar) {
+  std::filesystem::path ernaast = naar;
+  ernaast += ".nieuw";
+  SysteemFout fout = SchrijfKopie(van, ernaast);
+  std::error_code code;
+  if (!fout) {
+    std::filesystem::rename(ernaast, naar, code);
+    fout = FoutVan(code);
+  }
+  if (fout) std::filesystem::remove(ernaast, code);
+  return fout;
+}
+
+}  // namespace lb77

@@ -1,0 +1,49 @@
+// A text file as pages of fixed size, read from the file as they are asked for.
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "store/SysteemFout.h"
+
+namespace lb77 {
+
+/// Pages stand in columns and rows, both counted from 1. In memory lies one number a row of pages.
+class Tekstpaginas {
+ public:
+  static constexpr int kBreedte = 80;  ///< characters a line of a page
+  static constexpr int kRegels = 69;   ///< lines a page
+
+  /// Reads the file once to count its pages. On a failure False, there is one page, and Fout()
+  /// tells why.
+  [[nodiscard]] bool Open(const std::filesystem::path& pad);
+
+  [[nodiscard]] const std::filesystem::path& Pad() const { return pad_; }
+  /// The file holds no line at all.
+  [[nodiscard]] bool Leeg() const { return rijBegin_.empty(); }
+  /// kept: a longest line of exactly 80 characters makes a second, empty column.
+  [[nodiscard]] int Kolommen() const { return kolommen_; }
+  /// At least 1; a short last page counts.
+  [[nodiscard]] int Rijen() const;
+
+  /// The lines of one page, at most kRegels of at most kBreedte characters; a NUL byte shows as a
+  /// blank. On a failed read False and no lines, and Fout() tells why.
+  [[nodiscard]] bool Lees(int kolom, int rij, std::vector<std::string>& regels);
+
+  [[nodiscard]] const SysteemFout& Fout() const { return fout_; }
+
+ private:
+  std::filesystem::path pad_;
+  std::vector<std::uint64_t> rijBegin_;  // where each row begins in the file
+  int kolommen_ = 1;
+  SysteemFout fout_;
+};
+
+/// Copies a text line by line, each line ended by CR LF. It is written beside `naar` and takes its
+/// place when all is well; after a failure what `naar` held is as it was.
+[[nodiscard]] SysteemFout KopieerTekst(const std::filesystem::path& van,
+                                       const std::filesystem::path& naar);
+
+}  // namespace lb77
