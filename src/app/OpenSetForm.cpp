@@ -1,0 +1,25 @@
+#include "app/OpenSetForm.h"
+
+#include "app/Bestandensets.h"
+
+namespace lb77 {
+
+OpenSetForm::OpenSetForm(Hoofdmodule& hoofd, MenuWindow& menu)
+    : Formulier("OpenSetForm", "Open Bestandendset"), hoofd_(hoofd), menu_(menu) {
+  ZetEersteVeld(SetPicklist);
+  OKButton.BijKlik([this] { OKButtonKlik(); });
+  CancelButton.BijKlik([this] {
+    menu_.ZetMenu();
+    Sluit();
+  });
+}
+
+void OpenSetForm::BijLaden() {
+  LaadSetPicklist(hoofd_, menu_, SetPicklist);
+}
+
+void OpenSetForm::OKButtonKlik() {
+  if (OpenSetVanRij(hoofd_, menu_, SetPicklist.Tekst())) Sluit();
+}
+
+}  // namespace lb77

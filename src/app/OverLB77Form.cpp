@@ -1,0 +1,10 @@
+#include "app/OverLB77Form.h"
+
+namespace lb77 {
+
+OverLB77Form::OverLB77Form() : Formulier("OverLB77Form", "Over LB77 voor Windows") {
+  ZetEersteVeld(OKButton);
+  OKButton.BijKlik([this] { Sluit(); });
+}
+
+}  // namespace lb77

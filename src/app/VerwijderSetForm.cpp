@@ -1,0 +1,80 @@
+#include "app/VerwijderSetForm.h"
+
+#include <string>
+
+#include "app/Bestandensets.h"
+#include "app/SetVerwijderen.h"
+#include "text/Getallen.h"
+
+namespace lb77 {
+
+namespace {
+
+std::string SetSleutel(int index) {
+  return "Set" + GetalTekst(index);
+}
+
+}  // namespace
+
+VerwijderSetForm::VerwijderSetForm(Hoofdmodule& hoofd, MenuWindow& menu)
+    : Formulier("VerwijderSetForm", "Verwijder Bestandendset"), hoofd_(hoofd), menu_(menu) {
+  ZetEersteVeld(SetPicklist);
+  OKButton.BijKlik([this] { OKButtonKlik(); });
+  CancelButton.BijKlik([this] {
+    menu_.ZetMenu();
+    Sluit();
+  });
+}
+
+void VerwijderSetForm::BijLaden() {
+  LaadSetPicklist(hoofd_, menu_, SetPicklist);
+  DeleteNee.Zet(true);
+}
+
+void VerwijderSetForm::OKButtonKlik() {
+  KiesSet(hoofd_, SetPicklist.Tekst());
+  const bool gekozen = hoofd_.SetActief();
+  if (gekozen) {
+    Verwijder();
+  } else {
+    hoofd_.gesprek.Waarschuw(kGeenSetGekozen);
+  }
+  const bool leeg = hoofd_.Ini.SetOmschrijving(1).empty();
+  hoofd_.ActieveSetNaam = leeg ? kGeenSetAanwezig : kGeenSetActief;
+  menu_.ZetStatus();
+  menu_.ZetMenu();
+  if (gekozen) Sluit();
+}
+
+void VerwijderSetForm::Verwijder() {
+  hoofd_.bestanden.SluitAlles();
+  hoofd_.volgers = {};
+  const std::string naam = hoofd_.ActieveSetNaam;
+  const int index = hoofd_.Ini.BestandenSetIndex(naam);
+  if (index == 0) {
+    hoofd_.gesprek.Waarschuw("Bestandenset niet gevonden in LIJNBOOM.INI");
+    return;
+  }
+  HaalUitLijst(index);
+  if (!DeleteJa.Gekozen()) return;
+  if (IsSetNaam(naam)) {
+    VerwijderSetVanSchijf(hoofd_.gesprek, hoofd_.Ini.DataDir(), naam);
+  } else {
+    hoofd_.gesprek.Waarschuw(SetNaamFout(naam));
+  }
+}
+
+// The entries behind it move up, so that the list has no holes.
+void VerwijderSetForm::HaalUitLijst(int index) {
+  const int aantal = hoofd_.Ini.AantalBestandenSets();
+  for (int j = index; j < aantal; ++j) {
+    hoofd_.Ini.IniZet("Sets", SetSleutel(j),
+                      hoofd_.Ini.bestandenset(j + 1) + "," + hoofd_.Ini.BestandenSetOms(j + 1));
+  }
+  hoofd_.Ini.IniZet("Sets", SetSleutel(aantal), "");
+  hoofd_.Ini.IniZet("Systeem", "Set", "");
+  hoofd_.Ini.IniZet("Systeem", "SetOms", "");
+  hoofd_.Ini.IniSchrijf();
+}
+
+}  // namespace lb77
