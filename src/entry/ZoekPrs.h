@@ -37,19 +37,20 @@ class ZoekPrs final : public Formulier {
 
  private:
   void LaadPagina();
+  [[nodiscard]] bool IsToonbaar() const;
   void VulRij(int rij, std::int16_t nr);
-  void ToonOuder(Knop& knop, std::int16_t nr);
-  void VerbergRij(int rij);
-  [[nodiscard]] bool IsToonbaar(std::int16_t nr);
+  static void ToonOuder(Knop& knop, std::int16_t nr);
+  void ToonRij(int rij, bool zichtbaar);
+  void BeginBij(std::int32_t nr);
   void GaNaarRecord(std::int32_t nr);
-  [[nodiscard]] std::int32_t Einde();
-  [[nodiscard]] std::int32_t VorigeMetFilter();
-  void VorigeKlik();
   void VolgendeKlik();
+  void VorigeKlik();
+  [[nodiscard]] std::int32_t VorigeMetFilter();
   void NaarNrKlik();
   void FilterKlik();
   void InfoKlik(int rij);
   void KiesKlik(int rij);
+  void ZetHuidig(int rij);
   void BackKlik();
 
   Hoofdmodule& hoofd_;

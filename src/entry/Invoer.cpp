@@ -1,0 +1,97 @@
+#include "entry/Invoer.h"
+
+#include <cstddef>
+#include <optional>
+
+#include "app/Hoofdmodule.h"
+#include "text/Getallen.h"
+#include "text/Tekens.h"
+
+namespace lb77 {
+
+namespace {
+
+constexpr std::string_view kOnleesbaar = "?????";
+constexpr std::string_view kBestaatNiet = "Recordnummer bestaat niet";
+constexpr std::size_t kCijfers = 5;
+
+// The highest record number of the file; nothing when there is no such file.
+std::optional<std::int16_t> HoogsteNr(Hoofdmodule& hoofd, BestandSoort bestand) {
+  switch (bestand) {
+    case BestandSoort::Personen:
+      return hoofd.Persoon.AantalRecords();
+    case BestandSoort::Relaties:
+      return hoofd.Relatie.AantalRecords();
+    case BestandSoort::Opmerkingen:
+      return hoofd.Opmerking.AantalRecords();
+    case BestandSoort::Plaatsen:
+      return hoofd.Plaats.AantalRecords();
+  }
+  return std::nullopt;
+}
+
+// kept: one message for each character that is no digit.
+bool IsNumeriek(Gesprek& gesprek, std::string_view tekst) {
+  bool numeriek = true;
+  for (const char teken : tekst) {
+    if (IsCijfer(teken)) continue;
+    gesprek.Waarschuw("Recordnummer is niet numeriek");
+    numeriek = false;
+  }
+  return numeriek;
+}
+
+template <class Klasse>
+bool HeeftVervolg(Gesprek& gesprek, Klasse& klasse, std::int16_t nr, int vervolgtest) {
+  if (!klasse.Lees(nr)) {
+    gesprek.Waarschuw(kBestaatNiet);
+    return false;
+  }
+  if (vervolgtest == -1 && klasse.IsVolgRecord()) {
+    gesprek.Waarschuw("Record is een vervolgrecord");
+    return false;
+  }
+  if (vervolgtest == 1 && !klasse.IsVolgRecord()) {
+    gesprek.Waarschuw("Record is geen vervolgrecord");
+    return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+void HaalNaam(PersoonLB77& persoon, std::int16_t nr, std::string& voornaam, std::string& achternaam,
+              std::string& nrtekst) {
+  nrtekst = NrTekst(nr);
+  if (nr == 0) {
+    voornaam.clear();
+    achternaam.clear();
+  } else if (persoon.Lees(nr)) {
+    voornaam = persoon.VoorNaamTrue();
+    achternaam = persoon.AchterNaamTrue();
+  } else {
+    voornaam = achternaam = kOnleesbaar;
+  }
+}
+
+bool RecordNrGeldig(Hoofdmodule& hoofd, std::string_view tekst, BestandSoort bestand,
+                    int vervolgtest) {
+  const auto hoogste = HoogsteNr(hoofd, bestand);
+  if (!hoogste) return false;
+  const std::string_view cijfers = Trim(tekst.substr(0, kCijfers));
+  if (cijfers.empty() || !IsNumeriek(hoofd.gesprek, cijfers)) return false;
+  const auto nr = NaarInt16(Getalwaarde(cijfers));
+  if (!nr || *nr < 2 || *nr > *hoogste) {
+    hoofd.gesprek.Waarschuw(kBestaatNiet);
+    return false;
+  }
+  if (bestand == BestandSoort::Personen) {
+    return HeeftVervolg(hoofd.gesprek, hoofd.Persoon, *nr, vervolgtest);
+  }
+  if (bestand == BestandSoort::Relaties) {
+    return HeeftVervolg(hoofd.gesprek, hoofd.Relatie, *nr, vervolgtest);
+  }
+  return true;
+}
+
+}  // namespace lb77

@@ -1,0 +1,37 @@
+#include "entry/OKPersoon.h"
+
+#include "app/Hoofdmodule.h"
+#include "entry/PersoonInfo.h"
+#include "text/Getallen.h"
+#include "text/Tekens.h"
+
+namespace lb77 {
+
+OKPersoon::OKPersoon(Hoofdmodule& hoofd, std::string_view voornaam, std::string_view achternaam)
+    : Formulier("OKPersoon", "Zoek Persoon op Naam"), hoofd_(hoofd) {
+  const std::string naam = std::string(Trim(voornaam)) + " " + std::string(Trim(achternaam));
+  naam_ = Trim(naam);
+  InfoTekst.ZetAlleenLezen(true);
+  JaButton.BijKlik([this] { Sluit(); });
+  NeeButton.BijKlik([this] { NeeKlik(); });
+  ZetEersteVeld(JaButton);
+}
+
+void OKPersoon::BijLaden() {
+  const std::int16_t nr = hoofd_.volgers.HuidigPersoonNr;
+  PNr.ZetTekst(NrTekst(nr));
+  NaamVeld.ZetTekst(naam_);
+  InfoTekst.ZetTekst(PersoonInfo(hoofd_, nr));
+}
+
+bool OKPersoon::MagSluiten() {
+  NeeKlik();
+  return true;
+}
+
+void OKPersoon::NeeKlik() {
+  hoofd_.volgers.HuidigPersoonNr = 0;
+  Sluit();
+}
+
+}  // namespace lb77

@@ -1,0 +1,22 @@
+#include "entry/PersInfoForm.h"
+
+#include "app/Hoofdmodule.h"
+#include "entry/PersoonInfo.h"
+#include "text/Getallen.h"
+
+namespace lb77 {
+
+PersInfoForm::PersInfoForm(Hoofdmodule& hoofd)
+    : Formulier("PersInfoForm", "Info Persoon"), hoofd_(hoofd) {
+  InfoTekst.ZetAlleenLezen(true);
+  OKButton.BijKlik([this] { Sluit(); });
+  ZetEersteVeld(OKButton);
+}
+
+void PersInfoForm::BijLaden() {
+  const std::int16_t nr = hoofd_.volgers.HuidigPersoonNr;
+  PNr.ZetTekst(NrTekst(nr));
+  InfoTekst.ZetTekst(PersoonInfo(hoofd_, nr));
+}
+
+}  // namespace lb77

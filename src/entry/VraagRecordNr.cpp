@@ -1,0 +1,26 @@
+#include "entry/VraagRecordNr.h"
+
+#include <utility>
+
+#include "text/Getallen.h"
+
+namespace lb77 {
+
+VraagRecordNr::VraagRecordNr(std::string_view titel, Controle controle)
+    : Formulier("VraagRecordNr", titel) {
+  RecordNr.ZetFilter(AlleenCijfers);
+  RecordNr.ZetEnter(EnterSoort::OK);
+  if (controle) {
+    RecordNr.BijVerlaten([this, toets = std::move(controle)] { return toets(RecordNr.Tekst()); });
+  }
+  OKButton.BijKlik([this] { OKKlik(); });
+  BackButton.BijKlik([this] { Sluit(); });
+  ZetEersteVeld(RecordNr);
+}
+
+void VraagRecordNr::OKKlik() {
+  nr_ = Getalwaarde(RecordNr.Tekst());
+  Sluit();
+}
+
+}  // namespace lb77

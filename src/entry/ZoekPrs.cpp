@@ -1,0 +1,170 @@
+#include "entry/ZoekPrs.h"
+
+#include <algorithm>
+
+#include "app/Hoofdmodule.h"
+#include "entry/PersInfoForm.h"
+#include "entry/VraagFilter.h"
+#include "entry/VraagRecordNr.h"
+#include "text/Getallen.h"
+
+namespace lb77 {
+
+namespace {
+
+constexpr std::int32_t kEersteNr = 2;
+constexpr std::int32_t kTerug =
+    2 * ZoekPrs::kRijen - 1;  // from the last of a page to the first before
+
+constexpr std::string_view kStartFilter = "Start Filter";
+constexpr std::string_view kFilterUit = "Filter Uit";
+
+}  // namespace
+
+ZoekPrs::ZoekPrs(Hoofdmodule& hoofd) : Formulier("ZoekPrs", "Zoek Persoon"), hoofd_(hoofd) {
+  for (int rij = 1; rij <= kRijen; ++rij) {
+    RecordNrPrs(rij).BijKlik([this, rij] { KiesKlik(rij); });
+    InfoPersoon(rij).BijKlik([this, rij] { InfoKlik(rij); });
+    NaarPa(rij).BijKlik([this, rij] { GaNaarRecord(Getalwaarde(NaarPa(rij).Bijschrift())); });
+    NaarMa(rij).BijKlik([this, rij] { GaNaarRecord(Getalwaarde(NaarMa(rij).Bijschrift())); });
+  }
+  Vorige.BijKlik([this] { VorigeKlik(); });
+  Volgende.BijKlik([this] { VolgendeKlik(); });
+  NaarNr.BijKlik([this] { NaarNrKlik(); });
+  FilterButton.BijKlik([this] { FilterKlik(); });
+  BackButton.BijKlik([this] { BackKlik(); });
+  ZetEersteVeld(Volgende);
+}
+
+void ZoekPrs::BijLaden() {
+  filter_ = {};
+  FilterButton.ZetBijschrift(kStartFilter);
+  LaadPagina();
+}
+
+void ZoekPrs::LaadPagina() {
+  std::int16_t& huidig = hoofd_.volgers.HuidigPersoonNr;
+  std::int32_t nr = std::max<std::int32_t>(huidig, kEersteNr);
+  huidig = static_cast<std::int16_t>(nr);
+  int rij = 0;
+  for (; rij < kRijen && nr <= kMaxRecords; ++nr) {
+    const auto kandidaat = static_cast<std::int16_t>(nr);
+    if (!hoofd_.Persoon.Lees(kandidaat)) break;
+    if (!IsToonbaar()) continue;
+    VulRij(++rij, kandidaat);
+    huidig = kandidaat;
+  }
+  while (rij < kRijen) ToonRij(++rij, false);
+}
+
+// Does the person in the buffer belong in the list?
+bool ZoekPrs::IsToonbaar() const {
+  const PersoonLB77& persoon = hoofd_.Persoon;
+  return !persoon.IsVolgRecord() &&
+         filter_.LaatDoor(persoon.VoorNaamTrue(), persoon.AchterNaamTrue());
+}
+
+void ZoekPrs::VulRij(int rij, std::int16_t nr) {
+  PersoonLB77& persoon = hoofd_.Persoon;
+  ToonRij(rij, true);
+  RecordNrPrs(rij).ZetBijschrift(NrTekst(nr));
+  VoorNmPrs(rij).ZetTekst(persoon.VoorNaamTrue());
+  AchterNmPrs(rij).ZetTekst(persoon.AchterNaamTrue());
+  Periode(rij).ZetTekst(persoon.Periode(nr));
+  const std::int16_t ouders = persoon.RelNrOuders();
+  const bool bekend = ouders > 0 && hoofd_.Relatie.Lees(ouders);
+  ToonOuder(NaarPa(rij), bekend ? hoofd_.Relatie.ManNr() : std::int16_t{0});
+  ToonOuder(NaarMa(rij), bekend ? hoofd_.Relatie.VrouwNr() : std::int16_t{0});
+}
+
+// A parent who is not known has no button.
+void ZoekPrs::ToonOuder(Knop& knop, std::int16_t nr) {
+  knop.ZetBijschrift(NrTekst(nr));
+  knop.ZetZichtbaar(nr > 0);
+}
+
+void ZoekPrs::ToonRij(int rij, bool zichtbaar) {
+  RecordNrPrs(rij).ZetZichtbaar(zichtbaar);
+  VoorNmPrs(rij).ZetZichtbaar(zichtbaar);
+  AchterNmPrs(rij).ZetZichtbaar(zichtbaar);
+  Periode(rij).ZetZichtbaar(zichtbaar);
+  InfoPersoon(rij).ZetZichtbaar(zichtbaar);
+  NaarPa(rij).ZetZichtbaar(zichtbaar);
+  NaarMa(rij).ZetZichtbaar(zichtbaar);
+}
+
+// Starts the page at `nr`; one past the end shows the last records instead.
+void ZoekPrs::BeginBij(std::int32_t nr) {
+  const std::int32_t laatste = hoofd_.Persoon.AantalRecords();
+  if (nr > laatste) nr = laatste - (kRijen - 1);
+  GaNaarRecord(nr);
+}
+
+void ZoekPrs::GaNaarRecord(std::int32_t nr) {
+  hoofd_.volgers.HuidigPersoonNr = static_cast<std::int16_t>(std::max(nr, kEersteNr));
+  LaadPagina();
+}
+
+void ZoekPrs::VolgendeKlik() {
+  BeginBij(hoofd_.volgers.HuidigPersoonNr + 1);
+}
+
+void ZoekPrs::VorigeKlik() {
+  GaNaarRecord(filter_.FilterAan ? VorigeMetFilter() : hoofd_.volgers.HuidigPersoonNr - kTerug);
+}
+
+// As many persons back as without a filter, but only those that pass count.
+std::int32_t ZoekPrs::VorigeMetFilter() {
+  std::int16_t nr = hoofd_.volgers.HuidigPersoonNr;
+  for (int geteld = 0; geteld < kTerug && nr > kEersteNr;) {
+    --nr;
+    if (hoofd_.Persoon.Lees(nr) && IsToonbaar()) ++geteld;
+  }
+  return nr;
+}
+
+void ZoekPrs::NaarNrKlik() {
+  VraagRecordNr vraag("Ga naar Persoonsrecord");
+  hoofd_.gesprek.ToonModaal(vraag);
+  if (vraag.Nr() >= kEersteNr) {
+    BeginBij(vraag.Nr());
+  } else {
+    GaNaarRecord(hoofd_.volgers.HuidigPersoonNr - (kRijen - 1));
+  }
+}
+
+void ZoekPrs::FilterKlik() {
+  filter_ = {.FilterAan = !filter_.FilterAan, .FilterVoorNm = {}, .FilterAchterNm = {}};
+  if (filter_.FilterAan) {
+    VraagFilter vraag(filter_);
+    hoofd_.gesprek.ToonModaal(vraag);
+    filter_.FilterAan = !filter_.FilterVoorNm.empty() || !filter_.FilterAchterNm.empty();
+    if (filter_.FilterAan) hoofd_.volgers.HuidigPersoonNr = kEersteNr;
+  }
+  FilterButton.ZetBijschrift(filter_.FilterAan ? kFilterUit : kStartFilter);
+  LaadPagina();
+}
+
+// kept: a step to the next or the previous page starts from this person afterwards.
+void ZoekPrs::InfoKlik(int rij) {
+  ZetHuidig(rij);
+  PersInfoForm info(hoofd_);
+  hoofd_.gesprek.ToonModaal(info);
+}
+
+void ZoekPrs::KiesKlik(int rij) {
+  ZetHuidig(rij);
+  Sluit();
+}
+
+void ZoekPrs::ZetHuidig(int rij) {
+  const auto nr = NaarInt16(Getalwaarde(RecordNrPrs(rij).Bijschrift()));
+  hoofd_.volgers.HuidigPersoonNr = nr.value_or(std::int16_t{0});
+}
+
+void ZoekPrs::BackKlik() {
+  hoofd_.volgers.HuidigPersoonNr = 0;
+  Sluit();
+}
+
+}  // namespace lb77
