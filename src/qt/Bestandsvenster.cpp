@@ -1,0 +1,123 @@
+#include "qt/Bestandsvenster.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+
+#include "qt/Berichtvenster.h"
+#include "qt/Vertaling.h"
+#include "text/Unicode.h"
+
+namespace lb77 {
+
+namespace {
+
+QString Patronen(const QString& patroon) {
+  QStringList uit;
+  for (const QString& een : patroon.split(u';', Qt::SkipEmptyParts)) {
+    const QString schoon = een.trimmed();
+    if (schoon == QLatin1String("*.*")) {
+      uit += QStringLiteral("*");
+    } else {
+      uit << schoon << schoon.toLower() << schoon.toUpper();
+    }
+  }
+  uit.removeDuplicates();
+  return uit.join(u' ');
+}
+
+// Without the pattern that the name repeats between brackets.
+QString KaleNaam(QString naam) {
+  const qsizetype haak = naam.lastIndexOf(u" (");
+  return haak > 0 ? naam.left(haak) : naam;
+}
+
+QString Beginmap(const BestandsVraag& vraag, const VensterInstellingen& instellingen) {
+  const QString gevraagd = PadNaarQt(vraag.beginmap);
+  if (!gevraagd.isEmpty() && QDir(gevraagd).exists()) return gevraagd;
+  const QString laatste = instellingen.LaatsteMap(vraag.filter);
+  return !laatste.isEmpty() && QDir(laatste).exists() ? laatste : QDir::homePath();
+}
+
+void ZetWijze(QFileDialog& venster, const BestandsVraag& vraag) {
+  venster.setOption(QFileDialog::DontConfirmOverwrite);
+  switch (vraag.wijze) {
+    case BestandsWijze::Openen:
+      venster.setFileMode(QFileDialog::ExistingFile);
+      venster.setLabelText(QFileDialog::Accept, QStringLiteral("&Openen"));
+      break;
+    case BestandsWijze::Opslaan:
+      venster.setAcceptMode(QFileDialog::AcceptSave);
+      venster.setFileMode(QFileDialog::AnyFile);
+      venster.setLabelText(QFileDialog::Accept, QStringLiteral("Op&slaan"));
+      break;
+    case BestandsWijze::Map:
+      venster.setFileMode(QFileDialog::Directory);
+      venster.setOption(QFileDialog::ShowDirsOnly);
+      venster.setLabelText(QFileDialog::Accept, QStringLiteral("&Kiezen"));
+      break;
+  }
+  if (vraag.wijze != BestandsWijze::Map) venster.setNameFilters(Naamfilters(vraag.filter));
+}
+
+QString Titel(BestandsWijze wijze) {
+  switch (wijze) {
+    case BestandsWijze::Openen:
+      return QStringLiteral("Bestand openen");
+    case BestandsWijze::Opslaan:
+      return QStringLiteral("Bestand opslaan");
+    case BestandsWijze::Map:
+      return QStringLiteral("Map kiezen");
+  }
+  return {};
+}
+
+// The extension of the chosen filter, for a name that has none of its own.
+QString MetUitgang(const QString& pad, const QString& filter) {
+  if (!QFileInfo(pad).suffix().isEmpty() || filter.contains(QLatin1String("(*)"))) return pad;
+  const qsizetype punt = filter.indexOf(QLatin1String("(*."));
+  if (punt < 0) return pad;
+  const QString uitgang = filter.mid(punt + 2).section(u' ', 0, 0).remove(u')');
+  return pad + uitgang;
+}
+
+bool MagOverschrijven(QWidget& ouder, const QString& pad) {
+  if (!QFileInfo::exists(pad)) return true;
+  const std::string naam = VanQt(QFileInfo(pad).fileName()).tekst;
+  return ToonBericht(&ouder, BerichtSoort::Vraag, Knoppen::JaNee,
+                     "Het bestand " + naam + " bestaat al. Overschrijven ?") == Antwoord::Ja;
+}
+
+}  // namespace
+
+QStringList Naamfilters(std::string_view filter) {
+  const QStringList delen = NaarQt(filter).split(u'|');
+  QStringList uit;
+  for (qsizetype i = 0; i + 1 < delen.size(); i += 2) {
+    uit += QStringLiteral("%1 (%2)").arg(KaleNaam(delen.at(i)), Patronen(delen.at(i + 1)));
+  }
+  return uit;
+}
+
+std::optional<std::filesystem::path> KiesBestand(QWidget* ouder, const BestandsVraag& vraag,
+                                                 VensterInstellingen& instellingen) {
+  QFileDialog venster(ouder, Titel(vraag.wijze), Beginmap(vraag, instellingen));
+  ZetWijze(venster, vraag);
+  venster.setLabelText(QFileDialog::Reject, QStringLiteral("&Annuleren"));
+  venster.setLabelText(QFileDialog::FileName, QStringLiteral("Bestands&naam:"));
+  venster.setLabelText(QFileDialog::FileType, QStringLiteral("Soort bestand:"));
+  venster.setLabelText(QFileDialog::LookIn, QStringLiteral("Zoeken in:"));
+  while (venster.exec() == QDialog::Accepted) {
+    QString pad = venster.selectedFiles().value(0);
+    if (pad.isEmpty()) return std::nullopt;
+    if (vraag.wijze == BestandsWijze::Opslaan) {
+      pad = MetUitgang(pad, venster.selectedNameFilter());
+      if (!MagOverschrijven(venster, pad)) continue;
+    }
+    instellingen.BewaarLaatsteMap(vraag.filter, QFileInfo(pad).absolutePath());
+    return PadVanQt(QDir::toNativeSeparators(pad));
+  }
+  return std::nullopt;
+}
+
+}  // namespace lb77

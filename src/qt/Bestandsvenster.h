@@ -1,0 +1,25 @@
+// Questions for a file or a directory.
+#pragma once
+
+#include <QStringList>
+#include <QWidget>
+#include <filesystem>
+#include <optional>
+#include <string_view>
+
+#include "forms/Gesprek.h"
+#include "qt/VensterInstellingen.h"
+
+namespace lb77 {
+
+/// Asks over `ouder` (may be null); empty when the user cancelled. A file that would be written
+/// over is asked about. The directory is remembered for the next question with the same filter.
+[[nodiscard]] std::optional<std::filesystem::path> KiesBestand(QWidget* ouder,
+                                                               const BestandsVraag& vraag,
+                                                               VensterInstellingen& instellingen);
+
+/// "naam|patroon|naam|patroon" as the toolkit's filters. A pattern is given in lower and in upper
+/// case too, for file systems that tell them apart; "*.*" is every file.
+[[nodiscard]] QStringList Naamfilters(std::string_view filter);
+
+}  // namespace lb77

@@ -1,0 +1,212 @@
+#include "qt/Binder.h"
+
+#include <QCoreApplication>
+#include <QScopedValueRollback>
+#include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+#include "qt/Dialoog.h"
+#include "qt/Hoofdvenster.h"
+#include "qt/Indelingskeuze.h"
+#include "qt/Opmaker.h"
+#include "qt/Vertaling.h"
+
+namespace lb77 {
+
+namespace {
+
+constexpr int kRand = 16;  // pixels around the contents of a window
+constexpr QSize kKleinsteScherm{1024, 768};
+constexpr QSize kKader{16, 48};  // what a frame and a task bar take
+
+// The viewers fill the screen.
+bool HeeftBladzijde(const Formulier& formulier) {
+  const auto& alle = formulier.Bedieningen();
+  return std::any_of(alle.begin(), alle.end(), [](const Bediening* een) {
+    return een->Soort() == BedieningSoort::Tekstpagina;
+  });
+}
+
+}  // namespace
+
+Binder::Binder(Formulier& formulier, Gesprek& gesprek, VensterInstellingen& instellingen,
+               QWidget* ouder)
+    : formulier_(formulier), gesprek_(gesprek), instellingen_(instellingen) {
+  MaakVenster(ouder);
+  venster_->setObjectName(NaarQt(formulier.Naam()));
+  Bijwerken();
+}
+
+Binder::~Binder() {
+  if (venster_->isVisible() && !venster_->isMaximized()) {
+    instellingen_.BewaarMaat(formulier_.Naam(), venster_->size());
+  }
+  ++diepte_;  // what the widgets still send while they go is dropped
+  bronnen_.clear();
+  venster_.reset();
+}
+
+void Binder::MaakVenster(QWidget* ouder) {
+  Vensterhouder& houder = *this;
+  Bezorger& bezorger = *this;
+  if (HeeftMenu(formulier_)) {
+    auto hoofd = std::make_unique<Hoofdvenster>(formulier_, houder, bezorger);
+    hoofd_ = hoofd.get();
+    venster_ = std::move(hoofd);
+    MaakElementen(*hoofd_->centralWidget());
+  } else {
+    venster_ = std::make_unique<Dialoog>(houder, ouder);
+    auto* inhoud = new QWidget;
+    auto* rand = new QVBoxLayout(venster_.get());
+    rand->setContentsMargins(0, 0, 0, 0);
+    rand->addWidget(inhoud);
+    MaakElementen(*inhoud);
+    PasIn();
+  }
+  if (const auto maat = instellingen_.Maat(formulier_.Naam())) venster_->resize(*maat);
+}
+
+void Binder::MaakElementen(QWidget& inhoud) {
+  QWidget* vorige = nullptr;
+  for (Bediening* bediening : formulier_.Bedieningen()) {
+    std::unique_ptr<Element> element = MaakElement(*bediening, *this, inhoud);
+    if (!element) continue;
+    element->Bijwerken();
+    if (vorige) QWidget::setTabOrder(vorige, &element->Widget());
+    vorige = &element->Widget();
+    elementen_[bediening] = std::move(element);
+  }
+  auto* kolom = new QVBoxLayout(&inhoud);
+  kolom->setContentsMargins(kRand, kRand, kRand, kRand);
+  Opmaker opmaker(formulier_, inhoud,
+                  [this](const Bediening& een) -> Element& { return *elementen_.at(&een); });
+  opmaker.Maak(IndelingVoor(formulier_), *kolom);
+  for (auto& [bediening, element] : elementen_) Luister(*element);
+}
+
+void Binder::Luister(Element& element) {
+  for (QObject* waar :
+       {static_cast<QObject*>(&element.Widget()), static_cast<QObject*>(&element.Muisvlak()),
+        static_cast<QObject*>(element.Prompt())}) {
+    if (!waar || bronnen_.contains(waar)) continue;
+    bronnen_[waar] = &element;
+    waar->installEventFilter(this);
+  }
+}
+
+// A form that is larger than a small screen gets scroll bars.
+void Binder::PasIn() {
+  QScreen* scherm = venster_->screen();
+  const QSize ruimte = (scherm ? scherm->availableSize() : kKleinsteScherm) - kKader;
+  QLayout& rand = *venster_->layout();
+  QWidget* inhoud = rand.itemAt(0)->widget();
+  const QSize nodig = inhoud->minimumSizeHint();
+  if (nodig.width() > ruimte.width() || nodig.height() > ruimte.height()) {
+    auto* rol = new QScrollArea(venster_.get());
+    rol->setFrameShape(QFrame::NoFrame);
+    rol->setWidgetResizable(true);
+    rol->setFocusPolicy(Qt::NoFocus);
+    delete rand.replaceWidget(inhoud, rol);
+    rol->setWidget(inhoud);
+  }
+  venster_->resize(inhoud->sizeHint().boundedTo(ruimte));
+}
+
+Element* Binder::ElementVan(const QObject* waar) const {
+  const auto gevonden = bronnen_.find(waar);
+  return gevonden == bronnen_.end() ? nullptr : gevonden->second;
+}
+
+void Binder::Toon() {
+  ++diepte_;
+  venster_->setFocus(Qt::OtherFocusReason);  // else the toolkit chooses a first field of its own
+  if (HeeftBladzijde(formulier_)) {
+    venster_->showMaximized();
+  } else {
+    venster_->show();
+  }
+  venster_->raise();
+  venster_->activateWindow();
+}
+
+void Binder::Voer() {
+  --diepte_;
+  Bijwerken();
+  if (!formulier_.Gesloten() && !fout_) lus_.exec();
+  if (fout_) std::rethrow_exception(std::exchange(fout_, nullptr));
+}
+
+void Binder::Bijwerken() {
+  if (formulier_.Gesloten() || fout_) {
+    lus_.quit();
+    return;
+  }
+  const QScopedValueRollback<bool> eigen(eigenFocus_, true);
+  const QString titel = NaarQt(formulier_.Titel());
+  if (venster_->windowTitle() != titel) venster_->setWindowTitle(titel);
+  if (formulier_.Bezig()) {
+    venster_->setCursor(Qt::BusyCursor);
+  } else {
+    venster_->unsetCursor();
+  }
+  if (formulier_.Verborgen() && venster_->isVisible()) venster_->hide();
+  for (auto& [bediening, element] : elementen_) element->Bijwerken();
+  if (hoofd_) hoofd_->Bijwerken();
+  VolgFocus();
+}
+
+void Binder::Ververs() {
+  Bijwerken();
+  const QScopedValueRollback<bool> bezig(verversend_, true);
+  formulier_.ZetVerversing(true);
+  QCoreApplication::processEvents();
+  formulier_.ZetVerversing(false);
+}
+
+void Binder::Verwerk(const std::function<void()>& doe) {
+  ++diepte_;
+  try {
+    doe();
+  } catch (...) {
+    fout_ = std::current_exception();  // no exception may pass through the toolkit
+  }
+  --diepte_;
+  Bijwerken();
+}
+
+bool Binder::Geblokkeerd() const {
+  return formulier_.Gesloten() || fout_ || (diepte_ > 0 && !verversend_);
+}
+
+void Binder::Klik(Bediening& bediening) {
+  if (!Geblokkeerd()) Verwerk([&] { formulier_.Klik(bediening); });
+}
+
+void Binder::Dubbelklik(Bediening& bediening) {
+  if (!Geblokkeerd()) Verwerk([&] { formulier_.Dubbelklik(bediening); });
+}
+
+void Binder::Kies(Lijst& lijst, int index) {
+  if (!Geblokkeerd()) Verwerk([&] { formulier_.Kies(lijst, index); });
+}
+
+void Binder::Bewerkt(Invoerveld& veld, const std::string& tekst, bool geweigerd) {
+  if (Geblokkeerd()) return;
+  Verwerk([&] {
+    formulier_.Bewerkt(veld, tekst);
+    if (geweigerd && !verversend_) gesprek_.Waarschuw("Dit teken kan niet worden opgeslagen");
+  });
+}
+
+void Binder::SluitVenster() {
+  if (!Geblokkeerd()) Verwerk([&] { formulier_.VraagSluiten(); });
+}
+
+void Binder::Verplaatst(QPoint plek) {
+  formulier_.ZetPositie({plek.x(), plek.y()});
+}
+
+}  // namespace lb77

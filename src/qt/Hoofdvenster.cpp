@@ -1,0 +1,128 @@
+#include "qt/Hoofdvenster.h"
+
+#include <QGuiApplication>
+#include <QMenuBar>
+#include <QScreen>
+#include <QStatusBar>
+#include <algorithm>
+
+#include "qt/Vertaling.h"
+#include "qt/Voorblad.h"
+
+namespace lb77 {
+
+namespace {
+
+constexpr QSize kBeginmaat{900, 560};
+
+std::vector<MenuKeuze*> Keuzes(const Formulier& formulier) {
+  std::vector<MenuKeuze*> uit;
+  for (Bediening* bediening : formulier.Bedieningen()) {
+    if (bediening->Soort() == BedieningSoort::MenuKeuze) {
+      uit.push_back(static_cast<MenuKeuze*>(bediening));
+    }
+  }
+  return uit;
+}
+
+const Statusbalk* ZoekStatus(const Formulier& formulier) {
+  for (const Bediening* bediening : formulier.Bedieningen()) {
+    if (bediening->Soort() == BedieningSoort::Statusbalk) {
+      return static_cast<const Statusbalk*>(bediening);
+    }
+  }
+  return nullptr;
+}
+
+// A stored place on a screen that is no longer there would hide the window.
+bool InBeeld(QPoint plek) {
+  const auto schermen = QGuiApplication::screens();
+  return std::any_of(schermen.begin(), schermen.end(), [plek](const QScreen* scherm) {
+    return scherm->availableGeometry().adjusted(0, 0, -60, -60).contains(plek);
+  });
+}
+
+}  // namespace
+
+bool HeeftMenu(const Formulier& formulier) {
+  return !Keuzes(formulier).empty();
+}
+
+Hoofdvenster::Hoofdvenster(Formulier& formulier, Vensterhouder& houder, Bezorger& bezorger)
+    : formulier_(formulier),
+      houder_(houder),
+      voorblad_(new Voorblad(this)),
+      status_(new QLabel(this)) {
+  MaakMenus(bezorger);
+  setCentralWidget(voorblad_);
+  status_->setTextFormat(Qt::PlainText);
+  status_->setContentsMargins(8, 3, 8, 3);
+  statusBar()->addWidget(status_, 1);
+  if (const Statusbalk* balk = ZoekStatus(formulier)) status_->setObjectName(NaarQt(balk->Naam()));
+  resize(kBeginmaat);
+  const auto& plek = formulier.Positie();
+  if (plek && InBeeld({plek->x, plek->y})) move(plek->x, plek->y);
+}
+
+bool Hoofdvenster::IsMenu(const MenuKeuze& keuze) const {
+  if (keuze.Menu().empty()) return true;
+  const std::vector<MenuKeuze*> alle = Keuzes(formulier_);
+  return std::any_of(alle.begin(), alle.end(),
+                     [&](const MenuKeuze* een) { return een->Menu() == keuze.Naam(); });
+}
+
+void Hoofdvenster::MaakMenus(Bezorger& bezorger) {
+  for (MenuKeuze* keuze : Keuzes(formulier_)) MaakKeuze(*keuze, bezorger);
+}
+
+void Hoofdvenster::MaakKeuze(MenuKeuze& keuze, Bezorger& bezorger) {
+  const auto boven = menus_.find(keuze.Menu());
+  QMenu* const ouder = boven == menus_.end() ? nullptr : boven->second;
+  QAction* actie = nullptr;
+  if (IsMenu(keuze)) {
+    QMenu* menu = ouder ? ouder->addMenu(QString()) : menuBar()->addMenu(QString());
+    menus_[keuze.Naam()] = menu;
+    actie = menu->menuAction();
+  } else {
+    actie = ouder ? ouder->addAction(QString()) : menuBar()->addAction(QString());
+    connect(actie, &QAction::triggered, this, [&keuze, &bezorger] { bezorger.Klik(keuze); });
+  }
+  actie->setObjectName(NaarQt(keuze.Naam()));
+  actie->setMenuRole(QAction::NoRole);
+  keuzes_.push_back({&keuze, actie});
+}
+
+void Hoofdvenster::Bijwerken() {
+  for (const Keuze& keuze : keuzes_) {
+    keuze.actie->setText(NaarQt(keuze.bron->Bijschrift()));
+    keuze.actie->setEnabled(keuze.bron->Ingeschakeld());
+    keuze.actie->setVisible(keuze.bron->Zichtbaar());
+  }
+  const Statusbalk* balk = ZoekStatus(formulier_);
+  const QString tekst = balk ? NaarQt(balk->Tekst()) : QString();
+  if (status_->text() != tekst) status_->setText(tekst);
+  voorblad_->ZetTekst(NaarQt(formulier_.Titel()), tekst);
+}
+
+QAction* Hoofdvenster::Actie(std::string_view naam) const {
+  for (const Keuze& keuze : keuzes_) {
+    if (keuze.bron->Naam() == naam) return keuze.actie;
+  }
+  return nullptr;
+}
+
+void Hoofdvenster::closeEvent(QCloseEvent* sluiten) {
+  sluiten->ignore();
+  houder_.SluitVenster();
+}
+
+void Hoofdvenster::keyPressEvent(QKeyEvent* toets) {
+  houder_.ToetsInVenster(*toets);
+}
+
+void Hoofdvenster::moveEvent(QMoveEvent* plek) {
+  QMainWindow::moveEvent(plek);
+  if (isVisible()) houder_.Verplaatst(pos());
+}
+
+}  // namespace lb77

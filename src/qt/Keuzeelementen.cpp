@@ -1,0 +1,158 @@
+#include "qt/Keuzeelementen.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QStringList>
+#include <string>
+#include <vector>
+
+#include "qt/Stijl.h"
+#include "qt/Vertaling.h"
+
+namespace lb77 {
+
+namespace {
+
+constexpr int kLijstRegels = 8;
+constexpr int kLijstBreedte = 44;  // characters
+
+class KnopElement : public Element {
+ public:
+  KnopElement(Bediening& bediening, Bezorger& bezorger, QAbstractButton& knop)
+      : Element(bediening), knop_(knop) {
+    ZetWidget(knop_);
+    knop_.setFocusPolicy(Qt::TabFocus);
+    QObject::connect(&knop_, &QAbstractButton::clicked, &knop_,
+                     [&bediening, &bezorger] { bezorger.Klik(bediening); });
+  }
+
+ protected:
+  void Toon() override {
+    const QString tekst = NaarQt(Bron().Bijschrift());
+    if (knop_.text() != tekst) knop_.setText(tekst);
+  }
+  [[nodiscard]] QAbstractButton& Knopvlak() const { return knop_; }
+
+ private:
+  QAbstractButton& knop_;
+};
+
+class SchakelElement final : public KnopElement {
+ public:
+  SchakelElement(Schakelaar& schakelaar, Bezorger& bezorger, QAbstractButton& knop)
+      : KnopElement(schakelaar, bezorger, knop), schakelaar_(schakelaar) {
+    knop.setAutoExclusive(false);
+  }
+
+ private:
+  void Toon() override {
+    KnopElement::Toon();
+    const QSignalBlocker stil(Knopvlak());
+    Knopvlak().setChecked(schakelaar_.Gekozen());
+  }
+
+  Schakelaar& schakelaar_;
+};
+
+QStringList Vertaald(const std::vector<std::string>& rijen) {
+  QStringList uit;
+  for (const std::string& rij : rijen) uit += NaarQt(rij);
+  return uit;
+}
+
+class KeuzevakElement final : public Element {
+ public:
+  KeuzevakElement(Lijst& lijst, Bezorger& bezorger, QWidget& ouder)
+      : Element(lijst), lijst_(lijst), vak_(*new QComboBox(&ouder)) {
+    ZetWidget(vak_);
+    vak_.setFocusPolicy(Qt::TabFocus);
+    vak_.setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    QObject::connect(&vak_, &QComboBox::activated, &vak_,
+                     [&lijst, &bezorger](int index) { bezorger.Kies(lijst, index); });
+  }
+
+ private:
+  void Toon() override {
+    const QSignalBlocker stil(vak_);
+    if (rijen_ != lijst_.Rijen() || vak_.count() != static_cast<int>(rijen_.size())) {
+      rijen_ = lijst_.Rijen();
+      vak_.clear();
+      vak_.addItems(Vertaald(rijen_));
+    }
+    vak_.setCurrentIndex(lijst_.Index());
+  }
+
+  Lijst& lijst_;
+  QComboBox& vak_;
+  std::vector<std::string> rijen_;
+};
+
+class KeuzelijstElement final : public Element {
+ public:
+  KeuzelijstElement(Lijst& lijst, Bezorger& bezorger, QWidget& ouder)
+      : Element(lijst), lijst_(lijst), vak_(*new QListWidget(&ouder)) {
+    ZetWidget(vak_);
+    vak_.setFocusPolicy(Qt::TabFocus);
+    vak_.setUniformItemSizes(true);
+    ZetTekenBreedte(vak_, kLijstBreedte, false);
+    vak_.setMinimumHeight(kLijstRegels * (vak_.fontMetrics().lineSpacing() + 2));
+    Verbind(bezorger);
+  }
+  QWidget& Muisvlak() const override { return *vak_.viewport(); }
+
+ private:
+  void Verbind(Bezorger& bezorger) {
+    QObject::connect(&vak_, &QListWidget::currentRowChanged, &vak_,
+                     [this, &bezorger](int rij) { bezorger.Kies(lijst_, rij); });
+    QObject::connect(&vak_, &QListWidget::itemClicked, &vak_, [this, &bezorger] {
+      if (lijst_.HeeftKlik()) bezorger.Klik(lijst_);
+    });
+    QObject::connect(&vak_, &QListWidget::itemDoubleClicked, &vak_,
+                     [this, &bezorger] { bezorger.Dubbelklik(lijst_); });
+  }
+
+  void Toon() override {
+    const QSignalBlocker stil(vak_);
+    if (rijen_ != lijst_.Rijen()) {
+      rijen_ = lijst_.Rijen();
+      vak_.clear();
+      vak_.addItems(Vertaald(rijen_));
+    }
+    if (vak_.currentRow() != lijst_.Index()) vak_.setCurrentRow(lijst_.Index());
+  }
+
+  Lijst& lijst_;
+  QListWidget& vak_;
+  std::vector<std::string> rijen_;
+};
+
+}  // namespace
+
+std::unique_ptr<Element> MaakKnopElement(Bediening& knop, Bezorger& bezorger, QWidget& ouder) {
+  auto& druk = *new QPushButton(&ouder);
+  druk.setAutoDefault(false);
+  return std::make_unique<KnopElement>(knop, bezorger, druk);
+}
+
+std::unique_ptr<Element> MaakSchakelElement(Schakelaar& schakelaar, Bezorger& bezorger,
+                                            QWidget& ouder) {
+  if (schakelaar.Soort() == BedieningSoort::Optie) {
+    return std::make_unique<SchakelElement>(schakelaar, bezorger, *new QRadioButton(&ouder));
+  }
+  return std::make_unique<SchakelElement>(schakelaar, bezorger, *new QCheckBox(&ouder));
+}
+
+std::unique_ptr<Element> MaakKeuzevakElement(Lijst& lijst, Bezorger& bezorger, QWidget& ouder) {
+  return std::make_unique<KeuzevakElement>(lijst, bezorger, ouder);
+}
+
+std::unique_ptr<Element> MaakKeuzelijstElement(Lijst& lijst, Bezorger& bezorger, QWidget& ouder) {
+  return std::make_unique<KeuzelijstElement>(lijst, bezorger, ouder);
+}
+
+}  // namespace lb77

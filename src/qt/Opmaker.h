@@ -1,0 +1,47 @@
+// Turns a layout into placed widgets.
+#pragma once
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QWidget>
+#include <functional>
+
+#include "forms/Formulier.h"
+#include "qt/Element.h"
+#include "qt/Indeling.h"
+
+namespace lb77 {
+
+/// Places the widgets of a form's elements in a window.
+class Opmaker {
+ public:
+  /// `element` gives the element of a control.
+  Opmaker(const Formulier& formulier, QWidget& ouder,
+          std::function<Element&(const Bediening&)> element);
+
+  /// Makes the whole layout of the window's contents.
+  void Maak(const Blok& blok, QBoxLayout& in);
+
+ private:
+  void Kolom(const Blok& blok, QBoxLayout& in);
+  void Rij(const Blok& blok, QBoxLayout& in);
+  void Groep(const Blok& blok, QBoxLayout& in);
+  void Knoppen(const Blok& blok, QBoxLayout& in);
+  void Velden(const Blok& blok, QBoxLayout& in);
+  void Tabel(const Blok& blok, QBoxLayout& in);
+
+  void Veldrij(const Blok& blok, QGridLayout& rooster);
+  void EnkelVeld(Element& element, QGridLayout& rooster);
+  /// The line of a table that stands under its heading.
+  void Tabelkolom(const Blok& blok, int kolom, QGridLayout& rooster);
+  /// A widget with its prompt, if it has one, before it.
+  void Naast(Element& element, QBoxLayout& in);
+
+  [[nodiscard]] std::vector<Element*> Elementen(const Blok& blok) const;
+
+  const Formulier& formulier_;
+  QWidget& ouder_;
+  std::function<Element&(const Bediening&)> element_;
+};
+
+}  // namespace lb77

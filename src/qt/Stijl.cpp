@@ -1,0 +1,76 @@
+#include "qt/Stijl.h"
+
+#include <QDialogButtonBox>
+#include <QFontDatabase>
+#include <QFontInfo>
+#include <QFontMetrics>
+#include <QLibraryInfo>
+#include <QPalette>
+#include <QProxyStyle>
+#include <QTranslator>
+#include <algorithm>
+
+#include "qt/Woorden.h"
+
+namespace lb77 {
+
+namespace {
+
+constexpr qreal kKleinsteLetter = 11.0;  // points
+constexpr int kRuimte = 18;              // pixels: frame and margins of a field
+
+class Huisstijl final : public QProxyStyle {
+ public:
+  using QProxyStyle::QProxyStyle;
+  int styleHint(StyleHint vraag, const QStyleOption* keuze, const QWidget* widget,
+                QStyleHintReturn* uit) const override {
+    if (vraag == SH_DialogButtonLayout) return QDialogButtonBox::WinLayout;
+    return QProxyStyle::styleHint(vraag, keuze, widget, uit);
+  }
+};
+
+}  // namespace
+
+void ZetStijl(QApplication& programma) {
+  QApplication::setStyle(new Huisstijl());
+  QFont letter = QApplication::font();
+  letter.setPointSizeF(std::max(letter.pointSizeF(), kKleinsteLetter));
+  QApplication::setFont(letter);
+  auto* woorden = new Woorden(&programma);
+  QApplication::installTranslator(woorden);
+}
+
+QFont VasteLetter(qreal punten) {
+  QFont letter(QStringLiteral("Courier New"));
+  letter.setStyleHint(QFont::Monospace);
+  letter.setFixedPitch(true);
+  if (!QFontInfo(letter).fixedPitch()) letter = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  letter.setPointSizeF(std::max(punten, 1.0));
+  return letter;
+}
+
+QFont Vet(QFont letter) {
+  letter.setWeight(QFont::DemiBold);
+  return letter;
+}
+
+void ZetTekenBreedte(QWidget& widget, int tekens, bool vast) {
+  const int breedte = tekens * widget.fontMetrics().horizontalAdvance(u'n') + kRuimte;
+  widget.setMinimumWidth(breedte);
+  if (vast) widget.setMaximumWidth(breedte);
+}
+
+void ToonAlleenLezen(QWidget& veld, bool alleenLezen) {
+  QPalette kleuren = QApplication::palette(&veld);
+  if (alleenLezen) kleuren.setColor(QPalette::Base, kleuren.color(QPalette::Window));
+  veld.setPalette(kleuren);
+}
+
+void ZetPapier(QWidget& widget) {
+  QPalette kleuren = widget.palette();
+  kleuren.setColor(QPalette::Base, Qt::white);
+  kleuren.setColor(QPalette::Text, QColor(0x1c, 0x1c, 0x1c));
+  widget.setPalette(kleuren);
+}
+
+}  // namespace lb77

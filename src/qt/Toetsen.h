@@ -1,0 +1,18 @@
+// Key presses of the toolkit as the forms see them.
+#pragma once
+
+#include <QKeyEvent>
+#include <optional>
+
+#include "forms/Toets.h"
+
+namespace lb77 {
+
+/// The key as a form's event; nothing for a key that is no business of a form: a modifier by
+/// itself, a combination with Ctrl, Alt or Meta, and a repeat of Enter or Escape while it is held.
+[[nodiscard]] std::optional<ToetsGebeurtenis> NaarToets(const QKeyEvent& toets);
+
+/// The text that the key types, empty when it types none.
+[[nodiscard]] QString GetypteTekst(const QKeyEvent& toets);
+
+}  // namespace lb77

@@ -1,0 +1,24 @@
+// What a window hands to the binder that owns it.
+#pragma once
+
+#include <QKeyEvent>
+#include <QPoint>
+
+namespace lb77 {
+
+/// The binder as its window sees it.
+class Vensterhouder {
+ public:
+  Vensterhouder() = default;
+  virtual ~Vensterhouder() = default;
+  Vensterhouder(const Vensterhouder&) = delete;
+  Vensterhouder& operator=(const Vensterhouder&) = delete;
+
+  /// The frame's close.
+  virtual void SluitVenster() = 0;
+  /// A key that no control has the focus for.
+  virtual void ToetsInVenster(const QKeyEvent& toets) = 0;
+  virtual void Verplaatst(QPoint plek) = 0;
+};
+
+}  // namespace lb77

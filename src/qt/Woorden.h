@@ -1,0 +1,17 @@
+// Dutch words for the toolkit's own menus and dialogs.
+#pragma once
+
+#include <QTranslator>
+
+namespace lb77 {
+
+/// Knows the texts that a user of the program meets; the rest stays as the toolkit has it.
+class Woorden final : public QTranslator {
+ public:
+  using QTranslator::QTranslator;
+  [[nodiscard]] QString translate(const char* omgeving, const char* bron, const char* uitleg,
+                                  int aantal) const override;
+  [[nodiscard]] bool isEmpty() const override { return false; }
+};
+
+}  // namespace lb77

@@ -1,0 +1,20 @@
+// All layouts, one function an area.
+#pragma once
+
+#include <vector>
+
+#include "qt/Indeling.h"
+
+namespace lb77::indeling {
+
+[[nodiscard]] std::vector<Indeling> Sets();
+[[nodiscard]] std::vector<Indeling> Instellen();
+[[nodiscard]] std::vector<Indeling> Zoeken();
+[[nodiscard]] std::vector<Indeling> Bekijken();
+[[nodiscard]] std::vector<Indeling> Kwartierstaat();
+[[nodiscard]] std::vector<Indeling> Uitwisseling();
+
+/// Those of all areas.
+[[nodiscard]] std::vector<Indeling> Alle();
+
+}  // namespace lb77::indeling

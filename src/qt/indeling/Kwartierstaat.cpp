@@ -1,0 +1,71 @@
+// The chain of forms of the ancestor report.
+#include "qt/indeling/Indelingen.h"
+
+namespace lb77::indeling {
+
+namespace {
+
+Blok PersoonPrompt() {
+  return Kolom({
+      "VraagLabel",
+      Velden({"RecordNr", "VoorNm", "AchterNm"}),
+      Knoppen({"ZoekButton"}, {"OKButton", "BackButton"}),
+  });
+}
+
+Blok Opties() {
+  return Kolom({
+      Groep("Proband",
+            {Velden({Rij({"NrProband", "Periode"}), Rij({"VoorNmProband", "AchterNmProband"})})}),
+      Groep("Kwartieren", {Velden({
+                              Rij({"KwNrProband", "VanafKwartier", "MaxGen"}),
+                              "BroerZusBox",
+                              "KwHerhaalBox",
+                          })}),
+      Groep("Uitvoer", {Velden({
+                           "OokNrsBox",
+                           "OokOpmBox",
+                           "InHTMLBox",
+                           "CopyrightBox",
+                           "OokLB77Box",
+                           "TitelTekst",
+                           "Inleiding1",
+                           "Inleiding2",
+                           "Inleiding3",
+                       })}),
+      Knoppen({"OKButton", "BackButton"}),
+  });
+}
+
+Blok InternetOpties() {
+  return Kolom({
+      Groep("E-mail", {Velden({"EmailAdres", "EmailTekst"})}),
+      Groep("Home Page", {Velden({"HomePageURL", "URLLabelTekst", "URLTekstTekst"})}),
+      Knoppen({"OKButton", "BackButton"}),
+  });
+}
+
+}  // namespace
+
+std::vector<Indeling> Kwartierstaat() {
+  return {
+      {"KwstTxtPrs", PersoonPrompt()},
+      {"KwstTxtParam", Opties()},
+      {"KwHTMLParam", InternetOpties()},
+      {"KwstBereken",
+       Kolom({
+           "OpbouwLabel",
+           Velden({Rij({"PersNrLabel", "PersoonsNr"}), Rij({"KwartierenLabel", "Kwartieren"})}),
+           Velden({"GeduldLabel", "MaximumLabel"}),
+           Knoppen({"OKButton", "BackButton"}),
+       })},
+      {"KwstMaakTemp", Kolom({
+                           "SchrijfLabel",
+                           Velden({Rij({"KwartierenLabel", "Kwartieren"})}),
+                           "GeduldLabel",
+                           Knoppen({"OKButton", "BackButton"}),
+                       })},
+  };
+}
+
+}  // namespace lb77::indeling
