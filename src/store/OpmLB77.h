@@ -6,7 +6,9 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -26,6 +28,9 @@ struct OpmVindplaats {
   std::int16_t Nr = 0;      ///< its record; 0 when there is no such line
   std::int16_t Vorige = 0;  ///< first record of the owner's remark before it; 0 for the first
 };
+
+/// The rubrics of a code and one more: the bits together, negative when either is.
+std::int16_t OpmCodeMet(std::int16_t code, std::int16_t rubriek);
 
 /// Holds one line. Reading and writing go by HuidigOpmNr.
 class OpmLB77 final : public RecordRaam {
@@ -95,10 +100,45 @@ class OpmLB77 final : public RecordRaam {
   struct Vondst;
   struct Opdracht;
 
+  /// What the owner of a remark knows of its remarks.
+  struct Eigenaar {
+    std::int16_t opmRecord = 0;
+    std::int16_t opmCode = 0;
+  };
+  /// A walk, bounded by the number of records.
+  struct Wandeling {
+    std::int16_t aantal = 0;
+    std::int32_t stappen = 0;
+  };
+  enum class Stap { Gelukt, FouteVerwijzing, Leesfout };
+
   bool IsGat(Soort soort) const override;
   void HerstelSonde(Soort soort) override;
+  [[nodiscard]] bool IsInGebruik() const override;
 
+  Stap Betreed(std::int16_t nr, Wandeling& wandeling);
   Vondst Zoek(const Zoekvraag& vraag);
+  Vondst ZoekRegel(std::int16_t eerste, std::int16_t regel, Wandeling& wandeling);
+  [[nodiscard]] bool LoopKeten(std::int16_t begin, std::int16_t& laatste, std::int16_t& code);
+
+  [[nodiscard]] bool SchrijfRegel(Opdracht& opdracht, std::size_t i);
+  [[nodiscard]] bool GeefVrij(const Opdracht& opdracht, std::size_t i);
+  [[nodiscard]] bool MaakLos(const Opdracht& opdracht, std::int16_t volgende);
+  [[nodiscard]] bool Herschrijf(const Opdracht& opdracht, std::size_t i);
+  [[nodiscard]] bool VoegToe(Opdracht& opdracht, std::size_t i);
+  [[nodiscard]] bool Koppel(std::int16_t nr, const Veld& schakel, std::int16_t volgende);
+  /// Takes a free record for a line, fills and counts it; 0 after a message.
+  std::int16_t NeemRecord(const Opdracht& opdracht, std::size_t i);
+  std::int16_t Kandidaat();
+  std::int16_t ZoekVrij(std::int16_t vanaf);
+  [[nodiscard]] bool TelGebruikt(std::int16_t nr);
+  [[nodiscard]] bool LeesAdminVast();
+  [[nodiscard]] bool LeesOpmerking(std::int16_t nr);
+  [[nodiscard]] bool BewaarOpmerking(std::string_view fout);
+  std::optional<Eigenaar> LeesEigenaar(const Opdracht& opdracht);
+  [[nodiscard]] bool SchrijfEigenaar(const Opdracht& opdracht, const Eigenaar& eigenaar,
+                                     std::string_view persoonFout);
+
   PersoonLB77& persoon_;
   RelatieLB77& relatie_;
 };

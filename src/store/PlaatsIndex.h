@@ -24,7 +24,7 @@ class PlaatsIndex {
   static std::string Sleutel(std::string_view windows);
 
   /// Forgets everything.
-  void Maak();
+  void Wis();
   /// Adds the next place.
   void Voeg(std::string sleutel);
   /// Adds the next place as one that can't be used.

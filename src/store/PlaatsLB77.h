@@ -60,11 +60,11 @@ class PlaatsLB77 final : public RecordRaam {
   void WerkIndexBij(std::int16_t hoogste);
   void MeldStoring(const PlaatsStoring& storing);
   std::optional<std::int16_t> Doorzoek(const Zoekvraag& zoek);
-  std::int16_t VoegToe(const Zoekvraag& zoek, std::int16_t Nr);
+  std::int16_t VoegToe(const Zoekvraag& zoek, std::int32_t nr);
   std::string NaamVan(std::int16_t recordNr);
 
   PlaatsIndex index_;
-  std::uint64_t indexStand_ = 0;
+  std::optional<std::uint64_t> indexStand_;  ///< the file's state that the index tells of
 };
 
 }  // namespace lb77

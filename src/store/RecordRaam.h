@@ -4,7 +4,6 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -33,6 +32,7 @@ struct RaamTabel {
   std::string_view leesAdminFout;  ///< message of a record 1 that can't be read
   std::string_view schrijfAdminFout;
   std::string_view aantalFout;  ///< warning of a wrong count; empty when there is none
+  std::int16_t laagste;         ///< what AantalRecords gives when no record is found at all
 };
 
 /// Holds one record. Reading replaces it; every write reaches the file at once. A failure is shown
@@ -77,25 +77,29 @@ class RecordRaam {
 
   enum class Soort { Gewoon, Admin };
 
-  /// Reads a record into the buffer. Absent records fail silently.
-  [[nodiscard]] bool LeesRecord(std::int32_t nr);
-  /// Writes the buffer and makes it the buffer's record; without a message.
-  [[nodiscard]] SysteemFout SchrijfStil(std::int32_t nr);
-  /// The same, with the message of a failed write.
-  [[nodiscard]] bool SchrijfRecord(std::int32_t nr);
-  /// Writes an empty record at `nr`, raises the count in record 1 and reads `nr` back. A record
-  /// that is in use is never overwritten: that fails with a message.
-  [[nodiscard]] bool NieuwRecord(std::int32_t nr);
-  /// Writes an empty record at `nr`; the first step of NieuwRecord.
-  [[nodiscard]] bool SchrijfLeeg(std::int32_t nr);
-  /// Raises the count of the admin record in the buffer; shows the message when it is full.
-  [[nodiscard]] bool VerhoogAantal();
-  /// Reads record 1 without a message; an error of the system is in the result.
-  struct AdminUitslag {
+  /// What came of a read or a write, without a message shown.
+  struct Uitslag {
     bool gelukt = false;
-    SysteemFout fout;
+    SysteemFout fout;  ///< of the system; none when the record is merely absent
   };
-  AdminUitslag LeesAdminStil();
+
+  /// Reads a record into the buffer, or empties it. An absent record fails silently.
+  [[nodiscard]] bool LeesRecord(std::int32_t nr);
+  /// The same without any message.
+  Uitslag LeesStil(std::int32_t nr, Soort soort = Soort::Gewoon);
+  /// Writes the buffer and makes it the buffer's record.
+  [[nodiscard]] bool SchrijfRecord(std::int32_t nr);
+  /// The same without any message.
+  [[nodiscard]] SysteemFout SchrijfStil(std::int32_t nr);
+  /// Writes an empty record at `nr`, raises the count in record 1 and reads `nr` back.
+  [[nodiscard]] bool NieuwRecord(std::int32_t nr);
+  /// Writes an empty record at `nr`, the first step of a new one. A record that is in use is never
+  /// overwritten: that fails with a message.
+  [[nodiscard]] bool SchrijfLeeg(std::int32_t nr);
+  /// Raises the count of the admin record in the buffer; fails with a message when it is full.
+  [[nodiscard]] bool VerhoogAantal();
+  /// The highest number that can be read, from `vanaf` downward.
+  std::int16_t ZoekHoogste(std::int32_t vanaf);
   /// Empties the buffer and its tracker.
   void Leeg();
 
@@ -125,20 +129,24 @@ class RecordRaam {
   /// Puts the probe right after a read that was accepted.
   virtual void HerstelSonde(Soort) {}
 
-  AdminUitslag LeesRuw(std::int32_t nr, Soort soort);
+  /// True when the buffer, read in full, holds something that may not be lost.
+  [[nodiscard]] virtual bool IsInGebruik() const;
+
   [[nodiscard]] bool IsAanwezig(std::size_t gelezen, Soort soort) const;
   [[nodiscard]] bool MagNieuw(std::int32_t nr);
-  std::int32_t ZoekHoogste(std::int32_t vanaf);
+  /// The records that the file's size has room for, one cut short included; the maximum when the
+  /// size is not known.
+  std::int32_t RecordsInBestand() const;
+  /// Reads a record of a scan; shows an error of the system unless one was shown before.
+  [[nodiscard]] bool Probeer(std::int32_t nr, bool& gemeld);
   void Verwerk(const Veld& veld, std::string_view waarde);
+  void ZetGetalTekst(const Veld& veld, std::string_view waarde);
 
   static constexpr std::size_t kGrootste = 128;
 
   Opslag opslag_;
   const RaamTabel& tabel_;
   std::array<char, kGrootste> buffer_{};
-  std::uint64_t scanStand_ = 0;
-  std::int32_t scanVanaf_ = -1;
-  std::int32_t scanHoogste_ = 0;
 };
 
 }  // namespace lb77

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "store/Opslag.h"
 #include "store/RecordRaam.h"

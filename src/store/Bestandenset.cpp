@@ -1,0 +1,134 @@
+#include "store/Bestandenset.h"
+
+#include <utility>
+
+#include "store/Paden.h"
+#include "store/SchijfBestand.h"
+#include "text/Getallen.h"
+
+namespace lb77 {
+
+namespace {
+
+// Stands in for a file that is not open.
+class GeslotenBestand final : public RecordBestand {
+ public:
+  explicit GeslotenBestand(std::size_t recordLengte) : recordLengte_(recordLengte) {}
+
+  [[nodiscard]] Leesuitslag Lees(std::int32_t, std::span<char>) override {
+    return {0, FoutNietOpen()};
+  }
+  [[nodiscard]] SysteemFout Schrijf(std::int32_t, std::span<const char>) override {
+    return FoutNietOpen();
+  }
+  std::uint64_t Lengte() override { return 0; }
+  [[nodiscard]] SysteemFout Veiligstellen() override { return FoutNietOpen(); }
+  std::uint64_t Wijzigingen() const override { return 0; }
+  std::size_t RecordLengte() const override { return recordLengte_; }
+
+ private:
+  std::size_t recordLengte_;
+};
+
+Bestandenset::Opening OpenOpSchijf(const std::filesystem::path& pad, std::size_t lengte) {
+  auto bestand = std::make_unique<SchijfBestand>(lengte);
+  SysteemFout fout = bestand->Open(pad);
+  if (fout) return {nullptr, std::move(fout)};
+  return {std::move(bestand), {}};
+}
+
+const std::filesystem::path& PadIn(const SetPaden& paden, BestandSoort soort) {
+  switch (soort) {
+    case BestandSoort::Personen:
+      return paden.prs;
+    case BestandSoort::Relaties:
+      return paden.rlt;
+    case BestandSoort::Opmerkingen:
+      return paden.opm;
+    case BestandSoort::Plaatsen:
+      break;
+  }
+  return paden.plt;
+}
+
+}  // namespace
+
+std::string_view BestandNaam(BestandSoort soort) {
+  constexpr std::array<std::string_view, 4> kNamen = {"Persoonsbestand", "Relatiebestand",
+                                                      "Opmerkingenbestand", "Plaatsbestand"};
+  return kNamen.at(static_cast<std::size_t>(soort) - 1);
+}
+
+std::string OpenFoutTekst(const OpenFout& fout) {
+  return "Fout bij het openen van het " + std::string(BestandNaam(fout.soort)) + " (" +
+         PadTekst(fout.pad) + ", " + GetalTekst(fout.fout.nummer) + " " + fout.fout.tekst + ")";
+}
+
+Bestandenset::Bestandenset() : Bestandenset(OpenOpSchijf) {}
+
+Bestandenset::Bestandenset(Opener opener) : opener_(std::move(opener)) {
+  for (const BestandSoort soort : kBestandSoorten) {
+    gesloten_.at(static_cast<std::size_t>(soort) - 1) =
+        std::make_unique<GeslotenBestand>(RecordLengteVan(soort));
+  }
+}
+
+SysteemFout Bestandenset::Open(BestandSoort soort, const std::filesystem::path& pad) {
+  Sluit(soort);
+  Opening opening = opener_(VindPad(pad), RecordLengteVan(soort));
+  VakVan(soort).bestand = std::move(opening.bestand);
+  return std::move(opening.fout);
+}
+
+std::optional<OpenFout> Bestandenset::Open(BestandSoort soort, const SetPaden& paden) {
+  const std::filesystem::path& pad = PadIn(paden, soort);
+  SysteemFout fout = Open(soort, pad);
+  if (!fout) return std::nullopt;
+  if (soort == BestandSoort::Plaatsen && !Open(soort, paden.centraal)) return std::nullopt;
+  return OpenFout{soort, pad, std::move(fout)};
+}
+
+std::optional<OpenFout> Bestandenset::OpenSet(const SetPaden& paden) {
+  SluitAlles();
+  for (const BestandSoort soort : kBestandSoorten) {
+    if (std::optional<OpenFout> fout = Open(soort, paden)) return fout;
+  }
+  return std::nullopt;
+}
+
+void Bestandenset::Sluit(BestandSoort soort) {
+  Vak& vak = VakVan(soort);
+  vak.eerder = Stand(soort) + 1;
+  vak.bestand.reset();
+}
+
+void Bestandenset::SluitAlles() {
+  for (const BestandSoort soort : kBestandSoorten) Sluit(soort);
+}
+
+bool Bestandenset::IsOpen(BestandSoort soort) const {
+  return VakVan(soort).bestand != nullptr;
+}
+
+RecordBestand& Bestandenset::Bestand(BestandSoort soort) {
+  Vak& vak = VakVan(soort);
+  if (vak.bestand) return *vak.bestand;
+  return *gesloten_.at(static_cast<std::size_t>(soort) - 1);
+}
+
+std::uint64_t Bestandenset::Stand(BestandSoort soort) const {
+  const Vak& vak = VakVan(soort);
+  return vak.eerder + (vak.bestand ? vak.bestand->Wijzigingen() : 0);
+}
+
+SysteemFout Bestandenset::Veiligstellen() {
+  SysteemFout eerste;
+  for (const Vak& vak : vakken_) {
+    if (!vak.bestand) continue;
+    SysteemFout fout = vak.bestand->Veiligstellen();
+    if (fout && !eerste) eerste = std::move(fout);
+  }
+  return eerste;
+}
+
+}  // namespace lb77

@@ -1,0 +1,231 @@
+#include "store/Platform.h"
+
+#include <cstdlib>
+#include <string>
+#include <system_error>
+#include <utility>
+
+#ifdef _WIN32
+#define NOMINMAX
+#include <windows.h>
+#else
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#endif
+
+namespace lb77 {
+
+namespace {
+
+constexpr const char* kNaam = "lb77";
+
+#ifdef _WIN32
+
+SysteemFout LaatsteFout() {
+  return FoutVan({static_cast<int>(GetLastError()), std::system_category()});
+}
+
+HANDLE Systeem(std::intptr_t greep) {
+  return reinterpret_cast<HANDLE>(greep);
+}
+
+OVERLAPPED PlekVan(std::uint64_t plaats) {
+  OVERLAPPED plek{};
+  plek.Offset = static_cast<DWORD>(plaats & 0xFFFFFFFFU);
+  plek.OffsetHigh = static_cast<DWORD>(plaats >> 32U);
+  return plek;
+}
+
+// One call of the system: the bytes read, -1 after an error.
+std::ptrdiff_t LeesStuk(std::intptr_t greep, std::uint64_t plaats, std::span<char> doel) {
+  OVERLAPPED plek = PlekVan(plaats);
+  DWORD gelezen = 0;
+  if (ReadFile(Systeem(greep), doel.data(), static_cast<DWORD>(doel.size()), &gelezen, &plek)) {
+    return static_cast<std::ptrdiff_t>(gelezen);
+  }
+  return GetLastError() == ERROR_HANDLE_EOF ? 0 : -1;
+}
+
+std::ptrdiff_t SchrijfStuk(std::intptr_t greep, std::uint64_t plaats, std::span<const char> bron) {
+  OVERLAPPED plek = PlekVan(plaats);
+  DWORD geschreven = 0;
+  const BOOL gelukt =
+      WriteFile(Systeem(greep), bron.data(), static_cast<DWORD>(bron.size()), &geschreven, &plek);
+  return gelukt ? static_cast<std::ptrdiff_t>(geschreven) : -1;
+}
+
+bool IsOnderbroken() {
+  return false;
+}
+
+#else
+
+SysteemFout LaatsteFout() {
+  // The standard library has no name for a disk quota that is used up.
+  if (errno == EDQUOT) errno = ENOSPC;
+  return FoutVan({errno, std::generic_category()});
+}
+
+int Systeem(std::intptr_t greep) {
+  return static_cast<int>(greep);
+}
+
+// One call of the system: the bytes read, -1 after an error.
+std::ptrdiff_t LeesStuk(std::intptr_t greep, std::uint64_t plaats, std::span<char> doel) {
+  return ::pread(Systeem(greep), doel.data(), doel.size(), static_cast<off_t>(plaats));
+}
+
+std::ptrdiff_t SchrijfStuk(std::intptr_t greep, std::uint64_t plaats, std::span<const char> bron) {
+  return ::pwrite(Systeem(greep), bron.data(), bron.size(), static_cast<off_t>(plaats));
+}
+
+bool IsOnderbroken() {
+  return errno == EINTR;
+}
+
+#endif
+
+}  // namespace
+
+#ifdef _WIN32
+
+SysteemFout Bestandsgreep::Open(const std::filesystem::path& pad) {
+  Sluit();
+  HANDLE greep =
+      CreateFileW(pad.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                  nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (greep == INVALID_HANDLE_VALUE) return LaatsteFout();
+  greep_ = reinterpret_cast<std::intptr_t>(greep);
+  return {};
+}
+
+void Bestandsgreep::Sluit() {
+  if (IsOpen()) CloseHandle(Systeem(greep_));
+  greep_ = kDicht;
+}
+
+std::uint64_t Bestandsgreep::Lengte() const {
+  LARGE_INTEGER lengte{};
+  if (!IsOpen() || !GetFileSizeEx(Systeem(greep_), &lengte)) return 0;
+  return static_cast<std::uint64_t>(lengte.QuadPart);
+}
+
+SysteemFout Bestandsgreep::Veiligstellen() {
+  if (!IsOpen()) return FoutNietOpen();
+  return FlushFileBuffers(Systeem(greep_)) ? SysteemFout{} : LaatsteFout();
+}
+
+std::filesystem::path ProgrammaMap() {
+  std::wstring naam(32768, L'\0');
+  const DWORD lengte = GetModuleFileNameW(nullptr, naam.data(), static_cast<DWORD>(naam.size()));
+  if (lengte == 0) return std::filesystem::current_path();
+  naam.resize(lengte);
+  return std::filesystem::path(naam).parent_path();
+}
+
+std::filesystem::path GebruikersDataMap() {
+  const wchar_t* lokaal = _wgetenv(L"LOCALAPPDATA");
+  if (lokaal != nullptr && *lokaal != L'\0') return std::filesystem::path(lokaal) / kNaam;
+  return ProgrammaMap();
+}
+
+#else
+
+SysteemFout Bestandsgreep::Open(const std::filesystem::path& pad) {
+  Sluit();
+  const int greep = ::open(pad.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+  if (greep < 0) return LaatsteFout();
+  greep_ = greep;
+  return {};
+}
+
+void Bestandsgreep::Sluit() {
+  if (IsOpen()) ::close(Systeem(greep_));
+  greep_ = kDicht;
+}
+
+std::uint64_t Bestandsgreep::Lengte() const {
+  struct stat gegevens {};
+  if (!IsOpen() || ::fstat(Systeem(greep_), &gegevens) != 0) return 0;
+  return static_cast<std::uint64_t>(gegevens.st_size);
+}
+
+SysteemFout Bestandsgreep::Veiligstellen() {
+  if (!IsOpen()) return FoutNietOpen();
+  // Some file systems have nothing to bring to a disk and say so.
+  if (::fsync(Systeem(greep_)) == 0 || errno == EINVAL || errno == ENOSYS) return {};
+  return LaatsteFout();
+}
+
+std::filesystem::path ProgrammaMap() {
+  std::error_code fout;
+  const std::filesystem::path programma = std::filesystem::read_symlink("/proc/self/exe", fout);
+  return fout ? std::filesystem::current_path(fout) : programma.parent_path();
+}
+
+std::filesystem::path GebruikersDataMap() {
+  const char* xdg = std::getenv("XDG_DATA_HOME");
+  // A relative path in it is to be ignored, says its definition.
+  if (xdg != nullptr && *xdg == '/') return std::filesystem::path(xdg) / kNaam;
+  const char* thuis = std::getenv("HOME");
+  if (thuis == nullptr || *thuis == '\0') return ProgrammaMap();
+#ifdef __APPLE__
+  return std::filesystem::path(thuis) / "Library" / "Application Support" / kNaam;
+#else
+  return std::filesystem::path(thuis) / ".local" / "share" / kNaam;
+#endif
+}
+
+#endif
+
+Bestandsgreep::~Bestandsgreep() {
+  Sluit();
+}
+
+Bestandsgreep::Bestandsgreep(Bestandsgreep&& ander) noexcept
+    : greep_(std::exchange(ander.greep_, kDicht)) {}
+
+Bestandsgreep& Bestandsgreep::operator=(Bestandsgreep&& ander) noexcept {
+  if (this != &ander) {
+    Sluit();
+    greep_ = std::exchange(ander.greep_, kDicht);
+  }
+  return *this;
+}
+
+Leesuitslag Bestandsgreep::Lees(std::uint64_t plaats, std::span<char> doel) const {
+  if (!IsOpen()) return {0, FoutNietOpen()};
+  Leesuitslag uitslag;
+  while (uitslag.gelezen < doel.size()) {
+    const std::ptrdiff_t stuk =
+        LeesStuk(greep_, plaats + uitslag.gelezen, doel.subspan(uitslag.gelezen));
+    if (stuk == 0) break;
+    if (stuk > 0) {
+      uitslag.gelezen += static_cast<std::size_t>(stuk);
+    } else if (!IsOnderbroken()) {
+      uitslag.fout = LaatsteFout();
+      break;
+    }
+  }
+  return uitslag;
+}
+
+SysteemFout Bestandsgreep::Schrijf(std::uint64_t plaats, std::span<const char> bron) {
+  if (!IsOpen()) return FoutNietOpen();
+  while (!bron.empty()) {
+    const std::ptrdiff_t stuk = SchrijfStuk(greep_, plaats, bron);
+    if (stuk == 0) return FoutVan(std::make_error_code(std::errc::no_space_on_device));
+    if (stuk > 0) {
+      plaats += static_cast<std::uint64_t>(stuk);
+      bron = bron.subspan(static_cast<std::size_t>(stuk));
+    } else if (!IsOnderbroken()) {
+      return LaatsteFout();
+    }
+  }
+  return {};
+}
+
+}  // namespace lb77
