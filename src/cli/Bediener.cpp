@@ -1,0 +1,157 @@
+#include "cli/Bediener.h"
+
+#include <algorithm>
+#include <stdexcept>
+
+#include "app/IniClass.h"
+#include "text/Unicode.h"
+
+namespace lb77 {
+namespace {
+
+// The one question with another answer: without a settings file a new one is made.
+bool IsNieuwIniBestand(std::string_view tekst) {
+  return tekst.find("Druk op OK om een nieuw IniBestand te maken") != std::string_view::npos;
+}
+
+std::string_view Woord(Antwoord antwoord) {
+  switch (antwoord) {
+    case Antwoord::OK:
+      return "OK";
+    case Antwoord::Annuleren:
+      return "Annuleren";
+    case Antwoord::Ja:
+      return "Ja";
+    case Antwoord::Nee:
+      return "Nee";
+  }
+  return {};
+}
+
+Antwoord Ontkennend(Knoppen knoppen) {
+  switch (knoppen) {
+    case Knoppen::OK:
+      return Antwoord::OK;
+    case Knoppen::JaNee:
+      return Antwoord::Nee;
+    case Knoppen::OKAnnuleren:
+    case Knoppen::JaNeeAnnuleren:
+      return Antwoord::Annuleren;
+  }
+  return Antwoord::Annuleren;
+}
+
+}  // namespace
+
+void Bediener::Bij(std::string_view formulier, Handeling handeling) {
+  handelingen_.insert_or_assign(std::string(formulier), std::move(handeling));
+}
+
+void Bediener::Mislukt(std::string_view reden) {
+  meld_(WindowsNaarUtf8(reden));
+  status_ = 1;
+}
+
+Antwoord Bediener::Bericht(BerichtSoort soort, Knoppen knoppen, std::string_view tekst) {
+  const Antwoord antwoord = IsNieuwIniBestand(tekst) ? Antwoord::OK : Ontkennend(knoppen);
+  if (soort == BerichtSoort::Stop) status_ = 1;
+  std::string regel = WindowsNaarUtf8(tekst);
+  if (knoppen != Knoppen::OK) regel.append(" -> ").append(Woord(antwoord));
+  meld_(regel);
+  return antwoord;
+}
+
+// The box comes for each text that is converted; once is enough on a terminal.
+bool Bediener::BerichtMetVinkje(std::string_view tekst, std::string_view) {
+  if (!vinkjeGemeld_) meld_(WindowsNaarUtf8(tekst));
+  vinkjeGemeld_ = true;
+  return true;
+}
+
+std::optional<std::filesystem::path> Bediener::VraagBestand(const BestandsVraag&) {
+  return std::nullopt;
+}
+
+bool Bediener::DrukAf(const Afdruk&) {
+  return false;
+}
+
+void Bediener::Ververs(Formulier&) {}
+
+bool Bediener::StopGevraagd(Formulier&) {
+  return false;
+}
+
+void Bediener::Open(Formulier&) {}
+
+void Bediener::Voer(Formulier& formulier) {
+  const auto handeling = handelingen_.find(formulier.Naam());
+  if (handeling != handelingen_.end()) handeling->second(formulier);
+  if (formulier.Gesloten()) return;
+  formulier.VraagSluiten();
+  if (!formulier.Gesloten()) throw std::runtime_error(formulier.Naam() + " sluit niet");
+}
+
+void Bediener::Dicht(Formulier&) {}
+
+Bediening* Werk::Vind(std::string_view naam) {
+  Bediening* bediening = formulier_.Zoek(naam);
+  if (!bediening) {
+    Weiger(naam, "bestaat niet");
+  } else if (!bediening->Bruikbaar()) {
+    Weiger(naam, "is niet beschikbaar");
+    return nullptr;
+  }
+  return bediening;
+}
+
+void Werk::Weiger(std::string_view naam, std::string_view reden) {
+  bediener_.Mislukt(formulier_.Naam() + "." + std::string(naam) + " " + std::string(reden));
+}
+
+void Werk::Druk(std::string_view naam) {
+  if (formulier_.Gesloten()) return;
+  if (Bediening* bediening = Vind(naam)) formulier_.Klik(*bediening);
+}
+
+void Werk::Zet(std::string_view naam, std::string_view waarde) {
+  if (formulier_.Gesloten()) return;
+  Bediening* bediening = Vind(naam);
+  if (!bediening) return;
+  if (auto* veld = dynamic_cast<Invoerveld*>(bediening)) {
+    Vul(*veld, waarde);
+  } else if (auto* lijst = dynamic_cast<Lijst*>(bediening)) {
+    ZetLijst(*lijst, waarde);
+  } else if (const auto* schakelaar = dynamic_cast<Schakelaar*>(bediening)) {
+    if (waarde != "aan" && waarde != "uit") {
+      Weiger(naam, "is aan of uit");
+    } else if (schakelaar->Gekozen() != (waarde == "aan")) {
+      formulier_.Klik(*bediening);
+    }
+  } else {
+    Weiger(naam, "kan niet worden gezet");
+  }
+}
+
+void Werk::Vul(Invoerveld& veld, std::string_view waarde) {
+  if (!formulier_.GaNaar(veld)) return;
+  if (auto* pad = dynamic_cast<Padvak*>(&veld)) {
+    pad->ZetTekst(waarde);
+  } else {
+    formulier_.Bewerkt(veld, "");
+    for (const char teken : waarde) formulier_.Typ(veld, teken);
+  }
+  if (!formulier_.VerlaatVeld()) Weiger(veld.Naam(), "heeft geen geldige waarde");
+}
+
+void Werk::ZetLijst(Lijst& lijst, std::string_view waarde) {
+  const auto& rijen = lijst.Rijen();
+  const auto rij = std::find(rijen.begin(), rijen.end(), waarde);
+  if (rij == rijen.end()) {
+    Weiger(lijst.Naam(), "heeft die keuze niet");
+  } else {
+    formulier_.Kies(lijst, static_cast<int>(rij - rijen.begin()));
+  }
+}
+
+}  // namespace lb77

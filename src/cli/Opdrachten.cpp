@@ -1,0 +1,221 @@
+#include "cli/Opdrachten.h"
+
+#include <fstream>
+#include <iterator>
+#include <ostream>
+
+#include "cli/Bediener.h"
+#include "output/ToonTekst.h"
+#include "program/Programma.h"
+#include "store/SetPaden.h"
+#include "text/Getallen.h"
+#include "text/Pad.h"
+#include "text/Tekens.h"
+#include "text/Unicode.h"
+
+namespace lb77 {
+namespace {
+
+// One session without a screen. `inMenu` is what the user does in the main window.
+class Sessie {
+ public:
+  explicit Sessie(const Omgeving& omgeving)
+      : bediener([&omgeving](std::string_view regel) { omgeving.fout << regel << '\n'; }),
+        programma(bediener, omgeving.klok, omgeving.programmaMap) {}
+
+  int Voer(const std::function<void(Werk&)>& inMenu) {
+    bediener.Bij("MenuWindow", [this, &inMenu](Formulier& menu) {
+      Werk werk(bediener, menu);
+      inMenu(werk);
+    });
+    if (!programma.Start()) return 1;
+    programma.Voer();
+    return bediener.Status();
+  }
+
+  // True when the set of that name is the active one afterwards.
+  [[nodiscard]] bool OpenSet(Werk& menu, std::string_view naam) {
+    const std::string set = Hoofdletters(naam);
+    Hoofdmodule& hoofd = programma.Hoofd();
+    if (hoofd.ActieveSetNaam == set) return true;
+    const int index = hoofd.Ini.BestandenSetIndex(set);
+    if (index == 0) {
+      bediener.Mislukt("Bestandenset " + set + " staat niet in de lijst");
+      return false;
+    }
+    bediener.Bij("OpenSetForm", [this, index](Formulier& form) {
+      Werk werk(bediener, form);
+      if (auto* lijst = dynamic_cast<Lijst*>(form.Zoek("SetPicklist")))
+        form.Kies(*lijst, index - 1);
+      werk.Druk("OKButton");
+    });
+    menu.Kies("OpenSet");
+    return hoofd.ActieveSetNaam == set;
+  }
+
+  Bediener bediener;
+  Programma programma;
+};
+
+// The file that the viewer showed: as it is, or on a terminal in UTF-8 with plain line ends.
+void GeefUit(const Omgeving& omgeving, Bediener& bediener, const std::filesystem::path& bron,
+             const std::optional<std::filesystem::path>& naar) {
+  std::ifstream in(bron, std::ios::binary);
+  if (naar) {
+    std::ofstream uit(*naar, std::ios::binary | std::ios::trunc);
+    uit << in.rdbuf();
+    uit.close();
+    if (!uit) bediener.Mislukt("Fout bij het schrijven van " + PadTekst(*naar));
+    return;
+  }
+  std::string regel;
+  while (std::getline(in, regel)) {
+    if (!regel.empty() && regel.back() == '\r') regel.pop_back();
+    omgeving.uit << WindowsNaarUtf8(regel) << '\n';
+  }
+}
+
+int Sets(const Omgeving& omgeving, const OpdrachtArgumenten&) {
+  Sessie sessie(omgeving);
+  return sessie.Voer([&](Werk& menu) {
+    Hoofdmodule& hoofd = sessie.programma.Hoofd();
+    const int aantal = hoofd.Ini.AantalBestandenSets();
+    for (int i = 1; i <= aantal; ++i) {
+      const std::string naam = hoofd.Ini.bestandenset(i);
+      omgeving.uit << WindowsNaarUtf8(Links(naam, 8)) << "  ";
+      if (sessie.OpenSet(menu, naam)) {
+        omgeving.uit << GetalTekst(hoofd.Persoon.AantalInAdmin()) << " personen, "
+                     << GetalTekst(hoofd.Relatie.AantalInAdmin()) << " relaties";
+      } else {
+        omgeving.uit << "niet te openen";
+      }
+      const std::string omschrijving = hoofd.Ini.BestandenSetOms(i);
+      if (!omschrijving.empty()) omgeving.uit << "  " << WindowsNaarUtf8(omschrijving);
+      omgeving.uit << '\n';
+    }
+  });
+}
+
+int Nieuw(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
+  Sessie sessie(omgeving);
+  bool gemaakt = false;
+  sessie.bediener.Bij("NieuweSet", [&](Formulier& form) {
+    Werk werk(sessie.bediener, form);
+    werk.Zet("SetNaam", argumenten.woorden[0]);
+    if (sessie.bediener.Status() != 0) return;
+    werk.Zet("SetOmsch", argumenten.woorden[1]);
+    werk.Druk("OKButton");
+    gemaakt = form.Gesloten() && sessie.programma.Hoofd().SetActief();
+  });
+  return sessie.Voer([&](Werk& menu) {
+    menu.Kies("MaakSet");
+    if (!gemaakt) sessie.bediener.Mislukt("De bestandenset is niet gemaakt");
+  });
+}
+
+int Importeer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
+  Sessie sessie(omgeving);
+  sessie.bediener.Bij("ImpGedcom", [&](Formulier& form) {
+    if (auto* veld = dynamic_cast<Padvak*>(form.Zoek("Bestandsnaam"))) {
+      veld->ZetPad(argumenten.bestand);
+    }
+    Werk(sessie.bediener, form).Druk("OKButton");
+  });
+  sessie.bediener.Bij("ToonTekst", [&](Formulier& form) {
+    if (const auto* toon = dynamic_cast<ToonTekst*>(&form)) {
+      GeefUit(omgeving, sessie.bediener, toon->UitvoerPad(), std::nullopt);
+    }
+  });
+  return sessie.Voer([&](Werk& menu) {
+    if (sessie.OpenSet(menu, argumenten.woorden[0])) menu.Kies("ImportGedcom");
+  });
+}
+
+// What tells one report command from another: the menu entry and the forms that it meets.
+struct Rapport {
+  std::string_view menuKeuze;
+  std::string_view prompt;
+  std::string_view param;
+  std::string_view htmlParam;
+};
+
+constexpr Rapport kKwartierstaat{"TekstKwst", "KwstTxtPrs", "KwstTxtParam", "KwHTMLParam"};
+
+void VulParam(Bediener& bediener, Formulier& form, const OpdrachtArgumenten& argumenten) {
+  Werk werk(bediener, form);
+  werk.Zet("InHTMLBox", argumenten.html ? "Ja" : "Nee");
+  for (const std::string& zet : argumenten.zet) {
+    const std::size_t teken = zet.find('=');
+    werk.Zet(zet.substr(0, teken), zet.substr(teken + 1));
+  }
+  if (bediener.Status() == 0) werk.Druk("OKButton");
+}
+
+int MaakRapport(const Rapport& rapport, const Omgeving& omgeving,
+                const OpdrachtArgumenten& argumenten) {
+  Sessie sessie(omgeving);
+  Bediener& bediener = sessie.bediener;
+  bool getoond = false;
+  bediener.Bij(rapport.prompt, [&](Formulier& form) {
+    Werk werk(bediener, form);
+    werk.Zet("RecordNr", argumenten.woorden[1]);
+    if (bediener.Status() == 0) werk.Druk("OKButton");
+  });
+  bediener.Bij(rapport.param, [&](Formulier& form) { VulParam(bediener, form, argumenten); });
+  bediener.Bij(rapport.htmlParam, [&](Formulier& form) { Werk(bediener, form).Druk("OKButton"); });
+  bediener.Bij("ToonTekst", [&](Formulier& form) {
+    const auto* toon = dynamic_cast<ToonTekst*>(&form);
+    if (!toon) return;
+    getoond = true;
+    GeefUit(omgeving, bediener, toon->UitvoerPad(), argumenten.naar);
+  });
+  return sessie.Voer([&](Werk& menu) {
+    if (!sessie.OpenSet(menu, argumenten.woorden[0])) return;
+    menu.Kies(rapport.menuKeuze);
+    if (!getoond) bediener.Mislukt("Er is geen verslag gemaakt");
+  });
+}
+
+int Kwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
+  return MaakRapport(kKwartierstaat, omgeving, argumenten);
+}
+
+bool Bevat(std::string_view naam, std::string_view zoek) {
+  return Hoofdletters(naam).find(zoek) != std::string::npos;
+}
+
+int Zoek(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
+  Sessie sessie(omgeving);
+  const std::string zoek = Hoofdletters(argumenten.woorden[1]);
+  return sessie.Voer([&](Werk& menu) {
+    if (!sessie.OpenSet(menu, argumenten.woorden[0])) return;
+    PersoonLB77& persoon = sessie.programma.Hoofd().Persoon;
+    const int laatste = persoon.AantalRecords();
+    for (int nr = 2; nr <= laatste; ++nr) {
+      const auto recordNr = static_cast<std::int16_t>(nr);
+      if (!persoon.Lees(recordNr) || persoon.IsVolgRecord()) continue;
+      if (!Bevat(persoon.AchterNaamTrue(), zoek) && !Bevat(persoon.VoorNaamTrue(), zoek)) continue;
+      omgeving.uit << Kolom(nr, 6, Richting::Rechts) << "  " << persoon.Periode(recordNr) << "  "
+                   << WindowsNaarUtf8(persoon.NaamVoluit()) << '\n';
+    }
+  });
+}
+
+}  // namespace
+
+const std::vector<Opdracht>& Opdrachten() {
+  static const std::vector<Opdracht> kOpdrachten = {
+      {"sets", "toont de bestandensets", {}, Extra::Geen, Sets},
+      {"nieuw", "maakt een bestandenset", {"SET", "[OMSCHRIJVING]"}, Extra::Geen, Nieuw},
+      {"importeer", "leest een GEDCOM-bestand in", {"SET"}, Extra::Bestand, Importeer},
+      {"kwartierstaat",
+       "schrijft de Kwartierstaat van een persoon",
+       {"SET", "PERSOON"},
+       Extra::Rapport,
+       Kwartierstaat},
+      {"zoek", "zoekt personen op een deel van hun naam", {"SET", "NAAM"}, Extra::Geen, Zoek},
+  };
+  return kOpdrachten;
+}
+
+}  // namespace lb77

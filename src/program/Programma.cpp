@@ -1,0 +1,45 @@
+#include "program/Programma.h"
+
+#include "ancestors/KwstTxtPrs.h"
+#include "app/IniGebruiker.h"
+#include "app/NieuweSet.h"
+#include "app/OpenSetForm.h"
+#include "app/OverLB77Form.h"
+#include "app/Start.h"
+#include "app/VerwijderSetForm.h"
+#include "exchange/ImpGedcom.h"
+#include "output/BekijkTekst.h"
+
+namespace lb77 {
+
+Programma::Programma(Gesprek& gesprek, const Klok& klok, const std::filesystem::path& programmaMap)
+    : hoofd_(gesprek, klok, programmaMap), menu_(hoofd_) {
+  HangOp();
+}
+
+bool Programma::Start() {
+  return lb77::Start(hoofd_);
+}
+
+void Programma::Voer() {
+  hoofd_.gesprek.ToonModaal(menu_);
+}
+
+void Programma::HangOp() {
+  const auto toon = [this](Formulier&& formulier) { hoofd_.gesprek.ToonModaal(formulier); };
+  menu_.Hang("MaakSet", [this, toon] { toon(NieuweSet(hoofd_, menu_)); });
+  menu_.Hang("OpenSet", [this, toon] { toon(OpenSetForm(hoofd_, menu_)); });
+  menu_.Hang("VerwijderSet", [this, toon] { toon(VerwijderSetForm(hoofd_, menu_)); });
+  menu_.Hang("SetupGebruiker", [this, toon] { toon(IniGebruiker(hoofd_)); });
+  menu_.Hang("ImportGedcom", [this, toon] { toon(ImpGedcom(hoofd_)); });
+  menu_.Hang("ViewTekst", [this, toon] { toon(BekijkTekst(hoofd_)); });
+  menu_.Hang("TekstKwst", [this, toon] { toon(KwstTxtPrs(hoofd_)); });
+  menu_.Hang("AboutLB77", [toon] { toon(OverLB77Form()); });
+}
+
+void VoerProgramma(Gesprek& gesprek, const Klok& klok, const std::filesystem::path& programmaMap) {
+  Programma programma(gesprek, klok, programmaMap);
+  if (programma.Start()) programma.Voer();
+}
+
+}  // namespace lb77
