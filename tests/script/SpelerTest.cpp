@@ -1,0 +1,401 @@
+#include <gmock/gmock.h>
+
+#include <stdexcept>
+#include <vector>
+
+#include "script/SpeelFormulieren.h"
+#include "script/Speler.h"
+#include "script/Verslag.h"
+#include "steun/SpeelToets.h"
+
+namespace lb77 {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class SpelerTest : public SpeelToets {
+ protected:
+  static void ToonHoofd(Gesprek& gesprek) {
+    Hoofd hoofd(gesprek);
+    gesprek.ToonModaal(hoofd);
+  }
+  // A program without forms that asks and tells at start-up.
+  static Programma Doet(std::function<void(Gesprek&)> doe) { return doe; }
+};
+
+// Forms.
+
+TEST_F(SpelerTest, EenGenestFormulierNeemtDeVolgendeInstructies) {
+  Verwacht(R"(
+    kies Nieuw
+    vul Nummer 12
+    druk BackButton
+    toon
+  )",
+           ToonHoofd, R"(
+    + Hoofd "Hoofdvenster"
+    + Invoer "Invoer"
+    - Invoer
+    : Hoofd "Hoofdvenster na 12"
+    = Menu "&Bestand"
+    = Nieuw "&Nieuw"
+    = Sub "&Sub"
+    = Diep "&Diep"
+    = Grijs "&Grijs" [uit]
+    = Weg "&Weg" [verborgen]
+    = Einde "&Einde"
+  )");
+}
+
+TEST_F(SpelerTest, DrieFormulierenDiepGaatElkeAfhandelingVerderWaarZijWas) {
+  Verwacht(R"(
+    kies Nieuw
+    druk WerkButton
+    toon Stand
+    druk BackButton
+    kies Einde
+  )",
+           ToonHoofd, R"(
+    + Hoofd "Hoofdvenster"
+    + Invoer "Invoer"
+    + Werk "Bezig"
+    ! geen "Geteld tot 10"
+    - Werk
+    = Stand "gewerkt"
+    - Invoer
+    - Hoofd
+  )");
+}
+
+TEST_F(SpelerTest, HetEindeVanHetDraaiboekLaatOpenFormulierenStilVallen) {
+  Verwacht("kies Nieuw\nvul Naam x", ToonHoofd, R"(
+    + Hoofd "Hoofdvenster"
+    + Invoer "Invoer"
+  )");
+  Verwacht("", ToonHoofd, R"(+ Hoofd "Hoofdvenster")");
+}
+
+TEST_F(SpelerTest, BerichtenVanHetLadenKomenVoorHetFormulierErStaat) {
+  const auto programma = [](Gesprek& gesprek) {
+    Levensloop formulier("Leven");
+    formulier.laden = [&](Levensloop&) { gesprek.Waarschuw("laden"); };
+    formulier.activeren = [&](Levensloop&) { gesprek.Waarschuw("actief"); };
+    formulier.klik = [&](Levensloop& zelf) {
+      gesprek.Waarschuw("klik");
+      zelf.Sluit();
+    };
+    formulier.gesloten = [&](Levensloop&) { gesprek.Waarschuw("gesloten"); };
+    gesprek.ToonModaal(formulier);
+  };
+  Verwacht("druk Knop1", programma, R"(
+    ! uitroep "laden"
+    + Leven "Levensloop"
+    ! uitroep "actief"
+    ! uitroep "klik"
+    - Leven
+    ! uitroep "gesloten"
+  )");
+}
+
+TEST_F(SpelerTest, EenFormulierDatBijHetLadenSluitStaatNietInHetVerslag) {
+  const auto programma = [](Gesprek& gesprek) {
+    Levensloop formulier("Leven");
+    formulier.laden = [](Levensloop& zelf) { zelf.Sluit(); };
+    gesprek.ToonModaal(formulier);
+    gesprek.Informeer("verder");
+  };
+  Verwacht("", programma, R"(! info "verder")");
+}
+
+TEST_F(SpelerTest, VerbergenStaatNietInHetVerslagEnDeKetenGaatDoor) {
+  const auto programma = [](Gesprek& gesprek) {
+    Levensloop eerste("Eerste");
+    eerste.klik = [&](Levensloop& zelf) {
+      zelf.Verberg();
+      Levensloop tweede("Tweede");
+      tweede.klik = [](Levensloop& ander) { ander.Sluit(); };
+      gesprek.ToonModaal(tweede);
+      zelf.Sluit();
+    };
+    gesprek.ToonModaal(eerste);
+  };
+  Verwacht("druk Knop1\ndruk Knop1", programma, R"(
+    + Eerste "Levensloop"
+    + Tweede "Levensloop"
+    - Tweede
+    - Eerste
+  )");
+}
+
+TEST_F(SpelerTest, EenFormulierDatVerborgenBlijftTeltAlsGesloten) {
+  const auto programma = [](Gesprek& gesprek) {
+    Levensloop formulier("Leven");
+    formulier.klik = [](Levensloop& zelf) { zelf.Verberg(); };
+    gesprek.ToonModaal(formulier);
+    gesprek.Informeer("verder");
+  };
+  Verwacht("druk Knop1", programma, R"(
+    + Leven "Levensloop"
+    - Leven
+    ! info "verder"
+  )");
+}
+
+// Boxes.
+
+TEST_F(SpelerTest, ElkBerichtMetEenKnopHeeftGeenAntwoordNodig) {
+  Verwacht("", Doet([](Gesprek& gesprek) {
+             gesprek.Meld(BerichtSoort::Geen, "a");
+             gesprek.Informeer("b");
+             gesprek.Waarschuw("c \"d\"\nrij\r\ntwee"_w);
+             gesprek.Fout("één"_w);
+             gesprek.Meld(BerichtSoort::Vraag, "e");
+             EXPECT_FALSE(gesprek.BerichtMetVinkje("f", "Niet meer tonen"));
+           }),
+           R"(
+    ! geen "a"
+    ! info "b"
+    ! uitroep "c \"d\"\nrij\ntwee"
+    ! stop "één"
+    ! vraag "e"
+    ! info "f"
+  )");
+}
+
+TEST_F(SpelerTest, EenKeuzeKrijgtHetVolgendeAntwoord) {
+  Verwacht("antwoord Ja Annuleren\nantwoord OK Nee", Doet([](Gesprek& gesprek) {
+             EXPECT_TRUE(gesprek.Vraag("a ?"));
+             EXPECT_EQ(gesprek.Bericht(BerichtSoort::Uitroep, Knoppen::JaNeeAnnuleren, "b ?"),
+                       Antwoord::Annuleren);
+             EXPECT_EQ(gesprek.Bericht(BerichtSoort::Stop, Knoppen::OKAnnuleren, "c ?"),
+                       Antwoord::OK);
+             EXPECT_FALSE(gesprek.Vraag("d ?"));
+           }),
+           R"(
+    ? vraag Ja/Nee "a ?" -> Ja
+    ? uitroep Ja/Nee/Annuleren "b ?" -> Annuleren
+    ? stop OK/Annuleren "c ?" -> OK
+    ? vraag Ja/Nee "d ?" -> Nee
+  )");
+}
+
+TEST_F(SpelerTest, EenKeuzeZonderAntwoordKanNietWordenGespeeld) {
+  VerwachtFout("", Doet([](Gesprek& gesprek) { static_cast<void>(gesprek.Vraag("a ?")); }),
+               R"(voor de eerste instructie: er staat geen antwoord klaar voor "a ?")");
+  EXPECT_EQ(verslag_, "");
+}
+
+TEST_F(SpelerTest, EenAntwoordAchterDeInstructieKomtTeLaat) {
+  const auto programma = [](Gesprek& gesprek) {
+    Levensloop formulier("Leven");
+    formulier.klik = [&](Levensloop&) { static_cast<void>(gesprek.Vraag("a ?")); };
+    gesprek.ToonModaal(formulier);
+  };
+  VerwachtFout("toon Knop1\ndruk Knop1\nantwoord Ja", programma,
+               R"(regel 2: er staat geen antwoord klaar voor "a ?")");
+  EXPECT_EQ(verslag_, Regels(R"(
+    + Leven "Levensloop"
+    = Knop1 "&Knop"
+  )"));
+}
+
+TEST_F(SpelerTest, EenAntwoordDatNietPastKanNietWordenGespeeld) {
+  VerwachtFout("antwoord OK",
+               Doet([](Gesprek& gesprek) { static_cast<void>(gesprek.Vraag("a ?")); }),
+               R"(het antwoord OK past niet bij Ja/Nee "a ?")");
+}
+
+// Files and the printer.
+
+TEST_F(SpelerTest, EenBestandsvraagKrijgtHetVolgendePad) {
+  basismap_ = "/basis";
+  Verwacht("bestand map/Zoë.ged\nbestand /vast.txt\nbestand", Doet([](Gesprek& gesprek) {
+             EXPECT_EQ(gesprek.VraagBestand({BestandsWijze::Openen, "GEDCOM|*.GED", {}}),
+                       std::filesystem::path(u8"/basis/map/Zoë.ged"));
+             EXPECT_EQ(gesprek.VraagBestand({BestandsWijze::Opslaan, "", {}}),
+                       std::filesystem::path("/vast.txt"));
+             EXPECT_EQ(gesprek.VraagBestand({BestandsWijze::Map, "", {}}), std::nullopt);
+           }),
+           R"(
+    > openen "GEDCOM|*.GED" -> "map/Zoë.ged"
+    > opslaan "" -> "/vast.txt"
+    > map "" -> -
+  )");
+}
+
+TEST_F(SpelerTest, ZonderBasismapBlijftEenPadZoalsHetIs) {
+  Verwacht("bestand x.ged", Doet([](Gesprek& gesprek) {
+             EXPECT_EQ(gesprek.VraagBestand({}), std::filesystem::path("x.ged"));
+           }),
+           R"(> openen "" -> "x.ged")");
+}
+
+TEST_F(SpelerTest, EenBestandsvraagZonderPadKanNietWordenGespeeld) {
+  VerwachtFout("antwoord Ja",
+               Doet([](Gesprek& gesprek) { static_cast<void>(gesprek.VraagBestand({})); }),
+               R"(er staat geen bestand klaar voor openen "")");
+}
+
+TEST_F(SpelerTest, EenAfdrukStaatMetZijnPaginasInHetVerslag) {
+  Verwacht("", Doet([](Gesprek& gesprek) {
+             EXPECT_TRUE(gesprek.DrukAf({"titel", {{"regel"}, {"regel"}, {}}}));
+           }),
+           "% afdruk 3");
+}
+
+// Stop requests.
+
+TEST_F(SpelerTest, OnderbreekVraagtBijDeEersteTestenEnNeeGaatVerder) {
+  Verwacht(R"(
+    kies Nieuw
+    onderbreek 3
+    onderbreek 2
+    antwoord Nee Ja
+    druk WerkButton
+    druk WerkButton
+  )",
+           ToonHoofd, R"(
+    + Hoofd "Hoofdvenster"
+    + Invoer "Invoer"
+    + Werk "Bezig"
+    ? vraag Ja/Nee "Afbreken bij 3 ?" -> Nee
+    ? vraag Ja/Nee "Afbreken bij 5 ?" -> Ja
+    ! geen "Geteld tot 4"
+    - Werk
+    + Werk "Bezig"
+    ! geen "Geteld tot 10"
+    - Werk
+  )");
+}
+
+TEST_F(SpelerTest, OnderbreekNaDeLaatsteTestBlijftOver) {
+  const SpeelUitslag uitslag = Speel("kies Nieuw\nonderbreek 11\ndruk WerkButton", ToonHoofd);
+  EXPECT_EQ(uitslag.status, 0);
+  EXPECT_THAT(uitslag.ongebruikt, ElementsAre("regel 2: onderbreek, nog 1 keer te gaan"));
+}
+
+// The end.
+
+TEST_F(SpelerTest, InstructiesDieOverZijnKunnenNietWordenGespeeld) {
+  VerwachtFout("kies Einde\n\ntoon", ToonHoofd, "regel 3: het programma is al afgelopen");
+  EXPECT_EQ(verslag_, "+ Hoofd \"Hoofdvenster\"\n- Hoofd\n");
+  VerwachtFout("kies Einde\nantwoord Ja", ToonHoofd, "regel 2: het programma is al afgelopen");
+}
+
+TEST_F(SpelerTest, EenFoutDiepInDeNestingBreektAllesAf) {
+  VerwachtFout("kies Nieuw\ndruk Onzin\nkies Einde", ToonHoofd,
+               "regel 2: Invoer.Onzin bestaat niet");
+  EXPECT_EQ(verslag_, "+ Hoofd \"Hoofdvenster\"\n+ Invoer \"Invoer\"\n");
+}
+
+TEST_F(SpelerTest, OngebruikteAntwoordenEnBestandenWordenGenoemd) {
+  const SpeelUitslag uitslag =
+      Speel("antwoord Ja Nee\nbestand x.ged\nkies Einde", Programma(ToonHoofd));
+  EXPECT_EQ(uitslag.status, 0);
+  EXPECT_EQ(uitslag.reden, "");
+  EXPECT_THAT(uitslag.ongebruikt, ElementsAre("regel 1: antwoord Ja", "regel 1: antwoord Nee",
+                                              "regel 2: bestand \"x.ged\""));
+}
+
+TEST_F(SpelerTest, EenUitzonderingVanHetProgrammaKomtErDoorheen) {
+  EXPECT_THROW(static_cast<void>(Speel(
+                   "", Doet([](Gesprek&) { throw std::runtime_error("van het programma"); }))),
+               std::runtime_error);
+}
+
+// A form that asks something in its destructor must not end the test program.
+TEST_F(SpelerTest, TijdensHetAfbrekenKrijgtWieNogVraagtDeAfwijzing) {
+  struct Vrager {
+    Gesprek& gesprek;
+    std::vector<bool>& antwoorden;
+    ~Vrager() {
+      antwoorden.push_back(gesprek.Vraag("nog ?"));
+      antwoorden.push_back(gesprek.VraagBestand({}).has_value());
+      antwoorden.push_back(gesprek.DrukAf({}));
+      Levensloop formulier("Laat");
+      gesprek.ToonModaal(formulier);
+    }
+  };
+  std::vector<bool> antwoorden;
+  Verwacht(
+      "toon Knop1",
+      [&](Gesprek& gesprek) {
+        const Vrager vrager{gesprek, antwoorden};
+        Levensloop formulier("Leven");
+        gesprek.ToonModaal(formulier);
+      },
+      R"(
+    + Leven "Levensloop"
+    = Knop1 "&Knop"
+  )");
+  EXPECT_THAT(antwoorden, ElementsAre(false, false, false));
+}
+
+TEST_F(SpelerTest, WieHetAfbrekenOpvangtWordtOpnieuwAfgebroken) {
+  bool opgevangen = false;
+  bool verder = false;
+  Verwacht(
+      "",
+      [&](Gesprek& gesprek) {
+        try {
+          ToonHoofd(gesprek);
+        } catch (...) {
+          opgevangen = true;
+        }
+        gesprek.Informeer("nog eens");
+        verder = true;
+      },
+      R"(+ Hoofd "Hoofdvenster")");
+  EXPECT_TRUE(opgevangen);
+  EXPECT_FALSE(verder);
+}
+
+// The hooks.
+
+TEST_F(SpelerTest, MeldtElkeTekstEnElkeTitelDieVerschijnt) {
+  std::vector<std::string> getoond;
+  const Draaiboek boek = LeesDraaiboek("antwoord Ja");
+  const auto programma = [](Gesprek& gesprek) {
+    gesprek.Fout("één"_w);
+    static_cast<void>(gesprek.Vraag("twee ?"));
+    static_cast<void>(gesprek.BerichtMetVinkje("drie", "vier"));
+    ToonHoofd(gesprek);
+  };
+  const SpeelUitslag uitslag =
+      lb77::Speel(boek.instructies, programma, [](std::string_view) {},
+                  {.basismap = {},
+                   .getoond = [&](std::string_view tekst) { getoond.emplace_back(tekst); },
+                   .zonderAntwoord = {}});
+  EXPECT_EQ(uitslag.status, 0);
+  EXPECT_THAT(getoond, ElementsAre("één", "twee ?", "drie", "vier", "Hoofdvenster"));
+}
+
+TEST_F(SpelerTest, EenPlaatsvervangerGeeftHetAntwoordDatHetDraaiboekNietHeeft) {
+  std::string verslag;
+  const Draaiboek boek = LeesDraaiboek("antwoord Ja");
+  std::vector<bool> antwoorden;
+  const SpeelUitslag uitslag = lb77::Speel(
+      boek.instructies,
+      [&](Gesprek& gesprek) {
+        antwoorden.push_back(gesprek.Vraag("een ?"));
+        antwoorden.push_back(gesprek.Vraag("twee ?"));
+      },
+      [&](std::string_view regel) { verslag += std::string(regel) + "\n"; },
+      {.basismap = {}, .getoond = {}, .zonderAntwoord = [](Knoppen knoppen, std::string_view) {
+         return std::optional(Keuzen(knoppen).back());
+       }});
+  EXPECT_EQ(uitslag.status, 0);
+  EXPECT_THAT(antwoorden, ElementsAre(true, false));
+  EXPECT_EQ(verslag, "? vraag Ja/Nee \"een ?\" -> Ja\n? vraag Ja/Nee \"twee ?\" -> Nee\n");
+}
+
+TEST_F(SpelerTest, EenDraaiboekMetEenLeesfoutBegintNiet) {
+  bool begonnen = false;
+  VerwachtFout(
+      "toon\nonzin", [&](Gesprek&) { begonnen = true; }, "regel 2: onbekende instructie: onzin");
+  EXPECT_FALSE(begonnen);
+}
+
+}  // namespace
+}  // namespace lb77
