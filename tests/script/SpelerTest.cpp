@@ -1,18 +1,13 @@
 #include <gmock/gmock.h>
 
-#include <stdexcept>
-#include <vector>
-
 #include "script/SpeelFormulieren.h"
 #include "script/Speler.h"
-#include "script/Verslag.h"
 #include "steun/SpeelToets.h"
 
 namespace lb77 {
 namespace {
 
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 
 class SpelerTest : public SpeelToets {
  protected:
@@ -273,128 +268,6 @@ TEST_F(SpelerTest, OnderbreekNaDeLaatsteTestBlijftOver) {
   const SpeelUitslag uitslag = Speel("kies Nieuw\nonderbreek 11\ndruk WerkButton", ToonHoofd);
   EXPECT_EQ(uitslag.status, 0);
   EXPECT_THAT(uitslag.ongebruikt, ElementsAre("regel 2: onderbreek, nog 1 keer te gaan"));
-}
-
-// The end.
-
-TEST_F(SpelerTest, InstructiesDieOverZijnKunnenNietWordenGespeeld) {
-  VerwachtFout("kies Einde\n\ntoon", ToonHoofd, "regel 3: het programma is al afgelopen");
-  EXPECT_EQ(verslag_, "+ Hoofd \"Hoofdvenster\"\n- Hoofd\n");
-  VerwachtFout("kies Einde\nantwoord Ja", ToonHoofd, "regel 2: het programma is al afgelopen");
-}
-
-TEST_F(SpelerTest, EenFoutDiepInDeNestingBreektAllesAf) {
-  VerwachtFout("kies Nieuw\ndruk Onzin\nkies Einde", ToonHoofd,
-               "regel 2: Invoer.Onzin bestaat niet");
-  EXPECT_EQ(verslag_, "+ Hoofd \"Hoofdvenster\"\n+ Invoer \"Invoer\"\n");
-}
-
-TEST_F(SpelerTest, OngebruikteAntwoordenEnBestandenWordenGenoemd) {
-  const SpeelUitslag uitslag =
-      Speel("antwoord Ja Nee\nbestand x.ged\nkies Einde", Programma(ToonHoofd));
-  EXPECT_EQ(uitslag.status, 0);
-  EXPECT_EQ(uitslag.reden, "");
-  EXPECT_THAT(uitslag.ongebruikt, ElementsAre("regel 1: antwoord Ja", "regel 1: antwoord Nee",
-                                              "regel 2: bestand \"x.ged\""));
-}
-
-TEST_F(SpelerTest, EenUitzonderingVanHetProgrammaKomtErDoorheen) {
-  EXPECT_THROW(static_cast<void>(Speel(
-                   "", Doet([](Gesprek&) { throw std::runtime_error("van het programma"); }))),
-               std::runtime_error);
-}
-
-// A form that asks something in its destructor must not end the test program.
-TEST_F(SpelerTest, TijdensHetAfbrekenKrijgtWieNogVraagtDeAfwijzing) {
-  struct Vrager {
-    Gesprek& gesprek;
-    std::vector<bool>& antwoorden;
-    ~Vrager() {
-      antwoorden.push_back(gesprek.Vraag("nog ?"));
-      antwoorden.push_back(gesprek.VraagBestand({}).has_value());
-      antwoorden.push_back(gesprek.DrukAf({}));
-      Levensloop formulier("Laat");
-      gesprek.ToonModaal(formulier);
-    }
-  };
-  std::vector<bool> antwoorden;
-  Verwacht(
-      "toon Knop1",
-      [&](Gesprek& gesprek) {
-        const Vrager vrager{gesprek, antwoorden};
-        Levensloop formulier("Leven");
-        gesprek.ToonModaal(formulier);
-      },
-      R"(
-    + Leven "Levensloop"
-    = Knop1 "&Knop"
-  )");
-  EXPECT_THAT(antwoorden, ElementsAre(false, false, false));
-}
-
-TEST_F(SpelerTest, WieHetAfbrekenOpvangtWordtOpnieuwAfgebroken) {
-  bool opgevangen = false;
-  bool verder = false;
-  Verwacht(
-      "",
-      [&](Gesprek& gesprek) {
-        try {
-          ToonHoofd(gesprek);
-        } catch (...) {
-          opgevangen = true;
-        }
-        gesprek.Informeer("nog eens");
-        verder = true;
-      },
-      R"(+ Hoofd "Hoofdvenster")");
-  EXPECT_TRUE(opgevangen);
-  EXPECT_FALSE(verder);
-}
-
-// The hooks.
-
-TEST_F(SpelerTest, MeldtElkeTekstEnElkeTitelDieVerschijnt) {
-  std::vector<std::string> getoond;
-  const Draaiboek boek = LeesDraaiboek("antwoord Ja");
-  const auto programma = [](Gesprek& gesprek) {
-    gesprek.Fout("één"_w);
-    static_cast<void>(gesprek.Vraag("twee ?"));
-    static_cast<void>(gesprek.BerichtMetVinkje("drie", "vier"));
-    ToonHoofd(gesprek);
-  };
-  const SpeelUitslag uitslag =
-      lb77::Speel(boek.instructies, programma, [](std::string_view) {},
-                  {.basismap = {},
-                   .getoond = [&](std::string_view tekst) { getoond.emplace_back(tekst); },
-                   .zonderAntwoord = {}});
-  EXPECT_EQ(uitslag.status, 0);
-  EXPECT_THAT(getoond, ElementsAre("één", "twee ?", "drie", "vier", "Hoofdvenster"));
-}
-
-TEST_F(SpelerTest, EenPlaatsvervangerGeeftHetAntwoordDatHetDraaiboekNietHeeft) {
-  std::string verslag;
-  const Draaiboek boek = LeesDraaiboek("antwoord Ja");
-  std::vector<bool> antwoorden;
-  const SpeelUitslag uitslag = lb77::Speel(
-      boek.instructies,
-      [&](Gesprek& gesprek) {
-        antwoorden.push_back(gesprek.Vraag("een ?"));
-        antwoorden.push_back(gesprek.Vraag("twee ?"));
-      },
-      [&](std::string_view regel) { verslag += std::string(regel) + "\n"; },
-      {.basismap = {}, .getoond = {}, .zonderAntwoord = [](Knoppen knoppen, std::string_view) {
-         return std::optional(Keuzen(knoppen).back());
-       }});
-  EXPECT_EQ(uitslag.status, 0);
-  EXPECT_THAT(antwoorden, ElementsAre(true, false));
-  EXPECT_EQ(verslag, "? vraag Ja/Nee \"een ?\" -> Ja\n? vraag Ja/Nee \"twee ?\" -> Nee\n");
-}
-
-TEST_F(SpelerTest, EenDraaiboekMetEenLeesfoutBegintNiet) {
-  bool begonnen = false;
-  VerwachtFout(
-      "toon\nonzin", [&](Gesprek&) { begonnen = true; }, "regel 2: onbekende instructie: onzin");
-  EXPECT_FALSE(begonnen);
 }
 
 }  // namespace
