@@ -1,0 +1,83 @@
+#include "ancestors/KwNummer.h"
+
+#include <gtest/gtest.h>
+
+namespace lb77 {
+namespace {
+
+TEST(KwNrGroterGelijk, PadsTheShorterNumberOnTheLeft) {
+  EXPECT_FALSE(KwNrGroterGelijk("999", "1000"));
+  EXPECT_TRUE(KwNrGroterGelijk("1000", "999"));
+}
+
+TEST(KwNrGroterGelijk, HoldsForEqualNumbersAndTrimsBlanks) {
+  EXPECT_TRUE(KwNrGroterGelijk("12", "12"));
+  EXPECT_TRUE(KwNrGroterGelijk(" 12  ", "12"));
+}
+
+TEST(KwNrGroterGelijk, ComparesFromTheLeft) {
+  EXPECT_TRUE(KwNrGroterGelijk("21", "19"));
+  EXPECT_FALSE(KwNrGroterGelijk("19", "21"));
+}
+
+TEST(KwNrGroterGelijk, CutsNothingOffALongNumber) {
+  const std::string lang(40, '1');
+  EXPECT_TRUE(KwNrGroterGelijk(lang + "2", lang + "1"));
+  EXPECT_FALSE(KwNrGroterGelijk(lang + "1", lang + "2"));
+}
+
+TEST(KwNrGroterGelijk, AnEmptyNumberIsBelowAllOthers) {
+  EXPECT_FALSE(KwNrGroterGelijk("", "0"));
+  EXPECT_TRUE(KwNrGroterGelijk("0", ""));
+}
+
+TEST(KwNrDubbel, DoublesAndAddsTheBit) {
+  EXPECT_EQ(KwNrDubbel("1", 0), "2");
+  EXPECT_EQ(KwNrDubbel("1", 1), "3");
+  EXPECT_EQ(KwNrDubbel("5", 0), "10");
+  EXPECT_EQ(KwNrDubbel("49", 1), "99");
+  EXPECT_EQ(KwNrDubbel("99", 1), "199");
+}
+
+TEST(KwNrDubbel, GoesOnPastTwentyFourDigits) {
+  EXPECT_EQ(KwNrDubbel("999999999999999999999999", 1), "1999999999999999999999999");
+}
+
+TEST(KwNrGeneratie, CountsFromOne) {
+  EXPECT_EQ(KwNrGeneratie("1"), 1);
+  EXPECT_EQ(KwNrGeneratie("2"), 2);
+  EXPECT_EQ(KwNrGeneratie("3"), 2);
+  EXPECT_EQ(KwNrGeneratie("4"), 3);
+  EXPECT_EQ(KwNrGeneratie("7"), 3);
+  EXPECT_EQ(KwNrGeneratie("8"), 4);
+}
+
+TEST(KwNrGeneratie, IsZeroForNoNumberAndForZero) {
+  EXPECT_EQ(KwNrGeneratie(""), 0);
+  EXPECT_EQ(KwNrGeneratie("0"), 0);
+}
+
+TEST(KwNrSchoon, DropsBlanksAndLeadingZeros) {
+  EXPECT_EQ(KwNrSchoon(" 0012 "), "12");
+  EXPECT_EQ(KwNrSchoon("000"), "0");
+  EXPECT_EQ(KwNrSchoon(""), "");
+}
+
+TEST(Kwartiernummer, KnowsItsFamily) {
+  const Kwartiernummer vijf("5");
+  EXPECT_EQ(vijf.Vader().Tekst(), "10");
+  EXPECT_EQ(vijf.Moeder().Tekst(), "11");
+  EXPECT_EQ(vijf.Kind().Tekst(), "2");
+  EXPECT_EQ(vijf.Generatie(), 3);
+}
+
+TEST(Kwartiernummer, EightyGenerationsOfMothersComeBackToTheProband) {
+  Kwartiernummer nummer;
+  for (int i = 0; i < 90; ++i) nummer = nummer.Moeder();
+  EXPECT_EQ(nummer.Generatie(), 91);
+  for (int i = 0; i < 90; ++i) nummer = nummer.Kind();
+  EXPECT_EQ(nummer.Tekst(), "1");
+}
+
+}  // namespace
+}  // namespace lb77
