@@ -7,8 +7,13 @@ namespace lb77 {
 void Gesprek::ToonModaal(Formulier& formulier) {
   if (!formulier.Laad()) return;
   Open(formulier);
-  formulier.Activeer();
-  if (!formulier.Gesloten()) Voer(formulier);
+  try {
+    formulier.Activeer();
+    if (!formulier.Gesloten()) Voer(formulier);
+  } catch (...) {
+    Dicht(formulier);  // no window may outlive its form
+    throw;
+  }
   Dicht(formulier);
   formulier.Beeindig();
 }

@@ -93,7 +93,7 @@ bool Binder::GaNaar(Element& element) {
 
 bool Binder::VerwerkToets(Element* element, const QKeyEvent& toets) {
   const auto gebeurtenis = NaarToets(toets);
-  if (!gebeurtenis) return IsEenmalig(toets);
+  if (!gebeurtenis) return IsEenmalig(toets) || IsAlt(toets);
   if (Geblokkeerd()) return true;
   if (Blader(gebeurtenis->code)) return true;
   bool klaar = false;
@@ -174,10 +174,12 @@ void Binder::VolgFocus() {
     gevolgd_ = veld;
     return;
   }
-  // The viewer's page may keep what the mouse gave it.
-  const Element* bezet = ElementVan(nu);
-  if (gevolgd_ == veld && bezet && bezet->Bron().Soort() == BedieningSoort::Tekstpagina) return;
+  // A form without a focus leaves it where it rests, and the viewer's page keeps what the mouse gave.
+  const Element* rust = ElementVan(nu);
+  const bool blijft =
+      !veld || (gevolgd_ == veld && rust && rust->Bron().Soort() == BedieningSoort::Tekstpagina);
   gevolgd_ = veld;
+  if (blijft && rust && rust->Bron().Bruikbaar()) return;
   const QScopedValueRollback<bool> eigen(eigenFocus_, true);
   const bool muis = QApplication::mouseButtons() != Qt::NoButton;
   doel->setFocus(muis ? Qt::MouseFocusReason : Qt::TabFocusReason);

@@ -30,28 +30,29 @@ QWidget* QtGesprek::Bovenste() const {
   return nullptr;
 }
 
-void QtGesprek::WerkAllesBij() {
+template <class Doe>
+auto QtGesprek::Daarover(Doe doe) {
   for (const auto& binder : stapel_) binder->Bijwerken();
+  QWidget* const ouder = Bovenste();
+  auto uit = doe(ouder);
+  if (ouder) ouder->activateWindow();
+  return uit;
 }
 
 Antwoord QtGesprek::Bericht(BerichtSoort soort, Knoppen knoppen, std::string_view tekst) {
-  WerkAllesBij();
-  return ToonBericht(Bovenste(), soort, knoppen, tekst);
+  return Daarover([&](QWidget* ouder) { return ToonBericht(ouder, soort, knoppen, tekst); });
 }
 
 bool QtGesprek::BerichtMetVinkje(std::string_view tekst, std::string_view vinkje) {
-  WerkAllesBij();
-  return ToonBerichtMetVinkje(Bovenste(), tekst, vinkje);
+  return Daarover([&](QWidget* ouder) { return ToonBerichtMetVinkje(ouder, tekst, vinkje); });
 }
 
 std::optional<std::filesystem::path> QtGesprek::VraagBestand(const BestandsVraag& vraag) {
-  WerkAllesBij();
-  return KiesBestand(Bovenste(), vraag, instellingen_);
+  return Daarover([&](QWidget* ouder) { return KiesBestand(ouder, vraag, instellingen_); });
 }
 
 bool QtGesprek::DrukAf(const Afdruk& afdruk) {
-  WerkAllesBij();
-  return VraagEnDrukAf(Bovenste(), afdruk);
+  return Daarover([&](QWidget* ouder) { return VraagEnDrukAf(ouder, afdruk); });
 }
 
 void QtGesprek::Ververs(Formulier& formulier) {
@@ -66,7 +67,7 @@ bool QtGesprek::StopGevraagd(Formulier& formulier) {
 }
 
 void QtGesprek::Open(Formulier& formulier) {
-  WerkAllesBij();
+  for (const auto& binder : stapel_) binder->Bijwerken();
   stapel_.push_back(std::make_unique<Binder>(formulier, *this, instellingen_, Bovenste()));
   stapel_.back()->Toon();
   sindsVerversing_.invalidate();  // work that begins now shows itself at once

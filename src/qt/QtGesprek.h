@@ -36,7 +36,9 @@ class QtGesprek final : public Gesprek {
   [[nodiscard]] Binder* BinderVan(const Formulier& formulier) const;
   /// The topmost window that is in view, null when there is none.
   [[nodiscard]] QWidget* Bovenste() const;
-  void WerkAllesBij();
+  /// Brings all windows up to date, and asks a question over the topmost one.
+  template <class Doe>
+  auto Daarover(Doe doe);
 
   VensterInstellingen instellingen_;
   std::vector<std::unique_ptr<Binder>> stapel_;

@@ -39,10 +39,16 @@ int CodeVan(const QKeyEvent& toets) {
   return 0;
 }
 
+#ifdef Q_OS_MACOS
+constexpr bool kAltTypt = true;
+#else
+constexpr bool kAltTypt = false;
+#endif
+
 // Ctrl and Alt together are AltGr on some platforms, which types characters.
 bool IsOpdracht(const QKeyEvent& toets) {
   const bool ctrl = toets.modifiers().testFlag(Qt::ControlModifier);
-  const bool alt = toets.modifiers().testFlag(Qt::AltModifier);
+  const bool alt = !kAltTypt && toets.modifiers().testFlag(Qt::AltModifier);
   return ctrl != alt || toets.modifiers().testFlag(Qt::MetaModifier);
 }
 
@@ -51,6 +57,11 @@ bool IsAfdrukbaar(const QString& tekst) {
 }
 
 }  // namespace
+
+bool IsAlt(const QKeyEvent& toets) {
+  return IsOpdracht(toets) && toets.modifiers().testFlag(Qt::AltModifier) &&
+         IsAfdrukbaar(toets.text());
+}
 
 QString GetypteTekst(const QKeyEvent& toets) {
   return IsOpdracht(toets) || !IsAfdrukbaar(toets.text()) ? QString() : toets.text();
@@ -63,9 +74,9 @@ std::optional<ToetsGebeurtenis> NaarToets(const QKeyEvent& toets) {
   const QString tekst = GetypteTekst(toets);
   if (tekst.size() == 1) uit.teken = TekenVan(tekst.at(0).unicode()).value_or('\0');
   if (IsOpdracht(toets) || (uit.code == 0 && tekst.isEmpty())) return std::nullopt;
-  const bool eenmalig =
-      uit.code == toets::kEnter || uit.code == toets::kNumEnter || uit.code == toets::kEscape;
-  if (eenmalig && toets.isAutoRepeat()) return std::nullopt;
+  const bool enter = uit.code == toets::kEnter || uit.code == toets::kNumEnter;
+  if (enter) uit.teken = '\n';
+  if ((enter || uit.code == toets::kEscape) && toets.isAutoRepeat()) return std::nullopt;
   return uit;
 }
 

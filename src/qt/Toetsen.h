@@ -12,6 +12,9 @@ namespace lb77 {
 /// itself, a combination with Ctrl, Alt or Meta, and a repeat of Enter or Escape while it is held.
 [[nodiscard]] std::optional<ToetsGebeurtenis> NaarToets(const QKeyEvent& toets);
 
+/// Alt with a character: an accelerator, which a field would type when nobody answers to it.
+[[nodiscard]] bool IsAlt(const QKeyEvent& toets);
+
 /// The text that the key types, empty when it types none.
 [[nodiscard]] QString GetypteTekst(const QKeyEvent& toets);
 

@@ -1,0 +1,217 @@
+// Each kind of control shows, and follows the form.
+#include <gmock/gmock.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "Proefvorm.h"
+#include "Vensterproef.h"
+#include "text/Letterlijk.h"
+
+namespace lb77 {
+namespace {
+
+using testing::ElementsAre;
+
+class ElementTest : public Vensterproef {
+ protected:
+  Proefvorm vorm{gesprek};
+  /// Shows the form and runs `kijk` in it.
+  void Bekijk(const std::function<void()>& kijk) {
+    Voer(vorm, {kijk, [this] { QTest::mouseClick(&Vind("BackButton"), Qt::LeftButton); }});
+  }
+  /// Changes the form from code, as a handler does, and lets the window follow.
+  void Verander(std::function<void()> doe) {
+    vorm.bijOK = std::move(doe);
+    QTest::mouseClick(&Vind("OKButton"), Qt::LeftButton);
+  }
+};
+
+TEST_F(ElementTest, TextFieldShowsItsTextInUnicode) {
+  vorm.Een.ZetTekst("geërfd €"_w);
+  Bekijk([&] { EXPECT_EQ(Vind<QLineEdit>("Een").text(), QString::fromUtf8("geërfd €")); });
+}
+
+TEST_F(ElementTest, TextSetFromCodeShowsAndRaisesNothing) {
+  Bekijk([&] {
+    Verander([&] { vorm.Vrij.ZetTekst("nieuw"); });
+    EXPECT_EQ(Vind<QLineEdit>("Vrij").text(), QString("nieuw"));
+    EXPECT_THAT(vorm.log, ElementsAre("in Een", "controle Een", "in OKButton", "klik OKButton"));
+  });
+}
+
+TEST_F(ElementTest, TextLongerThanTheMaximumIsShownWhole) {
+  vorm.Een.ZetTekst("twaalf tekens");
+  Bekijk([&] { EXPECT_EQ(Vind<QLineEdit>("Een").text(), QString("twaalf tekens")); });
+}
+
+TEST_F(ElementTest, MultiLineTextKeepsItsLineEnds) {
+  vorm.Blok.ZetTekst("een\ntwee");
+  Bekijk([&] { EXPECT_EQ(Vind<QPlainTextEdit>("Blok").toPlainText(), QString("een\ntwee")); });
+}
+
+TEST_F(ElementTest, ReadOnlyFieldTakesNoFocusAndNoText) {
+  vorm.Lezen.ZetTekst("vast");
+  Bekijk([&] {
+    auto& veld = Vind<QLineEdit>("Lezen");
+    EXPECT_TRUE(veld.isReadOnly());
+    QTest::mouseClick(&veld, Qt::LeftButton);
+    EXPECT_EQ(Focus(), "Een");
+  });
+}
+
+TEST_F(ElementTest, PathFieldKeepsAPathThatWindowsTextCannotShow) {
+  const std::filesystem::path pad(u8"/tmp/Łódź");
+  vorm.Pad.ZetPad(pad);
+  Bekijk([&] {
+    QTest::mouseClick(&Vind("Pad"), Qt::LeftButton);
+    EXPECT_EQ(Focus(), "Pad");
+  });
+  EXPECT_EQ(vorm.Pad.Pad(), pad);
+}
+
+TEST_F(ElementTest, PathFieldStoresATypedPath) {
+  Bekijk([&] {
+    QTest::mouseClick(&Vind("Pad"), Qt::LeftButton);
+    Typ("/data/geërfd");
+  });
+  EXPECT_EQ(vorm.Pad.Pad(), std::filesystem::path(u8"/data/geërfd"));
+}
+
+TEST_F(ElementTest, LabelShowsItsTextPlainly) {
+  Bekijk([&] { EXPECT_EQ(Vind<QLabel>("Uitleg").text(), QString("<b>Uitleg</b> & meer")); });
+  EXPECT_EQ(vorm.Uitleg.Bijschrift(), "<b>Uitleg</b> & meer");
+}
+
+TEST_F(ElementTest, LabelWithAHandlerCanBeClicked) {
+  Bekijk([&] { QTest::mouseClick(&Vind("Klikbaar"), Qt::LeftButton); });
+  EXPECT_THAT(vorm.log, testing::Contains("klik Klikbaar"));
+}
+
+TEST_F(ElementTest, TickBoxFollowsClicksAndCode) {
+  Bekijk([&] {
+    auto& vink = Vind<QCheckBox>("Vink");
+    vink.click();
+    EXPECT_TRUE(vorm.Vink.Gekozen());
+    EXPECT_TRUE(vink.isChecked());
+    Verander([&] { vorm.Vink.Zet(false); });
+    EXPECT_FALSE(vink.isChecked());
+  });
+}
+
+TEST_F(ElementTest, OptionsExcludeEachOther) {
+  Bekijk([&] {
+    Vind<QRadioButton>("Rood").click();
+    Vind<QRadioButton>("Blauw").click();
+    EXPECT_FALSE(Vind<QRadioButton>("Rood").isChecked());
+    EXPECT_TRUE(Vind<QRadioButton>("Blauw").isChecked());
+    Vind<QRadioButton>("Blauw").click();
+    EXPECT_TRUE(Vind<QRadioButton>("Blauw").isChecked());
+  });
+  EXPECT_TRUE(vorm.Blauw.Gekozen());
+}
+
+TEST_F(ElementTest, ArrowsWalkThroughTheOptions) {
+  vorm.Rood.Zet(true);
+  vorm.ZetEersteVeld(vorm.Rood);
+  Bekijk([&] {
+    Toets(Qt::Key_Down);
+    EXPECT_EQ(Focus(), "Groen");
+    Toets(Qt::Key_Up);
+    Toets(Qt::Key_Up);
+    EXPECT_EQ(Focus(), "Blauw");
+  });
+  EXPECT_TRUE(vorm.Blauw.Gekozen());
+}
+
+TEST_F(ElementTest, PickBoxShowsItsRowsAndFollowsTheChoice) {
+  Bekijk([&] {
+    auto& vak = Vind<QComboBox>("Vak");
+    EXPECT_EQ(vak.count(), 3);
+    EXPECT_EQ(vak.currentIndex(), -1);
+    QTest::mouseClick(&Vind("Vrij"), Qt::LeftButton);
+    vak.setCurrentIndex(2);
+    emit vak.activated(2);
+    EXPECT_EQ(vorm.Vak.Index(), 2);
+    Verander([&] { vorm.Vak.ZetRijen({"anders"}); });
+    EXPECT_EQ(vak.count(), 1);
+    EXPECT_EQ(vak.currentIndex(), -1);
+  });
+}
+
+TEST_F(ElementTest, ArrowsChooseInAPickBox) {
+  vorm.ZetEersteVeld(vorm.Vak);
+  Bekijk([&] {
+    Toets(Qt::Key_Down);
+    Toets(Qt::Key_Down);
+  });
+  EXPECT_EQ(vorm.Vak.Tekst(), "een");
+}
+
+TEST_F(ElementTest, PickListFollowsMouseAndDoubleClick) {
+  vorm.Kieslijst.ZetRijen({"aap", "noot", "mies"});
+  Bekijk([&] {
+    auto& lijst = Vind<QListWidget>("Kieslijst");
+    const QPoint plek = lijst.visualItemRect(lijst.item(1)).center();
+    QTest::mouseClick(lijst.viewport(), Qt::LeftButton, Qt::NoModifier, plek);
+    EXPECT_EQ(vorm.Kieslijst.Tekst(), "noot");
+    QTest::mouseDClick(lijst.viewport(), Qt::LeftButton, Qt::NoModifier, plek);
+  });
+  EXPECT_THAT(vorm.log, testing::Contains("dubbel Kieslijst"));
+}
+
+TEST_F(ElementTest, ValueShowsBehindItsPrompt) {
+  vorm.Stand.ZetTekst("12");
+  Bekijk([&] { EXPECT_EQ(Vind<QLabel>("Stand").text(), QString("12")); });
+}
+
+TEST_F(ElementTest, FlagsAndCaptionsFollowTheForm) {
+  Bekijk([&] {
+    Verander([&] {
+      vorm.Vrij.ZetIngeschakeld(false);
+      vorm.Vink.ZetZichtbaar(false);
+      vorm.OKButton.ZetBijschrift("&Verder");
+      vorm.ZetTitel("Anders");
+    });
+    EXPECT_FALSE(Vind("Vrij").isEnabled());
+    EXPECT_FALSE(Vind("Vink").isVisible());
+    EXPECT_EQ(Vind<QPushButton>("OKButton").text(), QString("&Verder"));
+    EXPECT_EQ(Bovenste().windowTitle(), QString("Anders"));
+  });
+}
+
+TEST_F(ElementTest, AccessibleNameIsThePromptOrCaption) {
+  Bekijk([&] {
+    EXPECT_EQ(Vind("Een").accessibleName(), QString("Eerste veld:"));
+    EXPECT_EQ(Vind("OKButton").accessibleName(), QString("OK"));
+    EXPECT_EQ(Vind("PersNr(1)").accessibleName(), QString("Nr"));
+  });
+}
+
+TEST_F(ElementTest, PromptIsTheBuddyOfItsField) {
+  Bekijk([&] {
+    int gevonden = 0;
+    for (const QLabel* label : Bovenste().findChildren<QLabel*>()) {
+      if (label->buddy() == &Vind("Een")) ++gevonden;
+    }
+    EXPECT_EQ(gevonden, 1);
+  });
+}
+
+TEST_F(ElementTest, NoButtonIsADefaultButton) {
+  Bekijk([&] {
+    for (const QPushButton* knop : Bovenste().findChildren<QPushButton*>()) {
+      EXPECT_FALSE(knop->isDefault());
+      EXPECT_FALSE(knop->autoDefault());
+    }
+  });
+}
+
+}  // namespace
+}  // namespace lb77

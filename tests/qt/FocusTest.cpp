@@ -1,0 +1,244 @@
+// The focus: leave checks, swallowed clicks, Enter, Escape, Tab, accelerators.
+#include <gmock/gmock.h>
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include "Proefvorm.h"
+#include "Vensterproef.h"
+
+namespace lb77 {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+class FocusTest : public Vensterproef {
+ protected:
+  Proefvorm vorm{gesprek};
+  void Speel(std::vector<std::function<void()>> stappen) {
+    stappen.emplace_back([this] { QTest::mouseClick(&Vind("BackButton"), Qt::LeftButton); });
+    Voer(vorm, std::move(stappen));
+  }
+  void Druk(const char* naam) { QTest::mouseClick(&Vind(naam), Qt::LeftButton); }
+};
+
+TEST_F(FocusTest, FirstFieldIsEnteredOnceBehindActivation) {
+  Speel({[&] { EXPECT_EQ(Focus(), "Een"); }});
+  EXPECT_THAT(vorm.log, ElementsAre("in Een", "klik BackButton"));
+}
+
+TEST_F(FocusTest, FailedCheckSwallowsAButtonAndShowsItsBoxOnce) {
+  vorm.eenGoed = false;
+  Speel({[&] {
+    Druk("OKButton");
+    EXPECT_EQ(Focus(), "Een");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Vind("Een").hasFocus(); }));
+  }});
+  EXPECT_THAT(boxen, ElementsAre("Een is fout"));
+  EXPECT_THAT(vorm.log, ElementsAre("in Een", "controle Een", "klik BackButton"));
+}
+
+TEST_F(FocusTest, FailedCheckLeavesATickBoxAsItWas) {
+  vorm.eenGoed = false;
+  Speel({[&] {
+    Vind<QCheckBox>("Vink").click();
+    EXPECT_FALSE(Vind<QCheckBox>("Vink").isChecked());
+  }});
+  EXPECT_FALSE(vorm.Vink.Gekozen());
+  EXPECT_THAT(boxen, ElementsAre("Een is fout"));
+}
+
+TEST_F(FocusTest, FailedCheckLeavesAPickBoxAsItWas) {
+  vorm.eenGoed = false;
+  Speel({[&] {
+    auto& vak = Vind<QComboBox>("Vak");
+    Druk("Vak");
+    EXPECT_FALSE(vak.view()->isVisible());
+    EXPECT_EQ(vak.currentIndex(), -1);
+  }});
+  EXPECT_THAT(boxen, ElementsAre("Een is fout"));
+}
+
+TEST_F(FocusTest, FailedCheckKeepsTheMouseOutOfAnotherField) {
+  vorm.eenGoed = false;
+  Speel({[&] {
+           Druk("Vrij");
+           EXPECT_EQ(Focus(), "Een");
+         },
+         [&] { EXPECT_EQ(Focus(), "Een"); }});
+  EXPECT_THAT(boxen, ElementsAre("Een is fout"));
+}
+
+TEST_F(FocusTest, MouseMovesToAnotherField) {
+  Speel({[&] {
+    Druk("Vrij");
+    EXPECT_EQ(Focus(), "Vrij");
+  }});
+  EXPECT_THAT(vorm.log, ElementsAre("in Een", "controle Een", "in Vrij", "klik BackButton"));
+}
+
+TEST_F(FocusTest, FocusThatMovesByItselfAsksTheForm) {
+  vorm.eenGoed = false;
+  Speel({[&] {
+    Vind("Vrij").setFocus(Qt::ShortcutFocusReason);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return Focus() == "Een"; }));
+    QTest::qWait(20);
+    EXPECT_EQ(Focus(), "Een");
+  }});
+  EXPECT_THAT(boxen, ElementsAre("Een is fout"));
+}
+
+TEST_F(FocusTest, FocusThatComesBackFromABoxRaisesNothing) {
+  vorm.bijOK = [&] { gesprek.Informeer("klaar"); };
+  Speel({[&] { Druk("OKButton"); }, [&] { EXPECT_EQ(Focus(), "OKButton"); }});
+  EXPECT_THAT(vorm.log, ElementsAre("in Een", "controle Een", "in OKButton", "klik OKButton",
+                                    "klik BackButton"));
+}
+
+TEST_F(FocusTest, EscapeRunsBackWithoutACheck) {
+  vorm.eenGoed = false;
+  Voer(vorm, {[&] { Toets(Qt::Key_Escape); }});
+  EXPECT_THAT(boxen, IsEmpty());
+  EXPECT_THAT(vorm.log, ElementsAre("in Een", "klik BackButton"));
+}
+
+TEST_F(FocusTest, FrameRunsBackWithoutACheck) {
+  vorm.eenGoed = false;
+  Voer(vorm, {[&] { Bovenste().close(); }});
+  EXPECT_THAT(boxen, IsEmpty());
+  EXPECT_THAT(vorm.log, ElementsAre("in Een", "klik BackButton"));
+}
+
+TEST_F(FocusTest, FrameWithoutAWayBackLeavesTheFormOpen) {
+  vorm.BackButton.ZetIngeschakeld(false);
+  vorm.bijOK = [&] { vorm.Sluit(); };
+  Voer(vorm, {[&] {
+         Bovenste().close();
+         EXPECT_TRUE(Bovenste().isVisible());
+         Druk("OKButton");
+       }});
+  EXPECT_TRUE(vorm.Gesloten());
+}
+
+TEST_F(FocusTest, EnterGoesOn) {
+  vorm.Een.ZetEnter(EnterSoort::Door);
+  Speel({[&] {
+    Toets(Qt::Key_Return);
+    EXPECT_EQ(Focus(), "Cijfers");
+  }});
+}
+
+TEST_F(FocusTest, EnterChecksAndStays) {
+  vorm.Een.ZetEnter(EnterSoort::Controle);
+  Speel({[&] {
+    Toets(Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(Focus(), "Een");
+  }});
+  EXPECT_THAT(vorm.log, ElementsAre("in Een", "controle Een", "klik BackButton"));
+}
+
+TEST_F(FocusTest, EnterPressesOK) {
+  vorm.Een.ZetEnter(EnterSoort::OK);
+  Speel({[&] { Toets(Qt::Key_Return); }});
+  EXPECT_THAT(vorm.log, testing::Contains("klik OKButton"));
+}
+
+TEST_F(FocusTest, EnterThatIsHeldCountsOnce) {
+  vorm.Een.ZetEnter(EnterSoort::Controle);
+  Speel({[&] {
+    QKeyEvent herhaald(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+    QApplication::sendEvent(&Vind("Een"), &herhaald);
+    EXPECT_TRUE(herhaald.isAccepted());
+  }});
+  EXPECT_THAT(vorm.log, ElementsAre("in Een", "klik BackButton"));
+}
+
+TEST_F(FocusTest, EnterOnAButtonPressesIt) {
+  vorm.ZetEersteVeld(vorm.OKButton);
+  Speel({[&] { Toets(Qt::Key_Return); }, [&] { Toets(Qt::Key_Space); }});
+  EXPECT_EQ(std::count(vorm.log.begin(), vorm.log.end(), "klik OKButton"), 2);
+}
+
+TEST_F(FocusTest, TabFollowsTheOrderOfTheForm) {
+  Speel({[&] {
+    std::vector<std::string> gang;
+    do {
+      gang.push_back(Focus());
+      Toets(Qt::Key_Tab);
+    } while (Focus() != "Een" && gang.size() < 40);
+    EXPECT_THAT(
+        gang, ElementsAre("Een", "Cijfers", "Groot", "Vrij", "Blok", "Pad", "Vink", "Rood", "Groen",
+                          "Blauw", "Vak", "Kieslijst", "PersNr(0)", "PersNr(1)", "PersNr(2)",
+                          "Zoek(0)", "Zoek(1)", "Zoek(2)", "OKButton", "BackButton"));
+    Toets(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(Focus(), "BackButton");
+  }});
+}
+
+TEST_F(FocusTest, TabStaysWhenTheCheckFails) {
+  vorm.eenGoed = false;
+  Speel({[&] {
+    Toets(Qt::Key_Tab);
+    EXPECT_EQ(Focus(), "Een");
+  }});
+  EXPECT_THAT(boxen, ElementsAre("Een is fout"));
+}
+
+TEST_F(FocusTest, AcceleratorPressesAButtonBehindTheCheck) {
+  vorm.eenGoed = false;
+  Speel({[&] {
+    Toets(Qt::Key_O, Qt::AltModifier);
+    QTest::qWait(200);
+    EXPECT_EQ(Focus(), "Een");
+  }});
+  EXPECT_THAT(vorm.log, ElementsAre("in Een", "controle Een", "klik BackButton"));
+}
+
+TEST_F(FocusTest, AcceleratorOfAPromptGoesToItsField) {
+  vorm.ZetEersteVeld(vorm.Groot);
+  Speel({[&] {
+    Toets(Qt::Key_E, Qt::AltModifier);
+    EXPECT_EQ(Focus(), "Een");
+  }});
+  EXPECT_THAT(vorm.log, ElementsAre("in Groot", "in Een", "klik BackButton"));
+}
+
+TEST_F(FocusTest, FocusFollowsWhatTheFormMoves) {
+  vorm.bijOK = [&] { vorm.ZetFocus(vorm.Pad); };
+  Speel({[&] {
+    Druk("OKButton");
+    EXPECT_EQ(Focus(), "Pad");
+  }});
+}
+
+TEST_F(FocusTest, FieldThatIsDisabledUnderTheFocusRunsNoCheck) {
+  vorm.bijActief = [&] { vorm.ZetFocus(vorm.Een); };
+  vorm.Vrij.BijWijziging([&] { vorm.Vrij.ZetIngeschakeld(false); });
+  Speel({[&] { Druk("Vrij"); }, [&] { Typ("x"); }, [&] { EXPECT_FALSE(Vind("Vrij").hasFocus()); }});
+  EXPECT_EQ(std::count(vorm.log.begin(), vorm.log.end(), "in Groot"), 0);
+}
+
+TEST_F(FocusTest, KeysReachTheFormWhenNothingHasTheFocus) {
+  vorm.Een.ZetIngeschakeld(false);
+  Voer(vorm, {[&] {
+         EXPECT_EQ(Focus(), "Proefvorm");
+         Toets(Qt::Key_Escape);
+       }});
+  EXPECT_THAT(vorm.log, ElementsAre("klik BackButton"));
+}
+
+TEST_F(FocusTest, KeyThatAControlDoesNotWantComesOnce) {
+  int keer = 0;
+  vorm.Een.BijToets([&](ToetsGebeurtenis& toets) {
+    if (toets.code == toets::kF8) ++keer;
+  });
+  Speel({[&] { Toets(Qt::Key_F8); }});
+  EXPECT_EQ(keer, 1);
+}
+
+}  // namespace
+}  // namespace lb77

@@ -1,0 +1,28 @@
+// The test program of the windows: GoogleTest within an application object.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <cstdio>
+
+#include "qt/Stijl.h"
+
+namespace {
+
+// The platform without a screen tells on each window what it cannot do.
+void Melding(QtMsgType, const QMessageLogContext&, const QString& tekst) {
+  if (!tekst.startsWith(QLatin1String("This plugin does not support"))) {
+    std::fputs(qPrintable(tekst + u'\n'), stderr);
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  qInstallMessageHandler(Melding);
+  testing::InitGoogleTest(&argc, argv);
+  QApplication toepassing(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  lb77::ZetStijl(toepassing);
+  return RUN_ALL_TESTS();
+}
