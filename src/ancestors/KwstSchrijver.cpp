@@ -154,6 +154,7 @@ bool KwstSchrijver::SchrijfKind(int plaats, std::int16_t kind, bool vanProband) 
   const int lengte = static_cast<int>(letter.size());
   int volgNr = 1;
   uit_.EindeRegel();
+  uit_.ZetMarge(true, 0);
   if (opties_.KwInHTML) uit_.Vast("<BR>");
   uit_.ZetMarge(true, 6 - lengte);
   uit_.Vast(letter + ".");

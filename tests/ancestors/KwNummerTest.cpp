@@ -1,6 +1,6 @@
-#include "ancestors/KwNummer.h"
-
 #include <gtest/gtest.h>
+
+#include "ancestors/KwNummer.h"
 
 namespace lb77 {
 namespace {

@@ -1,0 +1,188 @@
+#include <gtest/gtest.h>
+
+#include "ancestors/KwstFamilie.h"
+#include "ancestors/KwstSchrijver.h"
+#include "output/TekstSchrijver.h"
+#include "steun/Gouden.h"
+#include "steun/ProefSet.h"
+
+namespace lb77 {
+namespace {
+
+class KwstSchrijverToets : public ::testing::Test {
+ protected:
+  KwstSchrijverToets() { set_.schrijfwijze.gezindten[1] = "NHNederlands Hervormd"; }
+
+  KwstUitslag Bereken(std::int16_t proband) {
+    opties_.KwProbandNr = proband;
+    return BouwKwst(tabel_, opties_, set_.Persoon, set_.Relatie, set_.volgers, verloop_);
+  }
+  // Computes and writes; the file is in uit_ afterwards, with plain line ends.
+  KwstUitslag Schrijf(std::int16_t proband) {
+    EXPECT_EQ(Bereken(proband), KwstUitslag::Klaar);
+    return SchrijfTabel();
+  }
+  KwstUitslag SchrijfTabel() {
+    ZinOpties zin;
+    zin.ookOpm = opties_.KwOokOpm;
+    zin.ookNrs = opties_.KwOokNrs;
+    zin.inHTML = opties_.KwInHTML;
+    TekstSchrijver schrijver;
+    EXPECT_TRUE(schrijver.Open(set_.map / "uit.txt"));
+    schrijver.ZetRechterMarge(opties_.KwInHTML ? TekstSchrijver::kGeenRechterMarge : 78);
+    const ZinBronnen bronnen{set_.Persoon,   set_.Relatie, set_.Plaats,
+                             set_.Opmerking, set_.volgers, set_.schrijfwijze};
+    const KwstUitslag uitslag =
+        KwstSchrijver(tabel_, opties_, bronnen, zin, schrijver, verloop_).Schrijf();
+    EXPECT_TRUE(schrijver.Sluit());
+    uit_ = LeesBytes(set_.map / "uit.txt");
+    return uitslag;
+  }
+  KwstFamilie Familie() { return BouwKwstFamilie(set_.bouw); }
+  [[nodiscard]] bool Bevat(std::string_view tekst) const {
+    return uit_.find(tekst) != std::string::npos;
+  }
+
+  ProefSet set_;
+  KwstTabel tabel_;
+  KwstOpties opties_;
+  KwstVerloop verloop_{[] { return false; }, [](int, int) {}};
+  std::string uit_;
+};
+
+TEST_F(KwstSchrijverToets, TellsAFamilyAsText) {
+  EXPECT_EQ(Schrijf(Familie().proband), KwstUitslag::Klaar);
+  VerwachtGouden("kwst_tekst.txt", uit_);
+}
+
+TEST_F(KwstSchrijverToets, TellsEverythingItCanAsText) {
+  opties_.KwOokOpm = opties_.KwOokNrs = opties_.KwVolgHerh = true;
+  opties_.KwBroerZus = BroerZus::Alle;
+  opties_.teksten.titel = "Titel";
+  opties_.teksten.inleiding[0] = "Inleiding";
+  opties_.teksten.copyrightRegel = "Copyright (2026) Jan Jansen";
+  opties_.teksten.programmaRegel = "Gemaakt met LB77 voor Windows";
+  EXPECT_EQ(Schrijf(Familie().proband), KwstUitslag::Klaar);
+  VerwachtGouden("kwst_tekst_alles.txt", uit_);
+  EXPECT_FALSE(Bevat("Titel"));
+  EXPECT_FALSE(Bevat("Inleiding"));
+}
+
+TEST_F(KwstSchrijverToets, TellsAFamilyInHTML) {
+  opties_.KwInHTML = opties_.KwOokOpm = true;
+  opties_.teksten.titel = "Kwartierstaat van Gerrit & zijn zus";
+  opties_.teksten.inleiding = {"Eerste regel", "", "Derde regel"};
+  opties_.teksten.copyrightRegel = "Copyright (2026) Jan Jansen";
+  opties_.teksten.programmaRegel = "Gemaakt met LB77 voor Windows";
+  opties_.teksten.email = "jan@example.org";
+  opties_.teksten.emailTekst = "Schrijf me";
+  opties_.teksten.homePage = "http://www.example.org/jan";
+  opties_.teksten.homePageLabel = "Naar";
+  opties_.teksten.homePageTekst = "mijn home page";
+  EXPECT_EQ(Schrijf(Familie().proband), KwstUitslag::Klaar);
+  VerwachtGouden("kwst_html.txt", uit_);
+}
+
+TEST_F(KwstSchrijverToets, TellsBrothersAndSistersInHTMLInLists) {
+  opties_.KwInHTML = opties_.KwOokOpm = true;
+  opties_.KwBroerZus = BroerZus::Alle;
+  EXPECT_EQ(Schrijf(Familie().proband), KwstUitslag::Klaar);
+  VerwachtGouden("kwst_html_broerzus.txt", uit_);
+}
+
+TEST_F(KwstSchrijverToets, TellsTheProbandAmongHisBrothersAndSistersOnly) {
+  opties_.KwBroerZus = BroerZus::VanProband;
+  EXPECT_EQ(Schrijf(Familie().proband), KwstUitslag::Klaar);
+  EXPECT_TRUE(Bevat("     a.  Gerrit van Dam"));
+  EXPECT_TRUE(Bevat("     b.  Hanna van Dam"));
+  EXPECT_FALSE(Bevat("Eva van Dam"));
+}
+
+TEST_F(KwstSchrijverToets, StartsAtTheFirstNumberAskedFor) {
+  opties_.KwVanafNr = Kwartiernummer("4");
+  EXPECT_EQ(Schrijf(Familie().proband), KwstUitslag::Klaar);
+  EXPECT_FALSE(Bevat("Gerrit"));
+  EXPECT_FALSE(Bevat("Femke"));
+  EXPECT_EQ(uit_.rfind("Generatie III\r\n\r\n     4  Adriaan van Dam", 0), 0U);
+}
+
+TEST_F(KwstSchrijverToets, AFirstNumberAboveAllLeavesTheClosingLines) {
+  opties_.KwVanafNr = Kwartiernummer("1000");
+  EXPECT_EQ(Schrijf(Familie().proband), KwstUitslag::Klaar);
+  EXPECT_EQ(uit_, "\r\n\r\n\r\n");
+}
+
+TEST_F(KwstSchrijverToets, AProbandNumberOfFiveBeginsAtGenerationThree) {
+  opties_.KwBeginNr = Kwartiernummer("5");
+  opties_.KwVanafNr = Kwartiernummer("5");
+  EXPECT_EQ(Schrijf(Familie().proband), KwstUitslag::Klaar);
+  EXPECT_EQ(uit_.rfind("Generatie III\r\n\r\n     5  Gerrit van Dam", 0), 0U);
+  EXPECT_TRUE(Bevat("\r\n    10  Dirk van Dam"));
+}
+
+TEST_F(KwstSchrijverToets, ANumberOfSixDigitsOrMoreStandsAtTheMargin) {
+  opties_.KwBeginNr = opties_.KwVanafNr = Kwartiernummer("1234567");
+  EXPECT_EQ(Schrijf(set_.bouw.Man("Jan", "Jansen")), KwstUitslag::Klaar);
+  EXPECT_TRUE(Bevat("\r\n1234567  Jan Jansen."));
+}
+
+TEST_F(KwstSchrijverToets, ACoupleWhoseRelationHasNoDataHasNothingBetween) {
+  const auto vader = set_.bouw.Man("Vader", "A");
+  const auto moeder = set_.bouw.Vrouw("Moeder", "B");
+  const auto kind = set_.bouw.Man("Kind", "A");
+  set_.bouw.Relatie(vader, moeder, {kind});
+  EXPECT_EQ(Schrijf(kind), KwstUitslag::Klaar);
+  EXPECT_TRUE(Bevat("     2  Vader A\r\n     3  Moeder B.\r\n"));
+}
+
+TEST_F(KwstSchrijverToets, ACoupleLivingTogetherIsToldWithoutEvents) {
+  const auto vader = set_.bouw.Man("Vader", "A");
+  const auto moeder = set_.bouw.Vrouw("Moeder", "B");
+  const auto kind = set_.bouw.Man("Kind", "A");
+  set_.bouw.Relatie(vader, moeder, {kind}, {{"HuwSwPs", "2"}});
+  EXPECT_EQ(Schrijf(kind), KwstUitslag::Klaar);
+  EXPECT_TRUE(Bevat("     2  Vader A, partnerschap.\r\n     3  Moeder B.\r\n"));
+}
+
+TEST_F(KwstSchrijverToets, MoreThanTwentySixChildrenHaveTwoLetters) {
+  const auto vader = set_.bouw.Man("Vader", "A");
+  std::vector<std::int16_t> kinderen;
+  for (int i = 0; i < 28; ++i) kinderen.push_back(set_.bouw.Man("Kind", "A"));
+  set_.bouw.Relatie(vader, 0, kinderen);
+  opties_.KwBroerZus = BroerZus::VanProband;
+  EXPECT_EQ(Schrijf(kinderen[0]), KwstUitslag::Klaar);
+  EXPECT_TRUE(Bevat("\r\n     z.  Kind A."));
+  EXPECT_TRUE(Bevat("\r\n    aa.   Kind A."));
+  EXPECT_TRUE(Bevat("\r\n    ab.   Kind A."));
+}
+
+TEST_F(KwstSchrijverToets, AStopLeavesTheFileAsFarAsItWasWritten) {
+  int test = 0;
+  verloop_.afbreken = [&test] { return ++test == 2; };
+  EXPECT_EQ(Bereken(Familie().proband), KwstUitslag::Afgebroken);
+  verloop_.afbreken = [] { return false; };
+  EXPECT_EQ(Bereken(opties_.KwProbandNr), KwstUitslag::Klaar);
+  test = 0;
+  verloop_.afbreken = [&test] { return ++test == 2; };
+  EXPECT_EQ(SchrijfTabel(), KwstUitslag::Afgebroken);
+  EXPECT_TRUE(Bevat("Femke"));
+  EXPECT_FALSE(Bevat("Adriaan"));
+}
+
+TEST_F(KwstSchrijverToets, AnUnreadablePartnerEndsTheReport) {
+  const auto man = set_.bouw.Man("Jan", "Jansen");
+  const auto relatie = set_.bouw.Relatie(man, 0);
+  set_.bouw.WijzigRelatie(relatie, {{"VrouwNr", "500"}});
+  EXPECT_EQ(Schrijf(man), KwstUitslag::Leesfout);
+}
+
+TEST_F(KwstSchrijverToets, APartnerOfTheSameSexIsTheOtherOfTheTwo) {
+  const auto een = set_.bouw.Man("Een", "A");
+  const auto twee = set_.bouw.Man("Twee", "B");
+  set_.bouw.Relatie(een, twee, {}, {{"WHuwDatum", "01-04-2001"}});
+  EXPECT_EQ(Schrijf(twee), KwstUitslag::Klaar);
+  EXPECT_TRUE(Bevat("     1  Twee B, tr. 1.4.2001 Een A."));
+}
+
+}  // namespace
+}  // namespace lb77
