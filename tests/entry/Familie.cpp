@@ -56,6 +56,10 @@ Bestandenset::Opening FamilieToets::Open(const std::filesystem::path& pad, std::
           std::move(fout)};
 }
 
+void FamilieToets::TearDown() {
+  for (const std::string& regel : set_.Getoond()) ADD_FAILURE() << regel;
+}
+
 void FamilieToets::Stil(const Taak& taak, const Plek& plek) {
   Verwacht("", taak, "", plek);
 }

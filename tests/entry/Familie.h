@@ -19,6 +19,9 @@ class FamilieToets : public SpeelToets {
  protected:
   using Taak = std::function<void(Hoofdmodule&)>;
 
+  // What the verbs complained about fails the test.
+  void TearDown() override;
+
   // The verbs that fill the files.
   BouwFamilie& Bouw() { return set_.bouw; }
   // Adds men "A1 Reeks" ... "An Reeks".

@@ -26,7 +26,7 @@ class OKPersoonTest : public FamilieToets {
 
 TEST_F(OKPersoonTest, ToontDePersoonMetZijnPartner) {
   const auto jan = Bouw().Man("Jan", "Vos", {{"GebDatum", "01.05.1850"}});
-  Bouw().Relatie(jan, Bouw().Vrouw("Anna", "Bos"), {}, {{"WetHuwDatum", "03.06.1875"}});
+  Bouw().Relatie(jan, Bouw().Vrouw("Anna", "Bos"), {}, {{"WHuwDatum", "03.06.1875"}});
   Toon("toon\ndruk JaButton", jan, " Jan ", " Vos ", R"(
     : OKPersoon "Zoek Persoon op Naam"
     = VraagLabel "Is dit de juiste Persoon ?"

@@ -47,7 +47,7 @@ TEST_F(PersInfoFormTest, DeInstellingVanDeTrouwdataGeldt) {
   const auto jan = Bouw().Man("Jan", "Vos");
   Bouw().Relatie(
       jan, Bouw().Vrouw("Anna", "Bos"), {},
-      {{"OtrDatum", "01.06.1875"}, {"WetHuwDatum", "03.06.1875"}, {"KHuwDatum", "05.06.1875"}});
+      {{"OtrDatum", "01.06.1875"}, {"WHuwDatum", "03.06.1875"}, {"KHuwDatum", "05.06.1875"}});
   Verwacht(
       "toon InfoTekst\ndruk OKButton",
       [](Hoofdmodule& hoofd) {
@@ -58,7 +58,7 @@ TEST_F(PersInfoFormTest, DeInstellingVanDeTrouwdataGeldt) {
       },
       R"(
     + PersInfoForm "Info Persoon"
-    = InfoTekst "Jan Vos(2), tr. 3.6.1875, tr.kerk 5.6.1875 Anna Bos(3) "
+    = InfoTekst "Jan Vos(2), tr./tr.kerk 3/5.6.1875 Anna Bos(3) "
     - PersInfoForm
   )");
 }
