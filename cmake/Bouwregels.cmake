@@ -44,6 +44,7 @@ function(lb77_toets naam)
     target_precompile_headers(lb77-${naam}-tests PRIVATE ${LB77_VOORAF} <gtest/gtest.h>)
   endif()
   add_test(NAME ${naam} COMMAND lb77-${naam}-tests)
-  set_tests_properties(${naam} PROPERTIES TIMEOUT 300 ENVIRONMENT
+  set_property(GLOBAL APPEND PROPERTY LB77_TOETSEN ${naam})
+  set_tests_properties(${naam} PROPERTIES TIMEOUT 300 FIXTURES_REQUIRED getoond ENVIRONMENT
     "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp")
 endfunction()

@@ -114,6 +114,7 @@ bool Speler::BerichtMetVinkje(std::string_view tekst, std::string_view vinkje) {
 
 std::optional<std::filesystem::path> Speler::VraagBestand(const BestandsVraag& vraag) {
   if (IsAfgebroken()) return std::nullopt;
+  Noteer(vraag.filter);
   const auto pad = voorraad_.NeemBestand();
   const std::string wat = std::string(Woord(vraag.wijze)) + " " + Aangehaald(vraag.filter);
   if (!pad) Weiger("er staat geen bestand klaar voor " + wat);
@@ -150,8 +151,9 @@ void Speler::Voer(Formulier& formulier) {
   while (!formulier.Gesloten() && !formulier.Verborgen()) Doe(formulier, Volgende());
 }
 
+// Also on the way out of an exception: what the script's end unwinds has not closed.
 void Speler::Dicht(Formulier& formulier) {
-  if (!IsAfgebroken()) uit_("- " + WindowsNaarUtf8(formulier.Naam()));
+  if (!afgebroken_) uit_("- " + WindowsNaarUtf8(formulier.Naam()));
 }
 
 void Speler::Doe(Formulier& formulier, const Instructie& instructie) {

@@ -19,7 +19,7 @@ namespace lb77 {
 struct SpeelOpties {
   // Relative paths of `bestand` are resolved against it; empty leaves them as they are.
   std::filesystem::path basismap;
-  // Called with each text of a box and each title of a form that appears, in UTF-8.
+  // Called with each text that appears, in UTF-8: of a box, a form's title, a file question's filter.
   std::function<void(std::string_view utf8)> getoond;
   // Asked for the answer to a choice when the script holds none ready; nothing refuses the script.
   std::function<std::optional<Antwoord>(Knoppen, std::string_view utf8)> zonderAntwoord;
