@@ -93,10 +93,7 @@ Antwoord Speler::Bericht(BerichtSoort soort, Knoppen knoppen, std::string_view t
 }
 
 Antwoord Speler::Kies(Knoppen knoppen, std::string_view tekst) {
-  auto antwoord = voorraad_.NeemAntwoord();
-  if (!antwoord && opties_.zonderAntwoord) {
-    antwoord = opties_.zonderAntwoord(knoppen, WindowsNaarUtf8(tekst));
-  }
+  const auto antwoord = voorraad_.NeemAntwoord();
   if (!antwoord) Weiger("er staat geen antwoord klaar voor " + Aangehaald(tekst));
   const std::vector<Antwoord> keuzen = Keuzen(knoppen);
   if (std::find(keuzen.begin(), keuzen.end(), *antwoord) == keuzen.end()) {

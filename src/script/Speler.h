@@ -21,8 +21,6 @@ struct SpeelOpties {
   std::filesystem::path basismap;
   // Called with each text that appears, in UTF-8: of a box, a form's title, a file question's filter.
   std::function<void(std::string_view utf8)> getoond;
-  // Asked for the answer to a choice when the script holds none ready; nothing refuses the script.
-  std::function<std::optional<Antwoord>(Knoppen, std::string_view utf8)> zonderAntwoord;
 };
 
 // How it went. All texts are UTF-8.

@@ -6,7 +6,6 @@
 
 #include "script/SpeelFormulieren.h"
 #include "script/Speler.h"
-#include "script/Verslag.h"
 #include "steun/SpeelToets.h"
 
 namespace lb77 {
@@ -109,32 +108,11 @@ TEST_F(SpelerEindeTest, MeldtElkeTekstEnElkeTitelDieVerschijnt) {
     static_cast<void>(gesprek.BerichtMetVinkje("drie", "vier"));
     ToonHoofd(gesprek);
   };
-  const SpeelUitslag uitslag =
-      lb77::Speel(boek.instructies, programma, [](std::string_view) {},
-                  {.basismap = {},
-                   .getoond = [&](std::string_view tekst) { getoond.emplace_back(tekst); },
-                   .zonderAntwoord = {}});
+  const SpeelUitslag uitslag = lb77::Speel(
+      boek.instructies, programma, [](std::string_view) {},
+      {.basismap = {}, .getoond = [&](std::string_view tekst) { getoond.emplace_back(tekst); }});
   EXPECT_EQ(uitslag.status, 0);
   EXPECT_THAT(getoond, ElementsAre("één", "twee ?", "drie", "vier", "Hoofdvenster"));
-}
-
-TEST_F(SpelerEindeTest, EenPlaatsvervangerGeeftHetAntwoordDatHetDraaiboekNietHeeft) {
-  std::string verslag;
-  const Draaiboek boek = LeesDraaiboek("antwoord Ja");
-  std::vector<bool> antwoorden;
-  const SpeelUitslag uitslag = lb77::Speel(
-      boek.instructies,
-      [&](Gesprek& gesprek) {
-        antwoorden.push_back(gesprek.Vraag("een ?"));
-        antwoorden.push_back(gesprek.Vraag("twee ?"));
-      },
-      [&](std::string_view regel) { verslag += std::string(regel) + "\n"; },
-      {.basismap = {}, .getoond = {}, .zonderAntwoord = [](Knoppen knoppen, std::string_view) {
-         return std::optional(Keuzen(knoppen).back());
-       }});
-  EXPECT_EQ(uitslag.status, 0);
-  EXPECT_THAT(antwoorden, ElementsAre(true, false));
-  EXPECT_EQ(verslag, "? vraag Ja/Nee \"een ?\" -> Ja\n? vraag Ja/Nee \"twee ?\" -> Nee\n");
 }
 
 TEST_F(SpelerEindeTest, EenDraaiboekMetEenLeesfoutBegintNiet) {
