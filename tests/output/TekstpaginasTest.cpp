@@ -1,0 +1,96 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "output/Tekstpaginas.h"
+#include "steun/TijdelijkeMap.h"
+
+namespace lb77 {
+namespace {
+
+class TekstpaginasTest : public ::testing::Test {
+ protected:
+  void Open(std::string_view bytes) {
+    SchrijfBytes(map_ / "in.txt", bytes);
+    ASSERT_TRUE(paginas_.Open(map_ / "in.txt"));
+  }
+
+  TijdelijkeMap map_;
+  Tekstpaginas paginas_;
+};
+
+TEST_F(TekstpaginasTest, AnEmptyFileHasOneEmptyPage) {
+  Open("");
+  EXPECT_TRUE(paginas_.Leeg());
+  EXPECT_EQ(paginas_.Kolommen(), 1);
+  EXPECT_EQ(paginas_.Rijen(), 1);
+  std::vector<std::string> regels{"oud"};
+  EXPECT_TRUE(paginas_.Lees(1, 1, regels));
+  EXPECT_TRUE(regels.empty());
+}
+
+TEST_F(TekstpaginasTest, AnEmptyLineIsALine) {
+  Open("\r\n");
+  EXPECT_FALSE(paginas_.Leeg());
+}
+
+// Every page of a text at random against the lines of which it was made.
+TEST_F(TekstpaginasTest, EveryPageHoldsItsPartOfItsLines) {
+  std::mt19937 toeval(69);
+  const auto tot = [&toeval](unsigned n) { return static_cast<std::size_t>(toeval() % n); };
+  for (int ronde = 0; ronde < 20; ++ronde) {
+    std::vector<std::string> verwacht(tot(300));
+    std::string bytes;
+    std::size_t langste = 0;
+    for (std::string& regel : verwacht) {
+      regel.resize(tot(8) == 0 ? tot(400) : tot(80));
+      for (char& teken : regel) teken = static_cast<char>('a' + tot(26));
+      langste = std::max(langste, regel.size());
+      bytes += regel + (tot(2) == 0 ? "\r\n" : "\n");
+    }
+    Open(bytes);
+    ASSERT_EQ(paginas_.Kolommen(), static_cast<int>(langste / 80 + 1));
+    ASSERT_EQ(paginas_.Rijen(), std::max(1, static_cast<int>((verwacht.size() + 68) / 69)));
+    std::vector<std::string> samen(verwacht.size());
+    for (int rij = paginas_.Rijen(); rij >= 1; --rij) {
+      for (int kolom = 1; kolom <= paginas_.Kolommen(); ++kolom) {
+        std::vector<std::string> regels;
+        ASSERT_TRUE(paginas_.Lees(kolom, rij, regels));
+        for (std::size_t i = 0; i < regels.size(); ++i) {
+          ASSERT_LE(regels[i].size(), 80U);
+          samen.at(static_cast<std::size_t>(rij - 1) * 69 + i) += regels[i];
+        }
+      }
+    }
+    ASSERT_EQ(samen, verwacht);
+  }
+}
+
+TEST_F(TekstpaginasTest, AFileThatShrankHasFewerLines) {
+  Open(std::string(200, '\n'));
+  SchrijfBytes(map_ / "in.txt", "kort\r\n");
+  std::vector<std::string> regels;
+  EXPECT_TRUE(paginas_.Lees(1, 3, regels));
+  EXPECT_TRUE(regels.empty());
+}
+
+TEST_F(TekstpaginasTest, ACopyThatFailsLeavesTheOldFile) {
+  SchrijfBytes(map_ / "oud.txt", "oud");
+  EXPECT_EQ(KopieerTekst(map_ / "weg.txt", map_ / "oud.txt").nummer, kBestandNietGevonden);
+  EXPECT_EQ(LeesBytes(map_ / "oud.txt"), "oud");
+  EXPECT_FALSE(std::filesystem::exists(map_ / "oud.txt.nieuw"));
+}
+
+TEST_F(TekstpaginasTest, ACopyTakesThePlaceOfTheOldFile) {
+  SchrijfBytes(map_ / "oud.txt", "oud");
+  SchrijfBytes(map_ / "in.txt", std::string("a\0b\nc", 5));
+  EXPECT_FALSE(KopieerTekst(map_ / "in.txt", map_ / "oud.txt"));
+  EXPECT_EQ(LeesBytes(map_ / "oud.txt"), std::string("a\0b\r\nc\r\n", 8));
+  EXPECT_FALSE(std::filesystem::exists(map_ / "oud.txt.nieuw"));
+}
+
+}  // namespace
+}  // namespace lb77
