@@ -1,29 +1,27 @@
-// The desktop program's frame around the composition root.
+// The desktop program's frame: the application object and the last net under the program.
 #pragma once
 
 #include <filesystem>
 #include <functional>
-#include <string_view>
 
 #include "forms/Gesprek.h"
 
 namespace lb77 {
 
-/// What the frame needs of the program.
-struct Programma {
-  /// The program's directory, asked for once the executable's own directory is known.
-  std::function<std::filesystem::path(const std::filesystem::path& uitvoerbaarBestand)> map;
-  /// Runs the program, from its start-up questions to the end of its main window.
+/// What the frame starts.
+struct Vensterprogramma {
+  /// Gives the program's directory, once the application object exists.
+  std::function<std::filesystem::path()> map;
+  /// Runs the program, from its start-up questions to the end of its main window. Before it lets an
+  /// error go it saves what must not be lost.
   std::function<void(Gesprek&, const std::filesystem::path& map)> voer;
-  /// The last net: saves the settings after an error that nobody caught. May be empty.
-  std::function<void()> red;
 };
 
 /// Makes the application object, runs the program and gives the exit status: 0, or 1 after an error
 /// that nobody caught, which is then told to the user.
-[[nodiscard]] int StartVenster(int argc, char** argv, const Programma& programma);
+[[nodiscard]] int StartVenster(int argc, char** argv, const Vensterprogramma& programma);
 
 /// The same within an application object that exists.
-[[nodiscard]] int VoerProgramma(const Programma& programma, const std::filesystem::path& bestand);
+[[nodiscard]] int VoerMetVangnet(const Vensterprogramma& programma);
 
 }  // namespace lb77

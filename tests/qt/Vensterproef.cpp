@@ -59,6 +59,14 @@ void Vensterproef::Antwoord(std::vector<QString> knoppen) {
   antwoorden_.insert(antwoorden_.end(), knoppen.begin(), knoppen.end());
 }
 
+void Vensterproef::Wacht(bool aan) {
+  if (aan) {
+    wacht_.start(1);
+  } else {
+    wacht_.stop();
+  }
+}
+
 void Vensterproef::KijkRond() {
   auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
   if (box && box->isVisible()) Beantwoord(*box);
@@ -66,6 +74,7 @@ void Vensterproef::KijkRond() {
 
 void Vensterproef::Beantwoord(QMessageBox& box) {
   boxen.push_back(box.text().toStdString());
+  if (bijBox) bijBox(box);
   QString knop;
   if (!antwoorden_.empty()) {
     knop = antwoorden_.front();

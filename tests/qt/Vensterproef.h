@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QMessageBox>
 #include <QString>
 #include <QTimer>
@@ -43,8 +44,12 @@ class Vensterproef : public testing::Test {
   void Toets(int toets, Qt::KeyboardModifiers met = Qt::NoModifier);
   void Typ(const char* utf8);
 
+  /// Answers boxes by itself; off for a test that does so by hand.
+  void Wacht(bool aan);
+
   QtGesprek gesprek;
-  std::vector<std::string> boxen;  // the texts of the boxes that appeared, UTF-8
+  std::function<void(QMessageBox&)> bijBox;  // sees each box before its answer
+  std::vector<std::string> boxen;            // the texts of the boxes that appeared, UTF-8
 
  private:
   void KijkRond();

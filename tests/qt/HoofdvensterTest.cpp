@@ -1,0 +1,126 @@
+// The main window: menus, status bar, place on the screen.
+#include <gmock/gmock.h>
+
+#include <QLabel>
+#include <QMenuBar>
+
+#include "Vensterproef.h"
+#include "qt/Hoofdvenster.h"
+
+namespace lb77 {
+namespace {
+
+class Menuvorm final : public Formulier {
+ public:
+  Menuvorm() : Formulier("MenuWindow", "LB77 voor Windows") {
+    Open.BijKlik([this] { log.emplace_back("open"); });
+    Einde.BijKlik([this] { Sluit(); });
+  }
+
+  MenuKeuze Bestand{*this, "MenuBestand", "&Bestand", ""};
+  MenuKeuze Open{*this, "OpenSet", "&Open Bestandenset", "MenuBestand"};
+  MenuKeuze Ini{*this, "ZetIni", "In&stellingen", "MenuBestand"};
+  MenuKeuze Gebruiker{*this, "SetupGebruiker", "&Gebruiker", "ZetIni"};
+  MenuKeuze Einde{*this, "KeuzeAfsluiten", "&Afsluiten", "MenuBestand"};
+  MenuKeuze Help{*this, "MenuHelp", "&Help", ""};
+  Statusbalk Status{*this, "Statusbalk"};
+
+  using Formulier::Sluit;
+  std::vector<std::string> log;
+  bool magSluiten = true;
+
+ protected:
+  [[nodiscard]] bool MagSluiten() override { return magSluiten; }
+};
+
+class HoofdvensterTest : public Vensterproef {
+ protected:
+  Menuvorm vorm;
+  Hoofdvenster& Hoofd() { return dynamic_cast<Hoofdvenster&>(Bovenste()); }
+  QAction& Actie(const char* naam) { return *Hoofd().Actie(naam); }
+};
+
+TEST_F(HoofdvensterTest, MenusStandAsTheFormTells) {
+  Voer(vorm, {[&] {
+         const auto balk = Hoofd().menuBar()->actions();
+         ASSERT_EQ(balk.size(), 2);
+         EXPECT_EQ(balk[0]->text(), QString("&Bestand"));
+         const auto bestand = balk[0]->menu()->actions();
+         ASSERT_EQ(bestand.size(), 3);
+         EXPECT_EQ(bestand[1]->menu()->actions().value(0), &Actie("SetupGebruiker"));
+         EXPECT_EQ(Hoofd().Actie("Onbekend"), nullptr);
+         Actie("KeuzeAfsluiten").trigger();
+       }});
+  EXPECT_TRUE(vorm.Gesloten());
+}
+
+TEST_F(HoofdvensterTest, EntryRunsItsAction) {
+  Voer(vorm, {[&] { Actie("OpenSet").trigger(); }, [&] { Actie("KeuzeAfsluiten").trigger(); }});
+  EXPECT_THAT(vorm.log, testing::ElementsAre("open"));
+}
+
+TEST_F(HoofdvensterTest, FlagsStatusAndTitleFollowTheForm) {
+  vorm.Ini.ZetIngeschakeld(false);
+  vorm.Gebruiker.ZetZichtbaar(false);
+  vorm.Status.ZetTekst("Actieve Bestandenset:");
+  vorm.Open.BijKlik([&] {
+    vorm.Status.ZetTekst("Actieve bestandenset: ROYAL,Vorsten");
+    vorm.Open.ZetIngeschakeld(false);
+  });
+  Voer(vorm, {[&] {
+         EXPECT_EQ(Bovenste().windowTitle(), QString("LB77 voor Windows"));
+         EXPECT_FALSE(Actie("ZetIni").isEnabled());
+         EXPECT_FALSE(Actie("SetupGebruiker").isVisible());
+         EXPECT_EQ(Vind<QLabel>("Statusbalk").text(), QString("Actieve Bestandenset:"));
+         Actie("OpenSet").trigger();
+         EXPECT_FALSE(Actie("OpenSet").isEnabled());
+         EXPECT_EQ(Vind<QLabel>("Statusbalk").text(),
+                   QString("Actieve bestandenset: ROYAL,Vorsten"));
+         Actie("KeuzeAfsluiten").trigger();
+       }});
+}
+
+TEST_F(HoofdvensterTest, StandsWhereTheFormTellsAndTellsWhereItWasMoved) {
+  vorm.ZetPositie({120, 80});
+  Voer(vorm, {[&] {
+         EXPECT_EQ(Bovenste().pos(), QPoint(120, 80));
+         Bovenste().move(200, 150);
+         QTest::qWait(10);
+         Actie("KeuzeAfsluiten").trigger();
+       }});
+  ASSERT_TRUE(vorm.Positie());
+  EXPECT_EQ(vorm.Positie()->x, 200);
+  EXPECT_EQ(vorm.Positie()->y, 150);
+}
+
+TEST_F(HoofdvensterTest, PlaceOutsideTheScreenIsNotTaken) {
+  vorm.ZetPositie({-5000, 9000});
+  Voer(vorm, {[&] {
+         EXPECT_GT(Bovenste().pos().x(), -1000);
+         EXPECT_LT(Bovenste().pos().y(), 2000);
+         Actie("KeuzeAfsluiten").trigger();
+       }});
+}
+
+TEST_F(HoofdvensterTest, FrameAsksTheForm) {
+  vorm.magSluiten = false;
+  Voer(vorm, {[&] {
+         Bovenste().close();
+         EXPECT_TRUE(Bovenste().isVisible());
+         vorm.magSluiten = true;
+         Bovenste().close();
+       }});
+  EXPECT_TRUE(vorm.Gesloten());
+}
+
+TEST_F(HoofdvensterTest, AcceleratorOpensAMenu) {
+  Voer(vorm, {[&] {
+         Toets(Qt::Key_B, Qt::AltModifier);
+         EXPECT_TRUE(Actie("MenuBestand").menu()->isVisible());
+         Actie("MenuBestand").menu()->close();
+         Actie("KeuzeAfsluiten").trigger();
+       }});
+}
+
+}  // namespace
+}  // namespace lb77
