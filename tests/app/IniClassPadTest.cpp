@@ -3,7 +3,7 @@
 
 #include "app/IniClass.h"
 #include "app/SessieToets.h"
-#include "store/Platform.h"
+#include "steun/Gouden.h"
 #include "text/Letterlijk.h"
 
 namespace lb77 {
@@ -31,12 +31,11 @@ TEST_F(IniKlassePad, ZonderBestandMaaktOKEenBestandVanStandaardwaarden) {
              EXPECT_EQ(hoofd.instellingen.Tekstbr(), 80);
            }),
            std::string(kGeenBestand) + "OK");
-  const std::filesystem::path goud = std::filesystem::path(LB77_BRONMAP) / "tests/gouden";
-  std::string verwacht = Inhoud(goud / "LIJNBOOM.INI");
-  for (std::size_t i; (i = verwacht.find("<prog>")) != std::string::npos;) {
-    verwacht.replace(i, 6, map_.string());
+  std::string geschreven = Ini();
+  for (std::size_t i; (i = geschreven.find(map_.string())) != std::string::npos;) {
+    geschreven.replace(i, map_.string().size(), "<prog>");
   }
-  EXPECT_EQ(Ini(), verwacht);
+  VerwachtGouden("LIJNBOOM.INI", geschreven);
   EXPECT_TRUE(IniHeeft("DatumForm=0"));
 }
 

@@ -1,9 +1,5 @@
 #include "app/SessieToets.h"
 
-#include <fstream>
-#include <iterator>
-#include <random>
-
 #include "app/IniGebruiker.h"
 #include "app/NieuweSet.h"
 #include "app/OpenSetForm.h"
@@ -25,31 +21,10 @@ void VervangAlles(std::string& tekst, std::string_view wat, std::string_view doo
 
 }  // namespace
 
-SessieToets::SessieToets() {
-  std::random_device toeval;
-  map_ = std::filesystem::temp_directory_path() / ("lb77-app-" + std::to_string(toeval()));
-  std::filesystem::create_directories(map_);
-}
-
-SessieToets::~SessieToets() {
-  std::error_code code;
-  std::filesystem::remove_all(map_, code);
-}
-
 void SessieToets::ZetIni(std::string_view tekst) const {
   std::string inhoud(tekst);
   VervangAlles(inhoud, "\n", "\r\n");
   Schrijf("LIJNBOOM.INI", inhoud);
-}
-
-std::string SessieToets::Inhoud(const std::filesystem::path& naam) const {
-  std::ifstream in(map_ / naam, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), {}};
-}
-
-void SessieToets::Schrijf(const std::filesystem::path& naam, std::string_view inhoud) const {
-  std::filesystem::create_directories((map_ / naam).parent_path());
-  std::ofstream(map_ / naam, std::ios::binary) << inhoud;
 }
 
 bool SessieToets::Bestaat(const std::filesystem::path& naam) const {

@@ -10,22 +10,24 @@
 #include "app/Klok.h"
 #include "app/MenuWindow.h"
 #include "steun/SpeelToets.h"
+#include "steun/TijdelijkeMap.h"
 
 namespace lb77 {
 
 // map_ is the program's directory: fresh, empty, and gone after the test.
 class SessieToets : public SpeelToets {
  protected:
-  SessieToets();
-  ~SessieToets() override;
-
   // Writes the settings file; line feeds become CR LF.
   void ZetIni(std::string_view tekst) const;
   // The settings file as it lies on the disk.
   [[nodiscard]] std::string Ini() const { return Inhoud("LIJNBOOM.INI"); }
   // A file of the program's directory; empty when it is not there.
-  [[nodiscard]] std::string Inhoud(const std::filesystem::path& naam) const;
-  void Schrijf(const std::filesystem::path& naam, std::string_view inhoud) const;
+  [[nodiscard]] std::string Inhoud(const std::filesystem::path& naam) const {
+    return LeesBytes(map_ / naam);
+  }
+  void Schrijf(const std::filesystem::path& naam, std::string_view inhoud) const {
+    SchrijfBytes(map_ / naam, inhoud);
+  }
   [[nodiscard]] bool Bestaat(const std::filesystem::path& naam) const;
   // True when the settings file has that line, with CR LF behind it.
   [[nodiscard]] bool IniHeeft(std::string_view regel) const;
@@ -43,7 +45,8 @@ class SessieToets : public SpeelToets {
   // A set with four new files on the disk; it is not put in the settings.
   void MaakSet(std::string_view naam);
 
-  std::filesystem::path map_;
+  TijdelijkeMap eigen_;
+  std::filesystem::path map_ = eigen_.Pad();
   VasteKlok klok_{{2026, 1, 2, 3, 4, 5}};
 };
 

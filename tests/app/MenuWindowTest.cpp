@@ -1,0 +1,254 @@
+#include "app/MenuWindow.h"
+#include "app/SessieToets.h"
+#include "steun/Gouden.h"
+
+namespace lb77 {
+namespace {
+
+class Hoofdvenster : public SessieToets {
+ protected:
+  // A settings file with that set in the list, which lies on the disk.
+  void ZetSet(std::string_view systeem = "Set=ABC\n") {
+    MaakSet("ABC");
+    ZetIni("[Systeem]\n" + std::string(systeem) + "[Sets]\nSet1=ABC,mijn familie\n");
+  }
+  // Loads the main window without showing it.
+  Programma Geladen(std::function<void(Hoofdmodule&, MenuWindow&)> doe) {
+    return MetMenu([doe = std::move(doe)](Hoofdmodule& hoofd, MenuWindow& menu) {
+      for (const Bediening* keuze : menu.Bedieningen()) menu.Hang(keuze->Naam(), [] {});
+      EXPECT_TRUE(menu.Laad());
+      doe(hoofd, menu);
+    });
+  }
+};
+
+// The names of the entries that are enabled.
+std::string Ingeschakeld(const MenuWindow& menu) {
+  std::string uit;
+  for (const Bediening* b : menu.Bedieningen()) {
+    if (b->Soort() == BedieningSoort::MenuKeuze && b->Ingeschakeld()) uit += b->Naam() + " ";
+  }
+  return uit;
+}
+
+TEST_F(Hoofdvenster, HetHeleMenuStaatErInDeVolgordeVanDeTabel) {
+  ZetIni("");
+  std::string menu;
+  Verwacht("", MetMenu([&](Hoofdmodule&, MenuWindow& venster) {
+             for (const Bediening* b : venster.Bedieningen()) {
+               if (b->Soort() != BedieningSoort::MenuKeuze) continue;
+               const auto& keuze = static_cast<const MenuKeuze&>(*b);
+               menu += keuze.Menu() + " | " + keuze.Naam() + " | " + keuze.Bijschrift() + "\n";
+             }
+           }),
+           "");
+  VerwachtGouden("MENU.TXT", menu);
+}
+
+TEST_F(Hoofdvenster, ElkMenuIsEenEntryDieErVoorStaat) {
+  ZetIni("");
+  Verwacht("", MetMenu([](Hoofdmodule&, MenuWindow& venster) {
+             std::string eerder = " ";
+             for (const Bediening* b : venster.Bedieningen()) {
+               if (b->Soort() != BedieningSoort::MenuKeuze) continue;
+               const std::string& menu = static_cast<const MenuKeuze&>(*b).Menu();
+               EXPECT_TRUE(menu.empty() || eerder.find(" " + menu + " ") != std::string::npos);
+               eerder += b->Naam() + " ";
+             }
+           }),
+           "");
+}
+
+TEST_F(Hoofdvenster, ZonderSetWerkenAlleenDeEntriesDieGeenSetNodigHebben) {
+  ZetIni("");
+  Verwacht("", Geladen([](Hoofdmodule& hoofd, MenuWindow& menu) {
+             EXPECT_EQ(hoofd.ActieveSetNaam, "<geen bestandenset aanwezig>");
+             EXPECT_EQ(menu.StatusTekst(), "Actieve Bestandenset:");
+             for (const char* naam :
+                  {"MenuInvoer", "MenuUitvTekst", "MenuUitvSchema", "Rapport", "ExportData",
+                   "ImportData", "Corrigeer", "Controle", "ViewTekst", "OpenSet"}) {
+               EXPECT_FALSE(menu.Zoek(naam)->Ingeschakeld()) << naam;
+             }
+             for (const char* naam : {"ZetIni", "MaakSet", "KeuzeAfsluiten", "MenuBestand"}) {
+               EXPECT_TRUE(menu.Zoek(naam)->Ingeschakeld()) << naam;
+             }
+           }),
+           "");
+}
+
+TEST_F(Hoofdvenster, MetEenSetWerktAllesBehalveWatGeenActieHeeft) {
+  ZetSet();
+  Verwacht("", Geladen([](Hoofdmodule&, MenuWindow& menu) {
+             std::string uit;
+             for (const Bediening* b : menu.Bedieningen()) {
+               if (!b->Ingeschakeld()) uit += b->Naam() + " ";
+             }
+             EXPECT_EQ(uit,
+                       "ImportDBase ImportAscii ExpVVF ExpTiny InvoerAkten RefInvoer TekstVerwant "
+                       "UitvAkte Handleid ");
+           }),
+           "");
+}
+
+TEST_F(Hoofdvenster, EenSetDieNietActiefIsKanNogGeopendWorden) {
+  ZetSet();
+  Verwacht("", Geladen([](Hoofdmodule& hoofd, MenuWindow& menu) {
+             hoofd.ActieveSetNaam = kGeenSetActief;
+             menu.ZetMenu();
+             EXPECT_TRUE(menu.Zoek("OpenSet")->Ingeschakeld());
+             EXPECT_FALSE(menu.Zoek("MenuInvoer")->Ingeschakeld());
+             EXPECT_FALSE(menu.Zoek("ViewTekst")->Ingeschakeld());
+           }),
+           "");
+}
+
+TEST_F(Hoofdvenster, WaarNietsAanHangtIsUit) {
+  ZetSet();
+  Verwacht("", MetMenu([](Hoofdmodule&, MenuWindow& menu) {
+             EXPECT_TRUE(menu.Laad());
+             EXPECT_EQ(Ingeschakeld(menu),
+                       "MenuBestand ZetIni ImportData ExportData Controle Corrigeer CorrigeerAdmin "
+                       "Verwijzingen VerwijzingenVervolg KeuzeAfsluiten MenuInvoer MenuUitvTekst "
+                       "MenuUitvSchema Rapport MenuHelp ");
+           }),
+           "");
+}
+
+TEST_F(Hoofdvenster, AanWatVoorGoedUitIsKanNietsHangen) {
+  ZetSet();
+  Verwacht("", MetMenu([](Hoofdmodule&, MenuWindow& menu) {
+             menu.Hang("ImportDBase", [] { FAIL(); });
+             menu.Hang("BestaatNiet", [] { FAIL(); });
+             EXPECT_TRUE(menu.Laad());
+             EXPECT_FALSE(menu.Zoek("ImportDBase")->Ingeschakeld());
+           }),
+           "");
+}
+
+TEST_F(Hoofdvenster, ExpVVFEnExpTinyZijnVerborgen) {
+  ZetIni("");
+  Verwacht("", Geladen([](Hoofdmodule&, MenuWindow& menu) {
+             EXPECT_FALSE(menu.Zoek("ExpVVF")->Zichtbaar());
+             EXPECT_FALSE(menu.Zoek("ExpTiny")->Zichtbaar());
+             EXPECT_TRUE(menu.Zoek("ExpHSK")->Zichtbaar());
+           }),
+           "");
+}
+
+TEST_F(Hoofdvenster, DeEersteKeerIsErGeenSet) {
+  Verwacht(
+      R"(antwoord OK
+              toon Statusbalk
+              toon OpenSet
+              kies KeuzeAfsluiten)",
+      Sessie(),
+      R"(? uitroep OK/Annuleren "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\nBestand niet gevonden\n\nDruk op OK om een nieuw IniBestand te maken\nDruk op CANCEL om te stoppen" -> OK
+              + MenuWindow "LB77 voor Windows"
+              = Statusbalk "Actieve Bestandenset:"
+              = OpenSet "&Open Bestandenset" [uit]
+              - MenuWindow)");
+  EXPECT_TRUE(Bestaat("TEMP"));
+}
+
+TEST_F(Hoofdvenster, DeLaatsteSetKomtVanzelfTerug) {
+  ZetSet("Set=abc\n");
+  Verwacht("toon Statusbalk\nsluit", Sessie(),
+           R"(+ MenuWindow "LB77 voor Windows"
+              = Statusbalk "Actieve bestandenset: ABC,mijn familie"
+              - MenuWindow)");
+  EXPECT_TRUE(IniHeeft("Set=ABC"));
+  EXPECT_TRUE(IniHeeft("SetOms=mijn familie"));
+}
+
+TEST_F(Hoofdvenster, ZonderLaatsteSetKomtDeEersteVanDeLijst) {
+  ZetSet("Set=\n");
+  Verwacht("toon Statusbalk\nsluit", Sessie(),
+           R"(+ MenuWindow "LB77 voor Windows"
+              = Statusbalk "Actieve bestandenset: ABC,mijn familie"
+              - MenuWindow)");
+}
+
+TEST_F(Hoofdvenster, EenLaatsteSetDieNietInDeLijstStaatGeeftEenWaarschuwing) {
+  ZetSet("Set=WEG\n");
+  MaakSet("WEG");
+  Verwacht("toon Statusbalk\nsluit", Sessie(),
+           R"(! uitroep "LIJNBOOM.INI geeft ongeldige actieve bestandenset"
+              + MenuWindow "LB77 voor Windows"
+              = Statusbalk "Actieve bestandenset: WEG"
+              - MenuWindow)");
+}
+
+TEST_F(Hoofdvenster, HetScheidingstekenVanDatumsKomtUitDeInstellingen) {
+  ZetIni("[Genealogie]\nDatumForm=0\n");
+  Verwacht("", Geladen([](Hoofdmodule& hoofd, MenuWindow&) {
+             EXPECT_EQ(hoofd.schrijfwijze.DatumScheider, '-');
+           }),
+           "");
+}
+
+TEST_F(Hoofdvenster, HetVensterKomtWaarHetStond) {
+  ZetIni("[Scherm]\nMainX=321\nMainY=234\n");
+  Verwacht("", Geladen([](Hoofdmodule&, MenuWindow& menu) {
+             ASSERT_TRUE(menu.Positie());
+             EXPECT_EQ(menu.Positie()->x, 321);
+             EXPECT_EQ(menu.Positie()->y, 234);
+           }),
+           "");
+}
+
+TEST_F(Hoofdvenster, AfsluitenBewaartDePlaatsAltijd) {
+  ZetIni("[Scherm]\nMainX=321\nMainY=234\n");
+  Verwacht("kies KeuzeAfsluiten", Sessie(),
+           R"(+ MenuWindow "LB77 voor Windows"
+              - MenuWindow)");
+  EXPECT_TRUE(IniHeeft("Versie=2.1"));
+  EXPECT_TRUE(IniHeeft("MainX=321"));
+}
+
+TEST_F(Hoofdvenster, HetKaderBewaartDePlaatsAlleenAlsZeAndersIs) {
+  ZetIni("[Scherm]\nMainX=321\nMainY=234\n");
+  const std::string voor = Ini();
+  Verwacht("sluit", Sessie(),
+           R"(+ MenuWindow "LB77 voor Windows"
+              - MenuWindow)");
+  EXPECT_EQ(Ini(), voor);
+  Verwacht("", Geladen([](Hoofdmodule&, MenuWindow& menu) {
+             menu.ZetPositie({400, 234});
+             menu.VraagSluiten();
+             EXPECT_TRUE(menu.Gesloten());
+           }),
+           "");
+  EXPECT_TRUE(IniHeeft("MainX=400"));
+  EXPECT_TRUE(IniHeeft("MainY=234"));
+}
+
+TEST_F(Hoofdvenster, EscapeSluitHetProgrammaNiet) {
+  ZetIni("");
+  Verwacht("toets Escape\ntoon Statusbalk", Sessie(),
+           R"(+ MenuWindow "LB77 voor Windows"
+              = Statusbalk "Actieve Bestandenset:")");
+}
+
+TEST_F(Hoofdvenster, WieHetEindeKiestKomtNaDeDialoogBuiten) {
+  ZetIni("");
+  Verwacht("", MetMenu([](Hoofdmodule& hoofd, MenuWindow& menu) {
+             menu.Hang("MaakSet", [&] { hoofd.instellingen.eindeGevraagd = true; });
+             EXPECT_TRUE(menu.Laad());
+             EXPECT_TRUE(menu.Klik(*menu.Zoek("MaakSet")));
+             EXPECT_TRUE(menu.Gesloten());
+           }),
+           "");
+}
+
+TEST_F(Hoofdvenster, NaEenDialoogKloptHetMenuMetDeSet) {
+  ZetSet();
+  Verwacht("", Geladen([](Hoofdmodule& hoofd, MenuWindow& menu) {
+             menu.Hang("ViewTekst", [&] { hoofd.ActieveSetNaam = kGeenSetActief; });
+             EXPECT_TRUE(menu.Klik(*menu.Zoek("ViewTekst")));
+             EXPECT_FALSE(menu.Zoek("Rapport")->Ingeschakeld());
+           }),
+           "");
+}
+
+}  // namespace
+}  // namespace lb77

@@ -1,0 +1,72 @@
+#include "app/SessieToets.h"
+#include "app/SetVerwijderen.h"
+
+namespace lb77 {
+namespace {
+
+class VanSchijf : public SessieToets {
+ protected:
+  void SetUp() override { MaakSet("ABC"); }
+  void Verwijdert(std::string_view verslag) {
+    Verwacht("", Met([this](Hoofdmodule& hoofd) {
+               VerwijderSetVanSchijf(hoofd.gesprek, map_ / "DATA", "ABC");
+             }),
+             MetMap(verslag));
+  }
+  std::filesystem::path Pad(const char* naam) const { return map_ / "DATA/ABC" / naam; }
+};
+
+TEST_F(VanSchijf, EenHeleSetGaatZonderMelding) {
+  Verwijdert("");
+  EXPECT_FALSE(Bestaat("DATA/ABC"));
+  EXPECT_TRUE(Bestaat("DATA"));
+}
+
+TEST_F(VanSchijf, ElkBestandDatErNietIsHeeftZijnMelding) {
+  for (const char* naam : {"ABC.PRS", "ABC.RLT", "ABC.OPM", "ABC.PLT"}) {
+    std::filesystem::remove(Pad(naam));
+  }
+  Verwijdert(
+      R"~(! stop "Fout bij het verwijderen van het Persoonsbestand (<map>/DATA/ABC/ABC.PRS, 53 Bestand niet gevonden)"
+         ! stop "Fout bij het verwijderen van het Relatiebestand (<map>/DATA/ABC/ABC.RLT, 53 Bestand niet gevonden)"
+         ! stop "Fout bij het verwijderen van het Opmerkingenbestand (<map>/DATA/ABC/ABC.OPM, 53 Bestand niet gevonden)"
+         ! uitroep "Verwijderen gaat nog even niet uit van het gebruik van eencentraal plaatsbestand.")~");
+  EXPECT_FALSE(Bestaat("DATA/ABC"));
+}
+
+TEST_F(VanSchijf, EenPlaatsbestandDatNietWegWilHeeftZijnMelding) {
+  std::filesystem::remove(Pad("ABC.PLT"));
+  std::filesystem::create_directories(Pad("ABC.PLT") / "vol");
+  Verwijdert(
+      R"~(! stop "Fout bij het verwijderen van het Plaatsbestand (<map>/DATA/ABC/ABC.PLT, 75 Directory is niet leeg)")~");
+}
+
+TEST_F(VanSchijf, EenKoppelingGaatMaarWaarZeHeenWijstBlijft) {
+  Schrijf("BUITEN/a.txt", "x");
+  std::filesystem::create_directory_symlink(map_ / "BUITEN", Pad("TEKST") / "diep");
+  std::filesystem::create_directory_symlink(map_ / "BUITEN", Pad("INDEX"));
+  std::filesystem::remove(Pad("ABC.RLT"));
+  std::filesystem::create_symlink(map_ / "BUITEN/a.txt", Pad("ABC.RLT"));
+  Verwijdert("");
+  EXPECT_FALSE(Bestaat("DATA/ABC"));
+  EXPECT_EQ(Inhoud("BUITEN/a.txt"), "x");
+}
+
+TEST_F(VanSchijf, EenSetDieZelfEenKoppelingIsBlijftHeel) {
+  std::filesystem::rename(map_ / "DATA/ABC", map_ / "ELDERS");
+  std::filesystem::create_directory_symlink(map_ / "ELDERS", map_ / "DATA/ABC");
+  Verwijdert(
+      R"(! uitroep "Verwijderen van de data-directory voor bestandenset ABCis niet gelukt (Het is een koppeling naar een andere directory). Verwijder de directory <map>/DATA/ABCzelf via de Windows Verkenner.")");
+  EXPECT_TRUE(Bestaat("ELDERS/ABC.PRS"));
+  EXPECT_TRUE(Bestaat("ELDERS/TEKST"));
+}
+
+TEST_F(VanSchijf, EenSetOnderEenAndereKastGaatOok) {
+  std::filesystem::rename(map_ / "DATA/ABC", map_ / "DATA/Abc");
+  std::filesystem::rename(map_ / "DATA/Abc/ABC.PRS", map_ / "DATA/Abc/abc.prs");
+  Verwijdert("");
+  EXPECT_FALSE(Bestaat("DATA/Abc"));
+}
+
+}  // namespace
+}  // namespace lb77
