@@ -1,0 +1,123 @@
+// Questions for files and directories.
+#include <gmock/gmock.h>
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QTemporaryDir>
+
+#include "Vensterproef.h"
+#include "qt/Bestandsvenster.h"
+#include "qt/Vertaling.h"
+
+namespace lb77 {
+namespace {
+
+constexpr const char* kGedcom = "GEDCOM-bestanden (*.GED)|*.GED|Alle Bestanden (*.*)|*.*";
+
+class BestandsvensterTest : public Vensterproef {
+ protected:
+  QTemporaryDir map_;
+  VensterInstellingen instellingen_{PadVanQt(map_.path())};
+
+  void SetUp() override {
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    for (const char* naam : {"oranje.ged", "GROOT.GED", "tekst.txt"}) {
+      QFile bestand(map_.filePath(QLatin1String(naam)));
+      ASSERT_TRUE(bestand.open(QIODevice::WriteOnly));
+    }
+    ASSERT_TRUE(QDir(map_.path()).mkdir("onder"));
+  }
+
+  /// Asks, runs `doe` in the dialog, and gives the answer.
+  std::optional<std::filesystem::path> Vraag(BestandsWijze wijze,
+                                             const std::function<void(QFileDialog&)>& doe) {
+    QTimer::singleShot(0, qApp, [&] {
+      auto* venster = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      ASSERT_TRUE(venster);
+      doe(*venster);
+    });
+    return KiesBestand(nullptr, {wijze, kGedcom, PadVanQt(map_.path())}, instellingen_);
+  }
+  static void Kies(QFileDialog& venster, const char* naam) {
+    venster.findChild<QLineEdit*>()->setText(QLatin1String(naam));
+    static_cast<QDialog&>(venster).accept();
+  }
+  [[nodiscard]] std::filesystem::path Pad(const char* naam) const {
+    return PadVanQt(map_.path()) / naam;
+  }
+};
+
+TEST_F(BestandsvensterTest, FileThatWasChosenComesBack) {
+  EXPECT_EQ(Vraag(BestandsWijze::Openen, [](QFileDialog& v) { Kies(v, "oranje.ged"); }),
+            Pad("oranje.ged"));
+}
+
+TEST_F(BestandsvensterTest, CancellingGivesNothing) {
+  EXPECT_FALSE(Vraag(BestandsWijze::Openen, [](QFileDialog& v) { v.reject(); }));
+}
+
+TEST_F(BestandsvensterTest, DialogSpeaksDutchAndBeginsWhereItWasTold) {
+  Vraag(BestandsWijze::Openen, [&](QFileDialog& v) {
+    EXPECT_EQ(v.windowTitle(), QString("Bestand openen"));
+    EXPECT_EQ(v.labelText(QFileDialog::Accept), QString("&Openen"));
+    EXPECT_EQ(v.labelText(QFileDialog::Reject), QString("&Annuleren"));
+    EXPECT_EQ(v.directory().absolutePath(), map_.path());
+    EXPECT_EQ(v.selectedNameFilter(), QString("GEDCOM-bestanden (*.GED *.ged)"));
+    v.reject();
+  });
+}
+
+TEST_F(BestandsvensterTest, SavingAddsTheExtensionOfTheFilter) {
+  EXPECT_EQ(Vraag(BestandsWijze::Opslaan, [](QFileDialog& v) { Kies(v, "nieuw"); }),
+            Pad("nieuw.GED"));
+}
+
+TEST_F(BestandsvensterTest, SavingOverAFileAsksFirst) {
+  Antwoord({"Ja"});
+  EXPECT_EQ(Vraag(BestandsWijze::Opslaan, [](QFileDialog& v) { Kies(v, "oranje.ged"); }),
+            Pad("oranje.ged"));
+  EXPECT_THAT(boxen, testing::ElementsAre("Het bestand oranje.ged bestaat al. Overschrijven ?"));
+}
+
+TEST_F(BestandsvensterTest, NoToWritingOverAsksForAnotherFile) {
+  Antwoord({"Nee"});
+  bijBox = [](QMessageBox&) {
+    QTimer::singleShot(50, qApp, [] {
+      auto* venster = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+      ASSERT_TRUE(venster);
+      venster->reject();
+    });
+  };
+  EXPECT_FALSE(Vraag(BestandsWijze::Opslaan, [](QFileDialog& v) { Kies(v, "oranje.ged"); }));
+}
+
+TEST_F(BestandsvensterTest, DirectoryCanBeChosen) {
+  EXPECT_EQ(Vraag(BestandsWijze::Map, [](QFileDialog& v) { Kies(v, "onder"); }), Pad("onder"));
+}
+
+TEST_F(BestandsvensterTest, LastDirectoryIsRememberedForTheSameFilter) {
+  Vraag(BestandsWijze::Openen, [](QFileDialog& v) { Kies(v, "oranje.ged"); });
+  EXPECT_EQ(instellingen_.LaatsteMap(kGedcom), map_.path());
+  EXPECT_EQ(instellingen_.LaatsteMap("Alle Bestanden (*.*)|*.*"), QString());
+  QTimer::singleShot(0, qApp, [&] {
+    auto* venster = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_TRUE(venster);
+    EXPECT_EQ(venster->directory().absolutePath(), map_.path());
+    venster->reject();
+  });
+  EXPECT_FALSE(KiesBestand(nullptr, {BestandsWijze::Openen, kGedcom, {}}, instellingen_));
+}
+
+TEST(Naamfilters, PatternsStandInBothCases) {
+  EXPECT_EQ(Naamfilters(kGedcom),
+            QStringList({"GEDCOM-bestanden (*.GED *.ged)", "Alle Bestanden (*)"}));
+  EXPECT_EQ(Naamfilters("Internet|*.htm;*.html"),
+            QStringList({"Internet (*.htm *.HTM *.html *.HTML)"}));
+  EXPECT_EQ(Naamfilters(""), QStringList());
+  EXPECT_EQ(Naamfilters("half"), QStringList());
+}
+
+}  // namespace
+}  // namespace lb77

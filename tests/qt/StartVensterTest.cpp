@@ -1,0 +1,47 @@
+// The frame around the program.
+#include <gmock/gmock.h>
+
+#include <stdexcept>
+
+#include "Vensterproef.h"
+#include "qt/StartVenster.h"
+
+namespace lb77 {
+namespace {
+
+class StartVensterTest : public Vensterproef {
+ protected:
+  static std::filesystem::path Map() { return {}; }
+};
+
+TEST_F(StartVensterTest, ProgramThatEndsGivesNought) {
+  std::filesystem::path gekregen;
+  const int status = VoerMetVangnet({.map = [] { return std::filesystem::path("ergens"); },
+                                     .voer =
+                                         [&](Gesprek& deur, const std::filesystem::path& map) {
+                                           gekregen = map;
+                                           deur.Informeer("begin");
+                                         }});
+  EXPECT_EQ(status, 0);
+  EXPECT_EQ(gekregen, "ergens");
+  EXPECT_THAT(boxen, testing::ElementsAre("begin"));
+}
+
+TEST_F(StartVensterTest, ErrorThatNobodyCaughtIsToldAndGivesOne) {
+  EXPECT_EQ(VoerMetVangnet({.map = Map,
+                            .voer =
+                                [](Gesprek&, const std::filesystem::path&) {
+                                  throw std::runtime_error("schijf stuk");
+                                }}),
+            1);
+  EXPECT_EQ(
+      VoerMetVangnet({.map = Map, .voer = [](Gesprek&, const std::filesystem::path&) { throw 7; }}),
+      1);
+  EXPECT_THAT(boxen, testing::ElementsAre("Er is een onverwachte fout opgetreden. Het programma "
+                                          "wordt beëindigd.\n(schijf stuk)",
+                                          "Er is een onverwachte fout opgetreden. Het programma "
+                                          "wordt beëindigd.\n(onbekende fout)"));
+}
+
+}  // namespace
+}  // namespace lb77

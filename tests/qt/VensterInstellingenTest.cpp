@@ -1,0 +1,70 @@
+// What is remembered of windows.
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "Proefvorm.h"
+#include "Vensterproef.h"
+#include "qt/VensterInstellingen.h"
+#include "qt/Vertaling.h"
+
+namespace lb77 {
+namespace {
+
+TEST(VensterInstellingen, SizesAndDirectoriesComeBack) {
+  const QTemporaryDir map;
+  {
+    VensterInstellingen instellingen(PadVanQt(map.path()));
+    EXPECT_FALSE(instellingen.Maat("ToonTekst"));
+    instellingen.BewaarMaat("ToonTekst", {800, 600});
+    instellingen.BewaarLaatsteMap("a|*.a", "/ergens");
+  }
+  EXPECT_TRUE(QFile::exists(map.filePath("lb77-venster.ini")));
+  const VensterInstellingen later(PadVanQt(map.path()));
+  EXPECT_EQ(later.Maat("ToonTekst"), QSize(800, 600));
+  EXPECT_EQ(later.LaatsteMap("a|*.a"), QString("/ergens"));
+}
+
+TEST(VensterInstellingen, WithoutADirectoryNothingIsKept) {
+  VensterInstellingen instellingen({});
+  instellingen.BewaarMaat("ToonTekst", {800, 600});
+  instellingen.BewaarLaatsteMap("a", "/ergens");
+  EXPECT_FALSE(instellingen.Maat("ToonTekst"));
+  EXPECT_EQ(instellingen.LaatsteMap("a"), QString());
+}
+
+TEST(VensterInstellingen, DamagedFileCostsARememberedSizeAndNoMore) {
+  const QTemporaryDir map;
+  QFile bestand(map.filePath("lb77-venster.ini"));
+  ASSERT_TRUE(bestand.open(QIODevice::WriteOnly));
+  bestand.write("[venster]\nToonTekst=onzin\nKlein=@Size(-3 0)\n\0\0[[[");
+  bestand.close();
+  const VensterInstellingen instellingen(PadVanQt(map.path()));
+  EXPECT_FALSE(instellingen.Maat("ToonTekst"));
+  EXPECT_FALSE(instellingen.Maat("Klein"));
+}
+
+class VenstermaatTest : public Vensterproef {};
+
+TEST_F(VenstermaatTest, FormComesBackInTheSizeThatItWasGiven) {
+  const QTemporaryDir map;
+  QtGesprek metMap(PadVanQt(map.path()));
+  QSize gekregen;
+  for (int keer = 0; keer < 2; ++keer) {
+    Proefvorm vorm(metMap);
+    vorm.bijActief = [&] {
+      if (keer == 0) {
+        gekregen = Bovenste().size() + QSize(37, 21);
+        Bovenste().resize(gekregen);
+      } else {
+        EXPECT_EQ(Bovenste().size(), gekregen);
+      }
+      vorm.Sluit();
+    };
+    metMap.ToonModaal(vorm);
+  }
+}
+
+}  // namespace
+}  // namespace lb77
