@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "entry/Familie.h"
 #include "entry/PersInfoForm.h"
+#include "steun/FamilieToets.h"
 
 namespace lb77 {
 namespace {

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "entry/Familie.h"
 #include "entry/VeldToets.h"
 #include "forms/Formulier.h"
+#include "steun/FamilieToets.h"
 
 namespace lb77 {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "entry/Familie.h"
 #include "entry/ZoekPersoon.h"
+#include "steun/FamilieToets.h"
 
 namespace lb77 {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "entry/Familie.h"
 #include "entry/ZoekPrs.h"
+#include "steun/FamilieToets.h"
 #include "text/Getallen.h"
 
 namespace lb77 {

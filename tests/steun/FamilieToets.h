@@ -22,6 +22,8 @@ class FamilieToets : public SpeelToets {
   // What the verbs complained about fails the test.
   void TearDown() override;
 
+  // The program's directory of the session.
+  [[nodiscard]] const std::filesystem::path& Map() const { return set_.map.Pad(); }
   // The verbs that fill the files.
   BouwFamilie& Bouw() { return set_.bouw; }
   // Adds men "A1 Reeks" ... "An Reeks".

@@ -1,4 +1,4 @@
-#include "entry/Familie.h"
+#include "steun/FamilieToets.h"
 
 #include <cstddef>
 #include <memory>
