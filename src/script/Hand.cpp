@@ -127,7 +127,7 @@ void Hand::Vul(const Instructie& instructie) {
 
 // Key down, and when that leaves the key to the field, key pressed.
 void Hand::TypTeken(Invoerveld& veld, ToetsGebeurtenis toets) {
-  if (formulier_.Toets(&veld, toets) || formulier_.Gesloten()) return;
+  if (formulier_.Toets(&veld, toets)) return;
   if (toets.teken && !veld.AlleenLezen()) formulier_.Typ(veld, toets.teken);
 }
 

@@ -182,9 +182,19 @@ TEST_F(FormulierFocusTest, EenControleDieSluitHoudtDeRestTegen) {
     formulier_.Sluit();
     return true;
   });
-  EXPECT_FALSE(formulier_.Klik(formulier_.OKButton));
-  EXPECT_TRUE(formulier_.Gesloten());
-  EXPECT_THAT(formulier_.dagboek, IsEmpty());
+  formulier_.OKButton.BijBetreden([&] { formulier_.Noteer("in", formulier_.OKButton); });
+  for (Bediening* doel :
+       {static_cast<Bediening*>(&formulier_.OKButton), static_cast<Bediening*>(&formulier_.Vink),
+        static_cast<Bediening*>(&formulier_.Kop)}) {
+    formulier_.Start();
+    EXPECT_FALSE(formulier_.Klik(*doel));
+    EXPECT_TRUE(formulier_.Gesloten());
+    EXPECT_THAT(formulier_.dagboek, IsEmpty());
+    formulier_.Start();
+    EXPECT_FALSE(formulier_.Dubbelklik(*doel));
+    EXPECT_THAT(formulier_.dagboek, IsEmpty());
+  }
+  EXPECT_FALSE(formulier_.Vink.Gekozen());
 }
 
 TEST_F(FormulierFocusTest, EenControleDieSluitHoudtHetBetredenTegen) {
@@ -199,13 +209,20 @@ TEST_F(FormulierFocusTest, EenControleDieSluitHoudtHetBetredenTegen) {
 TEST_F(FormulierFocusTest, EenControleKanDeKnopUitzettenWaarDeKlikHeenGing) {
   formulier_.Naam1.BijVerlaten([&] {
     formulier_.OKButton.ZetIngeschakeld(false);
-    formulier_.Naam2.ZetZichtbaar(false);
     return true;
   });
   EXPECT_FALSE(formulier_.Klik(formulier_.OKButton));
-  formulier_.ZetFocus(formulier_.Naam1);
+  EXPECT_THAT(formulier_.dagboek, IsEmpty());
+}
+
+TEST_F(FormulierFocusTest, EenControleKanHetVeldVerbergenWaarDeFocusHeenGing) {
+  formulier_.Naam1.BijVerlaten([&] {
+    formulier_.Naam2.ZetZichtbaar(false);
+    return true;
+  });
   EXPECT_FALSE(formulier_.GaNaar(formulier_.Naam2));
-  EXPECT_THAT(formulier_.dagboek, ElementsAre("in Naam1"));
+  EXPECT_EQ(formulier_.FocusVeld(), nullptr);
+  EXPECT_THAT(formulier_.dagboek, IsEmpty());
 }
 
 TEST_F(FormulierFocusTest, EenVerborgenVeldWordtNietMeerGecontroleerd) {

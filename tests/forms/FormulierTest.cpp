@@ -42,6 +42,14 @@ TEST(Formulier, GeeftHetEersteVeldDeFocusNaHetActiveren) {
   EXPECT_THAT(formulier.dagboek, ElementsAre("geladen", "actief", "in Naam1"));
 }
 
+TEST(Formulier, LaatDeFocusDieHetActiverenZelfZette) {
+  ProefFormulier formulier;
+  formulier.focusBijActiveren = &formulier.Naam2;
+  EXPECT_TRUE(formulier.Laad());
+  formulier.Activeer();
+  EXPECT_THAT(formulier.dagboek, ElementsAre("geladen", "actief", "in Naam2"));
+}
+
 TEST(Formulier, LaatEenUitgeschakeldEersteVeldLopen) {
   ProefFormulier formulier;
   formulier.Naam1.ZetIngeschakeld(false);

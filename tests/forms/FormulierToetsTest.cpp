@@ -64,6 +64,16 @@ TEST_F(FormulierToetsTest, EnterControleDieDeFocusVerzetBlijftVerzet) {
   EXPECT_EQ(formulier_.FocusVeld(), &formulier_.Naam2);
 }
 
+TEST_F(FormulierToetsTest, EnterControleDieMisluktHoudtDeFocusOokAlsZijHemVerzette) {
+  formulier_.Naam1.ZetEnter(EnterSoort::Controle);
+  formulier_.Naam1.BijVerlaten([&] {
+    formulier_.ZetFocus(formulier_.Naam2);
+    return false;
+  });
+  Druk(toets::kEnter);
+  EXPECT_EQ(formulier_.FocusVeld(), &formulier_.Naam1);
+}
+
 TEST_F(FormulierToetsTest, EnterOKDruktOpOKNaEenControle) {
   formulier_.Naam1.ZetEnter(EnterSoort::OK);
   EXPECT_TRUE(Druk(toets::kEnter));
@@ -131,9 +141,19 @@ TEST_F(FormulierToetsTest, EenVeldKanEenToetsInEenAndereVeranderen) {
   EXPECT_THAT(formulier_.dagboek, ElementsAre("klik BackButton"));
 }
 
-TEST_F(FormulierToetsTest, EenToetsDieSluitIsAfgehandeld) {
+TEST_F(FormulierToetsTest, EenToetsKomtBijHetVeldEnDanBijHetFormulier) {
+  EXPECT_FALSE(formulier_.Toets(&formulier_.Naam1, ToetsVanTeken('a')));
+  EXPECT_FALSE(formulier_.Toets(nullptr, ToetsVanTeken('a')));
+  EXPECT_EQ(formulier_.toetsen, 2);
+  formulier_.Naam1.BijToets([](ToetsGebeurtenis& toets) { toets.verwerkt = true; });
+  EXPECT_TRUE(formulier_.Toets(&formulier_.Naam1, ToetsVanTeken('a')));
+  EXPECT_EQ(formulier_.toetsen, 2);
+}
+
+TEST_F(FormulierToetsTest, EenToetsDieSluitIsAfgehandeldEnGaatNietVerder) {
   formulier_.Naam1.BijToets([&](ToetsGebeurtenis&) { formulier_.Sluit(); });
   EXPECT_TRUE(formulier_.Toets(&formulier_.Naam1, ToetsVanTeken('a')));
+  EXPECT_EQ(formulier_.toetsen, 0);
 }
 
 TEST_F(FormulierToetsTest, TabLooptHeenEnTerugOverWatBruikbaarIs) {

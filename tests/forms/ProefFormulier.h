@@ -47,6 +47,8 @@ class ProefFormulier : public Formulier {
 
   std::vector<std::string> dagboek;
   const Bediening* weigeraar = nullptr;
+  Bediening* focusBijActiveren = nullptr;
+  int toetsen = 0;  // keys that came to the form itself
 
   Tekstvak Naam1{*this, "Naam1", "&Eerste", 5};
   Tekstvak Naam2{*this, "Naam2", "&Tweede"};
@@ -62,7 +64,11 @@ class ProefFormulier : public Formulier {
 
  protected:
   void BijLaden() override { dagboek.push_back("geladen"); }
-  void BijActiveren() override { dagboek.push_back("actief"); }
+  void BijActiveren() override {
+    dagboek.push_back("actief");
+    if (focusBijActiveren) ZetFocus(*focusBijActiveren);
+  }
+  void BijToets(ToetsGebeurtenis&) override { ++toetsen; }
   void BijGesloten() override { dagboek.push_back("gesloten"); }
 
  private:

@@ -88,6 +88,10 @@ TEST_F(HandTest, ToetsBijEenVerborgenFocusveldGaatNaarHetFormulier) {
   )");
 }
 
+TEST_F(HandTest, ToetsTyptNietInEenVeldDatAlleenNogTeLezenIs) {
+  InInvoer("typ Naam x\ntoets F8\ntoets y\ntoon Naam", R"(= Naam "x")");
+}
+
 TEST_F(HandTest, ToetsEnterEnTabGaanVerder) {
   EXPECT_EQ(LaatsteVan("typ Nummer 5\ntoets Enter"), "* Naam");
   EXPECT_EQ(LaatsteVan("typ Nummer 5\ntoets Tab"), "* Naam");

@@ -149,6 +149,12 @@ TEST_F(HandVulTest, NaEenControleDieDeFocusVerzetGaatTypDoorNaarZijnVeld) {
   EXPECT_EQ(LaatsteVan("typ Nummer 1\ntyp Naam x"), "* Naam");
 }
 
+TEST_F(HandVulTest, WieTijdensHetTypenWordtWeggestuurdTyptNietVerder) {
+  InInvoer("vul Naam stopverder\ntoon Naam", R"(= Naam "stop")");
+  EXPECT_EQ(LaatsteVan("vul Naam stopverder"), "* OKButton");
+  EXPECT_EQ(LaatsteVan("vul Naam stop"), "* OKButton");
+}
+
 TEST_F(HandVulTest, EenVeldDatTijdensHetVerlatenVerdwijntWordtNietGevuld) {
   InInvoer("typ Nummer 2\nvul Naam x\ntoon Naam", R"(= Naam "" [verborgen])");
 }

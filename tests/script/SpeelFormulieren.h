@@ -38,7 +38,7 @@ class Werk final : public Formulier {
 };
 
 // One of most things. A number 0 fails its leave check, 1 sends the focus to the button, 2 hides
-// the name, 3 closes the form.
+// the name, 3 closes the form. The name "stop" sends the focus to the button.
 class Invoer final : public Formulier {
  public:
   explicit Invoer(Gesprek& gesprek) : Formulier("Invoer", "Invoer"), gesprek_(gesprek) {
@@ -46,7 +46,10 @@ class Invoer final : public Formulier {
     Nummer.BijVerlaten([this] { return NummerGoed(); });
     Nummer.BijToets([](ToetsGebeurtenis& toets) { toets.verwerkt = toets.teken == '7'; });
     Naam.BijBetreden([this] { Stand.ZetTekst("in Naam"); });
-    Naam.BijWijziging([this] { Stand.ZetTekst(Stand.Tekst() + "|" + Naam.Tekst()); });
+    Naam.BijWijziging([this] {
+      Stand.ZetTekst(Stand.Tekst() + "|" + Naam.Tekst());
+      if (Naam.Tekst() == "stop") ZetFocus(OKButton);
+    });
     Lezen.ZetAlleenLezen(true);
     Kop.BijKlik([this] { ZetTitel("Geklikt"); });
     Kop.BijDubbelklik([this] { Kop.ZetBijschrift("Crematie"); });
@@ -81,6 +84,7 @@ class Invoer final : public Formulier {
   void BijToets(ToetsGebeurtenis& toets) override {
     if (toets.code == toets::kF1) Stand.ZetTekst(toets.shift ? "Shift+F1" : "F1");
     if (toets.code == toets::kF2) Naam.ZetZichtbaar(false);
+    if (toets.code == toets::kF8) Naam.ZetAlleenLezen(true);
   }
 
  private:

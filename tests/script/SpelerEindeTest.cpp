@@ -97,6 +97,17 @@ TEST_F(SpelerEindeTest, WieHetAfbrekenOpvangtWordtOpnieuwAfgebroken) {
   EXPECT_FALSE(verder);
 }
 
+TEST_F(SpelerEindeTest, WieEenFoutOpvangtEnEindigtHoudtDeEersteReden) {
+  const auto programma = [](Gesprek& gesprek) {
+    try {
+      ToonHoofd(gesprek);
+    } catch (...) {
+      return;
+    }
+  };
+  VerwachtFout("druk Onzin\ntoon", programma, "regel 1: Hoofd.Onzin bestaat niet");
+}
+
 // The hooks.
 
 TEST_F(SpelerEindeTest, MeldtElkeTekstEnElkeTitelDieVerschijnt) {
