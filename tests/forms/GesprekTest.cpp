@@ -92,6 +92,17 @@ TEST(Gesprek, EenFormulierDatBijHetActiverenSluitWachtNietOpDeGebruiker) {
   EXPECT_THAT(formulier.dagboek, ElementsAre("geladen", "getoond", "actief", "weg", "gesloten"));
 }
 
+TEST(Gesprek, EenFormulierDatEenUitzonderingLaatGaanGaatWelVanHetScherm) {
+  class Werper final : public ProefFormulier {
+   protected:
+    void BijActiveren() override { throw 7; }
+  };
+  Werper formulier;
+  ProefGesprek gesprek(formulier.dagboek);
+  EXPECT_THROW(gesprek.ToonModaal(formulier), int);
+  EXPECT_THAT(formulier.dagboek, ElementsAre("geladen", "getoond", "weg"));
+}
+
 TEST_F(GesprekTest, EenFormulierKanNogEensWordenGetoond) {
   gesprek_.ToonModaal(formulier_);
   formulier_.dagboek.clear();
