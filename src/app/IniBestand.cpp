@@ -46,12 +46,22 @@ void SchrijfLijst(std::string& uit, std::size_t rij, const Sleutel& sleutel,
   }
 }
 
-// Where the file would be damaged by a failure halfway, and nothing else is possible: a directory
-// in which nothing new can be made.
-bool MagErOverheen(const SchrijfUitslag& uitslag, const std::filesystem::path& doel) {
+// A directory in which nothing new can be made, with a file that may still be written.
+bool MoetErOverheen(const SchrijfUitslag& uitslag, const std::filesystem::path& doel) {
   std::error_code code;
   return uitslag.stap == SchrijfStap::Openen && uitslag.fout.nummer == kGeenToegang &&
          std::filesystem::is_regular_file(doel, code);
+}
+
+// Writes over the last file, and puts its lines back when that fails halfway.
+SchrijfUitslag SchrijfErOverheen(const std::filesystem::path& doel, std::string_view inhoud) {
+  std::string oud;
+  const bool gelezen = !LeesHeelBestand(doel, oud);
+  SchrijfUitslag uitslag = SchrijfHeelBestand(doel, inhoud);
+  if (uitslag.stap == SchrijfStap::Schrijven && gelezen) {
+    static_cast<void>(SchrijfHeelBestand(doel, oud));
+  }
+  return uitslag;
 }
 
 // The last file becomes the backup and the new one takes its place.
@@ -121,8 +131,8 @@ SysteemFout LeesIniBestand(const std::filesystem::path& map, std::string& inhoud
 SchrijfUitslag SchrijfIniBestand(const std::filesystem::path& map, std::string_view inhoud) {
   const std::filesystem::path oud = VindPad(map / kIniBestand);
   const std::filesystem::path nieuw = map / kInWording;
-  const SchrijfUitslag uitslag = SchrijfHeelBestand(nieuw, inhoud);
-  if (MagErOverheen(uitslag, oud)) return SchrijfHeelBestand(oud, inhoud);
+  SchrijfUitslag uitslag = SchrijfHeelBestand(nieuw, inhoud);
+  if (MoetErOverheen(uitslag, oud)) return SchrijfErOverheen(oud, inhoud);
   std::error_code code;
   if (uitslag.stap == SchrijfStap::Klaar) return Verwissel(nieuw, oud, map);
   if (uitslag.stap == SchrijfStap::Schrijven) std::filesystem::remove(nieuw, code);

@@ -4,6 +4,7 @@
 
 #include "app/IniBestand.h"
 #include "app/SessieToets.h"
+#include "app/ZonderRechten.h"
 
 namespace lb77 {
 namespace {
@@ -171,6 +172,32 @@ TEST_F(IniBestand, DeMeldingVanEenVolleSchijfKomtOpHetScherm) {
       }),
       R"(! stop "Fout bij het schrijven van het IniBestand (LIJNBOOM.INI)\nBestand te groot\nDe vorige instellingen blijven bewaard.")");
   EXPECT_EQ(Ini(), "[Systeem]\r\nSetOms=bewaard\r\n");
+}
+
+TEST_F(IniBestand, InEenDirectoryZonderRechtenWordtHetBestandZelfOverschreven) {
+  Schrijf("LIJNBOOM.INI", "een");
+  std::filesystem::permissions(map_ / "LIJNBOOM.INI", std::filesystem::perms(0666));
+  const ZonderRechten rechten(map_);
+  EXPECT_EQ(SchrijfNieuw("twee").stap, SchrijfStap::Klaar);
+  EXPECT_EQ(Ini(), "twee");
+  const VolleSchijf vol(100);
+  EXPECT_EQ(SchrijfNieuw(std::string(2000, 'x')).stap, SchrijfStap::Schrijven);
+  EXPECT_EQ(Ini(), "twee");
+}
+
+TEST_F(IniBestand, EenBestandZonderRechtenWordtNietGelezenEnNietGeschreven) {
+  Schrijf("LIJNBOOM.INI", "een");
+  std::filesystem::permissions(map_ / "LIJNBOOM.INI", std::filesystem::perms(0));
+  {
+    const ZonderRechten rechten(map_);
+    std::string inhoud;
+    EXPECT_EQ(LeesIniBestand(map_, inhoud).tekst, "Geen toegang");
+    const SchrijfUitslag uitslag = SchrijfNieuw("twee");
+    EXPECT_EQ(uitslag.stap, SchrijfStap::Openen);
+    EXPECT_EQ(uitslag.fout.tekst, "Geen toegang");
+  }
+  std::filesystem::permissions(map_ / "LIJNBOOM.INI", std::filesystem::perms(0644));
+  EXPECT_EQ(Ini(), "een");
 }
 
 }  // namespace

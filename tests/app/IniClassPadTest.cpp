@@ -3,6 +3,7 @@
 
 #include "app/IniClass.h"
 #include "app/SessieToets.h"
+#include "app/ZonderRechten.h"
 #include "steun/Gouden.h"
 #include "text/Letterlijk.h"
 
@@ -68,6 +69,21 @@ TEST_F(IniKlassePad, AnnulerenBijHetSchrijvenVraagtHetEindeVanHetProgramma) {
            std::string(kGeenBestand) + R"(OK
              ? uitroep OK/Annuleren "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\nBestand niet gevonden" -> Annuleren)");
   map_ = map_.parent_path();
+}
+
+TEST_F(IniKlassePad, EenBestandZonderRechtenHoudtHetProgrammaTegenEnBlijftStaan) {
+  ZetIni("[Systeem]\nSetOms=bewaard\n");
+  std::filesystem::permissions(map_ / "LIJNBOOM.INI", std::filesystem::perms(0));
+  {
+    const ZonderRechten rechten(map_);
+    Verwacht(
+        "antwoord OK OK", Met([](Hoofdmodule& hoofd) { EXPECT_FALSE(hoofd.Ini.IniLees()); }),
+        R"~(? uitroep OK/Annuleren "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\nGeen toegang\n\nDruk op OK om een nieuw IniBestand te maken\nDruk op CANCEL om te stoppen" -> OK
+                ? uitroep OK/Annuleren "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\nGeen toegang" -> OK
+                ! stop "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\nGeen toegang")~");
+  }
+  std::filesystem::permissions(map_ / "LIJNBOOM.INI", std::filesystem::perms(0644));
+  EXPECT_TRUE(IniHeeft("SetOms=bewaard"));
 }
 
 TEST_F(IniKlassePad, EenOnleesbaarBestandWordtDeReserveEnEenNieuwKomtErVoor) {

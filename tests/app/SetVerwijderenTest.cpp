@@ -1,5 +1,6 @@
 #include "app/SessieToets.h"
 #include "app/SetVerwijderen.h"
+#include "app/ZonderRechten.h"
 
 namespace lb77 {
 namespace {
@@ -66,6 +67,22 @@ TEST_F(VanSchijf, EenSetOnderEenAndereKastGaatOok) {
   std::filesystem::rename(map_ / "DATA/Abc/ABC.PRS", map_ / "DATA/Abc/abc.prs");
   Verwijdert("");
   EXPECT_FALSE(Bestaat("DATA/Abc"));
+}
+
+TEST_F(VanSchijf, ZonderRechtenHeeftElkBestandEnElkeDirectoryZijnMelding) {
+  std::filesystem::create_directory(Pad("INDEX"));
+  {
+    const ZonderRechten rechten(map_ / "DATA/ABC");
+    Verwijdert(
+        R"~(! stop "Fout bij het verwijderen van het Persoonsbestand (<map>/DATA/ABC/ABC.PRS, 70 Geen toegang)"
+           ! stop "Fout bij het verwijderen van het Relatiebestand (<map>/DATA/ABC/ABC.RLT, 70 Geen toegang)"
+           ! stop "Fout bij het verwijderen van het Opmerkingenbestand (<map>/DATA/ABC/ABC.OPM, 70 Geen toegang)"
+           ! stop "Fout bij het verwijderen van het Plaatsbestand (<map>/DATA/ABC/ABC.PLT, 70 Geen toegang)"
+           ! uitroep "Verwijderen van de TEKST-directory voor bestandenset ABCis niet gelukt (Geen toegang). Verwijder de directory <map>/DATA/ABC/TEKSTzelf via de Windows Verkenner."
+           ! uitroep "Verwijderen van de INDEX-directory voor bestandenset ABCis niet gelukt (Geen toegang). Verwijder de directory <map>/DATA/ABC/INDEXzelf via de Windows Verkenner."
+           ! uitroep "Verwijderen van de data-directory voor bestandenset ABCis niet gelukt (Geen toegang). Verwijder de directory <map>/DATA/ABCzelf via de Windows Verkenner.")~");
+  }
+  EXPECT_TRUE(Bestaat("DATA/ABC/ABC.PRS"));
 }
 
 }  // namespace

@@ -1,0 +1,34 @@
+// A user who may read a directory and change nothing in it.
+#pragma once
+
+#include <sys/types.h>
+#include <unistd.h>
+
+#include <exception>
+#include <filesystem>
+#include <stdexcept>
+#include <utility>
+
+namespace lb77 {
+
+// For as long as it lives. The administrator, whom no directory refuses anything, becomes nobody.
+class ZonderRechten {
+ public:
+  explicit ZonderRechten(std::filesystem::path map) : map_(std::move(map)), wie_(geteuid()) {
+    std::filesystem::permissions(map_, std::filesystem::perms(0555));
+    if (wie_ == 0 && seteuid(kNiemand) != 0) throw std::runtime_error("seteuid");
+  }
+  ~ZonderRechten() {
+    if (wie_ == 0 && seteuid(wie_) != 0) std::terminate();
+    std::filesystem::permissions(map_, std::filesystem::perms(0755));
+  }
+  ZonderRechten(const ZonderRechten&) = delete;
+  ZonderRechten& operator=(const ZonderRechten&) = delete;
+
+ private:
+  static constexpr uid_t kNiemand = 65534;
+  std::filesystem::path map_;
+  uid_t wie_;
+};
+
+}  // namespace lb77
