@@ -40,8 +40,8 @@ std::int16_t OpmCodeMet(std::int16_t code, std::int16_t rubriek) {
 }
 
 OpmLB77::Stap OpmLB77::Betreed(std::int16_t nr, Wandeling& wandeling) {
-  // A walk of more steps than there are records goes round in a circle.
-  const bool rond = ++wandeling.stappen > wandeling.aantal;
+  // Record 1 is no remark: a walk of as many steps as there are records goes round in a circle.
+  const bool rond = ++wandeling.stappen >= wandeling.aantal;
   if (nr < 2 || nr > wandeling.aantal || rond) return Stap::FouteVerwijzing;
   Trackers().HuidigOpmNr = nr;
   return Lees() ? Stap::Gelukt : Stap::Leesfout;
