@@ -5,6 +5,7 @@
 #include "store/Paden.h"
 #include "store/SchijfBestand.h"
 #include "text/Getallen.h"
+#include "text/Pad.h"
 
 namespace lb77 {
 

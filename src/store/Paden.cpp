@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <string>
 #include <system_error>
 #include <vector>
 
@@ -63,15 +64,6 @@ fs::path VindPad(const fs::path& pad) {
     resultaat = ander ? *ander : resultaat / deel;
   }
   return resultaat;
-}
-
-std::string PadTekst(const fs::path& pad) {
-  return Utf8NaarWindowsRuim(Utf8Van(pad));
-}
-
-fs::path PadVan(std::string_view tekst) {
-  const std::string utf8 = WindowsNaarUtf8(tekst);
-  return {std::u8string(utf8.begin(), utf8.end())};
 }
 
 }  // namespace lb77

@@ -1,9 +1,7 @@
-// Paths: found under another case, as they stand on the disk.
+// Files and directories that exist under another case.
 #pragma once
 
 #include <filesystem>
-
-#include "text/Pad.h"  // PadTekst, PadVan
 
 namespace lb77 {
 

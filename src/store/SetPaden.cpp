@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "store/Paden.h"
+#include "text/Pad.h"
 #include "text/Tekens.h"
 
 namespace lb77 {

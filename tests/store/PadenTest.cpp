@@ -3,6 +3,7 @@
 #include "steun/TijdelijkeMap.h"
 #include "store/Paden.h"
 #include "text/Letterlijk.h"
+#include "text/Pad.h"
 
 using namespace lb77;
 

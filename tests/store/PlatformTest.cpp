@@ -70,6 +70,12 @@ TEST_F(PlatformTest, EenBestandDatAlleenTeLezenIsGaatNietOpen) {
   EXPECT_EQ(fout.nummer, kGeenToegang);
 }
 
+TEST_F(PlatformTest, EenProgrammaDatDraaitGaatNietOpenOmTeSchrijven) {
+  const SysteemFout fout = greep.Open(ProgrammaMap() / "lb77-store-tests");
+  EXPECT_EQ(fout.nummer, kGeenToegang);
+  EXPECT_EQ(fout.tekst, "Bestand is in gebruik");
+}
+
 TEST_F(PlatformTest, SchrijvenVoorbijHetEindeLaatEenGat) {
   ASSERT_FALSE(greep.Open(map / "gat"));
   EXPECT_FALSE(greep.Schrijf(3, std::string_view("ab")));
