@@ -62,7 +62,9 @@ OpdrachtArgumenten Argumenten(const Regel& regel) {
   OpdrachtArgumenten argumenten;
   for (const std::string& woord : regel.woorden) argumenten.woorden.push_back(InWindows(woord));
   for (const std::string& zet : regel.zet) argumenten.zet.push_back(InWindows(zet));
-  argumenten.bestand = std::filesystem::absolute(PadVanUtf8(regel.bestand));
+  if (!regel.bestand.empty()) {
+    argumenten.bestand = std::filesystem::absolute(PadVanUtf8(regel.bestand));
+  }
   argumenten.html = regel.html;
   if (!regel.naar.empty()) argumenten.naar = PadVanUtf8(regel.naar);
   return argumenten;

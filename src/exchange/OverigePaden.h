@@ -1,0 +1,22 @@
+// What becomes of each line below a record that is no person and no relation.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace lb77 {
+
+enum class OverigeActie {
+  Tekenset,  ///< the character set of the file
+  BronNaam,  ///< shown while the import runs
+  Niets      ///< known, and passed over
+};
+
+struct OverigPad {
+  std::string_view pad;
+  OverigeActie actie;
+};
+
+[[nodiscard]] std::span<const OverigPad> AlleOverigePaden();
+
+}  // namespace lb77
