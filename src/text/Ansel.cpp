@@ -34,6 +34,8 @@ constexpr std::array kAccenten = {
 };
 
 // Windows bytes that have one ANSEL byte.
+// kept: ANSEL has bytes for Æ, Ø, ß and the like too, but only letters with an accent are written its
+// way; these pass unchanged.
 constexpr std::array kNaarAnselRijen = {
     ByteRij{140, 166}, ByteRij{148, 183}, ByteRij{156, 182}, ByteRij{161, 198},
     ByteRij{163, 185}, ByteRij{169, 195}, ByteRij{174, 170}, ByteRij{177, 171},

@@ -12,7 +12,8 @@ namespace {
 
 // The bytes of code page 437 whose character Windows-1252 has too and that are taken over.
 // Source: IBM's published table of code page 437.
-// kept: 158, 166 and 167 stay out, as in the files that the older package reads.
+// kept: 166 and 167 (the ordinal signs) and 255 (the hard blank) have an equivalent too, but pass
+// unchanged, so that old files read as they always did.
 constexpr std::array kGelijkeTekens = {
     Reeks{128, "ÇüéâäàåçêëèïîìÄÅÉæÆôöòûùÿÖÜ¢£¥"_w},
     Reeks{159, "ƒáíóúñÑ"_w},

@@ -32,136 +32,46 @@ constexpr std::array<std::string_view, 128> kNaarAnsel = {
     "\370",  "\341u", "\342u", "\343u", "\350u", "\342y", "\376",  "\350y",  // 248
 };
 
-// What ANSEL bytes 128 to 255 are read as when nothing stands behind them.
-constexpr std::array<std::string_view, 128> kVanAnsel = {
-    "\200",
-    "\201",
-    "\202",
-    "\203",
-    "\204",
-    "\205",
-    "\206",
-    "\207",  // 128
-    "\210",
-    "\211",
-    "\212",
-    "\213",
-    "\214",
-    "\215",
-    "\216",
-    "\217",  // 136
-    "\220",
-    "\221",
-    "\222",
-    "\223",
-    "\224",
-    "\225",
-    "\226",
-    "\227",  // 144
-    "\230",
-    "\231",
-    "\232",
-    "\233",
-    "\234",
-    "\235",
-    "\236",
-    "\237",  // 152
-    "\240",
-    "-L",
-    "\330",
-    "\320",
-    "\336",
-    "\306",
-    "\214",
-    "'",  // 160
-    "\267",
-    "b",
-    "\256",
-    "\261",
-    "O'",
-    "U'",
-    "\270",
-    "?_175_?",  // 168
-    "`",
-    "-l",
-    "\370",
-    "\360",
-    "\376",
-    "\346",
-    "\234",
-    "\224",  // 176
-    "i",
-    "\243",
-    "\376",
-    "?_187_?",
-    "o'",
-    "u'",
-    "?_190_?",
-    "?_191_?",  // 184
-    "\272",
-    "l",
-    "(p)",
-    "\251",
-    "#",
-    "\277",
-    "\241",
-    "?_199_?",  // 192
-    "?_200_?",
-    "?_201_?",
-    "?_202_?",
-    "?_203_?",
-    "?_204_?",
-    "?_205_?",
-    "?_206_?",
-    "\337",  // 200
-    "?_208_?",
-    "?_209_?",
-    "?_210_?",
-    "?_211_?",
-    "?_212_?",
-    "?_213_?",
-    "?_214_?",
-    "?_215_?",  // 208
-    "?_216_?",
-    "?_217_?",
-    "?_218_?",
-    "?_219_?",
-    "?_220_?",
-    "?_221_?",
-    "?_222_?",
-    "?_223_?",  // 216
-    "",
-    "",
-    "",
-    "",
-    "",
-    "\345",
-    "<breve>",
-    "<dot_above>",  // 224
-    "",
-    "",
-    "",
-    "",
-    "",
-    "",
-    "\356",
-    "<candrabindu>",  // 232
-    "",
-    "<ogonek>",
-    "<dot_below>",
-    "<double_dot_below>",
-    "<ring_below>",
-    "<double_underscore>",
-    "\366",
-    "",  // 240
-    "<right_cedilla>",
-    "<breve_below>",
-    "<double_tilde_l>",
-    "<double_tilde_r>",
-    "?_252_?",
-    "?_253_?",
-    "",
-    "?_255_?",  // 248
+// What ANSEL bytes 128 to 223 are read as.
+constexpr std::array<std::string_view, 96> kVanAnsel = {
+    "\200",    "\201",    "\202",    "\203",    "\204",    "\205",    "\206",    "\207",     // 128
+    "\210",    "\211",    "\212",    "\213",    "\214",    "\215",    "\216",    "\217",     // 136
+    "\220",    "\221",    "\222",    "\223",    "\224",    "\225",    "\226",    "\227",     // 144
+    "\230",    "\231",    "\232",    "\233",    "\234",    "\235",    "\236",    "\237",     // 152
+    "\240",    "-L",      "\330",    "\320",    "\336",    "\306",    "\214",    "'",        // 160
+    "\267",    "b",       "\256",    "\261",    "O'",      "U'",      "\270",    "?_175_?",  // 168
+    "`",       "-l",      "\370",    "\360",    "\376",    "\346",    "\234",    "\224",     // 176
+    "i",       "\243",    "\376",    "?_187_?", "o'",      "u'",      "?_190_?", "?_191_?",  // 184
+    "\272",    "l",       "(p)",     "\251",    "#",       "\277",    "\241",    "?_199_?",  // 192
+    "?_200_?", "?_201_?", "?_202_?", "?_203_?", "?_204_?", "?_205_?", "?_206_?", "\337",     // 200
+    "?_208_?", "?_209_?", "?_210_?", "?_211_?", "?_212_?", "?_213_?", "?_214_?", "?_215_?",  // 208
+    "?_216_?", "?_217_?", "?_218_?", "?_219_?", "?_220_?", "?_221_?", "?_222_?", "?_223_?",  // 216
+};
+
+// What the marks, 224 to 255, are read as when nothing stands behind them; "" for all others.
+struct LosMerk {
+  std::size_t byte = 0;
+  std::string_view tekst;
+};
+constexpr std::array kLosseMerken = {
+    LosMerk{229, "\345"},
+    LosMerk{230, "<breve>"},
+    LosMerk{231, "<dot_above>"},
+    LosMerk{238, "\356"},
+    LosMerk{239, "<candrabindu>"},
+    LosMerk{241, "<ogonek>"},
+    LosMerk{242, "<dot_below>"},
+    LosMerk{243, "<double_dot_below>"},
+    LosMerk{244, "<ring_below>"},
+    LosMerk{245, "<double_underscore>"},
+    LosMerk{246, "\366"},
+    LosMerk{248, "<right_cedilla>"},
+    LosMerk{249, "<breve_below>"},
+    LosMerk{250, "<double_tilde_l>"},
+    LosMerk{251, "<double_tilde_r>"},
+    LosMerk{252, "?_252_?"},
+    LosMerk{253, "?_253_?"},
+    LosMerk{255, "?_255_?"},
 };
 
 TEST(WindowsNaarAnselTest, GeeftElkeByteBoven127ZijnBytes) {
@@ -174,14 +84,33 @@ TEST(WindowsNaarAnselTest, LaatBytesOnder128Door) {
   for (std::size_t i = 0; i < 128; ++i) EXPECT_EQ(WindowsNaarAnsel(Byte(i)), Byte(i)) << i;
 }
 
+TEST(WindowsNaarAnselTest, LaatLettersZonderAccentDoorAlHeeftAnselEenAndereByte) {
+  EXPECT_EQ(WindowsNaarAnsel("ÆØÐÞßæøðþ"_w), "ÆØÐÞßæøðþ"_w);
+  EXPECT_EQ(AnselNaarWindows(WindowsNaarAnsel("ß"_w)), "?_223_?");
+}
+
+TEST(WindowsNaarAnselTest, LaatZMetHacekEnYMetTremaDoor) {
+  EXPECT_EQ(WindowsNaarAnsel("ŽžŸ"_w), "ŽžŸ"_w);
+}
+
 TEST(WindowsNaarAnselTest, ZetHetMerkVoorDeLetter) {
   EXPECT_EQ(WindowsNaarAnsel("één #1/2"_w), "\342e\342en #1/2");
   EXPECT_EQ(WindowsNaarAnsel("Šárka"_w), "\351S\342arka");
 }
 
-TEST(AnselNaarWindowsTest, GeeftElkeLosseByteBoven127ZijnTekst) {
+TEST(AnselNaarWindowsTest, GeeftElkeByteVan128Tot223ZijnTekst) {
   for (std::size_t i = 0; i < kVanAnsel.size(); ++i) {
     EXPECT_EQ(AnselNaarWindows(Byte(128 + i)), kVanAnsel[i]) << 128 + i;
+  }
+}
+
+TEST(AnselNaarWindowsTest, GeeftElkLosMerkZijnTekstOfLaatHetVallen) {
+  for (std::size_t byte = 224; byte < 256; ++byte) {
+    std::string_view verwacht;
+    for (const LosMerk& los : kLosseMerken) {
+      if (los.byte == byte) verwacht = los.tekst;
+    }
+    EXPECT_EQ(AnselNaarWindows(Byte(byte)), verwacht) << byte;
   }
 }
 

@@ -57,8 +57,12 @@ TEST(DosNaarWindowsTest, LaatBytesOnder128DoorOpDrieNa) {
   EXPECT_EQ(DosNaarWindows("^|~"), "\x88\xA6\x98");
 }
 
-TEST(DosNaarWindowsTest, LaatByte158En166En167OngewijzigdDoor) {
-  EXPECT_EQ(DosNaarWindows("\x9E\xA6\xA7"), "\x9E\xA6\xA7");
+TEST(DosNaarWindowsTest, LaatOrdinaaltekensEnVasteBlankOngewijzigdDoorAlHeeftWindowsZe) {
+  EXPECT_EQ(DosNaarWindows("\xA6\xA7\xFF"), "\xA6\xA7\xFF");
+}
+
+TEST(DosNaarWindowsTest, LaatByte158ZonderGelijkeOngewijzigdDoor) {
+  EXPECT_EQ(DosNaarWindows("\x9E"), "\x9E");
 }
 
 TEST(DosNaarWindowsTest, LeestLijntekensAlsStreepKruisEnDubbelKruis) {
