@@ -13,22 +13,20 @@ namespace {
 constexpr int kHoogsteJaar = 2100;
 constexpr std::string_view kGeenDag = "Dag bestaat niet";
 
-// Right-justified with zeros; a longer text keeps its last characters.
-std::string VulLinksMetNullen(std::string_view tekst, std::size_t breedte) {
-  tekst = Trim(tekst);
-  if (tekst.size() >= breedte) return std::string(tekst.substr(tekst.size() - breedte));
-  return std::string(breedte - tekst.size(), '0') + std::string(tekst);
+// Right-justified with zeros; a longer text keeps its last characters. Blanks around it don't count.
+std::string MetNullen(std::string_view tekst, std::size_t breedte) {
+  return Rechts(Trim(tekst), breedte, '0');
 }
 
 DatumDelen ZonderScheider(std::string_view tekst) {
-  const std::string acht = VulLinksMetNullen(tekst, 8);
+  const std::string acht = MetNullen(tekst, 8);
   return {Getalwaarde(acht.substr(0, 2)), Getalwaarde(acht.substr(2, 2)),
           Getalwaarde(acht.substr(4))};
 }
 
 DatumDelen MetEenScheider(std::string_view dag, std::string_view rest) {
   const std::string gevuld = std::string(Trim(rest)) + "00000000";
-  return {Getalwaarde(VulLinksMetNullen(dag, 2)), Getalwaarde(gevuld.substr(0, 2)),
+  return {Getalwaarde(MetNullen(dag, 2)), Getalwaarde(gevuld.substr(0, 2)),
           Getalwaarde(gevuld.substr(2, 4))};
 }
 
@@ -38,9 +36,9 @@ DatumDelen Ontleed(std::string_view tekst, char scheider) {
   const std::string_view dag = tekst.substr(0, p1);
   const std::size_t p2 = tekst.find(scheider, p1 + 1);
   if (p2 == std::string_view::npos) return MetEenScheider(dag, tekst.substr(p1 + 1));
-  return {Getalwaarde(VulLinksMetNullen(dag, 2)),
-          Getalwaarde(VulLinksMetNullen(tekst.substr(p1 + 1, p2 - p1 - 1), 2)),
-          Getalwaarde(VulLinksMetNullen(tekst.substr(p2 + 1), 4))};
+  return {Getalwaarde(MetNullen(dag, 2)),
+          Getalwaarde(MetNullen(tekst.substr(p1 + 1, p2 - p1 - 1), 2)),
+          Getalwaarde(MetNullen(tekst.substr(p2 + 1), 4))};
 }
 
 // kept: the Gregorian rule for every year, also before that calendar began.

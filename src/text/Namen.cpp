@@ -74,9 +74,9 @@ std::string Links(std::string_view tekst, std::size_t breedte, std::string_view 
   return uit;
 }
 
-std::string Rechts(std::string_view tekst, std::size_t breedte) {
+std::string Rechts(std::string_view tekst, std::size_t breedte, char vul) {
   if (tekst.size() >= breedte) return std::string(tekst.substr(tekst.size() - breedte));
-  return std::string(breedte - tekst.size(), ' ') + std::string(tekst);
+  return std::string(breedte - tekst.size(), vul) + std::string(tekst);
 }
 
 std::string Kolom(std::int64_t waarde, std::size_t breedte, Richting richting) {

@@ -34,9 +34,9 @@ std::string NaamSorteer(std::string_view naam, const Voorvoegsels& voorvoegsels)
 /// `vul` (a blank when that is empty).
 std::string Links(std::string_view tekst, std::size_t breedte, std::string_view vul = " ");
 
-/// Right-aligned text of exactly `breedte` characters: loses its left characters, or gets blanks
-/// in front.
-std::string Rechts(std::string_view tekst, std::size_t breedte);
+/// Right-aligned text of exactly `breedte` characters: loses its left characters, or gets `vul` in
+/// front.
+std::string Rechts(std::string_view tekst, std::size_t breedte, char vul = ' ');
 
 /// A number of exactly `breedte` characters: to the right as Rechts, to the left as Links.
 std::string Kolom(std::int64_t waarde, std::size_t breedte, Richting richting);

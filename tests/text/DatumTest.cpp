@@ -49,6 +49,7 @@ TEST(DatumGeldigTest, LeestMaandEnJaarAchterEnkeleScheider) {
 
 TEST(DatumGeldigTest, LeestDagEnMaandZonderJaarAlsJaarNul) {
   VerwachtGeldig("3-05", "03-05-0000");
+  VerwachtMelding("3-5", "Maand bestaat niet");
 }
 
 TEST(DatumGeldigTest, LeestDrieStukkenMetBlanksEromheen) {
@@ -59,7 +60,7 @@ TEST(DatumGeldigTest, HoudtVanTeLangeStukkenDeLaatsteTekens) {
   VerwachtGeldig("103-105-11850", "03-05-1850");
 }
 
-TEST(DatumGeldigTest, TrimtEenTekstZonderScheiderEnEenLosseDag) {
+TEST(DatumGeldigTest, TeltBlanksOmEenTekstZonderScheiderEnOmEenLosseDagNietMee) {
   VerwachtGeldig("12031850 ", "12-03-1850");
   VerwachtGeldig("12 -031850", "12-03-1850");
 }
@@ -117,7 +118,16 @@ TEST(DatumGeldigTest, WeigertDag30InFebruari) {
 
 TEST(DatumGeldigTest, WeigertDagBoven31EnOnderNul) {
   VerwachtMelding("32-01-1850", "Dag bestaat niet");
-  EXPECT_EQ(DatumGeldig("-5.01.1850", '.').meldingen.size(), 1U);
+  EXPECT_THAT(DatumGeldig("-5.01.1850", '.').meldingen, ElementsAre("Dag bestaat niet"));
+}
+
+TEST(DatumGeldigTest, MeldtEenDagDieNergensBestaatInEenKorteMaandNietTweemaal) {
+  VerwachtMelding("32-04-1850", "Dag bestaat niet");
+  VerwachtMelding("30-02-1903", "Dag bestaat niet");
+}
+
+TEST(DatumGeldigTest, LeestVanMeerScheidersAlleenDeEersteTwee) {
+  VerwachtGeldig("3-5-1850-1", "03-05-0050");
 }
 
 TEST(DatumGeldigTest, MeldtDag32InFebruariTweemaal) {

@@ -93,6 +93,7 @@ TEST(RechtsTest, VultVooraanOfVerliestVooraan) {
   EXPECT_EQ(Rechts("12", 4), "  12");
   EXPECT_EQ(Rechts("12345", 4), "2345");
   EXPECT_EQ(Rechts("", 2), "  ");
+  EXPECT_EQ(Rechts("12", 4, '0'), "0012");
 }
 
 TEST(KolomTest, VerliestRechtsDeLinkerCijfers) {
