@@ -12,6 +12,7 @@
 #include "qt/Hoofdvenster.h"
 #include "qt/Indelingskeuze.h"
 #include "qt/Opmaker.h"
+#include "qt/Stijl.h"
 #include "qt/Vertaling.h"
 
 namespace lb77 {
@@ -20,7 +21,8 @@ namespace {
 
 constexpr int kRand = 16;  // pixels around the contents of a window
 constexpr QSize kKleinsteScherm{1024, 768};
-constexpr QSize kKader{16, 48};  // what a frame and a task bar take
+constexpr int kTitelknoppen = 120;  // pixels
+constexpr QSize kKader{16, 48};     // what a frame and a task bar take
 
 // The viewers fill the screen.
 bool HeeftBladzijde(const Formulier& formulier) {
@@ -112,7 +114,10 @@ void Binder::PasIn() {
     delete rand.replaceWidget(inhoud, rol);
     rol->setWidget(inhoud);
   }
-  venster_->resize(inhoud->sizeHint().boundedTo(ruimte));
+  // The title can be read as well.
+  const int titel = TekenBreedte(*venster_, static_cast<int>(formulier_.Titel().size()));
+  const QSize maat = inhoud->sizeHint().expandedTo({titel + kTitelknoppen, 0});
+  venster_->resize(maat.boundedTo(ruimte));
 }
 
 Element* Binder::ElementVan(const QObject* waar) const {

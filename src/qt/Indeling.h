@@ -22,6 +22,7 @@ struct Blok {
   Soort soort = Soort::Veld;
   std::string naam;  // Veld: the control; Groep: the title (UTF-8)
   std::string kop;   // above a column of a Tabel (UTF-8)
+  int breedte = 0;   // of a column of a Tabel, in characters; 0 leaves it to its controls
   std::vector<Blok> delen;
 
   Blok() = default;
@@ -39,8 +40,9 @@ struct Indeling {
 /// The words in which layouts are written.
 namespace indeling {
 
-inline Blok Veld(std::string naam, std::string kop = {}) {
+inline Blok Veld(std::string naam, std::string kop = {}, int breedte = 0) {
   Blok blok;
+  blok.breedte = breedte;
   blok.naam = std::move(naam);
   blok.kop = std::move(kop);
   return blok;

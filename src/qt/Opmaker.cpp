@@ -6,10 +6,12 @@
 #include <QLayoutItem>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "qt/Indelingskeuze.h"
 #include "qt/Stijl.h"
+#include "text/Tekens.h"
 
 namespace lb77 {
 
@@ -17,7 +19,9 @@ namespace {
 
 constexpr int kTussen = 8;  // pixels between neighbours
 constexpr int kTussenBlokken = 14;
-constexpr int kKnopBreedte = 11;  // characters
+constexpr int kKnopBreedte = 9;  // characters
+constexpr int kKnopRuimte = 14;  // pixels more than a button asks
+constexpr int kNummer = 6;       // characters of a button for a number
 
 bool HeeftPrompt(const Bediening& bediening) {
   switch (bediening.Soort()) {
@@ -142,12 +146,13 @@ void Opmaker::Knoppen(const Blok& blok, QBoxLayout& in) {
   QHBoxLayout* rij = NieuweRij();
   in.addLayout(rij);
   for (const Blok& kant : blok.delen) {
-    if (&kant == &blok.delen.back()) rij->addStretch(1);
+    const bool rechts = &kant == &blok.delen.back();
+    if (rechts) rij->addStretch(1);
     for (Element* element : Elementen(kant)) {
-      ZetTekenBreedte(element->Widget(), kKnopBreedte, false);
-      element->Widget().setMinimumWidth(
-          std::max(element->Widget().minimumWidth(), element->Widget().sizeHint().width()));
-      rij->addWidget(&element->Widget());
+      QWidget& knop = element->Widget();
+      const int eigen = knop.sizeHint().width() + (element->Bron().KanFocus() ? kKnopRuimte : 0);
+      knop.setMinimumWidth(rechts ? std::max(TekenBreedte(knop, kKnopBreedte), eigen) : eigen);
+      rij->addWidget(&knop);
     }
   }
 }
@@ -157,33 +162,67 @@ void Opmaker::Velden(const Blok& blok, QBoxLayout& in) {
   in.addLayout(rooster);
   rooster->setHorizontalSpacing(kTussen + 4);
   rooster->setVerticalSpacing(kTussen);
-  rooster->setColumnStretch(1, 1);
-  for (const Blok& deel : blok.delen) Veldrij(deel, *rooster);
+  int paren = 1;
+  bool uitleg = false;
+  for (const Blok& deel : blok.delen) {
+    if (IsPaarsgewijs(deel)) paren = std::max(paren, static_cast<int>(Elementen(deel).size()));
+    if (HeeftUitleg(deel)) uitleg = true;
+  }
+  for (int paar = 0; paar < paren; ++paar) rooster->setColumnStretch(2 * paar + 1, 1);
+  for (const Blok& deel : blok.delen) {
+    Veldrij(deel, {*rooster, rooster->rowCount(), 2 * paren + (uitleg ? 1 : 0), uitleg});
+  }
 }
 
-void Opmaker::Veldrij(const Blok& blok, QGridLayout& rooster) {
+// A field and what is to be said about it.
+bool Opmaker::HeeftUitleg(const Blok& blok) const {
+  const std::vector<Element*> elementen = Elementen(blok);
+  return blok.soort == Blok::Soort::Rij && elementen.size() == 2 &&
+         HeeftPrompt(elementen[0]->Bron()) && elementen[1]->Bron().Soort() == BedieningSoort::Label;
+}
+
+// Side by side, and each with a prompt: prompts and fields stand in columns of their own.
+bool Opmaker::IsPaarsgewijs(const Blok& blok) const {
+  const std::vector<Element*> elementen = Elementen(blok);
+  return blok.soort == Blok::Soort::Rij && elementen.size() > 1 &&
+         std::all_of(elementen.begin(), elementen.end(),
+                     [](const Element* een) { return HeeftPrompt(een->Bron()); });
+}
+
+void Opmaker::Veldrij(const Blok& blok, Roosterregel regel) {
   const std::vector<Element*> elementen = Elementen(blok);
   if (blok.soort == Blok::Soort::Veld) {
-    for (Element* element : elementen) EnkelVeld(*element, rooster);
-    return;
-  }
-  const int regel = rooster.rowCount();
-  if (blok.soort != Blok::Soort::Rij || elementen.empty()) {
-    auto* kolom = NieuweKolom();
-    rooster.addLayout(kolom, regel, 0, 1, 2);
-    Maak(blok, *kolom);
-    return;
-  }
-  QHBoxLayout* rij = NieuweRij();
-  rooster.addLayout(rij, regel, 1);
-  Element& eerste = *elementen.front();
-  const bool prompt = HeeftPrompt(eerste.Bron());
-  if (prompt) rooster.addWidget(&eerste.MaakPrompt(ouder_), regel, 0);
-  QWidget* const voorop = &eerste.Widget();
-  if (!prompt && eerste.Bron().Soort() == BedieningSoort::Label) {
-    rooster.addWidget(voorop, regel, 0);
+    for (Element* element : elementen) EnkelVeld(*element, regel);
+  } else if (HeeftUitleg(blok)) {
+    EnkelVeld(*elementen[0], regel);
+    regel.rooster.addWidget(&elementen[1]->Widget(), regel.nummer, regel.kolommen - 1);
+  } else if (IsPaarsgewijs(blok)) {
+    int kolom = 0;
+    for (Element* element : elementen) {
+      regel.rooster.addWidget(&element->MaakPrompt(ouder_), regel.nummer, kolom++);
+      regel.rooster.addWidget(&element->Widget(), regel.nummer, kolom++, Plek(*element));
+    }
+  } else if (blok.soort == Blok::Soort::Rij && !elementen.empty()) {
+    Samen(elementen, regel);
   } else {
-    rij->addWidget(voorop);
+    auto* kolom = NieuweKolom();
+    regel.rooster.addLayout(kolom, regel.nummer, 0, 1, regel.kolommen);
+    Maak(blok, *kolom);
+  }
+}
+
+// The first one's prompt, or a label that comes first, stands with the prompts of the other lines.
+void Opmaker::Samen(const std::vector<Element*>& elementen, Roosterregel regel) {
+  QHBoxLayout* rij = NieuweRij();
+  regel.rooster.addLayout(rij, regel.nummer, 1, 1, regel.Veldbreedte());
+  Element& eerste = *elementen.front();
+  if (HeeftPrompt(eerste.Bron())) {
+    regel.rooster.addWidget(&eerste.MaakPrompt(ouder_), regel.nummer, 0);
+    rij->addWidget(&eerste.Widget());
+  } else if (eerste.Bron().Soort() == BedieningSoort::Label) {
+    regel.rooster.addWidget(&eerste.Widget(), regel.nummer, 0);
+  } else {
+    rij->addWidget(&eerste.Widget());
   }
   for (auto it = elementen.begin() + 1; it != elementen.end(); ++it) Naast(**it, *rij);
   if (std::all_of(elementen.begin() + 1, elementen.end(), [](Element* e) { return IsSmal(*e); })) {
@@ -191,18 +230,21 @@ void Opmaker::Veldrij(const Blok& blok, QGridLayout& rooster) {
   }
 }
 
-void Opmaker::EnkelVeld(Element& element, QGridLayout& rooster) {
-  int regel = rooster.rowCount();
+void Opmaker::EnkelVeld(Element& element, Roosterregel regel) {
+  QGridLayout& rooster = regel.rooster;
   const bool prompt = HeeftPrompt(element.Bron());
+  QWidget* const widget = &element.Widget();
   if (IsHoog(element.Bron())) {
-    if (prompt) rooster.addWidget(&element.MaakPrompt(ouder_), regel++, 0, 1, 2);
-    rooster.addWidget(&element.Widget(), regel, 0, 1, 2);
-    rooster.setRowStretch(regel, 1);
+    if (prompt) {
+      rooster.addWidget(&element.MaakPrompt(ouder_), regel.nummer++, 0, 1, regel.kolommen);
+    }
+    rooster.addWidget(widget, regel.nummer, 0, 1, regel.kolommen);
+    rooster.setRowStretch(regel.nummer, 1);
   } else if (element.Bron().Soort() == BedieningSoort::Label) {
-    rooster.addWidget(&element.Widget(), regel, 0, 1, 2);
+    rooster.addWidget(widget, regel.nummer, 0, 1, regel.kolommen);
   } else {
-    if (prompt) rooster.addWidget(&element.MaakPrompt(ouder_), regel, 0);
-    rooster.addWidget(&element.Widget(), regel, 1, Plek(element));
+    if (prompt) rooster.addWidget(&element.MaakPrompt(ouder_), regel.nummer, 0);
+    rooster.addWidget(widget, regel.nummer, 1, 1, regel.Veldbreedte(), Plek(element));
   }
 }
 
@@ -213,6 +255,19 @@ void Opmaker::Tabel(const Blok& blok, QBoxLayout& in) {
   rooster->setVerticalSpacing(3);
   int kolom = 0;
   for (const Blok& deel : blok.delen) Tabelkolom(deel, kolom++, *rooster);
+}
+
+// In a table values are plain, and take what buttons leave; a button is as small as it can be.
+static void MaakCel(Element& element, int kolom, QGridLayout& rooster) {
+  QWidget& widget = element.Widget();
+  if (element.Bron().Soort() == BedieningSoort::Teller) {
+    widget.setFont(widget.parentWidget()->font());
+    rooster.setColumnStretch(kolom, 1);
+  } else if (element.Bron().Soort() == BedieningSoort::Knop) {
+    const std::string_view tekst = element.Bron().Bijschrift();
+    const bool nummer = std::all_of(tekst.begin(), tekst.end(), IsCijfer);
+    ZetTekenBreedte(widget, nummer ? kNummer : std::max(static_cast<int>(tekst.size()), 2), true);
+  }
 }
 
 // A heading: the one of the layout, else the prompt that all controls of the column share.
@@ -239,6 +294,8 @@ void Opmaker::Tabelkolom(const Blok& blok, int kolom, QGridLayout& rooster) {
     rooster.addLayout(cel, regel++, kolom);
     if (kop.isEmpty() && HeeftPrompt(element->Bron())) cel->addWidget(&element->MaakPrompt(ouder_));
     cel->addWidget(&element->Widget());
+    MaakCel(*element, kolom, rooster);
+    if (blok.breedte) ZetTekenBreedte(element->Widget(), blok.breedte, false);
   }
 }
 

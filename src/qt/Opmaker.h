@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QWidget>
 #include <functional>
+#include <vector>
 
 #include "forms/Formulier.h"
 #include "qt/Element.h"
@@ -30,8 +31,21 @@ class Opmaker {
   void Velden(const Blok& blok, QBoxLayout& in);
   void Tabel(const Blok& blok, QBoxLayout& in);
 
-  void Veldrij(const Blok& blok, QGridLayout& rooster);
-  void EnkelVeld(Element& element, QGridLayout& rooster);
+  /// A line of a grid with so many columns: prompts in the even ones, fields in the odd ones.
+  struct Roosterregel {
+    QGridLayout& rooster;
+    int nummer;
+    int kolommen;
+    bool uitleg;  // the last column is for what is said about a field
+
+    /// How many columns a field of its own takes.
+    [[nodiscard]] int Veldbreedte() const { return kolommen - (uitleg ? 2 : 1); }
+  };
+  [[nodiscard]] bool HeeftUitleg(const Blok& blok) const;
+  [[nodiscard]] bool IsPaarsgewijs(const Blok& blok) const;
+  void Veldrij(const Blok& blok, Roosterregel regel);
+  void Samen(const std::vector<Element*>& elementen, Roosterregel regel);
+  void EnkelVeld(Element& element, Roosterregel regel);
   /// The line of a table that stands under its heading.
   void Tabelkolom(const Blok& blok, int kolom, QGridLayout& rooster);
   /// A widget with its prompt, if it has one, before it.

@@ -54,8 +54,12 @@ QFont Vet(QFont letter) {
   return letter;
 }
 
+int TekenBreedte(const QWidget& widget, int tekens) {
+  return tekens * widget.fontMetrics().horizontalAdvance(u'n') + kRuimte;
+}
+
 void ZetTekenBreedte(QWidget& widget, int tekens, bool vast) {
-  const int breedte = tekens * widget.fontMetrics().horizontalAdvance(u'n') + kRuimte;
+  const int breedte = TekenBreedte(widget, tekens);
   widget.setMinimumWidth(breedte);
   if (vast) widget.setMaximumWidth(breedte);
 }

@@ -15,6 +15,8 @@ void ZetStijl(QApplication& programma);
 [[nodiscard]] QFont VasteLetter(qreal punten);
 [[nodiscard]] QFont Vet(QFont letter);
 
+/// The width in pixels of so many characters in a widget, with its frame.
+[[nodiscard]] int TekenBreedte(const QWidget& widget, int tekens);
 /// Gives a widget room for so many characters; `vast` keeps it from growing.
 void ZetTekenBreedte(QWidget& widget, int tekens, bool vast);
 /// A field that cannot be typed in lies in the colour of its window.

@@ -17,6 +17,7 @@ namespace {
 constexpr int kBreedsteVeld = 40;  // characters, also for a field without a maximum
 constexpr int kPadBreedte = 52;
 constexpr int kVasteBreedte = 12;  // a field up to this length keeps its own width
+constexpr int kSmalsteVeld = 16;   // to which a long field shrinks when it must
 
 int Tekens(const Invoerveld& veld) {
   if (veld.Soort() == BedieningSoort::Padvak) return kPadBreedte;
@@ -92,13 +93,27 @@ class VeldElement : public Element {
   bool stil_ = false;
 };
 
+// A line that asks the width of its text, and takes less where there is less.
+class Regel final : public QLineEdit {
+ public:
+  Regel(int tekens, QWidget* ouder) : QLineEdit(ouder), tekens_(tekens) {
+    const bool vast = tekens <= kVasteBreedte;
+    ZetTekenBreedte(*this, std::min(tekens, kSmalsteVeld), vast);
+  }
+  [[nodiscard]] QSize sizeHint() const override {
+    return {TekenBreedte(*this, tekens_), QLineEdit::sizeHint().height()};
+  }
+
+ private:
+  int tekens_;
+};
+
 class RegelElement final : public VeldElement {
  public:
   RegelElement(Invoerveld& veld, Bezorger& bezorger, QWidget& ouder)
-      : VeldElement(veld, bezorger), regel_(*new QLineEdit(&ouder)) {
+      : VeldElement(veld, bezorger), regel_(*new Regel(Tekens(veld), &ouder)) {
     ZetWidget(regel_);
     regel_.setAcceptDrops(false);
-    ZetTekenBreedte(regel_, Tekens(veld), Tekens(veld) <= kVasteBreedte);
     QObject::connect(&regel_, &QLineEdit::textEdited, &regel_, [this] { NaBewerking(); });
   }
 

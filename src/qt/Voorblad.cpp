@@ -57,14 +57,14 @@ void Voorblad::paintEvent(QPaintEvent*) {
   verf.fillRect(rect(), verloop);
   verf.setPen(QPen(Gemengd(grond, inkt, 0.13), 2));
   const QRectF boom =
-      QRectF(rect()).adjusted(width() * 0.30, height() * 0.06, -24, -height() * 0.06);
+      QRectF(rect()).adjusted(width() * 0.55, height() * 0.06, -24, -height() * 0.06);
   TekenTak(verf, boom, 0);
 
   QFont groot = Vet(font());
   groot.setPointSizeF(font().pointSizeF() * 2.1);
   verf.setFont(groot);
   verf.setPen(Gemengd(inkt, grond, 0.15));
-  const QRectF tekst = QRectF(rect()).adjusted(48, 0, -48, 0);
+  const QRectF tekst = QRectF(rect()).adjusted(48, 0, -width() * 0.48, 0);
   verf.drawText(tekst.adjusted(0, 0, 0, -height() * 0.5 - 4), Qt::AlignLeft | Qt::AlignBottom,
                 titel_);
   QFont klein = font();

@@ -22,7 +22,7 @@ class BestandsvensterTest : public Vensterproef {
   VensterInstellingen instellingen_{PadVanQt(map_.path())};
 
   void SetUp() override {
-    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    Wacht(false);
     for (const char* naam : {"oranje.ged", "GROOT.GED", "tekst.txt"}) {
       QFile bestand(map_.filePath(QLatin1String(naam)));
       ASSERT_TRUE(bestand.open(QIODevice::WriteOnly));
@@ -30,15 +30,23 @@ class BestandsvensterTest : public Vensterproef {
     ASSERT_TRUE(QDir(map_.path()).mkdir("onder"));
   }
 
-  /// Asks, runs `doe` in the dialog, and gives the answer.
+  /// Asks, runs `doe` in the dialog once it is there, and gives the answer.
   std::optional<std::filesystem::path> Vraag(BestandsWijze wijze,
                                              const std::function<void(QFileDialog&)>& doe) {
-    QTimer::singleShot(0, qApp, [&] {
+    return Vraag(wijze, PadVanQt(map_.path()), doe);
+  }
+  std::optional<std::filesystem::path> Vraag(BestandsWijze wijze,
+                                             const std::filesystem::path& beginmap,
+                                             const std::function<void(QFileDialog&)>& doe) {
+    QTimer kijk;
+    QObject::connect(&kijk, &QTimer::timeout, &kijk, [&] {
       auto* venster = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-      ASSERT_TRUE(venster);
+      if (!venster) return;
+      kijk.stop();
       doe(*venster);
     });
-    return KiesBestand(nullptr, {wijze, kGedcom, PadVanQt(map_.path())}, instellingen_);
+    kijk.start(1);
+    return KiesBestand(nullptr, {wijze, kGedcom, beginmap}, instellingen_);
   }
   static void Kies(QFileDialog& venster, const char* naam) {
     venster.findChild<QLineEdit*>()->setText(QLatin1String(naam));
@@ -75,6 +83,7 @@ TEST_F(BestandsvensterTest, SavingAddsTheExtensionOfTheFilter) {
 }
 
 TEST_F(BestandsvensterTest, SavingOverAFileAsksFirst) {
+  Wacht(true);
   Antwoord({"Ja"});
   EXPECT_EQ(Vraag(BestandsWijze::Opslaan, [](QFileDialog& v) { Kies(v, "oranje.ged"); }),
             Pad("oranje.ged"));
@@ -82,6 +91,7 @@ TEST_F(BestandsvensterTest, SavingOverAFileAsksFirst) {
 }
 
 TEST_F(BestandsvensterTest, NoToWritingOverAsksForAnotherFile) {
+  Wacht(true);
   Antwoord({"Nee"});
   bijBox = [](QMessageBox&) {
     QTimer::singleShot(50, qApp, [] {
@@ -101,13 +111,10 @@ TEST_F(BestandsvensterTest, LastDirectoryIsRememberedForTheSameFilter) {
   Vraag(BestandsWijze::Openen, [](QFileDialog& v) { Kies(v, "oranje.ged"); });
   EXPECT_EQ(instellingen_.LaatsteMap(kGedcom), map_.path());
   EXPECT_EQ(instellingen_.LaatsteMap("Alle Bestanden (*.*)|*.*"), QString());
-  QTimer::singleShot(0, qApp, [&] {
-    auto* venster = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-    ASSERT_TRUE(venster);
-    EXPECT_EQ(venster->directory().absolutePath(), map_.path());
-    venster->reject();
-  });
-  EXPECT_FALSE(KiesBestand(nullptr, {BestandsWijze::Openen, kGedcom, {}}, instellingen_));
+  EXPECT_FALSE(Vraag(BestandsWijze::Openen, {}, [&](QFileDialog& v) {
+    EXPECT_EQ(v.directory().absolutePath(), map_.path());
+    v.reject();
+  }));
 }
 
 TEST(Naamfilters, PatternsStandInBothCases) {

@@ -1,9 +1,12 @@
 #include "Vensterproef.h"
 
 #include <QAbstractButton>
+#include <QLineEdit>
 #include <cstdio>
 #include <cstdlib>
 #include <stdexcept>
+
+#include "qt/Vertaling.h"
 
 namespace lb77 {
 
@@ -41,6 +44,7 @@ Vensterproef::Vensterproef() {
     std::abort();
   });
   noodrem_.start(kNoodrem);
+  QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
 }
 
 Vensterproef::~Vensterproef() {
@@ -48,8 +52,9 @@ Vensterproef::~Vensterproef() {
 }
 
 void Vensterproef::Voer(Formulier& formulier, std::vector<std::function<void()>> stappen) {
-  stappen.insert(stappen.begin(),
-                 [this] { static_cast<void>(QTest::qWaitForWindowActive(&Bovenste())); });
+  stappen.insert(stappen.begin(), [this] {
+    static_cast<void>(QTest::qWaitFor([] { return QApplication::activeWindow(); }));
+  });
   Stappen rij(std::move(stappen));
   rij.Volgende();
   gesprek.ToonModaal(formulier);
@@ -69,7 +74,16 @@ void Vensterproef::Wacht(bool aan) {
 
 void Vensterproef::KijkRond() {
   auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-  if (box && box->isVisible()) Beantwoord(*box);
+  if (box && box->isVisible()) return Beantwoord(*box);
+  auto* vraag = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+  if (vraag && vraag->isVisible()) Beantwoord(*vraag);
+}
+
+void Vensterproef::Beantwoord(QFileDialog& vraag) {
+  if (bestanden_.empty()) return vraag.reject();
+  vraag.findChild<QLineEdit*>()->setText(PadNaarQt(bestanden_.front()));
+  bestanden_.pop_front();
+  static_cast<QDialog&>(vraag).accept();
 }
 
 void Vensterproef::Beantwoord(QMessageBox& box) {

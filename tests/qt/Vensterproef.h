@@ -5,12 +5,14 @@
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QString>
 #include <QTimer>
 #include <QWidget>
 #include <QtTest/QTest>
 #include <deque>
+#include <filesystem>
 #include <functional>
 #include <string>
 #include <vector>
@@ -30,6 +32,8 @@ class Vensterproef : public testing::Test {
   /// The answers for the next boxes, by the text of their buttons; without one a box gets its first.
   void Antwoord(std::vector<QString> knoppen);
 
+  /// The answers for the next file questions; without one a question is cancelled.
+  void Bestand(const std::filesystem::path& pad) { bestanden_.push_back(pad); }
   /// The widget of a control in the window that is on top.
   template <class W = QWidget>
   [[nodiscard]] W& Vind(const char* naam) {
@@ -54,10 +58,12 @@ class Vensterproef : public testing::Test {
  private:
   void KijkRond();
   void Beantwoord(QMessageBox& box);
+  void Beantwoord(QFileDialog& vraag);
 
   QTimer wacht_;
   QTimer noodrem_;
   std::deque<QString> antwoorden_;
+  std::deque<std::filesystem::path> bestanden_;
 };
 
 }  // namespace lb77

@@ -18,7 +18,8 @@ void Melding(QtMsgType, const QMessageLogContext&, const QString& tekst) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  // The smallest screen that every window must fit.
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" LB77_BRONMAP "/tests/qt/scherm.json");
   qInstallMessageHandler(Melding);
   testing::InitGoogleTest(&argc, argv);
   QApplication toepassing(argc, argv);

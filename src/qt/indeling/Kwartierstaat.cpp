@@ -15,24 +15,22 @@ Blok PersoonPrompt() {
 
 Blok Opties() {
   return Kolom({
-      Groep("Proband",
-            {Velden({Rij({"NrProband", "Periode"}), Rij({"VoorNmProband", "AchterNmProband"})})}),
+      Groep("Proband", {Velden({
+                           Rij({"NrProband", "Periode"}),
+                           Rij({"VoorNmProband", "AchterNmProband"}),
+                       })}),
       Groep("Kwartieren", {Velden({
-                              Rij({"KwNrProband", "VanafKwartier", "MaxGen"}),
+                              Rij({"KwNrProband", "VanafKwartier"}),
+                              Rij({"MaxGen", "KwHerhaalBox"}),
                               "BroerZusBox",
-                              "KwHerhaalBox",
                           })}),
       Groep("Uitvoer", {Velden({
-                           "OokNrsBox",
-                           "OokOpmBox",
-                           "InHTMLBox",
-                           "CopyrightBox",
+                           Rij({"OokNrsBox", "OokOpmBox"}),
+                           Rij({"InHTMLBox", "CopyrightBox"}),
                            "OokLB77Box",
-                           "TitelTekst",
-                           "Inleiding1",
-                           "Inleiding2",
-                           "Inleiding3",
                        })}),
+      Groep("Titel en inleiding",
+            {Velden({"TitelTekst", "Inleiding1", "Inleiding2", "Inleiding3"})}),
       Knoppen({"OKButton", "BackButton"}),
   });
 }

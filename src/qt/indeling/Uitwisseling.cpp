@@ -4,7 +4,23 @@
 namespace lb77::indeling {
 
 std::vector<Indeling> Uitwisseling() {
-  return {};
+  return {
+      {"ImpGedcom", Kolom({
+                        Velden({Rij({"Bestandsnaam", "BrowseButton"})}),
+                        Groep("Voortgang", {Velden({
+                                               Rij({"Pass1Label", "Pass1box"}),
+                                               Rij({"Pass2Label", "Pass2box"}),
+                                               Rij({"Pass3Label", "Pass3box"}),
+                                           })}),
+                        Groep("Gelezen", {Velden({
+                                             Rij({"RegelNr", "AantalBronnen"}),
+                                             Rij({"AantalPersonen", "AantalRelaties"}),
+                                             Rij({"VoorNm", "AchterNm"}),
+                                             "BronNm",
+                                         })}),
+                        Knoppen({"OKButton", "BackButton"}),
+                    })},
+  };
 }
 
 }  // namespace lb77::indeling

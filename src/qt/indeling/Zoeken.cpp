@@ -8,9 +8,9 @@ namespace {
 Blok PersonenLijst() {
   return Tabel({
       Veld("RecordNrPrs(*)", "Nummer"),
-      Veld("VoorNmPrs(*)", "Voornamen"),
-      Veld("AchterNmPrs(*)", "Achternaam"),
-      Veld("Periode(*)", "Periode"),
+      Veld("VoorNmPrs(*)", "Voornamen", 25),
+      Veld("AchterNmPrs(*)", "Achternaam", 22),
+      Veld("Periode(*)", "Periode", 12),
       Veld("InfoPersoon(*)"),
       Veld("NaarPa(*)", "Vader"),
       Veld("NaarMa(*)", "Moeder"),

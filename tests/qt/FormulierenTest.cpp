@@ -1,0 +1,79 @@
+// Every form of the program in a window, and the main window over a family.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <optional>
+
+#include "Formulierproef.h"
+#include "app/Klok.h"
+#include "program/AlleFormulieren.h"
+#include "program/Programma.h"
+#include "qt/Hoofdvenster.h"
+#include "qt/Vertaling.h"
+#include "steun/BouwFamilie.h"
+#include "steun/TijdelijkeMap.h"
+#include "store/SetPaden.h"
+
+namespace lb77 {
+namespace {
+
+class FormulierenTest : public Formulierproef, public testing::WithParamInterface<FormulierRij> {
+ protected:
+  void SetUp() override {
+    programma_.emplace(gesprek, klok_, map_.Pad());
+    ASSERT_TRUE(programma_->Start());
+    MaakSet();
+  }
+
+  /// A set with a family of three.
+  void MaakSet() {
+    Hoofdmodule& hoofd = programma_->Hoofd();
+    const SetPaden paden = SetPaden::Van(map_ / "DATA", "ORANJE");
+    std::filesystem::create_directories(paden.tekst);
+    ASSERT_FALSE(hoofd.bestanden.OpenSet(paden));
+    ASSERT_TRUE(hoofd.Persoon.NieuwAdm());
+    ASSERT_TRUE(hoofd.Relatie.NieuwAdm());
+    ASSERT_TRUE(hoofd.Opmerking.NieuwAdm());
+    ASSERT_TRUE(hoofd.Plaats.NieuwAdm());
+    BouwFamilie bouw(hoofd.Persoon, hoofd.Relatie, hoofd.Plaats, hoofd.Opmerking, hoofd.volgers);
+    const auto willem = bouw.Man("Willem", "van Oranje", {{"GebDatum", "24-04-1533"}});
+    const auto charlotte = bouw.Vrouw("Charlotte", "de Bourbon");
+    const auto louise = bouw.Vrouw("Louise Juliana", "van Nassau", {{"GebDatum", "31-03-1576"}});
+    static_cast<void>(bouw.Relatie(willem, charlotte, {louise}));
+    hoofd.ActieveSetNaam = "ORANJE";
+    hoofd.Ini.IniZet("Sets", "Set1", "ORANJE,De familie van Oranje");
+  }
+
+  TijdelijkeMap map_;
+  VasteKlok klok_{{2026, 1, 2, 3, 4, 5}};
+  std::optional<Programma> programma_;
+};
+
+TEST_P(FormulierenTest, OpensShowsAllTabsThroughAndCloses) {
+  if (GetParam().naam == "BekijkTekst") {
+    SchrijfBytes(map_ / "brief.txt", "Geachte familie,\r\n");
+    Bestand(map_ / "brief.txt");
+  }
+  GemaaktFormulier gemaakt = GetParam().maak(*programma_);
+  ASSERT_EQ(gemaakt.formulier->Naam(), GetParam().naam);
+  Beproef(*gemaakt.formulier);
+}
+
+INSTANTIATE_TEST_SUITE_P(Alle, FormulierenTest, testing::ValuesIn(AlleFormulieren()),
+                         [](const auto& rij) { return std::string(rij.param.naam); });
+
+class HoofdschermTest : public FormulierenTest {};
+
+TEST_F(HoofdschermTest, ComesUpWithTheSetThatWasUsedLast) {
+  programma_->Hoofd().Ini.IniZet("Systeem", "Set", "ORANJE");
+  Voer(programma_->Menu(), {[&] {
+         auto& hoofd = dynamic_cast<Hoofdvenster&>(Bovenste());
+         EXPECT_TRUE(hoofd.Actie("TekstKwst")->isEnabled());
+         EXPECT_FALSE(hoofd.Actie("ExpVVF")->isVisible());
+         Bewaar(hoofd, "MenuWindow");
+         hoofd.close();
+       }});
+}
+
+}  // namespace
+}  // namespace lb77
