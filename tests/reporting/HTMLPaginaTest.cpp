@@ -1,0 +1,83 @@
+#include <gtest/gtest.h>
+
+#include "output/TekstSchrijver.h"
+#include "reporting/HTMLPagina.h"
+#include "steun/TijdelijkeMap.h"
+#include "text/Letterlijk.h"
+
+namespace lb77 {
+namespace {
+
+class HTMLPaginaToets : public ::testing::Test {
+ protected:
+  // What `doe` writes, with plain line ends.
+  template <class F>
+  std::string Geschreven(F doe) {
+    TekstSchrijver uit;
+    EXPECT_TRUE(uit.Open(map_ / "uit.txt"));
+    uit.ZetRechterMarge(TekstSchrijver::kGeenRechterMarge);
+    doe(uit);
+    EXPECT_TRUE(uit.Sluit());
+    std::string tekst = LeesBytes(map_ / "uit.txt");
+    std::erase(tekst, '\r');
+    return tekst;
+  }
+
+  TijdelijkeMap map_;
+  PaginaTeksten teksten_;
+};
+
+TEST(Verwijzingen, QuoteTheirNames) {
+  EXPECT_EQ(Anker("12"), "<A NAME=\"12\"></A>");
+  EXPECT_EQ(Verwijzing("12", "V"), "<A HREF=\"#12\">V</A>");
+}
+
+TEST_F(HTMLPaginaToets, TheHeadEncodesNamesTitleAndIntroduction) {
+  teksten_.titel = "Vader & zoon";
+  teksten_.inleiding = {"Regel <1>", "", "Regel 3"};
+  EXPECT_EQ(Geschreven([this](TekstSchrijver& uit) {
+              SchrijfHTMLKop(uit, teksten_, "Kwartierstaat", "André"_w, "d'Ancona");
+            }),
+            "<HTML>\n<HEAD>\n<TITLE>\nKwartierstaat Andr&eacute; d&quot;Ancona\n</TITLE>\n</HEAD>\n"
+            "<!--Gemaakt met LB77 voor Windows -->\n<BODY>\n<A NAME=TOP>\n"
+            "<CENTER><H1>Vader &amp; zoon</H1></CENTER>\n<H3>Regel &lt;1&gt;</H3><BR>\n"
+            "<H3>Regel 3</H3><BR>\n");
+}
+
+TEST_F(HTMLPaginaToets, AnEmptyTitleIsLeftOut) {
+  const std::string kop = Geschreven(
+      [this](TekstSchrijver& uit) { SchrijfHTMLKop(uit, teksten_, "Kwartierstaat", "", ""); });
+  EXPECT_EQ(kop.find("H1"), std::string::npos);
+  EXPECT_EQ(kop.find("H3"), std::string::npos);
+}
+
+TEST_F(HTMLPaginaToets, TheFootTellsOnlyWhatIsFilledIn) {
+  teksten_.email = "jan@example.org";
+  teksten_.emailTekst = "Schrijf me";
+  teksten_.hskHome = "http://www.example.org";
+  teksten_.hskHomeTekst = "De vereniging";
+  EXPECT_EQ(Geschreven([this](TekstSchrijver& uit) { SchrijfSlot(uit, teksten_, true); }),
+            "\n<HR>\n\n"
+            "Schrijf me <A HREF=\"mailto:jan@example.org\">jan@example.org</A><BR>\n\n"
+            "<A HREF=\"http://www.example.org\">De vereniging</A><BR>\n\n"
+            "<CENTER><A HREF=#TOP>Terug naar de top</A></CENTER><BR>\n<HR>\n</BODY>\n</HTML>\n\n");
+}
+
+TEST_F(HTMLPaginaToets, TheFootOfATextIsIndentedByTen) {
+  teksten_.copyrightRegel = "Copyright (2026) Jan";
+  teksten_.programmaRegel = "Gemaakt met LB77 voor Windows";
+  EXPECT_EQ(Geschreven([this](TekstSchrijver& uit) { SchrijfSlot(uit, teksten_, false); }),
+            "\n\n          Copyright (2026) Jan\n          Gemaakt met LB77 voor Windows\n\n");
+}
+
+TEST_F(HTMLPaginaToets, TheFootBeginsAtTheMarginWhateverTheTextDid) {
+  EXPECT_EQ(Geschreven([this](TekstSchrijver& uit) {
+              uit.ZetMarge(true, 8);
+              uit.Vast("Slot.");
+              SchrijfSlot(uit, teksten_, false);
+            }),
+            "        Slot.\n\n\n");
+}
+
+}  // namespace
+}  // namespace lb77
