@@ -41,17 +41,18 @@ bool IsNumeriek(Gesprek& gesprek, std::string_view tekst) {
   return numeriek;
 }
 
+// Reads a person or a relation and puts it to the test.
 template <class Klasse>
-bool HeeftVervolg(Gesprek& gesprek, Klasse& klasse, std::int16_t nr, int vervolgtest) {
+bool Voldoet(Gesprek& gesprek, Klasse& klasse, std::int16_t nr, Vervolgtest vervolgtest) {
   if (!klasse.Lees(nr)) {
     gesprek.Waarschuw(kBestaatNiet);
     return false;
   }
-  if (vervolgtest == -1 && klasse.IsVolgRecord()) {
+  if (vervolgtest == Vervolgtest::GeenVervolg && klasse.IsVolgRecord()) {
     gesprek.Waarschuw("Record is een vervolgrecord");
     return false;
   }
-  if (vervolgtest == 1 && !klasse.IsVolgRecord()) {
+  if (vervolgtest == Vervolgtest::Vervolg && !klasse.IsVolgRecord()) {
     gesprek.Waarschuw("Record is geen vervolgrecord");
     return false;
   }
@@ -75,7 +76,7 @@ void HaalNaam(PersoonLB77& persoon, std::int16_t nr, std::string& voornaam, std:
 }
 
 bool RecordNrGeldig(Hoofdmodule& hoofd, std::string_view tekst, BestandSoort bestand,
-                    int vervolgtest) {
+                    Vervolgtest vervolgtest) {
   const auto hoogste = HoogsteNr(hoofd, bestand);
   if (!hoogste) return false;
   const std::string_view cijfers = Trim(tekst.substr(0, kCijfers));
@@ -86,10 +87,10 @@ bool RecordNrGeldig(Hoofdmodule& hoofd, std::string_view tekst, BestandSoort bes
     return false;
   }
   if (bestand == BestandSoort::Personen) {
-    return HeeftVervolg(hoofd.gesprek, hoofd.Persoon, *nr, vervolgtest);
+    return Voldoet(hoofd.gesprek, hoofd.Persoon, *nr, vervolgtest);
   }
   if (bestand == BestandSoort::Relaties) {
-    return HeeftVervolg(hoofd.gesprek, hoofd.Relatie, *nr, vervolgtest);
+    return Voldoet(hoofd.gesprek, hoofd.Relatie, *nr, vervolgtest);
   }
   return true;
 }

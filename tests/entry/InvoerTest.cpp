@@ -10,12 +10,12 @@ namespace {
 
 class InvoerTest : public FamilieToets {
  protected:
-  void VerwachtGeldig(std::string_view tekst, BestandSoort bestand, int vervolgtest) {
+  void VerwachtGeldig(std::string_view tekst, BestandSoort bestand, Vervolgtest vervolgtest) {
     Stil([&](Hoofdmodule& hoofd) {
       EXPECT_TRUE(RecordNrGeldig(hoofd, tekst, bestand, vervolgtest)) << tekst;
     });
   }
-  void VerwachtOngeldig(std::string_view tekst, BestandSoort bestand, int vervolgtest,
+  void VerwachtOngeldig(std::string_view tekst, BestandSoort bestand, Vervolgtest vervolgtest,
                         std::string_view verslag, const Plek& plek = Plek::current()) {
     Verwacht(
         "",
@@ -68,32 +68,32 @@ TEST_F(InvoerTest, EenNummerVanElkBestandIsGeldig) {
   Bouw().Relatie(2, 0);
   Bouw().Plaats("Delft", "ZH");
   Bouw().OpmerkingBijPersoon(2, 1, {"Regel"});
-  VerwachtGeldig("2", BestandSoort::Personen, 0);
-  VerwachtGeldig(" 2 ", BestandSoort::Relaties, -1);
-  VerwachtGeldig("00002", BestandSoort::Plaatsen, 0);
-  VerwachtGeldig("2", BestandSoort::Opmerkingen, 0);
+  VerwachtGeldig("2", BestandSoort::Personen, Vervolgtest::Geen);
+  VerwachtGeldig(" 2 ", BestandSoort::Relaties, Vervolgtest::GeenVervolg);
+  VerwachtGeldig("00002", BestandSoort::Plaatsen, Vervolgtest::Geen);
+  VerwachtGeldig("2", BestandSoort::Opmerkingen, Vervolgtest::Geen);
 }
 
 TEST_F(InvoerTest, EenAnderBestandIsNooitGeldig) {
-  VerwachtOngeldig("2", static_cast<BestandSoort>(0), 0, "");
-  VerwachtOngeldig("2", static_cast<BestandSoort>(5), 0, "");
+  VerwachtOngeldig("2", static_cast<BestandSoort>(0), Vervolgtest::Geen, "");
+  VerwachtOngeldig("2", static_cast<BestandSoort>(5), Vervolgtest::Geen, "");
 }
 
 TEST_F(InvoerTest, EenLegeTekstWordtStilGeweigerd) {
-  VerwachtOngeldig("", BestandSoort::Personen, 0, "");
-  VerwachtOngeldig("   ", BestandSoort::Plaatsen, 0, "");
+  VerwachtOngeldig("", BestandSoort::Personen, Vervolgtest::Geen, "");
+  VerwachtOngeldig("   ", BestandSoort::Plaatsen, Vervolgtest::Geen, "");
 }
 
 TEST_F(InvoerTest, AlleenDeEersteVijfTekensTellen) {
   Bouw().Man("Jan", "Vos");
-  VerwachtGeldig("00002x", BestandSoort::Personen, 0);
-  VerwachtOngeldig("     2", BestandSoort::Personen, 0, "");
+  VerwachtGeldig("00002x", BestandSoort::Personen, Vervolgtest::Geen);
+  VerwachtOngeldig("     2", BestandSoort::Personen, Vervolgtest::Geen, "");
 }
 
 TEST_F(InvoerTest, ElkTekenDatGeenCijferIsGeeftZijnEigenMelding) {
-  VerwachtOngeldig("12a4", BestandSoort::Personen, 0,
+  VerwachtOngeldig("12a4", BestandSoort::Personen, Vervolgtest::Geen,
                    R"(! uitroep "Recordnummer is niet numeriek")");
-  VerwachtOngeldig("a1 -", BestandSoort::Relaties, 0, R"(
+  VerwachtOngeldig("a1 -", BestandSoort::Relaties, Vervolgtest::Geen, R"(
     ! uitroep "Recordnummer is niet numeriek"
     ! uitroep "Recordnummer is niet numeriek"
     ! uitroep "Recordnummer is niet numeriek"
@@ -103,48 +103,69 @@ TEST_F(InvoerTest, ElkTekenDatGeenCijferIsGeeftZijnEigenMelding) {
 TEST_F(InvoerTest, NummersBuitenHetBestandBestaanNiet) {
   Bouw().Man("Jan", "Vos");
   for (const std::string_view tekst : {"0", "1", "3", "32767", "32768", "40000", "99999"}) {
-    VerwachtOngeldig(tekst, BestandSoort::Personen, 0, kBestaatNiet);
+    VerwachtOngeldig(tekst, BestandSoort::Personen, Vervolgtest::Geen, kBestaatNiet);
   }
 }
 
 TEST_F(InvoerTest, EenOnleesbareRelatieOfPersoonBestaatNiet) {
   Reeks(3);
   MaakGat(3);
-  VerwachtOngeldig("3", BestandSoort::Personen, 0, kBestaatNiet);
+  VerwachtOngeldig("3", BestandSoort::Personen, Vervolgtest::Geen, kBestaatNiet);
   Bouw().Relatie(2, 0);
   Bouw().Relatie(4, 0);
   MaakOnleesbaar(BestandSoort::Relaties, 2);
-  VerwachtOngeldig("2", BestandSoort::Relaties, 0, R"(
+  VerwachtOngeldig("2", BestandSoort::Relaties, Vervolgtest::Geen, R"(
     ! stop "Fout bij het lezen van Relatierecord 2\nFout van de schijf"
     ! uitroep "Recordnummer bestaat niet"
   )");
+}
+
+TEST_F(InvoerTest, EenOnjuisteTellingWordtGemeldVoorDeTekstBekekenWordt) {
+  Reeks(2);
+  Bouw().WijzigPersoon(1, {{"GebPlaats", "5"}});
+  VerwachtOngeldig("4x", BestandSoort::Personen, Vervolgtest::Geen, R"(
+    ! uitroep "Aantal persoonsrecords in administratierecord is onjuist\nGevonden:3\nVolgens administratierecord:6"
+    ! uitroep "Recordnummer is niet numeriek"
+  )");
+}
+
+TEST_F(InvoerTest, EenOpmerkingWordtNietGelezen) {
+  Bouw().Man("Jan", "Vos");
+  Bouw().OpmerkingBijPersoon(2, 1, {"Regel"});
+  Bouw().OpmerkingBijPersoon(2, 2, {"Regel"});
+  MaakOnleesbaar(BestandSoort::Opmerkingen, 2);
+  VerwachtGeldig("2", BestandSoort::Opmerkingen, Vervolgtest::Vervolg);
 }
 
 TEST_F(InvoerTest, EenPlaatsWordtNietGelezen) {
   Bouw().Plaats("Delft", "ZH");
   Bouw().Plaats("Breda", "NB");
   MaakOnleesbaar(BestandSoort::Plaatsen, 2);
-  VerwachtGeldig("2", BestandSoort::Plaatsen, 0);
+  VerwachtGeldig("2", BestandSoort::Plaatsen, Vervolgtest::Geen);
 }
 
 TEST_F(InvoerTest, DeVervolgtestVanPersonen) {
   Reeks(2);
   MaakVervolg(3);
-  VerwachtOngeldig("3", BestandSoort::Personen, -1, R"(! uitroep "Record is een vervolgrecord")");
-  VerwachtOngeldig("2", BestandSoort::Personen, 1, R"(! uitroep "Record is geen vervolgrecord")");
-  VerwachtGeldig("3", BestandSoort::Personen, 0);
-  VerwachtGeldig("3", BestandSoort::Personen, 1);
-  VerwachtGeldig("2", BestandSoort::Personen, -1);
+  VerwachtOngeldig("3", BestandSoort::Personen, Vervolgtest::GeenVervolg,
+                   R"(! uitroep "Record is een vervolgrecord")");
+  VerwachtOngeldig("2", BestandSoort::Personen, Vervolgtest::Vervolg,
+                   R"(! uitroep "Record is geen vervolgrecord")");
+  VerwachtGeldig("3", BestandSoort::Personen, Vervolgtest::Geen);
+  VerwachtGeldig("3", BestandSoort::Personen, Vervolgtest::Vervolg);
+  VerwachtGeldig("2", BestandSoort::Personen, Vervolgtest::GeenVervolg);
 }
 
 TEST_F(InvoerTest, DeVervolgtestVanRelaties) {
   Bouw().Relatie(0, 0);
   Bouw().Relatie(0, 0);
   Bouw().WijzigRelatie(3, {{"HuwCorr", "Z"}});
-  VerwachtOngeldig("3", BestandSoort::Relaties, -1, R"(! uitroep "Record is een vervolgrecord")");
-  VerwachtOngeldig("2", BestandSoort::Relaties, 1, R"(! uitroep "Record is geen vervolgrecord")");
-  VerwachtGeldig("3", BestandSoort::Relaties, 1);
-  VerwachtGeldig("2", BestandSoort::Relaties, -1);
+  VerwachtOngeldig("3", BestandSoort::Relaties, Vervolgtest::GeenVervolg,
+                   R"(! uitroep "Record is een vervolgrecord")");
+  VerwachtOngeldig("2", BestandSoort::Relaties, Vervolgtest::Vervolg,
+                   R"(! uitroep "Record is geen vervolgrecord")");
+  VerwachtGeldig("3", BestandSoort::Relaties, Vervolgtest::Vervolg);
+  VerwachtGeldig("2", BestandSoort::Relaties, Vervolgtest::GeenVervolg);
 }
 
 }  // namespace
