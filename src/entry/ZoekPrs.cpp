@@ -13,8 +13,8 @@ namespace lb77 {
 namespace {
 
 constexpr std::int32_t kEersteNr = 2;
-constexpr std::int32_t kTerug =
-    2 * ZoekPrs::kRijen - 1;  // from the last of a page to the first before
+// From the last of a page to the first of the one before.
+constexpr std::int32_t kTerug = 2 * ZoekPrs::kRijen - 1;
 
 constexpr std::string_view kStartFilter = "Start Filter";
 constexpr std::string_view kFilterUit = "Filter Uit";

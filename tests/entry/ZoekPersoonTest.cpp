@@ -194,6 +194,24 @@ TEST_F(ZoekPersoonTest, EenOnleesbaarRecordVraagtOfHetDoorgaat) {
             0);
 }
 
+TEST_F(ZoekPersoonTest, EenOnjuisteTellingWordtEerstGemeld) {
+  Bouw().Man("Jan", "Vos");
+  Bouw().WijzigPersoon(1, {{"GebPlaats", "5"}});
+  EXPECT_EQ(Zoek("Jan", "Vos", "*", "druk JaButton", R"(
+    ! uitroep "Aantal persoonsrecords in administratierecord is onjuist\nGevonden:2\nVolgens administratierecord:6"
+    + OKPersoon "Zoek Persoon op Naam"
+    - OKPersoon
+  )")
+                .nr,
+            2);
+}
+
+TEST_F(ZoekPersoonTest, VanTweeSterretjesIsAlleenHetLaatsteEenJoker) {
+  Bouw().Man("J*n", "Vos");
+  Bouw().Man("Jan", "Vos");
+  EXPECT_EQ(Aangeboden("j**", "vos"), "2 ");
+}
+
 TEST_F(ZoekPersoonTest, EenLeesfoutVanDeSchijfKomtVoorDeVraag) {
   Reeks(2);
   MaakOnleesbaar(BestandSoort::Personen, 2);

@@ -27,9 +27,9 @@ class ZoekPrsTest : public FamilieToets {
   }
 
   // The numbers that the list shows after the clicks of a script, and where it stands then.
-  std::string Pagina(std::string_view draaiboek) {
-    const auto programma = Sessie([](Hoofdmodule& hoofd) {
-      hoofd.volgers.HuidigPersoonNr = 0;
+  std::string Pagina(std::string_view draaiboek, std::int16_t begin = 0) {
+    const auto programma = Sessie([begin](Hoofdmodule& hoofd) {
+      hoofd.volgers.HuidigPersoonNr = begin;
       ZoekPrs lijst(hoofd);
       hoofd.gesprek.ToonModaal(lijst);
     });
@@ -129,6 +129,24 @@ TEST_F(ZoekPrsTest, DeKnopMetHetNummerKiestDePersoon) {
 TEST_F(ZoekPrsTest, DeEerstePaginaHeeftVijftienPersonen) {
   Reeks(20);
   EXPECT_EQ(Pagina(""), Nummers(2, 16));
+}
+
+TEST_F(ZoekPrsTest, DeEerstePaginaBegintBijHuidigPersoonNrMaarNietVoorRecordTwee) {
+  Reeks(20);
+  EXPECT_EQ(Pagina("", 5), Nummers(5, 19));
+  EXPECT_EQ(Pagina("", 1), Nummers(2, 16));
+  EXPECT_EQ(Pagina("", -1), Nummers(2, 16));
+}
+
+TEST_F(ZoekPrsTest, EenTeLageTellingVerbergtNiemandEenTeHogeWordtGemeldBijHetBladeren) {
+  Reeks(3);
+  Bouw().WijzigPersoon(1, {{"GebPlaats", "1"}});
+  EXPECT_EQ(Pagina(""), Nummers(2, 4));
+  Bouw().WijzigPersoon(1, {{"GebPlaats", "5"}});
+  Speelt("druk Volgende\ntoon RecordNrPrs(1)", R"(
+    ! uitroep "Aantal persoonsrecords in administratierecord is onjuist\nGevonden:4\nVolgens administratierecord:6"
+    = RecordNrPrs(1) "2"
+  )");
 }
 
 TEST_F(ZoekPrsTest, VervolgrecordsStaanNietInDeLijst) {
@@ -299,6 +317,22 @@ TEST_F(ZoekPrsTest, BladerenMetFilterTeltAlleenWiePast) {
   EXPECT_EQ(Pagina(aan + "druk Volgende\ndruk Volgende\ndruk Vorige"), oneven(33, 61));
   EXPECT_EQ(Pagina(aan + "druk Volgende\ndruk Vorige"), oneven(3, 31));
   EXPECT_EQ(Pagina(aan + "druk Vorige"), oneven(3, 31));
+}
+
+TEST_F(ZoekPrsTest, TerugbladerenMetFilterSlaatEenOnleesbaarRecordOver) {
+  Reeks(60);
+  MaakGat(20);
+  const std::string aan = "druk FilterButton\nvul AchterNm Reeks\ndruk OKButton\n";
+  const std::string verder = aan + "druk Volgende\ndruk Volgende\ndruk Volgende\n";
+  EXPECT_EQ(Pagina(verder), Nummers(21, 35));
+  EXPECT_EQ(Pagina(verder + "druk Vorige"), Nummers(5, 19));
+}
+
+TEST_F(ZoekPrsTest, VolgendeVoorbijHetEindeToontMetFilterWiePastOnderDeLaatsteVijftien) {
+  Reeks(40);
+  const std::string aan = "druk FilterButton\nvul VoorNm A4*\ndruk OKButton\n";
+  EXPECT_EQ(Pagina(aan), "5 41 ");
+  EXPECT_EQ(Pagina(aan + "druk Volgende"), "41 ");
 }
 
 TEST_F(ZoekPrsTest, EenPaginaMetFilterLeestNietMeerDanNodigIs) {
