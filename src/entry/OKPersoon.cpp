@@ -24,6 +24,7 @@ void OKPersoon::BijLaden() {
   InfoTekst.ZetTekst(PersoonInfo(hoofd_, nr));
 }
 
+// Leaving without an answer is No.
 bool OKPersoon::MagSluiten() {
   NeeKlik();
   return true;

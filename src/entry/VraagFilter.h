@@ -12,8 +12,9 @@ class VraagFilter final : public Formulier {
   explicit VraagFilter(NaamFilter& filter);
 
   Label VraagLabel{*this, "VraagLabel", "Alleen Personen tonen met de naam:"};
-  Tekstvak VoorNm{*this, "VoorNm", "Voornamen:", 31};
-  Tekstvak AchterNm{*this, "AchterNm", "Achternaam:", 26};
+  // One more than the longest name, for the "*".
+  Tekstvak VoorNm{*this, "VoorNm", "Voornamen:", 30 + 1};
+  Tekstvak AchterNm{*this, "AchterNm", "Achternaam:", 25 + 1};
   Label TipJoker{*this, "TipJoker", "Gebruik een sterretje aan het eind als joker"};
   Label TipLetters{*this, "TipLetters",
                    "Het filter maakt onderscheid tussen HOOFDLETTERS en kleine letters"};

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 
+#include "text/Namen.h"
 #include "text/Tekens.h"
 
 namespace lb77 {
@@ -11,9 +12,7 @@ namespace {
 constexpr std::size_t kProvBreedte = 2;
 
 std::string TweeTekens(std::string_view prov) {
-  std::string uit(Trim(prov));
-  uit.resize(kProvBreedte, ' ');
-  return uit;
+  return Links(Trim(prov), kProvBreedte);
 }
 
 }  // namespace
@@ -23,7 +22,8 @@ VraagProv::VraagProv(std::string_view naam, std::string_view prov)
   PltsLabel.ZetTekst(naam);
   ProvCode.ZetFilter(InHoofdletters);
   ProvCode.ZetEnter(EnterSoort::OK);
-  // Without its padding, which would leave no room to type.
+  // kept: each time the field is entered it holds the caller's code again. Without its padding,
+  // which would leave no room to type.
   ProvCode.BijBetreden([this] { ProvCode.ZetTekst(Trim(plaatsProv_)); });
   OKButton.BijKlik([this] { OKKlik(); });
   ZetEersteVeld(ProvCode);

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "entry/VraagFilter.h"
 #include "steun/SpeelToets.h"
 
@@ -41,6 +43,14 @@ TEST_F(VraagFilterTest, OKBewaartBeideTekstenZonderBlankenEromheen) {
   Vraag("vul VoorNm \" Jan* \"\nvul AchterNm \" van  Dam \"\ndruk OKButton", "");
   EXPECT_EQ(filter_.FilterVoorNm, "Jan*");
   EXPECT_EQ(filter_.FilterAchterNm, "van  Dam");
+}
+
+TEST_F(VraagFilterTest, DeLangsteNaamPastMetZijnSterretje) {
+  const std::string voor = std::string(30, 'J') + "*";
+  const std::string achter = std::string(25, 'V') + "*";
+  Vraag("vul VoorNm " + voor + "x\nvul AchterNm " + achter + "x\ndruk OKButton", "");
+  EXPECT_EQ(filter_.FilterVoorNm, voor);
+  EXPECT_EQ(filter_.FilterAchterNm, achter);
 }
 
 TEST_F(VraagFilterTest, EnterInHetLaatsteVeldIsOK) {

@@ -45,6 +45,12 @@ TEST_F(VraagProvTest, EenKorteCodeWordtAangevuld) {
   EXPECT_EQ(Vraag("druk OKButton", "  ", ""), "  ");
 }
 
+TEST_F(VraagProvTest, BijElkBetredenStaatDeCodeVanDeAanroeperErWeer) {
+  EXPECT_EQ(Vraag("typ ProvCode nh\ntoets Tab\ntoets Tab\ntoon ProvCode\ndruk OKButton", "ZH",
+                  "= ProvCode \"ZH\""),
+            "ZH");
+}
+
 TEST_F(VraagProvTest, MeerDanTweeTekensPassenNiet) {
   EXPECT_EQ(Vraag("vul ProvCode nhx\ndruk OKButton", "  ", ""), "NH");
 }
