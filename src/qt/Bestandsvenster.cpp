@@ -27,16 +27,17 @@ QString Patronen(const QString& patroon) {
 }
 
 // Without the pattern that the name repeats between brackets.
-QString KaleNaam(QString naam) {
+QString KaleNaam(const QString& naam) {
   const qsizetype haak = naam.lastIndexOf(u" (");
   return haak > 0 ? naam.left(haak) : naam;
 }
 
 QString Beginmap(const BestandsVraag& vraag, const VensterInstellingen& instellingen) {
-  const QString gevraagd = PadNaarQt(vraag.beginmap);
+  QString gevraagd = PadNaarQt(vraag.beginmap);
   if (!gevraagd.isEmpty() && QDir(gevraagd).exists()) return gevraagd;
-  const QString laatste = instellingen.LaatsteMap(vraag.filter);
-  return !laatste.isEmpty() && QDir(laatste).exists() ? laatste : QDir::homePath();
+  QString laatste = instellingen.LaatsteMap(vraag.filter);
+  if (!laatste.isEmpty() && QDir(laatste).exists()) return laatste;
+  return QDir::homePath();
 }
 
 void ZetWijze(QFileDialog& venster, const BestandsVraag& vraag) {

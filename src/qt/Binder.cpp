@@ -68,7 +68,8 @@ void Binder::MaakVenster(QWidget* ouder) {
     MaakElementen(*inhoud);
     PasIn();
   }
-  if (const auto maat = instellingen_.Maat(formulier_.Naam())) venster_->resize(*maat);
+  if (const auto maat = instellingen_.Maat(formulier_.Naam()))
+    venster_->resize(maat->boundedTo(Ruimte()));
 }
 
 void Binder::MaakElementen(QWidget& inhoud) {
@@ -99,10 +100,15 @@ void Binder::Luister(Element& element) {
   }
 }
 
+// The room for a window on its screen.
+QSize Binder::Ruimte() const {
+  const QScreen* scherm = venster_->screen();
+  return (scherm ? scherm->availableSize() : kKleinsteScherm) - kKader;
+}
+
 // A form that is larger than a small screen gets scroll bars.
 void Binder::PasIn() {
-  QScreen* scherm = venster_->screen();
-  const QSize ruimte = (scherm ? scherm->availableSize() : kKleinsteScherm) - kKader;
+  const QSize ruimte = Ruimte();
   QLayout& rand = *venster_->layout();
   QWidget* inhoud = rand.itemAt(0)->widget();
   const QSize nodig = inhoud->minimumSizeHint();

@@ -3,7 +3,7 @@
 
 #include <QEventLoop>
 #include <QObject>
-#include <QPointer>
+#include <QSize>
 #include <QWidget>
 #include <exception>
 #include <functional>
@@ -75,6 +75,7 @@ class Binder final : public QObject, private Bezorger, private Vensterhouder {
   bool GaNaar(Element& element);
   void FocusGekregen(Element& element);
   void VolgFocus();
+  [[nodiscard]] QSize Ruimte() const;
   void PasIn();
 
   Formulier& formulier_;

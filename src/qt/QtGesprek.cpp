@@ -1,6 +1,7 @@
 #include "qt/QtGesprek.h"
 
 #include <algorithm>
+#include <ranges>
 
 #include "qt/Berichtvenster.h"
 #include "qt/Bestandsvenster.h"
@@ -24,8 +25,8 @@ Binder* QtGesprek::BinderVan(const Formulier& formulier) const {
 }
 
 QWidget* QtGesprek::Bovenste() const {
-  for (auto it = stapel_.rbegin(); it != stapel_.rend(); ++it) {
-    if ((*it)->Venster().isVisible()) return &(*it)->Venster();
+  for (const auto& binder : std::views::reverse(stapel_)) {
+    if (binder->Venster().isVisible()) return &binder->Venster();
   }
   return nullptr;
 }

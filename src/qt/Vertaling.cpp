@@ -26,8 +26,11 @@ Overgezet VanQt(const QString& tekst) {
   return uit;
 }
 
+// By way of UTF-8, which on a system of bytes lets through what is no valid name.
 QString PadNaarQt(const std::filesystem::path& pad) {
-  return QString::fromStdU16String(pad.u16string());
+  const std::u8string tekst = pad.u8string();
+  return QString::fromUtf8(reinterpret_cast<const char*>(tekst.data()),
+                           static_cast<qsizetype>(tekst.size()));
 }
 
 std::filesystem::path PadVanQt(const QString& pad) {
