@@ -1,0 +1,29 @@
+// Sessions that ask for an ancestor report of the sample family.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "ancestors/KwstFamilie.h"
+#include "steun/FamilieToets.h"
+
+namespace lb77 {
+
+// The proband of the family is person 9. `kIni` is the settings file that each test starts with.
+class KwstKeten : public FamilieToets {
+ protected:
+  static const std::string_view kIni;
+
+  KwstKeten();
+  // Plays a script from the prompt on.
+  void Speel(std::string_view draaiboek, std::string_view verslag,
+             const Plek& plek = Plek::current());
+  [[nodiscard]] std::string Ini() const { return LeesBytes(Map() / "LIJNBOOM.INI"); }
+  [[nodiscard]] bool IniHeeft(std::string_view regel) const;
+  [[nodiscard]] std::string Verslag() const { return LeesBytes(Map() / "TEMP" / "KWSTDATA.TMP"); }
+
+  KwstFamilie familie_;
+  std::int16_t gebleven_ = 0;  // HuidigPersoonNr behind the chain
+};
+
+}  // namespace lb77

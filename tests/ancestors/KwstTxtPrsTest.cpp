@@ -1,0 +1,109 @@
+// The prompt for the proband.
+#include <gtest/gtest.h>
+
+#include "ancestors/KwstKeten.h"
+
+namespace lb77 {
+namespace {
+
+class KwstPrompt : public KwstKeten {};
+
+TEST_F(KwstPrompt, AnEmptyPromptAsksForANumber) {
+  Speel(R"(
+      druk OKButton
+      toon
+      toets Escape
+    )",
+        R"(
+      + KwstTxtPrs "Nummer Proband"
+      ! uitroep "Geen Persoonsnummer opgegeven"
+      : KwstTxtPrs "Nummer Proband"
+      = VraagLabel "Geef het Persoonsnummer van de Proband"
+      = RecordNr ""
+      = VoorNm ""
+      = AchterNm ""
+      = OKButton "&OK"
+      = ZoekButton "&Zoek Persoon"
+      = BackButton "&Terug"
+      * RecordNr
+      - KwstTxtPrs
+    )");
+}
+
+TEST_F(KwstPrompt, ANameAloneIsSearchedFor) {
+  Speel(R"(
+      vul VoorNm Ger*
+      druk OKButton
+      druk JaButton
+      druk BackButton
+    )",
+        R"(
+      + KwstTxtPrs "Nummer Proband"
+      + OKPersoon "Zoek Persoon op Naam"
+      - OKPersoon
+      + KwstTxtParam "Kwartierstaat Uitvoeropties"
+      - KwstTxtParam
+      - KwstTxtPrs
+    )");
+}
+
+TEST_F(KwstPrompt, AnUnknownNumberShowsQuestionMarksAndEndsInTheComputation) {
+  Speel(R"(
+      vul RecordNr 500
+      toon VoorNm
+      toon AchterNm
+      druk OKButton
+      druk OKButton
+      toon GeduldLabel
+      druk OKButton
+    )",
+        R"(
+      + KwstTxtPrs "Nummer Proband"
+      = VoorNm "?????"
+      = AchterNm "?????"
+      + KwstTxtParam "Kwartierstaat Uitvoeropties"
+      - KwstTxtParam
+      + KwstBereken "Opbouwen Kwartierstaat"
+      = GeduldLabel "Even geduld a.u.b."
+      - KwstBereken
+      - KwstTxtPrs
+    )");
+  EXPECT_EQ(gebleven_, -1);
+}
+
+TEST_F(KwstPrompt, ATooHighNumberIsRefused) {
+  Speel(R"(
+      vul RecordNr 40000
+      toets Escape
+    )",
+        R"(
+      + KwstTxtPrs "Nummer Proband"
+      ! stop "Het maximum van 32767 records is bereikt"
+      - KwstTxtPrs
+    )");
+}
+
+TEST_F(KwstPrompt, TheSearchButtonAndF2FillTheNumber) {
+  Speel(R"(
+      druk ZoekButton
+      druk RecordNrPrs(8)
+      toon RecordNr
+      toets RecordNr F2
+      druk BackButton
+      toon VoorNm
+      toets Escape
+    )",
+        R"(
+      + KwstTxtPrs "Nummer Proband"
+      + ZoekPrs "Zoek Persoon"
+      - ZoekPrs
+      = RecordNr "9"
+      + ZoekPrs "Zoek Persoon"
+      - ZoekPrs
+      = VoorNm "Gerrit"
+      - KwstTxtPrs
+    )");
+}
+
+}  // namespace
+}  // namespace lb77
