@@ -1,4 +1,4 @@
-// Dates of a GEDCOM file, with their qualifiers, to the three numbers of a record.
+// Dates of GEDCOM files.
 #pragma once
 
 #include <string>
@@ -9,22 +9,19 @@
 
 namespace lb77 {
 
-// A date with its correction code: "C", "N", "V", "T", or a blank for an exact one. `twee` is the
-// end of a "T". What is not known is 0.
-struct GedcomDatum {
-  char correctie = ' ';
-  DatumDelen een;
-  DatumDelen twee;
-  std::vector<std::string> meldingen;  // lines for the log
+/// A date as read. `corr` is the correction code, a blank for none: "C" about, "N" after,
+/// "V" before, "T" between the two dates.
+struct GedDatumUitslag {
+  char corr = ' ';
+  DatumDelen eerste;
+  DatumDelen tweede;             ///< 0 unless `corr` is "T"
+  std::vector<std::string> log;  ///< what could not be read, a log line each
 };
 
-// `context` names the record in the log.
-[[nodiscard]] GedcomDatum GedDatum(std::string_view tekst, std::string_view context);
+/// Reads the value of a DATE line. `context` names the record in the log lines.
+[[nodiscard]] GedDatumUitslag GedDatum(std::string_view tekst, std::string_view context);
 
-// One date; a day of -1 means that it cannot be read.
-[[nodiscard]] DatumDelen GedDatumDeel(std::string_view tekst);
-
-// ‘dd-mm-jjjj’, zero-padded, as Zet takes it.
+/// The form that Zet takes, ‘dd-mm-jjjj’; no date is ‘00-00-0000’.
 [[nodiscard]] std::string GedDatumTekst(const DatumDelen& datum);
 
 }  // namespace lb77

@@ -1,28 +1,33 @@
 #include "exchange/GedNaam.h"
 
+#include <cstddef>
+
 #include "text/Tekens.h"
 
 namespace lb77 {
+
 namespace {
 
 constexpr std::size_t kVoornaam = 30;
 constexpr std::size_t kAchternaam = 25;
 
-GedcomNaam Splits(std::string_view waarde) {
-  const std::size_t een = waarde.find('/');
-  if (een == std::string_view::npos || een + 1 == waarde.size()) return {{}, waarde, {}};
-  const std::string_view achter = waarde.substr(een + 1);
-  const std::size_t twee = achter.find('/');
-  if (twee == std::string_view::npos) return {waarde.substr(0, een), achter, {}};
-  return {waarde.substr(0, een), achter.substr(0, twee), achter.substr(twee + 1)};
+GedNaamDelen Ongesneden(std::string_view waarde) {
+  const std::size_t eerste = waarde.find('/');
+  if (eerste == std::string_view::npos || eerste + 1 == waarde.size()) return {{}, waarde, {}};
+  const std::string_view achter = waarde.substr(eerste + 1);
+  const std::size_t tweede = achter.find('/');
+  const bool dicht = tweede != std::string_view::npos;
+  return {waarde.substr(0, eerste), achter.substr(0, tweede),
+          dicht ? achter.substr(tweede + 1) : std::string_view()};
 }
 
 }  // namespace
 
-GedcomNaam GedNaam(std::string_view waarde) {
-  const GedcomNaam delen = Splits(waarde);
-  return {Trim(Trim(delen.voornaam).substr(0, kVoornaam)),
-          Trim(Trim(delen.achternaam).substr(0, kAchternaam)), Trim(delen.rest)};
+GedNaamDelen GedNaam(std::string_view waarde) {
+  GedNaamDelen delen = Ongesneden(waarde);
+  delen.voornaam = Trim(delen.voornaam.substr(0, kVoornaam));
+  delen.achternaam = Trim(delen.achternaam.substr(0, kAchternaam));
+  return delen;
 }
 
 }  // namespace lb77

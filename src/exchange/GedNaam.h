@@ -1,18 +1,18 @@
-// The value of a NAME line: given names, surname between slashes, and what stands behind it.
+// The value of a NAME line.
 #pragma once
 
 #include <string_view>
 
 namespace lb77 {
 
-// Views on the value, trimmed; given names cut to 30 and surname to 25 characters.
-struct GedcomNaam {
-  std::string_view voornaam;
-  std::string_view achternaam;
-  std::string_view rest;
+/// All parts lie in the value, not converted.
+struct GedNaamDelen {
+  std::string_view voornaam;    ///< at most 30 bytes, trimmed
+  std::string_view achternaam;  ///< at most 25 bytes, trimmed
+  std::string_view rest;        ///< what stands behind the second "/"
 };
 
-// Without a slash, or with one as the last character only, all of it is the surname.
-[[nodiscard]] GedcomNaam GedNaam(std::string_view waarde);
+/// Splits ‘Jan /Jansen/ rest’. A value without slashes is a surname.
+[[nodiscard]] GedNaamDelen GedNaam(std::string_view waarde);
 
 }  // namespace lb77

@@ -1,53 +1,66 @@
 #include "exchange/GedRegel.h"
 
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
 #include "text/Getallen.h"
 #include "text/Tekens.h"
 
 namespace lb77 {
+
 namespace {
 
-constexpr int kMaxNiveau = 99;
+constexpr std::string_view kGeenLevel = "GEDCOM Fout: Regel begint niet met een levelnummer";
+constexpr std::string_view kFoutLevel = "GEDCOM Fout: Onjuist levelnummer";
 
-// Puts the tag and the value behind it in `uit`; without a value the tag is the trimmed rest.
-void SplitsTag(std::string_view rest, GedcomRegel& uit) {
-  const std::size_t blanco = rest.find(' ');
-  if (blanco == std::string_view::npos || blanco + 1 == rest.size()) {
-    uit.tag = TrimRechts(rest);
-  } else {
-    uit.tag = rest.substr(0, blanco);
-    uit.waarde = rest.substr(blanco + 1);
-  }
+// The first blank, when there is something behind it.
+std::optional<std::size_t> Scheiding(std::string_view tekst) {
+  const std::size_t plaats = tekst.find(' ');
+  if (plaats == std::string_view::npos || plaats + 1 == tekst.size()) return std::nullopt;
+  return plaats;
 }
 
 bool IsId(std::string_view woord) {
-  return woord.size() >= 2 && woord.front() == '@' && woord.back() == '@';
+  return woord.starts_with('@') && woord.ends_with('@');
+}
+
+// "@I1@" without its signs; a lone "@" has nothing between them.
+std::string_view ZonderTekens(std::string_view woord) {
+  return woord.size() < 2 ? std::string_view() : woord.substr(1, woord.size() - 2);
+}
+
+void SplitsTag(std::string_view rest, GedDelen& delen) {
+  const std::optional<std::size_t> plaats = Scheiding(rest);
+  delen.tag = plaats ? rest.substr(0, *plaats) : TrimRechts(rest);
+  if (plaats) delen.waarde = rest.substr(*plaats + 1);
 }
 
 }  // namespace
 
-GedcomRegel GedRegel(std::string_view regel) {
-  GedcomRegel uit;
-  const std::string_view tekst = TrimLinks(regel);
-  const std::size_t p = tekst.find(' ');
-  if (p == std::string_view::npos || p + 1 == tekst.size()) {
-    uit.fout = "GEDCOM Fout: Regel begint niet met een levelnummer";
-    return uit;
+GedDelen GedRegel(std::string_view regel) {
+  regel = TrimLinks(regel);
+  GedDelen delen;
+  const std::optional<std::size_t> p = Scheiding(regel);
+  if (!p) {
+    delen.fout = kGeenLevel;
+    return delen;
   }
-  const std::int32_t niveau = Getalwaarde(tekst.substr(0, p));
-  if ((niveau < 1 && tekst.front() != '0') || niveau > kMaxNiveau || niveau < 0) {
-    uit.fout = "GEDCOM Fout: Onjuist levelnummer";
-    return uit;
+  const std::int32_t level = Getalwaarde(regel.substr(0, *p));
+  if ((level < 1 && regel.front() != '0') || level > kHoogsteLevel) {
+    delen.fout = kFoutLevel;
+    return delen;
   }
-  uit.niveau = niveau;
-  SplitsTag(tekst.substr(p + 1), uit);
-  if (!uit.waarde.empty() && IsId(uit.tag)) {
-    uit.id = uit.tag.substr(1, uit.tag.size() - 2);
-    const std::string_view rest = uit.waarde;
-    uit.waarde = {};
-    SplitsTag(rest, uit);
+  delen.level = level;
+  std::string_view rest = regel.substr(*p + 1);
+  const std::optional<std::size_t> q = Scheiding(rest);
+  if (q && IsId(rest.substr(0, *q))) {
+    delen.id = ZonderTekens(rest.substr(0, *q));
+    rest.remove_prefix(*q + 1);
   }
-  if (uit.tag == "CHARSET") uit.tag = "CHAR";
-  return uit;
+  SplitsTag(rest, delen);
+  if (delen.tag == "CHARSET") delen.tag = "CHAR";
+  return delen;
 }
 
 }  // namespace lb77

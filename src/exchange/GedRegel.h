@@ -1,20 +1,22 @@
-// One line of a GEDCOM file, taken apart.
+// One line of a GEDCOM file, split up.
 #pragma once
 
 #include <string_view>
 
 namespace lb77 {
 
-// The parts are views on the line. `id` stands without its "@" signs and is empty for a line
-// without one. With a `fout` the rest means nothing.
-struct GedcomRegel {
-  int niveau = 0;  // 0 to 99
-  std::string_view id;
+inline constexpr int kHoogsteLevel = 99;
+
+/// The parts of a line. The views lie in the line; `fout` is empty when the line could be split.
+struct GedDelen {
+  int level = 0;        ///< 0 to kHoogsteLevel
+  std::string_view id;  ///< without its "@" signs
   std::string_view tag;
-  std::string_view waarde;
+  std::string_view waarde;  ///< blanks included
   std::string_view fout;
 };
 
-[[nodiscard]] GedcomRegel GedRegel(std::string_view regel);
+/// Splits a line at its blanks (byte 32). Of a line that is no GEDCOM only `fout` has a meaning.
+[[nodiscard]] GedDelen GedRegel(std::string_view regel);
 
 }  // namespace lb77

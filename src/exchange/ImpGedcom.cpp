@@ -1,39 +1,85 @@
 #include "exchange/ImpGedcom.h"
 
-#include <array>
+#include <cstddef>
 #include <system_error>
 
 #include "app/Hoofdmodule.h"
+#include "exchange/ImpGangen.h"
+#include "exchange/RegelLezer.h"
 #include "output/ToonTekst.h"
+#include "store/Paden.h"
+#include "text/Dos850.h"
 #include "text/Getallen.h"
+#include "text/Tekens.h"
 
 namespace lb77 {
+
 namespace {
 
 constexpr std::string_view kFilter =
     "GEDCOM-bestanden (*.GED)|*.GED|Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt";
+constexpr std::string_view kVoltooid = "Importeren voltooid";
 
-// The counter of lines is shown once in so many lines, and at the end of each pass.
-constexpr int kRegelsPerKeer = 100;
+// Reading from the log would empty it before a line of it was read.
+SysteemFout FoutInGebruik() {
+  return FoutVan(std::make_error_code(std::errc::device_or_resource_busy));
+}
+
+bool IsZelfde(const std::filesystem::path& bestand, const std::filesystem::path& ander) {
+  std::error_code code;
+  return std::filesystem::equivalent(bestand, ander, code);
+}
 
 }  // namespace
+
+// What the passes tell, on the form and in the log.
+class ImpGedcom::Scherm final : public ImpMelder {
+ public:
+  Scherm(ImpGedcom& formulier, GedLog& log)
+      : formulier_(formulier), gesprek_(formulier.hoofd_.gesprek), log_(log) {}
+
+  void Log(std::string_view regel) override { log_.Regel(regel); }
+  void Waarschuw(std::string_view tekst) override { gesprek_.Waarschuw(tekst); }
+  void MeldDos850() override {
+    if (nietMeer_) return;
+    nietMeer_ = gesprek_.BerichtMetVinkje(kDos850Melding, "Niet meer tonen tijdens deze import");
+  }
+  void BeginGang(int nummer) override { formulier_.ToonGang(nummer); }
+  void Ververs(const ImpStand& stand) override {
+    formulier_.RegelNr.ZetTekst(GetalTekst(stand.regels));
+    formulier_.AantalPersonen.ZetTekst(GetalTekst(stand.personen));
+    formulier_.AantalRelaties.ZetTekst(GetalTekst(stand.relaties));
+    formulier_.AantalBronnen.ZetTekst(GetalTekst(stand.bronnen));
+    formulier_.VoorNm.ZetTekst(stand.voornaam);
+    formulier_.AchterNm.ZetTekst(stand.achternaam);
+    formulier_.BronNm.ZetTekst(stand.bron);
+    gesprek_.Ververs(formulier_);
+  }
+
+ private:
+  ImpGedcom& formulier_;
+  Gesprek& gesprek_;
+  GedLog& log_;
+  bool nietMeer_ = false;
+};
 
 ImpGedcom::ImpGedcom(Hoofdmodule& hoofd)
     : Formulier("ImpGedcom", "Importeer Gegevens - Gedcom"), hoofd_(hoofd) {
   ZetHulpOnderwerp("gedcom");
   ZetEersteVeld(Bestandsnaam);
-  for (Vinkje* vinkje : {&Pass1box, &Pass2box, &Pass3box}) vinkje->ZetIngeschakeld(false);
+  for (Vinkje* vinkje : vinkjes_) vinkje->ZetIngeschakeld(false);
+  // One file is not read twice by one more click.
   Bestandsnaam.BijWijziging([this] { OKButton.ZetIngeschakeld(true); });
-  BrowseButton.BijKlik([this] { BrowseKlik(); });
-  OKButton.BijKlik([this] { OKKlik(); });
+  BrowseButton.BijKlik([this] { BrowseButtonKlik(); });
+  OKButton.BijKlik([this] { OKButtonKlik(); });
   BackButton.BijKlik([this] { Sluit(); });
 }
 
 void ImpGedcom::BijLaden() {
-  for (Label* label : {&Pass1Label, &Pass2Label, &Pass3Label}) label->ZetZichtbaar(false);
+  for (Label* label : labels_) label->ZetZichtbaar(false);
 }
 
-void ImpGedcom::BrowseKlik() {
+void ImpGedcom::BrowseButtonKlik() {
   const auto pad = hoofd_.gesprek.VraagBestand(
       {BestandsWijze::Openen, std::string(kFilter), hoofd_.Ini.TekstDir()});
   if (!pad) return;
@@ -41,52 +87,79 @@ void ImpGedcom::BrowseKlik() {
   OKButton.ZetIngeschakeld(true);
 }
 
-void ImpGedcom::OKKlik() {
-  if (Bestandsnaam.Pad().empty()) {
+void ImpGedcom::OKButtonKlik() {
+  if (Trim(Bestandsnaam.Tekst()).empty()) {
     hoofd_.gesprek.Waarschuw("Geen GEDCOM-bestand gekozen");
     return;
   }
   WisVoortgang();
   OKButton.ZetIngeschakeld(false);
   ZetBezig(true);
-  Importeer();
+  const Afloop afloop = Importeer();
+  StelVeilig();
   ZetBezig(false);
+  WisStop();
+  for (Label* label : labels_) label->ZetZichtbaar(false);
+  if (afloop.gestopt) return;
+  if (afloop.systeem) {
+    MeldFout(afloop.systeem);
+  } else {
+    hoofd_.gesprek.Informeer(kVoltooid);
+  }
+  ToonLog();
 }
 
 void ImpGedcom::WisVoortgang() {
-  for (Teller* teller :
-       {&RegelNr, &AantalPersonen, &AantalRelaties, &AantalBronnen, &VoorNm, &AchterNm, &BronNm}) {
-    teller->ZetTekst("");
-  }
-  for (Vinkje* vinkje : {&Pass1box, &Pass2box, &Pass3box}) vinkje->Zet(false);
+  for (Teller* teller : tellers_) teller->ZetTekst("");
+  for (Vinkje* vinkje : vinkjes_) vinkje->Zet(false);
 }
 
-void ImpGedcom::Importeer() {
-  const std::filesystem::path tekstDir = hoofd_.Ini.TekstDir();
-  std::error_code code;
-  std::filesystem::create_directories(tekstDir, code);  // a failure shows at the log
-  const std::filesystem::path log = tekstDir / "GEDCOM.LOG";
-  const GedBronnen bronnen{hoofd_.Persoon,
-                           hoofd_.Relatie,
-                           hoofd_.Plaats,
-                           hoofd_.Opmerking,
-                           hoofd_.volgers,
-                           hoofd_.gesprek,
-                           hoofd_.schrijfwijze.gezindten};
-  const GedImportUitslag uitslag = ImporteerGedcom(Bestandsnaam.Pad(), log, bronnen, *this);
-  const SysteemFout veilig = hoofd_.bestanden.Veiligstellen();
-  if (veilig) hoofd_.gesprek.Fout("Fout bij het veiligstellen van de bestanden\n" + veilig.tekst);
-  if (uitslag.uitslag == GedUitslag::Stil) return;
-  if (uitslag.fout) {
-    ToonFout(uitslag.fout);
-  } else {
-    if (!uitslag.melding.empty()) hoofd_.gesprek.Waarschuw(uitslag.melding);
-    hoofd_.gesprek.Informeer("Importeren voltooid");
-  }
-  ToonLog(log);
+ImpGedcom::Afloop ImpGedcom::Importeer() {
+  // A relative path is one in the program's directory.
+  return Lees(VindPad(hoofd_.programmaMap / Bestandsnaam.Pad()));
 }
 
-void ImpGedcom::ToonFout(const SysteemFout& fout) {
+ImpGedcom::Afloop ImpGedcom::Lees(const std::filesystem::path& bestand) {
+  const std::int16_t personen = hoofd_.Persoon.AantalRecords();
+  const std::int16_t relaties = hoofd_.Relatie.AantalRecords();
+  RegelLezer lezer;
+  if (SysteemFout fout = lezer.Open(bestand)) return {.systeem = fout};
+  const std::filesystem::path pad = LogPad();
+  if (IsZelfde(bestand, pad)) return {.systeem = FoutInGebruik()};
+  GedLog log;
+  if (SysteemFout fout = log.Open(pad)) return {.systeem = fout};
+  Scherm scherm(*this, log);
+  ImpLoop loop({hoofd_.Persoon, hoofd_.Relatie, hoofd_.Plaats, hoofd_.Opmerking, hoofd_.volgers,
+                hoofd_.schrijfwijze.gezindten, scherm},
+               personen, relaties);
+  const ImpUitslag uitslag = VoerGangen(loop, lezer);
+  if (uitslag.gestopt) return {.gestopt = true};
+  if (lezer.Fout()) return {.systeem = lezer.Fout()};
+  return {.systeem = Rond(uitslag, log)};
+}
+
+SysteemFout ImpGedcom::Rond(const ImpUitslag& uitslag, GedLog& log) {
+  if (!uitslag.fout.empty()) hoofd_.gesprek.Waarschuw(uitslag.fout);
+  log.Regel(kVoltooid);
+  Pass3box.Zet(true);
+  return log.Sluit();
+}
+
+void ImpGedcom::ToonGang(int nummer) {
+  for (std::size_t i = 0; i < labels_.size(); ++i) {
+    const int deze = static_cast<int>(i) + 1;
+    labels_[i]->ZetZichtbaar(deze == nummer);
+    vinkjes_[i]->Zet(deze < nummer);
+  }
+  hoofd_.gesprek.Ververs(*this);
+}
+
+void ImpGedcom::StelVeilig() {
+  const SysteemFout fout = hoofd_.bestanden.Veiligstellen();
+  if (fout) hoofd_.gesprek.Fout("Fout bij het veiligstellen van de bestanden\n" + fout.tekst);
+}
+
+void ImpGedcom::MeldFout(const SysteemFout& fout) {
   if (fout.nummer == kBestandNietGevonden) {
     hoofd_.gesprek.Waarschuw("Bestand niet gevonden");
   } else {
@@ -94,49 +167,13 @@ void ImpGedcom::ToonFout(const SysteemFout& fout) {
   }
 }
 
-void ImpGedcom::ToonLog(const std::filesystem::path& log) {
-  ZetBezig(false);
-  ToonTekst viewer(hoofd_, log, "Importeren - Resultaat");
+void ImpGedcom::ToonLog() {
+  ToonTekst viewer(hoofd_, LogPad(), "Importeren - Resultaat");
   hoofd_.gesprek.ToonModaal(viewer);
 }
 
-void ImpGedcom::Regel(int nr) {
-  regelNr_ = nr;
-  if (nr % kRegelsPerKeer != 0) return;
-  RegelNr.ZetTekst(GetalTekst(nr));
-  hoofd_.gesprek.Ververs(*this);
-}
-
-void ImpGedcom::Personen(int aantal) {
-  AantalPersonen.ZetTekst(GetalTekst(aantal));
-}
-
-void ImpGedcom::Relaties(int aantal) {
-  AantalRelaties.ZetTekst(GetalTekst(aantal));
-}
-
-void ImpGedcom::Bronnen(int aantal) {
-  AantalBronnen.ZetTekst(GetalTekst(aantal));
-}
-
-void ImpGedcom::Naam(std::string_view voornaam, std::string_view achternaam) {
-  VoorNm.ZetTekst(voornaam);
-  AchterNm.ZetTekst(achternaam);
-}
-
-void ImpGedcom::Bron(std::string_view naam) {
-  BronNm.ZetTekst(naam);
-}
-
-void ImpGedcom::Stap(int nr) {
-  const std::array<Label*, 3> labels = {&Pass1Label, &Pass2Label, &Pass3Label};
-  const std::array<Vinkje*, 3> vinkjes = {&Pass1box, &Pass2box, &Pass3box};
-  if (nr > 1) RegelNr.ZetTekst(GetalTekst(regelNr_));
-  for (int i = 1; i <= 3; ++i) {
-    labels[static_cast<std::size_t>(i - 1)]->ZetZichtbaar(i == nr);
-    vinkjes[static_cast<std::size_t>(i - 1)]->Zet(i < nr);
-  }
-  hoofd_.gesprek.Ververs(*this);
+std::filesystem::path ImpGedcom::LogPad() const {
+  return VindPad(hoofd_.Ini.TekstDir() / "GEDCOM.LOG");
 }
 
 }  // namespace lb77

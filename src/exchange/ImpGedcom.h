@@ -1,14 +1,20 @@
 // The dialog that reads a GEDCOM file into the active file set.
 #pragma once
 
-#include "exchange/GedImport.h"
+#include <array>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+#include "exchange/GedLog.h"
+#include "exchange/ImpLoop.h"
 #include "forms/Formulier.h"
 
 namespace lb77 {
 
 class Hoofdmodule;
 
-class ImpGedcom final : public Formulier, private GedToeschouwer {
+class ImpGedcom final : public Formulier {
  public:
   explicit ImpGedcom(Hoofdmodule& hoofd);
 
@@ -34,25 +40,32 @@ class ImpGedcom final : public Formulier, private GedToeschouwer {
   void BijLaden() override;
 
  private:
+  class Scherm;
+  // How an import ended: by itself, quietly because a record class has told why not, or by an error
+  // of the system.
+  struct Afloop {
+    bool gestopt = false;
+    SysteemFout systeem{};
+  };
   static constexpr std::string_view kBezig = "Bezig met ... ==>";
 
-  void Regel(int nr) override;
-  void Personen(int aantal) override;
-  void Relaties(int aantal) override;
-  void Bronnen(int aantal) override;
-  void Naam(std::string_view voornaam, std::string_view achternaam) override;
-  void Bron(std::string_view naam) override;
-  void Stap(int nr) override;
-
-  void BrowseKlik();
-  void OKKlik();
-  void Importeer();
+  void BrowseButtonKlik();
+  void OKButtonKlik();
   void WisVoortgang();
-  void ToonFout(const SysteemFout& fout);
-  void ToonLog(const std::filesystem::path& log);
+  [[nodiscard]] Afloop Importeer();
+  [[nodiscard]] Afloop Lees(const std::filesystem::path& bestand);
+  [[nodiscard]] SysteemFout Rond(const ImpUitslag& uitslag, GedLog& log);
+  void ToonGang(int nummer);
+  void StelVeilig();
+  void MeldFout(const SysteemFout& fout);
+  void ToonLog();
+  [[nodiscard]] std::filesystem::path LogPad() const;
 
   Hoofdmodule& hoofd_;
-  int regelNr_ = 0;
+  std::array<Label*, 3> labels_{&Pass1Label, &Pass2Label, &Pass3Label};
+  std::array<Vinkje*, 3> vinkjes_{&Pass1box, &Pass2box, &Pass3box};
+  std::array<Teller*, 7> tellers_{&RegelNr, &AantalPersonen, &AantalRelaties, &AantalBronnen,
+                                  &VoorNm,  &AchterNm,       &BronNm};
 };
 
 }  // namespace lb77

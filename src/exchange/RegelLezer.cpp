@@ -6,16 +6,14 @@
 #include <ios>
 #include <system_error>
 
+#include "exchange/StroomFout.h"
+
 namespace lb77 {
 
 namespace {
 
 constexpr std::size_t kBlok = 256 * 1024;
 constexpr std::string_view kVolgordeTeken = "\xEF\xBB\xBF";
-
-SysteemFout LaatsteFout() {
-  return FoutVan(std::error_code(errno != 0 ? errno : EIO, std::generic_category()));
-}
 
 // The place of a byte in [van, tot); `tot` when it is not there.
 std::size_t Zoek(const std::vector<char>& blok, char teken, std::size_t van, std::size_t tot) {
@@ -37,7 +35,7 @@ SysteemFout RegelLezer::Open(const std::filesystem::path& pad) {
   bestand_.rdbuf()->pubsetbuf(nullptr, 0);
   errno = 0;
   bestand_.open(pad, std::ios::binary);
-  if (!bestand_) return LaatsteFout();
+  if (!bestand_) return StroomFout();
   blok_.resize(kBlok);
   Begin();
   return fout_;
@@ -75,7 +73,7 @@ bool RegelLezer::Vul() {
   errno = 0;
   bestand_.read(blok_.data() + eind_, static_cast<std::streamsize>(blok_.size() - eind_));
   const auto gelezen = static_cast<std::size_t>(bestand_.gcount());
-  if (bestand_.bad()) fout_ = LaatsteFout();
+  if (bestand_.bad()) fout_ = StroomFout();
   uitgelezen_ = !bestand_;
   const std::size_t vanaf = eind_;
   eind_ += gelezen;

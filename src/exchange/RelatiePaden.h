@@ -8,14 +8,14 @@ namespace lb77 {
 
 enum class RelatieActie {
   Persoon,
-  Datum,           ///< the first date
-  HuwDatum,        ///< civil marriage; a second date by the qualifier of the last death or burial
-  HuwDatumEigen,   ///< civil marriage; a second date by the date's own qualifier
+  Datum,          ///< the first date
+  HuwDatum,       ///< civil marriage; a second date by the qualifier of the last death or burial
+  HuwDatumEigen,  ///< civil marriage; a second date by the date's own qualifier
   Plaats,
   Gezindte,
-  Bond,            ///< only the kind of the bond or the divorce
-  Kind,            ///< the next of at most 29
-  Niets            ///< known, and passed over
+  Bond,  ///< only the kind of the bond or the divorce
+  Kind,  ///< the next of at most 29
+  Niets  ///< known, and passed over
 };
 
 /// `veld` is the name by which Zet knows the field, where an action has one. Before the action

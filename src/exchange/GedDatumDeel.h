@@ -1,0 +1,14 @@
+// One date of a GEDCOM file, without a qualifier.
+#pragma once
+
+#include <string_view>
+
+#include "text/Datum.h"
+
+namespace lb77 {
+
+/// Reads a date in capitals; the form follows from its length. A `dag` of -1 tells that it can't be
+/// read; a part that is not given is 0.
+[[nodiscard]] DatumDelen GedDatumDeel(std::string_view tekst);
+
+}  // namespace lb77

@@ -1,0 +1,85 @@
+#include "exchange/ImpLoop.h"
+
+#include <cstddef>
+
+#include "exchange/GedGezindte.h"
+#include "exchange/GedPlaatsNaam.h"
+#include "text/Getallen.h"
+#include "text/Tekens.h"
+
+namespace lb77 {
+
+namespace {
+
+constexpr std::int32_t kRegelsPerVerversing = 128;
+
+}  // namespace
+
+ImpLoop::ImpLoop(const ImpDelen& delen_, std::int16_t laatstePersoon, std::int16_t laatsteRelatie)
+    : delen(delen_), laatstePersoon_(laatstePersoon), laatsteRelatie_(laatsteRelatie) {}
+
+void ImpLoop::BeginGang() {
+  stand = {};
+  context_ = "H-0";
+  persoonNr_ = relatieNr_ = 0;
+}
+
+void ImpLoop::TelRegel() {
+  if (++stand.regels % kRegelsPerVerversing == 0) delen.melder.Ververs(stand);
+}
+
+GedSoort ImpLoop::Kop(const GedDelen& regel) {
+  const GedSoort soort = GedSoortVan(regel.tag);
+  if (soort == GedSoort::Persoon) {
+    persoonNr_ = GedPersId.Nr(static_cast<std::size_t>(stand.personen++));
+  } else if (soort == GedSoort::Relatie) {
+    relatieNr_ = GedRelId.Nr(static_cast<std::size_t>(stand.relaties++));
+  } else if (soort == GedSoort::Bron) {
+    ++stand.bronnen;
+  }
+  // A repository leaves the context where it stood.
+  if (soort != GedSoort::Bewaarplaats) context_ = GedContext(soort, regel.id);
+  return soort;
+}
+
+std::int16_t ImpLoop::NieuwePersoon() {
+  if (!delen.persoon.Nieuw(laatstePersoon_ + 1)) return 0;
+  return ++laatstePersoon_;
+}
+
+std::int16_t ImpLoop::NieuweRelatie() {
+  if (!delen.relatie.Nieuw(laatsteRelatie_ + 1)) return 0;
+  return ++laatsteRelatie_;
+}
+
+std::string ImpLoop::GedTekst(std::string_view tekst) {
+  if (tekenset == GedTekenset::CP850) delen.melder.MeldDos850();
+  return GedNaarWindows(tekenset, tekst);
+}
+
+GedDatumUitslag ImpLoop::Datum(std::string_view waarde) {
+  GedDatumUitslag datum = GedDatum(waarde, context_);
+  for (const std::string& regel : datum.log) delen.melder.Log(regel);
+  return datum;
+}
+
+std::string ImpLoop::GedPlaats(std::string_view waarde) {
+  const std::string tekst = GedTekst(Trim(waarde));
+  const std::string_view naam = GedPlaatsNaam(tekst);
+  const std::int16_t nr = naam.empty() ? std::int16_t{0} : delen.plaats.NrOfNieuw(naam, "");
+  return nr > 0 ? GetalTekst(nr) : "0";
+}
+
+std::string ImpLoop::GedPersNr(std::string_view verwijzing) const {
+  return GetalTekst(GedPersId.NrVan(verwijzing));
+}
+
+std::string ImpLoop::GedRelNr(std::string_view verwijzing) const {
+  return GetalTekst(GedRelId.NrVan(verwijzing));
+}
+
+std::string ImpLoop::Gezindte(std::string_view waarde) {
+  return GedGezindte(GedTekst(Trim(waarde)), delen.gezindten);
+}
+
+}  // namespace lb77

@@ -1,0 +1,166 @@
+#include "exchange/ImpOpmerkingen.h"
+
+#include <algorithm>
+#include <array>
+
+#include "exchange/GedNaam.h"
+#include "exchange/GedRegel.h"
+#include "exchange/OpmAfbreken.h"
+#include "text/Getallen.h"
+
+namespace lb77 {
+
+namespace {
+
+// Tags that become a NOTE, and what goes before their value.
+struct Tagwissel {
+  std::string_view tag;
+  std::string_view voor;
+};
+constexpr std::array kTagwissels = {
+    Tagwissel{"_COMM", ""},
+    Tagwissel{"_ALIA", "alias "},
+    Tagwissel{"ADDR", "Adres: "},
+    Tagwissel{"RFN", "Extern nummer (RFN): "},
+    Tagwissel{"AFN", "Ancestral File Number (AFN): "},
+    Tagwissel{"TYPE", "TYPE: "},
+    Tagwissel{"SOUR", "Bron: "},
+    Tagwissel{"CAUS", "Oorzaak: "},
+    Tagwissel{"TEXT", ""},
+};
+constexpr std::string_view kNote = "NOTE";
+// In which kinds of output an imported remark appears.
+// kept: the bits of Kwartierstaat, Stamreeks and Genealogie, and one without a meaning; not that of
+// the Gezinsblad.
+constexpr std::int16_t kBijProg = 23;
+
+bool IsVervolg(std::string_view tag) {
+  return tag == "CONC" || tag == "CONT";
+}
+
+}  // namespace
+
+/// A line while it may turn into a note.
+struct ImpOpmerkingen::Regel {
+  std::string_view ouder;  ///< the path above it
+  std::string_view pad;    ///< its own path, after the change of its tag
+  std::string_view bron;   ///< its tag in the file
+  std::string_view tag;
+  std::string waarde;
+};
+
+ImpOpmerkingen::ImpOpmerkingen(ImpLoop& loop) : loop_(loop), rubrieken_(AlleOpmRubrieken()) {}
+
+ImpUitslag ImpOpmerkingen::Voer(RegelLezer& lezer) {
+  loop_.BeginGang();
+  std::string_view regel;
+  while (!einde_ && lezer.Volgende(regel)) {
+    loop_.TelRegel();
+    const GedDelen delen = GedRegel(regel);
+    if (!delen.fout.empty()) return {.fout = std::string(delen.fout)};
+    ImpUitslag uitslag = delen.level == 0 ? NeemKop(delen) : NeemRegel(delen);
+    if (!uitslag.Gelukt()) return uitslag;
+  }
+  return {};
+}
+
+ImpUitslag ImpOpmerkingen::NeemKop(const GedDelen& delen) {
+  ImpUitslag uitslag = Bewaar();
+  pad_.Zet(0, delen.tag);
+  einde_ = loop_.Kop(delen) == GedSoort::Einde;
+  return uitslag;
+}
+
+ImpUitslag ImpOpmerkingen::NeemRegel(const GedDelen& delen) {
+  if (IsVervolg(delen.tag)) {
+    NeemVervolg(delen);
+    return {};
+  }
+  const auto* wissel = std::ranges::find(kTagwissels, delen.tag, &Tagwissel::tag);
+  const bool gewisseld = wissel != kTagwissels.end();
+  const std::string_view tag = gewisseld ? kNote : delen.tag;
+  pad_.Zet(delen.level, tag);
+  const std::string& pad = pad_.Van(delen.level);
+  if (pad == "INDI-NAME") ToonNaam(delen.waarde);
+  ImpUitslag uitslag = Bewaar();
+  if (!uitslag.Gelukt()) return uitslag;
+  Regel regel{pad_.Ouder(delen.level), pad, delen.tag, tag, {}};
+  if (gewisseld) regel.waarde = wissel->voor;
+  regel.waarde += delen.waarde;
+  WordtOpmerking(regel);
+  if (regel.tag == kNote) Wacht(regel);
+  return {};
+}
+
+void ImpOpmerkingen::NeemVervolg(const GedDelen& delen) {
+  const std::string& ouder = pad_.Ouder(delen.level);
+  if (ouder.ends_with(kNote)) {
+    // Without a rubric the text goes nowhere.
+    if (rubriek_ == 0) return;
+    if (delen.tag == "CONT") tekst_ += ' ';
+    tekst_ += delen.waarde;
+  } else if (ouder != "SUBM" && ouder != "SUBM-ADDR") {
+    loop_.delen.melder.Log("Vervolgregels worden alleen voor NOTES ondersteund...");
+    std::string regel = "\t" + ouder + "-";
+    regel.append(delen.tag).append("\t").append(delen.waarde);
+    loop_.Log(regel);
+  }
+}
+
+void ImpOpmerkingen::ToonNaam(std::string_view waarde) {
+  const GedNaamDelen naam = GedNaam(waarde);
+  loop_.stand.voornaam = GedNaarWindows(loop_.tekenset, naam.voornaam);
+  loop_.stand.achternaam = GedNaarWindows(loop_.tekenset, naam.achternaam);
+}
+
+// What stands below an event, an address or an adoption is told as a note.
+void ImpOpmerkingen::WordtOpmerking(Regel& regel) {
+  if (regel.ouder.ends_with("EVEN")) {
+    const std::string_view wat = regel.bron == "TYPE" ? regel.ouder : regel.pad;
+    regel.waarde = std::string(wat) + " : " + regel.waarde;
+  } else if (regel.ouder.ends_with("ADDR")) {
+    regel.waarde = "Adres: " + regel.waarde;
+  } else if (regel.ouder == "INDI-ADOP") {
+    regel.waarde = "Adoptie: " + (regel.bron == "DATE" ? AdoptieDatum(regel.waarde) : regel.waarde);
+  } else {
+    return;
+  }
+  regel.tag = kNote;
+}
+
+std::string ImpOpmerkingen::AdoptieDatum(std::string_view waarde) {
+  const GedDatumUitslag datum = loop_.Datum(waarde);
+  return std::string(1, datum.corr) + " " + GedDatumTekst(datum.eerste);
+}
+
+void ImpOpmerkingen::Wacht(const Regel& regel) {
+  const OpmRubriek* rij = rubrieken_.Zoek(regel.ouder);
+  rubriek_ = rij != nullptr ? rij->rubriek : AlgemeneRubriek(regel.ouder);
+  tekst_ = rij != nullptr ? rij->voor : std::string_view();
+  tekst_ += regel.waarde;
+}
+
+ImpUitslag ImpOpmerkingen::Bewaar() {
+  if (rubriek_ == 0) return {};
+  PersoonLB77& persoon = loop_.delen.persoon;
+  RelatieLB77& relatie = loop_.delen.relatie;
+  if (rubriek_ > 0) {
+    const std::int16_t nr = loop_.PersoonNr();
+    if (!persoon.Lees(nr)) return {.fout = "Leesfout bij Persoon " + GetalTekst(nr)};
+    return Schrijf(persoon.OpmRecord(), nr, 0);
+  }
+  const std::int16_t nr = loop_.RelatieNr();
+  if (!relatie.Lees(nr)) return {.fout = "Leesfout bij Relatie " + GetalTekst(nr)};
+  return Schrijf(relatie.OpmRecord(), 0, nr);
+}
+
+ImpUitslag ImpOpmerkingen::Schrijf(std::int16_t begin, std::int16_t persoon, std::int16_t relatie) {
+  OpmLB77& opmerking = loop_.delen.opmerking;
+  const OpmRegels regels = BreekAf(loop_.GedTekst(tekst_));
+  const bool gelukt =
+      opmerking.SchrijfOpmerking(regels, {}, 0, persoon, relatie, begin, kBijProg, rubriek_);
+  rubriek_ = 0;
+  return {.gestopt = !gelukt};
+}
+
+}  // namespace lb77

@@ -1,0 +1,45 @@
+// The third pass of the import: notes become remarks.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "exchange/GedPad.h"
+#include "exchange/ImpLoop.h"
+#include "exchange/OpmRubrieken.h"
+#include "exchange/Padtabel.h"
+#include "exchange/RegelLezer.h"
+
+namespace lb77 {
+
+/// A note waits until the next line that does not continue it, and is then wrapped and stored.
+class ImpOpmerkingen {
+ public:
+  explicit ImpOpmerkingen(ImpLoop& loop);
+
+  /// Reads the file from where the reader stands.
+  [[nodiscard]] ImpUitslag Voer(RegelLezer& lezer);
+
+ private:
+  struct Regel;
+
+  [[nodiscard]] ImpUitslag NeemKop(const GedDelen& delen);
+  [[nodiscard]] ImpUitslag NeemRegel(const GedDelen& delen);
+  void NeemVervolg(const GedDelen& delen);
+  void WordtOpmerking(Regel& regel);
+  void ToonNaam(std::string_view waarde);
+  [[nodiscard]] std::string AdoptieDatum(std::string_view waarde);
+  void Wacht(const Regel& regel);
+  [[nodiscard]] ImpUitslag Bewaar();
+  [[nodiscard]] ImpUitslag Schrijf(std::int16_t begin, std::int16_t persoon, std::int16_t relatie);
+
+  ImpLoop& loop_;
+  Padtabel<OpmRubriek> rubrieken_;
+  GedPad pad_;
+  std::string tekst_;         // of the note that waits, as the file has it
+  std::int16_t rubriek_ = 0;  // of that note; 0 when none waits
+  bool einde_ = false;
+};
+
+}  // namespace lb77

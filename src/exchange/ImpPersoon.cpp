@@ -1,0 +1,183 @@
+#include "exchange/ImpPersoon.h"
+
+#include <string>
+
+#include "exchange/GedNaam.h"
+#include "text/Getallen.h"
+#include "text/Tekens.h"
+
+namespace lb77 {
+
+namespace {
+
+constexpr std::size_t kVoornaam = 30;
+constexpr std::size_t kAchternaam = 25;
+constexpr std::size_t kBeroep = 30;
+
+std::string_view Gesneden(std::string_view waarde, std::size_t lengte) {
+  return Trim(waarde.substr(0, lengte));
+}
+
+// The sex by its first letter; "O" for one that is not known.
+std::string_view GeslachtVan(std::string_view waarde) {
+  const std::string_view woord = TrimLinks(waarde);
+  const char letter = woord.empty() ? ' ' : Hoofdletter(woord.front());
+  if (letter == 'M') return "M";
+  return letter == 'F' ? "V" : "O";
+}
+
+}  // namespace
+
+bool ImpPersoon::Begin(std::int16_t nr) {
+  nr_ = nr;
+  relaties_ = 0;
+  gebCorr_ = ovlCorr_ = ' ';
+  loop_.delen.volgers.HuidigPersoonNr = nr;
+  return loop_.delen.persoon.Lees(nr);
+}
+
+bool ImpPersoon::Bewaar() {
+  loop_.delen.volgers.HuidigPersoonNr = nr_;
+  return loop_.delen.persoon.Schrijf();
+}
+
+bool ImpPersoon::Neem(const PersoonPad& pad, std::string_view waarde) {
+  switch (pad.actie) {
+    case PersoonActie::Naam:
+      NeemNaam(pad, waarde);
+      break;
+    case PersoonActie::Voornaam:
+    case PersoonActie::Achternaam:
+      NeemNaamDeel(pad, waarde);
+      break;
+    case PersoonActie::Geslacht:
+      Zet(pad.veld, GeslachtVan(waarde));
+      break;
+    case PersoonActie::GebDatum:
+    case PersoonActie::DoopDatum:
+    case PersoonActie::OvlDatum:
+    case PersoonActie::BegrDatum:
+      NeemDatum(pad, waarde);
+      break;
+    case PersoonActie::Plaats:
+    case PersoonActie::DoopPlaats:
+    case PersoonActie::BegrPlaats:
+      NeemPlaats(pad, waarde);
+      break;
+    case PersoonActie::Gezindte:
+      Zet(pad.veld, loop_.Gezindte(waarde));
+      break;
+    case PersoonActie::Beroep:
+      Zet(pad.veld, loop_.GedTekst(Gesneden(waarde, kBeroep)));
+      break;
+    case PersoonActie::Ouders:
+      Zet(pad.veld, loop_.GedRelNr(waarde));
+      break;
+    case PersoonActie::Relatie:
+      return NeemRelatie(waarde);
+    case PersoonActie::Niets:
+      break;
+  }
+  return true;
+}
+
+void ImpPersoon::NeemNaam(const PersoonPad& pad, std::string_view waarde) {
+  const GedNaamDelen naam = GedNaam(waarde);
+  if (!naam.rest.empty()) {
+    std::string regel = "\t";
+    regel.append(pad.pad).append("\t").append(waarde).append("\t").append(naam.rest);
+    loop_.Log(regel);
+  }
+  loop_.stand.voornaam = loop_.GedTekst(naam.voornaam);
+  loop_.stand.achternaam = loop_.GedTekst(naam.achternaam);
+  Zet("Voornaam", loop_.stand.voornaam);
+  Zet("Achternaam", loop_.stand.achternaam);
+}
+
+void ImpPersoon::NeemNaamDeel(const PersoonPad& pad, std::string_view waarde) {
+  const bool isVoornaam = pad.actie == PersoonActie::Voornaam;
+  std::string& getoond = isVoornaam ? loop_.stand.voornaam : loop_.stand.achternaam;
+  getoond = loop_.GedTekst(Gesneden(waarde, isVoornaam ? kVoornaam : kAchternaam));
+  Zet(pad.veld, getoond);
+}
+
+void ImpPersoon::NeemDatum(const PersoonPad& pad, std::string_view waarde) {
+  const GedDatumUitslag datum = loop_.Datum(waarde);
+  const bool geboorte = pad.actie == PersoonActie::GebDatum;
+  const bool overlijden = pad.actie == PersoonActie::OvlDatum;
+  if (geboorte || pad.actie == PersoonActie::DoopDatum) {
+    gebCorr_ = datum.corr;
+  } else {
+    ovlCorr_ = laatsteOvlCorr_ = datum.corr;
+  }
+  if (geboorte) Zet("GebCorr", std::string(1, datum.corr));
+  if (overlijden) Zet("OvlCorr", std::string(1, datum.corr));
+  Zet(pad.veld, GedDatumTekst(datum.eerste));
+  if (datum.corr != 'T') return;
+  // The end of a period lies in the fields of the event behind it.
+  if (geboorte) Zet("DoopDatum", GedDatumTekst(datum.tweede));
+  if (overlijden) Zet("BegrDatum", GedDatumTekst(datum.tweede));
+}
+
+void ImpPersoon::NeemPlaats(const PersoonPad& pad, std::string_view waarde) {
+  if (pad.actie == PersoonActie::DoopPlaats && gebCorr_ == 'T') return;
+  if (pad.actie == PersoonActie::BegrPlaats && ovlCorr_ == 'T') return;
+  Zet(pad.veld, loop_.GedPlaats(waarde));
+}
+
+bool ImpPersoon::NeemRelatie(std::string_view waarde) {
+  const std::string relatie = loop_.GedRelNr(waarde);
+  switch (++relaties_) {
+    case 1:
+      Zet("Relatie1", relatie);
+      return true;
+    case 2:
+      Zet("Relatie2", relatie);
+      return true;
+    case 3:
+      Zet("Relatie3", relatie);
+      return true;
+    case 4:
+      return MaakVervolg(relatie);
+    case 5:
+      return ZetVijfde(relatie);
+    case 6:
+      loop_.delen.melder.Waarschuw("Meer dan 5 relaties voor Persoon " + GetalTekst(nr_));
+      return true;
+    default:
+      return true;
+  }
+}
+
+// The main record names its continuation only when that one has been written, so that a failure in
+// between loses no relation.
+bool ImpPersoon::MaakVervolg(std::string_view vierde) {
+  PersoonLB77& persoon = loop_.delen.persoon;
+  const std::string derde = GetalTekst(persoon.relatie3());
+  if (!Bewaar()) return false;
+  const std::int16_t vervolg = loop_.NieuwePersoon();
+  if (vervolg == 0) return false;
+  loop_.delen.volgers.HuidigPersoonNr = vervolg;
+  Zet("GebCorr", "Z");
+  Zet("Relatie1", derde);
+  Zet("Relatie2", vierde);
+  Zet("Relatie3", "0");
+  if (!persoon.Schrijf()) return false;
+  loop_.delen.volgers.HuidigPersoonNr = nr_;
+  if (!persoon.Lees(nr_)) return false;
+  Zet("Relatie3", GetalTekst(-vervolg));
+  return Bewaar();
+}
+
+bool ImpPersoon::ZetVijfde(std::string_view vijfde) {
+  PersoonLB77& persoon = loop_.delen.persoon;
+  const auto vervolg = static_cast<std::int16_t>(-persoon.relatie3());
+  if (!Bewaar() || !persoon.Lees(vervolg)) return false;
+  loop_.delen.volgers.HuidigPersoonNr = vervolg;
+  Zet("Relatie3", vijfde);
+  if (!persoon.Schrijf()) return false;
+  loop_.delen.volgers.HuidigPersoonNr = nr_;
+  return persoon.Lees(nr_);
+}
+
+}  // namespace lb77

@@ -1,0 +1,132 @@
+#include "exchange/ImpRecords.h"
+
+#include <algorithm>
+#include <array>
+
+#include "exchange/GedRegel.h"
+#include "text/Letterlijk.h"
+
+namespace lb77 {
+
+namespace {
+
+constexpr std::string_view kSchema = "SUBM-SCHEMA";
+// Lines that the third pass takes as remarks.
+constexpr std::array<std::string_view, 8> kWordtOpmerking = {"_COMM", "_ALIA", "RFN",  "AFN",
+                                                             "SOUR",  "CAUS",  "TYPE", "ADOP"};
+constexpr std::array<std::string_view, 3> kOpmerking = {"CONT", "CONC", "NOTE"};
+
+bool IsVoorOpmerkingen(std::string_view tag) {
+  return std::ranges::find(kOpmerking, tag) != kOpmerking.end() ||
+         std::ranges::find(kWordtOpmerking, tag) != kWordtOpmerking.end();
+}
+
+}  // namespace
+
+ImpRecords::ImpRecords(ImpLoop& loop)
+    : loop_(loop),
+      persoon_(loop),
+      relatie_(loop),
+      persoonPaden_(AllePersoonPaden()),
+      relatiePaden_(AlleRelatiePaden()),
+      overigePaden_(AlleOverigePaden()) {}
+
+ImpUitslag ImpRecords::Voer(RegelLezer& lezer) {
+  loop_.BeginGang();
+  std::string_view regel;
+  while (!einde_ && lezer.Volgende(regel)) {
+    loop_.TelRegel();
+    const GedDelen delen = GedRegel(regel);
+    if (!delen.fout.empty()) return {.fout = std::string(delen.fout)};
+    pad_.Zet(delen.level, delen.tag);
+    if (!(delen.level == 0 ? NeemKop(delen) : NeemRegel(delen))) return {.gestopt = true};
+  }
+  return {};
+}
+
+bool ImpRecords::NeemKop(const GedDelen& delen) {
+  return BewaarRecord() && BeginRecord(loop_.Kop(delen));
+}
+
+bool ImpRecords::BewaarRecord() {
+  if (InPersoon()) return persoon_.Bewaar();
+  return !InRelatie() || relatie_.Bewaar();
+}
+
+bool ImpRecords::BeginRecord(GedSoort soort) {
+  einde_ = soort == GedSoort::Einde;
+  if (soort == GedSoort::Persoon) return persoon_.Begin(loop_.PersoonNr());
+  return soort != GedSoort::Relatie || relatie_.Begin(loop_.RelatieNr());
+}
+
+ImpRecords::Groep ImpRecords::GroepVan(std::string_view ouder) {
+  if (ouder.starts_with('I')) return Groep::Persoon;
+  return ouder.starts_with('F') ? Groep::Relatie : Groep::Overig;
+}
+
+bool ImpRecords::NeemRegel(GedDelen delen) {
+  if (delen.tag == "_ORIG") {
+    delen.tag = "BIRT";
+    pad_.Zet(delen.level, delen.tag);
+  }
+  if (IsVoorOpmerkingen(delen.tag)) return true;
+  const std::string& ouder = pad_.Ouder(delen.level);
+  const std::string& pad = pad_.Van(delen.level);
+  if (ouder == kSchema) {
+    LogEenmaal(schemaGemeld_, " - SCHEMA tags worden niet geïnterpreteerd: "_w, pad);
+    return true;
+  }
+  const Groep groep = GroepVan(ouder);
+  // A level that was skipped may leave a path of a record that is not being built any more.
+  if (groep == Groep::Persoon && InPersoon()) {
+    if (const auto* rij = persoonPaden_.Zoek(pad)) return persoon_.Neem(*rij, delen.waarde);
+  } else if (groep == Groep::Relatie && InRelatie()) {
+    if (const auto* rij = relatiePaden_.Zoek(pad)) {
+      return relatie_.Neem(*rij, delen.waarde, persoon_.LaatsteOvlCorr());
+    }
+  } else if (const auto* rij = overigePaden_.Zoek(pad)) {
+    NeemOverig(rij->actie, delen.waarde);
+    return true;
+  }
+  LogOnbekend(groep, delen);
+  return true;
+}
+
+void ImpRecords::NeemOverig(OverigeActie actie, std::string_view waarde) {
+  switch (actie) {
+    case OverigeActie::Tekenset:
+      loop_.tekenset = GedTekensetVan(waarde);
+      break;
+    case OverigeActie::BronNaam:
+      loop_.stand.bron = loop_.GedTekst(waarde);
+      break;
+    case OverigeActie::Niets:
+      break;
+  }
+}
+
+void ImpRecords::LogEenmaal(bool& gemeld, std::string_view tekst, std::string_view pad) {
+  if (!gemeld) loop_.Log(std::string(tekst).append(pad));
+  gemeld = true;
+}
+
+void ImpRecords::LogOnbekend(Groep groep, const GedDelen& delen) {
+  const std::string& pad = pad_.Van(delen.level);
+  const bool isPersoon = groep == Groep::Persoon;
+  if (delen.tag.starts_with('_')) {
+    const std::string_view nog = isPersoon ? "" : "(nog) ";
+    const std::string tekst =
+        " - Eigen tags van externe programma's worden " + std::string(nog) + "niet ondersteund: ";
+    LogEenmaal(eigenTagGemeld_, tekst, pad);
+  } else if (isPersoon ? pad.ends_with("EVEN") : delen.tag == "EVEN") {
+    // kept: the misspelling for persons and relations, by which users know the line
+    LogEenmaal(eventGemeld_,
+               groep == Groep::Overig ? " - EVENT tags worden opgeslagen als ALGEMENE OPMERKING: "
+                                      : " - EVENT tags worden opgelsagen als ALGEMENE OPMERKING: ",
+               pad);
+  } else {
+    loop_.Log(" - Onbekende tag: " + pad + " : " + std::string(delen.waarde));
+  }
+}
+
+}  // namespace lb77

@@ -1,0 +1,117 @@
+#include "exchange/ImpRelatie.h"
+
+#include <string>
+
+#include "text/Getallen.h"
+
+namespace lb77 {
+
+namespace {
+
+constexpr int kInHoofdrecord = 15;
+// kept: the 30th child is offered to a slot that does not exist, and Zet says so; only the 31st
+// brings the message of a family that is too large.
+constexpr int kHoogsteKind = 30;
+// Slot n of the continuation holds child n + 14.
+constexpr int kVerschuiving = 14;
+
+std::string KindVeld(int slot) {
+  return "Kind" + GetalTekst(slot);
+}
+
+}  // namespace
+
+bool ImpRelatie::Begin(std::int16_t nr) {
+  nr_ = nr;
+  kinderen_ = 0;
+  loop_.delen.volgers.HuidigRelatieNr = nr;
+  return loop_.delen.relatie.Lees(nr);
+}
+
+bool ImpRelatie::Bewaar() {
+  loop_.delen.volgers.HuidigRelatieNr = nr_;
+  return loop_.delen.relatie.Schrijf();
+}
+
+bool ImpRelatie::Neem(const RelatiePad& pad, std::string_view waarde, char laatsteOvlCorr) {
+  if (!pad.vooraf.empty()) Zet(pad.vooraf, pad.waarde);
+  switch (pad.actie) {
+    case RelatieActie::Persoon:
+      Zet(pad.veld, loop_.GedPersNr(waarde));
+      break;
+    case RelatieActie::Datum:
+    case RelatieActie::HuwDatum:
+    case RelatieActie::HuwDatumEigen:
+      NeemDatum(pad, waarde, laatsteOvlCorr);
+      break;
+    case RelatieActie::Plaats:
+      Zet(pad.veld, loop_.GedPlaats(waarde));
+      break;
+    case RelatieActie::Gezindte:
+      Zet(pad.veld, loop_.Gezindte(waarde));
+      break;
+    case RelatieActie::Kind:
+      return NeemKind(waarde);
+    case RelatieActie::Bond:
+    case RelatieActie::Niets:
+      break;
+  }
+  return true;
+}
+
+void ImpRelatie::NeemDatum(const RelatiePad& pad, std::string_view waarde, char laatsteOvlCorr) {
+  const GedDatumUitslag datum = loop_.Datum(waarde);
+  Zet(pad.veld, GedDatumTekst(datum.eerste));
+  if (pad.actie == RelatieActie::Datum) return;
+  // kept: a marriage looks at the last death or burial, not at its own date, and the qualifier
+  // itself is not stored.
+  const char corr = pad.actie == RelatieActie::HuwDatumEigen ? datum.corr : laatsteOvlCorr;
+  if (corr == 'T') Zet("KHuwDatum", GedDatumTekst(datum.tweede));
+}
+
+bool ImpRelatie::NeemKind(std::string_view waarde) {
+  const std::string kind = loop_.GedPersNr(waarde);
+  const int nummer = ++kinderen_;
+  if (nummer <= kInHoofdrecord) {
+    Zet(KindVeld(nummer), kind);
+  } else if (nummer == kInHoofdrecord + 1) {
+    return MaakVervolg(kind);
+  } else if (nummer <= kHoogsteKind) {
+    return ZetInVervolg(kind);
+  } else if (nummer == kHoogsteKind + 1) {
+    loop_.delen.melder.Waarschuw("Meer dan 29 kinderen voor Relatie " + GetalTekst(nr_));
+  }
+  return true;
+}
+
+// The main record names its continuation only when that one has been written, so that a failure in
+// between loses no child.
+bool ImpRelatie::MaakVervolg(std::string_view kind) {
+  RelatieLB77& relatie = loop_.delen.relatie;
+  const std::string vijftiende = relatie.kind(kInHoofdrecord);
+  if (!Bewaar()) return false;
+  const std::int16_t vervolg = loop_.NieuweRelatie();
+  if (vervolg == 0) return false;
+  loop_.delen.volgers.HuidigRelatieNr = vervolg;
+  Zet("HuwCorr", "Z");
+  Zet("Kind1", vijftiende);
+  Zet("Kind2", kind);
+  if (!relatie.Schrijf()) return false;
+  loop_.delen.volgers.HuidigRelatieNr = nr_;
+  if (!relatie.Lees(nr_)) return false;
+  Zet(KindVeld(kInHoofdrecord), GetalTekst(-vervolg));
+  return Bewaar();
+}
+
+bool ImpRelatie::ZetInVervolg(std::string_view kind) {
+  RelatieLB77& relatie = loop_.delen.relatie;
+  const auto vervolg = static_cast<std::int16_t>(-relatie.KindNr(kInHoofdrecord));
+  if (!Bewaar() || !relatie.Lees(vervolg)) return false;
+  loop_.delen.volgers.HuidigRelatieNr = vervolg;
+  Zet(KindVeld(kinderen_ - kVerschuiving), kind);
+  if (!relatie.Schrijf()) return false;
+  loop_.delen.volgers.HuidigRelatieNr = nr_;
+  return relatie.Lees(nr_);
+}
+
+}  // namespace lb77
