@@ -7,16 +7,6 @@
 
 namespace lb77 {
 
-namespace {
-
-// What the streams of the standard library leave behind of a failure.
-SysteemFout LaatsteFout() {
-  const int nummer = errno != 0 ? errno : EIO;
-  return FoutVan(std::error_code(nummer, std::generic_category()));
-}
-
-}  // namespace
-
 SysteemFout LeesHeelBestand(const std::filesystem::path& pad, std::string& inhoud) {
   inhoud.clear();
   std::error_code code;
@@ -25,23 +15,23 @@ SysteemFout LeesHeelBestand(const std::filesystem::path& pad, std::string& inhou
   }
   errno = 0;
   std::ifstream in(pad, std::ios::binary);
-  if (!in) return LaatsteFout();
+  if (!in) return FoutVanStroom();
   char blok[4096];
   while (in.read(blok, sizeof blok) || in.gcount() > 0) {
     inhoud.append(blok, static_cast<std::size_t>(in.gcount()));
   }
   if (!in.bad()) return {};
   inhoud.clear();
-  return LaatsteFout();
+  return FoutVanStroom();
 }
 
 SchrijfUitslag SchrijfHeelBestand(const std::filesystem::path& pad, std::string_view inhoud) {
   errno = 0;
   std::ofstream uit(pad, std::ios::binary | std::ios::trunc);
-  if (!uit) return {SchrijfStap::Openen, LaatsteFout()};
+  if (!uit) return {SchrijfStap::Openen, FoutVanStroom()};
   uit.write(inhoud.data(), static_cast<std::streamsize>(inhoud.size()));
   uit.close();
-  if (!uit) return {SchrijfStap::Schrijven, LaatsteFout()};
+  if (!uit) return {SchrijfStap::Schrijven, FoutVanStroom()};
   return {};
 }
 

@@ -15,10 +15,6 @@ bool IsEinde(char teken) {
   return teken == '\r' || teken == '\n';
 }
 
-SysteemFout LaatsteFout() {
-  return FoutVan({errno == 0 ? EIO : errno, std::generic_category()});
-}
-
 }  // namespace
 
 Regelstroom::Regelstroom() : blok_(kBlokGrootte) {}
@@ -37,7 +33,7 @@ bool Regelstroom::Open(const std::filesystem::path& pad, std::uint64_t plaats) {
   errno = 0;
   bestand_.open(pad, std::ios::binary);
   if (bestand_) bestand_.seekg(static_cast<std::streamoff>(plaats));
-  if (!bestand_) fout_ = LaatsteFout();
+  if (!bestand_) fout_ = FoutVanStroom();
   return !fout_;
 }
 
@@ -50,7 +46,7 @@ bool Regelstroom::Vul() {
   errno = 0;
   bestand_.read(blok_.data(), static_cast<std::streamsize>(blok_.size()));
   lengte_ = static_cast<std::size_t>(bestand_.gcount());
-  if (bestand_.bad()) fout_ = LaatsteFout();
+  if (bestand_.bad()) fout_ = FoutVanStroom();
   return lengte_ > 0;
 }
 

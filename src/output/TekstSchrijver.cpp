@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <cstddef>
-#include <system_error>
 
 #include "text/Tekens.h"
 
@@ -184,7 +183,7 @@ void TekstSchrijver::Leeg() {
 
 // The first failure counts: what follows it is its consequence.
 void TekstSchrijver::OnthoudFout() {
-  if (!mislukt_) fout_ = FoutVan({errno == 0 ? EIO : errno, std::generic_category()});
+  if (!mislukt_) fout_ = FoutVanStroom();
   mislukt_ = true;
 }
 

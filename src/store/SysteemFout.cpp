@@ -1,6 +1,7 @@
 #include "store/SysteemFout.h"
 
 #include <array>
+#include <cerrno>
 #include <string_view>
 
 namespace lb77 {
@@ -47,6 +48,10 @@ SysteemFout FoutVan(const std::error_code& code) {
     if (code == regel.code) return {regel.nummer, std::string(regel.tekst)};
   }
   return {code.value(), "Fout van het systeem"};
+}
+
+SysteemFout FoutVanStroom() {
+  return FoutVan({errno == 0 ? EIO : errno, std::generic_category()});
 }
 
 SysteemFout FoutNietOpen() {

@@ -24,6 +24,10 @@ inline constexpr int kGeenToegang = 70;
 /// The error behind a code of the standard library; success for an empty code.
 SysteemFout FoutVan(const std::error_code& code);
 
+/// Why a stream of the standard library failed: what it left in errno, or an error of the disk when
+/// it left nothing. Set errno to 0 before the operation.
+SysteemFout FoutVanStroom();
+
 /// The error of every operation on a file that is not open.
 SysteemFout FoutNietOpen();
 

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <cerrno>
+#include <fstream>
+
 #include "store/SysteemFout.h"
 
 using namespace lb77;
@@ -58,6 +61,15 @@ TEST(SysteemFoutTest, EenOnbekendeFoutHoudtHetNummerVanHetSysteem) {
   const SysteemFout fout = Van(std::errc::address_in_use);
   EXPECT_EQ(fout.nummer, static_cast<int>(std::errc::address_in_use));
   EXPECT_EQ(fout.tekst, "Fout van het systeem");
+}
+
+TEST(SysteemFoutTest, EenStroomDieMisluktZegtWaaromOfGeeftDeSchijfDeSchuld) {
+  errno = 0;
+  std::ifstream afwezig("bestaat niet");
+  EXPECT_FALSE(afwezig);
+  EXPECT_EQ(FoutVanStroom().nummer, kBestandNietGevonden);
+  errno = 0;
+  EXPECT_EQ(FoutVanStroom().tekst, "Fout van de schijf");
 }
 
 TEST(SysteemFoutTest, EenOnjuistRecordnummerIsEenFout) {
