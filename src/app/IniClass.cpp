@@ -8,6 +8,7 @@
 
 #include "app/IniBestand.h"
 #include "app/IniPaden.h"
+#include "store/Paden.h"
 #include "text/Dos437.h"
 #include "text/Getallen.h"
 #include "text/Pad.h"
@@ -323,11 +324,11 @@ std::filesystem::path IniClass::ProgDir() const {
 
 std::filesystem::path IniClass::TempDir() const {
   const std::filesystem::path pad = IniPad("Systeem", "Tempdir");
-  return pad.empty() ? programmaMap_ : programmaMap_ / pad;
+  return VindPad(pad.empty() ? programmaMap_ : programmaMap_ / pad);
 }
 
 std::filesystem::path IniClass::SetMap(std::string_view map) const {
-  return DataDir() / PadVan(ActieveSet()) / map;
+  return VindPad(DataDir() / PadVan(ActieveSet()) / map);
 }
 
 std::filesystem::path IniClass::TekstDir() const {

@@ -58,7 +58,8 @@ class IniClass {
   // The number of entries before the first empty one.
   [[nodiscard]] std::int16_t AantalBestandenSets() const;
   [[nodiscard]] std::filesystem::path ProgDir() const;
-  // Directories of the active set's text output and index output.
+  // Directories of the active set's text output and index output. One that exists under another
+  // case is given as it is spelled, as is the next one.
   [[nodiscard]] std::filesystem::path TekstDir() const;
   [[nodiscard]] std::filesystem::path IndexDir() const;
   // The directory of temporary files.

@@ -139,6 +139,17 @@ TEST_F(IniKlassePad, TekstEnIndexLiggenInDeActieveSet) {
   });
 }
 
+TEST_F(IniKlassePad, EenDirectoryOnderEenAndereKastWordtGevonden) {
+  std::filesystem::create_directories(map_ / "Data/Abc/Tekst");
+  std::filesystem::create_directories(map_ / "Data/Abc/Index");
+  std::filesystem::create_directories(map_ / "Temp");
+  Lees("[Systeem]\nSet=abc\n", [this](IniClass& ini) {
+    EXPECT_EQ(ini.TekstDir(), map_ / "Data/Abc/Tekst");
+    EXPECT_EQ(ini.IndexDir(), map_ / "Data/Abc/Index");
+    EXPECT_EQ(ini.TempDir(), map_ / "Temp");
+  });
+}
+
 TEST_F(IniKlassePad, EenRelatiefOfLeegPadHoortBijHetProgramma) {
   Lees("[Systeem]\nData=GEGEVENS\nTempdir=\n", [this](IniClass& ini) {
     EXPECT_EQ(ini.DataDir(), map_ / "GEGEVENS");
