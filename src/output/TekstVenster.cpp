@@ -66,10 +66,15 @@ void TekstVenster::Toon(const std::filesystem::path& pad, bool HTMLUitvoer) {
   ZetEersteVeld(omlaag.Ingeschakeld() ? omlaag : BackButton);
 }
 
+bool TekstVenster::LeesPagina(int kolom, int rij, std::vector<std::string>& regels) {
+  if (!paginas_.Lees(kolom, rij, regels)) return false;
+  if (paginas_.Leeg()) regels = {"<< Het bestand is leeg >>"};
+  return true;
+}
+
 void TekstVenster::ToonPagina() {
   std::vector<std::string> regels;
-  if (paginas_.Lees(kolom_, rij_, regels)) {
-    if (paginas_.Leeg()) regels = {"<< Het bestand is leeg >>"};
+  if (LeesPagina(kolom_, rij_, regels)) {
     UitvoerBox.ZetRegels(std::move(regels));
   } else {
     UitvoerBox.ZetRegels({"Fout: " + paginas_.Fout().tekst});
@@ -113,21 +118,25 @@ void TekstVenster::BijToets(ToetsGebeurtenis& toets) {
 }
 
 void TekstVenster::DrukPaginaAf() {
-  DrukAf({Titel(), {UitvoerBox.Regels()}});
+  Afdruk afdruk{Titel(), {}};
+  if (VoegPaginaToe(afdruk, kolom_, rij_)) DrukAf(afdruk);
 }
 
 void TekstVenster::DrukAllesAf() {
   Afdruk afdruk{Titel(), {}};
-  if (paginas_.Leeg()) afdruk.paginas.push_back(UitvoerBox.Regels());
-  for (int rij = 1; rij <= paginas_.Rijen() && !paginas_.Leeg(); ++rij) {
+  for (int rij = 1; rij <= paginas_.Rijen(); ++rij) {
     for (int kolom = 1; kolom <= paginas_.Kolommen(); ++kolom) {
-      if (!paginas_.Lees(kolom, rij, afdruk.paginas.emplace_back())) {
-        hoofd_.gesprek.Fout(MetFout(kPrintFout, paginas_.Fout()));
-        return;
-      }
+      if (!VoegPaginaToe(afdruk, kolom, rij)) return;
     }
   }
   DrukAf(afdruk);
+}
+
+// False after a message.
+bool TekstVenster::VoegPaginaToe(Afdruk& afdruk, int kolom, int rij) {
+  if (LeesPagina(kolom, rij, afdruk.paginas.emplace_back())) return true;
+  hoofd_.gesprek.Fout(MetFout(kPrintFout, paginas_.Fout()));
+  return false;
 }
 
 void TekstVenster::DrukAf(const Afdruk& afdruk) {

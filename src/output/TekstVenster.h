@@ -4,9 +4,11 @@
 #include <filesystem>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "app/Hoofdmodule.h"
 #include "forms/Formulier.h"
+#include "forms/Gesprek.h"
 #include "forms/Rij.h"
 #include "output/Tekstpaginas.h"
 
@@ -40,8 +42,10 @@ class TekstVenster : public Formulier {
  private:
   void Ga(int kolommen, int rijen);
   void ToonPagina();
+  [[nodiscard]] bool LeesPagina(int kolom, int rij, std::vector<std::string>& regels);
   void DrukPaginaAf();
   void DrukAllesAf();
+  [[nodiscard]] bool VoegPaginaToe(Afdruk& afdruk, int kolom, int rij);
   void DrukAf(const Afdruk& afdruk);
   void SlaOp();
 

@@ -10,6 +10,7 @@
 #include <system_error>
 
 #include "output/Regelstroom.h"
+#include "text/Getallen.h"
 
 namespace lb77 {
 
@@ -43,12 +44,23 @@ std::string DeelVanRegel(Regelstroom& stroom, std::uint64_t links) {
 
 }  // namespace
 
+Tekstpaginas::Stempel Tekstpaginas::StempelVan(const std::filesystem::path& pad) {
+  std::error_code code;  // of a file that can't be asked the reading tells why
+  return {std::filesystem::file_size(pad, code), std::filesystem::last_write_time(pad, code)};
+}
+
 bool Tekstpaginas::Open(const std::filesystem::path& pad) {
   pad_ = pad;
+  Tel();
+  return !fout_;
+}
+
+void Tekstpaginas::Tel() {
+  stempel_ = StempelVan(pad_);
   rijBegin_.clear();
   std::uint64_t langste = 0;
   Regelstroom stroom;
-  if (stroom.Open(pad)) {
+  if (stroom.Open(pad_)) {
     std::uint64_t begin = 0;
     for (std::uint64_t regel = 0; stroom.VolgendeRegel(); ++regel) {
       if (regel % kRegels == 0) rijBegin_.push_back(begin);
@@ -63,7 +75,6 @@ bool Tekstpaginas::Open(const std::filesystem::path& pad) {
   }
   kolommen_ = static_cast<int>(
       std::min<std::uint64_t>(langste / kBreedte + 1, std::numeric_limits<int>::max()));
-  return !fout_;
 }
 
 int Tekstpaginas::Rijen() const {
@@ -72,7 +83,8 @@ int Tekstpaginas::Rijen() const {
 
 bool Tekstpaginas::Lees(int kolom, int rij, std::vector<std::string>& regels) {
   regels.clear();
-  if (Leeg()) return !fout_;
+  if (fout_ || StempelVan(pad_) != stempel_) Tel();
+  if (fout_ || Leeg() || rij > Rijen()) return !fout_;
   const auto links = static_cast<std::uint64_t>(kolom - 1) * kBreedte;
   Regelstroom stroom;
   if (stroom.Open(pad_, rijBegin_.at(static_cast<std::size_t>(rij - 1)))) {
@@ -87,8 +99,14 @@ bool Tekstpaginas::Lees(int kolom, int rij, std::vector<std::string>& regels) {
 
 namespace {
 
-SysteemFout LaatsteFout() {
-  return FoutVan({errno == 0 ? EIO : errno, std::generic_category()});
+// A name beside that of the file which nothing has yet.
+std::filesystem::path VrijeNaamNaast(const std::filesystem::path& pad) {
+  std::error_code code;
+  for (int poging = 1;; ++poging) {
+    std::filesystem::path naam = pad;
+    naam += ".nieuw" + NrTekst(poging - 1);
+    if (!std::filesystem::exists(std::filesystem::symlink_status(naam, code))) return naam;
+  }
 }
 
 // Writes the copy; what went wrong, or success.
@@ -97,7 +115,7 @@ SysteemFout SchrijfKopie(const std::filesystem::path& van, const std::filesystem
   if (!stroom.Open(van)) return stroom.Fout();
   errno = 0;
   std::ofstream uit(naar, std::ios::binary | std::ios::trunc);
-  if (!uit) return LaatsteFout();
+  if (!uit) return FoutVanStroom();
   while (uit && stroom.VolgendeRegel()) {
     for (std::string_view stuk = stroom.Stuk(); !stuk.empty(); stuk = stroom.Stuk()) {
       uit.write(stuk.data(), static_cast<std::streamsize>(stuk.size()));
@@ -105,15 +123,14 @@ SysteemFout SchrijfKopie(const std::filesystem::path& van, const std::filesystem
     uit << "\r\n";
   }
   uit.close();
-  if (!uit) return LaatsteFout();
+  if (!uit) return FoutVanStroom();
   return stroom.Fout();
 }
 
 }  // namespace
 
 SysteemFout KopieerTekst(const std::filesystem::path& van, const std::filesystem::path& naar) {
-  std::filesystem::path ernaast = naar;
-  ernaast += ".nieuw";
+  const std::filesystem::path ernaast = VrijeNaamNaast(naar);
   SysteemFout fout = SchrijfKopie(van, ernaast);
   std::error_code code;
   if (!fout) {

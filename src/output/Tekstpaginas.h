@@ -29,20 +29,31 @@ class Tekstpaginas {
   [[nodiscard]] int Rijen() const;
 
   /// The lines of one page, at most kRegels of at most kBreedte characters; a NUL byte shows as a
-  /// blank. On a failed read False and no lines, and Fout() tells why.
+  /// blank. A file that has changed meanwhile is counted anew; a page that it no longer has is
+  /// empty. On a failed read False and no lines, and Fout() tells why.
   [[nodiscard]] bool Lees(int kolom, int rij, std::vector<std::string>& regels);
 
   [[nodiscard]] const SysteemFout& Fout() const { return fout_; }
 
  private:
+  // By which a file shows that it has changed.
+  struct Stempel {
+    std::uintmax_t grootte = 0;
+    std::filesystem::file_time_type tijd;
+    [[nodiscard]] bool operator==(const Stempel&) const = default;
+  };
+  [[nodiscard]] static Stempel StempelVan(const std::filesystem::path& pad);
+  void Tel();
+
   std::filesystem::path pad_;
+  Stempel stempel_;
   std::vector<std::uint64_t> rijBegin_;  // where each row begins in the file
   int kolommen_ = 1;
   SysteemFout fout_;
 };
 
 /// Copies a text line by line, each line ended by CR LF. It is written beside `naar` and takes its
-/// place when all is well; after a failure what `naar` held is as it was.
+/// place when all is well; after a failure what `naar` held is as it was. No other file is touched.
 [[nodiscard]] SysteemFout KopieerTekst(const std::filesystem::path& van,
                                        const std::filesystem::path& naar);
 

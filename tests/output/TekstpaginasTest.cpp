@@ -92,5 +92,28 @@ TEST_F(TekstpaginasTest, ACopyTakesThePlaceOfTheOldFile) {
   EXPECT_FALSE(std::filesystem::exists(map_ / "oud.txt.nieuw"));
 }
 
+TEST_F(TekstpaginasTest, ACopyLeavesAFileThatHasTheNameOfItsDraft) {
+  SchrijfBytes(map_ / "in.txt", "een\n");
+  SchrijfBytes(map_ / "uit.txt.nieuw", "van de gebruiker");
+  SchrijfBytes(map_ / "uit.txt.nieuw1", "ook");
+  EXPECT_FALSE(KopieerTekst(map_ / "in.txt", map_ / "uit.txt"));
+  EXPECT_TRUE(KopieerTekst(map_ / "weg.txt", map_ / "uit.txt"));
+  EXPECT_EQ(LeesBytes(map_ / "uit.txt"), "een\r\n");
+  EXPECT_EQ(LeesBytes(map_ / "uit.txt.nieuw"), "van de gebruiker");
+  EXPECT_EQ(LeesBytes(map_ / "uit.txt.nieuw1"), "ook");
+  EXPECT_FALSE(std::filesystem::exists(map_ / "uit.txt.nieuw2"));
+}
+
+TEST_F(TekstpaginasTest, AFileThatComesBackIsRead) {
+  Open("een\n");
+  std::filesystem::remove(map_ / "in.txt");
+  std::vector<std::string> regels;
+  EXPECT_FALSE(paginas_.Lees(1, 1, regels));
+  EXPECT_EQ(paginas_.Fout().nummer, kBestandNietGevonden);
+  SchrijfBytes(map_ / "in.txt", "weer\n");
+  EXPECT_TRUE(paginas_.Lees(1, 1, regels));
+  EXPECT_EQ(regels, std::vector<std::string>{"weer"});
+}
+
 }  // namespace
 }  // namespace lb77
