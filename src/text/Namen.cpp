@@ -14,7 +14,7 @@ struct Woorden {
 
 Woorden SplitsEersteWoord(std::string_view tekst) {
   const std::size_t blank = tekst.find(' ');
-  return {Trim(tekst.substr(0, blank)), Trim(tekst.substr(blank + 1))};
+  return {tekst.substr(0, blank), Trim(tekst.substr(blank + 1))};
 }
 
 bool HeeftBlank(std::string_view tekst) {
@@ -46,7 +46,7 @@ PlaatsDelen SplitsOpKomma(std::string_view tekst) {
   const std::size_t komma = tekst.find(',');
   delen.tekst = Trim(tekst.substr(0, komma));
   if (komma == std::string_view::npos) return delen;
-  const std::string_view achter = Trim(tekst.substr(komma + 1));
+  const std::string_view achter = tekst.substr(komma + 1);
   const std::size_t laatste = achter.rfind(',');
   delen.prov = Trim(achter.substr(0, laatste));
   if (laatste != std::string_view::npos) delen.rest = Trim(achter.substr(laatste + 1));

@@ -58,6 +58,7 @@ TEST(DatumGeldigTest, LeestDrieStukkenMetBlanksEromheen) {
 
 TEST(DatumGeldigTest, HoudtVanTeLangeStukkenDeLaatsteTekens) {
   VerwachtGeldig("103-105-11850", "03-05-1850");
+  VerwachtGeldig("103-051850", "03-05-1850");
 }
 
 TEST(DatumGeldigTest, TeltBlanksOmEenTekstZonderScheiderEnOmEenLosseDagNietMee) {
@@ -124,6 +125,12 @@ TEST(DatumGeldigTest, WeigertDagBoven31EnOnderNul) {
 TEST(DatumGeldigTest, MeldtEenDagDieNergensBestaatInEenKorteMaandNietTweemaal) {
   VerwachtMelding("32-04-1850", "Dag bestaat niet");
   VerwachtMelding("30-02-1903", "Dag bestaat niet");
+}
+
+TEST(DatumGeldigTest, LeestEenLeegStukAlsOnbekend) {
+  VerwachtGeldig("3--1850", "03-00-1850");
+  VerwachtGeldig("--1850", "00-00-1850");
+  VerwachtGeldig("3-5-", "03-05-0000");
 }
 
 TEST(DatumGeldigTest, LeestVanMeerScheidersAlleenDeEersteTwee) {
@@ -211,6 +218,7 @@ void VerwachtDelen(std::string_view tekst, int dag, int maand, int jaar) {
 TEST(OntleedDatum10Test, LeestVastePlaatsenWatErOokTussenStaat) {
   VerwachtDelen("12-05-1900", 12, 5, 1900);
   VerwachtDelen("12?05!1900", 12, 5, 1900);
+  VerwachtDelen("12905819007", 12, 5, 1900);
   VerwachtDelen("  -  -    ", 0, 0, 0);
   VerwachtDelen("12-05-19001", 12, 5, 1900);
 }
@@ -239,6 +247,11 @@ TEST(DatumIsNaTest, VergelijktBijGelijkeJarenDeMaandenEnDanDeDagen) {
   EXPECT_FALSE(DatumIsNa("30-05-1900", "01-06-1900"));
   EXPECT_TRUE(DatumIsNa("13-05-1900", "12-05-1900"));
   EXPECT_FALSE(DatumIsNa("12-05-1900", "13-05-1900"));
+}
+
+TEST(DatumIsNaTest, VergelijktOokHetJaarEenEnDeMaandEen) {
+  EXPECT_TRUE(DatumIsNa("01-06-0001", "01-05-0001"));
+  EXPECT_TRUE(DatumIsNa("02-01-1900", "01-01-1900"));
 }
 
 TEST(DatumIsNaTest, VindtGelijkeDatumsNietLater) {

@@ -52,6 +52,7 @@ TEST(GezindteNaamTest, VergelijktAlleenDeEersteTweeTekens) {
 
 TEST(GezindteCodeTest, VindtDeCodeZonderOpHoofdlettersTeLetten) {
   EXPECT_EQ(GezindteCode("nederlands hervormd", Lijst()), "NH");
+  EXPECT_EQ(GezindteCode(" Doopsgezind ", Lijst()), "dg");
   EXPECT_EQ(GezindteCode("GEREFORMEERD ÉN VRIJ"_w, Lijst()), "GË"_w);
 }
 

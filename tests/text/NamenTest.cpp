@@ -145,6 +145,7 @@ TEST(SplitsPlaatsTest, NeemtDeProvincieAchterDeKomma) {
   VerwachtPlaats("Amsterdam, NH, Nederland", "Amsterdam", "NH", "Nederland");
   VerwachtPlaats("Amsterdam , NH ", "Amsterdam", "NH", "");
   VerwachtPlaats("A, B, C , D ", "A", "B, C", "D");
+  VerwachtPlaats("A,B,C", "A", "B", "C");
   VerwachtPlaats("A,", "A", "", "");
 }
 
