@@ -16,10 +16,10 @@ namespace {
 constexpr std::size_t kVoorBreedte = 30;
 constexpr std::size_t kAchterBreedte = 25;
 
-// A name to search for, in capitals.
+// A name to search for, in capitals. The name that it is made of begins with no blank.
 struct Zoeknaam {
   Zoeknaam(std::string_view naam, std::size_t breedte)
-      : tekst(Hoofdletters(Trim(Trim(naam).substr(0, breedte)))), joker(EindigtOp(tekst, "*")) {
+      : tekst(Hoofdletters(Trim(naam.substr(0, breedte)))), joker(EindigtOp(tekst, "*")) {
     if (joker) tekst.pop_back();
   }
   [[nodiscard]] bool IsLeeg() const { return tekst.empty() && !joker; }

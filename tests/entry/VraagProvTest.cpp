@@ -39,6 +39,10 @@ TEST_F(VraagProvTest, LettersWordenHoofdletters) {
             "ZH");
 }
 
+TEST_F(VraagProvTest, EenBlankeCodeLaatRuimteOmTeTypen) {
+  EXPECT_EQ(Vraag("toon ProvCode\ntoets z\ntoets h\ntoets Enter", "  ", "= ProvCode \"\""), "ZH");
+}
+
 TEST_F(VraagProvTest, EenKorteCodeWordtAangevuld) {
   EXPECT_EQ(Vraag("vul ProvCode u\ndruk OKButton", "  ", ""), "U ");
   EXPECT_EQ(Vraag("vul ProvCode \" u\"\ndruk OKButton", "  ", ""), "U ");

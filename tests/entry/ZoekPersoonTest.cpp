@@ -174,6 +174,8 @@ TEST_F(ZoekPersoonTest, LangeNamenWordenAfgekaptTotDeBreedteVanHetRecord) {
   EXPECT_EQ(Aangeboden(dertig + "x", vijfentwintig + "x"), "2 ");
   EXPECT_EQ(Aangeboden(std::string(29, 'J') + " xx", vijfentwintig), "");
   EXPECT_EQ(Aangeboden(std::string(29, 'J') + "*", vijfentwintig), "2 ");
+  Bouw().Man(std::string(29, 'J'), std::string(24, 'V'));
+  EXPECT_EQ(Aangeboden("  " + std::string(29, 'J') + " x", std::string(24, 'V') + " x"), "3 ");
 }
 
 TEST_F(ZoekPersoonTest, EenOnleesbaarRecordVraagtOfHetDoorgaat) {
