@@ -29,7 +29,7 @@ void LeesIniRegels(
 [[nodiscard]] SysteemFout LeesIniBestand(const std::filesystem::path& map, std::string& inhoud);
 
 // Makes the file anew: the last one becomes the backup. The lines are written beside it first, so
-// that after any failure the last file and its backup are still there.
+// that after any failure the last file is still there, and its backup unless the two changed places.
 [[nodiscard]] SchrijfUitslag SchrijfIniBestand(const std::filesystem::path& map,
                                                std::string_view inhoud);
 

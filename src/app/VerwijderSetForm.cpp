@@ -17,6 +17,7 @@ std::string SetSleutel(int index) {
 }  // namespace
 
 VerwijderSetForm::VerwijderSetForm(Hoofdmodule& hoofd, MenuWindow& menu)
+    // kept: the title is spelled as users know it
     : Formulier("VerwijderSetForm", "Verwijder Bestandendset"), hoofd_(hoofd), menu_(menu) {
   ZetEersteVeld(SetPicklist);
   OKButton.BijKlik([this] { OKButtonKlik(); });
