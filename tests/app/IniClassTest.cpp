@@ -1,3 +1,8 @@
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "app/IniClass.h"
 #include "app/SessieToets.h"
 #include "text/Letterlijk.h"
@@ -192,6 +197,63 @@ TEST_F(IniKlasse, NummersBuitenDeLijstWordenBijHetLezenOvergeslagen) {
   EXPECT_EQ(Ini().find("Set100"), std::string::npos);
   EXPECT_TRUE(IniHeeft("Set2=B"));
   EXPECT_EQ(Ini().find("Prog11"), std::string::npos);
+}
+
+// All settings that callers may ask for and that come back from the file, each as section and key.
+std::vector<std::pair<Sleutel, std::string>> AlleTags() {
+  std::vector<std::pair<Sleutel, std::string>> uit;
+  for (const Sleutel& sleutel : AlleSleutels()) {
+    const bool vast = sleutel.sectie == "Systeem" && sleutel.naam == "Prog";
+    if (vast || sleutel.soort == SleutelSoort::NooitGelezen) continue;
+    const std::string naam(sleutel.naam == "Edit" ? "Editor" : sleutel.naam);
+    if (sleutel.aantal == 0) uit.emplace_back(sleutel, naam);
+    for (int i = 1; i <= sleutel.aantal; ++i) uit.emplace_back(sleutel, naam + std::to_string(i));
+  }
+  return uit;
+}
+
+// A value that the setting can hold, another one for each `nummer`.
+std::string Proefwaarde(const Sleutel& sleutel, int nummer) {
+  const std::string getal = std::to_string(100 + nummer);  // inside the bounds of every number
+  switch (sleutel.soort) {
+    case SleutelSoort::Getal:
+    case SleutelSoort::Positie:
+      return getal;
+    case SleutelSoort::Scheider:
+      return "1";
+    case SleutelSoort::DosTekst:
+      return std::string("[één] = "_w) + getal;
+    case SleutelSoort::Tekst:
+    case SleutelSoort::Pad:
+    case SleutelSoort::Gedeeld:
+    case SleutelSoort::NooitGelezen:
+      break;
+  }
+  return "[x] = " + getal;
+}
+
+TEST_F(IniKlasse, ElkeWaardeKomtUitHetBestandTerug) {
+  std::map<std::string, std::string> gezet;
+  Lees("", [&](IniClass& ini) {
+    int nummer = 0;
+    for (const auto& [sleutel, tag] : AlleTags()) {
+      ini.IniZet(sleutel.sectie, tag, Proefwaarde(sleutel, ++nummer));
+    }
+    for (const auto& [sleutel, tag] : AlleTags()) {  // of shared ones the last value counts
+      gezet[std::string(sleutel.sectie) + "/" + tag] = ini.IniWaarde(sleutel.sectie, tag);
+    }
+    ini.IniSchrijf();
+  });
+  EXPECT_EQ(gezet.at("Lijnboom/Versie"), "[x] = 101");
+  EXPECT_EQ(gezet.at("KWBLD/OokLB77"), gezet.at("KWST/OokLB77"));
+  Verwacht("", Met([&](Hoofdmodule& hoofd) {
+             ASSERT_TRUE(hoofd.Ini.IniLees());
+             for (const auto& [sleutel, tag] : AlleTags()) {
+               const std::string plek = std::string(sleutel.sectie) + "/" + tag;
+               EXPECT_EQ(hoofd.Ini.IniWaarde(sleutel.sectie, tag), gezet.at(plek)) << plek;
+             }
+           }),
+           "");
 }
 
 TEST_F(IniKlasse, EenOnbekendeRegelVerdwijntBijHetSchrijven) {

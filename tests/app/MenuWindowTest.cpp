@@ -1,5 +1,6 @@
 #include "app/MenuWindow.h"
 #include "app/SessieToets.h"
+#include "app/ZonderRechten.h"
 #include "steun/Gouden.h"
 
 namespace lb77 {
@@ -227,6 +228,42 @@ TEST_F(Hoofdvenster, EscapeSluitHetProgrammaNiet) {
   Verwacht("toets Escape\ntoon Statusbalk", Sessie(),
            R"(+ MenuWindow "LB77 voor Windows"
               = Statusbalk "Actieve Bestandenset:")");
+}
+
+// A set that may be written beside settings that may not.
+class AlleenLezen : public Hoofdvenster {
+ protected:
+  void SetUp() override {
+    ZetSet();
+    namespace fs = std::filesystem;
+    fs::permissions(map_ / "LIJNBOOM.INI", fs::perms(0444));
+    for (const auto& deel : fs::recursive_directory_iterator(map_ / "DATA")) {
+      fs::permissions(deel.path(), fs::perms(deel.is_directory() ? 0777 : 0666));
+    }
+  }
+};
+
+constexpr std::string_view kNietTeSchrijven =
+    R"(? uitroep OK/Annuleren "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\nGeen toegang" -> )";
+
+TEST_F(AlleenLezen, MetInstellingenDieNietTeSchrijvenZijnGaatHetProgrammaDoor) {
+  const std::string voor = Ini();
+  {
+    const ZonderRechten rechten(map_);
+    const std::string vraag(kNietTeSchrijven);
+    Verwacht("antwoord OK OK\ntoon Statusbalk\ntoon Rapport\nkies KeuzeAfsluiten",
+             Sessie(), vraag + R"(OK
+               + MenuWindow "LB77 voor Windows"
+               = Statusbalk "Actieve bestandenset: ABC,mijn familie"
+               = Rapport "&Rapporten"
+               )" + vraag + "OK\n- MenuWindow");
+  }
+  EXPECT_EQ(Ini(), voor);
+}
+
+TEST_F(AlleenLezen, AnnulerenBijHetOpstartenEindigtHetProgrammaVoorHetVenster) {
+  const ZonderRechten rechten(map_);
+  Verwacht("antwoord Annuleren", Sessie(), std::string(kNietTeSchrijven) + "Annuleren");
 }
 
 TEST_F(Hoofdvenster, WieHetEindeKiestKomtNaDeDialoogBuiten) {

@@ -69,6 +69,34 @@ TEST_F(NieuweSetVenster, EenNaamDieErAlIsHoudtDeFocus) {
             = Statusbalk "Actieve bestandenset: ABC,oms")");
 }
 
+TEST_F(NieuweSetVenster, EnterGaatVanDeNaamNaarDeOmschrijving) {
+  Speelt("typ SetNaam abc\ntoets SetNaam Enter\ntoon\ntoets Escape",
+         R"(: NieuweSet "Nieuwe Bestandenset"
+            = SetNaam "ABC"
+            = SetOmsch ""
+            = OKButton "&OK"
+            = BackButton "&Terug"
+            * SetOmsch
+            - NieuweSet
+            = Statusbalk "Actieve Bestandenset:")");
+  EXPECT_FALSE(Bestaat("DATA"));
+}
+
+TEST_F(NieuweSetVenster, EnterBijEenNaamDieErAlIsHoudtDeFocus) {
+  MaakSet("ABC");
+  ZetIni("[Sets]\nSet1=ABC,oms\n");
+  Speelt("typ SetNaam abc\ntoets SetNaam Enter\ntoon\ndruk BackButton",
+         R"(! uitroep "Deze bestandenset bestaat al"
+            : NieuweSet "Nieuwe Bestandenset"
+            = SetNaam "ABC"
+            = SetOmsch ""
+            = OKButton "&OK"
+            = BackButton "&Terug"
+            * SetNaam
+            - NieuweSet
+            = Statusbalk "Actieve bestandenset: ABC,oms")");
+}
+
 TEST_F(NieuweSetVenster, EenNaamUitDeLijstKomtErNietTweemaalInEnHoudtHaarBestanden) {
   MaakSet("ABC");
   Schrijf("DATA/ABC/ABC.RLT", "oude inhoud");
