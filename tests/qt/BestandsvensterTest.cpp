@@ -22,7 +22,7 @@ class BestandsvensterTest : public Vensterproef {
   VensterInstellingen instellingen_{PadVanQt(map_.path())};
 
   void SetUp() override {
-    Wacht(false);
+    beantwoordtBestanden = false;
     for (const char* naam : {"oranje.ged", "GROOT.GED", "tekst.txt"}) {
       QFile bestand(map_.filePath(QLatin1String(naam)));
       ASSERT_TRUE(bestand.open(QIODevice::WriteOnly));
@@ -83,7 +83,6 @@ TEST_F(BestandsvensterTest, SavingAddsTheExtensionOfTheFilter) {
 }
 
 TEST_F(BestandsvensterTest, SavingOverAFileAsksFirst) {
-  Wacht(true);
   Antwoord({"Ja"});
   EXPECT_EQ(Vraag(BestandsWijze::Opslaan, [](QFileDialog& v) { Kies(v, "oranje.ged"); }),
             Pad("oranje.ged"));
@@ -91,7 +90,6 @@ TEST_F(BestandsvensterTest, SavingOverAFileAsksFirst) {
 }
 
 TEST_F(BestandsvensterTest, NoToWritingOverAsksForAnotherFile) {
-  Wacht(true);
   Antwoord({"Nee"});
   bijBox = [](QMessageBox&) {
     QTimer::singleShot(50, qApp, [] {

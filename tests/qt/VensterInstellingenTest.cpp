@@ -55,7 +55,7 @@ TEST_F(VenstermaatTest, FormComesBackInTheSizeThatItWasGiven) {
     Proefvorm vorm(metMap);
     vorm.bijActief = [&] {
       if (keer == 0) {
-        gekregen = Bovenste().size() + QSize(37, 21);
+        gekregen = Bovenste().size() + QSize(37, 0);
         Bovenste().resize(gekregen);
       } else {
         EXPECT_EQ(Bovenste().size(), gekregen);
@@ -64,6 +64,19 @@ TEST_F(VenstermaatTest, FormComesBackInTheSizeThatItWasGiven) {
     };
     metMap.ToonModaal(vorm);
   }
+}
+
+TEST_F(VenstermaatTest, SizeOfALargerScreenIsCutToThisOne) {
+  const QTemporaryDir map;
+  VensterInstellingen(PadVanQt(map.path())).BewaarMaat("Proefvorm", {5000, 4000});
+  QtGesprek metMap(PadVanQt(map.path()));
+  Proefvorm vorm(metMap);
+  vorm.bijActief = [&] {
+    EXPECT_LE(Bovenste().width(), 1024);
+    EXPECT_LE(Bovenste().height(), 768);
+    vorm.Sluit();
+  };
+  metMap.ToonModaal(vorm);
 }
 
 }  // namespace

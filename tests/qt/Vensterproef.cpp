@@ -76,7 +76,7 @@ void Vensterproef::KijkRond() {
   auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
   if (box && box->isVisible()) return Beantwoord(*box);
   auto* vraag = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-  if (vraag && vraag->isVisible()) Beantwoord(*vraag);
+  if (vraag && vraag->isVisible() && beantwoordtBestanden) Beantwoord(*vraag);
 }
 
 void Vensterproef::Beantwoord(QFileDialog& vraag) {

@@ -51,6 +51,7 @@ class Vensterproef : public testing::Test {
   /// Answers boxes by itself; off for a test that does so by hand.
   void Wacht(bool aan);
 
+  bool beantwoordtBestanden = true;  // off for a test that answers file questions by hand
   QtGesprek gesprek;
   std::function<void(QMessageBox&)> bijBox;  // sees each box before its answer
   std::vector<std::string> boxen;            // the texts of the boxes that appeared, UTF-8

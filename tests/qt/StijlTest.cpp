@@ -1,0 +1,79 @@
+// Letters and words.
+#include <gtest/gtest.h>
+
+#include <QDialogButtonBox>
+#include <QFontInfo>
+#include <QLineEdit>
+#include <QMenu>
+#include <QStyle>
+
+#include "qt/Stijl.h"
+#include "qt/Vertaling.h"
+#include "qt/Woorden.h"
+#include "text/Letterlijk.h"
+
+namespace lb77 {
+namespace {
+
+TEST(Stijl, LettersAreLargeEnoughForOlderEyes) {
+  EXPECT_GE(QApplication::font().pointSizeF(), 11.0);
+}
+
+TEST(Stijl, FixedPitchLetterIsThereWhateverTheSystemHas) {
+  EXPECT_TRUE(QFontInfo(VasteLetter(11)).fixedPitch());
+  EXPECT_DOUBLE_EQ(VasteLetter(13).pointSizeF(), 13.0);
+}
+
+TEST(Stijl, ButtonsOfBoxesStandInTheSameOrderEverywhere) {
+  EXPECT_EQ(QApplication::style()->styleHint(QStyle::SH_DialogButtonLayout),
+            QDialogButtonBox::WinLayout);
+}
+
+TEST(Stijl, ReadOnlyFieldLiesInTheColourOfItsWindow) {
+  QLineEdit veld;
+  const QColor wit = veld.palette().color(QPalette::Base);
+  ToonAlleenLezen(veld, true);
+  EXPECT_EQ(veld.palette().color(QPalette::Base), veld.palette().color(QPalette::Window));
+  ToonAlleenLezen(veld, false);
+  EXPECT_EQ(veld.palette().color(QPalette::Base), wit);
+}
+
+TEST(Woorden, ContextMenuOfAFieldIsDutch) {
+  QLineEdit veld;
+  const std::unique_ptr<QMenu> menu(veld.createStandardContextMenu());
+  QStringList teksten;
+  for (const QAction* actie : menu->actions()) teksten += actie->text().section(u'\t', 0, 0);
+  for (const char* woord : {"&Ongedaan maken", "Op&nieuw", "K&nippen", "&Kopiëren", "&Plakken",
+                            "Verwijderen", "Alles selecteren"}) {
+    EXPECT_TRUE(teksten.contains(QString::fromUtf8(woord))) << woord;
+  }
+}
+
+TEST(Woorden, UnknownTextStaysAsItIs) {
+  EXPECT_TRUE(Woorden().translate("QX", "Something else", nullptr, -1).isNull());
+  EXPECT_EQ(QApplication::translate("QX", "Something else"), QString("Something else"));
+}
+
+TEST(Vertaling, EveryByteComesBackAsItself) {
+  std::string alle;
+  for (int i = 1; i < 256; ++i) alle += static_cast<char>(i);
+  const Overgezet terug = VanQt(NaarQt(alle));
+  EXPECT_EQ(terug.tekst, alle);
+  EXPECT_FALSE(terug.geweigerd);
+}
+
+TEST(Vertaling, AccentsBehindTheirLetterAreJoinedToIt) {
+  EXPECT_EQ(VanQt(QString::fromUtf8("e\u0308")).tekst, "ë"_w);
+}
+
+TEST(Vertaling, PathsComeBackAsThemselves) {
+  const std::filesystem::path pad(u8"/tmp/Łódź/漢");
+  EXPECT_EQ(PadVanQt(PadNaarQt(pad)), pad);
+}
+
+TEST(Vertaling, PathWithABadNameIsShownAllTheSame) {
+  EXPECT_FALSE(PadNaarQt(std::filesystem::path("/tmp/\xFF\xFE")).isEmpty());
+}
+
+}  // namespace
+}  // namespace lb77
