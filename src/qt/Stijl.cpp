@@ -29,6 +29,20 @@ class Huisstijl final : public QProxyStyle {
   }
 };
 
+// What is disabled must still be read: half-way between the letters and their ground is too faint.
+void MaakLeesbaar(QApplication& programma) {
+  QPalette kleuren = QApplication::palette();
+  const QColor inkt = kleuren.color(QPalette::Active, QPalette::WindowText);
+  const QColor grond = kleuren.color(QPalette::Active, QPalette::Window);
+  const auto meng = [](int een, int ander) { return (een * 6 + ander * 4) / 10; };
+  const QColor grijs(meng(inkt.red(), grond.red()), meng(inkt.green(), grond.green()),
+                     meng(inkt.blue(), grond.blue()));
+  for (const auto rol : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    kleuren.setColor(QPalette::Disabled, rol, grijs);
+  }
+  programma.setPalette(kleuren);
+}
+
 }  // namespace
 
 void ZetStijl(QApplication& programma) {
@@ -36,6 +50,7 @@ void ZetStijl(QApplication& programma) {
   QFont letter = QApplication::font();
   letter.setPointSizeF(std::max(letter.pointSizeF(), kKleinsteLetter));
   QApplication::setFont(letter);
+  MaakLeesbaar(programma);
   auto* woorden = new Woorden(&programma);
   QApplication::installTranslator(woorden);
 }

@@ -6,6 +6,8 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QStyle>
+#include <cstdlib>
+#include <memory>
 
 #include "qt/Stijl.h"
 #include "qt/Vertaling.h"
@@ -22,6 +24,13 @@ TEST(Stijl, LettersAreLargeEnoughForOlderEyes) {
 TEST(Stijl, FixedPitchLetterIsThereWhateverTheSystemHas) {
   EXPECT_TRUE(QFontInfo(VasteLetter(11)).fixedPitch());
   EXPECT_DOUBLE_EQ(VasteLetter(13).pointSizeF(), 13.0);
+}
+
+TEST(Stijl, DisabledTextCanStillBeRead) {
+  const QPalette kleuren = QApplication::palette();
+  const int grond = kleuren.color(QPalette::Window).lightness();
+  const int grijs = kleuren.color(QPalette::Disabled, QPalette::WindowText).lightness();
+  EXPECT_GE(std::abs(grond - grijs), 100);
 }
 
 TEST(Stijl, ButtonsOfBoxesStandInTheSameOrderEverywhere) {
