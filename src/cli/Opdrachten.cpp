@@ -16,6 +16,8 @@
 namespace lb77 {
 namespace {
 
+constexpr std::size_t kSetNaam = 8;
+
 // One session without a screen. `inMenu` is what the user does in the main window.
 class Sessie {
  public:
@@ -75,6 +77,17 @@ void GeefUit(const Omgeving& omgeving, Bediener& bediener, const std::filesystem
   }
 }
 
+// The records of a file that are no continuation of another.
+template <class Klasse>
+int Aantal(Klasse& klasse) {
+  int aantal = 0;
+  const std::int16_t laatste = klasse.AantalRecords();
+  for (int nr = 2; nr <= laatste; ++nr) {
+    if (klasse.Lees(static_cast<std::int16_t>(nr)) && !klasse.IsVolgRecord()) ++aantal;
+  }
+  return aantal;
+}
+
 int Sets(const Omgeving& omgeving, const OpdrachtArgumenten&) {
   Sessie sessie(omgeving);
   return sessie.Voer([&](Werk& menu) {
@@ -84,8 +97,8 @@ int Sets(const Omgeving& omgeving, const OpdrachtArgumenten&) {
       const std::string naam = hoofd.Ini.bestandenset(i);
       omgeving.uit << WindowsNaarUtf8(Links(naam, 8)) << "  ";
       if (sessie.OpenSet(menu, naam)) {
-        omgeving.uit << GetalTekst(hoofd.Persoon.AantalInAdmin()) << " personen, "
-                     << GetalTekst(hoofd.Relatie.AantalInAdmin()) << " relaties";
+        omgeving.uit << GetalTekst(Aantal(hoofd.Persoon)) << " personen, "
+                     << GetalTekst(Aantal(hoofd.Relatie)) << " relaties";
       } else {
         omgeving.uit << "niet te openen";
       }
@@ -99,6 +112,10 @@ int Sets(const Omgeving& omgeving, const OpdrachtArgumenten&) {
 int Nieuw(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
   Sessie sessie(omgeving);
   bool gemaakt = false;
+  if (argumenten.woorden[0].size() > kSetNaam) {
+    sessie.bediener.Mislukt("De naam van een bestandenset heeft hoogstens 8 tekens");
+    return sessie.bediener.Status();
+  }
   sessie.bediener.Bij("NieuweSet", [&](Formulier& form) {
     Werk werk(sessie.bediener, form);
     werk.Zet("SetNaam", argumenten.woorden[0]);

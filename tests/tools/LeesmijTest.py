@@ -27,8 +27,8 @@ class Leesmij(unittest.TestCase):
         (self.map / "proef" / "lb77-cli").symlink_to(PROGRAMMA)
         (self.map / "voorbeeld").symlink_to(WORTEL / "voorbeeld")
         shutil.copy(WORTEL / "voorbeeld" / "LIJNBOOM.INI", self.map / "proef")
-        for regel in ('nieuw VOORBEELD "Huis Oranje-Nassau"',
-                      "importeer VOORBEELD voorbeeld/oranje-nassau.ged"):
+        for regel in ('nieuw ORANJE "Huis Oranje-Nassau"',
+                      "importeer ORANJE voorbeeld/oranje-nassau.ged"):
             self.speel("proef/lb77-cli --map proef " + regel)
 
     def speel(self, regel):
@@ -44,10 +44,10 @@ class Leesmij(unittest.TestCase):
                 self.speel(regel)
 
     def test_de_lijst_van_sets_noemt_de_voorbeeldfamilie(self):
-        self.assertIn("VOORBEELD", self.speel("proef/lb77-cli --map proef sets"))
+        self.assertIn("ORANJE", self.speel("proef/lb77-cli --map proef sets"))
 
     def test_de_kwartierstaat_van_het_voorbeeld_heeft_generaties(self):
-        uit = self.speel("proef/lb77-cli --map proef kwartierstaat VOORBEELD 2")
+        uit = self.speel("proef/lb77-cli --map proef kwartierstaat ORANJE 2")
         self.assertIn("Generatie I", uit)
         self.assertIn("Generatie II", uit)
 

@@ -1,0 +1,168 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <sstream>
+
+#include "cli/Opdrachten.h"
+#include "steun/TijdelijkeMap.h"
+
+namespace lb77 {
+namespace {
+
+constexpr std::string_view kGedcom =
+    "0 HEAD\n1 CHAR ANSEL\n0 @I1@ INDI\n1 NAME Jan /van Dam/\n1 SEX M\n1 BIRT\n2 DATE 1 FEB 1900\n"
+    "2 PLAC K\xE8oln\n1 FAMC @F1@\n0 @I2@ INDI\n1 NAME Piet /van Dam/\n1 SEX M\n1 FAMS @F1@\n"
+    "0 @F1@ FAM\n1 HUSB @I2@\n1 CHIL @I1@\n1 XYZ iets\n0 TRLR\n";
+
+class OpdrachtenToets : public ::testing::Test {
+ protected:
+  // Runs a command; its output lies in uit_ and fout_ then.
+  int Doe(std::string_view naam, OpdrachtArgumenten argumenten) {
+    argumenten.woorden.resize(2);
+    std::ostringstream uit;
+    std::ostringstream fout;
+    const Omgeving omgeving{map_.Pad(), klok_, uit, fout};
+    const auto& alle = Opdrachten();
+    const auto opdracht = std::find_if(alle.begin(), alle.end(),
+                                       [naam](const Opdracht& o) { return o.naam == naam; });
+    if (opdracht == alle.end()) {
+      ADD_FAILURE() << "no command " << naam;
+      return -1;
+    }
+    const int status = opdracht->doe(omgeving, argumenten);
+    uit_ = uit.str();
+    fout_ = fout.str();
+    return status;
+  }
+  int Doe(std::string_view naam, std::vector<std::string> woorden) {
+    OpdrachtArgumenten argumenten;
+    argumenten.woorden = std::move(woorden);
+    return Doe(naam, std::move(argumenten));
+  }
+  void MaakFamilie() {
+    SchrijfBytes(map_ / "familie.ged", kGedcom);
+    ASSERT_EQ(Doe("nieuw", {"familie", "Mijn familie"}), 0) << fout_;
+    OpdrachtArgumenten argumenten;
+    argumenten.woorden = {"FAMILIE"};
+    argumenten.bestand = map_ / "familie.ged";
+    ASSERT_EQ(Doe("importeer", argumenten), 0) << fout_;
+  }
+
+  TijdelijkeMap map_;
+  VasteKlok klok_{{2026, 11, 21, 12, 0, 0}};
+  std::string uit_;
+  std::string fout_;
+};
+
+TEST_F(OpdrachtenToets, ANewSetIsListed) {
+  EXPECT_EQ(Doe("nieuw", {"familie", "Mijn familie"}), 0);
+  EXPECT_NE(fout_.find("Druk op OK om een nieuw IniBestand te maken"), std::string::npos);
+  EXPECT_NE(fout_.find("-> OK"), std::string::npos);
+  EXPECT_EQ(Doe("sets", OpdrachtArgumenten{}), 0);
+  EXPECT_EQ(uit_, "FAMILIE   0 personen, 0 relaties  Mijn familie\n");
+}
+
+TEST_F(OpdrachtenToets, ASetThatExistsIsNotMadeAgain) {
+  ASSERT_EQ(Doe("nieuw", {"familie"}), 0);
+  EXPECT_EQ(Doe("nieuw", {"Familie"}), 1);
+  EXPECT_NE(fout_.find("Deze bestandenset bestaat al"), std::string::npos);
+  EXPECT_NE(fout_.find("De bestandenset is niet gemaakt"), std::string::npos);
+}
+
+TEST_F(OpdrachtenToets, ATooLongNameIsRefusedNotCut) {
+  EXPECT_EQ(Doe("nieuw", {"familieboom"}), 1);
+  EXPECT_NE(fout_.find("hoogstens 8 tekens"), std::string::npos);
+}
+
+TEST_F(OpdrachtenToets, ImportPrintsTheLog) {
+  MaakFamilie();
+  EXPECT_EQ(uit_, "R-F1 - Onbekende tag: FAM-XYZ : iets\nImporteren voltooid\n");
+  EXPECT_EQ(fout_, "Importeren voltooid\n");
+  EXPECT_EQ(Doe("sets", OpdrachtArgumenten{}), 0);
+  EXPECT_EQ(uit_, "FAMILIE   2 personen, 1 relaties  Mijn familie\n");
+}
+
+TEST_F(OpdrachtenToets, AMissingFileIsTold) {
+  MaakFamilie();
+  OpdrachtArgumenten argumenten;
+  argumenten.woorden = {"familie"};
+  argumenten.bestand = map_ / "weg.ged";
+  Doe("importeer", argumenten);
+  EXPECT_NE(fout_.find("Bestand niet gevonden"), std::string::npos);
+}
+
+TEST_F(OpdrachtenToets, TheReportIsPrintedInUtf8WithPlainLineEnds) {
+  MaakFamilie();
+  EXPECT_EQ(Doe("kwartierstaat", {"familie", "2"}), 0) << fout_;
+  EXPECT_EQ(uit_,
+            "Generatie I\n\n     1  Jan van Dam, geb. K\xC3\xB6ln 1-2-1900.\n\n\nGeneratie II\n\n"
+            "     2  Piet van Dam.\n\n\n          Copyright (2026)\n"
+            "          Gemaakt met LB77 voor Windows\n\n");
+}
+
+TEST_F(OpdrachtenToets, AFileGetsTheProgramsOwnBytes) {
+  MaakFamilie();
+  OpdrachtArgumenten argumenten;
+  argumenten.woorden = {"familie", "2"};
+  argumenten.naar = map_ / "uit.txt";
+  EXPECT_EQ(Doe("kwartierstaat", argumenten), 0) << fout_;
+  EXPECT_EQ(uit_, "");
+  EXPECT_NE(LeesBytes(map_ / "uit.txt").find("geb. K\xF6ln 1-2-1900.\r\n"), std::string::npos);
+}
+
+TEST_F(OpdrachtenToets, AReportInHTMLPassesTheLinkDialog) {
+  MaakFamilie();
+  OpdrachtArgumenten argumenten;
+  argumenten.woorden = {"familie", "2"};
+  argumenten.html = true;
+  EXPECT_EQ(Doe("kwartierstaat", argumenten), 0) << fout_;
+  EXPECT_EQ(uit_.rfind("<HTML>\n", 0), 0U);
+  EXPECT_NE(uit_.find("geb. K&ouml;ln"), std::string::npos);
+}
+
+TEST_F(OpdrachtenToets, ZetSetsFieldsAndChoicesOfTheParameterDialog) {
+  MaakFamilie();
+  OpdrachtArgumenten argumenten;
+  argumenten.woorden = {"familie", "2"};
+  argumenten.zet = {"KwNrProband=5", "VanafKwartier=5", "CopyrightBox=Nee", "OokNrsBox=Ja"};
+  EXPECT_EQ(Doe("kwartierstaat", argumenten), 0) << fout_;
+  EXPECT_EQ(uit_.rfind("Generatie III\n\n     5  Jan van Dam [2], ", 0), 0U);
+  EXPECT_EQ(uit_.find("Copyright"), std::string::npos);
+}
+
+TEST_F(OpdrachtenToets, AWrongZetEndsWithoutAReport) {
+  MaakFamilie();
+  OpdrachtArgumenten argumenten;
+  argumenten.woorden = {"familie", "2"};
+  for (const std::string zet : {"Onbekend=1", "MaxGen=99", "OokNrsBox=Misschien"}) {
+    argumenten.zet = {zet};
+    EXPECT_EQ(Doe("kwartierstaat", argumenten), 1) << zet;
+    EXPECT_EQ(uit_, "") << zet;
+    EXPECT_NE(fout_.find("KwstTxtParam." + zet.substr(0, zet.find('='))), std::string::npos);
+  }
+}
+
+TEST_F(OpdrachtenToets, APersonWhoIsNotThereGivesNoReport) {
+  MaakFamilie();
+  EXPECT_EQ(Doe("kwartierstaat", {"familie", "77"}), 1);
+  EXPECT_NE(fout_.find("Er is geen verslag gemaakt"), std::string::npos);
+}
+
+TEST_F(OpdrachtenToets, AnUnknownSetIsTold) {
+  MaakFamilie();
+  EXPECT_EQ(Doe("kwartierstaat", {"weg", "2"}), 1);
+  EXPECT_NE(fout_.find("Bestandenset WEG staat niet in de lijst"), std::string::npos);
+}
+
+TEST_F(OpdrachtenToets, SearchesAPartOfANameInAnyCase) {
+  MaakFamilie();
+  EXPECT_EQ(Doe("zoek", {"familie", "DAM"}), 0);
+  EXPECT_EQ(uit_, "     2  1900-      Jan van Dam\n     3      -      Piet van Dam\n");
+  EXPECT_EQ(Doe("zoek", {"familie", "iet"}), 0);
+  EXPECT_EQ(uit_, "     3      -      Piet van Dam\n");
+  EXPECT_EQ(Doe("zoek", {"familie", "xyz"}), 0);
+  EXPECT_EQ(uit_, "");
+}
+
+}  // namespace
+}  // namespace lb77

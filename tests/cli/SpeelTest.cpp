@@ -1,0 +1,60 @@
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "cli/Opdrachten.h"
+#include "steun/TijdelijkeMap.h"
+
+namespace lb77 {
+namespace {
+
+class SpeelDraaiboekToets : public ::testing::Test {
+ protected:
+  int Speel(std::string_view draaiboek) {
+    std::ostringstream uit;
+    std::ostringstream fout;
+    const int status = SpeelDraaiboek({map_.Pad(), klok_, uit, fout}, draaiboek, map_.Pad());
+    uit_ = uit.str();
+    fout_ = fout.str();
+    return status;
+  }
+
+  TijdelijkeMap map_;
+  VasteKlok klok_{{2026, 11, 21, 12, 0, 0}};
+  std::string uit_;
+  std::string fout_;
+};
+
+TEST_F(SpeelDraaiboekToets, PrintsTheTranscript) {
+  EXPECT_EQ(Speel("antwoord OK\nkies AboutLB77\ndruk OKButton\nkies KeuzeAfsluiten\n"), 0);
+  EXPECT_NE(
+      uit_.find("\n+ OverLB77Form \"Over LB77 voor Windows\"\n- OverLB77Form\n- MenuWindow\n"),
+      std::string::npos);
+  EXPECT_EQ(fout_, "");
+}
+
+TEST_F(SpeelDraaiboekToets, AScriptThatCannotBePlayedEndsWithOneAndItsLine) {
+  EXPECT_EQ(Speel("antwoord OK\ndruk Onbekend\n"), 1);
+  EXPECT_NE(uit_.find("+ MenuWindow"), std::string::npos);
+  EXPECT_NE(fout_.find("regel 2"), std::string::npos);
+}
+
+TEST_F(SpeelDraaiboekToets, AnUnknownInstructionIsToldBeforeAnythingStarts) {
+  EXPECT_EQ(Speel("dans\n"), 1);
+  EXPECT_EQ(uit_, "");
+  EXPECT_NE(fout_.find("regel 1"), std::string::npos);
+}
+
+TEST_F(SpeelDraaiboekToets, WhatWasNotUsedIsTold) {
+  EXPECT_EQ(Speel("antwoord OK Ja\ntoon Statusbalk\n"), 0);
+  EXPECT_NE(fout_.find("Ja"), std::string::npos);
+}
+
+TEST_F(SpeelDraaiboekToets, ANoSettingsFileAnsweredWithCancelEndsTheProgram) {
+  EXPECT_EQ(Speel("antwoord Annuleren\n"), 0);
+  EXPECT_EQ(uit_.find("+ MenuWindow"), std::string::npos);
+  EXPECT_FALSE(std::filesystem::exists(map_ / "LIJNBOOM.INI"));
+}
+
+}  // namespace
+}  // namespace lb77

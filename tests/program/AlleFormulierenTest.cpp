@@ -1,0 +1,111 @@
+// What holds for every form of the list.
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "forms/Bijschrift.h"
+#include "program/AlleFormulieren.h"
+#include "program/ProgrammaToets.h"
+#include "script/Verslag.h"
+#include "steun/Gouden.h"
+
+namespace lb77 {
+
+// For the messages of a failing test.
+static void PrintTo(const FormulierRij& rij, std::ostream* uit) { *uit << rij.naam; }
+
+namespace {
+
+class ElkFormulier : public ProgrammaToets, public ::testing::WithParamInterface<FormulierRij> {
+ protected:
+  // What is done with a loaded form; `bestand` answers the question of a form that asks for one.
+  void MetForm(const std::function<void(Formulier&)>& doe) {
+    MaakFamilie();
+    SchrijfBytes(Map() / "tekst.txt", "Regel\r\n");
+    basismap_ = Map();
+    const bool vraagt = GetParam().naam == "BekijkTekst";
+    const SpeelUitslag uitslag =
+        Speel(vraagt ? "bestand tekst.txt" : "", Met([&doe](lb77::Programma& programma) {
+                const GemaaktFormulier gemaakt = GetParam().maak(programma);
+                ASSERT_EQ(gemaakt.formulier->Naam(), GetParam().naam);
+                ASSERT_TRUE(gemaakt.formulier->Laad());
+                doe(*gemaakt.formulier);
+              }));
+    EXPECT_EQ(uitslag.status, 0) << uitslag.reden;
+  }
+};
+
+TEST_P(ElkFormulier, ShowsItsControlsAsExpected) {
+  MetForm([](Formulier& formulier) {
+    std::string toon;
+    for (const std::string& regel : FormulierRegels(formulier)) toon += regel + "\n";
+    VerwachtGouden("toon/" + formulier.Naam() + ".txt", toon);
+  });
+}
+
+TEST_P(ElkFormulier, HasUniqueControlNames) {
+  MetForm([](Formulier& formulier) {
+    std::set<std::string> namen;
+    for (const Bediening* bediening : formulier.Bedieningen()) {
+      EXPECT_TRUE(namen.insert(bediening->Naam()).second) << bediening->Naam();
+    }
+  });
+}
+
+TEST_P(ElkFormulier, HasUniqueAccelerators) {
+  MetForm([](Formulier& formulier) {
+    std::set<char> letters;
+    for (const Bediening* bediening : formulier.Bedieningen()) {
+      const char letter = Sneltoets(bediening->Bijschrift());
+      if (letter != 0 && bediening->Zichtbaar()) {
+        EXPECT_TRUE(letters.insert(letter).second) << bediening->Naam();
+      }
+    }
+  });
+}
+
+TEST_P(ElkFormulier, HasNoButtonWithoutAnAction) {
+  MetForm([](Formulier& formulier) {
+    for (const Bediening* bediening : formulier.Bedieningen()) {
+      if (bediening->Soort() == BedieningSoort::Knop) {
+        EXPECT_TRUE(bediening->HeeftKlik()) << bediening->Naam();
+      }
+    }
+  });
+}
+
+TEST_P(ElkFormulier, TabGoesRoundAllThatCanTakeTheFocus) {
+  MetForm([](Formulier& formulier) {
+    std::set<const Bediening*> bereikbaar;
+    for (const Bediening* bediening : formulier.Bedieningen()) {
+      if (bediening->Bruikbaar() && bediening->KanFocus()) bereikbaar.insert(bediening);
+    }
+    std::set<const Bediening*> bereikt;
+    const Bediening* plek = nullptr;
+    for (std::size_t i = 0; i <= bereikbaar.size(); ++i) {
+      plek = formulier.Buur(plek, 1);
+      if (plek) bereikt.insert(plek);
+    }
+    EXPECT_EQ(bereikt, bereikbaar);
+  });
+}
+
+TEST_P(ElkFormulier, ClosesByEscape) {
+  MetForm([](Formulier& formulier) {
+    ToetsGebeurtenis escape;
+    escape.code = toets::kEscape;
+    formulier.Toets(nullptr, escape);
+    EXPECT_TRUE(formulier.Gesloten());
+  });
+}
+
+INSTANTIATE_TEST_SUITE_P(Lijst, ElkFormulier, ::testing::ValuesIn(AlleFormulieren()),
+                         [](const auto& info) { return std::string(info.param.naam); });
+
+TEST(AlleFormulieren, NamesEachFormOnce) {
+  std::set<std::string_view> namen;
+  for (const FormulierRij& rij : AlleFormulieren()) EXPECT_TRUE(namen.insert(rij.naam).second);
+}
+
+}  // namespace
+}  // namespace lb77

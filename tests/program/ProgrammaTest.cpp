@@ -1,0 +1,125 @@
+#include <gtest/gtest.h>
+
+#include "program/Programma.h"
+#include "program/ProgrammaToets.h"
+
+namespace lb77 {
+namespace {
+
+constexpr std::string_view kGedcom =
+    "0 HEAD\n1 CHAR ANSEL\n0 @I1@ INDI\n1 NAME Jan /van Dam/\n1 SEX M\n1 BIRT\n2 DATE 1 FEB 1900\n"
+    "2 PLAC Delft\n1 FAMC @F1@\n0 @I2@ INDI\n1 NAME Piet /van Dam/\n1 SEX M\n1 FAMS @F1@\n"
+    "0 @F1@ FAM\n1 HUSB @I2@\n1 CHIL @I1@\n0 TRLR\n";
+
+class Programmaloop : public ProgrammaToets {};
+
+TEST_F(Programmaloop, GoesTheWholeRoadFromAnEmptyDirectoryToAReport) {
+  SchrijfBytes(Map() / "familie.ged", kGedcom);
+  basismap_ = Map();
+  const std::string pad = (Map() / "LIJNBOOM.INI").string();
+  Verwacht(R"(
+      antwoord OK
+      kies MaakSet
+      vul SetNaam familie
+      vul SetOmsch Mijn familie
+      druk OKButton
+      kies ImportGedcom
+      bestand familie.ged
+      druk BrowseButton
+      druk OKButton
+      druk BackButton
+      toon AantalPersonen
+      toon Pass3box
+      druk BackButton
+      kies TekstKwst
+      vul RecordNr 2
+      druk OKButton
+      stel CopyrightBox Nee
+      druk OKButton
+      toon UitvoerBox
+      druk BackButton
+      toon Statusbalk
+      kies KeuzeAfsluiten
+    )",
+           Sessie(), R"~(
+      ? uitroep OK/Annuleren "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\nBestand niet gevonden\n\nDruk op OK om een nieuw IniBestand te maken\nDruk op CANCEL om te stoppen" -> OK
+      + MenuWindow "LB77 voor Windows"
+      + NieuweSet "Nieuwe Bestandenset"
+      - NieuweSet
+      + ImpGedcom "Importeer Gegevens - Gedcom"
+      > openen "GEDCOM-bestanden (*.GED)|*.GED|Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt" -> "familie.ged"
+      ! info "Importeren voltooid"
+      + ToonTekst "Importeren - Resultaat"
+      - ToonTekst
+      = AantalPersonen "2"
+      = Pass3box aan [uit]
+      - ImpGedcom
+      + KwstTxtPrs "Nummer Proband"
+      + KwstTxtParam "Kwartierstaat Uitvoeropties"
+      - KwstTxtParam
+      + KwstBereken "Opbouwen Kwartierstaat"
+      - KwstBereken
+      + KwstMaakTemp "Kwartierstaat Schrijven"
+      - KwstMaakTemp
+      + ToonTekst "Kwartierstaat in Tekstvorm"
+      = UitvoerBox "Generatie I\n\n     1  Jan van Dam, geb. Delft 1-2-1900.\n\n\nGeneratie II\n\n     2  Piet van Dam.\n\n\n          Gemaakt met LB77 voor Windows\n"
+      - ToonTekst
+      - KwstTxtPrs
+      = Statusbalk "Actieve bestandenset: FAMILIE,Mijn familie"
+      - MenuWindow
+    )~");
+}
+
+TEST_F(Programmaloop, EntriesOfWhatIsNotThereAreGrey) {
+  MaakFamilie();
+  Verwacht("toon InvPersRel\ntoon ImportDBase\ntoon TekstKwst\ntoon ExpVVF\n", Sessie(), R"(
+      + MenuWindow "LB77 voor Windows"
+      = InvPersRel "&Personen + Relaties" [uit]
+      = ImportDBase "&dBase" [uit]
+      = TekstKwst "&Kwartierstaat"
+      = ExpVVF "&VVFContact" [uit] [verborgen]
+    )");
+}
+
+TEST_F(Programmaloop, EveryEntryThatCanBeChosenShowsItsForm) {
+  MaakFamilie();
+  Verwacht(R"(
+      kies MaakSet
+      sluit
+      kies OpenSet
+      sluit
+      kies VerwijderSet
+      sluit
+      kies SetupGebruiker
+      sluit
+      kies ImportGedcom
+      sluit
+      bestand
+      kies ViewTekst
+      kies TekstKwst
+      sluit
+      kies AboutLB77
+      sluit
+    )",
+           Sessie(), R"~(
+      + MenuWindow "LB77 voor Windows"
+      + NieuweSet "Nieuwe Bestandenset"
+      - NieuweSet
+      + OpenSetForm "Open Bestandendset"
+      - OpenSetForm
+      + VerwijderSetForm "Verwijder Bestandendset"
+      - VerwijderSetForm
+      + IniGebruiker "Systeem Instellingen - Gebruikersgegevens"
+      - IniGebruiker
+      + ImpGedcom "Importeer Gegevens - Gedcom"
+      - ImpGedcom
+      > openen "Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt|GEDCOM-bestanden (*.GED)|*.GED" -> -
+      + KwstTxtPrs "Nummer Proband"
+      - KwstTxtPrs
+      + OverLB77Form "Over LB77 voor Windows"
+      - OverLB77Form
+    )~");
+}
+
+}  // namespace
+}  // namespace lb77
