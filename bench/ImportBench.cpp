@@ -1,0 +1,112 @@
+// The import of GEDCOM files of growing size, against a bare reading of the same file.
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cstdint>
+#include <ctime>
+#include <fstream>
+#include <limits>
+#include <string>
+
+#include "GedcomMaker.h"
+#include "KaalLezen.h"
+#include "Meetset.h"
+
+namespace lb77::bench {
+namespace {
+
+constexpr std::uint64_t kZaad = 77;
+constexpr double kHoogsteVerhouding = 15;
+constexpr double kHoogsteMiB = 64;
+constexpr int kGangen = 3;  // an import reads its file three times
+
+// What a task took: by the clock on the wall, and of the processor, which a busy machine leaves as
+// it is.
+struct Duur {
+  double wand = 0;
+  double rekentijd = 0;
+};
+
+template <class Taak>
+Duur Meet(const Taak& taak) {
+  const auto begin = std::chrono::steady_clock::now();
+  const std::clock_t beginRekentijd = std::clock();
+  taak();
+  const std::clock_t eindRekentijd = std::clock();
+  const std::chrono::duration<double> wand = std::chrono::steady_clock::now() - begin;
+  return {wand.count(), static_cast<double>(eindRekentijd - beginRekentijd) / CLOCKS_PER_SEC};
+}
+
+// The processor time of the bare reading three times: the best of some tries.
+double KaleTijd(const std::filesystem::path& pad) {
+  double beste = std::numeric_limits<double>::max();
+  for (int poging = 0; poging < 7; ++poging) {
+    const Duur duur = Meet([&pad] {
+      for (int gang = 0; gang < kGangen; ++gang) benchmark::DoNotOptimize(LeesKaal(pad));
+    });
+    beste = std::min(beste, duur.rekentijd);
+  }
+  return beste;
+}
+
+// The highest resident memory of this process in MiB; 0 where it cannot be told.
+double HoogsteGeheugen() {
+  std::ifstream status("/proc/self/status");
+  std::string woord;
+  while (status >> woord) {
+    double kiB = 0;
+    if (woord == "VmHWM:" && status >> kiB) return kiB / 1024;
+  }
+  return 0;
+}
+
+// From here on the highest is counted afresh.
+void WisHoogste() {
+  std::ofstream("/proc/self/clear_refs") << 5;
+}
+
+void BM_KaalLezen(benchmark::State& state) {
+  const TijdelijkeMap map;
+  const auto gedcom = map / "MEET.GED";
+  MaakGedcom(gedcom, static_cast<int>(state.range(0)), static_cast<int>(state.range(1)), kZaad);
+  for (auto _ : state) {
+    for (int gang = 0; gang < kGangen; ++gang) benchmark::DoNotOptimize(LeesKaal(gedcom));
+  }
+}
+
+void BM_Import(benchmark::State& state) {
+  const auto personen = static_cast<int>(state.range(0));
+  const TijdelijkeMap map;
+  const auto gedcom = map / "MEET.GED";
+  MaakGedcom(gedcom, personen, static_cast<int>(state.range(1)), kZaad);
+  const double kaal = KaleTijd(gedcom);
+  double beste = std::numeric_limits<double>::max();
+  WisHoogste();
+  for (auto _ : state) {
+    Meetset set;
+    const Duur duur = Meet([&] { set.Importeer(gedcom); });
+    state.SetIterationTime(duur.wand);
+    beste = std::min(beste, duur.rekentijd);
+  }
+  const double hoogste = HoogsteGeheugen();
+  state.SetComplexityN(personen);
+  state.counters["us_per_persoon"] = beste * 1e6 / personen;
+  state.counters["x_kaal"] = beste / kaal;
+  state.counters["MiB"] = hoogste;
+  if (beste > kHoogsteVerhouding * kaal) state.SkipWithError("meer dan 15 keer het kale lezen");
+  if (hoogste > kHoogsteMiB) state.SkipWithError("meer dan 64 MiB geheugen");
+}
+
+void Maten(benchmark::internal::Benchmark* proef) {
+  proef->Args({3000, 1200})->Args({10000, 4000})->Args({30000, 12000});
+  proef->Unit(benchmark::kMillisecond);
+}
+
+BENCHMARK(BM_KaalLezen)->Apply(Maten);
+BENCHMARK(BM_Import)->Apply(Maten)->UseManualTime()->Complexity(benchmark::oN);
+
+}  // namespace
+}  // namespace lb77::bench
+
+BENCHMARK_MAIN();
