@@ -57,7 +57,8 @@ void VerwijderSetForm::Verwijder() {
     return;
   }
   HaalUitLijst(index);
-  if (!DeleteJa.Gekozen()) return;
+  // Whoever ends the program over a list that could not be written keeps his files.
+  if (!DeleteJa.Gekozen() || hoofd_.Ini.EindeGevraagd()) return;
   if (IsSetNaam(naam)) {
     VerwijderSetVanSchijf(hoofd_.gesprek, hoofd_.Ini.DataDir(), naam);
   } else {

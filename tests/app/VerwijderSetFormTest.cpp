@@ -126,6 +126,25 @@ TEST_F(VerwijderSetVenster, EenSetDieUitDeLijstVerdwenenIsGeeftEenWaarschuwing) 
   EXPECT_TRUE(Bestaat("DATA/EEN/EEN.PRS"));
 }
 
+TEST_F(VerwijderSetVenster, WieHetProgrammaStoptHoudtZijnBestanden) {
+  ZetSets({"EEN"});
+  Verwacht("kies VerwijderSet\ndruk DeleteJa\nantwoord Annuleren\ndruk OKButton",
+           MetMenu([this](Hoofdmodule& hoofd, MenuWindow& menu) {
+             menu.Hang("VerwijderSet", [&] {
+               // from here on no new settings can be made
+               std::filesystem::create_directories(map_ / "LIJNBOOM.TMP");
+               Toont<VerwijderSetForm>(hoofd, menu)(hoofd.gesprek);
+             });
+             hoofd.gesprek.ToonModaal(menu);
+           }),
+           R"(+ MenuWindow "LB77 voor Windows"
+         + VerwijderSetForm "Verwijder Bestandendset"
+         ? uitroep OK/Annuleren "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\nPad is een directory" -> Annuleren
+         - VerwijderSetForm
+         - MenuWindow)");
+  EXPECT_TRUE(Bestaat("DATA/EEN/EEN.PRS"));
+}
+
 TEST_F(VerwijderSetVenster, EenNaamDieErgensAndersHeenWijstGaatAlleenUitDeLijst) {
   Schrijf("BUITEN/BUITEN.PRS", "x");
   ZetIni("[Sets]\nSet1=../BUITEN,x\n");
