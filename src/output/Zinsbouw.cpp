@@ -264,6 +264,7 @@ void Zinsbouw::Samen(const Huwelijk& huwelijk, unsigned samen) {
                 twee.plaatsNr, twee.dagMaand, twee.jaar},
                bronnen_.plaats, bronnen_.schrijfwijze.DatumScheider);
   uit_.Aan(MetKomma(zin));
+  // kept: a report tells the general remark here, and again on lines of its own
   uit_.Rubriek(kRubriekHeleRelatie);
 }
 
