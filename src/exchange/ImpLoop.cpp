@@ -4,6 +4,7 @@
 
 #include "exchange/GedGezindte.h"
 #include "exchange/GedPlaatsNaam.h"
+#include "store/PlaatsVraag.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"
 
@@ -12,6 +13,9 @@ namespace lb77 {
 namespace {
 
 constexpr std::int32_t kRegelsPerVerversing = 128;
+// What PlaatsLB77::Nr does with an unknown name: asks, to which nobody says yes, or adds it.
+constexpr std::int16_t kNietToevoegen = 0;
+constexpr std::int16_t kToevoegen = 1;
 
 }  // namespace
 
@@ -66,8 +70,15 @@ GedDatumUitslag ImpLoop::Datum(std::string_view waarde) {
 std::string ImpLoop::GedPlaats(std::string_view waarde) {
   const std::string tekst = GedTekst(Trim(waarde));
   const std::string_view naam = GedPlaatsNaam(tekst);
-  const std::int16_t nr = naam.empty() ? std::int16_t{0} : delen.plaats.NrOfNieuw(naam, "");
-  return nr > 0 ? GetalTekst(nr) : "0";
+  if (naam.empty()) return "0";
+  GeenPlaatsVraag niemand;
+  const std::int16_t nr =
+      delen.plaats.Nr(naam, 0, "", plaatsenVol_ ? kNietToevoegen : kToevoegen, niemand);
+  if (nr > 0) return GetalTekst(nr);
+  // A file that is full is told of by one box; after that the log alone names what is lost.
+  plaatsenVol_ = delen.plaats.AantalInAdmin() >= kMaxRecords - 1;
+  Log(" - Plaats niet opgeslagen: " + std::string(naam));
+  return "0";
 }
 
 std::string ImpLoop::GedPersNr(std::string_view verwijzing) const {

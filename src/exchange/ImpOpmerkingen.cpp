@@ -160,7 +160,10 @@ ImpUitslag ImpOpmerkingen::Schrijf(std::int16_t begin, std::int16_t persoon, std
   const bool gelukt =
       opmerking.SchrijfOpmerking(regels, {}, 0, persoon, relatie, begin, kBijProg, rubriek_);
   rubriek_ = 0;
-  return {.gestopt = !gelukt};
+  if (gelukt) return {};
+  // No later note would do better; where it stopped stands behind what the class has told.
+  return {.fout = persoon != 0 ? "Schrijffout bij Persoon " + GetalTekst(persoon)
+                               : "Schrijffout bij Relatie " + GetalTekst(relatie)};
 }
 
 }  // namespace lb77

@@ -1,0 +1,125 @@
+// Files that no number is left for: the run ends in order, and what was stored stays readable.
+#include <gtest/gtest.h>
+
+#include "exchange/ImportToets.h"
+#include "store/OpmVelden.h"
+#include "store/PersoonVelden.h"
+#include "store/PlaatsVelden.h"
+#include "store/RelatieVelden.h"
+#include "text/Getallen.h"
+
+namespace lb77 {
+namespace {
+
+constexpr std::string_view kMaximum = "! stop \"Het maximum van 32767 records is bereikt\"\n";
+
+class ImpMaximum : public ImportToets {
+ protected:
+  // Brings a file to `aantal` records by repeating its last one, which `eerste` made.
+  void Vul(std::string_view soort, std::size_t lengte, std::size_t telling, int aantal, int erbij) {
+    const auto pad = Map() / "PROEF" / ("PROEF." + std::string(soort));
+    std::string bytes = LeesBytes(pad);
+    const std::string laatste = bytes.substr(bytes.size() - lengte);
+    bytes.reserve(lengte * static_cast<std::size_t>(aantal));
+    while (bytes.size() < lengte * static_cast<std::size_t>(aantal)) bytes += laatste;
+    const int telwaarde = aantal + erbij;
+    bytes[telling] = static_cast<char>(telwaarde & 255);
+    bytes[telling + 1] = static_cast<char>(telwaarde >> 8);
+    SchrijfBytes(pad, bytes);
+  }
+};
+
+TEST_F(ImpMaximum, PersonsThatFitAreMadeAndTheRunEnds) {
+  Bouw().Man("Jan", "Jansen");
+  Vul("PRS", 128, persoonveld::GebPlaatsNr.plaats, 32766, -1);
+  ImporteerMet(Ged("0 @I1@ INDI\n1 NAME Piet //\n0 @I2@ INDI\n0 @I3@ INDI"), kMaximum, false);
+  EXPECT_EQ(Aantallen(), "32767 1 1 1");
+  EXPECT_EQ(Persoon(2), "voor Jan; achter Jansen; seks M");
+  EXPECT_EQ(Persoon(32766), "voor Jan; achter Jansen; seks M");
+  EXPECT_EQ(Persoon(32767), "");
+  EXPECT_EQ(Log(), "");
+}
+
+TEST_F(ImpMaximum, RelationsThatFitAreMadeAndTheRunEnds) {
+  Bouw().Relatie(0, 0);
+  Vul("RLT", 64, relatieveld::ManNr.plaats, 32766, -1);
+  ImporteerMet(Ged("0 @F1@ FAM\n0 @F2@ FAM\n0 @F3@ FAM"), kMaximum, false);
+  EXPECT_EQ(Aantallen(), "1 32767 1 1");
+}
+
+TEST_F(ImpMaximum, AFourthRelationWithoutARecordLeavesTheThreeInPlace) {
+  Bouw().Man("Jan", "Jansen");
+  Vul("PRS", 128, persoonveld::GebPlaatsNr.plaats, 32766, -1);
+  ImporteerMet(Ged(R"(
+      0 @I1@ INDI
+      1 NAME Piet //
+      1 FAMS @F1@
+      1 FAMS @F2@
+      1 FAMS @F3@
+      1 FAMS @F4@
+      0 @F1@ FAM
+      0 @F2@ FAM
+      0 @F3@ FAM
+      0 @F4@ FAM
+    )"),
+               kMaximum, false);
+  EXPECT_EQ(Persoon(32767), "voor Piet; rel1 2; rel2 3; rel3 4");
+}
+
+TEST_F(ImpMaximum, ASixteenthChildWithoutARecordLeavesTheFifteenInPlace) {
+  Bouw().Relatie(0, 0);
+  Vul("RLT", 64, relatieveld::ManNr.plaats, 32766, -1);
+  std::string regels = "0 @I1@ INDI\n0 @F1@ FAM\n";
+  for (int i = 0; i < 16; ++i) regels += "1 CHIL @I1@\n";
+  ImporteerMet(Ged(regels), kMaximum, false);
+  EXPECT_EQ(Relatie(32767), "kind 2 2 2 2 2 2 2 2 2 2 2 2 2 2 2");
+}
+
+TEST_F(ImpMaximum, PlacesThatAreFullAreToldOnceAndKnownOnesAreFound) {
+  Bouw().Plaats("Delft");
+  Vul("PLT", 27, plaatsveld::Prov.plaats, 32766, -1);
+  Importeer(Ged(R"(
+      0 @I1@ INDI
+      1 BIRT
+      2 PLAC Aa
+      1 DEAT
+      2 PLAC Bb
+      0 @I2@ INDI
+      1 BIRT
+      2 PLAC Cc
+      1 DEAT
+      2 PLAC Delft
+      1 BURI
+      2 PLAC aa
+    )"),
+            kMaximum);
+  EXPECT_EQ(LogRegels(), "P-I1 - Plaats niet opgeslagen: Bb\nP-I2 - Plaats niet opgeslagen: Cc\n");
+  EXPECT_EQ(Persoon(2), "te 32767");
+  EXPECT_EQ(Persoon(3), "te 2; te 32767");
+  EXPECT_EQ(Plaats(2), "Delft");
+}
+
+TEST_F(ImpMaximum, RemarksThatFitAreStoredAndTheRunEnds) {
+  Bouw().OpmerkingBijPersoon(Bouw().Man("Jan", "Jansen"), 4096, {"oud"});
+  Vul("OPM", 96, opmveld::Rubriek.plaats, 32766, 0);
+  InSessie([](Hoofdmodule& hoofd) {
+    ASSERT_TRUE(hoofd.Opmerking.LeesAdmin());
+    ASSERT_TRUE(hoofd.Opmerking.SchrijfAdm(32766, 32767, 32765));
+  });
+  Importeer(Ged(R"(
+      0 @I1@ INDI
+      1 NAME Piet //
+      1 NOTE een
+      1 NOTE twee
+      1 NOTE drie
+      0 @I2@ INDI
+      1 NOTE vier
+    )"),
+            std::string(kMaximum) + "! uitroep \"Schrijffout bij Persoon 3\"");
+  EXPECT_EQ(Persoon(3), "voor Piet; opm 4096");
+  EXPECT_EQ(OpmBijPersoon(3), "4096 een\n");
+  EXPECT_EQ(OpmBijPersoon(2), "4096 oud\n");
+}
+
+}  // namespace
+}  // namespace lb77
