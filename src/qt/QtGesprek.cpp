@@ -1,7 +1,6 @@
 #include "qt/QtGesprek.h"
 
 #include <algorithm>
-#include <ranges>
 
 #include "qt/Berichtvenster.h"
 #include "qt/Bestandsvenster.h"
@@ -25,10 +24,9 @@ Binder* QtGesprek::BinderVan(const Formulier& formulier) const {
 }
 
 QWidget* QtGesprek::Bovenste() const {
-  for (const auto& binder : std::views::reverse(stapel_)) {
-    if (binder->Venster().isVisible()) return &binder->Venster();
-  }
-  return nullptr;
+  const auto boven = std::find_if(stapel_.rbegin(), stapel_.rend(),
+                                  [](const auto& binder) { return binder->Venster().isVisible(); });
+  return boven == stapel_.rend() ? nullptr : &(*boven)->Venster();
 }
 
 template <class Doe>

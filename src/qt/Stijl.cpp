@@ -30,7 +30,7 @@ class Huisstijl final : public QProxyStyle {
 };
 
 // What is disabled must still be read: half-way between the letters and their ground is too faint.
-void MaakLeesbaar(QApplication& programma) {
+void MaakLeesbaar() {
   QPalette kleuren = QApplication::palette();
   const QColor inkt = kleuren.color(QPalette::Active, QPalette::WindowText);
   const QColor grond = kleuren.color(QPalette::Active, QPalette::Window);
@@ -40,7 +40,7 @@ void MaakLeesbaar(QApplication& programma) {
   for (const auto rol : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     kleuren.setColor(QPalette::Disabled, rol, grijs);
   }
-  programma.setPalette(kleuren);
+  QApplication::setPalette(kleuren);
 }
 
 }  // namespace
@@ -50,7 +50,7 @@ void ZetStijl(QApplication& programma) {
   QFont letter = QApplication::font();
   letter.setPointSizeF(std::max(letter.pointSizeF(), kKleinsteLetter));
   QApplication::setFont(letter);
-  MaakLeesbaar(programma);
+  MaakLeesbaar();
   auto* woorden = new Woorden(&programma);
   QApplication::installTranslator(woorden);
 }

@@ -20,6 +20,7 @@ class Leesvorm final : public Formulier {
   }
   void Zet(const std::string& tekst) {
     std::vector<std::string> regels;
+    regels.reserve(kBladRegels);
     for (int i = 0; i < kBladRegels; ++i) regels.push_back(tekst + static_cast<char>('a' + i % 26));
     UitvoerBox.ZetRegels(regels);
   }

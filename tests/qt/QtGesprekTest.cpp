@@ -70,7 +70,8 @@ TEST_F(QtGesprekTest, EachKindOfBoxHasItsSymbol) {
       {BerichtSoort::Stop, QMessageBox::Critical},
   };
   for (const auto& [soort, symbool] : soorten) {
-    SluitBox(soort, Knoppen::OK, [&](QMessageBox& box) { EXPECT_EQ(box.icon(), symbool); });
+    SluitBox(soort, Knoppen::OK,
+             [verwacht = symbool](QMessageBox& box) { EXPECT_EQ(box.icon(), verwacht); });
   }
 }
 

@@ -52,7 +52,7 @@ Vensterproef::~Vensterproef() {
 }
 
 void Vensterproef::Voer(Formulier& formulier, std::vector<std::function<void()>> stappen) {
-  stappen.insert(stappen.begin(), [this] {
+  stappen.insert(stappen.begin(), [] {
     static_cast<void>(QTest::qWaitFor([] { return QApplication::activeWindow(); }));
   });
   Stappen rij(std::move(stappen));
