@@ -26,7 +26,7 @@ void OKPersoon::BijLaden() {
 
 // Leaving without an answer is No.
 bool OKPersoon::MagSluiten() {
-  NeeKlik();
+  hoofd_.volgers.HuidigPersoonNr = 0;
   return true;
 }
 

@@ -37,8 +37,6 @@ ZoekPrs::ZoekPrs(Hoofdmodule& hoofd) : Formulier("ZoekPrs", "Zoek Persoon"), hoo
 }
 
 void ZoekPrs::BijLaden() {
-  filter_ = {};
-  FilterButton.ZetBijschrift(kStartFilter);
   LaadPagina();
 }
 

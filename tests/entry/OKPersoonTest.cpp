@@ -50,6 +50,12 @@ TEST_F(OKPersoonTest, NeeEnSluitenZonderAntwoordLatenNiemandOver) {
   EXPECT_EQ(na_, 0);
 }
 
+TEST_F(OKPersoonTest, InDeSamenvattingValtNietTeTypen) {
+  Stil([](Hoofdmodule& hoofd) {
+    EXPECT_TRUE(OKPersoon(hoofd, "Jan", "Vos").InfoTekst.AlleenLezen());
+  });
+}
+
 TEST_F(OKPersoonTest, EnterIsJa) {
   Bouw().Man("Jan", "Vos");
   Toon("toets Enter", 2, "Jan", "Vos", "");

@@ -33,6 +33,10 @@ TEST_F(PersInfoFormTest, ToontNummerEnSamenvatting) {
   )");
 }
 
+TEST_F(PersInfoFormTest, InDeSamenvattingValtNietTeTypen) {
+  Stil([](Hoofdmodule& hoofd) { EXPECT_TRUE(PersInfoForm(hoofd).InfoTekst.AlleenLezen()); });
+}
+
 TEST_F(PersInfoFormTest, EscapeEnEnterSluiten) {
   Bouw().Man("Jan", "Vos");
   Toon("toets Escape", 2, "");

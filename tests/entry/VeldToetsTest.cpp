@@ -253,6 +253,41 @@ TEST_F(VeldToetsTest, DeTekstVanEenFunctietoetsPastInHetVeld) {
   )");
 }
 
+TEST_F(VeldToetsTest, DeZoektochtVanF2VerbruiktDeToets) {
+  Verwacht(
+      "druk BackButton",
+      [](Hoofdmodule& hoofd) {
+        ToetsGebeurtenis toets{.code = toets::kF2};
+        std::string tekst;
+        EXPECT_EQ(VeldToets(toets, tekst, InvoerSoort::Persoon, hoofd), VeldActie::Geen);
+        EXPECT_TRUE(toets.verwerkt);
+      },
+      R"(
+    + ZoekPrs "Zoek Persoon"
+    - ZoekPrs
+  )");
+}
+
+TEST_F(VeldToetsTest, EscapeDruktEenmaalOpTerugOokAlsHetSchermBlijftStaan) {
+  Stil([](Hoofdmodule& hoofd) {
+    Proefscherm scherm(hoofd);
+    int gedrukt = 0;
+    scherm.BackButton.BijKlik([&gedrukt] { ++gedrukt; });
+    ASSERT_TRUE(scherm.Laad());
+    EXPECT_TRUE(scherm.Toets(&scherm.Naam1, {.code = toets::kEscape}));
+    EXPECT_EQ(gedrukt, 1);
+    EXPECT_TRUE(scherm.Toets(&scherm.Naam1, {.code = toets::kF10}));
+    EXPECT_EQ(gedrukt, 2);
+  });
+}
+
+TEST_F(VeldToetsTest, EenVeldZonderGrensNeemtDeHeleTekst) {
+  Speelt("toets Doorloper Shift+F2\ntoon Doorloper\ntoets Escape", R"(
+    ! info "controle"
+    = Doorloper "Bergen op Zoom"
+  )");
+}
+
 TEST_F(VeldToetsTest, F9InEenDatumveldLaatHetMaskerAchter) {
   Speelt(R"(
     typ Datum 01.02.1850

@@ -26,6 +26,7 @@ class VraagRecordNrTest : public SpeelToets {
 TEST_F(VraagRecordNrTest, GeeftHetNummerBijOKEnBijEnter) {
   EXPECT_EQ(Vraag("vul RecordNr 17\ndruk OKButton", ""), 17);
   EXPECT_EQ(Vraag("typ RecordNr 17\ntoets Enter", ""), 17);
+  EXPECT_EQ(Vraag("toets 1\ntoets 7\ntoets Enter", ""), 17);
 }
 
 TEST_F(VraagRecordNrTest, AlleenVijfCijfersPassen) {
