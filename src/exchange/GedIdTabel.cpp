@@ -16,7 +16,7 @@ std::string_view Sleutel(std::string_view id) {
 }  // namespace
 
 void GedIdTabel::Voeg(std::string_view id, std::int16_t nr) {
-  const Rij& rij = rijen_.emplace_back(std::string(Sleutel(id)), nr);
+  const Rij& rij = rijen_.emplace_back(Rij{std::string(Sleutel(id)), nr});
   eerste_.try_emplace(rij.id, nr);
 }
 
