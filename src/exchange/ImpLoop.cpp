@@ -23,7 +23,8 @@ ImpLoop::ImpLoop(const ImpDelen& delen_, std::int16_t laatstePersoon, std::int16
     : delen(delen_), laatstePersoon_(laatstePersoon), laatsteRelatie_(laatsteRelatie) {}
 
 void ImpLoop::BeginGang() {
-  stand = {};
+  // The names and the source stay, until a line of this pass brings others.
+  stand.regels = stand.personen = stand.relaties = stand.bronnen = 0;
   context_ = "H-0";
   persoonNr_ = relatieNr_ = 0;
 }

@@ -1,0 +1,214 @@
+// The dialog of the import: its controls, its messages and how each kind of run ends.
+#include <gtest/gtest.h>
+
+#include "app/Start.h"
+#include "exchange/ImpGedcom.h"
+#include "exchange/ImportToets.h"
+#include "steun/Gouden.h"
+
+namespace lb77 {
+namespace {
+
+class ImpGedcomTest : public ImportToets {
+ protected:
+  void Speel(const std::string& draaiboek, std::string_view verslag,
+             const Plek& plek = Plek::current()) {
+    const Taak taak = [](Hoofdmodule& hoofd) {
+      ASSERT_TRUE(Start(hoofd));
+      ImpGedcom form(hoofd);
+      hoofd.gesprek.ToonModaal(form);
+    };
+    Verwacht(draaiboek, taak, verslag, plek);
+  }
+  [[nodiscard]] std::string Vul() const { return "vul Bestandsnaam " + Bestand().string() + "\n"; }
+};
+
+constexpr std::string_view kOpen = "+ ImpGedcom \"Importeer Gegevens - Gedcom\"\n";
+
+TEST_F(ImpGedcomTest, OpensEmptyAndWithoutALabelOfWork) {
+  Speel("toon\ndruk BackButton", R"(
+      + ImpGedcom "Importeer Gegevens - Gedcom"
+      : ImpGedcom "Importeer Gegevens - Gedcom"
+      = Bestandsnaam ""
+      = BrowseButton "&Browse"
+      = Pass1Label "Bezig met ... ==>" [verborgen]
+      = Pass1box uit [uit]
+      = Pass2Label "Bezig met ... ==>" [verborgen]
+      = Pass2box uit [uit]
+      = Pass3Label "Bezig met ... ==>" [verborgen]
+      = Pass3box uit [uit]
+      = RegelNr ""
+      = AantalPersonen ""
+      = AantalRelaties ""
+      = AantalBronnen ""
+      = VoorNm ""
+      = AchterNm ""
+      = BronNm ""
+      = OKButton "&Start Import"
+      = BackButton "&Terug"
+      * Bestandsnaam
+      - ImpGedcom
+    )");
+}
+
+TEST_F(ImpGedcomTest, AfterARunItShowsTheCountsOfTheLastPass) {
+  SchrijfBytes(Bestand(), GedIn("ANSEL", R"(
+      0 @I1@ INDI
+      1 NAME Andr)"
+                                         "\xE2"
+                                         R"(e /Jansen/
+      0 @I2@ INDI
+      1 NAME Piet /Pietersen/
+      0 @F1@ FAM
+      0 @S1@ SOUR
+      1 TITL Doopboek
+      0 @S2@ SOUR
+      1 AUTH Niemand
+    )"));
+  Speel(Vul() + "druk OKButton\ndruk BackButton\ntoon\ndruk BackButton", std::string(kOpen) + R"(
+      ! info "Importeren voltooid"
+      + ToonTekst "Importeren - Resultaat"
+      - ToonTekst
+      : ImpGedcom "Importeer Gegevens - Gedcom"
+      = Bestandsnaam ")" + Bestand().string() +
+                                                                             R"("
+      = BrowseButton "&Browse"
+      = Pass1Label "Bezig met ... ==>" [verborgen]
+      = Pass1box aan [uit]
+      = Pass2Label "Bezig met ... ==>" [verborgen]
+      = Pass2box aan [uit]
+      = Pass3Label "Bezig met ... ==>" [verborgen]
+      = Pass3box aan [uit]
+      = RegelNr "12"
+      = AantalPersonen "2"
+      = AantalRelaties "1"
+      = AantalBronnen "2"
+      = VoorNm "Piet"
+      = AchterNm "Pietersen"
+      = BronNm "Doopboek"
+      = OKButton "&Start Import" [uit]
+      = BackButton "&Terug"
+      * OKButton
+      - ImpGedcom
+    )");
+}
+
+TEST_F(ImpGedcomTest, AsksForAFileFirst) {
+  Speel("druk OKButton\nvul Bestandsnaam \"  \"\ndruk OKButton\ndruk BackButton",
+        std::string(kOpen) + R"(
+      ! uitroep "Geen GEDCOM-bestand gekozen"
+      ! uitroep "Geen GEDCOM-bestand gekozen"
+      - ImpGedcom
+    )");
+}
+
+TEST_F(ImpGedcomTest, BrowsesFromTheTextDirectory) {
+  SchrijfBytes(Bestand(), Ged("0 @I1@ INDI"));
+  Speel("bestand " + Bestand().string() + "\ndruk BrowseButton\ntoon Bestandsnaam\nbestand\n" +
+            "druk BrowseButton\ntoon Bestandsnaam\ndruk OKButton\ndruk BackButton\ndruk BackButton",
+        std::string(kOpen) +
+            "> openen \"GEDCOM-bestanden (*.GED)|*.GED|Alle Bestanden (*.*)|*.*|Tekstbestanden "
+            "(*.txt)|*.txt\" -> \"" +
+            Bestand().string() + "\"\n= Bestandsnaam \"" + Bestand().string() +
+            "\"\n> openen \"GEDCOM-bestanden (*.GED)|*.GED|Alle Bestanden (*.*)|*.*|Tekstbestanden "
+            "(*.txt)|*.txt\" -> -\n= Bestandsnaam \"" +
+            Bestand().string() + "\"\n" + R"(
+      ! info "Importeren voltooid"
+      + ToonTekst "Importeren - Resultaat"
+      - ToonTekst
+      - ImpGedcom
+    )");
+  EXPECT_EQ(Aantallen(), "2 1 1 1");
+}
+
+TEST_F(ImpGedcomTest, OneFileIsNotReadTwiceByOneMoreClick) {
+  SchrijfBytes(Bestand(), Ged("0 @I1@ INDI"));
+  VerwachtFout(Vul() + "druk OKButton\ndruk BackButton\ndruk OKButton",
+               Sessie([](Hoofdmodule& hoofd) {
+                 ASSERT_TRUE(Start(hoofd));
+                 ImpGedcom form(hoofd);
+                 hoofd.gesprek.ToonModaal(form);
+               }),
+               "OKButton");
+  EXPECT_EQ(Aantallen(), "2 1 1 1");
+}
+
+TEST_F(ImpGedcomTest, AFileThatIsGone) {
+  Speel(Vul() + "druk OKButton\ndruk BackButton\ndruk BackButton", std::string(kOpen) + R"(
+      ! uitroep "Bestand niet gevonden"
+      + ToonTekst "Importeren - Resultaat"
+      - ToonTekst
+      - ImpGedcom
+    )");
+}
+
+TEST_F(ImpGedcomTest, ADirectoryIsNoFile) {
+  Speel("vul Bestandsnaam " + Map().string() + "\ndruk OKButton\ndruk BackButton\ndruk BackButton",
+        std::string(kOpen) + R"(
+      ! stop "Leesfout: Pad is een directory"
+      + ToonTekst "Importeren - Resultaat"
+      - ToonTekst
+      - ImpGedcom
+    )");
+}
+
+TEST_F(ImpGedcomTest, TheLogItselfCannotBeImported) {
+  const auto log = TekstMap() / "GEDCOM.LOG";
+  SchrijfBytes(log, Ged("0 @I1@ INDI"));
+  Speel("vul Bestandsnaam " + log.string() + "\ndruk OKButton\ndruk BackButton\ndruk BackButton",
+        std::string(kOpen) + R"(
+      ! stop "Leesfout: Bestand is in gebruik"
+      + ToonTekst "Importeren - Resultaat"
+      - ToonTekst
+      - ImpGedcom
+    )");
+  EXPECT_EQ(Log(), Ged("0 @I1@ INDI"));
+  EXPECT_EQ(Aantallen(), "1 1 1 1");
+}
+
+TEST_F(ImpGedcomTest, ATextDirectoryThatIsGoneIsMade) {
+  EXPECT_FALSE(std::filesystem::exists(TekstMap()));
+  Importeer(Ged("0 @I1@ INDI"));
+  EXPECT_EQ(Log(), "Importeren voltooid\r\n");
+}
+
+TEST_F(ImpGedcomTest, ALogThatCannotBeWrittenEndsTheRunBeforeItStores) {
+  SchrijfBytes(TekstMap(), "een bestand op de plaats van de map");
+  SchrijfBytes(Bestand(), Ged("0 @I1@ INDI"));
+  Speel(Vul() + "druk OKButton\ndruk BackButton\ndruk BackButton", std::string(kOpen) + R"(
+      ! stop "Leesfout: Pad niet gevonden"
+      + ToonTekst "Importeren - Resultaat"
+      - ToonTekst
+      - ImpGedcom
+    )");
+  EXPECT_EQ(Aantallen(), "1 1 1 1");
+}
+
+TEST_F(ImpGedcomTest, AnErrorOfTheFirstPassStillTicksTheBoxes) {
+  SchrijfBytes(Bestand(), "0 HEAD\n0 HEAD\n");
+  Speel(Vul() + "druk OKButton\ndruk BackButton\ntoon Pass1box\ntoon Pass3box\ndruk BackButton",
+        std::string(kOpen) + R"(
+      ! uitroep "GEDCOM Fout: bestand heeft 2 headers"
+      ! info "Importeren voltooid"
+      + ToonTekst "Importeren - Resultaat"
+      - ToonTekst
+      = Pass1box aan [uit]
+      = Pass3box aan [uit]
+      - ImpGedcom
+    )");
+}
+
+TEST_F(ImpGedcomTest, AWholeFamilyAndItsLog) {
+  const std::string bytes =
+      LeesBytes(std::filesystem::path(LB77_BRONMAP) / "tests/gouden/import.ged");
+  ASSERT_FALSE(bytes.empty());
+  Importeer(bytes);
+  VerwachtGouden("import.log", Log());
+  for (const std::string_view soort : {"PRS", "RLT", "OPM", "PLT"}) {
+    VerwachtGouden("import." + std::string(soort),
+                   LeesBytes(Map() / "PROEF" / ("PROEF." + std::string(soort))));
+  }
+}
+
+}  // namespace
+}  // namespace lb77
