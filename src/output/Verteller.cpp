@@ -117,7 +117,9 @@ bool Verteller::Gevraagd(int rubriek) const {
          (opm.BijProg() & opties_.opmMasker) != 0 && (opties_.inHTML || !opm.AlleenHTML());
 }
 
-bool Verteller::LeesOpm(std::int16_t nr) {
+// A walk of more steps than there are records goes round in a circle, and ends as a failed read.
+bool Verteller::LeesOpm(std::int16_t nr, int& stappen) {
+  if (++stappen > aantalOpm_) return false;
   bronnen_.volgers.HuidigOpmNr = nr;
   return bronnen_.opmerking.Lees();
 }
@@ -127,8 +129,9 @@ void Verteller::SchrijfRubriekOpm(std::int16_t opmRecord, std::int16_t opmCode, 
   if (!opties_.ookOpm || opmRecord == 0 || opmRecord > aantalOpm_) return;
   if ((std::abs(int{opmCode}) & std::abs(rubriek)) == 0) return;
   bool ingesprongen = false;
+  int stappen = 0;
   std::int16_t nr = opmRecord;
-  for (int stappen = 0; nr != 0 && stappen < aantalOpm_ && LeesOpm(nr); ++stappen) {
+  while (nr != 0 && LeesOpm(nr, stappen)) {
     nr = bronnen_.opmerking.BijZelfde();
     if (!Gevraagd(rubriek)) continue;
     if (regelEerst && Algemeen(rubriek)) {
@@ -136,20 +139,19 @@ void Verteller::SchrijfRubriekOpm(std::int16_t opmRecord, std::int16_t opmCode, 
       if (!ingesprongen) schrijver_.ZetMarge(false, kInspringen);
       ingesprongen = true;
     }
-    if (!SchrijfOpmRegels()) break;
+    if (!SchrijfOpmRegels(stappen)) break;
   }
   if (ingesprongen) schrijver_.ZetMarge(false, -kInspringen);
 }
 
 // The lines of the remark in the buffer; False when one of them can't be read.
-bool Verteller::SchrijfOpmRegels() {
+bool Verteller::SchrijfOpmRegels(int& stappen) {
   const OpmLB77& opm = bronnen_.opmerking;
-  for (int regels = 0; regels < aantalOpm_; ++regels) {
+  do {
     const std::string regel = opm.Tekstregel();
     if (!regel.empty()) schrijver_.Tekst(Gecodeerd(regel));
     if (opm.VolgRegel() <= 0) return true;
-    if (!LeesOpm(opm.VolgRegel())) return false;
-  }
+  } while (LeesOpm(opm.VolgRegel(), stappen));
   return false;
 }
 

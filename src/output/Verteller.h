@@ -53,8 +53,8 @@ class Verteller {
 
   [[nodiscard]] bool Algemeen(int rubriek) const;
   [[nodiscard]] bool Gevraagd(int rubriek) const;
-  [[nodiscard]] bool LeesOpm(std::int16_t nr);
-  [[nodiscard]] bool SchrijfOpmRegels();
+  [[nodiscard]] bool LeesOpm(std::int16_t nr, int& stappen);
+  [[nodiscard]] bool SchrijfOpmRegels(int& stappen);
   void SchrijfNaam(std::string_view naam, bool vast);
   [[nodiscard]] bool SchrijfOuder(std::int16_t nr, bool metBeroep);
 

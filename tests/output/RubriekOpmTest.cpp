@@ -237,6 +237,54 @@ TEST_F(RubriekOpmTest, ACycleOfLinesEnds) {
   EXPECT_EQ(Verteld(nr, MetOpm()), "Jan Bos een een");
 }
 
+// Three remarks of which each has the next as its line too: told to the end they would grow with
+// the square of the file.
+TEST_F(RubriekOpmTest, ChainsThatRunTogetherEndAfterAsManyStepsAsThereAreRecords) {
+  const std::int16_t nr = Man({});
+  for (const std::string regel : {"een", "twee", "drie"}) {
+    bouw_.OpmerkingBijPersoon(nr, 1, {regel});
+  }
+  WijzigOpm(2, {{"VolgRegel", "3"}});
+  WijzigOpm(3, {{"VolgRegel", "4"}});
+  EXPECT_EQ(Verteld(nr, MetOpm()), "Jan Bos een twee drie twee");
+}
+
+TEST_F(RubriekOpmTest, ARemarkThatItsOwnerDoesNotKnowOfIsNotTold) {
+  const std::int16_t nr = Man({});
+  bouw_.OpmerkingBijPersoon(nr, 1, {"naam"});
+  bouw_.WijzigPersoon(nr, {{"OpmCode", "2"}});
+  EXPECT_EQ(Verteld(nr, MetOpm()), "Jan Bos");
+}
+
+TEST_F(RubriekOpmTest, ARemarkBehindTheCountedOnesIsNotTold) {
+  const std::int16_t piet = Man({});
+  bouw_.OpmerkingBijPersoon(piet, 1, {"een"});
+  const std::int16_t jan = Man({});
+  bouw_.OpmerkingBijPersoon(jan, 1, {"twee"});
+  EXPECT_EQ(Verteld(jan, MetOpm()), "Jan Bos twee");
+  ASSERT_TRUE(set_.Opmerking.LeesAdmin());
+  ASSERT_TRUE(set_.Opmerking.SchrijfAdm(2, 4, 2));
+  EXPECT_EQ(Verteld(jan, MetOpm()), "Jan Bos");
+  EXPECT_EQ(Verteld(piet, MetOpm()), "Jan Bos een");
+}
+
+TEST_F(RubriekOpmTest, TheGeneralRemarkStandsFourFurtherThanTheText) {
+  const std::int16_t nr = Man({});
+  bouw_.OpmerkingBijPersoon(nr, 4096, {"Een leven."});
+  TekstSchrijver schrijver;
+  ASSERT_TRUE(schrijver.Open(set_.map / "marge.txt"));
+  schrijver.ZetMarge(true, 8);
+  schrijver.Vast("x");
+  Verteller verteller(bronnen_, schrijver, MetOpm());
+  ASSERT_TRUE(set_.Persoon.Lees(nr));
+  verteller.SchrijfRubriekOpm(set_.Persoon.OpmRecord(), set_.Persoon.OpmCode(), kRubriekPersoon,
+                              true);
+  EXPECT_EQ(schrijver.LinkerMarge(), 8);
+  schrijver.EindeRegel();
+  ASSERT_TRUE(schrijver.Sluit());
+  EXPECT_EQ(LeesBytes(set_.map / "marge.txt"), "        x\r\n            Een leven.\r\n");
+}
+
 TEST_F(RubriekOpmTest, RemarksCanBeSwitchedOffInTheMiddleOfARun) {
   const std::int16_t nr = Man({});
   bouw_.OpmerkingBijPersoon(nr, 1, {"opm"});
