@@ -69,6 +69,16 @@ TEST_F(TekstpaginasTest, EveryPageHoldsItsPartOfItsLines) {
   }
 }
 
+TEST_F(TekstpaginasTest, AColumnMayLieAcrossTheBlocksOfReading) {
+  Open(std::string(65530, 'a') + std::string(100, 'b') + "c");
+  EXPECT_EQ(paginas_.Kolommen(), 65631 / 80 + 1);
+  std::vector<std::string> regels;
+  ASSERT_TRUE(paginas_.Lees(820, 1, regels));  // begins behind 65520 characters
+  EXPECT_EQ(regels, std::vector<std::string>{std::string(10, 'a') + std::string(70, 'b')});
+  ASSERT_TRUE(paginas_.Lees(821, 1, regels));
+  EXPECT_EQ(regels, std::vector<std::string>{std::string(30, 'b') + "c"});
+}
+
 TEST_F(TekstpaginasTest, AFileThatShrankHasFewerLines) {
   Open(std::string(200, '\n'));
   SchrijfBytes(map_ / "in.txt", "kort\r\n");
