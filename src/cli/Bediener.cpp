@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "app/IniClass.h"
+#include "script/Verslag.h"
 #include "text/Unicode.h"
 
 namespace lb77 {
@@ -12,20 +12,6 @@ namespace {
 // The one question with another answer: without a settings file a new one is made.
 bool IsNieuwIniBestand(std::string_view tekst) {
   return tekst.find("Druk op OK om een nieuw IniBestand te maken") != std::string_view::npos;
-}
-
-std::string_view Woord(Antwoord antwoord) {
-  switch (antwoord) {
-    case Antwoord::OK:
-      return "OK";
-    case Antwoord::Annuleren:
-      return "Annuleren";
-    case Antwoord::Ja:
-      return "Ja";
-    case Antwoord::Nee:
-      return "Nee";
-  }
-  return {};
 }
 
 Antwoord Ontkennend(Knoppen knoppen) {
