@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "app/Hoofdmodule.h"
+#include "exchange/EenmaalGesprek.h"
 #include "exchange/ImpGangen.h"
 #include "exchange/RegelLezer.h"
 #include "output/ToonTekst.h"
@@ -129,7 +130,10 @@ ImpGedcom::Afloop ImpGedcom::Lees(const std::filesystem::path& bestand) {
   GedLog log;
   if (SysteemFout fout = log.Open(pad)) return {.systeem = fout};
   Scherm scherm(*this, log);
-  ImpLoop loop({hoofd_.Persoon, hoofd_.Relatie, hoofd_.Plaats, hoofd_.Opmerking, hoofd_.volgers,
+  // A place file that is full or damaged would say so at each of thousands of lines.
+  EenmaalGesprek eenmaal(hoofd_.gesprek);
+  PlaatsLB77 plaats({hoofd_.bestanden, hoofd_.volgers, eenmaal, hoofd_.schrijfwijze});
+  ImpLoop loop({hoofd_.Persoon, hoofd_.Relatie, plaats, hoofd_.Opmerking, hoofd_.volgers,
                 hoofd_.schrijfwijze.gezindten, scherm},
                personen, relaties);
   const ImpUitslag uitslag = VoerGangen(loop, lezer);

@@ -4,7 +4,6 @@
 
 #include "exchange/GedGezindte.h"
 #include "exchange/GedPlaatsNaam.h"
-#include "store/PlaatsVraag.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"
 
@@ -13,9 +12,6 @@ namespace lb77 {
 namespace {
 
 constexpr std::int32_t kRegelsPerVerversing = 128;
-// What PlaatsLB77::Nr does with an unknown name: asks, to which nobody says yes, or adds it.
-constexpr std::int16_t kNietToevoegen = 0;
-constexpr std::int16_t kToevoegen = 1;
 
 }  // namespace
 
@@ -72,12 +68,8 @@ std::string ImpLoop::GedPlaats(std::string_view waarde) {
   const std::string tekst = GedTekst(Trim(waarde));
   const std::string_view naam = GedPlaatsNaam(tekst);
   if (naam.empty()) return "0";
-  GeenPlaatsVraag niemand;
-  const std::int16_t nr =
-      delen.plaats.Nr(naam, 0, "", plaatsenVol_ ? kNietToevoegen : kToevoegen, niemand);
+  const std::int16_t nr = delen.plaats.NrOfNieuw(naam, "");
   if (nr > 0) return GetalTekst(nr);
-  // A file that is full is told of by one box; after that the log alone names what is lost.
-  plaatsenVol_ = delen.plaats.AantalInAdmin() >= kMaxRecords - 1;
   Log(" - Plaats niet opgeslagen: " + std::string(naam));
   return "0";
 }

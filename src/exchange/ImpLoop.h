@@ -88,7 +88,6 @@ class ImpLoop {
   std::int16_t laatsteRelatie_;
   std::int16_t persoonNr_ = 0;
   std::int16_t relatieNr_ = 0;
-  bool plaatsenVol_ = false;
 };
 
 }  // namespace lb77

@@ -1,6 +1,10 @@
 // The dialog of the import: its controls, its messages and how each kind of run ends.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <optional>
+#include <utility>
+
 #include "app/Start.h"
 #include "exchange/ImpGedcom.h"
 #include "exchange/ImportToets.h"
@@ -196,6 +200,52 @@ TEST_F(ImpGedcomTest, AnErrorOfTheFirstPassStillTicksTheBoxes) {
       = Pass3box aan [uit]
       - ImpGedcom
     )");
+}
+
+// A window in which the user imports one file, and ticks each box that has a tick.
+class Vinkgebruiker final : public Gesprek {
+ public:
+  explicit Vinkgebruiker(std::filesystem::path bestand) : bestand_(std::move(bestand)) {}
+
+  Antwoord Bericht(BerichtSoort, Knoppen, std::string_view) override { return Antwoord::OK; }
+  bool BerichtMetVinkje(std::string_view tekst, std::string_view vinkje) override {
+    EXPECT_EQ(tekst, "Codepage 860 wordt nog niet ondersteund.\nCodepage 437 wordt gebruikt");
+    EXPECT_EQ(vinkje, "Niet meer tonen tijdens deze import");
+    ++vinkjes;
+    return true;
+  }
+  std::optional<std::filesystem::path> VraagBestand(const BestandsVraag&) override { return {}; }
+  bool DrukAf(const Afdruk&) override { return false; }
+  void Ververs(Formulier&) override {}
+  [[nodiscard]] bool StopGevraagd(Formulier&) override { return false; }
+
+  int vinkjes = 0;
+
+ protected:
+  void Open(Formulier&) override {}
+  void Voer(Formulier& formulier) override {
+    auto* import = dynamic_cast<ImpGedcom*>(&formulier);
+    if (import == nullptr) return;
+    import->Bestandsnaam.ZetPad(bestand_);
+    EXPECT_TRUE(import->Klik(import->OKButton));
+  }
+  void Dicht(Formulier&) override {}
+
+ private:
+  std::filesystem::path bestand_;
+};
+
+TEST_F(ImpGedcomTest, TheMessageOfCodePage850CanBeSilencedForOneImport) {
+  SchrijfBytes(Bestand(), GedIn("CP850", "0 @I1@ INDI\n1 NAME Andr\x82 /Sm\x9Bt/\n1 OCCU \x82"));
+  Vinkgebruiker gebruiker(Bestand());
+  for (int keer = 1; keer <= 2; ++keer) {
+    Sessie([](Hoofdmodule& hoofd) {
+      ImpGedcom form(hoofd);
+      hoofd.gesprek.ToonModaal(form);
+    })(gebruiker);
+    EXPECT_EQ(gebruiker.vinkjes, keer);
+  }
+  EXPECT_EQ(Persoon(3), "voor Andr\xE9; achter Sm\xF8t; beroep \xE9");
 }
 
 TEST_F(ImpGedcomTest, AWholeFamilyAndItsLog) {

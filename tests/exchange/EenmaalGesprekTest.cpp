@@ -1,0 +1,48 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "exchange/EenmaalGesprek.h"
+#include "steun/NepGesprek.h"
+
+namespace lb77 {
+namespace {
+
+using ::testing::ElementsAre;
+
+TEST(EenmaalGesprekTest, ShowsAMessageOnce) {
+  NepGesprek gebruiker;
+  EenmaalGesprek eenmaal(gebruiker);
+  eenmaal.Fout("vol");
+  eenmaal.Fout("vol");
+  eenmaal.Waarschuw("anders");
+  eenmaal.Fout("vol");
+  EXPECT_THAT(gebruiker.Regels(), ElementsAre("! stop \"vol\"", "! uitroep \"anders\""));
+}
+
+TEST(EenmaalGesprekTest, TheFirstLineTellsWhetherAMessageIsTheSame) {
+  NepGesprek gebruiker;
+  EenmaalGesprek eenmaal(gebruiker);
+  eenmaal.Waarschuw("Aantal is onjuist\nGevonden:4");
+  eenmaal.Waarschuw("Aantal is onjuist\nGevonden:5");
+  EXPECT_THAT(gebruiker.Regels(), ElementsAre("! uitroep \"Aantal is onjuist\\nGevonden:4\""));
+}
+
+TEST(EenmaalGesprekTest, AsksEachTime) {
+  NepGesprek gebruiker;
+  gebruiker.Antwoordt(Antwoord::Ja);
+  gebruiker.Antwoordt(Antwoord::Nee);
+  EenmaalGesprek eenmaal(gebruiker);
+  EXPECT_TRUE(eenmaal.Vraag("Toevoegen ?"));
+  EXPECT_FALSE(eenmaal.Vraag("Toevoegen ?"));
+}
+
+TEST(EenmaalGesprekTest, PassesTheRestOn) {
+  NepGesprek gebruiker;
+  EenmaalGesprek eenmaal(gebruiker);
+  EXPECT_FALSE(eenmaal.BerichtMetVinkje("met vinkje", "Niet meer tonen"));
+  EXPECT_TRUE(eenmaal.DrukAf({}));
+  EXPECT_THAT(gebruiker.Regels(), ElementsAre("! info \"met vinkje\"", "% afdruk 0"));
+}
+
+}  // namespace
+}  // namespace lb77
