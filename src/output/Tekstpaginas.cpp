@@ -117,8 +117,10 @@ SysteemFout SchrijfKopie(const std::filesystem::path& van, const std::filesystem
   std::ofstream uit(naar, std::ios::binary | std::ios::trunc);
   if (!uit) return FoutVanStroom();
   while (uit && stroom.VolgendeRegel()) {
-    for (std::string_view stuk = stroom.Stuk(); !stuk.empty(); stuk = stroom.Stuk()) {
-      uit.write(stuk.data(), static_cast<std::streamsize>(stuk.size()));
+    // No read behind a write that failed: it would hide why.
+    std::string_view stuk = stroom.Stuk();
+    while (!stuk.empty() && uit.write(stuk.data(), static_cast<std::streamsize>(stuk.size()))) {
+      stuk = stroom.Stuk();
     }
     uit << "\r\n";
   }

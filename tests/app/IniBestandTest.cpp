@@ -1,10 +1,7 @@
-#include <sys/resource.h>
-
-#include <csignal>
-
 #include "app/IniBestand.h"
 #include "app/SessieToets.h"
 #include "app/ZonderRechten.h"
+#include "steun/VolleSchijf.h"
 
 namespace lb77 {
 namespace {
@@ -126,26 +123,6 @@ TEST_F(IniBestand, EenDirectoryDieNietWegWilIsEenFoutVanHetOpenen) {
   EXPECT_TRUE(Bestaat("LIJNBOOM.INI/vol"));
   EXPECT_FALSE(Bestaat("LIJNBOOM.TMP"));
 }
-
-// The disk is full from `bytes` on, for as long as it lives.
-class VolleSchijf {
- public:
-  explicit VolleSchijf(rlim_t bytes) : signaal_(std::signal(SIGXFSZ, SIG_IGN)) {
-    getrlimit(RLIMIT_FSIZE, &oud_);
-    const rlimit klein{bytes, oud_.rlim_max};
-    setrlimit(RLIMIT_FSIZE, &klein);
-  }
-  ~VolleSchijf() {
-    setrlimit(RLIMIT_FSIZE, &oud_);
-    std::signal(SIGXFSZ, signaal_);
-  }
-  VolleSchijf(const VolleSchijf&) = delete;
-  VolleSchijf& operator=(const VolleSchijf&) = delete;
-
- private:
-  rlimit oud_{};
-  void (*signaal_)(int);
-};
 
 TEST_F(IniBestand, EenVolleSchijfLaatHetBestandEnDeReserveStaan) {
   EXPECT_EQ(SchrijfNieuw("een").stap, SchrijfStap::Klaar);

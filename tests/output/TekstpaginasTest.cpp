@@ -7,6 +7,7 @@
 
 #include "output/Tekstpaginas.h"
 #include "steun/TijdelijkeMap.h"
+#include "steun/VolleSchijf.h"
 
 namespace lb77 {
 namespace {
@@ -92,6 +93,17 @@ TEST_F(TekstpaginasTest, ACopyThatFailsLeavesTheOldFile) {
   EXPECT_EQ(KopieerTekst(map_ / "weg.txt", map_ / "oud.txt").nummer, kBestandNietGevonden);
   EXPECT_EQ(LeesBytes(map_ / "oud.txt"), "oud");
   EXPECT_FALSE(std::filesystem::exists(map_ / "oud.txt.nieuw"));
+}
+
+TEST_F(TekstpaginasTest, ACopyForWhichThereIsNoRoomTellsWhyAndLeavesTheOldFile) {
+  SchrijfBytes(map_ / "oud.txt", "oud");
+  for (const std::size_t lengte : {2000, 500000}) {  // noticed at the end, and on the way
+    SchrijfBytes(map_ / "in.txt", std::string(lengte, 'x') + "\n" + std::string(lengte, 'y'));
+    const VolleSchijf vol(1000);
+    EXPECT_EQ(KopieerTekst(map_ / "in.txt", map_ / "oud.txt").tekst, "Bestand te groot") << lengte;
+    EXPECT_EQ(LeesBytes(map_ / "oud.txt"), "oud");
+    EXPECT_FALSE(std::filesystem::exists(map_ / "oud.txt.nieuw"));
+  }
 }
 
 TEST_F(TekstpaginasTest, ACopyTakesThePlaceOfTheOldFile) {
