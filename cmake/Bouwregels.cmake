@@ -8,6 +8,10 @@ if(MSVC)
 else()
   target_compile_options(lb77_streng INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Werror)
 endif()
+if(LB77_FUZZ)
+  # Counts the branches that an input reaches; the fuzz programs alone bring libFuzzer's main.
+  target_compile_options(lb77_streng INTERFACE -fsanitize=fuzzer-no-link)
+endif()
 if(LB77_SANITIZE)
   target_compile_options(lb77_streng INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)

@@ -1,0 +1,19 @@
+// Any bytes as a GEDCOM file: imported into an empty set, whose first person then gets his
+// Kwartierstaat.
+#include <string_view>
+
+#include "Doel.h"
+#include "Sessie.h"
+
+using namespace lb77;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t lengte) {
+  const std::filesystem::path gedcom = fuzz::ProgrammaMap() / "FUZZ.GED";
+  SchrijfBytes(gedcom, {reinterpret_cast<const char*>(bytes), lengte});
+  fuzz::SetBytes set;
+  fuzz::Sessie sessie(set);
+  sessie.MaakNieuw();
+  sessie.Importeer(gedcom);
+  sessie.Kwartierstaat(2, fuzz::Sessie::kOpmerkingen | fuzz::Sessie::kBroersZussen);
+  return 0;
+}

@@ -1,0 +1,100 @@
+#include "Sessie.h"
+
+#include <memory>
+#include <stdexcept>
+
+#include "ancestors/KwstTxtPrs.h"
+#include "app/Start.h"
+#include "exchange/ImpGedcom.h"
+#include "steun/FaalBestand.h"
+#include "text/Getallen.h"
+
+namespace lb77::fuzz {
+namespace {
+
+constexpr std::string_view kInstellingen =
+    "[Systeem]\r\nSet=FUZZ\r\nOpslaanVelden=N\r\n[Sets]\r\nSet1=FUZZ,\r\n"
+    "[Namenfile]\r\nGez1=NHNederlands Hervormd\r\n[Printer]\r\nTekstbr=80\r\nTekstReg=60\r\n";
+
+std::string& BytesVan(SetBytes& bytes, std::size_t recordLengte) {
+  if (recordLengte == RecordLengteVan(BestandSoort::Personen)) return bytes.personen;
+  if (recordLengte == RecordLengteVan(BestandSoort::Relaties)) return bytes.relaties;
+  if (recordLengte == RecordLengteVan(BestandSoort::Opmerkingen)) return bytes.opmerkingen;
+  return bytes.plaatsen;
+}
+
+std::unique_ptr<TijdelijkeMap> MaakMap() {
+  auto map = std::make_unique<TijdelijkeMap>();
+  SchrijfBytes(*map / "LIJNBOOM.INI", kInstellingen);
+  std::filesystem::create_directories(*map / "DATA" / "FUZZ" / "TEKST");
+  return map;
+}
+
+}  // namespace
+
+const std::filesystem::path& ProgrammaMap() {
+  static const std::unique_ptr<TijdelijkeMap> map = MaakMap();
+  return map->Pad();
+}
+
+Sessie::Sessie(SetBytes& bytes)
+    : bediener_([](std::string_view) {}), hoofd(bediener_, klok_, ProgrammaMap()) {
+  if (!Start(hoofd)) throw std::runtime_error("het programma start niet");
+  hoofd.bestanden = Bestandenset([&bytes](const std::filesystem::path&, std::size_t lengte) {
+    return Bestandenset::Opening{std::make_unique<GeheugenBestand>(BytesVan(bytes, lengte), lengte),
+                                 {}};
+  });
+  hoofd.ActieveSetNaam = hoofd.Ini.ActieveSet();
+  if (hoofd.bestanden.OpenSet(SetPaden::Van(hoofd.Ini.DataDir(), hoofd.ActieveSetNaam))) {
+    throw std::runtime_error("de bestanden gaan niet open");
+  }
+}
+
+void Sessie::MaakNieuw() {
+  if (!hoofd.Persoon.NieuwAdm() || !hoofd.Relatie.NieuwAdm() || !hoofd.Plaats.NieuwAdm() ||
+      !hoofd.Opmerking.NieuwAdm()) {
+    throw std::runtime_error("een nieuwe set is niet te maken");
+  }
+}
+
+void Sessie::Importeer(const std::filesystem::path& gedcom) {
+  bediener_.Bij("ImpGedcom", [&](Formulier& formulier) {
+    dynamic_cast<Padvak&>(*formulier.Zoek("Bestandsnaam")).ZetPad(gedcom);
+    Werk(bediener_, formulier).Druk("OKButton");
+  });
+  ImpGedcom formulier(hoofd);
+  hoofd.gesprek.ToonModaal(formulier);
+}
+
+void Sessie::Kwartierstaat(int persoon, unsigned keuzen) {
+  bediener_.Bij("KwstTxtPrs", [&](Formulier& formulier) {
+    Werk werk(bediener_, formulier);
+    werk.Zet("RecordNr", GetalTekst(persoon));
+    werk.Druk("OKButton");
+  });
+  bediener_.Bij("KwstTxtParam", [&](Formulier& formulier) { VulParam(formulier, keuzen); });
+  bediener_.Bij("KwHTMLParam",
+                [&](Formulier& formulier) { Werk(bediener_, formulier).Druk("OKButton"); });
+  KwstTxtPrs formulier(hoofd);
+  hoofd.gesprek.ToonModaal(formulier);
+}
+
+void Sessie::VulParam(Formulier& formulier, unsigned keuzen) {
+  Werk werk(bediener_, formulier);
+  const auto zet = [&](std::string_view naam, unsigned keuze) {
+    werk.Zet(naam, (keuzen & keuze) != 0 ? "Ja" : "Nee");
+  };
+  zet("InHTMLBox", kHTML);
+  zet("OokOpmBox", kOpmerkingen);
+  zet("OokNrsBox", kNummers);
+  zet("KwHerhaalBox", kVolgHerhaling);
+  // Ancestors in a circle fill the whole table when repeats are followed.
+  if ((keuzen & kVolgHerhaling) != 0) werk.Zet("MaxGen", "9");
+  if ((keuzen & kBroersZussen) != 0) werk.Zet("BroerZusBox", "Met Alle Broers en Zussen");
+  if ((keuzen & kBroersZussenProband) != 0) {
+    werk.Zet("BroerZusBox", "Met Broers en Zussen van de Proband");
+  }
+  werk.Druk("OKButton");
+}
+
+}  // namespace lb77::fuzz
