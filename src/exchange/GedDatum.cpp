@@ -48,13 +48,13 @@ struct Lezing {
   std::string_view context;
   GedDatumUitslag& uitslag;
 
-  void Meld(std::string_view fout) const {
+  void Noteer(std::string_view fout) const {
     uitslag.log.push_back(std::string(context).append(fout).append(gelezen));
   }
   [[nodiscard]] DatumDelen Deel(std::string_view tekst) const {
     const DatumDelen datum = GedDatumDeel(Trim(tekst));
     if (datum.dag != -1) return datum;
-    Meld(kOnbekend);
+    Noteer(kOnbekend);
     return {};
   }
 };
@@ -63,7 +63,7 @@ void LeesDatums(std::string_view tekst, const Lezing& lezing) {
   GedDatumUitslag& uitslag = lezing.uitslag;
   const std::size_t en = tekst.find(kEn);
   if (en == std::string_view::npos && uitslag.corr == 'T') {
-    lezing.Meld(" - Fout in datum: BETWEEN zonder AND met 2e datum ");
+    lezing.Noteer(" - Fout in datum: BETWEEN zonder AND met 2e datum ");
     uitslag.corr = 'N';
   } else if (en == std::string_view::npos) {
     uitslag.eerste = lezing.Deel(tekst);
@@ -93,7 +93,7 @@ GedDatumUitslag GedDatum(std::string_view tekst, std::string_view context) {
   if (!IsNegatief(uitslag.eerste) && !IsNegatief(uitslag.tweede)) return uitslag;
   // No record can hold it: a failure halfway, which leaves nothing behind.
   uitslag = {};
-  lezing.Meld(kOnbekend);
+  lezing.Noteer(kOnbekend);
   return uitslag;
 }
 

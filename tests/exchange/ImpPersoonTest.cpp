@@ -157,6 +157,19 @@ TEST_F(ImpPersoonTest, ALaterDateReplacesAnEarlierQualifier) {
   EXPECT_EQ(Van("1 BIRT\n2 DATE ABT 1890\n1 BIRT\n2 DATE 3 MAY 1891"), "geb 03-05-1891");
 }
 
+TEST_F(ImpPersoonTest, APeriodWithoutAnEndKeepsItsQualifierAlone) {
+  EXPECT_EQ(Van("1 BIRT\n2 DATE BET 1890"), "geb N   -  -    ");
+  EXPECT_EQ(LogRegels(), "P-I1 - Fout in datum: BETWEEN zonder AND met 2e datum BET 1890\n");
+}
+
+TEST_F(ImpPersoonTest, ADateThatCannotBeReadIsLoggedAsItStands) {
+  EXPECT_EQ(Van("1 BIRT\n2 DATE ergens in mei 1890\n1 DEAT\n2 DATE abt 1890 and 1895"),
+            "ovl C   -  -    ");
+  EXPECT_EQ(LogRegels(),
+            "P-I1 - Onbekende datum: ergens in mei 1890\n"
+            "Fout in datum: AND zonder BETWEEN  1890 AND 1895\n");
+}
+
 TEST_F(ImpPersoonTest, ANullDateIsStoredAsNone) {
   EXPECT_EQ(Van("1 BIRT\n2 DATE 0000"), "");
 }
