@@ -81,6 +81,7 @@ std::int16_t BouwFamilie::Relatie(std::int16_t man, std::int16_t vrouw,
 }
 
 void BouwFamilie::ZetKinderen(std::int16_t relatie, const std::vector<std::int16_t>& kinderen) {
+  ASSERT_LE(kinderen.size(), 29U) << "een relatie heeft hoogstens 29 kinderen";
   const std::int16_t vervolg = kinderen.size() > 15 ? NieuweRelatie() : std::int16_t{0};
   EXPECT_TRUE(relatie_.Lees(relatie));
   for (std::size_t i = 0; i < std::min<std::size_t>(kinderen.size(), 15); ++i) {
@@ -105,13 +106,15 @@ void BouwFamilie::ZetKinderen(std::int16_t relatie, const std::vector<std::int16
 
 void BouwFamilie::VoegRelatieBij(std::int16_t persoon, std::int16_t relatie) {
   Huwtab tab{};
-  const std::int16_t aantal = persoon_.VulHuwtab(persoon, tab);
-  ASSERT_LT(aantal, 5) << "een persoon heeft hoogstens vijf relaties";
-  tab[static_cast<std::size_t>(aantal) + 1] = relatie;
+  persoon_.VulHuwtab(persoon, tab);
+  // A slot between two others may be free.
+  const auto vrij = std::find(tab.begin() + 1, tab.end(), 0);
+  ASSERT_NE(vrij, tab.end()) << "een persoon heeft hoogstens vijf relaties";
+  *vrij = relatie;
   EXPECT_TRUE(persoon_.Lees(persoon));
   std::int16_t vervolg =
       persoon_.relatie3() < 0 ? static_cast<std::int16_t>(-persoon_.relatie3()) : std::int16_t{0};
-  if (aantal >= 3 && vervolg == 0) vervolg = NieuwePersoon();
+  if (tab[4] != 0 && vervolg == 0) vervolg = NieuwePersoon();
   EXPECT_TRUE(persoon_.Lees(persoon));
   ZetPersoon("Relatie1", tab[1]);
   ZetPersoon("Relatie2", tab[2]);

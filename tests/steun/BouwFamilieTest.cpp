@@ -60,6 +60,14 @@ TEST_F(BouwFamilieTest, DeVierdeEnVijfdeRelatieStaanInEenVervolgrecord) {
   EXPECT_TRUE(set.Persoon.IsVolgRecord());
 }
 
+TEST_F(BouwFamilieTest, EenRelatieVultDeEersteVrijePlaats) {
+  const auto man = set.bouw.Man("Jan", "Jansen", {{"Relatie1", "50"}, {"Relatie3", "60"}});
+  const auto relatie = set.bouw.Relatie(man, 0);
+  Huwtab tab{};
+  EXPECT_EQ(set.Persoon.VulHuwtab(man, tab), 3);
+  EXPECT_EQ(tab, (Huwtab{0, 50, relatie, 60, 0, 0}));
+}
+
 TEST_F(BouwFamilieTest, HetZestiendeKindStaatInEenVervolgrecord) {
   std::vector<std::int16_t> kinderen;
   for (int i = 0; i < 17; ++i) kinderen.push_back(set.bouw.Man("Kind", ""));
