@@ -193,11 +193,12 @@ std::int16_t PlaatsLB77::Nr(std::string_view Naam, std::int16_t Gedeeltelijk, st
                             std::int16_t Toevoegen, PlaatsVraag& vraag) {
   const std::int16_t hoogste = AantalRecords();
   const std::string_view naam = Trim(Naam.substr(0, veld::Naam.breedte));
-  if (naam.empty()) return kGeenPlaats;
+  std::string sleutel = PlaatsIndex::Sleutel(naam);
+  // Also a name that is empty as it would be stored: of hard blanks alone.
+  if (sleutel.empty()) return kGeenPlaats;
   WerkIndexBij(hoogste);
   const Zoekvraag zoek{
-      naam, PlaatsIndex::Sleutel(naam), Gedeeltelijk == -1, Gedeeltelijk != 0, Prov, Toevoegen,
-      vraag};
+      naam, std::move(sleutel), Gedeeltelijk == -1, Gedeeltelijk != 0, Prov, Toevoegen, vraag};
   if (const auto gevonden = Doorzoek(zoek)) return *gevonden;
   if (Toevoegen == -1) {
     Door().Waarschuw("Plaatsnaam niet gevonden");

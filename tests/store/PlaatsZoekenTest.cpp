@@ -1,6 +1,8 @@
 // The search for a place by its name.
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "steun/FaalBestand.h"
 #include "steun/ProefSet.h"
 #include "store/NepPlaatsVraag.h"
@@ -44,6 +46,8 @@ struct PlaatsZoekenTest : ::testing::Test {
   ProefSet set{FalendeOpener(storing)};
 };
 
+constexpr std::array<std::int16_t, 5> kAlleGedeeltelijk = {0, 1, 7, -2, -1};
+constexpr std::array<std::int16_t, 3> kAlleToevoegen = {1, 0, -1};
 const std::string kNietGevonden = "! uitroep \"Plaatsnaam niet gevonden\"";
 
 }  // namespace
@@ -64,6 +68,50 @@ TEST_F(PlaatsZoekenTest, EenLegeNaamIsGeenPlaats) {
   EXPECT_EQ(Zoek(""), -1);
   EXPECT_EQ(Zoek("   ", kBegin, kVoegToe), -1);
   EXPECT_EQ(Zoek(std::string(25, ' ') + "Delft"), -1);
+}
+
+TEST_F(PlaatsZoekenTest, EenNaamVanHardeBlankenIsGeenPlaats) {
+  EXPECT_EQ(Zoek("\xA0", kHeelEersteGoed, kVoegToe), -1);
+  EXPECT_EQ(Zoek("\xA0 \xA0", kBegin, kVoegToe), -1);
+  EXPECT_EQ(set.Plaats.AantalRecords(), 5);
+}
+
+TEST_F(PlaatsZoekenTest, DeTellingWordtBekekenVoordatDeNaamLeegBlijkt) {
+  ASSERT_TRUE(set.Plaats.LeesAdmin());
+  set.Plaats.ZetAantal(40);
+  ASSERT_TRUE(set.Plaats.SchrijfAdmin());
+  EXPECT_EQ(Zoek(""), -1);
+  EXPECT_EQ(set.Getoond().size(), 1U);
+}
+
+TEST_F(PlaatsZoekenTest, WieNietGevondenWordtHangtAlleenVanToevoegenAf) {
+  std::int16_t hoogste = 5;
+  for (const std::int16_t gedeeltelijk : kAlleGedeeltelijk) {
+    for (const std::int16_t toevoegen : kAlleToevoegen) {
+      const std::string naam = "Nieuw " + std::to_string(hoogste);
+      NepPlaatsVraag vraag(toevoegen == 0 ? std::deque{true} : std::deque<bool>{});
+      const std::int16_t nr = set.Plaats.Nr(naam, gedeeltelijk, "XX", toevoegen, vraag);
+      EXPECT_EQ(nr, toevoegen == -1 ? -1 : ++hoogste);
+      EXPECT_EQ(vraag.vragen, toevoegen == 0
+                                  ? (Vragen{"toevoegen " + naam, "provincie " + naam + " [  ]"})
+                                  : Vragen{});
+      EXPECT_EQ(set.Getoond(), toevoegen == -1 ? Boxen{kNietGevonden} : Boxen{});
+      if (nr > 0) {
+        EXPECT_EQ(set.Plaats.Prov(nr), toevoegen == 0 ? "ZH" : "XX");
+      }
+    }
+  }
+}
+
+TEST_F(PlaatsZoekenTest, WieGevondenWordtHangtAlleenVanGedeeltelijkAf) {
+  for (const std::int16_t toevoegen : kAlleToevoegen) {
+    for (const std::int16_t gedeeltelijk : kAlleGedeeltelijk) {
+      NepPlaatsVraag vraag(gedeeltelijk == 0 ? std::deque<bool>{} : std::deque{false, true, true});
+      EXPECT_EQ(set.Plaats.Nr("Delft", gedeeltelijk, "XX", toevoegen, vraag),
+                gedeeltelijk == 0 ? 3 : 5);
+      EXPECT_EQ(vraag.vragen.size(), gedeeltelijk == 0 ? 0U : 3U);
+    }
+  }
 }
 
 TEST_F(PlaatsZoekenTest, DeNaamWordtOp25TekensAfgekapt) {
