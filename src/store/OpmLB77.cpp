@@ -1,5 +1,7 @@
 #include "store/OpmLB77.h"
 
+#include <algorithm>
+
 #include "store/OpmVelden.h"
 #include "text/Getallen.h"
 
@@ -94,14 +96,20 @@ void OpmLB77::LeegOpmBuffer() {
 }
 
 // Asked at each remark of a report, so that an absent record 1 has no box here: it is no remarks.
-std::int16_t OpmLB77::AantalInAdmin() {
+std::optional<std::int16_t> OpmLB77::LeesTelling() {
   const Uitslag uitslag = LeesStil(1, Soort::Admin);
-  if (uitslag.fout) MeldFout("Fout bij het lezen van Opmrecord 1", uitslag.fout);
-  return uitslag.gelukt ? Rubriek() : std::int16_t{0};
+  if (uitslag.fout) MeldFout(kTabel.leesAdminFout, uitslag.fout);
+  return uitslag.gelukt ? std::optional(Rubriek()) : std::nullopt;
+}
+
+std::int16_t OpmLB77::AantalInAdmin() {
+  return LeesTelling().value_or(0);
 }
 
 std::int16_t OpmLB77::AantalRecords() {
-  return ZoekHoogste(AantalInAdmin());
+  const std::optional<std::int16_t> telling = LeesTelling();
+  // An admin record that reads is record 1: with nothing in use its NUL would not do elsewhere.
+  return telling ? std::max<std::int16_t>(ZoekHoogste(*telling), 1) : std::int16_t{0};
 }
 
 std::int16_t OpmLB77::Rubriek() const {

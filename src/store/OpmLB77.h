@@ -116,6 +116,8 @@ class OpmLB77 final : public RecordRaam {
   void HerstelSonde(Soort soort) override;
   [[nodiscard]] bool IsInGebruik() const override;
 
+  /// The count of record 1; nothing, silently, when it is absent.
+  std::optional<std::int16_t> LeesTelling();
   Stap Betreed(std::int16_t nr, Wandeling& wandeling);
   Vondst Zoek(const Zoekvraag& vraag);
   Vondst ZoekRegel(std::int16_t eerste, std::int16_t regel, Wandeling& wandeling);

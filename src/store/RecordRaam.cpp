@@ -32,10 +32,14 @@ void RecordRaam::MeldFout(std::string_view tekst, const SysteemFout& fout) const
   opslag_.gesprek.Fout(fout ? std::string(tekst) + "\n" + fout.tekst : std::string(tekst));
 }
 
+// Of a record that is cut short the probe must be there; what lies behind it stays empty.
+bool RecordRaam::HeeftSonde(std::size_t gelezen) const {
+  return gelezen >= tabel_.sonde + std::max<std::size_t>(tabel_.schildwacht.size(), 1);
+}
+
 bool RecordRaam::IsAanwezig(std::size_t gelezen, Soort soort) const {
+  if (!HeeftSonde(gelezen)) return false;
   const std::string_view schildwacht = tabel_.schildwacht;
-  // Of a record that is cut short the probe must be there; what lies behind it stays empty.
-  if (gelezen < tabel_.sonde + std::max<std::size_t>(schildwacht.size(), 1)) return false;
   const std::string_view sonde(buffer_.data() + tabel_.sonde, schildwacht.size());
   // kept: a record that itself holds the sentinel reads as absent, as it does for the package
   // that shares these files.
@@ -106,12 +110,14 @@ bool RecordRaam::MagNieuw(std::int32_t nr) {
     MeldFout(MetNr("Fout bij het schrijven van ", tabel_.schrijfNaam, nr), FoutRecordNummer());
     return false;
   }
+  Leeg();
+  opslag_.volgers.PlaatsBufNr = 0;
   const Leesuitslag uitslag = Bestand().Lees(nr, Buffer());
   if (uitslag.fout) {
     MeldFout(MetNr("Fout bij het lezen van ", tabel_.recordNaam, nr), uitslag.fout);
     return false;
   }
-  if (uitslag.gelezen < tabel_.leeg.size() || !IsInGebruik()) return true;
+  if (!HeeftSonde(uitslag.gelezen) || !IsInGebruik()) return true;
   MeldFout(MetNr("", tabel_.recordNaam, nr) +
            " bestaat al: het aantal in het administratierecord is te laag");
   return false;
@@ -174,8 +180,10 @@ std::int16_t RecordRaam::ZoekHoogste(std::int32_t vanaf) {
 }
 
 std::int16_t RecordRaam::AantalRecords() {
-  const std::int32_t volgensAdmin = AantalInAdmin() + 1;
-  const std::int16_t gevonden = ZoekHoogste(volgensAdmin);
+  const bool admin = LeesAdmin();
+  const std::int32_t volgensAdmin = (admin ? GetalOp(buffer_, tabel_.telling) : 0) + 1;
+  // An admin record that reads is record 1, also where it would not do as an ordinary record.
+  const std::int16_t gevonden = std::max<std::int16_t>(ZoekHoogste(volgensAdmin), admin ? 1 : 0);
   if (gevonden != volgensAdmin) {
     opslag_.gesprek.Waarschuw(std::string(tabel_.aantalFout) +
                               "\nGevonden:" + GetalTekst(gevonden) +

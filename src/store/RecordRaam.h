@@ -129,9 +129,10 @@ class RecordRaam {
   /// Puts the probe right after a read that was accepted.
   virtual void HerstelSonde(Soort) {}
 
-  /// True when the buffer, read in full, holds something that may not be lost.
+  /// True when the buffer, read as far as its probe, holds something that may not be lost.
   [[nodiscard]] virtual bool IsInGebruik() const;
 
+  [[nodiscard]] bool HeeftSonde(std::size_t gelezen) const;
   [[nodiscard]] bool IsAanwezig(std::size_t gelezen, Soort soort) const;
   [[nodiscard]] bool MagNieuw(std::int32_t nr);
   /// The records that the file's size has room for, one cut short included; the maximum when the

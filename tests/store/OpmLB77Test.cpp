@@ -115,6 +115,18 @@ TEST_F(OpmLB77Test, EenNulInDeStaartVanHetAdministratierecordMagAlsErRecordsZijn
   EXPECT_EQ(set.Getoond(), Boxen{"! stop \"Fout bij het lezen van Opmrecord 1\""});
 }
 
+TEST_F(OpmLB77Test, EenAdministratierecordMetNulInDeStaartIsHetHoogsteAlsErGeenOpmerkingIs) {
+  set.bestanden.SluitAlles();
+  std::string bytes = LeesBytes(set.paden.opm);
+  bytes.replace(90, 6, std::string(6, '\0'));
+  SchrijfBytes(set.paden.opm, bytes);
+  set.Heropen();
+  EXPECT_EQ(set.Opmerking.AantalRecords(), 1);
+  const auto man = set.bouw.Man("Jan", "");
+  set.bouw.OpmerkingBijPersoon(man, 1, {"een"});
+  EXPECT_EQ(set.Opmerking.OpmerkingTekst(1, 2, 1, 1, false), "een");
+}
+
 TEST_F(OpmLB77Test, EenLeegBestandTeltStilNul) {
   set.bestanden.SluitAlles();
   SchrijfBytes(set.paden.opm, "");

@@ -58,6 +58,29 @@ TEST_F(PersoonLB77Test, EenNulInDeSondeVanHetAdministratierecordMagAlsErPersonen
                                  "Persoonsbestand\""});
 }
 
+TEST_F(PersoonLB77Test, EenAdministratierecordMetEenNulInDeSondeIsHetHoogsteAlsErGeenPersoonIs) {
+  Man();
+  set.bestanden.SluitAlles();
+  std::string bytes = LeesBytes(set.paden.prs).substr(0, 128);
+  bytes[83] = '\0';
+  SchrijfBytes(set.paden.prs, bytes);
+  set.Heropen();
+  EXPECT_EQ(set.Persoon.AantalRecords(), 1);
+  EXPECT_EQ(set.Getoond(), Boxen{"! uitroep \"Aantal persoonsrecords in administratierecord is "
+                                 "onjuist\\nGevonden:1\\nVolgens administratierecord:2\""});
+  EXPECT_TRUE(set.Persoon.Nieuw(2));
+}
+
+TEST_F(PersoonLB77Test, EenGeweigerdNieuwRecordLaatGeenPlaatsInDeBuffer) {
+  const auto man = Man();
+  const auto plaats = set.bouw.Plaats("Delft");
+  EXPECT_FALSE(set.Persoon.Nieuw(man));
+  EXPECT_EQ(set.Getoond().size(), 1U);
+  EXPECT_EQ(set.volgers.PersBufNr, -1);
+  EXPECT_EQ(set.volgers.PlaatsBufNr, 0);
+  EXPECT_EQ(set.Plaats.Naam(plaats), "Delft");
+}
+
 TEST_F(PersoonLB77Test, EenPersoonMetHetTekenVanDeSchildwachtLeestAlsAfwezig) {
   const auto man = Man({{"Geslacht", "X"}});
   EXPECT_FALSE(set.Persoon.Lees(man));
@@ -136,6 +159,10 @@ TEST_F(PersoonLB77Test, HeleNaamGeeftBeideNamenOfWatErVoorInDePlaatsKomt) {
   set.Persoon.HeleNaam(naamloos, voor, achter, "?");
   EXPECT_EQ(voor, "Jan");
   EXPECT_EQ(achter, "?");
+  const auto voornaamloos = set.bouw.Man("", "Jansen");
+  set.Persoon.HeleNaam(voornaamloos, voor, achter, "?");
+  EXPECT_EQ(voor, "?");
+  EXPECT_EQ(achter, "Jansen");
   set.Persoon.HeleNaam(0, voor, achter, "?");
   EXPECT_EQ(voor + achter, "");
   voor = achter = "oud";

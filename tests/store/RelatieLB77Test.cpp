@@ -83,6 +83,36 @@ TEST_F(RelatieLB77Test, EenRecordMetDeHandIsHetzelfdeAlsHetGelezene) {
   EXPECT_EQ(std::string(r.Bytes().data(), r.Bytes().size()), beeld);
 }
 
+TEST_F(RelatieLB77Test, RecordEenLeestAlsEenRelatie) {
+  EXPECT_EQ(Lees(1).OtrDagMaand(), 87);
+  EXPECT_EQ(set.volgers.RelBufNr, 1);
+}
+
+TEST_F(RelatieLB77Test, EenNulInDeSondeVanHetAdministratierecordMagAlsErRelatiesZijn) {
+  const auto zetSonde = [&](char telling) {
+    set.bestanden.SluitAlles();
+    std::string bytes = LeesBytes(set.paden.rlt);
+    bytes[16] = '\0';
+    bytes[0] = telling;
+    SchrijfBytes(set.paden.rlt, bytes);
+    set.Heropen();
+  };
+  zetSonde('\1');
+  ASSERT_TRUE(set.Relatie.LeesAdmin());
+  EXPECT_EQ(set.Relatie.Bytes()[16], ' ');
+  zetSonde('\0');
+  EXPECT_FALSE(set.Relatie.LeesAdmin());
+  EXPECT_EQ(set.Getoond(), Boxen{"! stop \"Fout bij het lezen van het Administratierecord van het "
+                                 "Relatiebestand\""});
+}
+
+TEST_F(RelatieLB77Test, EenRelatieMetHetTekenVanDeSchildwachtLeestAlsAfwezig) {
+  Lees(set.bouw.Relatie(0, 0));
+  set.Relatie.Zet("HuwCorr", "X");
+  ASSERT_TRUE(set.Relatie.Schrijf());
+  EXPECT_FALSE(set.Relatie.Lees(2));
+}
+
 TEST_F(RelatieLB77Test, HetAdministratierecordVanEenNieuwBestand) {
   EXPECT_EQ(LeesBytes(set.paden.rlt), Beeld(64, {{0, B("\0\0\0\0\0\0")},
                                                  {6, B("\x57\0")},  // 87
