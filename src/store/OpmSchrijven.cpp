@@ -5,6 +5,7 @@
 
 #include "store/OpmLB77.h"
 #include "store/OpmVelden.h"
+#include "text/Dos437.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"
 
@@ -17,8 +18,9 @@ namespace {
 constexpr std::string_view kLeesFout = "Fout bij het lezen van Opmerking";
 constexpr std::string_view kSchrijfFout = "Fout bij het schrijven van Opmerking";
 
+// Empty as it would be stored: a blank line in the chain would hide the lines behind it.
 bool IsLeeg(std::string_view regel) {
-  return Trim(regel).empty();
+  return Trim(WindowsNaarDos(Trim(regel)).substr(0, veld::Tekstregel.breedte)).empty();
 }
 
 }  // namespace
@@ -93,8 +95,13 @@ bool OpmLB77::MaakLos(const Opdracht& opdracht, std::int16_t volgende) {
   std::optional<Eigenaar> eigenaar = LeesEigenaar(opdracht);
   if (!eigenaar) return false;
   if (opdracht.vorige == 0) eigenaar->opmRecord = volgende;
-  eigenaar->opmCode = BepaalOpmCode(eigenaar->opmRecord);
-  return SchrijfEigenaar(opdracht, *eigenaar, "Fout bij het schrijven van Persoon");
+  std::int16_t laatste = 0;
+  std::int16_t code = 0;
+  const bool heel = LoopKeten(eigenaar->opmRecord, laatste, code);
+  // Of a chain that doesn't hold the rubrics stay as they were, so that what can be read of it
+  // stays in sight.
+  if (heel) eigenaar->opmCode = code;
+  return SchrijfEigenaar(opdracht, *eigenaar, "Fout bij het schrijven van Persoon") && heel;
 }
 
 bool OpmLB77::Herschrijf(const Opdracht& opdracht, std::size_t i) {

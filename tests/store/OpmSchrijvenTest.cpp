@@ -135,6 +135,12 @@ TEST_F(OpmSchrijvenTest, LegeRegelsVallenNaarHetEinde) {
   EXPECT_EQ(Admin(), (Drie{3, 2, 4}));
 }
 
+TEST_F(OpmSchrijvenTest, EenRegelVanHardeBlankenIsLeegZoalsHijInHetBestandZouStaan) {
+  ASSERT_TRUE(Wijzig(1, {"een", "\xA0\xA0", "twee"}));
+  EXPECT_EQ(Teksten(1), (Lijst{"een", "twee"}));
+  EXPECT_EQ(Admin(), (Drie{3, 2, 4}));
+}
+
 TEST_F(OpmSchrijvenTest, EenLegeOpmerkingDieErNietWasDoetNiets) {
   const std::string voor = LeesBytes(set.paden.opm);
   EXPECT_TRUE(Wijzig(1, {}));
@@ -204,6 +210,17 @@ TEST_F(OpmSchrijvenTest, DeRubriekBlijftZolangErNogEenOpmerkingVanIs) {
   ASSERT_TRUE(Wijzig(1, {}));
   EXPECT_EQ(Eigenaar(), Paar(3, 1));
   EXPECT_EQ(Teksten(1), Lijst{"twee"});
+}
+
+TEST_F(OpmSchrijvenTest, DeEersteWegUitEenKettingDieVerderopBreektHoudtDeRestInZicht) {
+  ASSERT_TRUE(Wijzig(1, {"een"}));
+  ASSERT_TRUE(Wijzig(8, {"twee"}));
+  Lees(3).Zet("BijZelfde", "99");
+  ASSERT_TRUE(set.Opmerking.Schrijf());
+  EXPECT_FALSE(Wijzig(1, {}));
+  EXPECT_EQ(set.Getoond(), Boxen{"! uitroep \"Verkeerde verwijzing: opm-record 99 bestaat niet\""});
+  EXPECT_EQ(Eigenaar(), Paar(3, 9));
+  EXPECT_EQ(Teksten(8), Lijst{"twee"});
 }
 
 TEST_F(OpmSchrijvenTest, EenVrijRecordWordtOpnieuwGenomenZonderOudeSchakels) {
