@@ -8,12 +8,6 @@
 
 namespace lb77 {
 
-namespace {
-
-constexpr qint64 kVerversing = 40;  // milliseconds: 25 times a second
-
-}  // namespace
-
 QtGesprek::QtGesprek(const std::filesystem::path& map) : instellingen_(map) {}
 
 Binder* QtGesprek::BinderVan(const Formulier& formulier) const {
@@ -55,7 +49,7 @@ bool QtGesprek::DrukAf(const Afdruk& afdruk) {
 }
 
 void QtGesprek::Ververs(Formulier& formulier) {
-  if (sindsVerversing_.isValid() && sindsVerversing_.elapsed() < kVerversing) return;
+  if (sindsVerversing_.isValid() && sindsVerversing_.elapsed() < verversingstijd_) return;
   if (Binder* binder = BinderVan(formulier)) binder->Ververs();
   sindsVerversing_.start();
 }

@@ -20,6 +20,9 @@ class QtGesprek final : public Gesprek {
   /// `map` is the program's directory, where window sizes are kept; empty keeps none.
   explicit QtGesprek(const std::filesystem::path& map = {});
 
+  /// The least time between two repaints of a form that works, in milliseconds.
+  void ZetVerversingstijd(qint64 tijd) { verversingstijd_ = tijd; }
+
   Antwoord Bericht(BerichtSoort soort, Knoppen knoppen, std::string_view tekst) override;
   bool BerichtMetVinkje(std::string_view tekst, std::string_view vinkje) override;
   std::optional<std::filesystem::path> VraagBestand(const BestandsVraag& vraag) override;
@@ -43,6 +46,7 @@ class QtGesprek final : public Gesprek {
   VensterInstellingen instellingen_;
   std::vector<std::unique_ptr<Binder>> stapel_;
   QElapsedTimer sindsVerversing_;
+  qint64 verversingstijd_ = 40;  // 25 times a second
 };
 
 }  // namespace lb77

@@ -12,7 +12,9 @@
 namespace lb77 {
 
 // For the messages of a failing test.
-static void PrintTo(const FormulierRij& rij, std::ostream* uit) { *uit << rij.naam; }
+static void PrintTo(const FormulierRij& rij, std::ostream* uit) {
+  *uit << rij.naam;
+}
 
 namespace {
 

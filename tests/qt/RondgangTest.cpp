@@ -80,6 +80,7 @@ TEST_F(RondgangTest, NewSetImportAndKwartierstaat) {
   }
   Piloot piloot(stappen);
   bool aanHetWerk = false;
+  gesprek.ZetVerversingstijd(0);  // however fast the machine, each step of the work is seen
   piloot.bijBlik = [&](const std::string& bovenop) {
     if (bovenop != "ImpGedcom" || !Vind("Pass2Label").isVisible()) return;
     aanHetWerk = true;
