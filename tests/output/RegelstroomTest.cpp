@@ -76,6 +76,20 @@ TEST_F(RegelstroomTest, ThePlaceBehindALineIsWhereTheNextBegins) {
   EXPECT_EQ(stroom_.Plaats(), 5U);
 }
 
+TEST_F(RegelstroomTest, AStreamThatIsOpenedAgainBeginsAfresh) {
+  SchrijfBytes(map_ / "in.txt", "een\r\ntwee\r\n");
+  EXPECT_FALSE(stroom_.Open(map_ / "weg.txt"));
+  ASSERT_TRUE(stroom_.Open(map_ / "in.txt"));
+  EXPECT_FALSE(stroom_.Fout());
+  ASSERT_TRUE(stroom_.VolgendeRegel());  // in the middle of this line
+  ASSERT_TRUE(stroom_.Open(map_ / "in.txt", 5));
+  EXPECT_EQ(stroom_.Stuk(), "") << "no line yet";
+  ASSERT_TRUE(stroom_.VolgendeRegel());
+  EXPECT_EQ(stroom_.Stuk(), "twee");
+  EXPECT_EQ(stroom_.Stuk(), "");
+  EXPECT_EQ(stroom_.Plaats(), 11U);
+}
+
 TEST_F(RegelstroomTest, AFileThatIsNotThereTellsWhy) {
   EXPECT_FALSE(stroom_.Open(map_ / "weg.txt"));
   EXPECT_EQ(stroom_.Fout().nummer, kBestandNietGevonden);

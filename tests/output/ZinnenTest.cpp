@@ -171,6 +171,16 @@ TEST_F(ZinnenTest, APersonOfUnknownSexHasTheOtherAsPartner) {
   EXPECT_EQ(Zinnen(bronnen_).PersoonInfoTekst(kind), "Kim Bos(2), tr. Piet Dam(3) ");
 }
 
+TEST_F(ZinnenTest, InARelationOfOthersThePartnerIsTheOneOfTheOtherSex) {
+  const std::int16_t piet = bouw_.Man("Piet", "Dam");
+  const std::int16_t anna = bouw_.Vrouw("Anna", "Eik");
+  const std::string relatie = std::to_string(bouw_.Relatie(piet, anna));
+  const std::int16_t jan = Man({{"Relatie1", relatie}});
+  EXPECT_EQ(Zinnen(bronnen_).PersoonInfoTekst(jan), "Jan Bos(4), tr. Anna Eik(3) ");
+  const std::int16_t bep = bouw_.Vrouw("Bep", "Fok", {{"Relatie1", relatie}});
+  EXPECT_EQ(Zinnen(bronnen_).PersoonInfoTekst(bep), "Bep Fok(5), tr. Piet Dam(2) ");
+}
+
 TEST_F(ZinnenTest, ThePartnersOfAnUnreadablePersonAreNone) {
   EXPECT_EQ(Zinnen(bronnen_).PartnersZin(99, false), "");
   EXPECT_EQ(Zinnen(bronnen_).PersoonInfoTekst(99), "<< Geen gegevens gevonden >>");
