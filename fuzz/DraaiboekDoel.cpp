@@ -44,7 +44,6 @@ class Werkplaats {
     for (const auto& plek : fs::recursive_directory_iterator(map_.Pad())) {
       if (plek.is_regular_file()) bestanden_[plek.path()] = LeesBytes(plek.path());
     }
-    fs::current_path(map_.Pad());
   }
 
   [[nodiscard]] const fs::path& Map() const { return map_.Pad(); }
