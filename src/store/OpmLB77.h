@@ -105,6 +105,12 @@ class OpmLB77 final : public RecordRaam {
     std::int16_t opmRecord = 0;
     std::int16_t opmCode = 0;
   };
+  /// The chain that grew last, as long as nothing else is written to the file.
+  struct Keteneinde {
+    std::int16_t begin = 0;  ///< its first record; 0 for none
+    std::int16_t einde = 0;  ///< the first record of its last remark
+    std::uint64_t stand = 0;
+  };
   /// A walk, bounded by the number of records.
   struct Wandeling {
     std::int16_t aantal = 0;
@@ -123,6 +129,9 @@ class OpmLB77 final : public RecordRaam {
   Vondst ZoekRegel(std::int16_t eerste, std::int16_t regel, Wandeling& wandeling);
   [[nodiscard]] bool LoopKeten(std::int16_t begin, std::int16_t& laatste, std::int16_t& code);
 
+  /// As RecordnrEindeKetting; without a walk when the chain is the one that grew last, so that the
+  /// time of an import does not grow with the square of a person's remarks.
+  std::int16_t ZoekEinde(std::int16_t begin);
   [[nodiscard]] bool SchrijfRegel(Opdracht& opdracht, std::size_t i);
   [[nodiscard]] bool GeefVrij(const Opdracht& opdracht, std::size_t i);
   [[nodiscard]] bool MaakLos(const Opdracht& opdracht, std::int16_t volgende);
@@ -143,6 +152,7 @@ class OpmLB77 final : public RecordRaam {
 
   PersoonLB77& persoon_;
   RelatieLB77& relatie_;
+  Keteneinde gegroeid_;
 };
 
 }  // namespace lb77

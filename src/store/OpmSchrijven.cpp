@@ -47,7 +47,18 @@ bool OpmLB77::SchrijfOpmerking(OpmRegels Regels, const OpmRecnrs& Recnrs, std::i
   for (std::size_t i = 0; i < opdracht.regels.size(); ++i) {
     if (!SchrijfRegel(opdracht, i)) return false;
   }
+  const std::int16_t eerste = opdracht.recnrs[0];
+  if (Recnrs[0] == 0 && eerste != 0) {
+    const std::uint64_t stand = DeOpslag().bestanden.Stand(BestandSoort::Opmerkingen);
+    gegroeid_ = {Begin != 0 ? Begin : eerste, eerste, stand};
+  }
   return true;
+}
+
+std::int16_t OpmLB77::ZoekEinde(std::int16_t begin) {
+  const std::uint64_t stand = DeOpslag().bestanden.Stand(BestandSoort::Opmerkingen);
+  const bool bekend = begin != 0 && gegroeid_.begin == begin && gegroeid_.stand == stand;
+  return bekend ? gegroeid_.einde : RecordnrEindeKetting(begin);
 }
 
 bool OpmLB77::SchrijfRegel(Opdracht& opdracht, std::size_t i) {
@@ -115,7 +126,7 @@ bool OpmLB77::Herschrijf(const Opdracht& opdracht, std::size_t i) {
 
 bool OpmLB77::VoegToe(Opdracht& opdracht, std::size_t i) {
   // A chain that doesn't hold must not cost a record, so that its end is found first.
-  const std::int16_t einde = i == 0 ? RecordnrEindeKetting(opdracht.begin) : std::int16_t{0};
+  const std::int16_t einde = i == 0 ? ZoekEinde(opdracht.begin) : std::int16_t{0};
   if (einde < 0) return false;
   const std::int16_t nr = NeemRecord(opdracht, i);
   if (nr == 0) return false;

@@ -312,3 +312,29 @@ TEST_F(OpmSchrijvenTest, EenAfwezigeEigenaarWordtGemeld) {
   EXPECT_EQ(set.Getoond(),
             (Boxen{"! stop \"Leesfout bij Persoon 77\"", "! stop \"Leesfout bij Relatie 78\""}));
 }
+
+TEST_F(OpmSchrijvenTest, EenLangeKettingMaaktDeVolgendeOpmerkingNietDuurder) {
+  Storing teller;
+  ProefSet geteld(FalendeOpener(teller));
+  const std::int16_t vrouw = geteld.bouw.Vrouw("Anna", "Jansen");
+  const auto kosten = [&] {
+    const int voor = teller.teller;
+    geteld.bouw.OpmerkingBijPersoon(vrouw, 4096, {"een", "twee"});
+    return teller.teller - voor;
+  };
+  kosten();
+  const int tweede = kosten();
+  for (int n = 0; n < 50; ++n) kosten();
+  EXPECT_EQ(kosten(), tweede);
+}
+
+TEST_F(OpmSchrijvenTest, EenKettingDieEenAnderVerlengdeWordtOpnieuwGelopen) {
+  ASSERT_TRUE(Wijzig(1, {"een"}));
+  OpmLB77 ander(set.opslag, set.Persoon, set.Relatie);
+  ASSERT_TRUE(ander.SchrijfOpmerking(Regels({"twee"}), {}, 0, man, 0, 2, 23, 8));
+  ASSERT_TRUE(Wijzig(32, {"drie"}));
+  EXPECT_EQ(Teksten(8), Lijst{"twee"});
+  EXPECT_EQ(Teksten(32), Lijst{"drie"});
+  EXPECT_EQ(Lees(2).BijZelfde(), 3);
+  EXPECT_EQ(Lees(3).BijZelfde(), 4);
+}
