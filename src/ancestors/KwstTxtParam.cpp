@@ -31,7 +31,8 @@ std::array<JaNeeSleutel, 4> KwstTxtParam::Sleutels() {
 void KwstTxtParam::BijLaden() {
   Proband.Toon(hoofd_, opties_.KwProbandNr);
   Nummers.Laad();
-  BroerZusBox.ZetIndex(Getalwaarde(hoofd_.Ini.IniWaarde("KWST", "SoortUitv")) - 1);
+  const std::int32_t soort = Getalwaarde(hoofd_.Ini.IniWaarde("KWST", "SoortUitv"));
+  BroerZusBox.ZetIndex(soort > 0 ? soort - 1 : 0);
   if (BroerZusBox.Index() < 0) BroerZusBox.ZetIndex(0);
   for (const JaNeeSleutel& sleutel : Sleutels()) LeesKeuze(hoofd_.Ini, "KWST", sleutel);
   Titels.Laad(hoofd_.Ini, "KWST", "Kwartierstaat van " + Proband.Naam());

@@ -117,6 +117,25 @@ TEST_F(KwstParam, ChoicesAreKeptInTheSettings) {
   EXPECT_EQ(Verslag().find("Gemaakt met"), std::string::npos);
 }
 
+TEST_F(KwstParam, AKindOfOutputThatIsNoneIsTheFirst) {
+  for (const std::string_view waarde : {"", "0", "4", "x", "-99999999999", "99999999999"}) {
+    std::string ini(kIni);
+    ini.replace(ini.find("SoortUitv=1"), 11, "SoortUitv=" + std::string(waarde));
+    SchrijfBytes(Map() / "LIJNBOOM.INI", ini);
+    Speel("vul RecordNr 9\ndruk OKButton\ntoon BroerZusBox\nsluit\n", R"(
+      + KwstTxtPrs "Nummer Proband"
+      + KwstTxtParam "Kwartierstaat Uitvoeropties"
+      = BroerZusBox "Zonder Broers en Zussen"
+      #0 "Zonder Broers en Zussen"
+      #1 "Met Broers en Zussen van de Proband"
+      #2 "Met Alle Broers en Zussen"
+      - KwstTxtParam
+      - KwstTxtPrs
+    )");
+    EXPECT_EQ(gebleven_, -1) << waarde;
+  }
+}
+
 TEST_F(KwstParam, ChoicesAreForgottenWhenTheSettingsSaySo) {
   std::string ini(kIni);
   ini.replace(ini.find("OpslaanVelden=J"), 15, "OpslaanVelden=N");
