@@ -19,6 +19,14 @@ std::string Romeins(int generatie) {
   return RomeinsGetal(static_cast<std::int16_t>(generatie));
 }
 
+// Generations from the proband to the first entry that is written; 0 when none is.
+int AfstandVanEerste(const KwstTabel& tabel, const Kwartiernummer& vanaf) {
+  for (int i = 0; i < tabel.KwstAantal(); ++i) {
+    if (tabel.KwNummer(i).Vanaf(vanaf)) return tabel.Generatie(i);
+  }
+  return 0;
+}
+
 // The letter of a child slot: "a" to "z", then "aa", "ab" ...
 std::string KindLetter(int plaats) {
   if (plaats <= 26) return std::string(1, static_cast<char>('a' + plaats - 1));
@@ -37,6 +45,7 @@ KwstSchrijver::KwstSchrijver(const KwstTabel& tabel, const KwstOpties& opties,
       uit_(uit),
       verloop_(verloop),
       beginGen_(opties.KwBeginNr.Generatie()),
+      eersteGen_(beginGen_ + AfstandVanEerste(tabel, opties.KwVanafNr)),
       maxGen_(std::min(opties.KwMaxGen, tabel.KwNummer(tabel.KwstAantal() - 1).Generatie())),
       huidigeGen_(beginGen_) {}
 
@@ -56,12 +65,11 @@ KwstUitslag KwstSchrijver::Schrijf() {
 }
 
 void KwstSchrijver::SchrijfGeneratieKop(int generatie) {
-  const int eersteGen = opties_.KwVanafNr.Generatie();
   const auto link = [](int gen) {
     return Verwijzing(Romeins(gen), "(Generatie " + Romeins(gen) + ")");
   };
   if (opties_.KwInHTML) uit_.Vast("<HR><H4>");
-  if (generatie > eersteGen) {
+  if (generatie > opties_.KwVanafNr.Generatie()) {
     uit_.LegeRegel();
     uit_.LegeRegel();
   }
@@ -71,7 +79,7 @@ void KwstSchrijver::SchrijfGeneratieKop(int generatie) {
     return;
   }
   uit_.Vast(Anker(Romeins(generatie)));
-  if (generatie > eersteGen) uit_.Vast(link(generatie - 1));
+  if (generatie > eersteGen_) uit_.Vast(link(generatie - 1));
   if (generatie < maxGen_) uit_.Vast(link(generatie + 1));
   uit_.VolleRegel("</H4>");
   uit_.LegeRegel();
@@ -140,7 +148,7 @@ bool KwstSchrijver::SchrijfKinderen(const Kindtab& kinderen, std::int16_t nietDe
                                     bool vanProband) {
   for (int plaats = 1; plaats < static_cast<int>(kinderen.size()); ++plaats) {
     const std::int16_t kind = kinderen[static_cast<std::size_t>(plaats)];
-    if (kind <= 0 || (kind == nietDeze && !vanProband)) continue;
+    if (kind <= 0 || (kind == nietDeze && kind != opties_.KwProbandNr)) continue;
     if (!bronnen_.persoon.Lees(kind)) return true;  // ends the list, not the report
     if (!SchrijfKind(plaats, kind, vanProband)) return false;
   }

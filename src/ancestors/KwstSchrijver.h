@@ -78,6 +78,7 @@ class KwstSchrijver {
   TekstSchrijver& uit_;
   const KwstVerloop& verloop_;
   int beginGen_;
+  int eersteGen_;  // of the first entry that is written; a heading links no further back
   int maxGen_;
   int huidigeGen_;
   int linkIndex_ = 1;  // the next entry whose link to it has not been written

@@ -1,54 +1,11 @@
 #include <gtest/gtest.h>
 
-#include "ancestors/KwstFamilie.h"
 #include "ancestors/KwstSchrijver.h"
-#include "output/TekstSchrijver.h"
+#include "ancestors/KwstSchrijverToets.h"
 #include "steun/Gouden.h"
-#include "steun/ProefSet.h"
 
 namespace lb77 {
 namespace {
-
-class KwstSchrijverToets : public ::testing::Test {
- protected:
-  KwstSchrijverToets() { set_.schrijfwijze.gezindten[1] = "NHNederlands Hervormd"; }
-
-  KwstUitslag Bereken(std::int16_t proband) {
-    opties_.KwProbandNr = proband;
-    return BouwKwst(tabel_, opties_, set_.Persoon, set_.Relatie, set_.volgers, verloop_);
-  }
-  // Computes and writes; the file is in uit_ afterwards, with plain line ends.
-  KwstUitslag Schrijf(std::int16_t proband) {
-    EXPECT_EQ(Bereken(proband), KwstUitslag::Klaar);
-    return SchrijfTabel();
-  }
-  KwstUitslag SchrijfTabel() {
-    ZinOpties zin;
-    zin.ookOpm = opties_.KwOokOpm;
-    zin.ookNrs = opties_.KwOokNrs;
-    zin.inHTML = opties_.KwInHTML;
-    TekstSchrijver schrijver;
-    EXPECT_TRUE(schrijver.Open(set_.map / "uit.txt"));
-    schrijver.ZetRechterMarge(opties_.KwInHTML ? TekstSchrijver::kGeenRechterMarge : 78);
-    const ZinBronnen bronnen{set_.Persoon,   set_.Relatie, set_.Plaats,
-                             set_.Opmerking, set_.volgers, set_.schrijfwijze};
-    const KwstUitslag uitslag =
-        KwstSchrijver(tabel_, opties_, bronnen, zin, schrijver, verloop_).Schrijf();
-    EXPECT_TRUE(schrijver.Sluit());
-    uit_ = LeesBytes(set_.map / "uit.txt");
-    return uitslag;
-  }
-  KwstFamilie Familie() { return BouwKwstFamilie(set_.bouw); }
-  [[nodiscard]] bool Bevat(std::string_view tekst) const {
-    return uit_.find(tekst) != std::string::npos;
-  }
-
-  ProefSet set_;
-  KwstTabel tabel_;
-  KwstOpties opties_;
-  KwstVerloop verloop_{[] { return false; }, [](int, int) {}};
-  std::string uit_;
-};
 
 TEST_F(KwstSchrijverToets, TellsAFamilyAsText) {
   EXPECT_EQ(Schrijf(Familie().proband), KwstUitslag::Klaar);
