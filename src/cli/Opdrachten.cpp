@@ -168,6 +168,25 @@ void VulParam(Bediener& bediener, Formulier& form, const OpdrachtArgumenten& arg
   if (bediener.Status() == 0) werk.Druk("OKButton");
 }
 
+// The samples of the link dialog are for who sees it: here a link is told only when the settings
+// have it.
+void AanvaardLinks(Bediener& bediener, Formulier& form, const IniClass& ini) {
+  struct LinkVeld {
+    std::string_view veld;
+    std::string_view tag;
+  };
+  constexpr LinkVeld kVelden[] = {{"EmailAdres", "Email"},
+                                  {"EmailTekst", "EmailLabel"},
+                                  {"HomePageURL", "HomePage"},
+                                  {"URLTekstTekst", "HomePageLink"},
+                                  {"URLLabelTekst", "HomePageLabel"}};
+  Werk werk(bediener, form);
+  for (const LinkVeld& veld : kVelden) {
+    if (ini.IniWaarde("INTERNET", veld.tag).empty()) werk.Zet(veld.veld, "");
+  }
+  werk.Druk("OKButton");
+}
+
 int MaakRapport(const Rapport& rapport, const Omgeving& omgeving,
                 const OpdrachtArgumenten& argumenten) {
   Sessie sessie(omgeving);
@@ -179,7 +198,9 @@ int MaakRapport(const Rapport& rapport, const Omgeving& omgeving,
     if (bediener.Status() == 0) werk.Druk("OKButton");
   });
   bediener.Bij(rapport.param, [&](Formulier& form) { VulParam(bediener, form, argumenten); });
-  bediener.Bij(rapport.htmlParam, [&](Formulier& form) { Werk(bediener, form).Druk("OKButton"); });
+  bediener.Bij(rapport.htmlParam, [&](Formulier& form) {
+    AanvaardLinks(bediener, form, sessie.programma.Hoofd().Ini);
+  });
   bediener.Bij("ToonTekst", [&](Formulier& form) {
     const auto* toon = dynamic_cast<ToonTekst*>(&form);
     if (!toon) return;

@@ -118,6 +118,9 @@ TEST_F(OpdrachtenToets, AReportInHTMLPassesTheLinkDialog) {
   EXPECT_EQ(Doe("kwartierstaat", argumenten), 0) << fout_;
   EXPECT_EQ(uit_.rfind("<HTML>\n", 0), 0U);
   EXPECT_NE(uit_.find("geb. K&ouml;ln"), std::string::npos);
+  // The samples of that dialog are for who sees it.
+  EXPECT_EQ(uit_.find("example.org"), std::string::npos);
+  EXPECT_EQ(LeesBytes(map_ / "LIJNBOOM.INI").find("example.org"), std::string::npos);
 }
 
 TEST_F(OpdrachtenToets, ZetSetsFieldsAndChoicesOfTheParameterDialog) {
