@@ -5,6 +5,9 @@
 namespace lb77 {
 namespace {
 
+// Record 1 tells about its file; it is nobody.
+constexpr std::int16_t kEerstePersoon = 2;
+
 struct Ouders {
   bool gelezen = true;
   std::int16_t vader = 0;
@@ -61,7 +64,9 @@ bool KwstTabel::VoegToe(std::int16_t persoon, int kind, bool moeder) {
 KwstUitslag BouwKwst(KwstTabel& tabel, const KwstOpties& opties, PersoonLB77& persoon,
                      RelatieLB77& relatie, Volgers& volgers, const KwstVerloop& verloop) {
   volgers.HuidigPersoonNr = opties.KwProbandNr;
-  if (!persoon.Lees(opties.KwProbandNr)) return Leesfout(volgers);
+  if (opties.KwProbandNr < kEerstePersoon || !persoon.Lees(opties.KwProbandNr)) {
+    return Leesfout(volgers);
+  }
   tabel.Begin(opties.KwProbandNr, persoon.Geslacht() == "M", opties.KwBeginNr);
   const int beginGeneratie = opties.KwBeginNr.Generatie();
   volgers.HuidigPersoonNr = 0;

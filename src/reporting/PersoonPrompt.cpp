@@ -8,6 +8,12 @@
 #include "text/Tekens.h"
 
 namespace lb77 {
+namespace {
+
+constexpr std::int16_t kAdminNr = 1;
+constexpr std::string_view kOnleesbaar = "?????";
+
+}  // namespace
 
 PersoonPrompt::PersoonPrompt(const PersoonPromptSoort& soort, Hoofdmodule& hoofd)
     : Formulier(soort.naam, soort.titel),
@@ -53,6 +59,7 @@ void PersoonPrompt::ToonNamen(std::int16_t nr) {
   std::string achter;
   std::string tekst;
   HaalNaam(hoofd_.Persoon, nr, voor, achter, tekst);
+  if (nr == kAdminNr) voor = achter = kOnleesbaar;  // it can be read, but is nobody
   VoorNm.ZetTekst(voor);
   AchterNm.ZetTekst(achter);
 }

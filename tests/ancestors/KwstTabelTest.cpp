@@ -153,6 +153,12 @@ TEST_F(KwstTabelToets, AnUnreadableProbandIsAFailedRead) {
   EXPECT_EQ(set_.volgers.HuidigPersoonNr, -1);
 }
 
+TEST_F(KwstTabelToets, TheRecordAboutTheFileIsNoProband) {
+  EXPECT_EQ(Bouw(1), KwstUitslag::Leesfout);
+  EXPECT_EQ(Bouw(0), KwstUitslag::Leesfout);
+  EXPECT_EQ(set_.volgers.HuidigPersoonNr, -1);
+}
+
 TEST_F(KwstTabelToets, AnUnreadableParentEndsTheRun) {
   const auto kind = set_.bouw.Man("Kind", "A");
   const auto relatie = set_.bouw.Relatie(0, 0, {kind});

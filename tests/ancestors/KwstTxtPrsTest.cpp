@@ -71,6 +71,62 @@ TEST_F(KwstPrompt, AnUnknownNumberShowsQuestionMarksAndEndsInTheComputation) {
   EXPECT_EQ(gebleven_, -1);
 }
 
+TEST_F(KwstPrompt, TheRecordAboutTheFileIsNobody) {
+  Speel(R"(
+      vul RecordNr 1
+      toon VoorNm
+      toon AchterNm
+      druk OKButton
+      druk OKButton
+      druk OKButton
+    )",
+        R"(
+      + KwstTxtPrs "Nummer Proband"
+      = VoorNm "?????"
+      = AchterNm "?????"
+      + KwstTxtParam "Kwartierstaat Uitvoeropties"
+      - KwstTxtParam
+      + KwstBereken "Opbouwen Kwartierstaat"
+      - KwstBereken
+      - KwstTxtPrs
+    )");
+  EXPECT_EQ(gebleven_, -1);
+}
+
+TEST_F(KwstPrompt, ANameThatNobodyHasIsToldAndAsksForANumber) {
+  Speel(R"(
+      vul AchterNm Niemand
+      druk OKButton
+      toon AchterNm
+      toets Escape
+    )",
+        R"(
+      + KwstTxtPrs "Nummer Proband"
+      ! uitroep "Persoon niet gevonden"
+      ! uitroep "Geen Persoonsnummer opgegeven"
+      = AchterNm "Niemand"
+      - KwstTxtPrs
+    )");
+  EXPECT_EQ(gebleven_, -1);
+}
+
+TEST_F(KwstPrompt, EnterMovesOn) {
+  Speel(R"(
+      vul RecordNr 9
+      toets RecordNr Enter
+      toets Enter
+      toets Enter
+      toets Enter
+      toets Escape
+    )",
+        R"(
+      + KwstTxtPrs "Nummer Proband"
+      + KwstTxtParam "Kwartierstaat Uitvoeropties"
+      - KwstTxtParam
+      - KwstTxtPrs
+    )");
+}
+
 TEST_F(KwstPrompt, ATooHighNumberIsRefused) {
   Speel(R"(
       vul RecordNr 40000
