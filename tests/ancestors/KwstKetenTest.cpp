@@ -86,6 +86,153 @@ TEST_F(KwstKeten, AStopThatIsTakenBackGoesOn) {
       - KwstBereken
       - KwstTxtPrs
     )");
+  EXPECT_EQ(gebleven_, -1);
+}
+
+TEST_F(KwstKeten, AStopOfTheWritingShowsNoReport) {
+  // The computation tests for it at each of its eight entries, the writing at each couple.
+  for (const std::string_view weg : {"druk OKButton", "druk BackButton", "toets Escape", "sluit"}) {
+    Speel(R"(
+        vul RecordNr 9
+        druk OKButton
+        onderbreek 10
+        antwoord Ja
+        druk OKButton
+        toon Kwartieren
+        )" + std::string(weg),
+          R"(
+        + KwstTxtPrs "Nummer Proband"
+        + KwstTxtParam "Kwartierstaat Uitvoeropties"
+        - KwstTxtParam
+        + KwstBereken "Opbouwen Kwartierstaat"
+        - KwstBereken
+        + KwstMaakTemp "Kwartierstaat Schrijven"
+        ? vraag Ja/Nee "Opbouw Afbreken ?" -> Ja
+        = Kwartieren "1"
+        - KwstMaakTemp
+        - KwstTxtPrs
+      )");
+    EXPECT_EQ(gebleven_, -1) << weg;
+    EXPECT_NE(Verslag().find("Femke"), std::string::npos);
+    EXPECT_EQ(Verslag().find("Adriaan"), std::string::npos);
+  }
+}
+
+TEST_F(KwstKeten, AStopOfTheWritingThatIsTakenBackShowsTheReport) {
+  Speel(R"(
+      vul RecordNr 9
+      druk OKButton
+      onderbreek 10
+      antwoord Nee
+      druk OKButton
+      druk BackButton
+    )",
+        R"(
+      + KwstTxtPrs "Nummer Proband"
+      + KwstTxtParam "Kwartierstaat Uitvoeropties"
+      - KwstTxtParam
+      + KwstBereken "Opbouwen Kwartierstaat"
+      - KwstBereken
+      + KwstMaakTemp "Kwartierstaat Schrijven"
+      ? vraag Ja/Nee "Opbouw Afbreken ?" -> Nee
+      - KwstMaakTemp
+      + ToonTekst "Kwartierstaat in Tekstvorm"
+      - ToonTekst
+      - KwstTxtPrs
+    )");
+  EXPECT_EQ(gebleven_, 0);
+  EXPECT_NE(Verslag().find("Klaas Cool"), std::string::npos);
+}
+
+// Each way out of each form before the work begins.
+TEST_F(KwstKeten, EveryWayBackStopsTheChain) {
+  for (const std::string_view weg : {"druk BackButton", "toets Escape", "sluit"}) {
+    const std::string terug = std::string(weg) + "\n";
+    gebleven_ = 0;
+    Speel(terug, "+ KwstTxtPrs \"Nummer Proband\"\n- KwstTxtPrs\n");
+    EXPECT_EQ(gebleven_, -1) << weg;
+    gebleven_ = 0;
+    Speel("vul RecordNr 9\ndruk OKButton\n" + terug, R"(
+      + KwstTxtPrs "Nummer Proband"
+      + KwstTxtParam "Kwartierstaat Uitvoeropties"
+      - KwstTxtParam
+      - KwstTxtPrs
+    )");
+    EXPECT_EQ(gebleven_, -1) << weg;
+    gebleven_ = 0;
+    Speel("vul RecordNr 9\ndruk OKButton\nstel InHTMLBox Ja\ndruk OKButton\n" + terug, R"(
+      + KwstTxtPrs "Nummer Proband"
+      + KwstTxtParam "Kwartierstaat Uitvoeropties"
+      - KwstTxtParam
+      + KwHTMLParam "Kwartierstaat Uitvoeropties voor Internet"
+      - KwHTMLParam
+      - KwstTxtPrs
+    )");
+    EXPECT_EQ(gebleven_, -1) << weg;
+    EXPECT_EQ(Verslag(), "") << weg;
+  }
+}
+
+// The computation has met a person who can't be read: however it is left, no report follows.
+TEST_F(KwstKeten, EveryWayOutOfAFailedComputationStopsTheChain) {
+  Bouw().WijzigPersoon(familie_.vader, {{"Ouders", "99"}});
+  for (const std::string_view weg : {"druk OKButton", "druk BackButton", "toets Escape", "sluit"}) {
+    gebleven_ = 0;
+    Speel("vul RecordNr 9\ndruk OKButton\ndruk OKButton\n" + std::string(weg) + "\n", R"(
+      + KwstTxtPrs "Nummer Proband"
+      + KwstTxtParam "Kwartierstaat Uitvoeropties"
+      - KwstTxtParam
+      + KwstBereken "Opbouwen Kwartierstaat"
+      - KwstBereken
+      - KwstTxtPrs
+    )");
+    EXPECT_EQ(gebleven_, -1) << weg;
+  }
+}
+
+TEST_F(KwstKeten, AFailedReadOfTheWritingShowsNoReport) {
+  const auto relatie = Bouw().Relatie(familie_.proband, 0);
+  Bouw().WijzigRelatie(relatie, {{"VrouwNr", "500"}});
+  Speel(R"(
+      vul RecordNr 9
+      druk OKButton
+      druk OKButton
+    )",
+        R"(
+      + KwstTxtPrs "Nummer Proband"
+      + KwstTxtParam "Kwartierstaat Uitvoeropties"
+      - KwstTxtParam
+      + KwstBereken "Opbouwen Kwartierstaat"
+      - KwstBereken
+      + KwstMaakTemp "Kwartierstaat Schrijven"
+      - KwstMaakTemp
+      - KwstTxtPrs
+    )");
+  EXPECT_EQ(gebleven_, -1);
+}
+
+TEST_F(KwstKeten, OneGenerationIsTheProbandAndIsShown) {
+  Speel(R"(
+      vul RecordNr 9
+      druk OKButton
+      vul MaxGen 1
+      druk OKButton
+      sluit
+    )",
+        R"(
+      + KwstTxtPrs "Nummer Proband"
+      + KwstTxtParam "Kwartierstaat Uitvoeropties"
+      - KwstTxtParam
+      + KwstBereken "Opbouwen Kwartierstaat"
+      - KwstBereken
+      + KwstMaakTemp "Kwartierstaat Schrijven"
+      - KwstMaakTemp
+      + ToonTekst "Kwartierstaat in Tekstvorm"
+      - ToonTekst
+      - KwstTxtPrs
+    )");
+  EXPECT_EQ(gebleven_, 0);
+  EXPECT_EQ(Verslag().find("Generatie II"), std::string::npos);
 }
 
 TEST_F(KwstKeten, ATemporaryFileThatCannotBeMadeStopsTheChain) {
