@@ -50,7 +50,7 @@ class ImpLoop {
   void TelRegel();
   /// Notes a line of level 0: its count and the context of log lines. The number of its record
   /// becomes PersoonNr or RelatieNr.
-  GedSoort Kop(const GedDelen& delen);
+  GedSoort Kop(const GedDelen& regel);
 
   /// The records that the last INDI and FAM lines of this pass stand for; 0 before the first.
   [[nodiscard]] std::int16_t PersoonNr() const { return persoonNr_; }

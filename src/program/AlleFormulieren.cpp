@@ -54,7 +54,7 @@ Hoofdmodule& OpVoorbeeld(Programma& programma) {
 }
 
 std::filesystem::path VoorbeeldTekst(Hoofdmodule& hoofd) {
-  const std::filesystem::path pad = hoofd.Ini.TempDir() / "KWSTDATA.TMP";
+  std::filesystem::path pad = hoofd.Ini.TempDir() / "KWSTDATA.TMP";
   std::ofstream(pad, std::ios::binary) << "Generatie I\r\n\r\n     1  Voorbeeld.\r\n";
   return pad;
 }
