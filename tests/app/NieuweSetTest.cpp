@@ -1,5 +1,6 @@
 #include "app/NieuweSet.h"
 #include "app/SessieToets.h"
+#include "app/ZonderRechten.h"
 #include "steun/FaalBestand.h"
 
 namespace lb77 {
@@ -118,6 +119,31 @@ TEST_F(NieuweSetVenster, OudeBestandenWordenOvergenomen) {
             = Statusbalk "Actieve bestandenset: OUD")");
   EXPECT_EQ(Inhoud("DATA/OUD/OUD.PRS"), "oude personen");
   EXPECT_EQ(Inhoud("DATA/OUD/OUD.PLT").size(), 27U);
+}
+
+TEST_F(NieuweSetVenster, OudeBestandenOnderEenAndereKastWordenOokOvergenomen) {
+  MaakSet("OUD");
+  std::filesystem::remove(map_ / "DATA/OUD/OUD.PRS");
+  Schrijf("DATA/OUD/oud.prs", "oude personen");
+  Speelt("vul SetNaam OUD\ndruk OKButton",
+         R"(- NieuweSet
+            = Statusbalk "Actieve bestandenset: OUD")");
+  EXPECT_EQ(Inhoud("DATA/OUD/oud.prs"), "oude personen");
+  EXPECT_FALSE(Bestaat("DATA/OUD/OUD.PRS"));
+}
+
+TEST_F(NieuweSetVenster, EenBestandDatNietGemaaktKanWordenHeeftZijnMelding) {
+  std::filesystem::create_directories(map_ / "DATA/ABC/TEKST");
+  {
+    const ZonderRechten rechten(map_ / "DATA/ABC");
+    Speelt(
+        "vul SetNaam ABC\ndruk OKButton",
+        R"~(! stop "Fout bij het openen van het Persoonsbestand (<map>/DATA/ABC/ABC.PRS, 70 Geen toegang)"
+            - NieuweSet
+            = Statusbalk "Actieve bestandenset: <geen bestandenset actief>")~");
+  }
+  EXPECT_FALSE(Bestaat("DATA/ABC/ABC.PRS"));
+  EXPECT_EQ(Ini().find("ABC"), std::string::npos);
 }
 
 TEST_F(NieuweSetVenster, ZonderNaamIsErGeenSetActief) {
