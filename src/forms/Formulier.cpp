@@ -1,6 +1,8 @@
 #include "forms/Formulier.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <iterator>
 
 namespace lb77 {
 
@@ -27,7 +29,7 @@ bool Formulier::Laad() {
 
 void Formulier::Activeer() {
   BijActiveren();
-  if (gesloten_ || focus_ || !eersteVeld_ || !Bereikbaar(*eersteVeld_)) return;
+  if (gesloten_ || verborgen_ || focus_ || !eersteVeld_ || !Bereikbaar(*eersteVeld_)) return;
   Betreed(*eersteVeld_);
 }
 
@@ -63,7 +65,7 @@ void Formulier::Betreed(Bediening& bediening) {
 }
 
 void Formulier::ZetFocus(Bediening& bediening) {
-  if (Bereikbaar(bediening)) Betreed(bediening);
+  if (focus_ != &bediening && Bereikbaar(bediening)) Betreed(bediening);
 }
 
 bool Formulier::VerlaatVeld() {
@@ -87,6 +89,12 @@ bool Formulier::GaNaar(Bediening& bediening) {
   if (!Bereikbaar(bediening)) return false;
   Betreed(bediening);
   return true;
+}
+
+// To the neighbour, sought behind the leave check: that may have hidden or shown some.
+void Formulier::GaVerder(const Bediening* van, int stap) {
+  if (!Buur(van, stap) || !VerlaatVeld() || gesloten_ || focus_) return;
+  if (Bediening* buur = Buur(van, stap)) Betreed(*buur);
 }
 
 // What a click does before anything happens: it leaves the field. Menus take no focus; the button
@@ -171,7 +179,7 @@ bool Formulier::StandaardToets(Bediening* doel, const ToetsGebeurtenis& toets) {
       VraagSluiten();
       return true;
     case toets::kTab:
-      if (Bediening* buur = Buur(doel, toets.shift ? -1 : 1)) GaNaar(*buur);
+      GaVerder(doel, toets.shift ? -1 : 1);
       return true;
     case toets::kEnter:
     case toets::kNumEnter:
@@ -192,8 +200,26 @@ bool Formulier::SpatieIn(Bediening& bediening) {
   return drukbaar;
 }
 
+// The arrows walk through the options of one group, and choose on their way.
+bool Formulier::OptieToets(Optie& optie, int code) {
+  const bool verder = code == toets::kOmlaag || code == toets::kRechts;
+  if (!verder && code != toets::kOmhoog && code != toets::kLinks) return false;
+  std::vector<Bediening*> groep;
+  std::copy_if(bedieningen_.begin(), bedieningen_.end(), std::back_inserter(groep), [&](auto* een) {
+    const auto* ander = dynamic_cast<const Optie*>(een);
+    return ander && ander->Groep() == optie.Groep() && ander->Bruikbaar();
+  });
+  const auto hier = std::find(groep.begin(), groep.end(), &optie);
+  if (hier == groep.end() || groep.size() < 2) return true;
+  const auto aantal = static_cast<std::ptrdiff_t>(groep.size());
+  const std::ptrdiff_t doel = ((hier - groep.begin()) + (verder ? 1 : aantal - 1)) % aantal;
+  Klik(*groep[static_cast<std::size_t>(doel)]);
+  return true;
+}
+
 // The arrows and their like choose in a list.
 bool Formulier::KeuzeToets(Bediening& bediening, int code) {
+  if (auto* const optie = dynamic_cast<Optie*>(&bediening)) return OptieToets(*optie, code);
   auto* const lijst = dynamic_cast<Lijst*>(&bediening);
   if (!lijst) return false;
   const int laatste = static_cast<int>(lijst->Rijen().size()) - 1;
@@ -219,8 +245,8 @@ bool Formulier::EnterIn(Bediening& bediening) {
   if (!veld) {
     if (bediening.Soort() == BedieningSoort::Knop) {
       Klik(bediening);
-    } else if (Bediening* buur = Buur(&bediening, 1)) {
-      GaNaar(*buur);
+    } else {
+      GaVerder(&bediening, 1);
     }
     return true;
   }
@@ -230,7 +256,7 @@ bool Formulier::EnterIn(Bediening& bediening) {
       if (!Controleer(bediening)) focus_ = &bediening;
       break;
     case EnterSoort::Door:
-      if (Bediening* buur = Buur(&bediening, 1)) GaNaar(*buur);
+      GaVerder(&bediening, 1);
       break;
     case EnterSoort::OK:
       if (Bediening* ok = Zoek("OKButton")) Klik(*ok);

@@ -20,7 +20,7 @@ namespace lb77 {
 // Focus: at most one control has it. Leaving a control by the user runs its leave check; when that
 // fails the focus stays and whatever caused the leaving is swallowed. BackButton, CancelButton,
 // Escape and the frame run no leave check. Moving the focus from code runs no leave check, and the
-// entered event of the new control. A control that is hidden or disabled meanwhile is left unchecked.
+// entered event of the new control, unless it had the focus already. A control that is hidden or disabled meanwhile is left unchecked.
 // What arrives while a leave check runs (its own boxes move a toolkit's focus) is swallowed.
 class Formulier {
  public:
@@ -108,7 +108,7 @@ class Formulier {
   void Verberg() { verborgen_ = true; }
   // The field that gets the focus behind the activated event.
   void ZetEersteVeld(Bediening& bediening) { eersteVeld_ = &bediening; }
-  // Moves the focus from code.
+  // Moves the focus from code. A control that has it already is not entered again.
   void ZetFocus(Bediening& bediening);
   void ZetBezig(bool bezig) { bezig_ = bezig; }
   void WisStop() { stop_ = false; }
@@ -124,11 +124,13 @@ class Formulier {
   [[nodiscard]] bool Verstoord(const Bediening& bediening);
   [[nodiscard]] bool Pak(Bediening& bediening);
   void Betreed(Bediening& bediening);
+  void GaVerder(const Bediening* van, int stap);
   void Schakel(Bediening& bediening);
   void MeldWijziging(Bediening& bediening);
   [[nodiscard]] bool EnterIn(Bediening& bediening);
   [[nodiscard]] bool SpatieIn(Bediening& bediening);
   [[nodiscard]] bool KeuzeToets(Bediening& bediening, int code);
+  [[nodiscard]] bool OptieToets(Optie& optie, int code);
   [[nodiscard]] bool StandaardToets(Bediening* doel, const ToetsGebeurtenis& toets);
 
   std::string naam_;

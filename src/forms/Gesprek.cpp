@@ -9,7 +9,7 @@ void Gesprek::ToonModaal(Formulier& formulier) {
   Open(formulier);
   try {
     formulier.Activeer();
-    if (!formulier.Gesloten()) Voer(formulier);
+    if (!formulier.Gesloten() && !formulier.Verborgen()) Voer(formulier);
   } catch (...) {
     Dicht(formulier);  // no window may outlive its form
     throw;

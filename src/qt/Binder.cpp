@@ -146,12 +146,17 @@ void Binder::Toon() {
 void Binder::Voer() {
   --diepte_;
   Bijwerken();
-  if (!formulier_.Gesloten() && !fout_) lus_.exec();
+  if (!Afgelopen()) lus_.exec();
   if (fout_) std::rethrow_exception(std::exchange(fout_, nullptr));
 }
 
+// A form that is still hidden when its handler is done can be reached by nobody.
+bool Binder::Afgelopen() const {
+  return formulier_.Gesloten() || fout_ || (formulier_.Verborgen() && diepte_ == 0);
+}
+
 void Binder::Bijwerken() {
-  if (formulier_.Gesloten() || fout_) {
+  if (Afgelopen()) {
     lus_.quit();
     return;
   }

@@ -66,10 +66,10 @@ class Binder final : public QObject, private Bezorger, private Vensterhouder {
   /// Runs one of the form's operations, keeps what it throws, and brings the window up to date.
   void Verwerk(const std::function<void()>& doe);
   [[nodiscard]] bool Geblokkeerd() const;
+  [[nodiscard]] bool Afgelopen() const;
   /// True when the key needs nothing more.
   bool VerwerkToets(Element* element, const QKeyEvent& toets);
-  bool EigenToets(Element& element, int code, const QKeyEvent& toets);
-  bool KiesBuuroptie(const Bediening& van, int stap);
+  bool EigenToets(Element& element, const QKeyEvent& toets);
   bool Blader(int code);
   /// Asks the form for the focus; True when it now has it.
   bool GaNaar(Element& element);

@@ -6,9 +6,6 @@
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QScrollBar>
-#include <algorithm>
-#include <cstddef>
-#include <vector>
 
 #include "qt/Binder.h"
 #include "qt/Bladzijde.h"
@@ -27,9 +24,9 @@ bool IsLijst(BedieningSoort soort) {
   return soort == BedieningSoort::Keuzevak || soort == BedieningSoort::Keuzelijst;
 }
 
-bool IsEenmalig(const QKeyEvent& toets) {
-  return toets.key() == Qt::Key_Return || toets.key() == Qt::Key_Enter ||
-         toets.key() == Qt::Key_Escape;
+bool IsDrukbaar(BedieningSoort soort) {
+  return soort == BedieningSoort::Knop || soort == BedieningSoort::Optie ||
+         soort == BedieningSoort::Vinkje;
 }
 
 // The user's own moves; the toolkit's other reasons are windows and menus that come and go.
@@ -93,25 +90,28 @@ bool Binder::GaNaar(Element& element) {
 
 bool Binder::VerwerkToets(Element* element, const QKeyEvent& toets) {
   const auto gebeurtenis = NaarToets(toets);
-  if (!gebeurtenis) return IsEenmalig(toets) || IsAlt(toets);
+  if (!gebeurtenis) {
+    const bool alt = toets.modifiers().testFlag(Qt::AltModifier);  // Alt+F4 is the window's own
+    return (IsEenmalig(toets) && !alt) || IsAlt(toets);
+  }
   if (Geblokkeerd()) return true;
+  // A blank that is held presses once.
+  const bool drukbaar = element && IsDrukbaar(element->Bron().Soort());
+  if (drukbaar && gebeurtenis->code == toets::kSpatie && toets.isAutoRepeat()) return true;
   if (Blader(gebeurtenis->code)) return true;
   bool klaar = false;
   Verwerk([&] { klaar = formulier_.Toets(element ? &element->Bron() : nullptr, *gebeurtenis); });
   if (klaar || formulier_.Gesloten() || fout_) return true;
-  if (element && EigenToets(*element, gebeurtenis->code, toets)) return true;
+  if (element && EigenToets(*element, toets)) return true;
   return false;
 }
 
 // A key that the form leaves to the control.
-bool Binder::EigenToets(Element& element, int code, const QKeyEvent& toets) {
+bool Binder::EigenToets(Element& element, const QKeyEvent& toets) {
   const QString tekst = GetypteTekst(toets);
   if (!tekst.isEmpty() && element.Typ(tekst)) return true;
   switch (element.Bron().Soort()) {
     case BedieningSoort::Optie:
-      if (code == toets::kOmlaag || code == toets::kRechts) return KiesBuuroptie(element.Bron(), 1);
-      if (code == toets::kOmhoog || code == toets::kLinks) return KiesBuuroptie(element.Bron(), -1);
-      return true;
     case BedieningSoort::Knop:
     case BedieningSoort::Vinkje:
       return true;
@@ -128,22 +128,6 @@ bool Binder::EigenToets(Element& element, int code, const QKeyEvent& toets) {
       return false;
   }
   return false;
-}
-
-// The arrows walk through the options of one group.
-bool Binder::KiesBuuroptie(const Bediening& van, int stap) {
-  std::vector<Bediening*> groep;
-  for (Bediening* een : formulier_.Bedieningen()) {
-    if (een->Soort() != BedieningSoort::Optie || !een->Bruikbaar()) continue;
-    const auto& optie = static_cast<const Optie&>(*een);
-    if (optie.Groep() == static_cast<const Optie&>(van).Groep()) groep.push_back(een);
-  }
-  const auto hier = std::find(groep.begin(), groep.end(), &van);
-  if (hier == groep.end() || groep.size() < 2) return true;
-  const auto aantal = static_cast<std::ptrdiff_t>(groep.size());
-  const std::ptrdiff_t doel = ((hier - groep.begin()) + stap + aantal) % aantal;
-  Klik(*groep[static_cast<std::size_t>(doel)]);
-  return true;
 }
 
 // A sheet that is higher than its window scrolls first; at its edge the key goes to the form, which

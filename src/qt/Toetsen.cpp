@@ -58,6 +58,12 @@ bool IsAfdrukbaar(const QString& tekst) {
 
 }  // namespace
 
+bool IsEenmalig(const QKeyEvent& toets) {
+  const int qt = toets.key();
+  return qt == Qt::Key_Return || qt == Qt::Key_Enter || qt == Qt::Key_Escape ||
+         (qt >= Qt::Key_F1 && qt <= Qt::Key_F12);
+}
+
 bool IsAlt(const QKeyEvent& toets) {
   return IsOpdracht(toets) && toets.modifiers().testFlag(Qt::AltModifier) &&
          IsAfdrukbaar(toets.text());
@@ -76,7 +82,7 @@ std::optional<ToetsGebeurtenis> NaarToets(const QKeyEvent& toets) {
   if (IsOpdracht(toets) || (uit.code == 0 && tekst.isEmpty())) return std::nullopt;
   const bool enter = uit.code == toets::kEnter || uit.code == toets::kNumEnter;
   if (enter) uit.teken = '\n';
-  if ((enter || uit.code == toets::kEscape) && toets.isAutoRepeat()) return std::nullopt;
+  if (IsEenmalig(toets) && toets.isAutoRepeat()) return std::nullopt;
   return uit;
 }
 

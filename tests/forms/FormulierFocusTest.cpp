@@ -125,6 +125,19 @@ TEST_F(FormulierFocusTest, FocusVanuitCodeNaarWatNietKanDoetNiets) {
   EXPECT_TRUE(InNaam1());
 }
 
+// What a field kept when it was entered (an old text to compare with) must outlive a refusal.
+TEST_F(FormulierFocusTest, FocusVanuitCodeNaarWieHemAlHeeftBetreedtNietNogEens) {
+  formulier_.ZetFocus(formulier_.Naam1);
+  EXPECT_TRUE(InNaam1());
+  formulier_.Naam1.BijVerlaten([&] {
+    formulier_.ZetFocus(formulier_.Naam1);
+    return false;
+  });
+  EXPECT_FALSE(formulier_.Klik(formulier_.OKButton));
+  EXPECT_TRUE(InNaam1());
+  EXPECT_THAT(formulier_.dagboek, IsEmpty());
+}
+
 TEST_F(FormulierFocusTest, GaatNietNaarWatGeenFocusKanHebben) {
   formulier_.Naam2.ZetAlleenLezen(true);
   EXPECT_FALSE(formulier_.GaNaar(formulier_.Naam2));

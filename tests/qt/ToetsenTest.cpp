@@ -70,9 +70,11 @@ TEST(Toetsen, CombinationsAndModifiersAreNoBusinessOfAForm) {
   EXPECT_FALSE(NaarToets(Druk(Qt::Key_F4, Qt::AltModifier)));
 }
 
-TEST(Toetsen, HeldEnterAndEscapeCountOnceHeldLettersRepeat) {
+TEST(Toetsen, HeldEnterEscapeAndFunctionKeysCountOnceHeldLettersRepeat) {
   EXPECT_FALSE(NaarToets(Druk(Qt::Key_Return, Qt::NoModifier, "\r", true)));
   EXPECT_FALSE(NaarToets(Druk(Qt::Key_Escape, Qt::NoModifier, "", true)));
+  EXPECT_FALSE(NaarToets(Druk(Qt::Key_F10, Qt::NoModifier, "", true)));
+  EXPECT_TRUE(NaarToets(Druk(Qt::Key_F10)));
   EXPECT_TRUE(NaarToets(Druk(Qt::Key_A, Qt::NoModifier, "a", true)));
 }
 
