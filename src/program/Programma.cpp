@@ -1,5 +1,7 @@
 #include "program/Programma.h"
 
+#include <exception>
+
 #include "ancestors/KwstTxtPrs.h"
 #include "app/IniGebruiker.h"
 #include "app/NieuweSet.h"
@@ -21,8 +23,14 @@ bool Programma::Start() {
   return lb77::Start(hoofd_);
 }
 
+// The last net below the dialogs. What ends a script is no std::exception: it drops the session.
 void Programma::Voer() {
-  hoofd_.gesprek.ToonModaal(menu_);
+  try {
+    hoofd_.gesprek.ToonModaal(menu_);
+  } catch (const std::exception&) {
+    hoofd_.Ini.IniSchrijf();
+    throw;
+  }
 }
 
 void Programma::HangOp() {

@@ -17,7 +17,8 @@ class Programma {
 
   // Brings the program up to the point where the main window can show; False when it must end.
   [[nodiscard]] bool Start();
-  // Shows the main window until it has closed.
+  // Shows the main window until it has closed. Before an error that nobody caught goes on its way
+  // the settings are saved.
   void Voer();
 
   [[nodiscard]] Hoofdmodule& Hoofd() { return hoofd_; }

@@ -11,14 +11,7 @@ namespace {
 
 void Voer(lb77::Gesprek& gesprek, const std::filesystem::path& map) {
   const lb77::SysteemKlok klok;
-  lb77::Programma programma(gesprek, klok, map);
-  if (!programma.Start()) return;
-  try {
-    programma.Voer();
-  } catch (...) {
-    programma.Hoofd().Ini.IniSchrijf();
-    throw;
-  }
+  lb77::VoerProgramma(gesprek, klok, map);
 }
 
 }  // namespace

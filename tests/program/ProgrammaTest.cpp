@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <stdexcept>
+
+#include "app/OverLB77Form.h"
 #include "program/Programma.h"
 #include "program/ProgrammaToets.h"
 
@@ -79,6 +83,52 @@ TEST_F(Programmaloop, EntriesOfWhatIsNotThereAreGrey) {
       = TekstKwst "&Kwartierstaat"
       = ExpVVF "&VVFContact" [uit] [verborgen]
     )");
+}
+
+// What an entry of the menu changes in the settings before something goes wrong.
+class Noodgeval : public ProgrammaToets {
+ protected:
+  // Starts a session in which "Over LB77" changes a setting and then does `doe`.
+  void Begin(Gesprek& gesprek, const std::function<void(lb77::Programma&)>& doe,
+             const std::function<void(lb77::Programma&)>& voer) {
+    lb77::Programma programma(gesprek, klok_, Map());
+    ASSERT_TRUE(programma.Start());
+    programma.Menu().Hang("AboutLB77", [&programma, &doe] {
+      programma.Hoofd().Ini.IniZet("Gebruiker", "Naam", "Noodgeval");
+      doe(programma);
+    });
+    voer(programma);
+  }
+  [[nodiscard]] bool IsBewaard() const {
+    return LeesBytes(Map() / "LIJNBOOM.INI").find("\r\nNaam=Noodgeval\r\n") != std::string::npos;
+  }
+
+ private:
+  VasteKlok klok_{{2026, 11, 21, 12, 0, 0}};
+};
+
+TEST_F(Noodgeval, AnErrorThatNobodyCaughtSavesTheSettings) {
+  MaakFamilie();
+  Speel("kies AboutLB77\n", [this](Gesprek& gesprek) {
+    Begin(
+        gesprek, [](lb77::Programma&) { throw std::runtime_error("geheugen vol"); },
+        [](lb77::Programma& programma) { EXPECT_THROW(programma.Voer(), std::runtime_error); });
+  });
+  EXPECT_TRUE(IsBewaard());
+}
+
+TEST_F(Noodgeval, TheEndOfAScriptDropsTheSession) {
+  MaakFamilie();
+  Speel("kies AboutLB77\n", [this](Gesprek& gesprek) {
+    Begin(
+        gesprek,
+        [&gesprek](lb77::Programma&) {
+          OverLB77Form over;
+          gesprek.ToonModaal(over);
+        },
+        [](lb77::Programma& programma) { programma.Voer(); });
+  });
+  EXPECT_FALSE(IsBewaard());
 }
 
 TEST_F(Programmaloop, EveryEntryThatCanBeChosenShowsItsForm) {
