@@ -81,18 +81,16 @@ void Bediener::Voer(Formulier& formulier) {
 void Bediener::Dicht(Formulier&) {}
 
 Bediening* Werk::Vind(std::string_view naam) {
-  Bediening* bediening = formulier_.Zoek(naam);
-  if (!bediening) {
-    Weiger(naam, "bestaat niet");
-  } else if (!bediening->Bruikbaar()) {
-    Weiger(naam, "is niet beschikbaar");
-    return nullptr;
-  }
-  return bediening;
+  Bediening* const bediening = formulier_.Zoek(naam);
+  if (bediening && bediening->Bruikbaar()) return bediening;
+  static_cast<void>(Weiger(naam, bediening ? "is niet beschikbaar" : "bestaat niet"));
+  return nullptr;
 }
 
-void Werk::Weiger(std::string_view naam, std::string_view reden) {
+// Always False, for the caller to hand on.
+bool Werk::Weiger(std::string_view naam, std::string_view reden) {
   bediener_.Mislukt(formulier_.Naam() + "." + std::string(naam) + " " + std::string(reden));
+  return false;
 }
 
 void Werk::Druk(std::string_view naam) {
@@ -100,44 +98,43 @@ void Werk::Druk(std::string_view naam) {
   if (Bediening* bediening = Vind(naam)) formulier_.Klik(*bediening);
 }
 
-void Werk::Zet(std::string_view naam, std::string_view waarde) {
-  if (formulier_.Gesloten()) return;
-  Bediening* bediening = Vind(naam);
-  if (!bediening) return;
-  if (auto* veld = dynamic_cast<Invoerveld*>(bediening)) {
-    Vul(*veld, waarde);
-  } else if (auto* lijst = dynamic_cast<Lijst*>(bediening)) {
-    ZetLijst(*lijst, waarde);
-  } else if (const auto* schakelaar = dynamic_cast<Schakelaar*>(bediening)) {
-    if (waarde != "aan" && waarde != "uit") {
-      Weiger(naam, "is aan of uit");
-    } else if (schakelaar->Gekozen() != (waarde == "aan")) {
-      formulier_.Klik(*bediening);
-    }
-  } else {
-    Weiger(naam, "kan niet worden gezet");
+bool Werk::Zet(std::string_view naam, std::string_view waarde) {
+  if (formulier_.Gesloten()) return false;
+  Bediening* const bediening = Vind(naam);
+  if (!bediening) return false;
+  if (auto* veld = dynamic_cast<Invoerveld*>(bediening)) return Vul(*veld, waarde);
+  if (auto* lijst = dynamic_cast<Lijst*>(bediening)) return ZetLijst(*lijst, waarde);
+  if (auto* schakelaar = dynamic_cast<Schakelaar*>(bediening)) {
+    return ZetSchakelaar(*schakelaar, waarde);
   }
+  return Weiger(naam, "kan niet worden gezet");
 }
 
-void Werk::Vul(Invoerveld& veld, std::string_view waarde) {
-  if (!formulier_.GaNaar(veld)) return;
+bool Werk::Vul(Invoerveld& veld, std::string_view waarde) {
+  if (!formulier_.GaNaar(veld)) return false;
   if (auto* pad = dynamic_cast<Padvak*>(&veld)) {
     pad->ZetTekst(waarde);
   } else {
     formulier_.Bewerkt(veld, "");
     for (const char teken : waarde) formulier_.Typ(veld, teken);
+    // A user would see that the field drops what it does not take.
+    if (veld.Tekst().size() != waarde.size()) {
+      return Weiger(veld.Naam(), "neemt \"" + std::string(waarde) + "\" niet aan");
+    }
   }
-  if (!formulier_.VerlaatVeld()) Weiger(veld.Naam(), "heeft geen geldige waarde");
+  return formulier_.VerlaatVeld() || Weiger(veld.Naam(), "heeft geen geldige waarde");
 }
 
-void Werk::ZetLijst(Lijst& lijst, std::string_view waarde) {
+bool Werk::ZetLijst(Lijst& lijst, std::string_view waarde) {
   const auto& rijen = lijst.Rijen();
   const auto rij = std::find(rijen.begin(), rijen.end(), waarde);
-  if (rij == rijen.end()) {
-    Weiger(lijst.Naam(), "heeft die keuze niet");
-  } else {
-    formulier_.Kies(lijst, static_cast<int>(rij - rijen.begin()));
-  }
+  if (rij == rijen.end()) return Weiger(lijst.Naam(), "heeft die keuze niet");
+  return formulier_.Kies(lijst, static_cast<int>(rij - rijen.begin()));
+}
+
+bool Werk::ZetSchakelaar(Schakelaar& schakelaar, std::string_view waarde) {
+  if (waarde != "aan" && waarde != "uit") return Weiger(schakelaar.Naam(), "is aan of uit");
+  return schakelaar.Gekozen() == (waarde == "aan") || formulier_.Klik(schakelaar);
 }
 
 }  // namespace lb77

@@ -54,16 +54,18 @@ class Werk {
   Werk(Bediener& bediener, Formulier& formulier) : bediener_(bediener), formulier_(formulier) {}
 
   // Text in a field, as if typed; an item of a pick box or list by its text; "aan" or "uit" of a
-  // tick box or option. `waarde` is Windows-1252.
-  void Zet(std::string_view naam, std::string_view waarde);
+  // tick box or option. `waarde` is Windows-1252. False, and told, when the control did not take
+  // all of it; also when the form has closed.
+  [[nodiscard]] bool Zet(std::string_view naam, std::string_view waarde);
   void Druk(std::string_view naam);
   void Kies(std::string_view menuKeuze) { Druk(menuKeuze); }
 
  private:
   [[nodiscard]] Bediening* Vind(std::string_view naam);
-  void ZetLijst(Lijst& lijst, std::string_view waarde);
-  void Vul(Invoerveld& veld, std::string_view waarde);
-  void Weiger(std::string_view naam, std::string_view reden);
+  [[nodiscard]] bool ZetLijst(Lijst& lijst, std::string_view waarde);
+  [[nodiscard]] bool ZetSchakelaar(Schakelaar& schakelaar, std::string_view waarde);
+  [[nodiscard]] bool Vul(Invoerveld& veld, std::string_view waarde);
+  [[nodiscard]] bool Weiger(std::string_view naam, std::string_view reden);
 
   Bediener& bediener_;
   Formulier& formulier_;

@@ -1,13 +1,19 @@
 #include "cli/Opdrachten.h"
 
 #include <fstream>
-#include <iterator>
 #include <ostream>
+#include <system_error>
 
+#include "app/Bestandensets.h"
 #include "cli/Bediener.h"
+#include "exchange/ImpGedcom.h"
+#include "output/Tekstpaginas.h"
 #include "output/ToonTekst.h"
 #include "program/Programma.h"
+#include "store/Bestandenset.h"
+#include "store/Paden.h"
 #include "store/SetPaden.h"
+#include "store/SysteemFout.h"
 #include "text/Getallen.h"
 #include "text/Pad.h"
 #include "text/Tekens.h"
@@ -59,21 +65,33 @@ class Sessie {
   Programma programma;
 };
 
-// The file that the viewer showed: as it is, or on a terminal in UTF-8 with plain line ends.
-void GeefUit(const Omgeving& omgeving, Bediener& bediener, const std::filesystem::path& bron,
-             const std::optional<std::filesystem::path>& naar) {
+// Onto standard output, in UTF-8 with plain line ends.
+void Druk(const Omgeving& omgeving, const std::filesystem::path& bron) {
   std::ifstream in(bron, std::ios::binary);
-  if (naar) {
-    std::ofstream uit(*naar, std::ios::binary | std::ios::trunc);
-    uit << in.rdbuf();
-    uit.close();
-    if (!uit) bediener.Mislukt("Fout bij het schrijven van " + PadTekst(*naar));
-    return;
-  }
   std::string regel;
   while (std::getline(in, regel)) {
     if (!regel.empty() && regel.back() == '\r') regel.pop_back();
     omgeving.uit << WindowsNaarUtf8(regel) << '\n';
+  }
+}
+
+// The program's own bytes in a file. What it held is there until the copy is whole; a device is
+// written to.
+void Bewaar(Bediener& bediener, const std::filesystem::path& bron,
+            const std::filesystem::path& naar) {
+  std::error_code code;
+  SysteemFout fout;
+  if (std::filesystem::exists(naar, code) && !std::filesystem::is_regular_file(naar, code)) {
+    std::ifstream in(bron, std::ios::binary);
+    std::ofstream uit(naar, std::ios::binary);
+    uit << in.rdbuf();
+    uit.close();
+    if (!uit) fout = FoutVanStroom();
+  } else {
+    fout = KopieerTekst(bron, naar);
+  }
+  if (fout) {
+    bediener.Mislukt("Fout bij het schrijven van " + PadTekst(naar) + "\n" + fout.tekst);
   }
 }
 
@@ -88,23 +106,47 @@ int Aantal(Klasse& klasse) {
   return aantal;
 }
 
+struct Telling {
+  int personen = 0;
+  int relaties = 0;
+};
+
+// Counts in files of its own, so that the set in use stays that; nothing when they can't be opened.
+std::optional<Telling> Tel(Hoofdmodule& hoofd, const std::string& set) {
+  if (!IsSetNaam(set)) return std::nullopt;
+  const SetPaden paden = SetPaden::Van(hoofd.Ini.DataDir(), set);
+  const std::filesystem::path prs = VindPad(paden.prs);
+  const std::filesystem::path rlt = VindPad(paden.rlt);
+  std::error_code code;  // an absent file would be made
+  if (!std::filesystem::exists(prs, code) || !std::filesystem::exists(rlt, code))
+    return std::nullopt;
+  Bestandenset bestanden;
+  Volgers volgers;
+  if (bestanden.Open(BestandSoort::Personen, prs) || bestanden.Open(BestandSoort::Relaties, rlt)) {
+    return std::nullopt;
+  }
+  const Opslag opslag{bestanden, volgers, hoofd.gesprek, hoofd.schrijfwijze};
+  PersoonLB77 persoon(opslag);
+  RelatieLB77 relatie(opslag);
+  return Telling{Aantal(persoon), Aantal(relatie)};
+}
+
 int Sets(const Omgeving& omgeving, const OpdrachtArgumenten&) {
   Sessie sessie(omgeving);
-  return sessie.Voer([&](Werk& menu) {
+  return sessie.Voer([&](Werk&) {
     Hoofdmodule& hoofd = sessie.programma.Hoofd();
     const int aantal = hoofd.Ini.AantalBestandenSets();
     for (int i = 1; i <= aantal; ++i) {
       const std::string naam = hoofd.Ini.bestandenset(i);
-      omgeving.uit << WindowsNaarUtf8(Links(naam, 8)) << "  ";
-      if (sessie.OpenSet(menu, naam)) {
-        omgeving.uit << GetalTekst(Aantal(hoofd.Persoon)) << " personen, "
-                     << GetalTekst(Aantal(hoofd.Relatie)) << " relaties";
-      } else {
-        omgeving.uit << "niet te openen";
-      }
       const std::string omschrijving = hoofd.Ini.BestandenSetOms(i);
-      if (!omschrijving.empty()) omgeving.uit << "  " << WindowsNaarUtf8(omschrijving);
-      omgeving.uit << '\n';
+      omgeving.uit << WindowsNaarUtf8(Links(naam, kSetNaam)) << "  ";
+      if (!omschrijving.empty()) omgeving.uit << WindowsNaarUtf8(omschrijving) << "  ";
+      if (const auto telling = Tel(hoofd, naam)) {
+        omgeving.uit << GetalTekst(telling->personen) << " personen, "
+                     << GetalTekst(telling->relaties) << " relaties\n";
+      } else {
+        omgeving.uit << "niet te openen\n";
+      }
     }
   });
 }
@@ -118,9 +160,8 @@ int Nieuw(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
   }
   sessie.bediener.Bij("NieuweSet", [&](Formulier& form) {
     Werk werk(sessie.bediener, form);
-    werk.Zet("SetNaam", argumenten.woorden[0]);
-    if (sessie.bediener.Status() != 0) return;
-    werk.Zet("SetOmsch", argumenten.woorden[1]);
+    if (!werk.Zet("SetNaam", argumenten.woorden[0])) return;
+    if (!werk.Zet("SetOmsch", argumenten.woorden[1])) return;
     werk.Druk("OKButton");
     gemaakt = form.Gesloten() && sessie.programma.Hoofd().SetActief();
   });
@@ -132,19 +173,25 @@ int Nieuw(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
 
 int Importeer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
   Sessie sessie(omgeving);
+  const ImpGedcom* import = nullptr;
+  bool gelukt = false;
   sessie.bediener.Bij("ImpGedcom", [&](Formulier& form) {
+    import = dynamic_cast<const ImpGedcom*>(&form);
     if (auto* veld = dynamic_cast<Padvak*>(form.Zoek("Bestandsnaam"))) {
       veld->ZetPad(argumenten.bestand);
     }
     Werk(sessie.bediener, form).Druk("OKButton");
+    gelukt = import && import->Gelukt();
   });
   sessie.bediener.Bij("ToonTekst", [&](Formulier& form) {
-    if (const auto* toon = dynamic_cast<ToonTekst*>(&form)) {
-      GeefUit(omgeving, sessie.bediener, toon->UitvoerPad(), std::nullopt);
-    }
+    const auto* toon = dynamic_cast<ToonTekst*>(&form);
+    // Behind a file that could not be opened the viewer has the log of another import.
+    if (toon && import && import->Pass3box.Gekozen()) Druk(omgeving, toon->UitvoerPad());
   });
   return sessie.Voer([&](Werk& menu) {
-    if (sessie.OpenSet(menu, argumenten.woorden[0])) menu.Kies("ImportGedcom");
+    if (!sessie.OpenSet(menu, argumenten.woorden[0])) return;
+    menu.Kies("ImportGedcom");
+    if (!gelukt) sessie.bediener.Mislukt("Het bestand is niet ingelezen");
   });
 }
 
@@ -160,12 +207,12 @@ constexpr Rapport kKwartierstaat{"TekstKwst", "KwstTxtPrs", "KwstTxtParam", "KwH
 
 void VulParam(Bediener& bediener, Formulier& form, const OpdrachtArgumenten& argumenten) {
   Werk werk(bediener, form);
-  werk.Zet("InHTMLBox", argumenten.html ? "Ja" : "Nee");
+  bool goed = werk.Zet("InHTMLBox", argumenten.html ? "Ja" : "Nee");
   for (const std::string& zet : argumenten.zet) {
     const std::size_t teken = zet.find('=');
-    werk.Zet(zet.substr(0, teken), zet.substr(teken + 1));
+    if (!werk.Zet(zet.substr(0, teken), zet.substr(teken + 1))) goed = false;
   }
-  if (bediener.Status() == 0) werk.Druk("OKButton");
+  if (goed) werk.Druk("OKButton");
 }
 
 // The samples of the link dialog are for who sees it: here a link is told only when the settings
@@ -182,7 +229,7 @@ void AanvaardLinks(Bediener& bediener, Formulier& form, const IniClass& ini) {
                                   {"URLLabelTekst", "HomePageLabel"}};
   Werk werk(bediener, form);
   for (const LinkVeld& veld : kVelden) {
-    if (ini.IniWaarde("INTERNET", veld.tag).empty()) werk.Zet(veld.veld, "");
+    if (ini.IniWaarde("INTERNET", veld.tag).empty() && !werk.Zet(veld.veld, "")) return;
   }
   werk.Druk("OKButton");
 }
@@ -194,8 +241,7 @@ int MaakRapport(const Rapport& rapport, const Omgeving& omgeving,
   bool getoond = false;
   bediener.Bij(rapport.prompt, [&](Formulier& form) {
     Werk werk(bediener, form);
-    werk.Zet("RecordNr", argumenten.woorden[1]);
-    if (bediener.Status() == 0) werk.Druk("OKButton");
+    if (werk.Zet("RecordNr", argumenten.woorden[1])) werk.Druk("OKButton");
   });
   bediener.Bij(rapport.param, [&](Formulier& form) { VulParam(bediener, form, argumenten); });
   bediener.Bij(rapport.htmlParam, [&](Formulier& form) {
@@ -205,7 +251,11 @@ int MaakRapport(const Rapport& rapport, const Omgeving& omgeving,
     const auto* toon = dynamic_cast<ToonTekst*>(&form);
     if (!toon) return;
     getoond = true;
-    GeefUit(omgeving, bediener, toon->UitvoerPad(), argumenten.naar);
+    if (argumenten.naar) {
+      Bewaar(bediener, toon->UitvoerPad(), *argumenten.naar);
+    } else {
+      Druk(omgeving, toon->UitvoerPad());
+    }
   });
   return sessie.Voer([&](Werk& menu) {
     if (!sessie.OpenSet(menu, argumenten.woorden[0])) return;

@@ -121,7 +121,11 @@ int Hoofd(int argc, char** argv) {
   BeschrijfRegel(app, regel);
   try {
     app.parse(argc, argv);
-    return Voer(app, regel);
+    const int status = Voer(app, regel);
+    std::cout.flush();
+    if (std::cout) return status;
+    std::cerr << "lb77-cli: de uitvoer kon niet worden geschreven\n";
+    return 1;
   } catch (const CLI::ParseError& fout) {
     return app.exit(fout) == 0 ? 0 : kVerkeerdGebruik;
   } catch (const std::exception& fout) {

@@ -113,6 +113,7 @@ void ImpGedcom::OKButtonKlik() {
 void ImpGedcom::WisVoortgang() {
   for (Teller* teller : tellers_) teller->ZetTekst("");
   for (Vinkje* vinkje : vinkjes_) vinkje->Zet(false);
+  gelukt_ = false;
 }
 
 ImpGedcom::Afloop ImpGedcom::Importeer() {
@@ -146,6 +147,7 @@ SysteemFout ImpGedcom::Rond(const ImpUitslag& uitslag, GedLog& log) {
   if (!uitslag.fout.empty()) hoofd_.gesprek.Waarschuw(uitslag.fout);
   log.Regel(kVoltooid);
   Pass3box.Zet(true);
+  gelukt_ = uitslag.fout.empty();
   return log.Sluit();
 }
 

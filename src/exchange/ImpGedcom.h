@@ -36,6 +36,9 @@ class ImpGedcom final : public Formulier {
   Knop OKButton{*this, "OKButton", "&Start Import"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 
+  /// The last import came to the end of its file, with no error in it that ends the reading.
+  [[nodiscard]] bool Gelukt() const { return gelukt_; }
+
  protected:
   void BijLaden() override;
 
@@ -62,6 +65,7 @@ class ImpGedcom final : public Formulier {
   [[nodiscard]] std::filesystem::path LogPad() const;
 
   Hoofdmodule& hoofd_;
+  bool gelukt_ = false;
   std::array<Label*, 3> labels_{&Pass1Label, &Pass2Label, &Pass3Label};
   std::array<Vinkje*, 3> vinkjes_{&Pass1box, &Pass2box, &Pass3box};
   std::array<Teller*, 7> tellers_{&RegelNr, &AantalPersonen, &AantalRelaties, &AantalBronnen,

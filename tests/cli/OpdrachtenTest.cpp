@@ -59,7 +59,7 @@ TEST_F(OpdrachtenToets, ANewSetIsListed) {
   EXPECT_NE(fout_.find("Druk op OK om een nieuw IniBestand te maken"), std::string::npos);
   EXPECT_NE(fout_.find("-> OK"), std::string::npos);
   EXPECT_EQ(Doe("sets", OpdrachtArgumenten{}), 0);
-  EXPECT_EQ(uit_, "FAMILIE   0 personen, 0 relaties  Mijn familie\n");
+  EXPECT_EQ(uit_, "FAMILIE   Mijn familie  0 personen, 0 relaties\n");
 }
 
 TEST_F(OpdrachtenToets, ASetThatExistsIsNotMadeAgain) {
@@ -79,16 +79,43 @@ TEST_F(OpdrachtenToets, ImportPrintsTheLog) {
   EXPECT_EQ(uit_, "R-F1 - Onbekende tag: FAM-XYZ : iets\nImporteren voltooid\n");
   EXPECT_EQ(fout_, "Importeren voltooid\n");
   EXPECT_EQ(Doe("sets", OpdrachtArgumenten{}), 0);
-  EXPECT_EQ(uit_, "FAMILIE   2 personen, 1 relaties  Mijn familie\n");
+  EXPECT_EQ(uit_, "FAMILIE   Mijn familie  2 personen, 1 relaties\n");
 }
 
-TEST_F(OpdrachtenToets, AMissingFileIsTold) {
+TEST_F(OpdrachtenToets, ListingTheSetsLeavesTheOneInUse) {
+  ASSERT_EQ(Doe("nieuw", {"een", "Eerste"}), 0);
+  ASSERT_EQ(Doe("nieuw", {"twee"}), 0);
+  ASSERT_EQ(Doe("nieuw", {"drie"}), 0);
+  ASSERT_EQ(Doe("zoek", {"een", "x"}), 0);
+  std::filesystem::remove(map_ / "DATA" / "DRIE" / "DRIE.PRS");
+  EXPECT_EQ(Doe("sets", OpdrachtArgumenten{}), 0);
+  EXPECT_EQ(uit_,
+            "EEN       Eerste  0 personen, 0 relaties\nTWEE      0 personen, 0 relaties\n"
+            "DRIE      niet te openen\n");
+  EXPECT_FALSE(std::filesystem::exists(map_ / "DATA" / "DRIE" / "DRIE.PRS"));
+  EXPECT_NE(LeesBytes(map_ / "LIJNBOOM.INI").find("\r\nSet=EEN\r\n"), std::string::npos);
+}
+
+TEST_F(OpdrachtenToets, AMissingFileIsToldAndNotTheLogOfAnotherImport) {
   MaakFamilie();
   OpdrachtArgumenten argumenten;
   argumenten.woorden = {"familie"};
   argumenten.bestand = map_ / "weg.ged";
-  Doe("importeer", argumenten);
-  EXPECT_NE(fout_.find("Bestand niet gevonden"), std::string::npos);
+  EXPECT_EQ(Doe("importeer", argumenten), 1);
+  EXPECT_NE(fout_.find("Bestand niet gevonden\nHet bestand is niet ingelezen\n"),
+            std::string::npos);
+  EXPECT_EQ(uit_, "");
+}
+
+TEST_F(OpdrachtenToets, AFileThatIsNoGedcomEndsWithOneAndItsLog) {
+  MaakFamilie();
+  OpdrachtArgumenten argumenten;
+  argumenten.woorden = {"familie"};
+  argumenten.bestand = map_ / "brief.txt";
+  SchrijfBytes(argumenten.bestand, "Beste Jan,\n");
+  EXPECT_EQ(Doe("importeer", argumenten), 1);
+  EXPECT_NE(fout_.find("Het bestand is niet ingelezen\n"), std::string::npos);
+  EXPECT_EQ(uit_, "Importeren voltooid\n");
 }
 
 TEST_F(OpdrachtenToets, TheReportIsPrintedInUtf8WithPlainLineEnds) {
@@ -108,6 +135,45 @@ TEST_F(OpdrachtenToets, AFileGetsTheProgramsOwnBytes) {
   EXPECT_EQ(Doe("kwartierstaat", argumenten), 0) << fout_;
   EXPECT_EQ(uit_, "");
   EXPECT_NE(LeesBytes(map_ / "uit.txt").find("geb. K\xF6ln 1-2-1900.\r\n"), std::string::npos);
+}
+
+TEST_F(OpdrachtenToets, AFileIsReplacedOnlyByAWholeReport) {
+  MaakFamilie();
+  OpdrachtArgumenten argumenten;
+  argumenten.woorden = {"familie", "2"};
+  argumenten.naar = map_ / "TEMP" / "KWSTDATA.TMP";  // the report itself
+  EXPECT_EQ(Doe("kwartierstaat", argumenten), 0) << fout_;
+  EXPECT_EQ(LeesBytes(*argumenten.naar).rfind("Generatie I\r\n", 0), 0U);
+  argumenten.naar = map_ / "geen map" / "uit.txt";
+  EXPECT_EQ(Doe("kwartierstaat", argumenten), 1);
+  EXPECT_NE(fout_.find("Fout bij het schrijven van "), std::string::npos);
+}
+
+TEST_F(OpdrachtenToets, ADeviceIsWrittenToAndStays) {
+  if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no device that is always full";
+  MaakFamilie();
+  OpdrachtArgumenten argumenten;
+  argumenten.woorden = {"familie", "2"};
+  argumenten.naar = "/dev/null";
+  EXPECT_EQ(Doe("kwartierstaat", argumenten), 0) << fout_;
+  argumenten.naar = "/dev/full";
+  EXPECT_EQ(Doe("kwartierstaat", argumenten), 1);
+  EXPECT_NE(fout_.find("Fout bij het schrijven van /dev/full"), std::string::npos);
+  EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
+  EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
+}
+
+TEST_F(OpdrachtenToets, APathWithAccentsIsAPathLikeAnother) {
+  MaakFamilie();
+  OpdrachtArgumenten argumenten;
+  argumenten.woorden = {"familie"};
+  argumenten.bestand = map_ / std::filesystem::path(u8"stamboom \u00E9\u4E2D.ged");
+  SchrijfBytes(argumenten.bestand, kGedcom);
+  EXPECT_EQ(Doe("importeer", argumenten), 0) << fout_;
+  argumenten.woorden = {"familie", "2"};
+  argumenten.naar = map_ / std::filesystem::path(u8"uit \u00E9\u4E2D.txt");
+  EXPECT_EQ(Doe("kwartierstaat", argumenten), 0) << fout_;
+  EXPECT_TRUE(std::filesystem::exists(*argumenten.naar));
 }
 
 TEST_F(OpdrachtenToets, AReportInHTMLPassesTheLinkDialog) {
@@ -149,6 +215,18 @@ TEST_F(OpdrachtenToets, APersonWhoIsNotThereGivesNoReport) {
   MaakFamilie();
   EXPECT_EQ(Doe("kwartierstaat", {"familie", "77"}), 1);
   EXPECT_NE(fout_.find("Er is geen verslag gemaakt"), std::string::npos);
+}
+
+TEST_F(OpdrachtenToets, WhatAFieldWouldDropIsRefused) {
+  MaakFamilie();
+  for (const std::string nr : {"2x", "x", "200000", "-2"}) {
+    EXPECT_EQ(Doe("kwartierstaat", {"familie", nr}), 1) << nr;
+    EXPECT_EQ(uit_, "") << nr;
+    EXPECT_NE(fout_.find("KwstTxtPrs.RecordNr neemt \"" + nr + "\" niet aan"), std::string::npos);
+  }
+  EXPECT_EQ(Doe("nieuw", {"lang", std::string(51, 'x')}), 1);
+  EXPECT_NE(fout_.find("NieuweSet.SetOmsch neemt "), std::string::npos);
+  EXPECT_EQ(Doe("zoek", {"lang", "x"}), 1);
 }
 
 TEST_F(OpdrachtenToets, AnUnknownSetIsTold) {
