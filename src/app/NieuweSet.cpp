@@ -30,20 +30,6 @@ bool MaakMap(Gesprek& gesprek, const std::filesystem::path& gevraagd) {
   return false;
 }
 
-const std::filesystem::path& PadVanSoort(const SetPaden& paden, BestandSoort soort) {
-  switch (soort) {
-    case BestandSoort::Personen:
-      return paden.prs;
-    case BestandSoort::Relaties:
-      return paden.rlt;
-    case BestandSoort::Opmerkingen:
-      return paden.opm;
-    case BestandSoort::Plaatsen:
-      break;
-  }
-  return paden.plt;
-}
-
 bool MaakAdmin(Hoofdmodule& hoofd, BestandSoort soort) {
   switch (soort) {
     case BestandSoort::Personen:

@@ -38,7 +38,15 @@ Bestandenset::Opening OpenOpSchijf(const std::filesystem::path& pad, std::size_t
   return {std::move(bestand), {}};
 }
 
-const std::filesystem::path& PadIn(const SetPaden& paden, BestandSoort soort) {
+}  // namespace
+
+std::string_view BestandNaam(BestandSoort soort) {
+  constexpr std::array<std::string_view, 4> kNamen = {"Persoonsbestand", "Relatiebestand",
+                                                      "Opmerkingenbestand", "Plaatsbestand"};
+  return kNamen.at(static_cast<std::size_t>(soort) - 1);
+}
+
+const std::filesystem::path& PadVanSoort(const SetPaden& paden, BestandSoort soort) {
   switch (soort) {
     case BestandSoort::Personen:
       return paden.prs;
@@ -50,14 +58,6 @@ const std::filesystem::path& PadIn(const SetPaden& paden, BestandSoort soort) {
       break;
   }
   return paden.plt;
-}
-
-}  // namespace
-
-std::string_view BestandNaam(BestandSoort soort) {
-  constexpr std::array<std::string_view, 4> kNamen = {"Persoonsbestand", "Relatiebestand",
-                                                      "Opmerkingenbestand", "Plaatsbestand"};
-  return kNamen.at(static_cast<std::size_t>(soort) - 1);
 }
 
 std::string OpenFoutTekst(const OpenFout& fout) {
@@ -82,7 +82,7 @@ SysteemFout Bestandenset::Open(BestandSoort soort, const std::filesystem::path& 
 }
 
 std::optional<OpenFout> Bestandenset::Open(BestandSoort soort, const SetPaden& paden) {
-  const std::filesystem::path& pad = PadIn(paden, soort);
+  const std::filesystem::path& pad = PadVanSoort(paden, soort);
   SysteemFout fout = Open(soort, pad);
   if (!fout) return std::nullopt;
   if (soort == BestandSoort::Plaatsen && !Open(soort, paden.centraal)) return std::nullopt;

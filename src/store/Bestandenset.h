@@ -33,6 +33,9 @@ constexpr std::size_t RecordLengteVan(BestandSoort soort) {
 /// The name in messages: "Persoonsbestand", "Relatiebestand" ...
 std::string_view BestandNaam(BestandSoort soort);
 
+/// The path of that file in a set; for the places that of its own.
+const std::filesystem::path& PadVanSoort(const SetPaden& paden, BestandSoort soort);
+
 /// Which file did not open, and why.
 struct OpenFout {
   BestandSoort soort = BestandSoort::Personen;
