@@ -146,6 +146,21 @@ TEST_F(NieuweSetVenster, EenBestandDatNietGemaaktKanWordenHeeftZijnMelding) {
   EXPECT_EQ(Ini().find("ABC"), std::string::npos);
 }
 
+TEST_F(NieuweSetVenster, BlankenRondDeNaamTellenNietEnDeVolgersBeginnenOpnieuw) {
+  Verwacht("vul SetNaam \" ab \"\ndruk OKButton", MetMenu([](Hoofdmodule& hoofd, MenuWindow& menu) {
+             hoofd.volgers.HuidigPersoonNr = 12;
+             hoofd.volgers.HuidigRelatieNr = 13;
+             Toont<NieuweSet>(hoofd, menu)(hoofd.gesprek);
+             EXPECT_EQ(hoofd.ActieveSetNaam, "AB");
+             EXPECT_EQ(hoofd.volgers.HuidigPersoonNr, -1);
+             EXPECT_EQ(hoofd.volgers.HuidigRelatieNr, -1);
+             EXPECT_TRUE(menu.Zoek("MenuInvoer")->Ingeschakeld());
+           }),
+           R"(+ NieuweSet "Nieuwe Bestandenset"
+              - NieuweSet)");
+  EXPECT_TRUE(IniHeeft("Set1=AB,"));
+}
+
 TEST_F(NieuweSetVenster, ZonderNaamIsErGeenSetActief) {
   MaakSet("ABC");
   ZetIni("[Sets]\nSet1=ABC,oms\n");
