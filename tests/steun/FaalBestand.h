@@ -16,9 +16,10 @@ namespace lb77 {
 // When the files that share it fail. Operations (reads, writes, flushes) are counted from 1 over all
 // of them together.
 struct Storing {
-  int bij = 0;            // the operation that fails; 0 is none
-  bool kort = false;      // a write that fails has written half of its bytes
-  bool blijvend = false;  // all operations behind it fail too
+  int bij = 0;                // the operation that fails; 0 is none
+  bool kort = false;          // a write that fails has written half of its bytes
+  bool blijvend = false;      // all operations behind it fail too
+  bool zonderLengte = false;  // the size of a file can't be told
   int teller = 0;
 
   // Counts an operation; True when it is to fail.
@@ -43,7 +44,7 @@ class FaalBestand final : public RecordBestand {
   [[nodiscard]] Leesuitslag Lees(std::int32_t nr, std::span<char> doel) override;
   [[nodiscard]] SysteemFout Schrijf(std::int32_t nr, std::span<const char> bron) override;
   [[nodiscard]] SysteemFout Veiligstellen() override;
-  std::uint64_t Lengte() override { return bestand_->Lengte(); }
+  std::uint64_t Lengte() override { return storing_.zonderLengte ? 0 : bestand_->Lengte(); }
   std::uint64_t Wijzigingen() const override { return bestand_->Wijzigingen() + mislukt_; }
   std::size_t RecordLengte() const override { return bestand_->RecordLengte(); }
 

@@ -53,6 +53,12 @@ TEST_F(Faalproef, EenKorteSchrijfactieLaatDeHelftAchter) {
   EXPECT_EQ(bytes, "ab");
 }
 
+TEST_F(Faalproef, EenGrootteDieNietTeVertellenIsIsNul) {
+  EXPECT_FALSE(bestand.Schrijf(1, record));
+  storing.zonderLengte = true;
+  EXPECT_EQ(bestand.Lengte(), 0U);
+}
+
 TEST_F(Faalproef, OokMislukteSchrijfactiesTellenAlsWijziging) {
   storing.bij = 1;
   EXPECT_TRUE(bestand.Schrijf(1, record));

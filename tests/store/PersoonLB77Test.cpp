@@ -41,18 +41,20 @@ TEST_F(PersoonLB77Test, LezenEnSchrijvenZetDePlaatsbufferOpNul) {
 }
 
 TEST_F(PersoonLB77Test, EenNulInDeSondeVanHetAdministratierecordMagAlsErPersonenZijn) {
-  const auto zetSonde = [&](char telling) {
+  const auto zetTelling = [&](const std::string& telling) {
     set.bestanden.SluitAlles();
     std::string bytes = LeesBytes(set.paden.prs);
     bytes[83] = '\0';
-    bytes[55] = telling;
+    bytes.replace(55, 2, telling);
     SchrijfBytes(set.paden.prs, bytes);
     set.Heropen();
   };
-  zetSonde('\1');
+  zetTelling("\1\2");
   ASSERT_TRUE(set.Persoon.LeesAdmin());
   EXPECT_EQ(set.Persoon.Bytes()[83], ' ');
-  zetSonde('\0');
+  zetTelling("\xFF\xFF");
+  EXPECT_EQ(set.Persoon.AantalInAdmin(), -1);
+  zetTelling(std::string(2, '\0'));
   EXPECT_FALSE(set.Persoon.LeesAdmin());
   EXPECT_EQ(set.Getoond(), Boxen{"! stop \"Fout bij het lezen van het Administratierecord van het "
                                  "Persoonsbestand\""});
@@ -108,6 +110,21 @@ TEST_F(PersoonLB77Test, AantalHuwTeltDeRelaties) {
   }
 }
 
+TEST_F(PersoonLB77Test, AantalHuwTeltInHetVervolgrecordVanAchterNaarVoren) {
+  const auto man = Man({{"Relatie1", "5"}, {"Relatie2", "6"}, {"Relatie3", "-3"}});
+  const auto vervolg = set.bouw.Persoon('?', "", "", {{"GebCorr", "Z"}});
+  const auto aantal = [&](VeldWaarden relaties) {
+    set.bouw.WijzigPersoon(vervolg, relaties);
+    Lees(man);
+    return set.Persoon.AantalHuw(man);
+  };
+  EXPECT_EQ(aantal({}), 3);
+  EXPECT_EQ(aantal({{"Relatie2", "8"}}), 4);
+  EXPECT_EQ(aantal({{"Relatie3", "-9"}}), 4);
+  EXPECT_EQ(aantal({{"Relatie2", "-8"}}), 3);
+  EXPECT_EQ(aantal({{"Relatie3", "9"}}), 5);
+}
+
 TEST_F(PersoonLB77Test, EenOnleesbaarVervolgrecordLaatTweeRelatiesOver) {
   const auto man = Man({{"Relatie1", "2"}, {"Relatie2", "3"}, {"Relatie3", "-1200"}});
   Lees(man);
@@ -134,6 +151,13 @@ TEST_F(PersoonLB77Test, VulHuwtabLeestDePersoonEnStaatDanOpHem) {
   EXPECT_EQ(tab, (Huwtab{0, 5, 0, 6, 0, 0}));
   EXPECT_EQ(set.volgers.HuidigPersoonNr, man);
   EXPECT_EQ(set.volgers.PersBufNr, man);
+}
+
+TEST_F(PersoonLB77Test, EenNegatiefRelatienummerTeltNiet) {
+  const auto man = Man({{"Relatie1", "5"}, {"Relatie2", "-6"}});
+  EXPECT_EQ(set.Persoon.VulHuwtab(man, tab), 1);
+  EXPECT_EQ(tab, (Huwtab{0, 5, -6, 0, 0, 0}));
+  EXPECT_EQ(set.Persoon.AantalHuw(man), 1);
 }
 
 TEST_F(PersoonLB77Test, VulHuwtabStaatNaEenVervolgOpHetVervolgrecord) {
@@ -165,6 +189,7 @@ TEST_F(PersoonLB77Test, HeleNaamGeeftBeideNamenOfWatErVoorInDePlaatsKomt) {
   EXPECT_EQ(achter, "Jansen");
   set.Persoon.HeleNaam(0, voor, achter, "?");
   EXPECT_EQ(voor + achter, "");
+  EXPECT_EQ(set.volgers.PersBufNr, voornaamloos) << "nummer 0 hoeft niet gelezen te worden";
   voor = achter = "oud";
   set.Persoon.HeleNaam(77, voor, achter, "?");
   EXPECT_EQ(voor + achter, "");
@@ -182,7 +207,9 @@ TEST_F(PersoonLB77Test, IsManKentMannenVrouwenEnDeRest) {
   EXPECT_EQ(set.Persoon.IsMan(set.bouw.Vrouw("b", "")), 0);
   EXPECT_EQ(set.Persoon.IsMan(set.bouw.Persoon('O', "c", "")), -1);
   EXPECT_EQ(set.Persoon.IsMan(set.bouw.Persoon('?', "d", "")), -1);
+  const std::int16_t gelezen = set.volgers.PersBufNr;
   EXPECT_EQ(set.Persoon.IsMan(0), -1);
+  EXPECT_EQ(set.volgers.PersBufNr, gelezen);
   EXPECT_EQ(set.Persoon.IsMan(77), -1);
 }
 
@@ -197,6 +224,7 @@ TEST_F(PersoonLB77Test, PeriodeNeemtGeboorteOfDoopEnOverlijdenOfBegraven) {
   EXPECT_EQ(periode({{"DoopDatum", "00-00-1803"}, {"BegrDatum", "00-00-1870"}}), "1803-1870");
   EXPECT_EQ(periode({{"GebJaar", "802"}, {"OvlDatum", "01-01-1869"}, {"BegrDatum", "00-00-1870"}}),
             " 802-1869");
+  EXPECT_EQ(periode({{"GebJaar", "1802"}, {"DoopDatum", "00-00-1803"}}), "1802-    ");
   EXPECT_EQ(periode({}), "    -    ");
 }
 

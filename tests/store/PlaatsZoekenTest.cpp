@@ -194,6 +194,16 @@ TEST_F(PlaatsZoekenTest, LegeEnOnleesbarePlaatsenWordenGemeldTotAanDeVondst) {
   }
 }
 
+TEST_F(PlaatsZoekenTest, DeMeldingenTussenTweeVondstenKomenPasAlsVerderGezochtWordt) {
+  Bederf(4, std::string(27, ' '));
+  NepPlaatsVraag niet({false, false});
+  EXPECT_EQ(Zoek("Delft", kHeelVragen, kNietToe, niet), -1);
+  EXPECT_EQ(set.Getoond(), Boxen{});
+  NepPlaatsVraag wel({false, true, true});
+  EXPECT_EQ(Zoek("Delf", kBegin, kNietToe, wel), 5);
+  EXPECT_EQ(set.Getoond(), Boxen{"! uitroep \"Plaatsrecord4 is incompleet.\""});
+}
+
 TEST_F(PlaatsZoekenTest, DeMeldingVanEenOnjuisteTellingKomtElkeKeer) {
   ASSERT_TRUE(set.Plaats.LeesAdmin());
   set.Plaats.ZetAantal(40);

@@ -139,6 +139,25 @@ TYPED_TEST(RecordRaamTest, OokEenAfgekaptRecordDatErIsBlijftStaan) {
   EXPECT_EQ(LeesBytes(this->Pad()), bytes);
 }
 
+TYPED_TEST(RecordRaamTest, OokEenAfgekaptRecordWordtGevondenVanEenTellingDieTeHoogIs) {
+  this->Maak(2, "AB");
+  this->Maak(3, "AB");
+  this->ZetTelling(this->Telling(1000));
+  std::string bytes = LeesBytes(this->Pad());
+  bytes.pop_back();
+  this->ZetBestand(bytes);
+  EXPECT_EQ(this->Klasse().AantalRecords(), 3);
+  EXPECT_LE(this->set.Getoond().size(), 1U);
+}
+
+TYPED_TEST(RecordRaamTest, EenGrootteDieHetSysteemNietVertelt) {
+  this->Maak(2, "AB");
+  this->ZetTelling(this->Telling(1000));
+  this->storing.zonderLengte = true;
+  EXPECT_EQ(this->Klasse().AantalRecords(), 2);
+  EXPECT_LE(this->set.Getoond().size(), 1U);
+}
+
 TYPED_TEST(RecordRaamTest, EenStompjeVoorbijHetEindeHoudtGeenNieuwRecordTegen) {
   this->Maak(2, "AB");
   this->ZetBestand(LeesBytes(this->Pad()) + "A");
@@ -191,6 +210,7 @@ TYPED_TEST(RecordRaamTest, EenTellingDieNietHogerKanBlijftStaan) {
   this->ZetTelling(32767);
   EXPECT_FALSE(this->Klasse().Nieuw(2));
   EXPECT_EQ(this->set.Getoond(), Boxen{this->Stop("Het maximum van 32767 records is bereikt")});
+  EXPECT_EQ(TypeParam::BufNr(this->set), TypeParam::kGeenNr);
   EXPECT_EQ(this->Klasse().AantalInAdmin(), 32767);
 }
 

@@ -204,8 +204,9 @@ TEST_F(RelatieLB77Test, EenOnleesbaarVervolgrecordLaatVeertienKinderenOver) {
 }
 
 TEST_F(RelatieLB77Test, GatenInDeKinderenBlijvenEnTellenNiet) {
-  const auto nr = set.bouw.Relatie(0, 0, {}, {{"Kind2", "5"}, {"Kind9", "6"}});
+  const auto nr = set.bouw.Relatie(0, 0, {}, {{"Kind2", "5"}, {"Kind4", "-5"}, {"Kind9", "6"}});
   EXPECT_EQ(set.Relatie.VulKindtab(nr, tab), 2);
+  EXPECT_EQ(tab[4], -5);
   EXPECT_EQ(tab[1], 0);
   EXPECT_EQ(tab[2], 5);
   EXPECT_EQ(tab[9], 6);
