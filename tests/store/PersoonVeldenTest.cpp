@@ -155,6 +155,15 @@ TEST_F(PersoonVeldenTest, DatumveldenVeranderenDagmaandEnJaar) {
   Veld("GebDatum", "  -  -    ", 57, B("\0\0\0\0"));
 }
 
+TEST_F(PersoonVeldenTest, HetGeboortejaarAlleenHeeftEenEigenNaam) {
+  Veld("GebJaar", "1850", 59, B("\x3A\x07"));
+  for (const char* naam : {"DoopJaar", "OvJaar", "BegrJaar", "GebDagMaand", "Religie"}) {
+    Veld(naam, "1850", 0, "");
+    EXPECT_EQ(set.Getoond(), Boxen{"! uitroep \"Opslaan van " + std::string(naam) +
+                                   " is nog niet geprogrammeerd\""});
+  }
+}
+
 TEST_F(PersoonVeldenTest, DeCrematieIsEenGetal) {
   Veld("BegrCrem", "1", 126, "C");
   Veld("BegrCrem", "-1", 126, "C");

@@ -225,6 +225,10 @@ TEST_F(RelatieLB77Test, EenLegeDatumHeeftAltijdStreepjes) {
   EXPECT_EQ(r.OtrDatum10(), "  -  -    ");
   EXPECT_EQ(r.WetHuwDatum10(), "25.06.1802");
   EXPECT_EQ(r.KHuwDatum10(), "  -  -    ");
+  r.Zet("OtrDatum", "00-00-1803");
+  r.Zet("KHuwDatum", "00-05-0000");
+  EXPECT_EQ(r.OtrDatum10(), "00.00.1803");
+  EXPECT_EQ(r.KHuwDatum10(), "00.05.0000");
 }
 
 TEST_F(RelatieLB77Test, DatumsAlsGetal) {
