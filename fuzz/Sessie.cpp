@@ -69,8 +69,7 @@ void Sessie::Importeer(const std::filesystem::path& gedcom) {
 void Sessie::Kwartierstaat(int persoon, unsigned keuzen) {
   bediener_.Bij("KwstTxtPrs", [&](Formulier& formulier) {
     Werk werk(bediener_, formulier);
-    werk.Zet("RecordNr", GetalTekst(persoon));
-    werk.Druk("OKButton");
+    if (werk.Zet("RecordNr", GetalTekst(persoon))) werk.Druk("OKButton");
   });
   bediener_.Bij("KwstTxtParam", [&](Formulier& formulier) { VulParam(formulier, keuzen); });
   bediener_.Bij("KwHTMLParam",
@@ -81,19 +80,24 @@ void Sessie::Kwartierstaat(int persoon, unsigned keuzen) {
 
 void Sessie::VulParam(Formulier& formulier, unsigned keuzen) {
   Werk werk(bediener_, formulier);
-  const auto zet = [&](std::string_view naam, unsigned keuze) {
-    werk.Zet(naam, (keuzen & keuze) != 0 ? "Ja" : "Nee");
+  bool goed = true;
+  const auto zet = [&](std::string_view naam, std::string_view waarde) {
+    goed = werk.Zet(naam, waarde) && goed;
   };
-  zet("InHTMLBox", kHTML);
-  zet("OokOpmBox", kOpmerkingen);
-  zet("OokNrsBox", kNummers);
-  zet("KwHerhaalBox", kVolgHerhaling);
+  const auto jaNee = [&](std::string_view naam, unsigned keuze) {
+    zet(naam, (keuzen & keuze) != 0 ? "Ja" : "Nee");
+  };
+  jaNee("InHTMLBox", kHTML);
+  jaNee("OokOpmBox", kOpmerkingen);
+  jaNee("OokNrsBox", kNummers);
+  jaNee("KwHerhaalBox", kVolgHerhaling);
   // Ancestors in a circle fill the whole table when repeats are followed.
-  if ((keuzen & kVolgHerhaling) != 0) werk.Zet("MaxGen", "9");
-  if ((keuzen & kBroersZussen) != 0) werk.Zet("BroerZusBox", "Met Alle Broers en Zussen");
+  if ((keuzen & kVolgHerhaling) != 0) zet("MaxGen", "9");
+  if ((keuzen & kBroersZussen) != 0) zet("BroerZusBox", "Met Alle Broers en Zussen");
   if ((keuzen & kBroersZussenProband) != 0) {
-    werk.Zet("BroerZusBox", "Met Broers en Zussen van de Proband");
+    zet("BroerZusBox", "Met Broers en Zussen van de Proband");
   }
+  if (!goed) throw std::logic_error("een keuze van KwstTxtParam is er niet");
   werk.Druk("OKButton");
 }
 
