@@ -157,6 +157,16 @@ TEST_F(FocusTest, EnterThatIsHeldCountsOnce) {
   EXPECT_THAT(vorm.log, ElementsAre("in Een", "klik BackButton"));
 }
 
+TEST_F(FocusTest, BlankThatIsHeldPressesOnce) {
+  vorm.ZetEersteVeld(vorm.OKButton);
+  Speel({[&] {
+    Toets(Qt::Key_Space);
+    QKeyEvent herhaald(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, " ", true);
+    QApplication::sendEvent(&Vind("OKButton"), &herhaald);
+  }});
+  EXPECT_EQ(std::count(vorm.log.begin(), vorm.log.end(), "klik OKButton"), 1);
+}
+
 TEST_F(FocusTest, EnterOnAButtonPressesIt) {
   vorm.ZetEersteVeld(vorm.OKButton);
   Speel({[&] { Toets(Qt::Key_Return); }, [&] { Toets(Qt::Key_Space); }});
