@@ -156,6 +156,17 @@ TEST_F(QtGesprekTest, HiddenFormStaysHiddenUnderTheNext) {
   EXPECT_TRUE(vorm.Gesloten());
 }
 
+TEST_F(QtGesprekTest, FormThatStaysHiddenCountsAsClosed) {
+  vorm.bijOK = [&] { vorm.Verberg(); };
+  Voer(vorm, {[&] { Druk("OKButton"); }});
+  EXPECT_FALSE(vorm.Gesloten());
+  EXPECT_FALSE(QApplication::activeModalWidget());
+  vorm.bijActief = [&] { vorm.Verberg(); };
+  gesprek.ToonModaal(vorm);
+  EXPECT_THAT(vorm.log,
+              testing::ElementsAre("in Een", "controle Een", "in OKButton", "klik OKButton"));
+}
+
 TEST_F(QtGesprekTest, InputUnderARunningHandlerIsDropped) {
   vorm.bijOK = [&] {
     QWidget* venster = &Bovenste();
