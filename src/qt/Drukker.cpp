@@ -6,6 +6,7 @@
 #include <QPrinter>
 #include <algorithm>
 
+#include "qt/Berichtvenster.h"
 #include "qt/Bladzijde.h"
 #include "qt/Stijl.h"
 #include "qt/Vertaling.h"
@@ -54,6 +55,15 @@ bool Druk(QPagedPaintDevice& papier, const Afdruk& afdruk) {
   return verf.end();
 }
 
+bool DrukOfMeld(QWidget* ouder, QPagedPaintDevice& papier, const Afdruk& afdruk) {
+  const bool gedrukt = Druk(papier, afdruk);
+  const auto* printer = dynamic_cast<const QPrinter*>(&papier);
+  if (gedrukt && !(printer && printer->printerState() == QPrinter::Error)) return true;
+  static_cast<void>(
+      ToonBericht(ouder, BerichtSoort::Stop, Knoppen::OK, "Fout bij het printen van de tekst."));
+  return false;
+}
+
 bool VraagEnDrukAf(QWidget* ouder, const Afdruk& afdruk) {
   QPrinter printer(QPrinter::HighResolution);
   printer.setDocName(NaarQt(afdruk.titel));
@@ -61,7 +71,7 @@ bool VraagEnDrukAf(QWidget* ouder, const Afdruk& afdruk) {
   vraag.setWindowTitle(QStringLiteral("Afdrukken"));
   vraag.setOption(QAbstractPrintDialog::PrintPageRange, false);
   if (vraag.exec() != QDialog::Accepted) return false;
-  return Druk(printer, afdruk) && printer.printerState() != QPrinter::Error;
+  return DrukOfMeld(ouder, printer, afdruk);
 }
 
 }  // namespace lb77

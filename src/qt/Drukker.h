@@ -10,9 +10,12 @@
 
 namespace lb77 {
 
-/// Asks for a printer over `ouder` (may be null) and prints; False when the user cancelled or the
-/// printer failed.
+/// Asks for a printer over `ouder` (may be null) and prints; False when the user cancelled, or the
+/// printer failed and the user was told.
 [[nodiscard]] bool VraagEnDrukAf(QWidget* ouder, const Afdruk& afdruk);
+
+/// Druk, with a box over `ouder` when it fails.
+[[nodiscard]] bool DrukOfMeld(QWidget* ouder, QPagedPaintDevice& papier, const Afdruk& afdruk);
 
 /// Draws each page on a sheet of its own; False when the device failed.
 [[nodiscard]] bool Druk(QPagedPaintDevice& papier, const Afdruk& afdruk);

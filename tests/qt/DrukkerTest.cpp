@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QMessageBox>
 #include <QPdfWriter>
 #include <QPrintDialog>
 #include <QTemporaryDir>
@@ -66,6 +67,22 @@ TEST_F(DrukkerTest, EachPageHasASheetOfItsOwn) {
 TEST_F(DrukkerTest, PaperThatCannotBeWrittenOnIsAFailure) {
   QPdfWriter papier(Pad("geen/map/druk.pdf"));
   EXPECT_FALSE(Druk(papier, Proefdruk(1)));
+}
+
+TEST_F(DrukkerTest, FailureIsTold) {
+  QString tekst;
+  QTimer::singleShot(0, qApp, [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_TRUE(box);
+    tekst = box->text();
+    EXPECT_EQ(box->icon(), QMessageBox::Critical);
+    box->reject();
+  });
+  QPdfWriter papier(Pad("geen/map/druk.pdf"));
+  EXPECT_FALSE(DrukOfMeld(nullptr, papier, Proefdruk(1)));
+  EXPECT_EQ(tekst, QString("Fout bij het printen van de tekst."));
+  QPdfWriter goed(Pad("druk.pdf"));
+  EXPECT_TRUE(DrukOfMeld(nullptr, goed, Proefdruk(1)));
 }
 
 TEST_F(DrukkerTest, CancellingPrintsNothing) {
