@@ -122,7 +122,9 @@ void Hoofdvenster::keyPressEvent(QKeyEvent* toets) {
 
 void Hoofdvenster::moveEvent(QMoveEvent* plek) {
   QMainWindow::moveEvent(plek);
-  if (isVisible()) houder_.Verplaatst(pos());
+  // Full size and minimised are no places to come back to.
+  const bool gewoon = !isMaximized() && !isMinimized() && !isFullScreen();
+  if (isVisible() && gewoon) houder_.Verplaatst(pos());
 }
 
 }  // namespace lb77

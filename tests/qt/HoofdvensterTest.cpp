@@ -93,6 +93,19 @@ TEST_F(HoofdvensterTest, StandsWhereTheFormTellsAndTellsWhereItWasMoved) {
   EXPECT_EQ(vorm.Positie()->y, 150);
 }
 
+TEST_F(HoofdvensterTest, FullSizeIsNoPlaceToComeBackTo) {
+  vorm.ZetPositie({120, 80});
+  Voer(vorm, {[&] {
+         Bovenste().showMaximized();
+         QTest::qWait(10);
+         EXPECT_NE(Bovenste().pos(), QPoint(120, 80));
+         Actie("KeuzeAfsluiten").trigger();
+       }});
+  ASSERT_TRUE(vorm.Positie());
+  EXPECT_EQ(vorm.Positie()->x, 120);
+  EXPECT_EQ(vorm.Positie()->y, 80);
+}
+
 TEST_F(HoofdvensterTest, PlaceOutsideTheScreenIsNotTaken) {
   vorm.ZetPositie({-5000, 9000});
   Voer(vorm, {[&] {
