@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFocusEvent>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
@@ -92,10 +93,25 @@ class KeuzevakElement final : public Element {
   std::vector<std::string> rijen_;
 };
 
+// The toolkit makes the first row current when a list without a choice gets the focus; that is no
+// choice of the user's.
+class Lijstvak final : public QListWidget {
+ public:
+  using QListWidget::QListWidget;
+
+ protected:
+  void focusInEvent(QFocusEvent* focus) override {
+    const QSignalBlocker stil(this);
+    const bool leeg = currentRow() < 0;
+    QListWidget::focusInEvent(focus);
+    if (leeg) setCurrentRow(-1);
+  }
+};
+
 class KeuzelijstElement final : public Element {
  public:
   KeuzelijstElement(Lijst& lijst, Bezorger& bezorger, QWidget& ouder)
-      : Element(lijst), lijst_(lijst), vak_(*new QListWidget(&ouder)) {
+      : Element(lijst), lijst_(lijst), vak_(*new Lijstvak(&ouder)) {
     ZetWidget(vak_);
     vak_.setFocusPolicy(Qt::TabFocus);
     vak_.setUniformItemSizes(true);

@@ -24,11 +24,15 @@ class KlikLabel final : public QLabel {
 
  protected:
   void mousePressEvent(QMouseEvent* muis) override {
+    ingedrukt_ = bijKlik && muis->button() == Qt::LeftButton;
     muis->setAccepted(static_cast<bool>(bijKlik));
   }
   void mouseReleaseEvent(QMouseEvent* muis) override {
-    if (muis->button() == Qt::LeftButton && rect().contains(muis->pos()) && bijKlik) bijKlik();
+    if (std::exchange(ingedrukt_, false) && rect().contains(muis->pos())) bijKlik();
   }
+
+ private:
+  bool ingedrukt_ = false;  // the second press of a double click is no press of its own
 };
 
 void ZetTekst(QLabel& label, const QString& tekst) {

@@ -166,6 +166,32 @@ TEST_F(ElementTest, PickListFollowsMouseAndDoubleClick) {
   EXPECT_THAT(vorm.log, testing::Contains("dubbel Kieslijst"));
 }
 
+TEST_F(ElementTest, FocusAloneChoosesNothingInAPickList) {
+  vorm.Kieslijst.ZetRijen({"aap", "noot", "mies"});
+  vorm.ZetEersteVeld(vorm.Vak);
+  Bekijk([&] {
+    Toets(Qt::Key_Tab);
+    EXPECT_EQ(Focus(), "Kieslijst");
+    EXPECT_EQ(Vind<QListWidget>("Kieslijst").currentRow(), -1);
+    EXPECT_EQ(vorm.Kieslijst.Index(), -1);
+    Toets(Qt::Key_Down);
+    EXPECT_EQ(vorm.Kieslijst.Tekst(), "aap");
+    EXPECT_EQ(Vind<QListWidget>("Kieslijst").selectedItems().size(), 1);
+  });
+  EXPECT_EQ(std::count(vorm.log.begin(), vorm.log.end(), "wijzig Kieslijst aap"), 1);
+}
+
+TEST_F(ElementTest, SecondPressOfADoubleClickOnALabelIsNoClick) {
+  vorm.Klikbaar.BijDubbelklik([&] { vorm.log.emplace_back("dubbel"); });
+  Bekijk([&] {
+    QTest::mouseClick(&Vind("Klikbaar"), Qt::LeftButton);
+    QTest::mouseDClick(&Vind("Klikbaar"), Qt::LeftButton);
+    QTest::mouseRelease(&Vind("Klikbaar"), Qt::LeftButton);
+  });
+  EXPECT_EQ(std::count(vorm.log.begin(), vorm.log.end(), "klik Klikbaar"), 1);
+  EXPECT_EQ(std::count(vorm.log.begin(), vorm.log.end(), "dubbel"), 1);
+}
+
 TEST_F(ElementTest, ValueShowsBehindItsPrompt) {
   vorm.Stand.ZetTekst("12");
   Bekijk([&] { EXPECT_EQ(Vind<QLabel>("Stand").text(), QString("12")); });
