@@ -168,6 +168,13 @@ TEST_F(HandTest, StelZetEenOptieAanEnDieGaatAlleenUitDoorEenAndere) {
                 "regel 2: Invoer.Man gaat alleen uit door een andere optie te kiezen");
 }
 
+TEST_F(HandTest, EenPijlKiestDeVolgendeOptie) {
+  InInvoer("toets Man Down\ntoon Vrouw\ntoets Down\ntoon Man", R"(
+    = Vrouw aan
+    = Man aan
+  )");
+}
+
 TEST_F(HandTest, StelWeigertWatGeenKeuzeIs) {
   InvoerWeigert("stel Vink ja", "Invoer.Vink kan alleen aan of uit");
   InvoerWeigert("stel Naam aan", "Invoer.Naam is geen keuze");
