@@ -2,6 +2,8 @@
 
 #include <QApplication>
 #include <exception>
+#include <filesystem>
+#include <optional>
 #include <string>
 
 #include "qt/QtGesprek.h"
@@ -12,18 +14,21 @@ namespace lb77 {
 
 namespace {
 
-void Meld(Gesprek& gesprek, const char* wat) {
+// Without a conversation the failure lies before the first window.
+void Meld(std::optional<QtGesprek>& gesprek, const char* wat) {
+  if (!gesprek) gesprek.emplace();
   std::string tekst("Er is een onverwachte fout opgetreden. Het programma wordt beëindigd."_w);
-  gesprek.Fout(tekst + "\n(" + wat + ")");
+  gesprek->Fout(tekst + "\n(" + wat + ")");
 }
 
 }  // namespace
 
 int VoerMetVangnet(const Vensterprogramma& programma) {
-  const std::filesystem::path map = programma.map();
-  QtGesprek gesprek(map);
+  std::optional<QtGesprek> gesprek;
   try {
-    programma.voer(gesprek, map);
+    const std::filesystem::path map = programma.map();
+    gesprek.emplace(map);
+    programma.voer(*gesprek, map);
     return 0;
   } catch (const std::exception& fout) {
     Meld(gesprek, fout.what());

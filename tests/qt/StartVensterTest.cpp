@@ -43,5 +43,14 @@ TEST_F(StartVensterTest, ErrorThatNobodyCaughtIsToldAndGivesOne) {
                                           "wordt beëindigd.\n(onbekende fout)"));
 }
 
+TEST_F(StartVensterTest, ErrorBeforeTheFirstWindowIsToldAsWell) {
+  EXPECT_EQ(VoerMetVangnet(
+                {.map = []() -> std::filesystem::path { throw std::runtime_error("geen map"); },
+                 .voer = [](Gesprek&, const std::filesystem::path&) { FAIL(); }}),
+            1);
+  ASSERT_EQ(boxen.size(), 1U);
+  EXPECT_TRUE(boxen.front().ends_with("(geen map)"));
+}
+
 }  // namespace
 }  // namespace lb77
