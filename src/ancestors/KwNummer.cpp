@@ -47,6 +47,11 @@ std::string KwNrSchoon(std::string_view s) {
   return std::string(schoon);
 }
 
+std::string KindLetter(int plaats) {
+  if (plaats <= 26) return std::string(1, static_cast<char>('a' + plaats - 1));
+  return std::string("a") + static_cast<char>('a' + plaats - 27);
+}
+
 Kwartiernummer Kwartiernummer::Kind() const {
   std::string half;
   int rest = 0;

@@ -20,6 +20,10 @@ namespace lb77 {
 // A number as the user typed it without blanks around it and zeros in front of it ("0" stays).
 [[nodiscard]] std::string KwNrSchoon(std::string_view s);
 
+// The letter by which a brother or sister is told from the kwartier: of child slot 1 to 26 "a" to
+// "z", then "aa", "ab" ...
+[[nodiscard]] std::string KindLetter(int plaats);
+
 // The number of one position in an ancestor report.
 class Kwartiernummer {
  public:

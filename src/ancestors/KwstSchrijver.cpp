@@ -6,8 +6,6 @@
 #include "output/TekstSchrijver.h"
 #include "output/Zinsbouw.h"
 #include "reporting/HTMLPagina.h"
-#include "text/Getallen.h"
-#include "text/RomeinsGetal.h"
 
 namespace lb77 {
 namespace {
@@ -15,22 +13,12 @@ namespace {
 // The rubrics of a relation's events: their remarks are told even when the events are not known.
 constexpr int kHuwelijksRubrieken = 1 | 2 | 4 | 8 | 16 | 32 | 64;
 
-std::string Romeins(int generatie) {
-  return RomeinsGetal(static_cast<std::int16_t>(generatie));
-}
-
 // Generations from the proband to the first entry that is written; 0 when none is.
 int AfstandVanEerste(const KwstTabel& tabel, const Kwartiernummer& vanaf) {
   for (int i = 0; i < tabel.KwstAantal(); ++i) {
     if (tabel.KwNummer(i).Vanaf(vanaf)) return tabel.Generatie(i);
   }
   return 0;
-}
-
-// The letter of a child slot: "a" to "z", then "aa", "ab" ...
-std::string KindLetter(int plaats) {
-  if (plaats <= 26) return std::string(1, static_cast<char>('a' + plaats - 1));
-  return std::string("a") + static_cast<char>('a' + plaats - 27);
 }
 
 }  // namespace
@@ -65,24 +53,12 @@ KwstUitslag KwstSchrijver::Schrijf() {
 }
 
 void KwstSchrijver::SchrijfGeneratieKop(int generatie) {
-  const auto link = [](int gen) {
-    return Verwijzing(Romeins(gen), "(Generatie " + Romeins(gen) + ")");
-  };
   if (opties_.KwInHTML) uit_.Vast("<HR><H4>");
   if (generatie > opties_.KwVanafNr.Generatie()) {
     uit_.LegeRegel();
     uit_.LegeRegel();
   }
-  uit_.Vast("Generatie " + Romeins(generatie));
-  if (!opties_.KwInHTML) {
-    uit_.EindeRegel();
-    return;
-  }
-  uit_.Vast(Anker(Romeins(generatie)));
-  if (generatie > eersteGen_) uit_.Vast(link(generatie - 1));
-  if (generatie < maxGen_) uit_.Vast(link(generatie + 1));
-  uit_.VolleRegel("</H4>");
-  uit_.LegeRegel();
+  SchrijfGeneratie(uit_, generatie, eersteGen_, maxGen_, opties_.KwInHTML);
 }
 
 // Numbers are right-aligned in six columns; the text hangs at column 8.
@@ -236,14 +212,12 @@ KwstUitslag KwstSchrijver::SchrijfVoorouders() {
   for (int i = 1; i < aantal;) {
     if (verloop_.afbreken()) return KwstUitslag::Afgebroken;
     verloop_.toon(0, i);
-    const int eerste = i;
-    const bool beiden = i < aantal - 1 && tabel_.KwKindIndex(i) == tabel_.KwKindIndex(i + 1);
+    const KwstPaar plaatsen = tabel_.Paar(i);
     Paar paar;
-    if (beiden || !tabel_.IsMoeder(i)) paar.vader = MaakOuder(i);
-    if (beiden) ++i;
-    if (beiden || tabel_.IsMoeder(i)) paar.moeder = MaakOuder(i);
-    ++i;
-    const std::int16_t kind = tabel_.Persoon(tabel_.KwKindIndex(eerste) - 1);
+    if (plaatsen.vader > 0) paar.vader = MaakOuder(plaatsen.vader);
+    if (plaatsen.moeder > 0) paar.moeder = MaakOuder(plaatsen.moeder);
+    const std::int16_t kind = tabel_.Persoon(tabel_.KwKindIndex(i) - 1);
+    i = plaatsen.volgende;
     if (!bronnen_.persoon.Lees(kind)) return KwstUitslag::Leesfout;
     paar.relatie = bronnen_.persoon.RelNrOuders();
     if (!SchrijfPaar(paar)) return KwstUitslag::Leesfout;

@@ -39,6 +39,11 @@ std::int16_t KwstTabel::Persoon(int i) const {
   return static_cast<std::int16_t>(persoon);
 }
 
+KwstPaar KwstTabel::Paar(int i) const {
+  if (i < KwstAantal() - 1 && KwKindIndex(i) == KwKindIndex(i + 1)) return {i, i + 1, i + 2};
+  return IsMoeder(i) ? KwstPaar{0, i, i + 1} : KwstPaar{i, 0, i + 1};
+}
+
 void KwstTabel::Begin(std::int16_t proband, bool man, const Kwartiernummer& nummer) {
   persoon_.assign(1, proband);
   kindIndex_.assign(1, 0);

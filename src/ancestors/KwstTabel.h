@@ -15,6 +15,15 @@ namespace lb77 {
 
 inline constexpr int kMaxKwartieren = 10000;
 
+// The known parents of one person, as entries; 0 for one who is not known.
+struct KwstPaar {
+  int vader = 0;
+  int moeder = 0;
+  int volgende = 0;  // the entry behind them
+
+  friend bool operator==(const KwstPaar&, const KwstPaar&) = default;
+};
+
 // Entries are counted from 0; entry 0 is the proband. A father stands before the mother of the same
 // child. A person who occurs again has an entry that refers to his first one.
 class KwstTabel {
@@ -34,6 +43,9 @@ class KwstTabel {
   [[nodiscard]] int KwstAantal() const { return static_cast<int>(persoon_.size()); }
   // The kwartier number of an entry: 2n for a father, 2n + 1 for a mother.
   [[nodiscard]] const Kwartiernummer& KwNummer(int i) const { return nummers_[Plaats(i)]; }
+
+  // The couple that begins at entry `i`, from 1.
+  [[nodiscard]] KwstPaar Paar(int i) const;
 
   // For the builder.
   void Begin(std::int16_t proband, bool man, const Kwartiernummer& nummer);

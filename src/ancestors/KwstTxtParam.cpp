@@ -7,8 +7,8 @@ namespace lb77 {
 
 KwstTxtParam::KwstTxtParam(Hoofdmodule& hoofd, KwstOpties& opties)
     : Formulier("KwstTxtParam", "Kwartierstaat Uitvoeropties"),
-      Proband(*this),
-      Nummers(*this, hoofd),
+      Proband(*this, "Proband"),
+      Nummers(*this, hoofd.gesprek),
       Titels(*this),
       hoofd_(hoofd),
       opties_(opties) {

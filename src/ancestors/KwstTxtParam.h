@@ -5,6 +5,7 @@
 #include "ancestors/KwstVelden.h"
 #include "forms/Formulier.h"
 #include "reporting/JaNeeVak.h"
+#include "reporting/PersoonKop.h"
 #include "reporting/TitelVelden.h"
 
 namespace lb77 {
@@ -17,7 +18,7 @@ class KwstTxtParam final : public Formulier {
  public:
   KwstTxtParam(Hoofdmodule& hoofd, KwstOpties& opties);
 
-  ProbandKop Proband;
+  PersoonKop Proband;
   KwstNummerVelden Nummers;
   Keuzevak BroerZusBox{*this,
                        "BroerZusBox",

@@ -1,49 +1,59 @@
-// Groups of fields that the parameter dialogs of the ancestor reports share.
+// The number fields that the parameter dialogs of the ancestor reports share.
 #pragma once
 
-#include <cstdint>
+#include <string_view>
 
 #include "ancestors/KwstOpties.h"
-#include "forms/Formulier.h"
+#include "forms/Velden.h"
+#include "reporting/GeneratiesVak.h"
 
 namespace lb77 {
 
-class Hoofdmodule;
+class Formulier;
+class Gesprek;
 
-// The person that a report is about, as the dialogs show him.
-struct ProbandKop {
-  explicit ProbandKop(Formulier& formulier);
+// What tells one field for a kwartier number from another; `verplicht` is said of an empty one.
+struct KwartierVakSoort {
+  std::string_view naam;
+  std::string_view bijschrift;
+  std::string_view verplicht;
+};
 
-  // Shows number, names ("<onbekend>" for a missing one) and lifetime.
-  void Toon(Hoofdmodule& hoofd, std::int16_t nr);
-  // First names and surname with a blank between them.
-  [[nodiscard]] std::string Naam() const;
+inline constexpr KwartierVakSoort kNrProbandVak{"KwNrProband", "Kwartiernummer van de proband:",
+                                                "Het kwartiernummer van de proband is verplicht"};
+inline constexpr KwartierVakSoort kVanafVak{"VanafKwartier", "Eerst uit te voeren kwartiernummer:",
+                                            "Het eerst uit te voeren kwartiernummer is verplicht"};
 
-  Teller NrProband;
-  Teller VoorNmProband;
-  Teller AchterNmProband;
-  Teller Periode;
+// A field for a kwartier number. Its leave check is Geldig().
+class KwartierVak final : public Tekstvak {
+ public:
+  KwartierVak(Formulier& formulier, Gesprek& gesprek, const KwartierVakSoort& soort);
+
+  // Digits and nothing else? Tells the user why not.
+  [[nodiscard]] bool Geldig() const;
+  [[nodiscard]] Kwartiernummer Nummer() const { return Kwartiernummer(Tekst()); }
+
+ private:
+  Gesprek& gesprek_;
+  std::string_view verplicht_;
 };
 
 // Number of the proband, first number to write, last generation; each with its leave check.
 struct KwstNummerVelden {
-  KwstNummerVelden(Formulier& formulier, Hoofdmodule& hoofd);
+  KwstNummerVelden(Formulier& formulier, Gesprek& gesprek);
 
   // Number 1, from number 1, 80 generations.
   void Laad();
   void Bewaar(KwstOpties& opties) const;
 
-  Tekstvak KwNrProband;
-  Tekstvak VanafKwartier;
-  Tekstvak MaxGen;
+  KwartierVak KwNrProband;
+  KwartierVak VanafKwartier;
+  GeneratiesVak MaxGen;
 
  private:
-  [[nodiscard]] bool NrProbandVerlaten();
   [[nodiscard]] bool VanafVerlaten();
-  [[nodiscard]] bool MaxGenVerlaten();
-  [[nodiscard]] bool Weiger(std::string_view melding);
 
-  Hoofdmodule& hoofd_;
+  Gesprek& gesprek_;
 };
 
 }  // namespace lb77

@@ -1,10 +1,17 @@
 #include "reporting/HTMLPagina.h"
 
+#include <cstdint>
+
 #include "output/TekstSchrijver.h"
 #include "text/HTML.h"
+#include "text/RomeinsGetal.h"
 
 namespace lb77 {
 namespace {
+
+std::string Romeins(int generatie) {
+  return RomeinsGetal(static_cast<std::int16_t>(generatie));
+}
 
 std::string Link(std::string_view adres, std::string_view tekst) {
   return "<A HREF=" + TussenQuotes(adres) + ">" + std::string(tekst) + "</A><BR>";
@@ -72,6 +79,22 @@ void SchrijfHTMLKop(TekstSchrijver& uit, const PaginaTeksten& teksten, std::stri
   for (const std::string& regel : teksten.inleiding) {
     if (!regel.empty()) uit.VolleRegel("<H3>" + TekstNaarHTML(regel) + "</H3><BR>");
   }
+}
+
+void SchrijfGeneratie(TekstSchrijver& uit, int generatie, int eerste, int laatste, bool inHTML) {
+  uit.Vast("Generatie " + Romeins(generatie));
+  if (!inHTML) {
+    uit.EindeRegel();
+    return;
+  }
+  const auto link = [&uit](int gen) {
+    uit.Vast(Verwijzing(Romeins(gen), "(Generatie " + Romeins(gen) + ")"));
+  };
+  uit.Vast(Anker(Romeins(generatie)));
+  if (generatie > eerste) link(generatie - 1);
+  if (generatie < laatste) link(generatie + 1);
+  uit.VolleRegel("</H4>");
+  uit.LegeRegel();
 }
 
 void SchrijfSlot(TekstSchrijver& uit, const PaginaTeksten& teksten, bool inHTML) {

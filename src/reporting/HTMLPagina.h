@@ -35,6 +35,11 @@ struct PaginaTeksten {
 void SchrijfHTMLKop(TekstSchrijver& uit, const PaginaTeksten& teksten, std::string_view kop,
                     std::string_view voornaam, std::string_view achternaam);
 
+// "Generatie " and its number in Roman. In HTML with its anchor and with links to the generations
+// beside it that lie in `eerste` to `laatste`; the heading ends with its line, in HTML with an empty
+// one besides.
+void SchrijfGeneratie(TekstSchrijver& uit, int generatie, int eerste, int laatste, bool inHTML);
+
 // The closing lines of a report, in HTML or in text, and the empty line behind them.
 void SchrijfSlot(TekstSchrijver& uit, const PaginaTeksten& teksten, bool inHTML);
 

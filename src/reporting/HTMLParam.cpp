@@ -24,7 +24,7 @@ const std::string_view HTMLParam::kLabelVoor = "Geef de tekst vóór de link:"_w
 
 HTMLParam::HTMLParam(const HTMLParamSoort& soort, Hoofdmodule& hoofd, PaginaTeksten& teksten)
     : Formulier(soort.naam, soort.titel), soort_(soort), hoofd_(hoofd), teksten_(teksten) {
-  ZetHulpOnderwerp("kwartierstaat");
+  ZetHulpOnderwerp(soort.hulp);
   ZetEersteVeld(EmailAdres);
   OKButton.BijKlik([this] { OKKlik(); });
   BackButton.BijKlik([this] { BackKlik(); });

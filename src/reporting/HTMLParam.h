@@ -10,15 +10,17 @@ namespace lb77 {
 
 class Hoofdmodule;
 
-// What tells one HTML dialog from another: its name, title, and the settings section of its report.
+// What tells one HTML dialog from another: its name, title, the settings section of its report, and
+// the chapter of the manual.
 struct HTMLParamSoort {
   std::string_view naam;
   std::string_view titel;
   std::string_view sectie;
+  std::string_view hulp;
 };
 
-inline constexpr HTMLParamSoort kKwHTMLParam{"KwHTMLParam",
-                                             "Kwartierstaat Uitvoeropties voor Internet", "KWST"};
+inline constexpr HTMLParamSoort kKwHTMLParam{
+    "KwHTMLParam", "Kwartierstaat Uitvoeropties voor Internet", "KWST", "kwartierstaat"};
 
 // Asks e-mail address and home page for the foot of a page. OK puts them into `teksten` and into
 // the settings; BackButton sets HuidigPersoonNr to -1.

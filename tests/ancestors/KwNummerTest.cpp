@@ -63,6 +63,13 @@ TEST(KwNrSchoon, DropsBlanksAndLeadingZeros) {
   EXPECT_EQ(KwNrSchoon(""), "");
 }
 
+TEST(KindLetter, GoesOnInTwoLettersBehindTheAlphabet) {
+  EXPECT_EQ(KindLetter(1), "a");
+  EXPECT_EQ(KindLetter(26), "z");
+  EXPECT_EQ(KindLetter(27), "aa");
+  EXPECT_EQ(KindLetter(29), "ac");
+}
+
 TEST(Kwartiernummer, KnowsItsFamily) {
   const Kwartiernummer vijf("5");
   EXPECT_EQ(vijf.Vader().Tekst(), "10");

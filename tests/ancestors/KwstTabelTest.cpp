@@ -80,6 +80,19 @@ TEST_F(KwstTabelToets, AFatherAloneGetsOneEntryAndHisLineKeepsItsNumbers) {
   EXPECT_EQ(tabel_.KwKindIndex(2), 2);
 }
 
+TEST_F(KwstTabelToets, CouplesAreWalkedOneBehindTheOther) {
+  BouwNichtenhuwelijk();
+  EXPECT_EQ(Bouw(kind_), KwstUitslag::Klaar);
+  EXPECT_EQ(tabel_.Paar(1), (KwstPaar{1, 2, 3}));
+  EXPECT_EQ(tabel_.Paar(5), (KwstPaar{5, 6, 7}));
+  EXPECT_EQ(tabel_.Paar(7), (KwstPaar{7, 0, 8}));
+  const auto moeder = set_.bouw.Vrouw("Moeder", "A");
+  const auto kind = set_.bouw.Man("Kind", "A");
+  set_.bouw.Relatie(0, moeder, {kind});
+  EXPECT_EQ(Bouw(kind), KwstUitslag::Klaar);
+  EXPECT_EQ(tabel_.Paar(1), (KwstPaar{0, 1, 2}));
+}
+
 TEST_F(KwstTabelToets, ACousinMarriageRefersBackAndStopsThere) {
   BouwNichtenhuwelijk();
   EXPECT_EQ(Bouw(kind_), KwstUitslag::Klaar);

@@ -51,6 +51,18 @@ TEST_F(HTMLPaginaToets, AnEmptyTitleIsLeftOut) {
   EXPECT_EQ(kop.find("H3"), std::string::npos);
 }
 
+TEST_F(HTMLPaginaToets, AGenerationIsLinkedToThoseBesideIt) {
+  const auto kop = [this](int generatie, int eerste, int laatste, bool inHTML) {
+    return Geschreven(
+        [&](TekstSchrijver& uit) { SchrijfGeneratie(uit, generatie, eerste, laatste, inHTML); });
+  };
+  EXPECT_EQ(kop(4, 1, 9, false), "Generatie IV\n");
+  EXPECT_EQ(kop(2, 1, 3, true),
+            "Generatie II<A NAME=\"II\"></A><A HREF=\"#I\">(Generatie I)</A>"
+            "<A HREF=\"#III\">(Generatie III)</A></H4>\n\n");
+  EXPECT_EQ(kop(2, 2, 2, true), "Generatie II<A NAME=\"II\"></A></H4>\n\n");
+}
+
 TEST_F(HTMLPaginaToets, TheFootTellsOnlyWhatIsFilledIn) {
   teksten_.email = "jan@example.org";
   teksten_.emailTekst = "Schrijf me";
