@@ -22,7 +22,8 @@ int SpeelDraaiboek(const Omgeving& omgeving, std::string_view utf8,
       },
       [&omgeving](std::string_view regel) { omgeving.uit << regel << '\n'; }, std::move(opties));
   omgeving.uit.flush();
-  for (const std::string& over : uitslag.ongebruikt) omgeving.fout << over << '\n';
+  for (const std::string& over : uitslag.ongebruikt)
+    omgeving.fout << "niet gebruikt: " << over << '\n';
   if (!uitslag.reden.empty()) omgeving.fout << uitslag.reden << '\n';
   return uitslag.status;
 }
