@@ -206,6 +206,19 @@ TEST_F(Hoofdvenster, AfsluitenBewaartDePlaatsAltijd) {
   EXPECT_TRUE(IniHeeft("MainX=321"));
 }
 
+TEST_F(Hoofdvenster, AfsluitenBewaartWaarHetVensterNuStaat) {
+  ZetIni("[Scherm]\nMainX=321\nMainY=234\n");
+  Verwacht("", MetMenu([](Hoofdmodule&, MenuWindow& menu) {
+             EXPECT_TRUE(menu.Laad());
+             menu.ZetPositie({400, 500});
+             EXPECT_TRUE(menu.Klik(*menu.Zoek("KeuzeAfsluiten")));
+             EXPECT_TRUE(menu.Gesloten());
+           }),
+           "");
+  EXPECT_TRUE(IniHeeft("MainX=400"));
+  EXPECT_TRUE(IniHeeft("MainY=500"));
+}
+
 TEST_F(Hoofdvenster, HetKaderBewaartDePlaatsAlleenAlsZeAndersIs) {
   ZetIni("[Scherm]\nMainX=321\nMainY=234\n");
   const std::string voor = Ini();
@@ -221,6 +234,12 @@ TEST_F(Hoofdvenster, HetKaderBewaartDePlaatsAlleenAlsZeAndersIs) {
            "");
   EXPECT_TRUE(IniHeeft("MainX=400"));
   EXPECT_TRUE(IniHeeft("MainY=234"));
+  Verwacht("", Geladen([](Hoofdmodule&, MenuWindow& menu) {
+             menu.ZetPositie({400, 567});
+             menu.VraagSluiten();
+           }),
+           "");
+  EXPECT_TRUE(IniHeeft("MainY=567"));
 }
 
 TEST_F(Hoofdvenster, EscapeSluitHetProgrammaNiet) {

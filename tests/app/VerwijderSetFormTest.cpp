@@ -87,6 +87,23 @@ TEST_F(VerwijderSetVenster, JaVerwijdertDeSetVanDeSchijfEnNietsAnders) {
   EXPECT_TRUE(IniHeeft("Set1=TWEE,oms TWEE"));
 }
 
+TEST_F(VerwijderSetVenster, NaHetVerwijderenIsGeenBestandMeerOpenEnZijnErGeenVolgers) {
+  ZetSets({"EEN", "TWEE"});
+  Verwacht("stel SetPicklist #1\ndruk OKButton", MetMenu([](Hoofdmodule& hoofd, MenuWindow& menu) {
+             EXPECT_TRUE(menu.Laad());
+             hoofd.volgers.HuidigPersoonNr = 12;
+             EXPECT_TRUE(hoofd.bestanden.IsOpen(BestandSoort::Personen));
+             Toont<VerwijderSetForm>(hoofd, menu)(hoofd.gesprek);
+             for (const BestandSoort soort : kBestandSoorten) {
+               EXPECT_FALSE(hoofd.bestanden.IsOpen(soort));
+             }
+             EXPECT_EQ(hoofd.volgers.HuidigPersoonNr, -1);
+             EXPECT_FALSE(menu.Zoek("MenuInvoer")->Ingeschakeld());
+           }),
+           R"(+ VerwijderSetForm "Verwijder Bestandendset"
+              - VerwijderSetForm)");
+}
+
 TEST_F(VerwijderSetVenster, ZonderKeuzeBlijftHetVensterStaan) {
   ZetSets({"EEN"});
   std::filesystem::remove_all(map_ / "DATA");
