@@ -134,29 +134,37 @@ consteval TekstTabel MaakVanAnsel() {
   return tabel;
 }
 
+// The accent that a byte marks; null for a byte that is no mark.
+consteval std::array<const Accent*, 256> MaakAccentVan() {
+  std::array<const Accent*, 256> tabel{};
+  for (const Accent& accent : kAccenten) {
+    for (const char merk : accent.merken) tabel[static_cast<unsigned char>(merk)] = &accent;
+  }
+  return tabel;
+}
+
 constexpr std::array<Gemerkt, 256> kNaarAnsel = MaakNaarAnsel();
 constexpr TekstTabel kVanAnsel = MaakVanAnsel();
-
-const Accent* AccentVan(char merk) {
-  for (const Accent& accent : kAccenten) {
-    if (accent.merken.find(merk) != std::string_view::npos) return &accent;
-  }
-  return nullptr;
-}
+constexpr std::array<const Accent*, 256> kAccentVan = MaakAccentVan();
 
 bool IsKaleLetter(char teken) {
   return static_cast<unsigned char>(teken) < 128 && IsLetter(teken);
 }
 
-std::string MetAccent(const Accent& accent, char letter) {
-  if (const auto gevormd = accent.letters.Met(letter)) return std::string(1, *gevormd);
-  return std::string(accent.naam) + letter;
+void VoegMetAccent(const Accent& accent, char letter, std::string& uit) {
+  if (const auto gevormd = accent.letters.Met(letter)) {
+    uit += *gevormd;
+  } else {
+    uit.append(accent.naam) += letter;
+  }
 }
 
-std::string Los(char teken) {
-  const auto byte = static_cast<unsigned char>(teken);
-  if (!kVanAnsel[byte].empty()) return std::string(kVanAnsel[byte]);
-  return "?_" + GetalTekst(byte) + "_?";
+void VoegLos(unsigned char byte, std::string& uit) {
+  if (!kVanAnsel[byte].empty()) {
+    uit += kVanAnsel[byte];
+  } else {
+    uit += "?_" + GetalTekst(byte) + "_?";
+  }
 }
 
 }  // namespace
@@ -173,12 +181,14 @@ std::string WindowsNaarAnsel(std::string_view windows) {
 
 std::string AnselNaarWindows(std::string_view ansel) {
   std::string uit;
+  uit.reserve(ansel.size());
   for (std::size_t i = 0; i < ansel.size(); ++i) {
-    const Accent* accent = AccentVan(ansel[i]);
+    const auto byte = static_cast<unsigned char>(ansel[i]);
+    const Accent* const accent = kAccentVan[byte];
     if (accent == nullptr) {
-      uit += Los(ansel[i]);
+      VoegLos(byte, uit);
     } else if (i + 1 < ansel.size() && IsKaleLetter(ansel[i + 1])) {
-      uit += MetAccent(*accent, ansel[++i]);
+      VoegMetAccent(*accent, ansel[++i], uit);
     }
   }
   return uit;
