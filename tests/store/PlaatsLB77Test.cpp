@@ -119,6 +119,15 @@ TEST_F(PlaatsLB77Test, DeNaamMetAanduiding) {
   EXPECT_EQ(set.Plaats.Prov(10002), "ZH");
 }
 
+TEST_F(PlaatsLB77Test, OpDeGrensVanEenAanduidingHoortHetNummerErNogOnder) {
+  std::string bytes = LeesBytes(set.paden.plt);
+  bytes.resize(9999 * 27);
+  ZetBestand(bytes + "ZHDelft                    ");
+  EXPECT_EQ(set.Plaats.Naam2(10000), "Delft");
+  EXPECT_EQ(set.Plaats.Naam2(20000), "verm. Delft");
+  EXPECT_EQ(set.Plaats.Naam2(30000), "Delft(?)");
+}
+
 TEST_F(PlaatsLB77Test, EenOnleesbarePlaatsHeeftGeenNaamEnGeenAanduiding) {
   for (const std::int16_t nr : std::initializer_list<std::int16_t>{0, 77, 10077, 20077, -1}) {
     EXPECT_EQ(set.Plaats.Naam(nr), "");
