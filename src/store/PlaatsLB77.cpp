@@ -111,15 +111,6 @@ std::string PlaatsLB77::Prov(std::int16_t PlaatsNr) {
   return Lees(PlaatsRecordNr(PlaatsNr)) ? Tekst(veld::Prov) : std::string();
 }
 
-std::int16_t PlaatsLB77::TelPlaatsen() {
-  const std::uint64_t stand = DeOpslag().bestanden.Stand(BestandSoort::Plaatsen);
-  if (hoogsteStand_ == stand) return hoogste_;
-  const Telling telling = Tel();
-  hoogste_ = telling.hoogste;
-  hoogsteStand_ = telling.klopt ? std::optional(stand) : std::nullopt;
-  return hoogste_;
-}
-
 void PlaatsLB77::WerkIndexBij(std::int16_t hoogste) {
   const std::uint64_t stand = DeOpslag().bestanden.Stand(BestandSoort::Plaatsen);
   if (indexStand_ == stand && index_.Hoogste() == hoogste) return;
@@ -200,7 +191,7 @@ std::int16_t PlaatsLB77::VoegToe(const Zoekvraag& zoek, std::int32_t nr) {
 
 std::int16_t PlaatsLB77::Nr(std::string_view Naam, std::int16_t Gedeeltelijk, std::string_view Prov,
                             std::int16_t Toevoegen, PlaatsVraag& vraag) {
-  const std::int16_t hoogste = TelPlaatsen();
+  const std::int16_t hoogste = AantalRecords();
   const std::string_view naam = Trim(Naam.substr(0, veld::Naam.breedte));
   std::string sleutel = PlaatsIndex::Sleutel(naam);
   // Also a name that is empty as it would be stored: of hard blanks alone.

@@ -57,9 +57,6 @@ class PlaatsLB77 final : public RecordRaam {
 
   bool IsGat(Soort soort) const override;
   bool MagSchildwachtZijn(Soort soort) const override;
-  /// As AantalRecords, without a read as long as nobody writes; a count that is wrong is told each
-  /// time.
-  std::int16_t TelPlaatsen();
   void WerkIndexBij(std::int16_t hoogste);
   void MeldStoring(const PlaatsStoring& storing);
   std::optional<std::int16_t> Doorzoek(const Zoekvraag& zoek);
@@ -68,8 +65,6 @@ class PlaatsLB77 final : public RecordRaam {
 
   PlaatsIndex index_;
   std::optional<std::uint64_t> indexStand_;  ///< the file's state that the index tells of
-  std::int16_t hoogste_ = 0;                 ///< the highest number, when its count is right
-  std::optional<std::uint64_t> hoogsteStand_;
 };
 
 }  // namespace lb77

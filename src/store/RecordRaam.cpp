@@ -180,21 +180,16 @@ std::int16_t RecordRaam::ZoekHoogste(std::int32_t vanaf) {
 }
 
 std::int16_t RecordRaam::AantalRecords() {
-  return Tel().hoogste;
-}
-
-RecordRaam::Telling RecordRaam::Tel() {
   const bool admin = LeesAdmin();
   const std::int32_t volgensAdmin = (admin ? GetalOp(buffer_, tabel_.telling) : 0) + 1;
   // An admin record that reads is record 1, also where it would not do as an ordinary record.
   const std::int16_t gevonden = std::max<std::int16_t>(ZoekHoogste(volgensAdmin), admin ? 1 : 0);
-  const bool klopt = gevonden == volgensAdmin;
-  if (!klopt) {
+  if (gevonden != volgensAdmin) {
     opslag_.gesprek.Waarschuw(std::string(tabel_.aantalFout) +
                               "\nGevonden:" + GetalTekst(gevonden) +
                               "\nVolgens administratierecord:" + GetalTekst(volgensAdmin));
   }
-  return {gevonden, klopt};
+  return gevonden;
 }
 
 std::int16_t RecordRaam::MaxRecordNr() {

@@ -83,13 +83,6 @@ class RecordRaam {
     SysteemFout fout;  ///< of the system; none when the record is merely absent
   };
 
-  /// The highest record number, and whether record 1 agrees with it.
-  struct Telling {
-    std::int16_t hoogste = 0;
-    bool klopt = false;
-  };
-  /// As AantalRecords.
-  Telling Tel();
   /// Reads a record into the buffer, or empties it. An absent record fails silently.
   [[nodiscard]] bool LeesRecord(std::int32_t nr);
   /// The same without any message.
