@@ -30,12 +30,6 @@ std::string_view ZonderTekens(std::string_view woord) {
   return woord.size() < 2 ? std::string_view() : woord.substr(1, woord.size() - 2);
 }
 
-void SplitsTag(std::string_view rest, GedDelen& delen) {
-  const std::optional<std::size_t> plaats = Scheiding(rest);
-  delen.tag = plaats ? rest.substr(0, *plaats) : TrimRechts(rest);
-  if (plaats) delen.waarde = rest.substr(*plaats + 1);
-}
-
 }  // namespace
 
 GedDelen GedRegel(std::string_view regel) {
@@ -53,12 +47,14 @@ GedDelen GedRegel(std::string_view regel) {
   }
   delen.level = level;
   std::string_view rest = regel.substr(*p + 1);
-  const std::optional<std::size_t> q = Scheiding(rest);
+  std::optional<std::size_t> q = Scheiding(rest);
   if (q && IsId(rest.substr(0, *q))) {
     delen.id = ZonderTekens(rest.substr(0, *q));
     rest.remove_prefix(*q + 1);
+    q = Scheiding(rest);
   }
-  SplitsTag(rest, delen);
+  delen.tag = q ? rest.substr(0, *q) : TrimRechts(rest);
+  if (q) delen.waarde = rest.substr(*q + 1);
   if (delen.tag == "CHARSET") delen.tag = "CHAR";
   return delen;
 }
