@@ -36,4 +36,12 @@ Kaal LeesKaal(const std::filesystem::path& pad) {
   return kaal;
 }
 
+std::size_t LeesRegels(const std::filesystem::path& pad) {
+  std::size_t tekens = 0;
+  std::ifstream bestand(pad, std::ios::binary);
+  std::string regel;
+  while (std::getline(bestand, regel)) tekens += regel.size();
+  return tekens;
+}
+
 }  // namespace lb77::bench

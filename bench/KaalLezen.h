@@ -17,4 +17,7 @@ struct Kaal {
 /// Reads a GEDCOM file once: std::getline, and each line split in level, tag and value.
 [[nodiscard]] Kaal LeesKaal(const std::filesystem::path& pad);
 
+/// Reads a file once by std::getline, without a look into the lines; the characters of all lines.
+[[nodiscard]] std::size_t LeesRegels(const std::filesystem::path& pad);
+
 }  // namespace lb77::bench
