@@ -147,6 +147,7 @@ TEST_F(OpmKetenTest, DeVindplaatsVanElkeRegelEnDeOpmerkingErvoor) {
   EXPECT_EQ(Plek(8, 1), Paar(4, 2));
   EXPECT_EQ(Plek(1, 11), Paar(5, 4));
   EXPECT_EQ(Plek(1, 12), Paar(6, 4));
+  EXPECT_EQ(Plek(2, 1), Paar(0, 5)) << "zonder vondst: achter de laatste opmerking";
 }
 
 TEST_F(OpmKetenTest, HetEindeVanDeKettingIsDeLaatsteOpmerking) {

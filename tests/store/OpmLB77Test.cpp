@@ -177,5 +177,6 @@ TEST_F(OpmLB77Test, DeRubriekenVanEenCodeSamen) {
   EXPECT_EQ(OpmCodeMet(0, -256), -256);
   EXPECT_EQ(OpmCodeMet(-1, -256), -257);
   EXPECT_EQ(OpmCodeMet(-256, -256), -256);
+  EXPECT_EQ(OpmCodeMet(-256, 0), -256);
   EXPECT_EQ(OpmCodeMet(-32768, -1), -1);
 }

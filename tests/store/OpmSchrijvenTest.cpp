@@ -113,6 +113,27 @@ TEST_F(OpmSchrijvenTest, TienRegelsVan80TekensVullenTienRecords) {
   EXPECT_EQ(Admin(), (Drie{11, 10, 12}));
 }
 
+TEST_F(OpmSchrijvenTest, DeTiendeRegelIsAltijdDeLaatste) {
+  const Lijst tien(10, "x");
+  ASSERT_TRUE(Wijzig(1, tien));
+  Lees(11).Zet("VolgRegel", "77");
+  ASSERT_TRUE(set.Opmerking.Schrijf());
+  ASSERT_TRUE(Wijzig(1, tien));
+  EXPECT_EQ(Lees(10).VolgRegel(), 11);
+  EXPECT_EQ(Lees(11).VolgRegel(), 0);
+}
+
+TEST_F(OpmSchrijvenTest, DePersoonGaatVoorDeRelatie) {
+  const auto vrouw = set.bouw.Vrouw("Griet", "");
+  ASSERT_NE(vrouw, relatie);
+  ASSERT_TRUE(set.Opmerking.SchrijfOpmerking(Regels({"een"}), {}, 0, vrouw, relatie, 0, 23, 1));
+  EXPECT_EQ(Lees(2).BijRecord(), vrouw);
+  ASSERT_TRUE(set.Persoon.Lees(vrouw));
+  EXPECT_EQ(set.Persoon.OpmRecord(), 2);
+  ASSERT_TRUE(set.Relatie.Lees(relatie));
+  EXPECT_EQ(set.Relatie.OpmRecord(), 0);
+}
+
 TEST_F(OpmSchrijvenTest, EenRegelWordtOp80TekensAfgekapt) {
   ASSERT_TRUE(Wijzig(1, {std::string(81, 'x')}));
   EXPECT_EQ(Teksten(1), Lijst{std::string(80, 'x')});

@@ -262,6 +262,24 @@ TEST_F(PlaatsZoekenTest, EenLeesfoutBijHetZoekenGeldtNietVoorDeVolgendeKeer) {
   EXPECT_EQ(Zoek("Delft"), 3);
 }
 
+TEST_F(PlaatsZoekenTest, EenVondstDieNietMeerTeLezenIsWordtGemeldEnOvergeslagen) {
+  EXPECT_EQ(Zoek("Delft"), 3);
+  // The count, the last record, then the place itself.
+  storing = {.bij = 3};
+  EXPECT_EQ(Zoek("Delft"), 5);
+  EXPECT_EQ(set.Getoond(),
+            (Boxen{"! stop \"Fout bij het lezen van Plaatsrecord 3\\nFout van de schijf\"",
+                   "! uitroep \"3 Fout bij het lezen van plaatsrecord\""}));
+}
+
+TEST_F(PlaatsZoekenTest, EenMisluktTellenGeldtNietVoorDeVolgendeKeer) {
+  set.bouw.Plaats("Gouda");
+  storing = {.bij = 2};
+  EXPECT_EQ(Zoek("Gouda"), -1);
+  EXPECT_EQ(set.Getoond().size(), 3U);
+  EXPECT_EQ(Zoek("Gouda"), 6);
+}
+
 TEST_F(PlaatsZoekenTest, EenBlijvendeLeesfoutToontOokDeReden) {
   storing = {.bij = 3, .blijvend = true};
   EXPECT_EQ(Zoek("Delft"), -1);
