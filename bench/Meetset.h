@@ -13,19 +13,19 @@
 
 namespace lb77::bench {
 
-/// What the user would read goes nowhere. Each command is a whole session, from the settings file
-/// to the closing of the program. Throws std::runtime_error when a command fails.
+// What the user would read goes nowhere. Each command is a whole session, from the settings file
+// to the closing of the program. Throws std::runtime_error when a command fails.
 class Meetset {
  public:
-  /// Makes the empty set MEET.
+  // Makes the empty set MEET.
   Meetset();
 
   void Importeer(const std::filesystem::path& gedcom);
-  /// Writes the Kwartierstaat of a person to `naar`; `zet` are choices of its dialog.
+  // Writes the Kwartierstaat of a person to `naar`; `zet` are choices of its dialog.
   void Kwartierstaat(int persoon, const std::filesystem::path& naar,
                      const std::vector<std::string>& zet = {});
 
-  /// The set's file of persons.
+  // The set's file of persons.
   [[nodiscard]] std::filesystem::path Personen() const;
 
  private:

@@ -10,12 +10,12 @@ namespace lb77::bench {
 
 inline constexpr int kGeen = -1;
 
-/// A person; numbers of persons and families count from 0.
+// A person; numbers of persons and families count from 0.
 struct Mens {
   bool man = true;
-  int jaar = 0;       ///< of birth
-  int sterfjaar = 0;  ///< 0: still alive, or not known
-  int familie = 0;    ///< number of the surname, which goes from father to child
+  int jaar = 0;       // of birth
+  int sterfjaar = 0;  // 0: still alive, or not known
+  int familie = 0;    // number of the surname, which goes from father to child
   int ouders = kGeen;
   std::vector<int> gezinnen;
 };
@@ -23,7 +23,7 @@ struct Mens {
 struct Gezin {
   int man = kGeen;
   int vrouw = kGeen;
-  int jaar = 0;  ///< of the marriage
+  int jaar = 0;  // of the marriage
   std::vector<int> kinderen;
 };
 
@@ -32,11 +32,11 @@ struct Stamboom {
   std::vector<Gezin> gezinnen;
 };
 
-/// Persons of four and a half centuries. Nobody marries before 20 or has children before the
-/// wedding; some marry up to four times, and some couples have more than fifteen children.
+// Persons of four and a half centuries. Nobody marries before 20 or has children before the
+// wedding; some marry up to four times, and some couples have more than fifteen children.
 [[nodiscard]] Stamboom MaakBevolking(int personen, int gezinnen, Toeval& toeval);
 
-/// One person, number 0, with all his ancestors of so many generations, himself counted.
+// One person, number 0, with all his ancestors of so many generations, himself counted.
 [[nodiscard]] Stamboom MaakVoorouders(int generaties, Toeval& toeval);
 
 }  // namespace lb77::bench

@@ -5,7 +5,7 @@
 
 namespace lb77::bench {
 
-/// Questions get No or Cancel; forms are not shown.
+// Questions get No or Cancel; forms are not shown.
 class StilGesprek final : public Gesprek {
  public:
   Antwoord Bericht(BerichtSoort, Knoppen knoppen, std::string_view) override {

@@ -7,8 +7,8 @@
 
 namespace lb77::bench {
 
-/// SplitMix64. The distributions of the standard library differ between its makers, so there are
-/// none here.
+// SplitMix64. The distributions of the standard library differ between its makers, so there are
+// none here.
 class Toeval {
  public:
   explicit Toeval(std::uint64_t zaad) : stand_(zaad) {}
@@ -21,18 +21,18 @@ class Toeval {
     return z ^ (z >> 31U);
   }
 
-  /// 0 up to, not including, `grens`, which is at least 1.
+  // 0 up to, not including, `grens`, which is at least 1.
   int Onder(int grens) {
     return static_cast<int>((Volgende() >> 32U) % static_cast<std::uint64_t>(grens));
   }
 
-  /// `van` up to and including `tot`.
+  // `van` up to and including `tot`.
   int Tussen(int van, int tot) { return van + Onder(tot - van + 1); }
 
-  /// True in so many of a hundred cases.
+  // True in so many of a hundred cases.
   bool Kans(int procent) { return Onder(100) < procent; }
 
-  /// One of the elements of an array.
+  // One of the elements of an array.
   template <class T, std::size_t N>
   const T& Een(const T (&rij)[N]) {
     return rij[Onder(static_cast<int>(N))];

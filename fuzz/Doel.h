@@ -4,5 +4,5 @@
 #include <cstddef>
 #include <cstdint>
 
-/// The name and the form that libFuzzer calls. 0 for every input.
+// The name and the form that libFuzzer calls. 0 for every input.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t lengte);

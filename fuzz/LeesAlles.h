@@ -5,10 +5,10 @@
 
 namespace lb77::fuzz {
 
-/// All records that the files have room for, some numbers beside them, and what they refer to.
+// All records that the files have room for, some numbers beside them, and what they refer to.
 void LeesAlles(Hoofdmodule& hoofd, const SetBytes& bytes);
 
-/// Remarks, a place and records added as entry and import do; what refuses has told why.
+// Remarks, a place and records added as entry and import do; what refuses has told why.
 void SchrijfIets(Hoofdmodule& hoofd);
 
 }  // namespace lb77::fuzz

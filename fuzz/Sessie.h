@@ -11,7 +11,7 @@
 
 namespace lb77::fuzz {
 
-/// The bytes of the four record files.
+// The bytes of the four record files.
 struct SetBytes {
   std::string personen;
   std::string relaties;
@@ -19,21 +19,21 @@ struct SetBytes {
   std::string plaatsen;
 };
 
-/// The program's directory of this process, with the directory TEKST of the set FUZZ, and with a
-/// settings file by which no dialog keeps its choices.
+// The program's directory of this process, with the directory TEKST of the set FUZZ, and with a
+// settings file by which no dialog keeps its choices.
 [[nodiscard]] const std::filesystem::path& ProgrammaMap();
 
 class Sessie {
  public:
-  /// Opens these files as the set FUZZ. They outlive the session.
+  // Opens these files as the set FUZZ. They outlive the session.
   explicit Sessie(SetBytes& bytes);
 
-  /// Writes record 1 of all four files.
+  // Writes record 1 of all four files.
   void MaakNieuw();
-  /// Reads a GEDCOM file by the form of the program.
+  // Reads a GEDCOM file by the form of the program.
   void Importeer(const std::filesystem::path& gedcom);
 
-  /// How a Kwartierstaat is asked; each bit is a choice of its dialog.
+  // How a Kwartierstaat is asked; each bit is a choice of its dialog.
   enum Keuze : unsigned {
     kHTML = 1,
     kOpmerkingen = 2,
@@ -42,7 +42,7 @@ class Sessie {
     kBroersZussen = 16,
     kBroersZussenProband = 32
   };
-  /// Writes it from the prompt to the viewer.
+  // Writes it from the prompt to the viewer.
   void Kwartierstaat(int persoon, unsigned keuzen);
 
  private:

@@ -14,7 +14,7 @@ KwstTxtParam::KwstTxtParam(Hoofdmodule& hoofd, KwstOpties& opties)
       opties_(opties) {
   ZetHulpOnderwerp("kwartierstaat");
   ZetEersteVeld(Nummers.KwNrProband);
-  OKButton.BijKlik([this] { OKKlik(); });
+  OKButton.BijKlik([this] { OKButtonKlik(); });
   BackButton.BijKlik([this] {
     hoofd_.volgers.HuidigPersoonNr = -1;
     Sluit();
@@ -38,7 +38,7 @@ void KwstTxtParam::BijLaden() {
   Titels.Laad(hoofd_.Ini, "KWST", "Kwartierstaat van " + Proband.Naam());
 }
 
-void KwstTxtParam::OKKlik() {
+void KwstTxtParam::OKButtonKlik() {
   Nummers.Bewaar(opties_);
   opties_.KwBroerZus = static_cast<BroerZus>(BroerZusBox.Index() + 1);
   opties_.KwOokNrs = OokNrsBox.Ja();

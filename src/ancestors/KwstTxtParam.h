@@ -38,7 +38,7 @@ class KwstTxtParam final : public Formulier {
 
  private:
   [[nodiscard]] std::array<JaNeeSleutel, 4> Sleutels();
-  void OKKlik();
+  void OKButtonKlik();
   void Bewaar();
 
   Hoofdmodule& hoofd_;

@@ -13,7 +13,7 @@ OKPersoon::OKPersoon(Hoofdmodule& hoofd, std::string_view voornaam, std::string_
   naam_ = Trim(naam);
   InfoTekst.ZetAlleenLezen(true);
   JaButton.BijKlik([this] { Sluit(); });
-  NeeButton.BijKlik([this] { NeeKlik(); });
+  NeeButton.BijKlik([this] { NeeButtonKlik(); });
   ZetEersteVeld(JaButton);
 }
 
@@ -30,7 +30,7 @@ bool OKPersoon::MagSluiten() {
   return true;
 }
 
-void OKPersoon::NeeKlik() {
+void OKPersoon::NeeButtonKlik() {
   hoofd_.volgers.HuidigPersoonNr = 0;
   Sluit();
 }

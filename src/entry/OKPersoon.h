@@ -10,8 +10,8 @@ namespace lb77 {
 
 class Hoofdmodule;
 
-/// Shows person HuidigPersoonNr under the names given. No, and closing without an answer, set
-/// HuidigPersoonNr to 0.
+// Shows person HuidigPersoonNr under the names given. No, and closing without an answer, set
+// HuidigPersoonNr to 0.
 class OKPersoon final : public Formulier {
  public:
   OKPersoon(Hoofdmodule& hoofd, std::string_view voornaam, std::string_view achternaam);
@@ -28,7 +28,7 @@ class OKPersoon final : public Formulier {
   [[nodiscard]] bool MagSluiten() override;
 
  private:
-  void NeeKlik();
+  void NeeButtonKlik();
 
   Hoofdmodule& hoofd_;
   std::string naam_;

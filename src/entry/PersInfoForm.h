@@ -7,7 +7,7 @@ namespace lb77 {
 
 class Hoofdmodule;
 
-/// Shows person HuidigPersoonNr.
+// Shows person HuidigPersoonNr.
 class PersInfoForm final : public Formulier {
  public:
   explicit PersInfoForm(Hoofdmodule& hoofd);

@@ -8,8 +8,8 @@ namespace lb77 {
 
 class Hoofdmodule;
 
-/// The person with his events and partners, told by the settings of the session. HuidigPersoonNr is
-/// `nr` after it; all record buffers may change.
+// The person with his events and partners, told by the settings of the session. HuidigPersoonNr is
+// `nr` after it; all record buffers may change.
 [[nodiscard]] std::string PersoonInfo(Hoofdmodule& hoofd, std::int16_t nr);
 
 }  // namespace lb77

@@ -16,7 +16,7 @@ class PlaatsVraagMetDialogen final : public PlaatsVraag {
   [[nodiscard]] bool Bevestig(std::string_view naam, std::string_view prov) override;
   [[nodiscard]] bool NogVerder() override;
   [[nodiscard]] bool Toevoegen(std::string_view naam) override;
-  /// Two characters.
+  // Two characters.
   std::string Provincie(std::string_view naam, std::string_view prov) override;
 
  private:

@@ -6,13 +6,13 @@ namespace lb77 {
 
 VraagFilter::VraagFilter(NaamFilter& filter)
     : Formulier("VraagFilter", "Zoek Persoon - Filter op Naam"), filter_(filter) {
-  OKButton.BijKlik([this] { OKKlik(); });
+  OKButton.BijKlik([this] { OKButtonKlik(); });
   BackButton.BijKlik([this] { Sluit(); });
   AchterNm.ZetEnter(EnterSoort::OK);
   ZetEersteVeld(VoorNm);
 }
 
-void VraagFilter::OKKlik() {
+void VraagFilter::OKButtonKlik() {
   filter_.FilterVoorNm = Trim(VoorNm.Tekst());
   filter_.FilterAchterNm = Trim(AchterNm.Tekst());
   Sluit();

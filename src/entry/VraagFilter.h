@@ -6,7 +6,7 @@
 
 namespace lb77 {
 
-/// OK puts both texts into the filter; Terug leaves it as it is.
+// OK puts both texts into the filter; Terug leaves it as it is.
 class VraagFilter final : public Formulier {
  public:
   explicit VraagFilter(NaamFilter& filter);
@@ -22,7 +22,7 @@ class VraagFilter final : public Formulier {
   Knop BackButton{*this, "BackButton", "&Terug"};
 
  private:
-  void OKKlik();
+  void OKButtonKlik();
 
   NaamFilter& filter_;
 };

@@ -25,11 +25,11 @@ VraagProv::VraagProv(std::string_view naam, std::string_view prov)
   // kept: each time the field is entered it holds the caller's code again. Without its padding,
   // which would leave no room to type.
   ProvCode.BijBetreden([this] { ProvCode.ZetTekst(Trim(plaatsProv_)); });
-  OKButton.BijKlik([this] { OKKlik(); });
+  OKButton.BijKlik([this] { OKButtonKlik(); });
   ZetEersteVeld(ProvCode);
 }
 
-void VraagProv::OKKlik() {
+void VraagProv::OKButtonKlik() {
   plaatsProv_ = TweeTekens(ProvCode.Tekst());
   Sluit();
 }

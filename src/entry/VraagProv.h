@@ -8,7 +8,7 @@
 
 namespace lb77 {
 
-/// Any two characters will do: there is no table of provinces.
+// Any two characters will do: there is no table of provinces.
 class VraagProv final : public Formulier {
  public:
   VraagProv(std::string_view naam, std::string_view prov);
@@ -18,11 +18,11 @@ class VraagProv final : public Formulier {
   Tekstvak ProvCode{*this, "ProvCode", "Provinciecode:", 2};
   Knop OKButton{*this, "OKButton", "&OK"};
 
-  /// The code, two characters; what the caller gave when the form was left without OK.
+  // The code, two characters; what the caller gave when the form was left without OK.
   [[nodiscard]] const std::string& PlaatsProv() const { return plaatsProv_; }
 
  private:
-  void OKKlik();
+  void OKButtonKlik();
 
   std::string plaatsProv_;
 };

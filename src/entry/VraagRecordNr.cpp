@@ -13,12 +13,12 @@ VraagRecordNr::VraagRecordNr(std::string_view titel, Controle controle)
   if (controle) {
     RecordNr.BijVerlaten([this, toets = std::move(controle)] { return toets(RecordNr.Tekst()); });
   }
-  OKButton.BijKlik([this] { OKKlik(); });
+  OKButton.BijKlik([this] { OKButtonKlik(); });
   BackButton.BijKlik([this] { Sluit(); });
   ZetEersteVeld(RecordNr);
 }
 
-void VraagRecordNr::OKKlik() {
+void VraagRecordNr::OKButtonKlik() {
   nr_ = Getalwaarde(RecordNr.Tekst());
   Sluit();
 }

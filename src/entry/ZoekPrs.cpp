@@ -23,16 +23,16 @@ constexpr std::string_view kFilterUit = "Filter Uit";
 
 ZoekPrs::ZoekPrs(Hoofdmodule& hoofd) : Formulier("ZoekPrs", "Zoek Persoon"), hoofd_(hoofd) {
   for (int rij = 1; rij <= kRijen; ++rij) {
-    RecordNrPrs(rij).BijKlik([this, rij] { KiesKlik(rij); });
-    InfoPersoon(rij).BijKlik([this, rij] { InfoKlik(rij); });
+    RecordNrPrs(rij).BijKlik([this, rij] { RecordNrPrsKlik(rij); });
+    InfoPersoon(rij).BijKlik([this, rij] { InfoPersoonKlik(rij); });
     NaarPa(rij).BijKlik([this, rij] { GaNaarRecord(Getalwaarde(NaarPa(rij).Bijschrift())); });
     NaarMa(rij).BijKlik([this, rij] { GaNaarRecord(Getalwaarde(NaarMa(rij).Bijschrift())); });
   }
   Vorige.BijKlik([this] { VorigeKlik(); });
   Volgende.BijKlik([this] { VolgendeKlik(); });
   NaarNr.BijKlik([this] { NaarNrKlik(); });
-  FilterButton.BijKlik([this] { FilterKlik(); });
-  BackButton.BijKlik([this] { BackKlik(); });
+  FilterButton.BijKlik([this] { FilterButtonKlik(); });
+  BackButton.BijKlik([this] { BackButtonKlik(); });
   ZetEersteVeld(Volgende);
 }
 
@@ -131,7 +131,7 @@ void ZoekPrs::NaarNrKlik() {
   }
 }
 
-void ZoekPrs::FilterKlik() {
+void ZoekPrs::FilterButtonKlik() {
   filter_ = {.FilterAan = !filter_.FilterAan, .FilterVoorNm = {}, .FilterAchterNm = {}};
   if (filter_.FilterAan) {
     VraagFilter vraag(filter_);
@@ -144,13 +144,13 @@ void ZoekPrs::FilterKlik() {
 }
 
 // kept: a step to the next or the previous page starts from this person afterwards.
-void ZoekPrs::InfoKlik(int rij) {
+void ZoekPrs::InfoPersoonKlik(int rij) {
   ZetHuidig(rij);
   PersInfoForm info(hoofd_);
   hoofd_.gesprek.ToonModaal(info);
 }
 
-void ZoekPrs::KiesKlik(int rij) {
+void ZoekPrs::RecordNrPrsKlik(int rij) {
   ZetHuidig(rij);
   Sluit();
 }
@@ -160,7 +160,7 @@ void ZoekPrs::ZetHuidig(int rij) {
   hoofd_.volgers.HuidigPersoonNr = nr.value_or(std::int16_t{0});
 }
 
-void ZoekPrs::BackKlik() {
+void ZoekPrs::BackButtonKlik() {
   hoofd_.volgers.HuidigPersoonNr = 0;
   Sluit();
 }

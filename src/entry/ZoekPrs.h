@@ -11,8 +11,8 @@ namespace lb77 {
 
 class Hoofdmodule;
 
-/// HuidigPersoonNr says where a page starts, and holds the last number shown once it is built; a
-/// page that shows nobody leaves it at its start. Closed, it is the person chosen, or 0.
+// HuidigPersoonNr says where a page starts, and holds the last number shown once it is built; a
+// page that shows nobody leaves it at its start. Closed, it is the person chosen, or 0.
 class ZoekPrs final : public Formulier {
  public:
   static constexpr int kRijen = 15;
@@ -47,11 +47,11 @@ class ZoekPrs final : public Formulier {
   void VorigeKlik();
   [[nodiscard]] std::int32_t VorigeMetFilter();
   void NaarNrKlik();
-  void FilterKlik();
-  void InfoKlik(int rij);
-  void KiesKlik(int rij);
+  void FilterButtonKlik();
+  void InfoPersoonKlik(int rij);
+  void RecordNrPrsKlik(int rij);
   void ZetHuidig(int rij);
-  void BackKlik();
+  void BackButtonKlik();
 
   Hoofdmodule& hoofd_;
   NaamFilter filter_;

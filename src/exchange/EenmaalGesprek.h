@@ -8,11 +8,11 @@
 
 namespace lb77 {
 
-/// For a record class that works through thousands of lines: what it told of one it need not tell
-/// of all. Messages are the same when their first lines are; questions are always asked.
+// For a record class that works through thousands of lines: what it told of one it need not tell
+// of all. Messages are the same when their first lines are; questions are always asked.
 class EenmaalGesprek final : public Gesprek {
  public:
-  /// `echt` is the door that shows.
+  // `echt` is the door that shows.
   explicit EenmaalGesprek(Gesprek& echt) : echt_(echt) {}
 
   Antwoord Bericht(BerichtSoort soort, Knoppen knoppen, std::string_view tekst) override;

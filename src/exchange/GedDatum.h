@@ -9,19 +9,19 @@
 
 namespace lb77 {
 
-/// A date as read. `corr` is the correction code, a blank for none: "C" about, "N" after,
-/// "V" before, "T" between the two dates.
+// A date as read. `corr` is the correction code, a blank for none: "C" about, "N" after,
+// "V" before, "T" between the two dates.
 struct GedDatumUitslag {
   char corr = ' ';
   DatumDelen eerste;
-  DatumDelen tweede;             ///< 0 unless `corr` is "T"
-  std::vector<std::string> log;  ///< what could not be read, a log line each
+  DatumDelen tweede;             // 0 unless `corr` is "T"
+  std::vector<std::string> log;  // what could not be read, a log line each
 };
 
-/// Reads the value of a DATE line. `context` names the record in the log lines.
+// Reads the value of a DATE line. `context` names the record in the log lines.
 [[nodiscard]] GedDatumUitslag GedDatum(std::string_view tekst, std::string_view context);
 
-/// The form that Zet takes, ‘dd-mm-jjjj’; no date is ‘00-00-0000’.
+// The form that Zet takes, ‘dd-mm-jjjj’; no date is ‘00-00-0000’.
 [[nodiscard]] std::string GedDatumTekst(const DatumDelen& datum);
 
 }  // namespace lb77

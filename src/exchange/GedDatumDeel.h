@@ -7,8 +7,8 @@
 
 namespace lb77 {
 
-/// Reads a date in capitals; the form follows from its length. A `dag` of -1 tells that it can't be
-/// read; a part that is not given is 0.
+// Reads a date in capitals; the form follows from its length. A `dag` of -1 tells that it can't be
+// read; a part that is not given is 0.
 [[nodiscard]] DatumDelen GedDatumDeel(std::string_view tekst);
 
 }  // namespace lb77

@@ -18,10 +18,10 @@ enum class GedSoort {
   Anders
 };
 
-/// The kind of record that a tag of level 0 begins.
+// The kind of record that a tag of level 0 begins.
 [[nodiscard]] GedSoort GedSoortVan(std::string_view tag);
 
-/// The text by which log lines name a record, ‘P-I12’. Empty for a Bewaarplaats, which has none.
+// The text by which log lines name a record, ‘P-I12’. Empty for a Bewaarplaats, which has none.
 [[nodiscard]] std::string GedContext(GedSoort soort, std::string_view id);
 
 }  // namespace lb77

@@ -11,11 +11,11 @@ namespace lb77 {
 
 class GedLog {
  public:
-  /// Begins a new log, in a directory that is made when it is gone.
+  // Begins a new log, in a directory that is made when it is gone.
   [[nodiscard]] SysteemFout Open(const std::filesystem::path& pad);
-  /// Adds a line, which gets CR LF.
+  // Adds a line, which gets CR LF.
   void Regel(std::string_view regel);
-  /// Closes the log; the error when not all of it could be written.
+  // Closes the log; the error when not all of it could be written.
   [[nodiscard]] SysteemFout Sluit();
 
  private:

@@ -6,8 +6,8 @@
 
 namespace lb77 {
 
-/// Reads the file from where the reader stands, hands out the record numbers in file order, and
-/// fills the two id tables. Lines above level 0 are only checked.
+// Reads the file from where the reader stands, hands out the record numbers in file order, and
+// fills the two id tables. Lines above level 0 are only checked.
 [[nodiscard]] ImpUitslag ImpAnalyse(ImpLoop& loop, RegelLezer& lezer);
 
 }  // namespace lb77

@@ -36,7 +36,7 @@ class ImpGedcom final : public Formulier {
   Knop OKButton{*this, "OKButton", "&Start Import"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 
-  /// The last import came to the end of its file, with no error in it that ends the reading.
+  // The last import came to the end of its file, with no error in it that ends the reading.
   [[nodiscard]] bool Gelukt() const { return gelukt_; }
 
  protected:

@@ -20,7 +20,7 @@
 
 namespace lb77 {
 
-/// The records that an import fills, and what it needs beside them.
+// The records that an import fills, and what it needs beside them.
 struct ImpDelen {
   PersoonLB77& persoon;
   RelatieLB77& relatie;
@@ -31,49 +31,49 @@ struct ImpDelen {
   ImpMelder& melder;
 };
 
-/// How a pass ended.
+// How a pass ended.
 struct ImpUitslag {
-  std::string fout{};    ///< an error of the file: the passes behind it are skipped
-  bool gestopt = false;  ///< a record could not be read or written, which its class has told
+  std::string fout{};    // an error of the file: the passes behind it are skipped
+  bool gestopt = false;  // a record could not be read or written, which its class has told
 
   [[nodiscard]] bool Gelukt() const { return fout.empty() && !gestopt; }
 };
 
 class ImpLoop {
  public:
-  /// `laatstePersoon` and `laatsteRelatie` are the highest numbers in use.
+  // `laatstePersoon` and `laatsteRelatie` are the highest numbers in use.
   ImpLoop(const ImpDelen& delen, std::int16_t laatstePersoon, std::int16_t laatsteRelatie);
 
-  /// Begins a pass: all counts from 0.
+  // Begins a pass: all counts from 0.
   void BeginGang();
-  /// Counts a line, and now and then brings the progress fields up to date.
+  // Counts a line, and now and then brings the progress fields up to date.
   void TelRegel();
-  /// Notes a line of level 0: its count and the context of log lines. The number of its record
-  /// becomes PersoonNr or RelatieNr.
+  // Notes a line of level 0: its count and the context of log lines. The number of its record
+  // becomes PersoonNr or RelatieNr.
   GedSoort Kop(const GedDelen& regel);
 
-  /// The records that the last INDI and FAM lines of this pass stand for; 0 before the first.
+  // The records that the last INDI and FAM lines of this pass stand for; 0 before the first.
   [[nodiscard]] std::int16_t PersoonNr() const { return persoonNr_; }
   [[nodiscard]] std::int16_t RelatieNr() const { return relatieNr_; }
 
-  /// Makes the next record of its file, and gives its number; 0 after a failure.
+  // Makes the next record of its file, and gives its number; 0 after a failure.
   [[nodiscard]] std::int16_t NieuwePersoon();
   [[nodiscard]] std::int16_t NieuweRelatie();
 
   [[nodiscard]] const std::string& Context() const { return context_; }
-  /// Adds a log line: the context and what follows.
+  // Adds a log line: the context and what follows.
   void Log(std::string_view tekst) { delen.melder.Log(context_ + std::string(tekst)); }
 
-  /// A text of the file in Windows-1252.
+  // A text of the file in Windows-1252.
   [[nodiscard]] std::string GedTekst(std::string_view tekst);
-  /// The value of a DATE line; what can't be read goes to the log.
+  // The value of a DATE line; what can't be read goes to the log.
   [[nodiscard]] GedDatumUitslag Datum(std::string_view waarde);
-  /// The number of a place, as text, which is added when it is new; "0" for none.
+  // The number of a place, as text, which is added when it is new; "0" for none.
   [[nodiscard]] std::string GedPlaats(std::string_view waarde);
-  /// The record number of a pointer as text; "0" for none.
+  // The record number of a pointer as text; "0" for none.
   [[nodiscard]] std::string GedPersNr(std::string_view verwijzing) const;
   [[nodiscard]] std::string GedRelNr(std::string_view verwijzing) const;
-  /// The code of a religion or a kind of marriage.
+  // The code of a religion or a kind of marriage.
   [[nodiscard]] std::string Gezindte(std::string_view waarde);
 
   ImpDelen delen;

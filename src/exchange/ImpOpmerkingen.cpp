@@ -40,11 +40,11 @@ bool IsVervolg(std::string_view tag) {
 
 }  // namespace
 
-/// A line while it may turn into a note.
+// A line while it may turn into a note.
 struct ImpOpmerkingen::Regel {
-  std::string_view ouder;  ///< the path above it
-  std::string_view pad;    ///< its own path, after the change of its tag
-  std::string_view bron;   ///< its tag in the file
+  std::string_view ouder;  // the path above it
+  std::string_view pad;    // its own path, after the change of its tag
+  std::string_view bron;   // its tag in the file
   std::string_view tag;
   std::string waarde;
 };

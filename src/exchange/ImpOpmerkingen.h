@@ -13,12 +13,12 @@
 
 namespace lb77 {
 
-/// A note waits until the next line that does not continue it, and is then wrapped and stored.
+// A note waits until the next line that does not continue it, and is then wrapped and stored.
 class ImpOpmerkingen {
  public:
   explicit ImpOpmerkingen(ImpLoop& loop);
 
-  /// Reads the file from where the reader stands.
+  // Reads the file from where the reader stands.
   [[nodiscard]] ImpUitslag Voer(RegelLezer& lezer);
 
  private:

@@ -9,19 +9,19 @@
 
 namespace lb77 {
 
-/// The record lies in the buffer of PersoonLB77 from Begin to Bewaar.
+// The record lies in the buffer of PersoonLB77 from Begin to Bewaar.
 class ImpPersoon {
  public:
   explicit ImpPersoon(ImpLoop& loop) : loop_(loop) {}
 
-  /// Reads the empty record. False after a failure, which its class has told, as all here.
+  // Reads the empty record. False after a failure, which its class has told, as all here.
   [[nodiscard]] bool Begin(std::int16_t nr);
-  /// Writes the record.
+  // Writes the record.
   [[nodiscard]] bool Bewaar();
-  /// Takes a line over; `pad` is its row, `waarde` what stands behind its tag.
+  // Takes a line over; `pad` is its row, `waarde` what stands behind its tag.
   [[nodiscard]] bool Neem(const PersoonPad& pad, std::string_view waarde);
 
-  /// The qualifier of the last death or burial date in the file; a blank before the first.
+  // The qualifier of the last death or burial date in the file; a blank before the first.
   [[nodiscard]] char LaatsteOvlCorr() const { return laatsteOvlCorr_; }
 
  private:

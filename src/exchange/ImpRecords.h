@@ -14,13 +14,13 @@
 
 namespace lb77 {
 
-/// Every line is looked up by its path in one of three tables; what no table has goes to the log.
+// Every line is looked up by its path in one of three tables; what no table has goes to the log.
 class ImpRecords {
  public:
   explicit ImpRecords(ImpLoop& loop);
 
-  /// Reads the file from where the reader stands. A record is written when the next one begins, so
-  /// that the last one needs a TRLR.
+  // Reads the file from where the reader stands. A record is written when the next one begins, so
+  // that the last one needs a TRLR.
   [[nodiscard]] ImpUitslag Voer(RegelLezer& lezer);
 
  private:

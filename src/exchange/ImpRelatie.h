@@ -9,17 +9,17 @@
 
 namespace lb77 {
 
-/// The record lies in the buffer of RelatieLB77 from Begin to Bewaar.
+// The record lies in the buffer of RelatieLB77 from Begin to Bewaar.
 class ImpRelatie {
  public:
   explicit ImpRelatie(ImpLoop& loop) : loop_(loop) {}
 
-  /// Reads the empty record. False after a failure, which its class has told, as all here.
+  // Reads the empty record. False after a failure, which its class has told, as all here.
   [[nodiscard]] bool Begin(std::int16_t nr);
-  /// Writes the record.
+  // Writes the record.
   [[nodiscard]] bool Bewaar();
-  /// Takes a line over; `pad` is its row, `waarde` what stands behind its tag. `laatsteOvlCorr` is
-  /// the qualifier of the last death or burial date in the file.
+  // Takes a line over; `pad` is its row, `waarde` what stands behind its tag. `laatsteOvlCorr` is
+  // the qualifier of the last death or burial date in the file.
   [[nodiscard]] bool Neem(const RelatiePad& pad, std::string_view waarde, char laatsteOvlCorr);
 
  private:

@@ -7,9 +7,9 @@
 namespace lb77 {
 
 enum class OverigeActie {
-  Tekenset,  ///< the character set of the file
-  BronNaam,  ///< shown while the import runs
-  Niets      ///< known, and passed over
+  Tekenset,  // the character set of the file
+  BronNaam,  // shown while the import runs
+  Niets      // known, and passed over
 };
 
 struct OverigPad {

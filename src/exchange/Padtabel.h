@@ -7,7 +7,7 @@
 
 namespace lb77 {
 
-/// Finds a row by its member `pad`. Of two rows with one path the first counts. The rows outlive it.
+// Finds a row by its member `pad`. Of two rows with one path the first counts. The rows outlive it.
 template <class Rij>
 class Padtabel {
  public:
@@ -16,7 +16,7 @@ class Padtabel {
     for (const Rij& rij : rijen) index_.try_emplace(rij.pad, &rij);
   }
 
-  /// Null when no row has that path.
+  // Null when no row has that path.
   [[nodiscard]] const Rij* Zoek(std::string_view pad) const {
     const auto gevonden = index_.find(pad);
     return gevonden == index_.end() ? nullptr : gevonden->second;

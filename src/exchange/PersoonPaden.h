@@ -7,25 +7,25 @@
 namespace lb77 {
 
 enum class PersoonActie {
-  Naam,        ///< given name and surname
-  Voornaam,    ///< 30 characters
-  Achternaam,  ///< 25 characters
+  Naam,        // given name and surname
+  Voornaam,    // 30 characters
+  Achternaam,  // 25 characters
   Geslacht,
-  GebDatum,   ///< with its qualifier; the second date goes to the baptism
-  DoopDatum,  ///< sets the qualifier of the birth
-  OvlDatum,   ///< with its qualifier; the second date goes to the burial
-  BegrDatum,  ///< sets the qualifier of the death
+  GebDatum,   // with its qualifier; the second date goes to the baptism
+  DoopDatum,  // sets the qualifier of the birth
+  OvlDatum,   // with its qualifier; the second date goes to the burial
+  BegrDatum,  // sets the qualifier of the death
   Plaats,
-  DoopPlaats,  ///< passed over when the baptism date holds the end of the birth's period
-  BegrPlaats,  ///< passed over when the burial date holds the end of the death's period
+  DoopPlaats,  // passed over when the baptism date holds the end of the birth's period
+  BegrPlaats,  // passed over when the burial date holds the end of the death's period
   Gezindte,
-  Beroep,  ///< 30 characters
+  Beroep,  // 30 characters
   Ouders,
-  Relatie,  ///< the next of at most five
-  Niets     ///< known, and passed over
+  Relatie,  // the next of at most five
+  Niets     // known, and passed over
 };
 
-/// `veld` is the name by which Zet knows the field, where an action has one.
+// `veld` is the name by which Zet knows the field, where an action has one.
 struct PersoonPad {
   std::string_view pad;
   PersoonActie actie;

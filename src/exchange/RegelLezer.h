@@ -11,24 +11,24 @@
 
 namespace lb77 {
 
-/// LF, CR LF and a lone CR end a line; the last line needs no end. A UTF-8 byte-order mark before
-/// the first line is skipped. A line may be as long as memory allows and may hold NUL bytes.
+// LF, CR LF and a lone CR end a line; the last line needs no end. A UTF-8 byte-order mark before
+// the first line is skipped. A line may be as long as memory allows and may hold NUL bytes.
 class RegelLezer {
  public:
-  /// Opens a file at its first line. What was open is closed first.
+  // Opens a file at its first line. What was open is closed first.
   [[nodiscard]] SysteemFout Open(const std::filesystem::path& pad);
 
-  /// Reads the next line; the view is valid until the next call. False at the end and at a read
-  /// error, which Fout tells apart.
+  // Reads the next line; the view is valid until the next call. False at the end and at a read
+  // error, which Fout tells apart.
   [[nodiscard]] bool Volgende(std::string_view& regel);
 
-  /// True when there is no further line.
+  // True when there is no further line.
   [[nodiscard]] bool IsAanEinde();
 
-  /// Goes back to the first line.
+  // Goes back to the first line.
   void Begin();
 
-  /// The error that ended the reading; success as long as there was none.
+  // The error that ended the reading; success as long as there was none.
   [[nodiscard]] const SysteemFout& Fout() const { return fout_; }
 
   void Sluit();

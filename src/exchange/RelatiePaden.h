@@ -8,18 +8,18 @@ namespace lb77 {
 
 enum class RelatieActie {
   Persoon,
-  Datum,          ///< the first date
-  HuwDatum,       ///< civil marriage; a second date by the qualifier of the last death or burial
-  HuwDatumEigen,  ///< civil marriage; a second date by the date's own qualifier
+  Datum,          // the first date
+  HuwDatum,       // civil marriage; a second date by the qualifier of the last death or burial
+  HuwDatumEigen,  // civil marriage; a second date by the date's own qualifier
   Plaats,
   Gezindte,
-  Bond,  ///< only the kind of the bond or the divorce
-  Kind,  ///< the next of at most 29
-  Niets  ///< known, and passed over
+  Bond,  // only the kind of the bond or the divorce
+  Kind,  // the next of at most 29
+  Niets  // known, and passed over
 };
 
-/// `veld` is the name by which Zet knows the field, where an action has one. Before the action
-/// `vooraf`, when it is not empty, is set to `waarde`.
+// `veld` is the name by which Zet knows the field, where an action has one. Before the action
+// `vooraf`, when it is not empty, is set to `waarde`.
 struct RelatiePad {
   std::string_view pad;
   RelatieActie actie;

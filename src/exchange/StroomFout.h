@@ -8,7 +8,7 @@
 
 namespace lb77 {
 
-/// The error that the system left behind in the last operation; errno was cleared before it.
+// The error that the system left behind in the last operation; errno was cleared before it.
 [[nodiscard]] inline SysteemFout StroomFout() {
   return FoutVan(std::error_code(errno != 0 ? errno : EIO, std::generic_category()));
 }

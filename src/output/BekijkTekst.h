@@ -5,7 +5,7 @@
 
 namespace lb77 {
 
-/// Asks for a file while it loads; without one it closes before it shows.
+// Asks for a file while it loads; without one it closes before it shows.
 class BekijkTekst final : public TekstVenster {
  public:
   explicit BekijkTekst(Hoofdmodule& hoofd);

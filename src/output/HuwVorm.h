@@ -5,14 +5,14 @@
 
 namespace lb77 {
 
-/// The marriage events, as bits of a set.
+// The marriage events, as bits of a set.
 namespace huw {
 inline constexpr unsigned kOndertrouw = 1;
 inline constexpr unsigned kWettig = 2;
-inline constexpr unsigned kKerk = 4;  ///< church marriage or divorce
+inline constexpr unsigned kKerk = 4;  // church marriage or divorce
 }  // namespace huw
 
-/// What is told: events by themselves, and at most one pair in one phrase.
+// What is told: events by themselves, and at most one pair in one phrase.
 struct HuwVorm {
   unsigned alleen = 0;
   unsigned samen = 0;
@@ -20,9 +20,9 @@ struct HuwVorm {
   friend bool operator==(const HuwVorm&, const HuwVorm&) = default;
 };
 
-/// Chooses for the events `bekend`. `opmCode` holds the rubrics that have a remark, as positive
-/// bits: a pair is refused when a remark must follow one of its elements. `toonTrouw` shortens
-/// three events: "0" without the church, "1" without the banns, anything else all.
+// Chooses for the events `bekend`. `opmCode` holds the rubrics that have a remark, as positive
+// bits: a pair is refused when a remark must follow one of its elements. `toonTrouw` shortens
+// three events: "0" without the church, "1" without the banns, anything else all.
 HuwVorm KiesHuwVorm(unsigned bekend, int opmCode, std::string_view toonTrouw);
 
 }  // namespace lb77

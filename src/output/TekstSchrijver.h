@@ -10,61 +10,61 @@
 
 namespace lb77 {
 
-/// Writes text to a file line by line, in Windows-1252 with CR LF line ends. The last word of each
-/// call is held back, so that what follows (a comma, a full stop) is glued to it and no line begins
-/// with punctuation. A run owns its writer; nothing of it is shared.
-///
-/// Columns count from 0. State between two calls: the column reached on the line, the left margin
-/// of the present text, the left margin at the end of the previous call, the word held back.
+// Writes text to a file line by line, in Windows-1252 with CR LF line ends. The last word of each
+// call is held back, so that what follows (a comma, a full stop) is glued to it and no line begins
+// with punctuation. A run owns its writer; nothing of it is shared.
+//
+// Columns count from 0. State between two calls: the column reached on the line, the left margin
+// of the present text, the left margin at the end of the previous call, the word held back.
 class TekstSchrijver {
  public:
-  /// The width when none is set, and for a width that leaves no room at all.
+  // The width when none is set, and for a width that leaves no room at all.
   static constexpr int kGewoneRechterMarge = 80;
-  /// The width of output that must not be wrapped.
+  // The width of output that must not be wrapped.
   static constexpr int kGeenRechterMarge = 9999;
 
   TekstSchrijver() = default;
-  /// A run that was broken off leaves its file as far as it was written.
+  // A run that was broken off leaves its file as far as it was written.
   ~TekstSchrijver();
   TekstSchrijver(const TekstSchrijver&) = delete;
   TekstSchrijver& operator=(const TekstSchrijver&) = delete;
 
-  /// Makes the file, replacing one of that name, and begins on an empty line with margin 0. The
-  /// right margin stays as it was set. On a failure False, and Fout() tells why.
+  // Makes the file, replacing one of that name, and begins on an empty line with margin 0. The
+  // right margin stays as it was set. On a failure False, and Fout() tells why.
   [[nodiscard]] bool Open(const std::filesystem::path& pad);
 
-  /// Writes what is still in memory and closes. False when this or any writing before it failed
-  /// (a full disk); Fout() tells why. A word still held back is not written.
+  // Writes what is still in memory and closes. False when this or any writing before it failed
+  // (a full disk); Fout() tells why. A word still held back is not written.
   [[nodiscard]] bool Sluit();
 
-  /// What went wrong, of the last Open or the first writing that failed.
+  // What went wrong, of the last Open or the first writing that failed.
   [[nodiscard]] const SysteemFout& Fout() const { return fout_; }
-  /// Writing has failed: a long run may as well stop.
+  // Writing has failed: a long run may as well stop.
   [[nodiscard]] bool Mislukt() const { return mislukt_; }
 
-  /// Writes `tekst`. `regelEinde` ends the line behind it; `vast` means that it follows what stands
-  /// before it without a blank.
+  // Writes `tekst`. `regelEinde` ends the line behind it; `vast` means that it follows what stands
+  // before it without a blank.
   void TekstUit(std::string_view tekst, bool regelEinde, bool vast);
 
-  /// Sets the left margin to `waarde` (`absoluut`), else moves it by `waarde`, which may be
-  /// negative.
+  // Sets the left margin to `waarde` (`absoluut`), else moves it by `waarde`, which may be
+  // negative.
   void ZetMarge(bool absoluut, int waarde);
 
-  /// The last usable column. 0 or less (no width in the settings) gives kGewoneRechterMarge.
+  // The last usable column. 0 or less (no width in the settings) gives kGewoneRechterMarge.
   void ZetRechterMarge(int marge);
   [[nodiscard]] int RechterMarge() const { return rechterMarge_; }
   [[nodiscard]] int LinkerMarge() const { return linkerMarge_; }
   [[nodiscard]] int HuidigeKolom() const { return huidigeKolom_; }
 
-  /// Text that goes on where the line stands, behind a blank.
+  // Text that goes on where the line stands, behind a blank.
   void Tekst(std::string_view tekst) { TekstUit(tekst, false, false); }
-  /// Text glued to what stands before it: what begins with a comma or a full stop, a tag.
+  // Text glued to what stands before it: what begins with a comma or a full stop, a tag.
   void Vast(std::string_view tekst) { TekstUit(tekst, false, true); }
-  /// Text that is the rest of its line.
+  // Text that is the rest of its line.
   void VolleRegel(std::string_view tekst) { TekstUit(tekst, true, true); }
-  /// Ends the line.
+  // Ends the line.
   void EindeRegel() { TekstUit({}, true, true); }
-  /// An empty line, when the line before it was ended; otherwise it is EindeRegel.
+  // An empty line, when the line before it was ended; otherwise it is EindeRegel.
   void LegeRegel() { TekstUit({}, true, true); }
 
  private:

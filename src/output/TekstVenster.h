@@ -14,12 +14,12 @@
 
 namespace lb77 {
 
-/// The filter of a file dialog for text files, with all files first.
+// The filter of a file dialog for text files, with all files first.
 inline constexpr std::string_view kTekstFilter =
     "Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt";
 
-/// Shows one page of a file. MoveButton 1 to 4 and the arrow keys go left, right, up and down,
-/// PageUp and PageDown up and down; PrintButton 1 prints this page, 2 all pages.
+// Shows one page of a file. MoveButton 1 to 4 and the arrow keys go left, right, up and down,
+// PageUp and PageDown up and down; PrintButton 1 prints this page, 2 all pages.
 class TekstVenster : public Formulier {
  public:
   Tekstpagina UitvoerBox{*this, "UitvoerBox"};
@@ -32,7 +32,7 @@ class TekstVenster : public Formulier {
  protected:
   TekstVenster(Hoofdmodule& hoofd, std::string_view naam, std::string_view titel);
 
-  /// Opens the file and shows its first page, or why it can't be read.
+  // Opens the file and shows its first page, or why it can't be read.
   void Toon(const std::filesystem::path& pad, bool HTMLUitvoer);
 
   void BijToets(ToetsGebeurtenis& toets) override;

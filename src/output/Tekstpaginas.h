@@ -10,27 +10,27 @@
 
 namespace lb77 {
 
-/// Pages stand in columns and rows, both counted from 1. In memory lies one number a row of pages.
+// Pages stand in columns and rows, both counted from 1. In memory lies one number a row of pages.
 class Tekstpaginas {
  public:
-  static constexpr int kBreedte = 80;  ///< characters a line of a page
-  static constexpr int kRegels = 69;   ///< lines a page
+  static constexpr int kBreedte = 80;  // characters a line of a page
+  static constexpr int kRegels = 69;   // lines a page
 
-  /// Reads the file once to count its pages. On a failure False, there is one page, and Fout()
-  /// tells why.
+  // Reads the file once to count its pages. On a failure False, there is one page, and Fout()
+  // tells why.
   [[nodiscard]] bool Open(const std::filesystem::path& pad);
 
   [[nodiscard]] const std::filesystem::path& Pad() const { return pad_; }
-  /// The file holds no line at all.
+  // The file holds no line at all.
   [[nodiscard]] bool Leeg() const { return rijBegin_.empty(); }
-  /// kept: a longest line of exactly 80 characters makes a second, empty column.
+  // kept: a longest line of exactly 80 characters makes a second, empty column.
   [[nodiscard]] int Kolommen() const { return kolommen_; }
-  /// At least 1; a short last page counts.
+  // At least 1; a short last page counts.
   [[nodiscard]] int Rijen() const;
 
-  /// The lines of one page, at most kRegels of at most kBreedte characters; a NUL byte shows as a
-  /// blank. A file that has changed meanwhile is counted anew; a page that it no longer has is
-  /// empty. On a failed read False and no lines, and Fout() tells why.
+  // The lines of one page, at most kRegels of at most kBreedte characters; a NUL byte shows as a
+  // blank. A file that has changed meanwhile is counted anew; a page that it no longer has is
+  // empty. On a failed read False and no lines, and Fout() tells why.
   [[nodiscard]] bool Lees(int kolom, int rij, std::vector<std::string>& regels);
 
   [[nodiscard]] const SysteemFout& Fout() const { return fout_; }
@@ -52,8 +52,8 @@ class Tekstpaginas {
   SysteemFout fout_;
 };
 
-/// Copies a text line by line, each line ended by CR LF. It is written beside `naar` and takes its
-/// place when all is well; after a failure what `naar` held is as it was. No other file is touched.
+// Copies a text line by line, each line ended by CR LF. It is written beside `naar` and takes its
+// place when all is well; after a failure what `naar` held is as it was. No other file is touched.
 [[nodiscard]] SysteemFout KopieerTekst(const std::filesystem::path& van,
                                        const std::filesystem::path& naar);
 

@@ -8,14 +8,14 @@
 
 namespace lb77 {
 
-/// Shows the file UitvoerPad() under `titel`. It leaves the file where it is.
+// Shows the file UitvoerPad() under `titel`. It leaves the file where it is.
 class ToonTekst final : public TekstVenster {
  public:
-  /// `HTMLUitvoer` changes the kinds of file that SaveButton offers.
+  // `HTMLUitvoer` changes the kinds of file that SaveButton offers.
   ToonTekst(Hoofdmodule& hoofd, std::filesystem::path UitvoerPad, std::string_view titel,
             bool HTMLUitvoer = false);
 
-  /// The file that is shown.
+  // The file that is shown.
   [[nodiscard]] const std::filesystem::path& UitvoerPad() const { return UitvoerPad_; }
 
  private:

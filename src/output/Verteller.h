@@ -10,42 +10,42 @@
 
 namespace lb77 {
 
-/// The report form of the grammar, one a run. A False result means that a record could not be read:
-/// it aborts the report. All text is encoded for HTML here when the run is in HTML.
+// The report form of the grammar, one a run. A False result means that a record could not be read:
+// it aborts the report. All text is encoded for HTML here when the run is in HTML.
 class Verteller {
  public:
-  /// Takes the number of remark records. `schrijver` is open and outlives the run.
+  // Takes the number of remark records. `schrijver` is open and outlives the run.
   Verteller(const ZinBronnen& bronnen, TekstSchrijver& schrijver, ZinOpties opties);
 
   [[nodiscard]] const ZinOpties& Opties() const { return opties_; }
-  /// Switches remarks on or off in the middle of a run.
+  // Switches remarks on or off in the middle of a run.
   void ZetOokOpm(bool aan) { opties_.ookOpm = aan; }
 
-  /// Name, number and events of a person, without a full stop. The buffer holds him afterwards.
+  // Name, number and events of a person, without a full stop. The buffer holds him afterwards.
   [[nodiscard]] bool SchrijfPersoon(std::int16_t nr);
 
-  /// The events of a relation behind a comma; `volgNr` is its number among the person's, from 1,
-  /// and told unless it is 1. The buffer holds it afterwards.
+  // The events of a relation behind a comma; `volgNr` is its number among the person's, from 1,
+  // and told unless it is 1. The buffer holds it afterwards.
   [[nodiscard]] bool SchrijfRelatie(std::int16_t relNr, int volgNr);
 
-  /// ", zn. van" (`sexFlag` 1, as IsMan gives it) or ", dr. van" and the parents of relation
-  /// `relNr`; nothing when it has neither. The person buffer changes.
+  // ", zn. van" (`sexFlag` 1, as IsMan gives it) or ", dr. van" and the parents of relation
+  // `relNr`; nothing when it has neither. The person buffer changes.
   [[nodiscard]] bool SchrijfOuders(std::int16_t sexFlag, std::int16_t relNr);
 
-  /// "[" + number + "]" when the run is with numbers.
+  // "[" + number + "]" when the run is with numbers.
   void SchrijfNummer(std::int16_t nr);
 
-  /// The remarks of one rubric, out of the chain from `opmRecord`; nothing with remarks off. With
-  /// `regelEerst` a general remark (4096, -256) stands on its own, indented lines. A chain that
-  /// can't be read just ends. HuidigOpmNr and the buffer of remarks change.
+  // The remarks of one rubric, out of the chain from `opmRecord`; nothing with remarks off. With
+  // `regelEerst` a general remark (4096, -256) stands on its own, indented lines. A chain that
+  // can't be read just ends. HuidigOpmNr and the buffer of remarks change.
   void SchrijfRubriekOpm(std::int16_t opmRecord, std::int16_t opmCode, int rubriek,
                          bool regelEerst);
 
-  /// The general remark on its own lines (rubric 4096 of a person, -256 of a relation); in HTML
-  /// between "<UL>" and "</UL>" when there is one.
+  // The general remark on its own lines (rubric 4096 of a person, -256 of a relation); in HTML
+  // between "<UL>" and "</UL>" when there is one.
   void SchrijfAlgemeneOpm(std::int16_t opmRecord, std::int16_t opmCode, int rubriek);
 
-  /// Text of the report's own, encoded for HTML in a run in HTML.
+  // Text of the report's own, encoded for HTML in a run in HTML.
   [[nodiscard]] std::string Gecodeerd(std::string_view tekst) const;
 
  private:
@@ -64,7 +64,7 @@ class Verteller {
   std::int16_t aantalOpm_;
 };
 
-/// The rubrics of the general remarks.
+// The rubrics of the general remarks.
 inline constexpr int kRubriekPersoon = 4096;
 inline constexpr int kRubriekRelatie = -256;
 

@@ -12,7 +12,7 @@
 
 namespace lb77 {
 
-/// References only; all must outlive the phrases. The buffers of the record classes change.
+// References only; all must outlive the phrases. The buffers of the record classes change.
 struct ZinBronnen {
   PersoonLB77& persoon;
   RelatieLB77& relatie;
@@ -22,13 +22,13 @@ struct ZinBronnen {
   const Schrijfwijze& schrijfwijze;
 };
 
-/// How a report tells its persons.
+// How a report tells its persons.
 struct ZinOpties {
-  bool ookOpm = false;  ///< with remarks
-  bool ookNrs = false;  ///< with record numbers
+  bool ookOpm = false;  // with remarks
+  bool ookNrs = false;  // with record numbers
   bool inHTML = false;
-  int opmMasker = 1;            ///< the bit of `BijProg` of this kind of report
-  std::string toonTrouw = "2";  ///< how three marriage events are shortened: "0", "1" or "2"
+  int opmMasker = 1;            // the bit of `BijProg` of this kind of report
+  std::string toonTrouw = "2";  // how three marriage events are shortened: "0", "1" or "2"
 };
 
 }  // namespace lb77

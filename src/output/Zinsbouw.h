@@ -9,30 +9,30 @@
 
 namespace lb77 {
 
-/// Where the words go: into a string, or into a report with its remarks.
+// Where the words go: into a string, or into a report with its remarks.
 class ZinUitvoer {
  public:
   virtual ~ZinUitvoer() = default;
-  /// Text that begins with a comma, glued to what stands before it.
+  // Text that begins with a comma, glued to what stands before it.
   virtual void Aan(std::string_view tekst) = 0;
-  /// Text behind a blank.
+  // Text behind a blank.
   virtual void Los(std::string_view tekst) = 0;
-  /// Here the remark of that rubric belongs. A person's rubric is positive, a relation's negative.
+  // Here the remark of that rubric belongs. A person's rubric is positive, a relation's negative.
   virtual void Rubriek(int rubriek) = 0;
 };
 
-/// Tells what lies in the buffers of `bronnen`. The buffer of places changes, and that of remarks
-/// when the sink writes them; those of persons and relations stay.
+// Tells what lies in the buffers of `bronnen`. The buffer of places changes, and that of remarks
+// when the sink writes them; those of persons and relations stay.
 class Zinsbouw {
  public:
   Zinsbouw(const ZinBronnen& bronnen, ZinUitvoer& uitvoer) : bronnen_(bronnen), uit_(uitvoer) {}
 
-  /// All of the person in the buffer behind his name and number: birth and baptism, occupation,
-  /// death and burial. `opmCode` holds the rubrics after which a remark may follow.
+  // All of the person in the buffer behind his name and number: birth and baptism, occupation,
+  // death and burial. `opmCode` holds the rubrics after which a remark may follow.
   void Leven(int opmCode);
 
-  /// The relation in the buffer. `opmCode` as above, as positive bits. `voorvoegsel` is what tells
-  /// which relation it is: "(2)", " [17]", both or nothing.
+  // The relation in the buffer. `opmCode` as above, as positive bits. `voorvoegsel` is what tells
+  // which relation it is: "(2)", " [17]", both or nothing.
   void Relatie(int opmCode, std::string_view voorvoegsel, std::string_view toonTrouw);
 
  private:
@@ -63,15 +63,15 @@ class Zinsbouw {
   ZinUitvoer& uit_;
 };
 
-/// Which relation of a person is told: "(" + number + ")" behind the first one, and with `ookNrs`
-/// " [" + record number + "]".
+// Which relation of a person is told: "(" + number + ")" behind the first one, and with `ookNrs`
+// " [" + record number + "]".
 std::string RelatieVoorvoegsel(std::int16_t relNr, int volgNr, bool isEerste, bool ookNrs);
 
-/// Has the relation in the buffer an event, or a kind of bond other than marriage?
+// Has the relation in the buffer an event, or a kind of bond other than marriage?
 [[nodiscard]] bool HeeftHuwelijksgegevens(const RelatieLB77& relatie);
 
-/// The partner of `nr` in the relation in the buffer: the woman of a man (`isMan`), else the man;
-/// where that is the person himself, the other of the two. 0 for none.
+// The partner of `nr` in the relation in the buffer: the woman of a man (`isMan`), else the man;
+// where that is the person himself, the other of the two. 0 for none.
 std::int16_t PartnerVan(const RelatieLB77& relatie, std::int16_t nr, bool isMan);
 
 }  // namespace lb77

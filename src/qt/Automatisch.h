@@ -8,8 +8,8 @@
 
 namespace lb77 {
 
-/// Fields in two columns with their prompts on the left, rows of controls in a table, pages over
-/// the whole width, buttons at the bottom right; all in the order given.
+// Fields in two columns with their prompts on the left, rows of controls in a table, pages over
+// the whole width, buttons at the bottom right; all in the order given.
 [[nodiscard]] Blok AutomatischeIndeling(const std::vector<Bediening*>& bedieningen);
 
 }  // namespace lb77

@@ -12,14 +12,14 @@
 
 namespace lb77 {
 
-/// Asks over `ouder` (may be null); empty when the user cancelled. A file that would be written
-/// over is asked about. The directory is remembered for the next question with the same filter.
+// Asks over `ouder` (may be null); empty when the user cancelled. A file that would be written
+// over is asked about. The directory is remembered for the next question with the same filter.
 [[nodiscard]] std::optional<std::filesystem::path> KiesBestand(QWidget* ouder,
                                                                const BestandsVraag& vraag,
                                                                VensterInstellingen& instellingen);
 
-/// "naam|patroon|naam|patroon" as the toolkit's filters. A pattern is given in lower and in upper
-/// case too, for file systems that tell them apart; "*.*" is every file.
+// "naam|patroon|naam|patroon" as the toolkit's filters. A pattern is given in lower and in upper
+// case too, for file systems that tell them apart; "*.*" is every file.
 [[nodiscard]] QStringList Naamfilters(std::string_view filter);
 
 }  // namespace lb77

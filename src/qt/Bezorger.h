@@ -8,7 +8,7 @@
 
 namespace lb77 {
 
-/// Takes what the user does in a widget to the form.
+// Takes what the user does in a widget to the form.
 class Bezorger {
  public:
   Bezorger() = default;
@@ -19,7 +19,7 @@ class Bezorger {
   virtual void Klik(Bediening& bediening) = 0;
   virtual void Dubbelklik(Bediening& bediening) = 0;
   virtual void Kies(Lijst& lijst, int index) = 0;
-  /// `geweigerd`: something was typed or pasted that cannot be stored.
+  // `geweigerd`: something was typed or pasted that cannot be stored.
   virtual void Bewerkt(Invoerveld& veld, const std::string& tekst, bool geweigerd) = 0;
 };
 

@@ -22,13 +22,13 @@ namespace lb77 {
 
 class Hoofdvenster;
 
-/// One form and its window. Everything that the user does goes to the form by its own operations,
-/// and after each of them the widgets and the focus follow the form. The toolkit moves no focus by
-/// itself: a press of the mouse, a Tab and an accelerator ask the form first, so that a leave check
-/// that fails leaves all as it was.
-///
-/// While a handler of the form is at work (a box or another form may be open) whatever still
-/// arrives here is dropped.
+// One form and its window. Everything that the user does goes to the form by its own operations,
+// and after each of them the widgets and the focus follow the form. The toolkit moves no focus by
+// itself: a press of the mouse, a Tab and an accelerator ask the form first, so that a leave check
+// that fails leaves all as it was.
+//
+// While a handler of the form is at work (a box or another form may be open) whatever still
+// arrives here is dropped.
 class Binder final : public QObject, private Bezorger, private Vensterhouder {
  public:
   Binder(Formulier& formulier, Gesprek& gesprek, VensterInstellingen& instellingen, QWidget* ouder);
@@ -37,13 +37,13 @@ class Binder final : public QObject, private Bezorger, private Vensterhouder {
   [[nodiscard]] Formulier& Vorm() const { return formulier_; }
   [[nodiscard]] QWidget& Venster() const { return *venster_; }
 
-  /// Shows the window. The form's activated event follows; input is dropped until Voer.
+  // Shows the window. The form's activated event follows; input is dropped until Voer.
   void Toon();
-  /// Runs until the form has closed. An exception of one of its handlers leaves from here.
+  // Runs until the form has closed. An exception of one of its handlers leaves from here.
   void Voer();
-  /// Brings all widgets and the focus in line with the form; raises no event.
+  // Brings all widgets and the focus in line with the form; raises no event.
   void Bijwerken();
-  /// Bijwerken, and lets the toolkit paint and hear a stop request; all other input is dropped.
+  // Bijwerken, and lets the toolkit paint and hear a stop request; all other input is dropped.
   void Ververs();
 
  protected:
@@ -63,15 +63,15 @@ class Binder final : public QObject, private Bezorger, private Vensterhouder {
   void Luister(Element& element);
   [[nodiscard]] Element* ElementVan(const QObject* waar) const;
 
-  /// Runs one of the form's operations, keeps what it throws, and brings the window up to date.
+  // Runs one of the form's operations, keeps what it throws, and brings the window up to date.
   void Verwerk(const std::function<void()>& doe);
   [[nodiscard]] bool Geblokkeerd() const;
   [[nodiscard]] bool Afgelopen() const;
-  /// True when the key needs nothing more.
+  // True when the key needs nothing more.
   bool VerwerkToets(Element* element, const QKeyEvent& toets);
   bool EigenToets(Element& element, const QKeyEvent& toets);
   bool Blader(int code);
-  /// Asks the form for the focus; True when it now has it.
+  // Asks the form for the focus; True when it now has it.
   bool GaNaar(Element& element);
   void FocusGekregen(Element& element);
   void VolgFocus();

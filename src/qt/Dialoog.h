@@ -9,7 +9,7 @@
 
 namespace lb77 {
 
-/// A modal window that closes only when its form does, and has no default button.
+// A modal window that closes only when its form does, and has no default button.
 class Dialoog final : public QDialog {
  public:
   Dialoog(Vensterhouder& houder, QWidget* ouder);

@@ -11,8 +11,8 @@
 
 namespace lb77 {
 
-/// A control and the widget that shows it. The widgets belong to the window that they are laid out
-/// in, which outlives its elements' use.
+// A control and the widget that shows it. The widgets belong to the window that they are laid out
+// in, which outlives its elements' use.
 class Element {
  public:
   explicit Element(Bediening& bediening) : bediening_(bediening) {}
@@ -21,23 +21,23 @@ class Element {
   Element& operator=(const Element&) = delete;
 
   [[nodiscard]] Bediening& Bron() const { return bediening_; }
-  /// The widget that is laid out and takes the focus.
+  // The widget that is laid out and takes the focus.
   [[nodiscard]] QWidget& Widget() const { return *widget_; }
-  /// Where the mouse arrives: the widget itself, or the part of it that scrolls.
+  // Where the mouse arrives: the widget itself, or the part of it that scrolls.
   [[nodiscard]] virtual QWidget& Muisvlak() const { return *widget_; }
-  /// The label with the prompt, null when there is none.
+  // The label with the prompt, null when there is none.
   [[nodiscard]] QLabel* Prompt() const { return prompt_; }
-  /// Makes the label with the prompt, with the widget as its buddy.
+  // Makes the label with the prompt, with the widget as its buddy.
   QLabel& MaakPrompt(QWidget& ouder);
 
-  /// Brings the widget in line with the control; raises no event.
+  // Brings the widget in line with the control; raises no event.
   void Bijwerken();
-  /// Types text at the cursor. False when the control takes no text.
+  // Types text at the cursor. False when the control takes no text.
   [[nodiscard]] virtual bool Typ(const QString&) { return false; }
 
  protected:
   void ZetWidget(QWidget& widget);
-  /// The part of Bijwerken that differs for each kind.
+  // The part of Bijwerken that differs for each kind.
   virtual void Toon() = 0;
 
  private:
@@ -46,7 +46,7 @@ class Element {
   QLabel* prompt_ = nullptr;
 };
 
-/// The element for a control; null for a menu entry and the status bar, which the main window shows.
+// The element for a control; null for a menu entry and the status bar, which the main window shows.
 [[nodiscard]] std::unique_ptr<Element> MaakElement(Bediening& bediening, Bezorger& bezorger,
                                                    QWidget& ouder);
 

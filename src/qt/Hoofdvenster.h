@@ -19,14 +19,14 @@ namespace lb77 {
 
 class Voorblad;
 
-/// The window of a form with menu entries. The menus follow the entries' captions and flags.
+// The window of a form with menu entries. The menus follow the entries' captions and flags.
 class Hoofdvenster final : public QMainWindow {
  public:
   Hoofdvenster(Formulier& formulier, Vensterhouder& houder, Bezorger& bezorger);
 
-  /// Brings menus and status bar in line with the form.
+  // Brings menus and status bar in line with the form.
   void Bijwerken();
-  /// The action or menu of an entry, null when the form has no entry of that name.
+  // The action or menu of an entry, null when the form has no entry of that name.
   [[nodiscard]] QAction* Actie(std::string_view naam) const;
 
  protected:
@@ -51,7 +51,7 @@ class Hoofdvenster final : public QMainWindow {
   QLabel* status_;
 };
 
-/// Is this form shown in a main window?
+// Is this form shown in a main window?
 [[nodiscard]] bool HeeftMenu(const Formulier& formulier);
 
 }  // namespace lb77

@@ -7,7 +7,7 @@
 
 namespace lb77 {
 
-/// A piece of a layout. A bare control name is one too.
+// A piece of a layout. A bare control name is one too.
 struct Blok {
   enum class Soort {
     Veld,     // one control; "PersNr(*)" stands for all elements of a row
@@ -31,13 +31,13 @@ struct Blok {
   Blok(Soort wat, std::vector<Blok> inhoud) : soort(wat), delen(std::move(inhoud)) {}
 };
 
-/// The layout of one form.
+// The layout of one form.
 struct Indeling {
   std::string formulier;
   Blok blok;
 };
 
-/// The words in which layouts are written.
+// The words in which layouts are written.
 namespace indeling {
 
 inline Blok Veld(std::string naam, std::string kop = {}, int breedte = 0) {
@@ -64,7 +64,7 @@ inline Blok Groep(std::string titel, std::vector<Blok> delen) {
   blok.naam = std::move(titel);
   return blok;
 }
-/// Buttons at the bottom right, or some on the left and the others on the right.
+// Buttons at the bottom right, or some on the left and the others on the right.
 inline Blok Knoppen(std::vector<Blok> rechts) {
   return {Blok::Soort::Knoppen, {Rij({}), Rij(std::move(rechts))}};
 }

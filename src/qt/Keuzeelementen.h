@@ -12,7 +12,7 @@ namespace lb77 {
 
 [[nodiscard]] std::unique_ptr<Element> MaakKnopElement(Bediening& knop, Bezorger& bezorger,
                                                        QWidget& ouder);
-/// A tick box or an option. It shows the form's state: a click that was swallowed leaves no mark.
+// A tick box or an option. It shows the form's state: a click that was swallowed leaves no mark.
 [[nodiscard]] std::unique_ptr<Element> MaakSchakelElement(Schakelaar& schakelaar,
                                                           Bezorger& bezorger, QWidget& ouder);
 [[nodiscard]] std::unique_ptr<Element> MaakKeuzevakElement(Lijst& lijst, Bezorger& bezorger,

@@ -13,14 +13,14 @@
 
 namespace lb77 {
 
-/// Places the widgets of a form's elements in a window.
+// Places the widgets of a form's elements in a window.
 class Opmaker {
  public:
-  /// `element` gives the element of a control.
+  // `element` gives the element of a control.
   Opmaker(const Formulier& formulier, QWidget& ouder,
           std::function<Element&(const Bediening&)> element);
 
-  /// Makes the whole layout of the window's contents.
+  // Makes the whole layout of the window's contents.
   void Maak(const Blok& blok, QBoxLayout& in);
 
  private:
@@ -31,14 +31,14 @@ class Opmaker {
   void Velden(const Blok& blok, QBoxLayout& in);
   void Tabel(const Blok& blok, QBoxLayout& in);
 
-  /// A line of a grid with so many columns: prompts in the even ones, fields in the odd ones.
+  // A line of a grid with so many columns: prompts in the even ones, fields in the odd ones.
   struct Roosterregel {
     QGridLayout& rooster;
     int nummer;
     int kolommen;
     bool uitleg;  // the last column is for what is said about a field
 
-    /// How many columns a field of its own takes.
+    // How many columns a field of its own takes.
     [[nodiscard]] int Veldbreedte() const { return kolommen - (uitleg ? 2 : 1); }
   };
   [[nodiscard]] bool HeeftUitleg(const Blok& blok) const;
@@ -46,9 +46,9 @@ class Opmaker {
   void Veldrij(const Blok& blok, Roosterregel regel);
   void Samen(const std::vector<Element*>& elementen, Roosterregel regel);
   void EnkelVeld(Element& element, Roosterregel regel);
-  /// The line of a table that stands under its heading.
+  // The line of a table that stands under its heading.
   void Tabelkolom(const Blok& blok, int kolom, QGridLayout& rooster);
-  /// A widget with its prompt, if it has one, before it.
+  // A widget with its prompt, if it has one, before it.
   void Naast(Element& element, QBoxLayout& in);
 
   [[nodiscard]] std::vector<Element*> Elementen(const Blok& blok) const;

@@ -13,14 +13,14 @@
 
 namespace lb77 {
 
-/// Shows forms, boxes and questions with the toolkit. Forms lie in a stack; only the top one is
-/// reached by the user. An application object must exist.
+// Shows forms, boxes and questions with the toolkit. Forms lie in a stack; only the top one is
+// reached by the user. An application object must exist.
 class QtGesprek final : public Gesprek {
  public:
-  /// `map` is the program's directory, where window sizes are kept; empty keeps none.
+  // `map` is the program's directory, where window sizes are kept; empty keeps none.
   explicit QtGesprek(const std::filesystem::path& map = {});
 
-  /// The least time between two repaints of a form that works, in milliseconds.
+  // The least time between two repaints of a form that works, in milliseconds.
   void ZetVerversingstijd(qint64 tijd) { verversingstijd_ = tijd; }
 
   Antwoord Bericht(BerichtSoort soort, Knoppen knoppen, std::string_view tekst) override;
@@ -37,9 +37,9 @@ class QtGesprek final : public Gesprek {
 
  private:
   [[nodiscard]] Binder* BinderVan(const Formulier& formulier) const;
-  /// The topmost window that is in view, null when there is none.
+  // The topmost window that is in view, null when there is none.
   [[nodiscard]] QWidget* Bovenste() const;
-  /// Brings all windows up to date, and asks a question over the topmost one.
+  // Brings all windows up to date, and asks a question over the topmost one.
   template <class Doe>
   auto Daarover(Doe doe);
 

@@ -8,20 +8,20 @@
 
 namespace lb77 {
 
-/// What the frame starts.
+// What the frame starts.
 struct Vensterprogramma {
-  /// Gives the program's directory, once the application object exists.
+  // Gives the program's directory, once the application object exists.
   std::function<std::filesystem::path()> map;
-  /// Runs the program, from its start-up questions to the end of its main window. Before it lets an
-  /// error go it saves what must not be lost.
+  // Runs the program, from its start-up questions to the end of its main window. Before it lets an
+  // error go it saves what must not be lost.
   std::function<void(Gesprek&, const std::filesystem::path& map)> voer;
 };
 
-/// Makes the application object, runs the program and gives the exit status: 0, or 1 after an error
-/// that nobody caught, which is then told to the user.
+// Makes the application object, runs the program and gives the exit status: 0, or 1 after an error
+// that nobody caught, which is then told to the user.
 [[nodiscard]] int StartVenster(int argc, char** argv, const Vensterprogramma& programma);
 
-/// The same within an application object that exists.
+// The same within an application object that exists.
 [[nodiscard]] int VoerMetVangnet(const Vensterprogramma& programma);
 
 }  // namespace lb77

@@ -10,10 +10,10 @@
 
 namespace lb77 {
 
-/// A text field or path field, of one line.
+// A text field or path field, of one line.
 [[nodiscard]] std::unique_ptr<Element> MaakRegelElement(Invoerveld& veld, Bezorger& bezorger,
                                                         QWidget& ouder);
-/// Text of several lines.
+// Text of several lines.
 [[nodiscard]] std::unique_ptr<Element> MaakBlokElement(Invoerveld& veld, Bezorger& bezorger,
                                                        QWidget& ouder);
 

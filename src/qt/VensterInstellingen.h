@@ -11,8 +11,8 @@
 
 namespace lb77 {
 
-/// Kept in "lb77-venster.ini" in the program's directory. Without a directory nothing is kept.
-/// A file that is damaged or cannot be written costs a remembered size and no more.
+// Kept in "lb77-venster.ini" in the program's directory. Without a directory nothing is kept.
+// A file that is damaged or cannot be written costs a remembered size and no more.
 class VensterInstellingen {
  public:
   explicit VensterInstellingen(const std::filesystem::path& map);
@@ -20,7 +20,7 @@ class VensterInstellingen {
   [[nodiscard]] std::optional<QSize> Maat(std::string_view formulier) const;
   void BewaarMaat(std::string_view formulier, QSize maat);
 
-  /// The directory that the user last chose a file from for this filter; empty when none.
+  // The directory that the user last chose a file from for this filter; empty when none.
   [[nodiscard]] QString LaatsteMap(std::string_view filter) const;
   void BewaarLaatsteMap(std::string_view filter, const QString& map);
 

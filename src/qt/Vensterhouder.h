@@ -6,7 +6,7 @@
 
 namespace lb77 {
 
-/// The binder as its window sees it.
+// The binder as its window sees it.
 class Vensterhouder {
  public:
   Vensterhouder() = default;
@@ -14,9 +14,9 @@ class Vensterhouder {
   Vensterhouder(const Vensterhouder&) = delete;
   Vensterhouder& operator=(const Vensterhouder&) = delete;
 
-  /// The frame's close.
+  // The frame's close.
   virtual void SluitVenster() = 0;
-  /// A key that no control has the focus for.
+  // A key that no control has the focus for.
   virtual void ToetsInVenster(const QKeyEvent& toets) = 0;
   virtual void Verplaatst(QPoint plek) = 0;
 };

@@ -8,11 +8,11 @@
 
 namespace lb77 {
 
-/// Windows-1252 as the toolkit's text, one character a byte.
+// Windows-1252 as the toolkit's text, one character a byte.
 [[nodiscard]] QString NaarQt(std::string_view windows);
 
-/// What came of a text that the user typed or pasted. `geweigerd` tells that characters without an
-/// equivalent, not even a transliteration, were left out.
+// What came of a text that the user typed or pasted. `geweigerd` tells that characters without an
+// equivalent, not even a transliteration, were left out.
 struct Overgezet {
   std::string tekst;
   bool geweigerd = false;

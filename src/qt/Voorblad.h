@@ -7,7 +7,7 @@
 
 namespace lb77 {
 
-/// Shows the program's name and the active set before a faint pedigree.
+// Shows the program's name and the active set before a faint pedigree.
 class Voorblad final : public QWidget {
  public:
   using QWidget::QWidget;

@@ -5,7 +5,7 @@
 
 namespace lb77 {
 
-/// Knows the texts that a user of the program meets; the rest stays as the toolkit has it.
+// Knows the texts that a user of the program meets; the rest stays as the toolkit has it.
 class Woorden final : public QTranslator {
  public:
   using QTranslator::QTranslator;

@@ -26,8 +26,8 @@ HTMLParam::HTMLParam(const HTMLParamSoort& soort, Hoofdmodule& hoofd, PaginaTeks
     : Formulier(soort.naam, soort.titel), soort_(soort), hoofd_(hoofd), teksten_(teksten) {
   ZetHulpOnderwerp(soort.hulp);
   ZetEersteVeld(EmailAdres);
-  OKButton.BijKlik([this] { OKKlik(); });
-  BackButton.BijKlik([this] { BackKlik(); });
+  OKButton.BijKlik([this] { OKButtonKlik(); });
+  BackButton.BijKlik([this] { BackButtonKlik(); });
 }
 
 void HTMLParam::BijLaden() {
@@ -43,7 +43,7 @@ void HTMLParam::BijLaden() {
   URLLabelTekst.ZetTekst(OfVoorbeeld(ini.IniWaarde("INTERNET", "HomePageLabel"), "Naar"));
 }
 
-void HTMLParam::OKKlik() {
+void HTMLParam::OKButtonKlik() {
   struct Sleutel {
     const Tekstvak& veld;
     std::string& tekst;
@@ -74,7 +74,7 @@ void HTMLParam::BewaarLinks() {
   ini.IniSchrijf();
 }
 
-void HTMLParam::BackKlik() {
+void HTMLParam::BackButtonKlik() {
   hoofd_.volgers.HuidigPersoonNr = -1;
   Sluit();
 }

@@ -42,9 +42,9 @@ class HTMLParam final : public Formulier {
  private:
   static const std::string_view kLabelVoor;
 
-  void OKKlik();
+  void OKButtonKlik();
   void BewaarLinks();
-  void BackKlik();
+  void BackButtonKlik();
 
   HTMLParamSoort soort_;
   Hoofdmodule& hoofd_;

@@ -25,11 +25,11 @@ PersoonPrompt::PersoonPrompt(const PersoonPromptSoort& soort, Hoofdmodule& hoofd
   RecordNr.BijToets([this](ToetsGebeurtenis& toets) {
     if (toets.code != toets::kF2 || toets.shift) return;
     toets.verwerkt = true;
-    ZoekKlik();
+    ZoekButtonKlik();
   });
-  OKButton.BijKlik([this] { OKKlik(); });
-  ZoekButton.BijKlik([this] { ZoekKlik(); });
-  BackButton.BijKlik([this] { BackKlik(); });
+  OKButton.BijKlik([this] { OKButtonKlik(); });
+  ZoekButton.BijKlik([this] { ZoekButtonKlik(); });
+  BackButton.BijKlik([this] { BackButtonKlik(); });
 }
 
 void PersoonPrompt::BijLaden() {
@@ -64,7 +64,7 @@ void PersoonPrompt::ToonNamen(std::int16_t nr) {
   AchterNm.ZetTekst(achter);
 }
 
-void PersoonPrompt::OKKlik() {
+void PersoonPrompt::OKButtonKlik() {
   if (Trim(RecordNr.Tekst()).empty()) {
     std::string voor = VoorNm.Tekst();
     std::string achter = AchterNm.Tekst();
@@ -87,14 +87,14 @@ void PersoonPrompt::OKKlik() {
   Sluit();
 }
 
-void PersoonPrompt::ZoekKlik() {
+void PersoonPrompt::ZoekButtonKlik() {
   const auto nr = NaarInt16(VraagZoekPersoon(hoofd_));
   if (!nr || *nr < 1) return;
   RecordNr.ZetTekst(NrTekst(*nr));
   ToonNamen(*nr);
 }
 
-void PersoonPrompt::BackKlik() {
+void PersoonPrompt::BackButtonKlik() {
   hoofd_.volgers.HuidigPersoonNr = -1;
   Sluit();
 }

@@ -41,9 +41,9 @@ class PersoonPrompt : public Formulier {
  private:
   [[nodiscard]] bool RecordNrVerlaten();
   void ToonNamen(std::int16_t nr);
-  void OKKlik();
-  void ZoekKlik();
-  void BackKlik();
+  void OKButtonKlik();
+  void ZoekButtonKlik();
+  void BackButtonKlik();
 
   Hoofdmodule& hoofd_;
 };

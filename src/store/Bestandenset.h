@@ -17,83 +17,83 @@
 
 namespace lb77 {
 
-/// The files by their file number.
+// The files by their file number.
 enum class BestandSoort { Personen = 1, Relaties, Opmerkingen, Plaatsen };
 
-/// All four, in the order of opening.
+// All four, in the order of opening.
 inline constexpr std::array kBestandSoorten = {BestandSoort::Personen, BestandSoort::Relaties,
                                                BestandSoort::Opmerkingen, BestandSoort::Plaatsen};
 
-/// The length of a record in bytes: 128, 64, 96, 27.
+// The length of a record in bytes: 128, 64, 96, 27.
 constexpr std::size_t RecordLengteVan(BestandSoort soort) {
   constexpr std::array<std::size_t, 4> kLengten = {128, 64, 96, 27};
   return kLengten.at(static_cast<std::size_t>(soort) - 1);
 }
 
-/// The name in messages: "Persoonsbestand", "Relatiebestand" ...
+// The name in messages: "Persoonsbestand", "Relatiebestand" ...
 std::string_view BestandNaam(BestandSoort soort);
 
-/// The path of that file in a set; for the places that of its own.
+// The path of that file in a set; for the places that of its own.
 const std::filesystem::path& PadVanSoort(const SetPaden& paden, BestandSoort soort);
 
-/// Which file did not open, and why.
+// Which file did not open, and why.
 struct OpenFout {
   BestandSoort soort = BestandSoort::Personen;
   std::filesystem::path pad;
   SysteemFout fout;
 };
 
-/// The message (stop symbol) of a file that did not open.
+// The message (stop symbol) of a file that did not open.
 std::string OpenFoutTekst(const OpenFout& fout);
 
-/// Owns the open files. A file that is not open is there all the same, and fails every operation.
+// Owns the open files. A file that is not open is there all the same, and fails every operation.
 class Bestandenset {
  public:
-  /// What an opener gives: a file, or none and the reason.
+  // What an opener gives: a file, or none and the reason.
   struct Opening {
     std::unique_ptr<RecordBestand> bestand;
     SysteemFout fout;
   };
   using Opener = std::function<Opening(const std::filesystem::path& pad, std::size_t lengte)>;
 
-  /// Opens files on the disk.
+  // Opens files on the disk.
   Bestandenset();
-  /// Opens files by `opener`, for tests that wrap them.
+  // Opens files by `opener`, for tests that wrap them.
   explicit Bestandenset(Opener opener);
 
-  /// Opens one file, found under another case too; an absent one is created empty. What was open
-  /// as this file is closed first, also when the opening fails.
+  // Opens one file, found under another case too; an absent one is created empty. What was open
+  // as this file is closed first, also when the opening fails.
   [[nodiscard]] SysteemFout Open(BestandSoort soort, const std::filesystem::path& pad);
 
-  /// Opens one file of a set. When its own places don't open, the central place file is tried.
-  /// Nothing on success.
+  // Opens one file of a set. When its own places don't open, the central place file is tried.
+  // Nothing on success.
   [[nodiscard]] std::optional<OpenFout> Open(BestandSoort soort, const SetPaden& paden);
 
-  /// Closes all files and opens those of a set in order. The first failure ends it; the files
-  /// before it stay open.
+  // Closes all files and opens those of a set in order. The first failure ends it; the files
+  // before it stay open.
   [[nodiscard]] std::optional<OpenFout> OpenSet(const SetPaden& paden);
 
-  /// Closes a file; does nothing when it is not open.
+  // Closes a file; does nothing when it is not open.
   void Sluit(BestandSoort soort);
   void SluitAlles();
 
   bool IsOpen(BestandSoort soort) const;
 
-  /// Always valid until the file is closed or opened again; a closed file fails every operation
-  /// with "Bestand is niet open".
+  // Always valid until the file is closed or opened again; a closed file fails every operation
+  // with "Bestand is niet open".
   RecordBestand& Bestand(BestandSoort soort);
 
-  /// The state of a file: moves at each write and each opening, and never comes back. An index in
-  /// memory compares it to know whether it is stale.
+  // The state of a file: moves at each write and each opening, and never comes back. An index in
+  // memory compares it to know whether it is stale.
   std::uint64_t Stand(BestandSoort soort) const;
 
-  /// Brings all four files to the disk itself; the first error, after having tried all.
+  // Brings all four files to the disk itself; the first error, after having tried all.
   [[nodiscard]] SysteemFout Veiligstellen();
 
  private:
   struct Vak {
     std::unique_ptr<RecordBestand> bestand;
-    std::uint64_t eerder = 0;  ///< the state when this file was opened
+    std::uint64_t eerder = 0;  // the state when this file was opened
   };
   Vak& VakVan(BestandSoort soort) { return vakken_.at(static_cast<std::size_t>(soort) - 1); }
   const Vak& VakVan(BestandSoort soort) const {

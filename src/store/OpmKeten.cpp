@@ -25,12 +25,12 @@ struct OpmLB77::Zoekvraag {
   bool nietHTML;
 };
 
-/// What came of a search. When it was found the buffer holds the line.
+// What came of a search. When it was found the buffer holds the line.
 struct OpmLB77::Vondst {
   enum class Uitkomst { NietGezocht, Gevonden, Geen, FouteVerwijzing, Leesfout };
   Uitkomst uitkomst = Uitkomst::NietGezocht;
-  std::int16_t nr = 0;      ///< the record at hand
-  std::int16_t vorige = 0;  ///< the first record of the remark before it
+  std::int16_t nr = 0;      // the record at hand
+  std::int16_t vorige = 0;  // the first record of the remark before it
 };
 
 std::int16_t OpmCodeMet(std::int16_t code, std::int16_t rubriek) {

@@ -19,51 +19,51 @@
 
 namespace lb77 {
 
-/// The ten lines of a remark, and the records that they occupy (0 for none).
+// The ten lines of a remark, and the records that they occupy (0 for none).
 using OpmRegels = std::array<std::string, 10>;
 using OpmRecnrs = std::array<std::int16_t, 10>;
 
-/// Where a line of a remark lies.
+// Where a line of a remark lies.
 struct OpmVindplaats {
-  std::int16_t Nr = 0;      ///< its record; 0 when there is no such line
-  std::int16_t Vorige = 0;  ///< first record of the owner's remark before it; 0 for the first
+  std::int16_t Nr = 0;      // its record; 0 when there is no such line
+  std::int16_t Vorige = 0;  // first record of the owner's remark before it; 0 for the first
 };
 
-/// The rubrics of a code and one more: the bits together, negative when either is.
+// The rubrics of a code and one more: the bits together, negative when either is.
 std::int16_t OpmCodeMet(std::int16_t code, std::int16_t rubriek);
 
-/// Holds one line. Reading and writing go by HuidigOpmNr.
+// Holds one line. Reading and writing go by HuidigOpmNr.
 class OpmLB77 final : public RecordRaam {
  public:
-  /// `persoon` and `relatie` are the owners that SchrijfOpmerking keeps in step.
+  // `persoon` and `relatie` are the owners that SchrijfOpmerking keeps in step.
   OpmLB77(const Opslag& opslag, PersoonLB77& persoon, RelatieLB77& relatie);
 
-  /// Stores the text of the buffer's line, cut to 80 characters.
+  // Stores the text of the buffer's line, cut to 80 characters.
   void ZetTekst(std::string_view Tekst);
-  /// Makes an empty record at `Nr` (from 2), counts it in record 1 and reads it back.
-  /// HuidigOpmNr is `Nr` after it.
+  // Makes an empty record at `Nr` (from 2), counts it in record 1 and reads it back.
+  // HuidigOpmNr is `Nr` after it.
   [[nodiscard]] bool Nieuw(std::int32_t Nr);
-  /// Writes record 1 of a new file.
+  // Writes record 1 of a new file.
   [[nodiscard]] bool NieuwAdm();
-  /// Empties the buffer; OpmBufNr is -1 after it.
+  // Empties the buffer; OpmBufNr is -1 after it.
   void LeegOpmBuffer();
-  /// Writes the buffer to HuidigOpmNr.
+  // Writes the buffer to HuidigOpmNr.
   [[nodiscard]] bool Schrijf();
-  /// Stores the three counters in the buffer, which must hold record 1, and writes record 1.
+  // Stores the three counters in the buffer, which must hold record 1, and writes record 1.
   [[nodiscard]] bool SchrijfAdm(std::int16_t Aantal, std::int16_t Vrij, std::int16_t Gebruikt);
 
-  /// Stores a remark of up to ten lines for a person, or for a relation when `Persoon` is 0.
-  /// `Recnrs` are the records it occupies now, `VorigeRecord` the first record of the remark before
-  /// it (0 for none), `Begin` the owner's first remark record. The owner is read, brought in step
-  /// and written. Stops at the first failure; what was written before it stays.
+  // Stores a remark of up to ten lines for a person, or for a relation when `Persoon` is 0.
+  // `Recnrs` are the records it occupies now, `VorigeRecord` the first record of the remark before
+  // it (0 for none), `Begin` the owner's first remark record. The owner is read, brought in step
+  // and written. Stops at the first failure; what was written before it stays.
   [[nodiscard]] bool SchrijfOpmerking(OpmRegels Regels, const OpmRecnrs& Recnrs,
                                       std::int16_t VorigeRecord, std::int16_t Persoon,
                                       std::int16_t Relatie, std::int16_t Begin, std::int16_t Prog,
                                       std::int16_t Rubriek);
 
-  /// The first record of the last remark of a chain: 0 for `Begin` 0, -1 after a message.
+  // The first record of the last remark of a chain: 0 for `Begin` 0, -1 after a message.
   std::int16_t RecordnrEindeKetting(std::int16_t Begin);
-  /// The rubrics of a whole chain together, negative for a relation; 0 after a message.
+  // The rubrics of a whole chain together, negative for a relation; 0 after a message.
   std::int16_t BepaalOpmCode(std::int16_t Begin);
 
   std::int16_t Rubriek() const;
@@ -72,26 +72,26 @@ class OpmLB77 final : public RecordRaam {
   std::int16_t VolgRegel() const;
   std::int16_t BijZelfde() const;
   std::string Tekstregel() const;
-  /// True when the remark is for HTML output only.
+  // True when the remark is for HTML output only.
   [[nodiscard]] bool AlleenHTML() const;
 
-  /// Reads HuidigOpmNr. False, silently, for an absent record; OpmBufNr is -1 then.
+  // Reads HuidigOpmNr. False, silently, for an absent record; OpmBufNr is -1 then.
   [[nodiscard]] bool Lees();
 
-  /// As in the frame, but the count includes record 1, and neither warns of a wrong count.
+  // As in the frame, but the count includes record 1, and neither warns of a wrong count.
   std::int16_t AantalInAdmin();
   std::int16_t AantalRecords();
 
-  /// Line `Regel` (1 to 10) of the first remark of a rubric in the chain from `Begin`; 11 to 20 are
-  /// the lines of the second remark, and so on. Empty when there is none. A bad link gives a text
-  /// that says so, ">> ... <<". `NietHTML` passes over remarks for HTML only.
+  // Line `Regel` (1 to 10) of the first remark of a rubric in the chain from `Begin`; 11 to 20 are
+  // the lines of the second remark, and so on. Empty when there is none. A bad link gives a text
+  // that says so, ">> ... <<". `NietHTML` passes over remarks for HTML only.
   std::string OpmerkingTekst(std::int16_t OpmCode, std::int16_t Begin, std::int16_t Rubriek,
                              std::int16_t Regel, bool NietHTML);
-  /// The BijProg of that line as text; "255" when there is none, "0" when nothing is to be found
-  /// or a link is bad.
+  // The BijProg of that line as text; "255" when there is none, "0" when nothing is to be found
+  // or a link is bad.
   std::string OpmerkingProgs(std::int16_t OpmCode, std::int16_t Begin, std::int16_t Rubriek,
                              std::int16_t Regel, bool NietHTML);
-  /// Where that line lies, and the remark before its remark. A bad link counts as no line.
+  // Where that line lies, and the remark before its remark. A bad link counts as no line.
   OpmVindplaats OpmRecordNr(std::int16_t OpmCode, std::int16_t Begin, std::int16_t Rubriek,
                             std::int16_t Regel, bool NietHTML);
 
@@ -100,18 +100,18 @@ class OpmLB77 final : public RecordRaam {
   struct Vondst;
   struct Opdracht;
 
-  /// What the owner of a remark knows of its remarks.
+  // What the owner of a remark knows of its remarks.
   struct Eigenaar {
     std::int16_t opmRecord = 0;
     std::int16_t opmCode = 0;
   };
-  /// The chain that grew last, as long as nothing else is written to the file.
+  // The chain that grew last, as long as nothing else is written to the file.
   struct Keteneinde {
-    std::int16_t begin = 0;  ///< its first record; 0 for none
-    std::int16_t einde = 0;  ///< the first record of its last remark
+    std::int16_t begin = 0;  // its first record; 0 for none
+    std::int16_t einde = 0;  // the first record of its last remark
     std::uint64_t stand = 0;
   };
-  /// A walk, bounded by the number of records.
+  // A walk, bounded by the number of records.
   struct Wandeling {
     std::int16_t aantal = 0;
     std::int32_t stappen = 0;
@@ -122,15 +122,15 @@ class OpmLB77 final : public RecordRaam {
   void HerstelSonde(Soort soort) override;
   [[nodiscard]] bool IsInGebruik() const override;
 
-  /// The count of record 1; nothing, silently, when it is absent.
+  // The count of record 1; nothing, silently, when it is absent.
   std::optional<std::int16_t> LeesTelling();
   Stap Betreed(std::int16_t nr, Wandeling& wandeling);
   Vondst Zoek(const Zoekvraag& vraag);
   Vondst ZoekRegel(std::int16_t eerste, std::int16_t regel, Wandeling& wandeling);
   [[nodiscard]] bool LoopKeten(std::int16_t begin, std::int16_t& laatste, std::int16_t& code);
 
-  /// As RecordnrEindeKetting; without a walk when the chain is the one that grew last, so that the
-  /// time of an import does not grow with the square of a person's remarks.
+  // As RecordnrEindeKetting; without a walk when the chain is the one that grew last, so that the
+  // time of an import does not grow with the square of a person's remarks.
   std::int16_t ZoekEinde(std::int16_t begin);
   [[nodiscard]] bool SchrijfRegel(Opdracht& opdracht, std::size_t i);
   [[nodiscard]] bool GeefVrij(const Opdracht& opdracht, std::size_t i);
@@ -138,7 +138,7 @@ class OpmLB77 final : public RecordRaam {
   [[nodiscard]] bool Herschrijf(const Opdracht& opdracht, std::size_t i);
   [[nodiscard]] bool VoegToe(Opdracht& opdracht, std::size_t i);
   [[nodiscard]] bool Koppel(std::int16_t nr, const Veld& schakel, std::int16_t volgende);
-  /// Takes a free record for a line, fills and counts it; 0 after a message.
+  // Takes a free record for a line, fills and counts it; 0 after a message.
   std::int16_t NeemRecord(const Opdracht& opdracht, std::size_t i);
   std::int16_t Kandidaat();
   std::int16_t ZoekVrij(std::int16_t vanaf);

@@ -25,7 +25,7 @@ bool IsLeeg(std::string_view regel) {
 
 }  // namespace
 
-/// The remark that is stored, and what its owner knows of remarks.
+// The remark that is stored, and what its owner knows of remarks.
 struct OpmLB77::Opdracht {
   OpmRegels regels;
   OpmRecnrs recnrs;

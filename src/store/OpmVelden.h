@@ -21,7 +21,7 @@ inline constexpr TekstVeld Tekstregel {   10,   80, "Tekstregel" };
 inline constexpr VrijVeld  Staart     {   90,    6               };  // first byte: the probe
 // clang-format on
 
-/// All fields, in file order.
+// All fields, in file order.
 inline constexpr auto kVelden =
     std::to_array<Veld>({Rubriek, BijRecord, BijProg, VolgRegel, BijZelfde, Tekstregel, Staart});
 static_assert(IsSluitend(kVelden, kLengte), "gap or overlap in the remark record");

@@ -8,7 +8,7 @@
 
 namespace lb77 {
 
-/// References only; all must outlive the record class.
+// References only; all must outlive the record class.
 struct Opslag {
   Bestandenset& bestanden;
   Volgers& volgers;

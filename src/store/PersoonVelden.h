@@ -41,7 +41,7 @@ inline constexpr KeuzeVeld BegrCrem     {  126,    1, "BegrCrem", " C" };
 inline constexpr VrijVeld  Vrij         {  127,    1                };
 // clang-format on
 
-/// All fields, in file order.
+// All fields, in file order.
 inline constexpr auto kVelden = std::to_array<Veld>(
     {Achternaam,   Voornaam, GebPlaatsNr, GebDagMaand, GebJaar,  GebCorr,  DoopPlaatsNr,
      DoopDagMaand, DoopJaar, OvlPlaatsNr, OvDagMaand,  OvJaar,   OvlCorr,  BegrPlaatsNr,

@@ -41,7 +41,7 @@ bool IsVolNul(std::string_view bytes) {
 
 }  // namespace
 
-/// What is searched, and what to do when it isn't there.
+// What is searched, and what to do when it isn't there.
 struct PlaatsLB77::Zoekvraag {
   std::string_view naam;
   std::string sleutel;

@@ -16,7 +16,7 @@ inline constexpr TekstVeld Prov {    0,    2, "Provcode"   };  // the probe; rec
 inline constexpr TekstVeld Naam {    2,   25, "Plaatsnaam" };
 // clang-format on
 
-/// All fields, in file order.
+// All fields, in file order.
 inline constexpr auto kVelden = std::to_array<Veld>({Prov, Naam});
 static_assert(IsSluitend(kVelden, kLengte), "gap or overlap in the place record");
 

@@ -6,8 +6,8 @@
 
 namespace lb77 {
 
-/// Implemented with boxes and a dialog where there is a screen. All questions have Yes and No, and
-/// True is Yes.
+// Implemented with boxes and a dialog where there is a screen. All questions have Yes and No, and
+// True is Yes.
 class PlaatsVraag {
  public:
   PlaatsVraag() = default;
@@ -15,20 +15,20 @@ class PlaatsVraag {
   PlaatsVraag(const PlaatsVraag&) = delete;
   PlaatsVraag& operator=(const PlaatsVraag&) = delete;
 
-  /// "Gevonden: <naam> (<prov>). Is deze Plaats bedoeld ?"
+  // "Gevonden: <naam> (<prov>). Is deze Plaats bedoeld ?"
   [[nodiscard]] virtual bool Bevestig(std::string_view naam, std::string_view prov) = 0;
 
-  /// "Nog verder zoeken ?"
+  // "Nog verder zoeken ?"
   [[nodiscard]] virtual bool NogVerder() = 0;
 
-  /// "Plaats "<naam>" is onbekend." and "Plaats toevoegen aan het Plaatsbestand ?"
+  // "Plaats "<naam>" is onbekend." and "Plaats toevoegen aan het Plaatsbestand ?"
   [[nodiscard]] virtual bool Toevoegen(std::string_view naam) = 0;
 
-  /// The province code for a new place; `prov` is what the prompt starts with.
+  // The province code for a new place; `prov` is what the prompt starts with.
   virtual std::string Provincie(std::string_view naam, std::string_view prov) = 0;
 };
 
-/// Asks nobody: No to everything, the province as given. For a search that has nothing to ask.
+// Asks nobody: No to everything, the province as given. For a search that has nothing to ask.
 class GeenPlaatsVraag final : public PlaatsVraag {
  public:
   [[nodiscard]] bool Bevestig(std::string_view, std::string_view) override { return false; }

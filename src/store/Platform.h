@@ -10,14 +10,14 @@
 
 namespace lb77 {
 
-/// The number of bytes that an operation reached, or why it failed.
+// The number of bytes that an operation reached, or why it failed.
 struct Leesuitslag {
-  std::size_t gelezen = 0;  ///< fewer than asked only at the end of the file
+  std::size_t gelezen = 0;  // fewer than asked only at the end of the file
   SysteemFout fout;
 };
 
-/// An open file of the operating system; closed when it goes. Nothing is buffered: what a write
-/// has returned from, the system has.
+// An open file of the operating system; closed when it goes. Nothing is buffered: what a write
+// has returned from, the system has.
 class Bestandsgreep {
  public:
   Bestandsgreep() = default;
@@ -27,26 +27,26 @@ class Bestandsgreep {
   Bestandsgreep(const Bestandsgreep&) = delete;
   Bestandsgreep& operator=(const Bestandsgreep&) = delete;
 
-  /// Opens for reading and writing and creates an absent file (not its directory). A file that can
-  /// only be read is a failure. What was open is closed first.
+  // Opens for reading and writing and creates an absent file (not its directory). A file that can
+  // only be read is a failure. What was open is closed first.
   [[nodiscard]] SysteemFout Open(const std::filesystem::path& pad);
 
-  /// Reads from byte `plaats` on, counted from 0. Past the end 0 bytes are read, without an error.
+  // Reads from byte `plaats` on, counted from 0. Past the end 0 bytes are read, without an error.
   [[nodiscard]] Leesuitslag Lees(std::uint64_t plaats, std::span<char> doel) const;
 
-  /// Writes all of `bron` from byte `plaats` on, or tells why part of it may be missing.
+  // Writes all of `bron` from byte `plaats` on, or tells why part of it may be missing.
   [[nodiscard]] SysteemFout Schrijf(std::uint64_t plaats, std::span<const char> bron);
 
-  /// The size of the file in bytes; 0 when the system does not tell it.
+  // The size of the file in bytes; 0 when the system does not tell it.
   std::uint64_t Lengte() const;
 
-  /// Brings what was written to the disk itself.
+  // Brings what was written to the disk itself.
   [[nodiscard]] SysteemFout Veiligstellen();
 
-  /// Closes the file; does nothing when it is not open.
+  // Closes the file; does nothing when it is not open.
   void Sluit();
 
-  /// True between a successful Open and Sluit.
+  // True between a successful Open and Sluit.
   bool IsOpen() const { return greep_ != kDicht; }
 
  private:
@@ -54,11 +54,11 @@ class Bestandsgreep {
   std::intptr_t greep_ = kDicht;
 };
 
-/// The directory of the running executable; the current directory when the system does not tell.
+// The directory of the running executable; the current directory when the system does not tell.
 std::filesystem::path ProgrammaMap();
 
-/// The user's own data directory for this program (XDG data home or the platform's equivalent,
-/// plus "lb77"). It need not exist.
+// The user's own data directory for this program (XDG data home or the platform's equivalent,
+// plus "lb77"). It need not exist.
 std::filesystem::path GebruikersDataMap();
 
 }  // namespace lb77

@@ -10,8 +10,8 @@
 
 namespace lb77 {
 
-/// Records are numbered from 1. There is one real implementation (SchijfBestand); tests have one
-/// that fails on demand.
+// Records are numbered from 1. There is one real implementation (SchijfBestand); tests have one
+// that fails on demand.
 class RecordBestand {
  public:
   RecordBestand() = default;
@@ -19,25 +19,25 @@ class RecordBestand {
   RecordBestand(const RecordBestand&) = delete;
   RecordBestand& operator=(const RecordBestand&) = delete;
 
-  /// Reads record `nr` (from 1) into the front of `doel`, at most a record. Fewer bytes than a
-  /// record, or none, at the end of the file; that is no error.
+  // Reads record `nr` (from 1) into the front of `doel`, at most a record. Fewer bytes than a
+  // record, or none, at the end of the file; that is no error.
   [[nodiscard]] virtual Leesuitslag Lees(std::int32_t nr, std::span<char> doel) = 0;
 
-  /// Writes record `nr` (from 1), of exactly one record length. The system has it on return. After
-  /// a failure part of the record may have been written.
+  // Writes record `nr` (from 1), of exactly one record length. The system has it on return. After
+  // a failure part of the record may have been written.
   [[nodiscard]] virtual SysteemFout Schrijf(std::int32_t nr, std::span<const char> bron) = 0;
 
-  /// The size of the file in bytes; 0 when it cannot be told.
+  // The size of the file in bytes; 0 when it cannot be told.
   virtual std::uint64_t Lengte() = 0;
 
-  /// Brings everything written to the disk itself.
+  // Brings everything written to the disk itself.
   [[nodiscard]] virtual SysteemFout Veiligstellen() = 0;
 
-  /// Counts the writes through this door, failed ones included; an index compares it to know
-  /// whether it is stale.
+  // Counts the writes through this door, failed ones included; an index compares it to know
+  // whether it is stale.
   virtual std::uint64_t Wijzigingen() const = 0;
 
-  /// The length of a record in bytes.
+  // The length of a record in bytes.
   virtual std::size_t RecordLengte() const = 0;
 };
 

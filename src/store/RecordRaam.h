@@ -17,58 +17,58 @@
 
 namespace lb77 {
 
-/// How one record class differs from the others, as data.
+// How one record class differs from the others, as data.
 struct RaamTabel {
   BestandSoort soort;
   std::span<const Veld> velden;
-  std::span<const char> leeg;      ///< an empty record, of the record's length
-  std::size_t sonde;               ///< offset of the field that tells whether a record is there
-  std::string_view schildwacht;    ///< what it holds before a read
-  std::size_t telling;             ///< offset of the count in record 1
-  std::int16_t Volgers::*bufNr;    ///< the tracker of the buffer
-  std::int16_t geenNr;             ///< its value when nothing valid lies in the buffer
-  std::string_view recordNaam;     ///< "Persoonsrecord", in "... lezen van Persoonsrecord 12"
-  std::string_view schrijfNaam;    ///< the same in the message of a write
-  std::string_view leesAdminFout;  ///< message of a record 1 that can't be read
+  std::span<const char> leeg;      // an empty record, of the record's length
+  std::size_t sonde;               // offset of the field that tells whether a record is there
+  std::string_view schildwacht;    // what it holds before a read
+  std::size_t telling;             // offset of the count in record 1
+  std::int16_t Volgers::*bufNr;    // the tracker of the buffer
+  std::int16_t geenNr;             // its value when nothing valid lies in the buffer
+  std::string_view recordNaam;     // "Persoonsrecord", in "... lezen van Persoonsrecord 12"
+  std::string_view schrijfNaam;    // the same in the message of a write
+  std::string_view leesAdminFout;  // message of a record 1 that can't be read
   std::string_view schrijfAdminFout;
-  std::string_view aantalFout;  ///< warning of a wrong count; empty when there is none
-  std::int16_t laagste;         ///< what AantalRecords gives when no record is found at all
+  std::string_view aantalFout;  // warning of a wrong count; empty when there is none
+  std::int16_t laagste;         // what AantalRecords gives when no record is found at all
 };
 
-/// Holds one record. Reading replaces it; every write reaches the file at once. A failure is shown
-/// to the user here and returns False. A read that fails leaves the buffer empty.
+// Holds one record. Reading replaces it; every write reaches the file at once. A failure is shown
+// to the user here and returns False. A read that fails leaves the buffer empty.
 class RecordRaam {
  public:
   RecordRaam(const RecordRaam&) = delete;
   RecordRaam& operator=(const RecordRaam&) = delete;
 
-  /// Reads record 1 into the buffer. A record 1 that is absent or no admin record is a failure
-  /// with its message.
+  // Reads record 1 into the buffer. A record 1 that is absent or no admin record is a failure
+  // with its message.
   [[nodiscard]] bool LeesAdmin();
 
-  /// Writes the buffer to record 1.
+  // Writes the buffer to record 1.
   [[nodiscard]] bool SchrijfAdmin();
 
-  /// The count that record 1 states; 0 when it can't be read. The buffer then holds record 1.
+  // The count that record 1 states; 0 when it can't be read. The buffer then holds record 1.
   std::int16_t AantalInAdmin();
 
-  /// The highest record number, found downward from the count of record 1; warns when they differ.
-  /// An empty set gives 1; a file without a record 1 gives 0, one of places 1. The buffer then
-  /// holds that record.
+  // The highest record number, found downward from the count of record 1; warns when they differ.
+  // An empty set gives 1; a file without a record 1 gives 0, one of places 1. The buffer then
+  // holds that record.
   std::int16_t AantalRecords();
 
-  /// The highest number reached by reading upward from 2 until a read fails. The buffer is empty
-  /// after it.
+  // The highest number reached by reading upward from 2 until a read fails. The buffer is empty
+  // after it.
   std::int16_t MaxRecordNr();
 
-  /// Stores one field of the buffer from text. A name that the class doesn't know shows a warning,
-  /// a number that doesn't fit in 16 bits an error; both change nothing.
+  // Stores one field of the buffer from text. A name that the class doesn't know shows a warning,
+  // a number that doesn't fit in 16 bits an error; both change nothing.
   void Zet(std::string_view veld, std::string_view waarde);
 
-  /// Stores the count in the buffer, which must hold record 1.
+  // Stores the count in the buffer, which must hold record 1.
   void ZetAantal(std::int16_t aantal);
 
-  /// The bytes of the buffer, for tests and dumps.
+  // The bytes of the buffer, for tests and dumps.
   std::span<const char> Bytes() const { return {buffer_.data(), tabel_.leeg.size()}; }
 
  protected:
@@ -77,37 +77,37 @@ class RecordRaam {
 
   enum class Soort { Gewoon, Admin };
 
-  /// What came of a read or a write, without a message shown.
+  // What came of a read or a write, without a message shown.
   struct Uitslag {
     bool gelukt = false;
-    SysteemFout fout;  ///< of the system; none when the record is merely absent
+    SysteemFout fout;  // of the system; none when the record is merely absent
   };
 
-  /// Reads a record into the buffer, or empties it. An absent record fails silently.
+  // Reads a record into the buffer, or empties it. An absent record fails silently.
   [[nodiscard]] bool LeesRecord(std::int32_t nr);
-  /// The same without any message.
+  // The same without any message.
   Uitslag LeesStil(std::int32_t nr, Soort soort = Soort::Gewoon);
-  /// Writes the buffer and makes it the buffer's record.
+  // Writes the buffer and makes it the buffer's record.
   [[nodiscard]] bool SchrijfRecord(std::int32_t nr);
-  /// The same without any message.
+  // The same without any message.
   [[nodiscard]] SysteemFout SchrijfStil(std::int32_t nr);
-  /// Writes an empty record at `nr`, raises the count in record 1 and reads `nr` back.
+  // Writes an empty record at `nr`, raises the count in record 1 and reads `nr` back.
   [[nodiscard]] bool NieuwRecord(std::int32_t nr);
-  /// Writes an empty record at `nr`, the first step of a new one. A record that is in use is never
-  /// overwritten: that fails with a message.
+  // Writes an empty record at `nr`, the first step of a new one. A record that is in use is never
+  // overwritten: that fails with a message.
   [[nodiscard]] bool SchrijfLeeg(std::int32_t nr);
-  /// Raises the count of the admin record in the buffer; fails with a message when it is full.
+  // Raises the count of the admin record in the buffer; fails with a message when it is full.
   [[nodiscard]] bool VerhoogAantal();
-  /// The highest number that can be read, from `vanaf` downward.
+  // The highest number that can be read, from `vanaf` downward.
   std::int16_t ZoekHoogste(std::int32_t vanaf);
-  /// Empties the buffer and its tracker.
+  // Empties the buffer and its tracker.
   void Leeg();
 
-  /// Shows a message as an error; the system's text, if any, goes behind a line break.
+  // Shows a message as an error; the system's text, if any, goes behind a line break.
   void MeldFout(std::string_view tekst, const SysteemFout& fout = {}) const;
 
   std::string Tekst(const Veld& veld) const;
-  /// The stored bytes of a text without surrounding blanks.
+  // The stored bytes of a text without surrounding blanks.
   std::string_view Kaal(const Veld& veld) const;
   std::int16_t Getal(const Veld& veld) const { return GetalOp(buffer_, veld.plaats); }
   char Teken(const Veld& veld) const { return buffer_[veld.plaats]; }
@@ -122,23 +122,23 @@ class RecordRaam {
   const Opslag& DeOpslag() const { return opslag_; }
 
  private:
-  /// True when the buffer, fully read, is a part of the file that was never written.
+  // True when the buffer, fully read, is a part of the file that was never written.
   virtual bool IsGat(Soort soort) const = 0;
-  /// True when the stored text of the probe may equal its sentinel.
+  // True when the stored text of the probe may equal its sentinel.
   virtual bool MagSchildwachtZijn(Soort) const { return false; }
-  /// Puts the probe right after a read that was accepted.
+  // Puts the probe right after a read that was accepted.
   virtual void HerstelSonde(Soort) {}
 
-  /// True when the buffer, read as far as its probe, holds something that may not be lost.
+  // True when the buffer, read as far as its probe, holds something that may not be lost.
   [[nodiscard]] virtual bool IsInGebruik() const;
 
   [[nodiscard]] bool HeeftSonde(std::size_t gelezen) const;
   [[nodiscard]] bool IsAanwezig(std::size_t gelezen, Soort soort) const;
   [[nodiscard]] bool MagNieuw(std::int32_t nr);
-  /// The records that the file's size has room for, one cut short included; the maximum when the
-  /// size is not known.
+  // The records that the file's size has room for, one cut short included; the maximum when the
+  // size is not known.
   std::int32_t RecordsInBestand() const;
-  /// Reads a record of a scan; shows an error of the system unless one was shown before.
+  // Reads a record of a scan; shows an error of the system unless one was shown before.
   [[nodiscard]] bool Probeer(std::int32_t nr, bool& gemeld);
   void Verwerk(const Veld& veld, std::string_view waarde);
   void ZetGetalTekst(const Veld& veld, std::string_view waarde);

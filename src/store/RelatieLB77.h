@@ -11,34 +11,34 @@
 
 namespace lb77 {
 
-/// The children of a relation, index 1 to 29 (0 is not used); 0 is a free slot.
+// The children of a relation, index 1 to 29 (0 is not used); 0 is a free slot.
 using Kindtab = std::array<std::int16_t, 30>;
 
-/// Holds one relation. Getters tell of the buffer; text is trimmed.
+// Holds one relation. Getters tell of the buffer; text is trimmed.
 class RelatieLB77 final : public RecordRaam {
  public:
   explicit RelatieLB77(const Opslag& opslag);
 
-  /// Writes the buffer to HuidigRelatieNr.
+  // Writes the buffer to HuidigRelatieNr.
   [[nodiscard]] bool Schrijf();
-  /// True for a continuation record.
+  // True for a continuation record.
   [[nodiscard]] bool IsVolgRecord() const;
 
-  /// The rubrics that have remarks, negative, and the first remark record (0 for none).
+  // The rubrics that have remarks, negative, and the first remark record (0 for none).
   std::int16_t OpmCode() const;
   std::int16_t OpmRecord() const;
 
-  /// Child slot 1 to 15 of the buffer as text; empty for another index. Slot 15 may be minus the
-  /// number of the continuation record.
+  // Child slot 1 to 15 of the buffer as text; empty for another index. Slot 15 may be minus the
+  // number of the continuation record.
   std::string kind(std::int16_t Index) const;
-  /// The same as a number; 0 for another index.
+  // The same as a number; 0 for another index.
   std::int16_t KindNr(std::int16_t Index) const;
 
-  /// Stored text, not converted.
+  // Stored text, not converted.
   std::string Religie() const;
   std::string HuwSoort() const;
 
-  /// Day * 100 + month, and the year; 0 for an unknown part.
+  // Day * 100 + month, and the year; 0 for an unknown part.
   std::int16_t KHuwJaar() const;
   std::int16_t WetHuwJaar() const;
   std::int16_t KHuwDagMaand() const;
@@ -47,47 +47,47 @@ class RelatieLB77 final : public RecordRaam {
   std::int16_t OtrDagMaand() const;
   std::string HuwCorr() const;
 
-  /// Person numbers; 0 for none.
+  // Person numbers; 0 for none.
   std::int16_t ManNr() const;
   std::int16_t VrouwNr() const;
 
-  /// Reads relation `Nr` and fills the table. The result is the number of positive slots; 14 with
-  /// an unreadable continuation, 0 and an empty table when `Nr` can't be read. HuidigRelatieNr and
-  /// the buffer may stand on the continuation afterwards. Gaps are kept.
+  // Reads relation `Nr` and fills the table. The result is the number of positive slots; 14 with
+  // an unreadable continuation, 0 and an empty table when `Nr` can't be read. HuidigRelatieNr and
+  // the buffer may stand on the continuation afterwards. Gaps are kept.
   std::int16_t VulKindtab(std::int16_t Nr, Kindtab& tab);
 
-  /// Empties the buffer; RelBufNr is -1 after it.
+  // Empties the buffer; RelBufNr is -1 after it.
   void LeegRelBuffer();
-  /// Reads relation `Nr`. False, silently, for an absent record; RelBufNr is -1 then.
+  // Reads relation `Nr`. False, silently, for an absent record; RelBufNr is -1 then.
   [[nodiscard]] bool Lees(std::int16_t Nr);
 
-  /// Dates in the entry form; an empty date is "  -  -    " whatever the separator.
+  // Dates in the entry form; an empty date is "  -  -    " whatever the separator.
   std::string OtrDatum10() const;
   std::string WetHuwDatum10() const;
   std::string KHuwDatum10() const;
 
-  /// Dates as jjjjmmdd for comparing; an unknown part is 0.
+  // Dates as jjjjmmdd for comparing; an unknown part is 0.
   std::int32_t OtrDatum() const;
   std::int32_t WHuwDatum() const;
   std::int32_t KHuwDatum() const;
 
-  /// Place numbers with their qualifier; 0 for none.
+  // Place numbers with their qualifier; 0 for none.
   std::int16_t OtrPlaatsNr() const;
   std::int16_t WetHuwPlaatsNr() const;
   std::int16_t KHuwPlaatsNr() const;
 
-  /// True when the church-marriage fields hold a divorce.
+  // True when the church-marriage fields hold a divorce.
   [[nodiscard]] bool KHuwSch() const;
-  /// "S" for Samenwonen, "P" for Partnerschap, empty for a marriage.
+  // "S" for Samenwonen, "P" for Partnerschap, empty for a marriage.
   std::string HuwSwPs() const;
 
-  /// As RecordRaam::Zet; for "HuwSwPs" it also takes the words "Sw" and "Ps" beside 1 and 2.
+  // As RecordRaam::Zet; for "HuwSwPs" it also takes the words "Sw" and "Ps" beside 1 and 2.
   void Zet(std::string_view veld, std::string_view waarde);
 
-  /// Makes an empty relation at `Nr` (from 2, AantalRecords() + 1) and reads it. Above 32767 it
-  /// refuses with a message.
+  // Makes an empty relation at `Nr` (from 2, AantalRecords() + 1) and reads it. Above 32767 it
+  // refuses with a message.
   [[nodiscard]] bool Nieuw(std::int32_t Nr);
-  /// Writes record 1 of a new file.
+  // Writes record 1 of a new file.
   [[nodiscard]] bool NieuwAdm();
 
  private:

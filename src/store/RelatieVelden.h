@@ -48,7 +48,7 @@ inline constexpr KeuzeVeld HuwSwPs        {   62,    1, "HuwSwPs", " SP" };
 inline constexpr VrijVeld  Vrij           {   63,    1               };
 // clang-format on
 
-/// All fields, in file order.
+// All fields, in file order.
 inline constexpr auto kVelden = std::to_array<Veld>(
     {ManNr,          VrouwNr,    OtrPlaatsNr, OtrDagMaand,  OtrJaar,      WetHuwPlaatsNr,
      WetHuwDagMaand, WetHuwJaar, HuwCorr,     KHuwPlaatsNr, KHuwDagMaand, KHuwJaar,

@@ -16,7 +16,7 @@ class SchijfBestand final : public RecordBestand {
  public:
   explicit SchijfBestand(std::size_t recordLengte) : recordLengte_(recordLengte) {}
 
-  /// Opens for reading and writing; an absent file is created empty.
+  // Opens for reading and writing; an absent file is created empty.
   [[nodiscard]] SysteemFout Open(const std::filesystem::path& pad);
 
   [[nodiscard]] Leesuitslag Lees(std::int32_t nr, std::span<char> doel) override;

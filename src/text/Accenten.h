@@ -9,12 +9,12 @@
 
 namespace lb77 {
 
-/// The letters that exist with one accent, above the same letters without it.
+// The letters that exist with one accent, above the same letters without it.
 struct Accentletters {
   std::string_view letters;
   std::string_view kaal;
 
-  /// The bare letter with the accent; nothing when Windows-1252 has no such letter.
+  // The bare letter with the accent; nothing when Windows-1252 has no such letter.
   constexpr std::optional<char> Met(char letter) const {
     const std::size_t plaats = kaal.find(letter);
     if (plaats == std::string_view::npos) return std::nullopt;

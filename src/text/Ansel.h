@@ -6,11 +6,11 @@
 
 namespace lb77 {
 
-/// Windows-1252 to ANSEL; an accent comes before its letter. A byte without a row passes unchanged.
+// Windows-1252 to ANSEL; an accent comes before its letter. A byte without a row passes unchanged.
 std::string WindowsNaarAnsel(std::string_view windows);
 
-/// ANSEL to Windows-1252. A mark combines with the letter behind it; a mark that cannot be written
-/// leaves its name in angle brackets, an unassigned byte "?_" + its number + "_?".
+// ANSEL to Windows-1252. A mark combines with the letter behind it; a mark that cannot be written
+// leaves its name in angle brackets, an unassigned byte "?_" + its number + "_?".
 std::string AnselNaarWindows(std::string_view ansel);
 
 }  // namespace lb77

@@ -6,7 +6,7 @@
 
 namespace lb77 {
 
-/// Windows-1252 text with entities for the characters that HTML reserves and for accented letters.
+// Windows-1252 text with entities for the characters that HTML reserves and for accented letters.
 std::string TekstNaarHTML(std::string_view tekst);
 
 }  // namespace lb77

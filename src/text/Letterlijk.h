@@ -12,7 +12,7 @@ namespace lb77 {
 
 namespace letterlijk {
 
-/// The source literal, as a value that a template can be given.
+// The source literal, as a value that a template can be given.
 template <std::size_t N>
 struct Bron {
   // NOLINTNEXTLINE(google-explicit-constructor): a literal operator template needs the conversion
@@ -22,7 +22,7 @@ struct Bron {
   char tekens[N]{};
 };
 
-/// The converted bytes, closed by a NUL; the compiler refuses (throws) what has no equivalent.
+// The converted bytes, closed by a NUL; the compiler refuses (throws) what has no equivalent.
 template <std::size_t N>
 struct Doel {
   consteval explicit Doel(const Bron<N>& bron) {
@@ -43,8 +43,8 @@ inline constexpr Doel kDoel{kBron};
 
 }  // namespace letterlijk
 
-/// Windows-1252 text in static storage, converted by the compiler. A character without an
-/// equivalent does not compile.
+// Windows-1252 text in static storage, converted by the compiler. A character without an
+// equivalent does not compile.
 template <letterlijk::Bron kBron>
 consteval std::string_view operator""_w() {
   return {letterlijk::kDoel<kBron>.tekens.data(), letterlijk::kDoel<kBron>.lengte};

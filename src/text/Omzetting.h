@@ -8,53 +8,53 @@
 
 namespace lb77 {
 
-/// A table that gives one byte for each byte.
+// A table that gives one byte for each byte.
 using ByteTabel = std::array<char, 256>;
 
-/// A table that gives a text for each byte.
+// A table that gives a text for each byte.
 using TekstTabel = std::array<std::string_view, 256>;
 
-/// A row that tells the characters of consecutive bytes.
+// A row that tells the characters of consecutive bytes.
 struct Reeks {
   unsigned vanaf = 0;
   std::string_view tekens;
 };
 
-/// A row that tells one byte for one byte.
+// A row that tells one byte for one byte.
 struct ByteRij {
   unsigned byte = 0;
   unsigned wordt = 0;
 };
 
-/// A row that tells the text for one byte.
+// A row that tells the text for one byte.
 struct TekstRij {
   unsigned byte = 0;
   std::string_view wordt;
 };
 
-/// The table in which every byte passes unchanged.
+// The table in which every byte passes unchanged.
 consteval ByteTabel OngewijzigdeBytes() {
   ByteTabel tabel{};
   for (std::size_t i = 0; i < tabel.size(); ++i) tabel[i] = static_cast<char>(i);
   return tabel;
 }
 
-/// Storage to which a text of one character can point.
+// Storage to which a text of one character can point.
 inline constexpr ByteTabel kAlleBytes = OngewijzigdeBytes();
 
-/// The text of one character that is this byte.
+// The text of one character that is this byte.
 constexpr std::string_view EnkelTeken(unsigned byte) {
   return {&kAlleBytes[byte & 0xFFU], 1};
 }
 
-/// The table in which every byte passes unchanged, as texts.
+// The table in which every byte passes unchanged, as texts.
 consteval TekstTabel OngewijzigdeTeksten() {
   TekstTabel tabel{};
   for (unsigned i = 0; i < tabel.size(); ++i) tabel[i] = EnkelTeken(i);
   return tabel;
 }
 
-/// Converts each byte by its entry.
+// Converts each byte by its entry.
 template <typename Tabel>
 std::string ZetOm(std::string_view tekst, const Tabel& tabel) {
   std::string uit;

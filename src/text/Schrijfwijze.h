@@ -6,9 +6,9 @@
 
 namespace lb77 {
 
-/// Filled from the settings; the defaults are those of a program that has read no settings yet.
+// Filled from the settings; the defaults are those of a program that has read no settings yet.
 struct Schrijfwijze {
-  char DatumScheider = '.';  ///< "-" or "."
+  char DatumScheider = '.';  // "-" or "."
   Voorvoegsels voorvoegsels;
   Gezindten gezindten;
 };

@@ -6,14 +6,14 @@
 
 namespace lb77 {
 
-/// One decoded sequence. `lengte` is its number of bytes; 0 when the bytes are not valid UTF-8.
+// One decoded sequence. `lengte` is its number of bytes; 0 when the bytes are not valid UTF-8.
 struct Utf8Teken {
   char32_t codepunt = 0;
   std::size_t lengte = 0;
 };
 
-/// Decodes the sequence that starts at `plaats` (which lies inside `tekst`). Overlong forms,
-/// surrogates, numbers above U+10FFFF and sequences that are cut short are not valid.
+// Decodes the sequence that starts at `plaats` (which lies inside `tekst`). Overlong forms,
+// surrogates, numbers above U+10FFFF and sequences that are cut short are not valid.
 constexpr Utf8Teken LeesUtf8(std::string_view tekst, std::size_t plaats) {
   const auto byte = [&](std::size_t i) { return static_cast<unsigned char>(tekst[plaats + i]); };
   const unsigned eerste = byte(0);

@@ -9,6 +9,7 @@
 #include "exchange/GedRegel.h"
 #include "exchange/ImportToets.h"
 #include "exchange/RegelLezer.h"
+#include "steun/Plekken.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
@@ -90,7 +91,7 @@ void PrintTo(const Geval& geval, std::ostream* os) {
 class ImpBronbestanden : public ImportToets, public ::testing::WithParamInterface<Geval> {
  protected:
   static std::filesystem::path Pad(std::string_view naam) {
-    return std::filesystem::path(LB77_BRONMAP) / "../shared/data" / naam;
+    return BronMap() / "../shared/data" / naam;
   }
 
   void VergelijkPersonen(Hoofdmodule& hoofd, const Bron& bron) {

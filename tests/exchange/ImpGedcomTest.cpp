@@ -9,6 +9,7 @@
 #include "exchange/ImpGedcom.h"
 #include "exchange/ImportToets.h"
 #include "steun/Gouden.h"
+#include "steun/Plekken.h"
 
 namespace lb77 {
 namespace {
@@ -249,8 +250,7 @@ TEST_F(ImpGedcomTest, TheMessageOfCodePage850CanBeSilencedForOneImport) {
 }
 
 TEST_F(ImpGedcomTest, AWholeFamilyAndItsLog) {
-  const std::string bytes =
-      LeesBytes(std::filesystem::path(LB77_BRONMAP) / "tests/gouden/import.ged");
+  const std::string bytes = LeesBytes(BronMap() / "tests/gouden/import.ged");
   ASSERT_FALSE(bytes.empty());
   Importeer(bytes);
   VerwachtGouden("import.log", Log());

@@ -30,7 +30,7 @@ class BestandsvensterTest : public Vensterproef {
     ASSERT_TRUE(QDir(map_.path()).mkdir("onder"));
   }
 
-  /// Asks, runs `doe` in the dialog once it is there, and gives the answer.
+  // Asks, runs `doe` in the dialog once it is there, and gives the answer.
   std::optional<std::filesystem::path> Vraag(BestandsWijze wijze,
                                              const std::function<void(QFileDialog&)>& doe) {
     return Vraag(wijze, PadVanQt(map_.path()), doe);

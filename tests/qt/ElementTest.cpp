@@ -22,11 +22,11 @@ using testing::ElementsAre;
 class ElementTest : public Vensterproef {
  protected:
   Proefvorm vorm{gesprek};
-  /// Shows the form and runs `kijk` in it.
+  // Shows the form and runs `kijk` in it.
   void Bekijk(const std::function<void()>& kijk) {
     Voer(vorm, {kijk, [this] { QTest::mouseClick(&Vind("BackButton"), Qt::LeftButton); }});
   }
-  /// Changes the form from code, as a handler does, and lets the window follow.
+  // Changes the form from code, as a handler does, and lets the window follow.
   void Verander(std::function<void()> doe) {
     vorm.bijOK = std::move(doe);
     QTest::mouseClick(&Vind("OKButton"), Qt::LeftButton);

@@ -25,7 +25,7 @@ class FormulierenTest : public Formulierproef, public testing::WithParamInterfac
     MaakSet();
   }
 
-  /// A set with a family of three.
+  // A set with a family of three.
   void MaakSet() {
     Hoofdmodule& hoofd = programma_->Hoofd();
     const SetPaden paden = SetPaden::Van(map_ / "DATA", "ORANJE");

@@ -9,11 +9,12 @@
 #include "forms/Bijschrift.h"
 #include "qt/Indelingskeuze.h"
 #include "qt/Vertaling.h"
+#include "steun/Plekken.h"
 
 namespace lb77 {
 
 void Formulierproef::Bewaar(QWidget& venster, std::string_view naam) {
-  const QDir map(QStringLiteral(LB77_BOUWMAP "/schermen"));
+  const QDir map(BouwMap() / "schermen");
   map.mkpath(QStringLiteral("."));
   EXPECT_TRUE(venster.grab().save(map.filePath(NaarQt(naam) + QStringLiteral(".png"))));
 }

@@ -22,7 +22,7 @@ constexpr const char* kGeweigerd = "Dit teken kan niet worden opgeslagen";
 class InvoerTest : public Vensterproef {
  protected:
   Proefvorm vorm{gesprek};
-  /// Runs `doe` with the focus in the field.
+  // Runs `doe` with the focus in the field.
   void In(Invoerveld& veld, const std::function<void()>& doe) {
     vorm.ZetEersteVeld(veld);
     Voer(vorm, {doe, [this] { QTest::mouseClick(&Vind("BackButton"), Qt::LeftButton); }});

@@ -8,8 +8,8 @@
 
 namespace lb77 {
 
-/// Looks around every few milliseconds, also in the event loops of forms within forms and during
-/// long work.
+// Looks around every few milliseconds, also in the event loops of forms within forms and during
+// long work.
 class Piloot {
  public:
   struct Stap {
@@ -19,9 +19,9 @@ class Piloot {
 
   explicit Piloot(std::vector<Stap> stappen);
 
-  /// All steps were taken.
+  // All steps were taken.
   [[nodiscard]] bool Klaar() const { return volgende_ == stappen_.size(); }
-  /// Called at each look with the name of the form on top.
+  // Called at each look with the name of the form on top.
   std::function<void(const std::string& formulier)> bijBlik;
 
  private:

@@ -21,12 +21,12 @@ class QtGesprekTest : public Vensterproef {
  protected:
   Proefvorm vorm{gesprek};
   void Druk(const char* naam) { QTest::mouseClick(&Vind(naam), Qt::LeftButton); }
-  /// Asks with each answer ready and gives what came back.
+  // Asks with each answer ready and gives what came back.
   lb77::Antwoord Vraag(Knoppen knoppen, const char* knop) {
     Antwoord({QString::fromLatin1(knop)});
     return gesprek.Bericht(BerichtSoort::Vraag, knoppen, "?");
   }
-  /// Runs `kijk` while a box is open, and then closes it by its frame.
+  // Runs `kijk` while a box is open, and then closes it by its frame.
   lb77::Antwoord SluitBox(BerichtSoort soort, Knoppen knoppen,
                           const std::function<void(QMessageBox&)>& kijk = {}) {
     Wacht(false);

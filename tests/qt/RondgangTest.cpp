@@ -9,6 +9,7 @@
 #include "app/Klok.h"
 #include "program/Programma.h"
 #include "qt/Hoofdvenster.h"
+#include "steun/Plekken.h"
 #include "steun/TijdelijkeMap.h"
 
 namespace lb77 {
@@ -39,7 +40,7 @@ class RondgangTest : public Formulierproef {
     return {{"MenuWindow", [this] { Menu("ImportGedcom"); }},
             {"ImpGedcom",
              [this] {
-               Bestand(LB77_BRONMAP "/voorbeeld/oranje-nassau.ged");
+               Bestand((BronMap() / "voorbeeld/oranje-nassau.ged").string());
                Druk("BrowseButton");
                Druk("OKButton");
              }},

@@ -27,14 +27,14 @@ class Vensterproef : public testing::Test {
   Vensterproef();
   ~Vensterproef() override;
 
-  /// Shows the form and runs the steps in it, one after another, each from the event loop.
+  // Shows the form and runs the steps in it, one after another, each from the event loop.
   void Voer(Formulier& formulier, std::vector<std::function<void()>> stappen);
-  /// The answers for the next boxes, by the text of their buttons; without one a box gets its first.
+  // The answers for the next boxes, by the text of their buttons; without one a box gets its first.
   void Antwoord(std::vector<QString> knoppen);
 
-  /// The answers for the next file questions; without one a question is cancelled.
+  // The answers for the next file questions; without one a question is cancelled.
   void Bestand(const std::filesystem::path& pad) { bestanden_.push_back(pad); }
-  /// The widget of a control in the window that is on top.
+  // The widget of a control in the window that is on top.
   template <class W = QWidget>
   [[nodiscard]] W& Vind(const char* naam) {
     W* widget = Bovenste().findChild<W*>(QString::fromLatin1(naam));
@@ -42,13 +42,13 @@ class Vensterproef : public testing::Test {
     return *widget;
   }
   [[nodiscard]] QWidget& Bovenste() const;
-  /// The name of the control that has the toolkit's focus; the window's own name when none has.
+  // The name of the control that has the toolkit's focus; the window's own name when none has.
   [[nodiscard]] std::string Focus() const;
 
   void Toets(int toets, Qt::KeyboardModifiers met = Qt::NoModifier);
   void Typ(const char* utf8);
 
-  /// Answers boxes by itself; off for a test that does so by hand.
+  // Answers boxes by itself; off for a test that does so by hand.
   void Wacht(bool aan);
 
   bool beantwoordtBestanden = true;  // off for a test that answers file questions by hand

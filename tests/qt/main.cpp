@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "qt/Stijl.h"
+#include "steun/Plekken.h"
 
 namespace {
 
@@ -19,7 +20,8 @@ void Melding(QtMsgType, const QMessageLogContext&, const QString& tekst) {
 
 int main(int argc, char** argv) {
   // The smallest screen that every window must fit.
-  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" LB77_BRONMAP "/tests/qt/scherm.json");
+  const std::string scherm = (lb77::BronMap() / "tests/qt/scherm.json").string();
+  qputenv("QT_QPA_PLATFORM", QByteArray::fromStdString("offscreen:configfile=" + scherm));
   qInstallMessageHandler(Melding);
   testing::InitGoogleTest(&argc, argv);
   QApplication toepassing(argc, argv);

@@ -4,6 +4,7 @@
 
 #include "script/Instructie.h"
 #include "script/Verslag.h"
+#include "steun/Plekken.h"
 #include "text/Tekens.h"
 
 namespace lb77 {
@@ -21,7 +22,7 @@ std::string Regels(std::string_view tekst) {
 
 void NoteerGetoond(std::string_view utf8) {
   // Test programs run side by side: a line goes out in one write at the end of the file.
-  std::ofstream bestand(LB77_BOUWMAP "/getoond.txt", std::ios::app | std::ios::binary);
+  std::ofstream bestand(BouwMap() / "getoond.txt", std::ios::app | std::ios::binary);
   const std::string regel = AangehaaldUtf8(utf8) + '\n';
   bestand << regel << std::flush;
 }

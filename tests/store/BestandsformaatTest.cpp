@@ -4,6 +4,7 @@
 #include <fstream>
 #include <utility>
 
+#include "steun/Plekken.h"
 #include "steun/ProefSet.h"
 #include "text/Letterlijk.h"
 
@@ -35,7 +36,7 @@ std::string DumpRegel(const std::string& regel) {
 
 // All dumps of the document, in order.
 std::vector<std::string> Voorbeelden() {
-  std::ifstream in(std::filesystem::path(LB77_BRONMAP) / "docs" / "bestandsformaat.md");
+  std::ifstream in(BronMap() / "docs" / "bestandsformaat.md");
   std::vector<std::string> records;
   for (std::string regel; std::getline(in, regel);) {
     if (regel.find('|') != kRechts || !regel.starts_with("0")) continue;

@@ -6,7 +6,7 @@
 
 namespace lb77 {
 
-/// The text of one character that is this byte (0 to 255).
+// The text of one character that is this byte (0 to 255).
 inline std::string Byte(std::size_t byte) {
   return std::string(1, static_cast<char>(byte));
 }

@@ -14,7 +14,7 @@ namespace lb77::indeling {
 [[nodiscard]] std::vector<Indeling> Kwartierstaat();
 [[nodiscard]] std::vector<Indeling> Uitwisseling();
 
-/// Those of all areas.
+// Those of all areas.
 [[nodiscard]] std::vector<Indeling> Alle();
 
 }  // namespace lb77::indeling
