@@ -76,7 +76,7 @@ void LeesPersoon(Hoofdmodule& hoofd, std::int16_t nr) {
   }
   p.HeleNaam(nr, voor, achter, "N.N.");
   Bekijk(p.AantalHuw(nr));
-  Bekijk(p.VulHuwtab(nr, huwelijken));
+  Bekijk(p.VulHuwtab(nr, huwelijken).aantal);
   Bekijk(p.IsMan(nr));
   Bekijk(p.Periode(nr));
   Zinnen zinnen(Bronnen(hoofd));
@@ -93,7 +93,7 @@ void LeesRelatie(Hoofdmodule& hoofd, std::int16_t nr) {
     LeesOpmerkingen(hoofd.Opmerking, r.OpmCode(), r.OpmRecord());
   }
   Zinnen zinnen(Bronnen(hoofd));
-  Bekijk(r.VulKindtab(nr, kinderen));
+  Bekijk(r.VulKindtab(nr, kinderen).aantal);
   Bekijk(zinnen.RelatieZin(nr, 2, false));
 }
 

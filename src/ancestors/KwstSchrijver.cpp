@@ -96,7 +96,7 @@ bool KwstSchrijver::SchrijfProband() {
   Kindtab kinderen{};
   bronnen_.volgers.HuidigRelatieNr = proband.relNrOuders;
   if (!bronnen_.relatie.Lees(proband.relNrOuders)) return false;
-  bronnen_.relatie.VulKindtab(proband.relNrOuders, kinderen);
+  static_cast<void>(bronnen_.relatie.VulKindtab(proband.relNrOuders, kinderen));
   if (opties_.KwInHTML) {
     uit_.Vast("<BR>");
     SchrijfLinks(0);
@@ -156,7 +156,7 @@ bool KwstSchrijver::SchrijfAndereRelaties(std::int16_t nr, std::int16_t hoofdRel
   const bool isMan = bronnen_.persoon.Geslacht() == "M";
   if (eenOverslaan && bronnen_.persoon.AantalHuw(nr) == 1) return true;
   Huwtab relaties{};
-  bronnen_.persoon.VulHuwtab(nr, relaties);
+  static_cast<void>(bronnen_.persoon.VulHuwtab(nr, relaties));
   for (std::size_t plaats = 1; plaats < relaties.size(); ++plaats) {
     const std::int16_t relatie = relaties[plaats];
     if (relatie <= 0) continue;
@@ -298,7 +298,7 @@ bool KwstSchrijver::SchrijfBroersZussen(const Paar& paar) {
 bool KwstSchrijver::SchrijfBroersZussenVan(const Ouder& ouder) {
   Kindtab kinderen{};
   if (!bronnen_.relatie.Lees(ouder.relNrOuders)) return false;
-  bronnen_.relatie.VulKindtab(ouder.relNrOuders, kinderen);
+  static_cast<void>(bronnen_.relatie.VulKindtab(ouder.relNrOuders, kinderen));
   return SchrijfKinderen(kinderen, ouder.nr, false);
 }
 

@@ -95,12 +95,12 @@ std::int16_t PersoonLB77::AantalHuw(std::int16_t Nr) {
   return aantal;
 }
 
-std::int16_t PersoonLB77::VulHuwtab(std::int16_t Nr, Huwtab& tab) {
+TabUitslag PersoonLB77::VulHuwtab(std::int16_t Nr, Huwtab& tab) {
   Trackers().HuidigPersoonNr = Nr;
   tab = {};
-  if (!Lees(Nr)) return 0;
+  if (!Lees(Nr)) return {};
   tab = {0, relatie1(), relatie2(), relatie3()};
-  if (relatie3() >= 0) return AantalPositief(tab);
+  if (relatie3() >= 0) return {AantalPositief(tab), true};
   const std::int32_t vervolg = -std::int32_t{relatie3()};
   const bool gelukt = LeesRecord(vervolg);
   tab[3] = relatie1();
@@ -108,7 +108,9 @@ std::int16_t PersoonLB77::VulHuwtab(std::int16_t Nr, Huwtab& tab) {
   tab[5] = relatie3();
   // A number that no record can have stays out of the tracker.
   if (vervolg <= kMaxRecords) Trackers().HuidigPersoonNr = static_cast<std::int16_t>(vervolg);
-  return gelukt ? AantalPositief(tab) : std::int16_t{2};
+  if (!gelukt) return {2, false};
+  // A link further on leads to relations that no table has room for.
+  return {AantalPositief(tab), IsVolgRecord() && relatie3() >= 0};
 }
 
 void PersoonLB77::HeleNaam(std::int16_t Nr, std::string& Voor, std::string& Achter,

@@ -8,6 +8,7 @@
 
 #include "store/Opslag.h"
 #include "store/RecordRaam.h"
+#include "store/TabUitslag.h"
 
 namespace lb77 {
 
@@ -55,10 +56,11 @@ class PersoonLB77 final : public RecordRaam {
 
   std::string VoorNaamTrue() const;
 
-  // Reads person `Nr` and fills the table. The result is the number of positive slots; 2 with an
-  // unreadable continuation, 0 and an empty table when `Nr` can't be read. HuidigPersoonNr and the
-  // buffer may stand on the continuation afterwards.
-  std::int16_t VulHuwtab(std::int16_t Nr, Huwtab& tab);
+  // Reads person `Nr` and fills the table. The count is that of the positive slots; 2 with an
+  // unreadable continuation, 0 and an empty table when `Nr` can't be read: both are not whole,
+  // nor is a table whose continuation is an ordinary record. HuidigPersoonNr and the buffer may
+  // stand on the continuation afterwards.
+  TabUitslag VulHuwtab(std::int16_t Nr, Huwtab& tab);
 
   // Reads person `Nr` and gives both names, an empty one replaced by `Onbekend`. Both are empty
   // when `Nr` is 0 or can't be read.

@@ -88,29 +88,32 @@ std::string RelatieLB77::kind(std::int16_t Index) const {
   return GetalTekst(KindNr(Index));
 }
 
-std::int16_t RelatieLB77::VulKindtab(std::int16_t Nr, Kindtab& tab) {
+TabUitslag RelatieLB77::VulKindtab(std::int16_t Nr, Kindtab& tab) {
   Trackers().HuidigRelatieNr = Nr;
   tab = {};
-  if (!Lees(Nr)) return 0;
+  if (!Lees(Nr)) return {};
   const auto neemOver = [&](std::size_t vanaf) {
     for (std::int16_t i = 1; i <= kKinderenInRecord; ++i) {
       tab[vanaf + static_cast<std::size_t>(i - 1)] = KindNr(i);
     }
   };
   neemOver(1);
+  bool heel = true;
   if (KindNr(kKinderenInRecord) < 0) {
     const std::int32_t vervolg = -std::int32_t{KindNr(kKinderenInRecord)};
     // A number that no record can have stays out of the tracker.
     if (vervolg <= kMaxRecords) Trackers().HuidigRelatieNr = static_cast<std::int16_t>(vervolg);
     const bool gelukt = LeesRecord(vervolg);
     neemOver(kKinderenInRecord);
-    if (!gelukt) return kKinderenInRecord - 1;
+    if (!gelukt) return {kKinderenInRecord - 1, false};
+    // A link further on leads to children that no table has room for.
+    heel = IsVolgRecord() && KindNr(kKinderenInRecord) >= 0;
   }
   std::int16_t aantal = 0;
   for (const std::int16_t kindNr : tab) {
     if (kindNr > 0) ++aantal;
   }
-  return aantal;
+  return {aantal, heel};
 }
 
 // kept: an empty date has "-" here whatever the separator, unlike that of a person.

@@ -8,6 +8,7 @@
 
 #include "store/Opslag.h"
 #include "store/RecordRaam.h"
+#include "store/TabUitslag.h"
 
 namespace lb77 {
 
@@ -51,10 +52,11 @@ class RelatieLB77 final : public RecordRaam {
   std::int16_t ManNr() const;
   std::int16_t VrouwNr() const;
 
-  // Reads relation `Nr` and fills the table. The result is the number of positive slots; 14 with
-  // an unreadable continuation, 0 and an empty table when `Nr` can't be read. HuidigRelatieNr and
-  // the buffer may stand on the continuation afterwards. Gaps are kept.
-  std::int16_t VulKindtab(std::int16_t Nr, Kindtab& tab);
+  // Reads relation `Nr` and fills the table. The count is that of the positive slots; 14 with an
+  // unreadable continuation, 0 and an empty table when `Nr` can't be read: both are not whole,
+  // nor is a table whose continuation is an ordinary record. HuidigRelatieNr and the buffer may
+  // stand on the continuation afterwards. Gaps are kept.
+  TabUitslag VulKindtab(std::int16_t Nr, Kindtab& tab);
 
   // Empties the buffer; RelBufNr is -1 after it.
   void LeegRelBuffer();

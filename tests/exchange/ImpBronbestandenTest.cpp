@@ -100,7 +100,7 @@ class ImpBronbestanden : public ImportToets, public ::testing::WithParamInterfac
     for (const Bron::Record& record : bron.personen) {
       SCOPED_TRACE(record.id);
       Huwtab huwelijken{};
-      static_cast<void>(hoofd.Persoon.VulHuwtab(++nr, huwelijken));
+      EXPECT_TRUE(hoofd.Persoon.VulHuwtab(++nr, huwelijken).heel);
       EXPECT_EQ(huwelijken, TabVan<Huwtab>(record, "FAMS", relaties));
       ASSERT_TRUE(hoofd.Persoon.Lees(nr));
       EXPECT_FALSE(hoofd.Persoon.IsVolgRecord());
@@ -116,7 +116,7 @@ class ImpBronbestanden : public ImportToets, public ::testing::WithParamInterfac
     for (const Bron::Record& record : bron.relaties) {
       SCOPED_TRACE(record.id);
       Kindtab kinderen{};
-      static_cast<void>(hoofd.Relatie.VulKindtab(++nr, kinderen));
+      EXPECT_TRUE(hoofd.Relatie.VulKindtab(++nr, kinderen).heel);
       EXPECT_EQ(kinderen, TabVan<Kindtab>(record, "CHIL", personen));
       ASSERT_TRUE(hoofd.Relatie.Lees(nr));
       EXPECT_FALSE(hoofd.Relatie.IsVolgRecord());

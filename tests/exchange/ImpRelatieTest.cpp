@@ -232,7 +232,7 @@ TEST_F(ImpKinderen, TwentyNineFillBothRecords) {
   EXPECT_EQ(Relatie(4), "whuw Z   -  -    ; " + Reeks(16, 30));
   InSessie([](Hoofdmodule& hoofd) {
     Kindtab tab{};
-    EXPECT_EQ(hoofd.Relatie.VulKindtab(2, tab), 29);
+    EXPECT_EQ(hoofd.Relatie.VulKindtab(2, tab).aantal, 29);
     for (int i = 1; i <= 29; ++i) EXPECT_EQ(tab.at(static_cast<std::size_t>(i)), i + 1);
   });
 }

@@ -64,13 +64,14 @@ class ImpSchade : public ImportToets {
         EXPECT_LE(-hoofd.Persoon.relatie3(), personen);
         EXPECT_NE(hoofd.Persoon.OpmRecord() != 0, hoofd.Persoon.OpmCode() == 0);
         Huwtab huwelijken{};
-        const int aantal = hoofd.Persoon.VulHuwtab(nr, huwelijken);
+        const TabUitslag uitslag = hoofd.Persoon.VulHuwtab(nr, huwelijken);
+        EXPECT_TRUE(uitslag.heel);
         EXPECT_LE(*std::max_element(huwelijken.begin(), huwelijken.end()), relaties);
-        EXPECT_LE(aantal, 5);
+        EXPECT_LE(uitslag.aantal, 5);
       }
       for (std::int16_t nr = 2; nr <= relaties; ++nr) {
         Kindtab kinderen{};
-        EXPECT_LE(hoofd.Relatie.VulKindtab(nr, kinderen), 29);
+        EXPECT_TRUE(hoofd.Relatie.VulKindtab(nr, kinderen).heel);
         EXPECT_LE(*std::max_element(kinderen.begin(), kinderen.end()), personen);
       }
     });

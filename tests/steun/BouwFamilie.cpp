@@ -106,7 +106,7 @@ void BouwFamilie::ZetKinderen(std::int16_t relatie, const std::vector<std::int16
 
 void BouwFamilie::VoegRelatieBij(std::int16_t persoon, std::int16_t relatie) {
   Huwtab tab{};
-  persoon_.VulHuwtab(persoon, tab);
+  ASSERT_TRUE(persoon_.VulHuwtab(persoon, tab).heel);
   // A slot between two others may be free.
   const auto vrij = std::find(tab.begin() + 1, tab.end(), 0);
   ASSERT_NE(vrij, tab.end()) << "een persoon heeft hoogstens vijf relaties";

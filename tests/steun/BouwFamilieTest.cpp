@@ -54,7 +54,7 @@ TEST_F(BouwFamilieTest, DeVierdeEnVijfdeRelatieStaanInEenVervolgrecord) {
   const auto man = set.bouw.Man("Jan", "Jansen");
   for (int i = 0; i < 5; ++i) set.bouw.Relatie(man, 0);
   Huwtab tab{};
-  EXPECT_EQ(set.Persoon.VulHuwtab(man, tab), 5);
+  EXPECT_EQ(set.Persoon.VulHuwtab(man, tab).aantal, 5);
   EXPECT_EQ(tab, (Huwtab{0, 2, 3, 4, 5, 6}));
   ASSERT_TRUE(set.Persoon.Lees(3));
   EXPECT_TRUE(set.Persoon.IsVolgRecord());
@@ -64,7 +64,7 @@ TEST_F(BouwFamilieTest, EenRelatieVultDeEersteVrijePlaats) {
   const auto man = set.bouw.Man("Jan", "Jansen", {{"Relatie1", "50"}, {"Relatie3", "60"}});
   const auto relatie = set.bouw.Relatie(man, 0);
   Huwtab tab{};
-  EXPECT_EQ(set.Persoon.VulHuwtab(man, tab), 3);
+  EXPECT_EQ(set.Persoon.VulHuwtab(man, tab).aantal, 3);
   EXPECT_EQ(tab, (Huwtab{0, 50, relatie, 60, 0, 0}));
 }
 
@@ -73,7 +73,7 @@ TEST_F(BouwFamilieTest, HetZestiendeKindStaatInEenVervolgrecord) {
   for (int i = 0; i < 17; ++i) kinderen.push_back(set.bouw.Man("Kind", ""));
   const auto relatie = set.bouw.Relatie(0, 0, kinderen);
   Kindtab tab{};
-  EXPECT_EQ(set.Relatie.VulKindtab(relatie, tab), 17);
+  EXPECT_EQ(set.Relatie.VulKindtab(relatie, tab).aantal, 17);
   EXPECT_EQ(std::vector<std::int16_t>(tab.begin() + 1, tab.begin() + 18), kinderen);
   ASSERT_TRUE(set.Relatie.Lees(3));
   EXPECT_TRUE(set.Relatie.IsVolgRecord());

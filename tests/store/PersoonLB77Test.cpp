@@ -130,7 +130,7 @@ TEST_F(PersoonLB77Test, EenOnleesbaarVervolgrecordLaatTweeRelatiesOver) {
   Lees(man);
   EXPECT_EQ(set.Persoon.AantalHuw(man), 2);
   EXPECT_EQ(set.volgers.PersBufNr, man);
-  EXPECT_EQ(set.Persoon.VulHuwtab(man, tab), 2);
+  EXPECT_EQ(set.Persoon.VulHuwtab(man, tab).aantal, 2);
   EXPECT_EQ(tab, (Huwtab{0, 2, 3, 0, 0, 0}));
   EXPECT_EQ(set.volgers.HuidigPersoonNr, 1200);
   EXPECT_EQ(set.Getoond(), Boxen{});
@@ -140,14 +140,14 @@ TEST_F(PersoonLB77Test, EenVervolgnummerDatNietBestaanKanIsOnleesbaar) {
   const auto man = Man({{"Relatie1", "2"}, {"Relatie3", "-32768"}});
   Lees(man);
   EXPECT_EQ(set.Persoon.AantalHuw(man), 2);
-  EXPECT_EQ(set.Persoon.VulHuwtab(man, tab), 2);
+  EXPECT_EQ(set.Persoon.VulHuwtab(man, tab).aantal, 2);
   EXPECT_EQ(tab, (Huwtab{0, 2, 0, 0, 0, 0}));
   EXPECT_EQ(set.volgers.HuidigPersoonNr, man);
 }
 
 TEST_F(PersoonLB77Test, VulHuwtabLeestDePersoonEnStaatDanOpHem) {
   const auto man = Man({{"Relatie1", "5"}, {"Relatie3", "6"}});
-  EXPECT_EQ(set.Persoon.VulHuwtab(man, tab), 2);
+  EXPECT_EQ(set.Persoon.VulHuwtab(man, tab).aantal, 2);
   EXPECT_EQ(tab, (Huwtab{0, 5, 0, 6, 0, 0}));
   EXPECT_EQ(set.volgers.HuidigPersoonNr, man);
   EXPECT_EQ(set.volgers.PersBufNr, man);
@@ -155,7 +155,7 @@ TEST_F(PersoonLB77Test, VulHuwtabLeestDePersoonEnStaatDanOpHem) {
 
 TEST_F(PersoonLB77Test, EenNegatiefRelatienummerTeltNiet) {
   const auto man = Man({{"Relatie1", "5"}, {"Relatie2", "-6"}});
-  EXPECT_EQ(set.Persoon.VulHuwtab(man, tab), 1);
+  EXPECT_EQ(set.Persoon.VulHuwtab(man, tab).aantal, 1);
   EXPECT_EQ(tab, (Huwtab{0, 5, -6, 0, 0, 0}));
   EXPECT_EQ(set.Persoon.AantalHuw(man), 1);
 }
@@ -164,16 +164,35 @@ TEST_F(PersoonLB77Test, VulHuwtabStaatNaEenVervolgOpHetVervolgrecord) {
   const auto man = Man({{"Relatie1", "5"}, {"Relatie2", "6"}, {"Relatie3", "-3"}});
   const auto vervolg =
       set.bouw.Persoon('?', "", "", {{"GebCorr", "Z"}, {"Relatie1", "7"}, {"Relatie2", "8"}});
-  EXPECT_EQ(set.Persoon.VulHuwtab(man, tab), 4);
+  EXPECT_EQ(set.Persoon.VulHuwtab(man, tab).aantal, 4);
   EXPECT_EQ(tab, (Huwtab{0, 5, 6, 7, 8, 0}));
   EXPECT_EQ(set.volgers.HuidigPersoonNr, vervolg);
   EXPECT_TRUE(set.Persoon.IsVolgRecord());
 }
 
 TEST_F(PersoonLB77Test, VulHuwtabVanEenAfwezigePersoonIsLeeg) {
-  EXPECT_EQ(set.Persoon.VulHuwtab(77, tab), 0);
+  EXPECT_EQ(set.Persoon.VulHuwtab(77, tab).aantal, 0);
   EXPECT_EQ(tab, Huwtab{});
   EXPECT_EQ(set.volgers.HuidigPersoonNr, 77);
+}
+
+TEST_F(PersoonLB77Test, EenTabelIsHeelAlsAlleRecordsGelezenZijn) {
+  const auto alleen = Man();
+  EXPECT_TRUE(set.Persoon.VulHuwtab(alleen, tab).heel);
+  const auto man = Man({{"Relatie3", "-4"}});
+  const auto vervolg = set.bouw.Persoon('?', "", "", {{"GebCorr", "Z"}, {"Relatie1", "7"}});
+  EXPECT_EQ(vervolg, 4);
+  EXPECT_TRUE(set.Persoon.VulHuwtab(man, tab).heel);
+  EXPECT_FALSE(set.Persoon.VulHuwtab(77, tab).heel);
+}
+
+TEST_F(PersoonLB77Test, EenTabelMetEenOnbruikbaarVervolgrecordIsNietHeel) {
+  const auto ander = Man({{"Relatie1", "7"}});
+  const auto lus = set.bouw.Persoon('?', "", "", {{"GebCorr", "Z"}, {"Relatie3", "-3"}});
+  for (const std::int16_t vervolg : {std::int16_t{1200}, ander, lus}) {
+    const auto man = Man({{"Relatie1", "2"}, {"Relatie3", std::to_string(-vervolg)}});
+    EXPECT_FALSE(set.Persoon.VulHuwtab(man, tab).heel) << vervolg;
+  }
 }
 
 TEST_F(PersoonLB77Test, HeleNaamGeeftBeideNamenOfWatErVoorInDePlaatsKomt) {

@@ -177,7 +177,7 @@ TEST_F(RelatieLB77Test, KindBuitenHetRecordIsLeeg) {
 TEST_F(RelatieLB77Test, VijftienKinderenHebbenGeenVervolgrecord) {
   const auto kinderen = Kinderen(15);
   const auto nr = set.bouw.Relatie(0, 0, kinderen);
-  EXPECT_EQ(set.Relatie.VulKindtab(nr, tab), 15);
+  EXPECT_EQ(set.Relatie.VulKindtab(nr, tab).aantal, 15);
   EXPECT_GT(set.Relatie.KindNr(15), 0);
   EXPECT_EQ(std::vector<std::int16_t>(tab.begin() + 1, tab.begin() + 16), kinderen);
   EXPECT_EQ(set.volgers.HuidigRelatieNr, nr);
@@ -187,7 +187,7 @@ TEST_F(RelatieLB77Test, VijftienKinderenHebbenGeenVervolgrecord) {
 TEST_F(RelatieLB77Test, MetEenVervolgrecordIsZijnEersteKindHetVijftiende) {
   const auto kinderen = Kinderen(29);
   const auto nr = set.bouw.Relatie(0, 0, kinderen);
-  EXPECT_EQ(set.Relatie.VulKindtab(nr, tab), 29);
+  EXPECT_EQ(set.Relatie.VulKindtab(nr, tab).aantal, 29);
   EXPECT_EQ(std::vector<std::int16_t>(tab.begin() + 1, tab.end()), kinderen);
   EXPECT_EQ(set.volgers.HuidigRelatieNr, 3);
   EXPECT_TRUE(set.Relatie.IsVolgRecord());
@@ -197,7 +197,7 @@ TEST_F(RelatieLB77Test, MetEenVervolgrecordIsZijnEersteKindHetVijftiende) {
 TEST_F(RelatieLB77Test, EenOnleesbaarVervolgrecordLaatVeertienKinderenOver) {
   for (const char* vervolg : {"-900", "-32768"}) {
     const auto nr = set.bouw.Relatie(0, 0, {}, {{"Kind1", "5"}, {"Kind15", vervolg}});
-    EXPECT_EQ(set.Relatie.VulKindtab(nr, tab), 14);
+    EXPECT_EQ(set.Relatie.VulKindtab(nr, tab).aantal, 14);
     EXPECT_EQ(tab[1], 5);
     for (std::size_t i = 15; i <= 29; ++i) EXPECT_EQ(tab[i], 0);
   }
@@ -205,7 +205,7 @@ TEST_F(RelatieLB77Test, EenOnleesbaarVervolgrecordLaatVeertienKinderenOver) {
 
 TEST_F(RelatieLB77Test, GatenInDeKinderenBlijvenEnTellenNiet) {
   const auto nr = set.bouw.Relatie(0, 0, {}, {{"Kind2", "5"}, {"Kind4", "-5"}, {"Kind9", "6"}});
-  EXPECT_EQ(set.Relatie.VulKindtab(nr, tab), 2);
+  EXPECT_EQ(set.Relatie.VulKindtab(nr, tab).aantal, 2);
   EXPECT_EQ(tab[4], -5);
   EXPECT_EQ(tab[1], 0);
   EXPECT_EQ(tab[2], 5);
@@ -214,9 +214,24 @@ TEST_F(RelatieLB77Test, GatenInDeKinderenBlijvenEnTellenNiet) {
 
 TEST_F(RelatieLB77Test, VulKindtabVanEenAfwezigeRelatieIsLeeg) {
   tab.fill(9);
-  EXPECT_EQ(set.Relatie.VulKindtab(77, tab), 0);
+  EXPECT_EQ(set.Relatie.VulKindtab(77, tab).aantal, 0);
   EXPECT_EQ(tab, Kindtab{});
   EXPECT_EQ(set.volgers.HuidigRelatieNr, 77);
+}
+
+TEST_F(RelatieLB77Test, EenTabelIsHeelAlsAlleRecordsGelezenZijn) {
+  EXPECT_TRUE(set.Relatie.VulKindtab(set.bouw.Relatie(0, 0), tab).heel);
+  EXPECT_TRUE(set.Relatie.VulKindtab(set.bouw.Relatie(0, 0, Kinderen(29)), tab).heel);
+  EXPECT_FALSE(set.Relatie.VulKindtab(77, tab).heel);
+}
+
+TEST_F(RelatieLB77Test, EenTabelMetEenOnbruikbaarVervolgrecordIsNietHeel) {
+  const auto andere = set.bouw.Relatie(0, 0, {}, {{"Kind1", "7"}});
+  const auto lus = set.bouw.Relatie(0, 0, {}, {{"HuwCorr", "Z"}, {"Kind15", "-3"}});
+  for (const std::int16_t vervolg : {std::int16_t{900}, andere, lus}) {
+    const auto nr = set.bouw.Relatie(0, 0, {}, {{"Kind15", std::to_string(-vervolg)}});
+    EXPECT_FALSE(set.Relatie.VulKindtab(nr, tab).heel) << vervolg;
+  }
 }
 
 TEST_F(RelatieLB77Test, EenLegeDatumHeeftAltijdStreepjes) {

@@ -38,8 +38,8 @@ void LeesAlles(ProefSet& set, std::int16_t tot) {
     set.Persoon.BegrDatum();
     set.Persoon.AchterNaamVVC();
     set.Persoon.AantalHuw(nr);
-    set.Persoon.VulHuwtab(nr, huwtab);
-    set.Relatie.VulKindtab(nr, kindtab);
+    EXPECT_LE(set.Persoon.VulHuwtab(nr, huwtab).aantal, 5);
+    EXPECT_LE(set.Relatie.VulKindtab(nr, kindtab).aantal, 29);
     set.Relatie.WetHuwDatum10();
     set.Plaats.Naam2(nr);
     set.Opmerking.OpmerkingTekst(0x7FFF, nr, 4096, 2, false);
