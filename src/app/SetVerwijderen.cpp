@@ -58,6 +58,15 @@ void VerwijderMap(Gesprek& gesprek, const std::filesystem::path& gevraagd, std::
   if (code) MeldMap(gesprek, map, soort, naam, FoutVan(code).tekst);
 }
 
+// What else lies in the set's own directory is the user's, and keeps it.
+void VerwijderLegeMap(Gesprek& gesprek, const std::filesystem::path& gevraagd,
+                      std::string_view naam) {
+  const std::filesystem::path map = VindPad(gevraagd);
+  std::error_code code;
+  std::filesystem::remove(map, code);
+  if (code) MeldMap(gesprek, map, "data", naam, FoutVan(code).tekst);
+}
+
 }  // namespace
 
 void VerwijderSetVanSchijf(Gesprek& gesprek, const std::filesystem::path& data,
@@ -75,7 +84,7 @@ void VerwijderSetVanSchijf(Gesprek& gesprek, const std::filesystem::path& data,
   VerwijderPlaatsen(gesprek, paden.plt);
   VerwijderMap(gesprek, paden.tekst, "TEKST", naam);
   VerwijderMap(gesprek, paden.index, "INDEX", naam);
-  VerwijderMap(gesprek, paden.map, "data", naam);
+  VerwijderLegeMap(gesprek, paden.map, naam);
 }
 
 }  // namespace lb77

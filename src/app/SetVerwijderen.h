@@ -8,10 +8,11 @@
 
 namespace lb77 {
 
-// Deletes the files of the set `naam` under the data directory, then its directories with all that
-// is in them. Each failure shows its message, and the rest goes on. Nothing outside <data>/<SET> is
-// touched: a symbolic link goes, what it points to stays, and a set whose own directory is a link
-// stays whole. Precondition: IsSetNaam(naam), and its files are closed.
+// Deletes what is ours of the set `naam` under the data directory: its four files, then TEKST and
+// INDEX with all that is in them, then its own directory when nothing else lies in it. Each failure
+// shows its message, and the rest goes on. Nothing outside <data>/<SET> is touched: a symbolic link
+// goes, what it points to stays, and a set whose own directory is a link stays whole.
+// Precondition: IsSetNaam(naam), and its files are closed.
 void VerwijderSetVanSchijf(Gesprek& gesprek, const std::filesystem::path& data,
                            std::string_view naam);
 

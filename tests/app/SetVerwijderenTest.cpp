@@ -39,7 +39,23 @@ TEST_F(VanSchijf, EenPlaatsbestandDatNietWegWilHeeftZijnMelding) {
   std::filesystem::remove(Pad("ABC.PLT"));
   std::filesystem::create_directories(Pad("ABC.PLT") / "vol");
   Verwijdert(
-      R"~(! stop "Fout bij het verwijderen van het Plaatsbestand (<map>/DATA/ABC/ABC.PLT, 75 Directory is niet leeg)")~");
+      R"~(! stop "Fout bij het verwijderen van het Plaatsbestand (<map>/DATA/ABC/ABC.PLT, 75 Directory is niet leeg)"
+         ! uitroep "Verwijderen van de data-directory voor bestandenset ABCis niet gelukt (Directory is niet leeg). Verwijder de directory <map>/DATA/ABCzelf via de Windows Verkenner.")~");
+  EXPECT_TRUE(Bestaat("DATA/ABC/ABC.PLT/vol"));
+}
+
+TEST_F(VanSchijf, WatVanDeGebruikerIsBlijftMetDeDirectoryWaarHetInLigt) {
+  Schrijf("DATA/ABC/stamboek.doc", "brief");
+  Schrijf("DATA/ABC/Scans/akte.jpg", "akte");
+  Schrijf("DATA/ABC/TEKST/verslag.txt", "x");
+  Schrijf("DATA/ABC/INDEX/diep/index.txt", "x");
+  Verwijdert(
+      R"(! uitroep "Verwijderen van de data-directory voor bestandenset ABCis niet gelukt (Directory is niet leeg). Verwijder de directory <map>/DATA/ABCzelf via de Windows Verkenner.")");
+  EXPECT_EQ(Inhoud("DATA/ABC/stamboek.doc"), "brief");
+  EXPECT_EQ(Inhoud("DATA/ABC/Scans/akte.jpg"), "akte");
+  for (const char* weg : {"ABC.PRS", "ABC.RLT", "ABC.OPM", "ABC.PLT", "TEKST", "INDEX"}) {
+    EXPECT_FALSE(std::filesystem::exists(Pad(weg))) << weg;
+  }
 }
 
 TEST_F(VanSchijf, EenKoppelingGaatMaarWaarZeHeenWijstBlijft) {

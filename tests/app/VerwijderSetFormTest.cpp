@@ -76,7 +76,6 @@ TEST_F(VerwijderSetVenster, JaVerwijdertDeSetVanDeSchijfEnNietsAnders) {
   ZetSets({"EEN", "TWEE"});
   Schrijf("DATA/EEN/TEKST/diep/dieper/a.txt", "x");
   Schrijf("DATA/EEN/INDEX/b.txt", "x");
-  Schrijf("DATA/EEN/eigen.txt", "x");
   Schrijf("DATA/PLAATS.PLT", "x");
   Speelt("druk DeleteJa\ndruk OKButton",
          R"(- VerwijderSetForm
