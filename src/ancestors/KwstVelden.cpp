@@ -31,7 +31,7 @@ KwstNummerVelden::KwstNummerVelden(Formulier& formulier, Gesprek& gesprek)
       VanafKwartier(formulier, gesprek, kVanafVak),
       MaxGen(formulier, gesprek, kTotTachtig),
       gesprek_(gesprek) {
-  VanafKwartier.BijVerlaten([this] { return VanafVerlaten(); });
+  VanafKwartier.BijVerlaten([this] { return VanafKwartierVerlaten(); });
 }
 
 void KwstNummerVelden::Laad() {
@@ -46,7 +46,7 @@ void KwstNummerVelden::Bewaar(KwstOpties& opties) const {
   opties.KwMaxGen = MaxGen.Generaties();
 }
 
-bool KwstNummerVelden::VanafVerlaten() {
+bool KwstNummerVelden::VanafKwartierVerlaten() {
   if (!VanafKwartier.Geldig()) return false;
   if (VanafKwartier.Nummer().Vanaf(KwNrProband.Nummer())) return true;
   gesprek_.Waarschuw(

@@ -51,7 +51,7 @@ struct KwstNummerVelden {
   GeneratiesVak MaxGen;
 
  private:
-  [[nodiscard]] bool VanafVerlaten();
+  [[nodiscard]] bool VanafKwartierVerlaten();
 
   Gesprek& gesprek_;
 };

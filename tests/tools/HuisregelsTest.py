@@ -122,6 +122,14 @@ class Commentaar(Regel):
             self.schoon("src/app/X.cpp", "// " + regel + "\n")
 
 
+class Merk(Regel):
+    def test_twee_schuine_strepen_zijn_het_ene_merk(self):
+        self.schoon("src/app/X.h", "#pragma once  // kept: http://x ///\nconst char* f = \"/// */\";\n")
+        for regel, merk in (("/// Doc.", "///"), ("//! Doc.", "//!"), ("int f();  ///< Doc.", "///<"),
+                            ("/* Doc. */", "/*"), ("/** Doc. */", "/**")):
+            self.verwacht("src/app/X.cpp", f"\n{regel}\n", 2, f"niet met {merk}")
+
+
 def functie(regels, kop="int F() {"):
     return kop + "\n" + "  g();\n" * (regels - 2) + "}\n"
 
@@ -205,9 +213,15 @@ class Boom(unittest.TestCase):
 
     def test_elke_bevinding_is_een_regel_met_bestand_en_nummer(self):
         aantal, uit = self.controleer({"src/text/Een.h": SCHOON_H,
-                                       "src/store/Twee.cpp": '\n#include "app/Drie.h"\n'})
+                                       "src/store/Twee.cpp": '\n#include "app/Drie.h"\n',
+                                       "src/store/CMakeLists.txt": "lb77_map(store Twee.cpp)"})
         self.assertEqual(aantal, 1)
         self.assertIn("src/store/Twee.cpp:2: ", uit)
+
+    def test_ook_wat_bestanden_van_elkaar_zeggen_telt_mee(self):
+        aantal, uit = self.controleer({"src/text/Een.h": SCHOON_H, "tests/text/EenTest.cpp": ""})
+        self.assertEqual(aantal, 1)
+        self.assertIn("tests/text/EenTest.cpp:1: geen CMakeLists.txt", uit)
 
     def test_een_uitzondering_zonder_bestand(self):
         oud = huisregels.LANGE_BESTANDEN

@@ -1,0 +1,201 @@
+"""The rules of tools/huisregels that need the whole tree: what one file says of another.
+
+A rule takes a Boom and yields (path, line, text).
+"""
+import re
+
+# A body file that takes the whole session, and is no form and no control. With its reason.
+HOOFDMODULE_MAG = {
+    "src/app/Bestandensets": "what the forms of the file sets do alike, start-up included",
+    "src/app/Start": "brings the session up",
+    "src/entry/Invoer": "asks a record number of whichever file the form names",
+    "src/entry/PersoonInfo": "the text of a box of forms, from all four files",
+    "src/entry/VeldToets": "the keys of a field of a form, which show forms themselves",
+    "src/entry/ZoekPersoon": "the door to the forms of the search",
+    "src/reporting/Tijdelijk": "hands the writer of a form its files",
+}
+# The main window is made by the program alone.
+ZONDER_RIJ = {"MenuWindow"}
+KLASSE = re.compile(r"\b(?:class|struct)\s+(\w+)(\s+final)?\s*(?::\s*([^;{()]+))?\{")
+GEBEURTENIS = re.compile(
+    r"\b(\w+)(?:\([^()]*\))?\.Bij(Klik|Dubbelklik|Verlaten|Wijziging|Keuze|Betreden)\("
+    r"\s*\[[^\]]*\]\s*(?:\([^()]*\)\s*)?\{\s*(?:return\s+)?"
+    r"(\w+?)(Klik|Dubbelklik|Verlaten|Wijziging|Keuze|Betreden)\(")
+
+
+class Klasse:
+    def __init__(self, naam, bron, regel, final, ouders, lijf):
+        self.naam, self.bron, self.regel, self.lijf = naam, bron, regel, lijf
+        self.final, self.ouders = final, ouders
+
+
+class Boom:
+    """All sources, by path, and what the rules want to know of them together."""
+
+    def __init__(self, wortel, bronnen):
+        self.wortel = wortel
+        self.bronnen = {bron.pad: bron for bron in bronnen}
+        self.klassen = [k for b in bronnen if b.is_bron for k in lees_klassen(b)]
+
+    def erft(self, *stam):
+        """The names of all classes that derive from these, directly or through another."""
+        uit, vorige = set(stam), 0
+        while vorige != len(uit):
+            vorige = len(uit)
+            uit |= {k.naam for k in self.klassen if uit.intersection(k.ouders)}
+        return uit
+
+    def letterlijk(self, begin):
+        """All literals of the sources below a path, without their quotes."""
+        return {tekst.strip('"') for pad, bron in self.bronnen.items() if pad.startswith(begin)
+                for _, tekst, _ in bron.letterlijk}
+
+
+def lees_klassen(bron):
+    for m in KLASSE.finditer(bron.code):
+        ouders = re.sub(r"<[^<>]*>|\b(public|protected|private|virtual)\b", " ", m[3] or "")
+        lijf = bron.code[m.end():slot(bron.code, m.end())]
+        yield Klasse(m[1], bron, bron.regel(m.start()), bool(m[2]),
+                     [deel.strip().split("::")[-1] for deel in ouders.split(",")], lijf)
+
+
+def slot(code, begin):
+    """Where the brace closes that was opened before `begin`."""
+    diepte = 1
+    for m in re.compile(r"[{}]").finditer(code, begin):
+        diepte += 1 if m.group() == "{" else -1
+        if diepte == 0:
+            return m.start()
+    return len(code)
+
+
+def te_maken_formulieren(boom):
+    """The forms that a user can meet: not the bases, nor the main window."""
+    namen = boom.erft("Formulier")
+    bases = {ouder for k in boom.klassen for ouder in k.ouders}
+    for k in boom.klassen:
+        beschermd = re.search(rf"\bprotected:(?:(?!\bpublic:|\bprivate:).)*?[\s~]{k.naam}\(", k.lijf,
+                              re.S)
+        basis = not k.final and (k.naam in bases or beschermd)
+        if k.naam in namen and k.naam != "Formulier" and not basis and k.naam not in ZONDER_RIJ:
+            yield k
+
+
+def regel_in_cmake(boom):
+    """A source that no CMakeLists.txt names is not built, and a test in it never fails."""
+    namen = {p.relative_to(boom.wortel).as_posix()
+             for deel, patroon in (("src", "*.cpp"), ("tests", "*.cpp"), ("tests", "*Test.py"),
+                                   ("fuzz", "*Test.cpp"), ("bench", "*Test.cpp"))
+             for p in (boom.wortel / deel).rglob(patroon)}
+    for naam in sorted(namen):
+        pad = boom.wortel / naam
+        genoemd = False
+        for map_ in list(pad.parents)[:3]:
+            lijst = map_ / "CMakeLists.txt"
+            if lijst.exists():
+                rest = re.escape(pad.relative_to(map_).as_posix())
+                tekst = re.sub(r"#[^\n]*", "", lijst.read_text(encoding="utf-8"))
+                genoemd |= re.search(rf"(?:\}}/|(?<![\w./-])){rest}(?![\w.])", tekst) is not None
+        if not genoemd:
+            yield naam, 1, "geen CMakeLists.txt noemt dit bestand"
+
+
+def regel_alle_formulieren(boom):
+    """Every form has a row in the list of all forms."""
+    lijst = "\n".join(bron.code for pad, bron in boom.bronnen.items()
+                      if re.match(r"src/program/(AlleFormulieren|formulieren/)", pad))
+    for k in te_maken_formulieren(boom):
+        if not re.search(rf"\b(?:Maak|make_unique)<(?:\w+::)*{k.naam}\b", lijst):
+            yield k.bron.pad, k.regel, f"{k.naam} ontbreekt in de lijst van alle formulieren"
+
+
+def regel_indeling(boom):
+    """Every row of the list has a layout, or else the window looks like nobody thought about it."""
+    indelingen = boom.letterlijk("src/qt/indeling/")
+    for pad, bron in sorted(boom.bronnen.items()):
+        if not re.match(r"src/program/formulieren/\w+\.cpp$", pad):
+            continue
+        for nr, regel in enumerate(bron.regels, 1):
+            m = re.match(r'\s*\{"(\w+)",', regel)
+            if m and m[1] not in indelingen:
+                yield pad, nr, f"{m[1]} heeft geen indeling in src/qt/indeling"
+
+
+def met_bedieningen(boom):
+    """The classes that are controls, hold controls, or are forms."""
+    soorten = boom.erft("Bediening") | {"Rij"}
+    groepen = set()
+    vorige = -1
+    while vorige != len(groepen):
+        vorige = len(groepen)
+        namen = "|".join(map(re.escape, soorten | groepen))
+        lid = re.compile(rf"^\s*(?:\w+::)*(?:{namen})(?:<[^;{{}}]*>)?\s+\w+\s*[{{;=]", re.M)
+        groepen |= {k.naam for k in boom.klassen if lid.search(k.lijf)}
+    return soorten | groepen | boom.erft("Formulier")
+
+
+def regel_hoofdmodule(boom):
+    """Only forms and what belongs to their controls take the whole session."""
+    eigen = met_bedieningen(boom)
+    stammen = {re.sub(r"\.\w+$", "", k.bron.pad) for k in boom.klassen if k.naam in eigen}
+    gebruikt = set()
+    for pad, bron in sorted(boom.bronnen.items()):
+        stam = re.sub(r"\.\w+$", "", pad)
+        m = re.search(r"\bHoofdmodule\s*[&*]", bron.code)
+        if not m or not bron.is_lijf or bron.map == "program" or stam in stammen \
+                or stam == "src/app/Hoofdmodule":
+            continue
+        gebruikt.add(stam)
+        if stam not in HOOFDMODULE_MAG:
+            yield pad, bron.regel(m.start()), ("neemt Hoofdmodule, maar is geen formulier: vraag "
+                                               "alleen het deel dat nodig is")
+    for stam in sorted(set(HOOFDMODULE_MAG) - gebruikt):
+        if stam + ".h" in boom.bronnen:
+            yield stam + ".h", 1, "staat in HOOFDMODULE_MAG van tools/boomregels.py: niet meer nodig"
+
+
+def regel_behandelaars(boom):
+    """A handler is named after the control that it hangs on, and the event."""
+    for pad, bron in sorted(boom.bronnen.items()):
+        for m in GEBEURTENIS.finditer(bron.code) if bron.is_lijf else ():
+            if m[3] + m[4] != m[1] + m[2]:
+                yield pad, bron.regel(m.start()), f"{m[3]}{m[4]} hoort {m[1]}{m[2]} te heten"
+
+
+def regel_leesmij(boom):
+    """What a README of src/ names between backticks is still there."""
+    woorden = set()
+    for pad, bron in boom.bronnen.items():
+        if bron.is_bron:
+            woorden.update(re.findall(r"\w+", bron.code))
+            woorden.update(w for _, tekst, _ in bron.letterlijk for w in re.findall(r"\w+", tekst))
+            woorden.add(pad.split("/")[-1].split(".")[0])
+    for lijst in (boom.wortel / "src").rglob("CMakeLists.txt"):
+        woorden.update(re.findall(r"\w+", lijst.read_text(encoding="utf-8")))
+    for leesmij in sorted((boom.wortel / "src").rglob("README.md")):
+        naam = leesmij.relative_to(boom.wortel).as_posix()
+        for nr, regel in enumerate(leesmij.read_text(encoding="utf-8").split("\n"), 1):
+            for stuk in re.findall(r"`([^`]+)`", regel):
+                if not bestaat(boom, leesmij.parent, stuk, woorden):
+                    yield naam, nr, f"`{stuk}` is er niet meer"
+
+
+def bestaat(boom, map_, stuk, woorden):
+    """A directory, a file (also a pattern), or words of the sources; "..." stands for the rest."""
+    if re.fullmatch(r"[\w/]+/", stuk):
+        return any((van / stuk).is_dir() for van in (map_, boom.wortel / "src", boom.wortel))
+    if re.search(r"\.(h|cpp|md|txt)$", stuk):
+        return any(True for van in (map_, boom.wortel / "src") for _ in van.rglob(stuk.strip("/")))
+    deel = re.search(r"\.\.\.|…|\*", stuk) is not None
+    return all(any(w in woord for woord in woorden) if deel else w in woorden
+               for w in re.findall(r"\w+", stuk))
+
+
+REGELS = [regel_in_cmake, regel_alle_formulieren, regel_indeling, regel_hoofdmodule,
+          regel_behandelaars, regel_leesmij]
+
+
+def controleer(wortel, bronnen):
+    """All findings of the tree as (path, line, text)."""
+    boom = Boom(wortel, bronnen)
+    return [vondst for regel in REGELS for vondst in regel(boom)]
