@@ -37,7 +37,7 @@ class ElkFormulier : public ProgrammaToets, public ::testing::WithParamInterface
   }
 };
 
-TEST_P(ElkFormulier, ShowsItsControlsAsExpected) {
+TEST_P(ElkFormulier, ToontZijnBedieningenZoalsVerwacht) {
   MetForm([](Formulier& formulier) {
     std::string toon;
     for (const std::string& regel : FormulierRegels(formulier)) toon += regel + "\n";
@@ -45,7 +45,7 @@ TEST_P(ElkFormulier, ShowsItsControlsAsExpected) {
   });
 }
 
-TEST_P(ElkFormulier, HasUniqueControlNames) {
+TEST_P(ElkFormulier, NoemtElkeBedieningEenKeer) {
   MetForm([](Formulier& formulier) {
     std::set<std::string> namen;
     for (const Bediening* bediening : formulier.Bedieningen()) {
@@ -54,7 +54,7 @@ TEST_P(ElkFormulier, HasUniqueControlNames) {
   });
 }
 
-TEST_P(ElkFormulier, HasUniqueAccelerators) {
+TEST_P(ElkFormulier, HeeftElkeSneltoetsEenKeer) {
   MetForm([](Formulier& formulier) {
     std::set<char> letters;
     for (const Bediening* bediening : formulier.Bedieningen()) {
@@ -66,7 +66,7 @@ TEST_P(ElkFormulier, HasUniqueAccelerators) {
   });
 }
 
-TEST_P(ElkFormulier, HasNoButtonWithoutAnAction) {
+TEST_P(ElkFormulier, HeeftGeenKnopZonderWerking) {
   MetForm([](Formulier& formulier) {
     for (const Bediening* bediening : formulier.Bedieningen()) {
       if (bediening->Soort() == BedieningSoort::Knop) {
@@ -76,7 +76,7 @@ TEST_P(ElkFormulier, HasNoButtonWithoutAnAction) {
   });
 }
 
-TEST_P(ElkFormulier, TabGoesRoundAllThatCanTakeTheFocus) {
+TEST_P(ElkFormulier, LooptMetTabLangsAllesWatDeFocusKanHebben) {
   MetForm([](Formulier& formulier) {
     std::set<const Bediening*> bereikbaar;
     for (const Bediening* bediening : formulier.Bedieningen()) {
@@ -92,7 +92,7 @@ TEST_P(ElkFormulier, TabGoesRoundAllThatCanTakeTheFocus) {
   });
 }
 
-TEST_P(ElkFormulier, ClosesByEscape) {
+TEST_P(ElkFormulier, SluitMetEscape) {
   MetForm([](Formulier& formulier) {
     ToetsGebeurtenis escape;
     escape.code = toets::kEscape;
@@ -104,7 +104,7 @@ TEST_P(ElkFormulier, ClosesByEscape) {
 INSTANTIATE_TEST_SUITE_P(Lijst, ElkFormulier, ::testing::ValuesIn(AlleFormulieren()),
                          [](const auto& info) { return std::string(info.param.naam); });
 
-TEST(AlleFormulieren, NamesEachFormOnce) {
+TEST(AlleFormulieren, NoemtElkFormulierEenKeer) {
   std::set<std::string_view> namen;
   for (const FormulierRij& rij : AlleFormulieren()) EXPECT_TRUE(namen.insert(rij.naam).second);
 }

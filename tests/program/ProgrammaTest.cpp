@@ -17,7 +17,7 @@ constexpr std::string_view kGedcom =
 
 class Programmaloop : public ProgrammaToets {};
 
-TEST_F(Programmaloop, GoesTheWholeRoadFromAnEmptyDirectoryToAReport) {
+TEST_F(Programmaloop, GaatDeHeleWegVanEenLegeDirectoryNaarEenVerslag) {
   SchrijfBytes(Map() / "familie.ged", kGedcom);
   basismap_ = Map();
   const std::string pad = (Map() / "LIJNBOOM.INI").string();
@@ -74,7 +74,7 @@ TEST_F(Programmaloop, GoesTheWholeRoadFromAnEmptyDirectoryToAReport) {
     )~");
 }
 
-TEST_F(Programmaloop, EntriesOfWhatIsNotThereAreGrey) {
+TEST_F(Programmaloop, KeuzenVanWatErNietIsZijnGrijs) {
   MaakFamilie();
   Verwacht("toon InvPersRel\ntoon ImportDBase\ntoon TekstKwst\ntoon ExpVVF\n", Sessie(), R"(
       + MenuWindow "LB77 voor Windows"
@@ -107,7 +107,7 @@ class Noodgeval : public ProgrammaToets {
   VasteKlok klok_{{2026, 11, 21, 12, 0, 0}};
 };
 
-TEST_F(Noodgeval, AnErrorThatNobodyCaughtSavesTheSettings) {
+TEST_F(Noodgeval, EenFoutDieNiemandVingBewaartDeInstellingen) {
   MaakFamilie();
   Speel("kies AboutLB77\n", [this](Gesprek& gesprek) {
     Begin(
@@ -117,7 +117,7 @@ TEST_F(Noodgeval, AnErrorThatNobodyCaughtSavesTheSettings) {
   EXPECT_TRUE(IsBewaard());
 }
 
-TEST_F(Noodgeval, TheEndOfAScriptDropsTheSession) {
+TEST_F(Noodgeval, HetEindeVanEenDraaiboekLaatDeSessieVallen) {
   MaakFamilie();
   Speel("kies AboutLB77\n", [this](Gesprek& gesprek) {
     Begin(
@@ -131,7 +131,7 @@ TEST_F(Noodgeval, TheEndOfAScriptDropsTheSession) {
   EXPECT_FALSE(IsBewaard());
 }
 
-TEST_F(Programmaloop, EveryEntryThatCanBeChosenShowsItsForm) {
+TEST_F(Programmaloop, ElkeKeuzeDieTeKiezenIsToontZijnFormulier) {
   MaakFamilie();
   Verwacht(R"(
       kies MaakSet
