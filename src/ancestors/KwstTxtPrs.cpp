@@ -19,17 +19,17 @@ void KwstTxtPrs::Keten(std::int16_t persoonNr) {
   Hoofdmodule& hoofd = Hoofd();
   KwstOpties opties;
   opties.KwProbandNr = persoonNr;
-  const auto toon = [&hoofd](Formulier&& formulier) { hoofd.gesprek.ToonModaal(formulier); };
+  Gesprek& gesprek = hoofd.gesprek;
 
-  toon(KwstTxtParam(hoofd, opties));
-  if (GaatDoor() && opties.KwInHTML) toon(HTMLParam(kKwHTMLParam, hoofd, opties.teksten));
+  gesprek.Toon<KwstTxtParam>(hoofd, opties);
+  if (GaatDoor() && opties.KwInHTML) gesprek.Toon<HTMLParam>(kKwHTMLParam, hoofd, opties.teksten);
   Verberg();
   KwstTabel tabel;
   const std::filesystem::path pad = hoofd.Ini.TempDir() / "KWSTDATA.TMP";
-  if (GaatDoor()) toon(KwstBereken(hoofd, opties, tabel));
-  if (GaatDoor()) toon(KwstMaakTemp(hoofd, opties, tabel, pad));
+  if (GaatDoor()) gesprek.Toon<KwstBereken>(hoofd, opties, tabel);
+  if (GaatDoor()) gesprek.Toon<KwstMaakTemp>(hoofd, opties, tabel, pad);
   if (hoofd.volgers.HuidigPersoonNr <= 0) return;
-  toon(ToonTekst(hoofd, pad, "Kwartierstaat in Tekstvorm", opties.KwInHTML));
+  gesprek.Toon<ToonTekst>(hoofd, pad, "Kwartierstaat in Tekstvorm", opties.KwInHTML);
   hoofd.volgers.HuidigPersoonNr = 0;
 }
 

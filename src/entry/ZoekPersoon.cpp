@@ -77,8 +77,7 @@ Vondst Doorzoek(Hoofdmodule& hoofd, const Zoekvraag& zoek) {
 
 std::int32_t VraagZoekPersoon(Hoofdmodule& hoofd) {
   hoofd.volgers.HuidigPersoonNr = 0;
-  ZoekPrs lijst(hoofd);
-  hoofd.gesprek.ToonModaal(lijst);
+  hoofd.gesprek.Toon<ZoekPrs>(hoofd);
   return hoofd.volgers.HuidigPersoonNr >= 1 ? hoofd.volgers.HuidigPersoonNr : 0;
 }
 
@@ -99,8 +98,7 @@ std::int16_t ZoekPersoonOpNaam(Hoofdmodule& hoofd, std::string& voornaam, std::s
 bool ToonOKPersoon(Hoofdmodule& hoofd, std::int16_t nr, std::string_view voornaam,
                    std::string_view achternaam) {
   hoofd.volgers.HuidigPersoonNr = nr;
-  OKPersoon vraag(hoofd, voornaam, achternaam);
-  hoofd.gesprek.ToonModaal(vraag);
+  hoofd.gesprek.Toon<OKPersoon>(hoofd, voornaam, achternaam);
   return hoofd.volgers.HuidigPersoonNr == nr;
 }
 

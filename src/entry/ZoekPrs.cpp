@@ -134,8 +134,7 @@ void ZoekPrs::NaarNrKlik() {
 void ZoekPrs::FilterButtonKlik() {
   filter_ = {.FilterAan = !filter_.FilterAan, .FilterVoorNm = {}, .FilterAchterNm = {}};
   if (filter_.FilterAan) {
-    VraagFilter vraag(filter_);
-    hoofd_.gesprek.ToonModaal(vraag);
+    hoofd_.gesprek.Toon<VraagFilter>(filter_);
     filter_.FilterAan = !filter_.FilterVoorNm.empty() || !filter_.FilterAchterNm.empty();
     if (filter_.FilterAan) hoofd_.volgers.HuidigPersoonNr = kEersteNr;
   }
@@ -146,8 +145,7 @@ void ZoekPrs::FilterButtonKlik() {
 // kept: a step to the next or the previous page starts from this person afterwards.
 void ZoekPrs::InfoPersoonKlik(int rij) {
   ZetHuidig(rij);
-  PersInfoForm info(hoofd_);
-  hoofd_.gesprek.ToonModaal(info);
+  hoofd_.gesprek.Toon<PersInfoForm>(hoofd_);
 }
 
 void ZoekPrs::RecordNrPrsKlik(int rij) {

@@ -174,8 +174,7 @@ void ImpGedcom::MeldFout(const SysteemFout& fout) {
 }
 
 void ImpGedcom::ToonLog() {
-  ToonTekst viewer(hoofd_, LogPad(), "Importeren - Resultaat");
-  hoofd_.gesprek.ToonModaal(viewer);
+  hoofd_.gesprek.Toon<ToonTekst>(hoofd_, LogPad(), "Importeren - Resultaat");
 }
 
 std::filesystem::path ImpGedcom::LogPad() const {

@@ -57,7 +57,8 @@ class Bediening {
   // What a transcript shows of it: a field its text, a button or label its caption.
   [[nodiscard]] virtual std::string Waarde() const { return bijschrift_; }
 
-  // The handlers, set by the form that owns the control.
+  // The handlers, set by the form that owns the control. A kind of control with rules of its own
+  // has them under "the kind's own events" below; those are run first.
   void BijBetreden(std::function<void()> doe) { bijBetreden_ = std::move(doe); }
   // The leave check: False keeps the focus here.
   void BijVerlaten(std::function<bool()> doe) { bijVerlaten_ = std::move(doe); }
@@ -68,7 +69,17 @@ class Bediening {
   void BijWijziging(std::function<void()> doe) { bijWijziging_ = std::move(doe); }
 
   [[nodiscard]] bool HeeftKlik() const { return static_cast<bool>(bijKlik_); }
-  [[nodiscard]] bool HeeftDubbelklik() const { return static_cast<bool>(bijDubbelklik_); }
+  [[nodiscard]] virtual bool HeeftDubbelklik() const { return static_cast<bool>(bijDubbelklik_); }
+
+ protected:
+  // The kind's own events, each run ahead of the form's handler of the same event.
+  virtual void OpBetreden() {}
+  // False keeps the focus here, and the form's check is not run.
+  [[nodiscard]] virtual bool OpVerlaten() { return true; }
+  // A key that it marks as dealt with does not reach the form.
+  virtual void OpToets(ToetsGebeurtenis&) {}
+  virtual void OpDubbelklik() {}
+  virtual void OpWijziging() {}
 
  private:
   friend class Formulier;

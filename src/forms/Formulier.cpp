@@ -29,8 +29,19 @@ bool Formulier::Laad() {
 
 void Formulier::Activeer() {
   BijActiveren();
+  BetreedEerste();
+}
+
+void Formulier::BetreedEerste() {
   if (gesloten_ || verborgen_ || focus_ || !eersteVeld_ || !Bereikbaar(*eersteVeld_)) return;
   Betreed(*eersteVeld_);
+}
+
+void Formulier::Herlaad() {
+  gewijzigd_ = false;
+  focus_ = nullptr;
+  BijLaden();
+  BetreedEerste();
 }
 
 void Formulier::Beeindig() {
@@ -52,16 +63,18 @@ bool Formulier::Verstoord(const Bediening& bediening) {
 }
 
 bool Formulier::Controleer(Bediening& bediening) {
-  if (!bediening.bijVerlaten_ || inControle_) return true;
+  if (inControle_) return true;
   inControle_ = true;
-  const bool ok = bediening.bijVerlaten_();
+  bool ok = bediening.OpVerlaten();
+  if (ok && !gesloten_ && bediening.bijVerlaten_) ok = bediening.bijVerlaten_();
   inControle_ = false;
   return ok;
 }
 
 void Formulier::Betreed(Bediening& bediening) {
   focus_ = &bediening;
-  if (bediening.bijBetreden_) bediening.bijBetreden_();
+  bediening.OpBetreden();
+  if (!gesloten_ && bediening.bijBetreden_) bediening.bijBetreden_();
 }
 
 void Formulier::ZetFocus(Bediening& bediening) {
@@ -117,7 +130,8 @@ bool Formulier::Klik(Bediening& bediening) {
 
 bool Formulier::Dubbelklik(Bediening& bediening) {
   if (!Pak(bediening)) return false;
-  if (bediening.bijDubbelklik_) bediening.bijDubbelklik_();
+  bediening.OpDubbelklik();
+  if (!gesloten_ && bediening.bijDubbelklik_) bediening.bijDubbelklik_();
   return true;
 }
 
@@ -137,7 +151,8 @@ void Formulier::Schakel(Bediening& bediening) {
 
 void Formulier::MeldWijziging(Bediening& bediening) {
   gewijzigd_ = true;
-  if (bediening.bijWijziging_) bediening.bijWijziging_();
+  bediening.OpWijziging();
+  if (!gesloten_ && bediening.bijWijziging_) bediening.bijWijziging_();
 }
 
 bool Formulier::Kies(Lijst& lijst, int index) {
@@ -168,9 +183,15 @@ bool Formulier::Toets(Bediening* doel, ToetsGebeurtenis toets) {
     if (toets.code == toets::kEscape) stop_ = true;
     return true;
   }
-  if (doel && doel->bijToets_) doel->bijToets_(toets);
+  if (doel) ToetsIn(*doel, toets);
   if (!toets.verwerkt && !gesloten_) BijToets(toets);
   return toets.verwerkt || gesloten_ || StandaardToets(doel, toets);
+}
+
+// The kind's own keys first, and what it leaves is the form's.
+void Formulier::ToetsIn(Bediening& bediening, ToetsGebeurtenis& toets) {
+  bediening.OpToets(toets);
+  if (!toets.verwerkt && !gesloten_ && bediening.bijToets_) bediening.bijToets_(toets);
 }
 
 bool Formulier::StandaardToets(Bediening* doel, const ToetsGebeurtenis& toets) {

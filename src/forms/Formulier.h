@@ -20,7 +20,8 @@ namespace lb77 {
 // Focus: at most one control has it. Leaving a control by the user runs its leave check; when that
 // fails the focus stays and whatever caused the leaving is swallowed. BackButton, CancelButton,
 // Escape and the frame run no leave check. Moving the focus from code runs no leave check, and the
-// entered event of the new control, unless it had the focus already. A control that is hidden or disabled meanwhile is left unchecked.
+// entered event of the new control, unless it had the focus already. A control that is hidden or
+// disabled meanwhile is left unchecked.
 // What arrives while a leave check runs (its own boxes move a toolkit's focus) is swallowed.
 class Formulier {
  public:
@@ -105,6 +106,10 @@ class Formulier {
   [[nodiscard]] virtual bool MagSluiten() { return true; }
 
   void Sluit() { gesloten_ = true; }
+  // Loads a form that is open once more, for another record: as after its activation the focus goes
+  // to the first field unless loading has placed it. When a leave check does this and holds, the user
+  // goes on to where he was going.
+  void Herlaad();
   void Verberg() { verborgen_ = true; }
   // The field that gets the focus behind the activated event.
   void ZetEersteVeld(Bediening& bediening) { eersteVeld_ = &bediening; }
@@ -124,6 +129,8 @@ class Formulier {
   [[nodiscard]] bool Verstoord(const Bediening& bediening);
   [[nodiscard]] bool Pak(Bediening& bediening);
   void Betreed(Bediening& bediening);
+  void BetreedEerste();
+  void ToetsIn(Bediening& bediening, ToetsGebeurtenis& toets);
   void GaVerder(const Bediening* van, int stap);
   void Schakel(Bediening& bediening);
   void MeldWijziging(Bediening& bediening);

@@ -6,16 +6,34 @@ namespace lb77 {
 
 void Gesprek::ToonModaal(Formulier& formulier) {
   if (!formulier.Laad()) return;
+  HaalGeslotenWeg();
   Open(formulier);
+  getoond_.push_back({&formulier});
   try {
     formulier.Activeer();
     if (!formulier.Gesloten() && !formulier.Verborgen()) Voer(formulier);
   } catch (...) {
-    Dicht(formulier);  // no window may outlive its form
+    RuimBovenste();  // no window may outlive its form
     throw;
   }
-  Dicht(formulier);
+  RuimBovenste();
   formulier.Beeindig();
+}
+
+void Gesprek::HaalWeg(Getoond& getoond) {
+  if (!std::exchange(getoond.weg, true)) Dicht(*getoond.formulier);
+}
+
+void Gesprek::HaalGeslotenWeg() {
+  for (auto een = getoond_.rbegin(); een != getoond_.rend(); ++een) {
+    if (een->formulier->Gesloten()) HaalWeg(*een);
+  }
+}
+
+void Gesprek::RuimBovenste() {
+  HaalWeg(getoond_.back());
+  Vergeet(*getoond_.back().formulier);
+  getoond_.pop_back();
 }
 
 }  // namespace lb77

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace lb77 {
@@ -64,7 +65,15 @@ class Gesprek {
   // Runs the form's whole life: loaded, shown, activated, what the user does, closed. A form that
   // closes while it loads is never shown, and has no closed event. Returns when the form has closed;
   // one that is hidden when its handler is done counts as closed, as nobody could reach it.
+  // Forms that have closed leave the screen before another is shown, also when a handler of theirs
+  // shows it.
   void ToonModaal(Formulier& formulier);
+  // Makes a form of kind F and shows it.
+  template <class F, class... Args>
+  void Toon(Args&&... args) {
+    F formulier(std::forward<Args>(args)...);
+    ToonModaal(formulier);
+  }
 
   // The usual boxes.
   void Waarschuw(std::string_view tekst) { Meld(BerichtSoort::Uitroep, tekst); }
@@ -79,10 +88,23 @@ class Gesprek {
   }
 
  protected:
-  // Puts the form on the screen, runs it until it has closed, and takes it away.
+  // Puts the form on the screen, runs it until it has closed, and takes it away. A handler of the
+  // form may still be at work when it is taken away; Vergeet comes when it will not be used again.
   virtual void Open(Formulier& formulier) = 0;
   virtual void Voer(Formulier& formulier) = 0;
   virtual void Dicht(Formulier& formulier) = 0;
+  virtual void Vergeet(Formulier&) {}
+
+ private:
+  struct Getoond {
+    Formulier* formulier;
+    bool weg = false;
+  };
+  void HaalWeg(Getoond& getoond);
+  void HaalGeslotenWeg();
+  void RuimBovenste();
+
+  std::vector<Getoond> getoond_;  // the forms that are open or have a handler at work
 };
 
 }  // namespace lb77

@@ -34,15 +34,15 @@ void Programma::Voer() {
 }
 
 void Programma::HangOp() {
-  const auto toon = [this](Formulier&& formulier) { hoofd_.gesprek.ToonModaal(formulier); };
-  menu_.Hang("MaakSet", [this, toon] { toon(NieuweSet(hoofd_, menu_)); });
-  menu_.Hang("OpenSet", [this, toon] { toon(OpenSetForm(hoofd_, menu_)); });
-  menu_.Hang("VerwijderSet", [this, toon] { toon(VerwijderSetForm(hoofd_, menu_)); });
-  menu_.Hang("SetupGebruiker", [this, toon] { toon(IniGebruiker(hoofd_)); });
-  menu_.Hang("ImportGedcom", [this, toon] { toon(ImpGedcom(hoofd_)); });
-  menu_.Hang("ViewTekst", [this, toon] { toon(BekijkTekst(hoofd_)); });
-  menu_.Hang("TekstKwst", [this, toon] { toon(KwstTxtPrs(hoofd_)); });
-  menu_.Hang("AboutLB77", [toon] { toon(OverLB77Form()); });
+  Gesprek& gesprek = hoofd_.gesprek;
+  menu_.Hang("MaakSet", [this, &gesprek] { gesprek.Toon<NieuweSet>(hoofd_, menu_); });
+  menu_.Hang("OpenSet", [this, &gesprek] { gesprek.Toon<OpenSetForm>(hoofd_, menu_); });
+  menu_.Hang("VerwijderSet", [this, &gesprek] { gesprek.Toon<VerwijderSetForm>(hoofd_, menu_); });
+  menu_.Hang("SetupGebruiker", [this, &gesprek] { gesprek.Toon<IniGebruiker>(hoofd_); });
+  menu_.Hang("ImportGedcom", [this, &gesprek] { gesprek.Toon<ImpGedcom>(hoofd_); });
+  menu_.Hang("ViewTekst", [this, &gesprek] { gesprek.Toon<BekijkTekst>(hoofd_); });
+  menu_.Hang("TekstKwst", [this, &gesprek] { gesprek.Toon<KwstTxtPrs>(hoofd_); });
+  menu_.Hang("AboutLB77", [&gesprek] { gesprek.Toon<OverLB77Form>(); });
 }
 
 void VoerProgramma(Gesprek& gesprek, const Klok& klok, const std::filesystem::path& programmaMap) {

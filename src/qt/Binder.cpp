@@ -43,12 +43,18 @@ Binder::Binder(Formulier& formulier, Gesprek& gesprek, VensterInstellingen& inst
 }
 
 Binder::~Binder() {
-  if (venster_->isVisible() && !venster_->isMaximized()) {
-    instellingen_.BewaarMaat(formulier_.Naam(), venster_->size());
-  }
   ++diepte_;  // what the widgets still send while they go is dropped
   bronnen_.clear();
   venster_.reset();
+}
+
+void Binder::Verdwijn() {
+  if (venster_->isVisible() && !venster_->isMaximized()) {
+    instellingen_.BewaarMaat(formulier_.Naam(), venster_->size());
+  }
+  ++diepte_;
+  venster_->hide();
+  --diepte_;
 }
 
 void Binder::MaakVenster(QWidget* ouder) {

@@ -43,6 +43,8 @@ class Binder final : public QObject, private Bezorger, private Vensterhouder {
   void Voer();
   // Brings all widgets and the focus in line with the form; raises no event.
   void Bijwerken();
+  // Takes the window off the screen for good; a handler of the form may still be at work.
+  void Verdwijn();
   // Bijwerken, and lets the toolkit paint and hear a stop request; all other input is dropped.
   void Ververs();
 

@@ -23,9 +23,14 @@ QWidget* QtGesprek::Bovenste() const {
   return boven == stapel_.rend() ? nullptr : &(*boven)->Venster();
 }
 
+// The forms below were brought up to date when the next one opened over them.
+void QtGesprek::WerkBovensteBij() {
+  if (!stapel_.empty()) stapel_.back()->Bijwerken();
+}
+
 template <class Doe>
 auto QtGesprek::Daarover(Doe doe) {
-  for (const auto& binder : stapel_) binder->Bijwerken();
+  WerkBovensteBij();
   QWidget* const ouder = Bovenste();
   auto uit = doe(ouder);
   if (ouder) ouder->activateWindow();
@@ -60,7 +65,7 @@ bool QtGesprek::StopGevraagd(Formulier& formulier) {
 }
 
 void QtGesprek::Open(Formulier& formulier) {
-  for (const auto& binder : stapel_) binder->Bijwerken();
+  WerkBovensteBij();
   stapel_.push_back(std::make_unique<Binder>(formulier, *this, instellingen_, Bovenste()));
   stapel_.back()->Toon();
   sindsVerversing_.invalidate();  // work that begins now shows itself at once
@@ -71,8 +76,12 @@ void QtGesprek::Voer(Formulier& formulier) {
 }
 
 void QtGesprek::Dicht(Formulier& formulier) {
-  std::erase_if(stapel_, [&](const auto& binder) { return &binder->Vorm() == &formulier; });
+  if (Binder* binder = BinderVan(formulier)) binder->Verdwijn();
   if (QWidget* venster = Bovenste()) venster->activateWindow();
+}
+
+void QtGesprek::Vergeet(Formulier& formulier) {
+  std::erase_if(stapel_, [&](const auto& binder) { return &binder->Vorm() == &formulier; });
 }
 
 }  // namespace lb77

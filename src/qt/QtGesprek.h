@@ -34,12 +34,14 @@ class QtGesprek final : public Gesprek {
   void Open(Formulier& formulier) override;
   void Voer(Formulier& formulier) override;
   void Dicht(Formulier& formulier) override;
+  void Vergeet(Formulier& formulier) override;
 
  private:
   [[nodiscard]] Binder* BinderVan(const Formulier& formulier) const;
   // The topmost window that is in view, null when there is none.
   [[nodiscard]] QWidget* Bovenste() const;
-  // Brings all windows up to date, and asks a question over the topmost one.
+  void WerkBovensteBij();
+  // Brings the form on top up to date, and asks a question over the topmost window.
   template <class Doe>
   auto Daarover(Doe doe);
 

@@ -110,6 +110,78 @@ TEST_F(GesprekTest, EenFormulierKanNogEensWordenGetoond) {
   EXPECT_EQ(formulier_.dagboek.size(), 8U);
 }
 
+// A user who presses Knop1 once, and a diary with the names of the forms.
+class NaamGesprek final : public ProefGesprek {
+ public:
+  explicit NaamGesprek(std::vector<std::string>& dagboek)
+      : ProefGesprek(dagboek), dagboek_(dagboek) {}
+
+ protected:
+  void Open(Formulier& formulier) override { dagboek_.push_back("+ " + formulier.Naam()); }
+  void Voer(Formulier& formulier) override {
+    if (Bediening* knop = formulier.Zoek("Knop1")) formulier.Klik(*knop);
+  }
+  void Dicht(Formulier& formulier) override { dagboek_.push_back("- " + formulier.Naam()); }
+  void Vergeet(Formulier& formulier) override { dagboek_.push_back("klaar " + formulier.Naam()); }
+
+ private:
+  std::vector<std::string>& dagboek_;
+};
+
+class Knopvorm final : public Formulier {
+ public:
+  explicit Knopvorm(std::string_view naam) : Formulier(naam, "") {}
+  using Formulier::Sluit;
+  using Formulier::Verberg;
+
+  Knop Knop1{*this, "Knop1", "&Knop"};
+};
+
+TEST(Gesprek, EenGeslotenFormulierGaatWegVoorHetVolgendeKomt) {
+  std::vector<std::string> dagboek;
+  NaamGesprek gesprek(dagboek);
+  Knopvorm eerste("Eerste");
+  Knopvorm tweede("Tweede");
+  eerste.Knop1.BijKlik([&] {
+    eerste.Sluit();
+    gesprek.ToonModaal(tweede);
+    gesprek.Toon<Knopvorm>("Derde");
+  });
+  gesprek.ToonModaal(eerste);
+  EXPECT_THAT(dagboek, ElementsAre("+ Eerste", "- Eerste", "+ Tweede", "- Tweede", "klaar Tweede",
+                                   "+ Derde", "- Derde", "klaar Derde", "klaar Eerste"));
+}
+
+TEST(Gesprek, EenOpenOfVerborgenFormulierBlijftOnderHetVolgende) {
+  for (const bool verborgen : {false, true}) {
+    std::vector<std::string> dagboek;
+    NaamGesprek gesprek(dagboek);
+    Knopvorm eerste("Eerste");
+    eerste.Knop1.BijKlik([&] {
+      if (verborgen) eerste.Verberg();
+      gesprek.Toon<Knopvorm>("Tweede");
+      dagboek.emplace_back("verder");
+    });
+    gesprek.ToonModaal(eerste);
+    EXPECT_THAT(dagboek, ElementsAre("+ Eerste", "+ Tweede", "- Tweede", "klaar Tweede", "verder",
+                                     "- Eerste", "klaar Eerste"));
+  }
+}
+
+TEST(Gesprek, EenUitzonderingNaHetSluitenHaaltNietNogEensWeg) {
+  std::vector<std::string> dagboek;
+  NaamGesprek gesprek(dagboek);
+  Knopvorm eerste("Eerste");
+  eerste.Knop1.BijKlik([&] {
+    eerste.Sluit();
+    gesprek.Toon<Knopvorm>("Tweede");
+    throw 7;
+  });
+  EXPECT_THROW(gesprek.ToonModaal(eerste), int);
+  EXPECT_THAT(dagboek, ElementsAre("+ Eerste", "- Eerste", "+ Tweede", "- Tweede", "klaar Tweede",
+                                   "klaar Eerste"));
+}
+
 TEST_F(GesprekTest, DeGewoneBerichtenHebbenHunEigenTeken) {
   const auto soortNa = [&](const std::function<void()>& meld) {
     meld();

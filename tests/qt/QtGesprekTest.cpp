@@ -156,6 +156,45 @@ TEST_F(QtGesprekTest, HiddenFormStaysHiddenUnderTheNext) {
   EXPECT_TRUE(vorm.Gesloten());
 }
 
+TEST_F(QtGesprekTest, EenGeslotenFormulierStaatNietOnderHetVolgende) {
+  Proefvorm binnen(gesprek, "Binnen");
+  QWidget* onder = nullptr;
+  vorm.bijOK = [&] {
+    onder = &Bovenste();
+    vorm.Sluit();
+    QTimer::singleShot(0, qApp, [&] {
+      EXPECT_FALSE(onder->isVisible());
+      EXPECT_EQ(Bovenste().objectName(), QString("Binnen"));
+      Druk("BackButton");
+    });
+    gesprek.ToonModaal(binnen);
+    vorm.log.emplace_back("na binnen");
+  };
+  Voer(vorm, {[&] { Druk("OKButton"); }});
+  EXPECT_THAT(vorm.log, testing::Contains("na binnen"));
+  EXPECT_FALSE(QApplication::activeModalWidget());
+}
+
+TEST_F(QtGesprekTest, AlleenHetBovensteFormulierWordtBijgewerkt) {
+  Proefvorm binnen(gesprek, "Binnen");
+  binnen.bijActief = [&] {
+    const auto* stand = Bovenste().parentWidget()->findChild<QLabel*>("Stand");
+    vorm.Stand.ZetTekst("onder");
+    binnen.Stand.ZetTekst("boven");
+    gesprek.Informeer("even");
+    EXPECT_EQ(stand->text(), QString("voor"));
+    EXPECT_EQ(Vind<QLabel>("Stand").text(), QString("boven"));
+    binnen.Sluit();
+  };
+  vorm.bijOK = [&] {
+    vorm.Stand.ZetTekst("voor");
+    gesprek.ToonModaal(binnen);
+  };
+  Voer(vorm, {[&] { Druk("OKButton"); },
+              [&] { EXPECT_EQ(Vind<QLabel>("Stand").text(), QString("onder")); },
+              [&] { Druk("BackButton"); }});
+}
+
 TEST_F(QtGesprekTest, FormThatStaysHiddenCountsAsClosed) {
   vorm.bijOK = [&] { vorm.Verberg(); };
   Voer(vorm, {[&] { Druk("OKButton"); }});
