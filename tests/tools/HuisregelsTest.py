@@ -130,6 +130,23 @@ class Merk(Regel):
             self.verwacht("src/app/X.cpp", f"\n{regel}\n", 2, f"niet met {merk}")
 
 
+class Toetsnaam(Regel):
+    def test_een_nederlandse_zin_mag(self):
+        for naam in ("EenNaamDieOntbreektIsOnbekend", "RecordNulIsErNiet", "HetLastGeenAnder",
+                     "OpenIsOpen", "InDeTest"):
+            self.schoon("tests/app/XTest.cpp", f"TEST_F(X, {naam}) {{}}\n")
+
+    def test_een_engelse_niet(self):
+        for naam, woord in (("ShowsItsName", "Shows"), ("AFileThatIsGone", "That"),
+                            ("EndsWithOne", "Ends"), ("AnUnknownSetIsTold", "Unknown")):
+            for soort in ("TEST", "TEST_F", "TEST_P", "TYPED_TEST"):
+                self.verwacht("tests/app/XTest.cpp", f"\n{soort}(X, {naam}) {{}}\n", 2, woord)
+        self.verwacht("bench/XTest.cpp", "TEST(X, ReadsAll) {}\n", 1, "Reads")
+
+    def test_waar_zij_nog_engels_zijn(self):
+        self.schoon("tests/qt/XTest.cpp", "TEST(X, ShowsItsName) {}\n")
+
+
 def functie(regels, kop="int F() {"):
     return kop + "\n" + "  g();\n" * (regels - 2) + "}\n"
 
