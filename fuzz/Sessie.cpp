@@ -5,6 +5,7 @@
 
 #include "ancestors/KwstTxtPrs.h"
 #include "app/Start.h"
+#include "cli/Werk.h"
 #include "exchange/ImpGedcom.h"
 #include "steun/FaalBestand.h"
 #include "text/Getallen.h"

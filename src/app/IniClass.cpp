@@ -232,6 +232,7 @@ bool IniClass::IniLees() {
     if (gesprek_.Bericht(BerichtSoort::Uitroep, Knoppen::OKAnnuleren, vraag) != Antwoord::OK) {
       return false;
     }
+    if (!instellingen_.bewaren) return true;
     IniSchrijf();
     if (EindeGevraagd()) return false;
     fout = LeesIniBestand(programmaMap_, inhoud);
@@ -247,6 +248,7 @@ bool IniClass::IniLees() {
 }
 
 void IniClass::IniSchrijf() {
+  if (!instellingen_.bewaren) return;
   const SchrijfUitslag uitslag = SchrijfIniBestand(
       programmaMap_, IniRegels([this](SleutelPlaats plaats) { return Regel(plaats); }));
   const std::string bestand = "(" + std::string(kIniBestand) + ")\n" + uitslag.fout.tekst;
@@ -323,6 +325,7 @@ std::filesystem::path IniClass::ProgDir() const {
 }
 
 std::filesystem::path IniClass::TempDir() const {
+  if (!instellingen_.tijdelijk.empty()) return instellingen_.tijdelijk;
   const std::filesystem::path pad = IniPad("Systeem", "Tempdir");
   return VindPad(pad.empty() ? programmaMap_ : programmaMap_ / pad);
 }

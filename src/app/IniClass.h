@@ -31,9 +31,9 @@ class IniClass {
   // The value of a setting; "???" after an error message when there is no such setting.
   [[nodiscard]] std::string IniWaarde(std::string_view sectie, std::string_view tag) const;
   // Sets the defaults and reads the file. False when the user chose to stop, or when no file can be
-  // made: the program must end then.
+  // made: the program must end then. Where nothing is kept, the defaults stand for a missing file.
   [[nodiscard]] bool IniLees();
-  // Writes the whole file and keeps the last one as LB77_INI.BAK. Tells its failures itself; the
+  // Writes the whole file and keeps the last one as LB77_INI.BAK; nothing where nothing is kept. Tells its failures itself; the
   // last file is still there after one. When the user answers one with Cancel, EindeGevraagd is
   // True from then on.
   void IniSchrijf();

@@ -17,6 +17,10 @@ struct Instellingen {
   std::vector<std::vector<std::string>> waarden;
   // Of a row that holds a path the path, which may have characters outside Windows-1252.
   std::vector<std::filesystem::path> paden;
+  // False for a session that changes its settings for itself alone: nothing is written.
+  bool bewaren = true;
+  // Where temporary files lie in this session; empty: where the settings say.
+  std::filesystem::path tijdelijk;
   // The user answered a failure of the settings file with Cancel: the program must end.
   bool eindeGevraagd = false;
 

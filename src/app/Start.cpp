@@ -36,11 +36,12 @@ std::filesystem::path ZoekProgrammaMap(const std::optional<std::filesystem::path
 
 bool Start(Hoofdmodule& hoofd) {
   std::error_code code;  // what cannot be made shows itself at its first use
-  std::filesystem::create_directories(hoofd.programmaMap, code);
+  const bool bewaren = hoofd.instellingen.bewaren;
+  if (bewaren) std::filesystem::create_directories(hoofd.programmaMap, code);
   hoofd.volgers = {};
   hoofd.ActieveSetNaam = kGeenSetAanwezig;
   if (!hoofd.Ini.IniLees()) return false;
-  std::filesystem::create_directories(hoofd.Ini.TempDir(), code);
+  if (bewaren) std::filesystem::create_directories(hoofd.Ini.TempDir(), code);
   VulGezindten(hoofd);
   return true;
 }

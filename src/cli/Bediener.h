@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "forms/Formulier.h"
 #include "forms/Gesprek.h"
@@ -14,7 +15,7 @@ namespace lb77 {
 
 // Each form that opens is worked by the action that was set for its name, once, and left by its
 // Terug when it is still open then. Boxes are told on standard error; questions are answered with
-// No or Cancel.
+// No or Cancel, unless an answer is held ready for them.
 class Bediener final : public Gesprek {
  public:
   using Meld = std::function<void(std::string_view utf8)>;
@@ -24,8 +25,12 @@ class Bediener final : public Gesprek {
   explicit Bediener(Meld meld) : meld_(std::move(meld)) {}
 
   void Bij(std::string_view formulier, Handeling handeling);
+  // The first question that offers this answer while that form is on top gets it; "" is no form at
+  // all, as during the start-up. One answer a form.
+  void HoudKlaar(std::string_view formulier, Antwoord antwoord);
   // The command did not do what it was asked to do.
   void Mislukt(std::string_view reden);
+  void MisluktUtf8(std::string_view reden);
   // 0, or 1 after an error.
   [[nodiscard]] int Status() const { return status_; }
 
@@ -42,33 +47,14 @@ class Bediener final : public Gesprek {
   void Dicht(Formulier& formulier) override;
 
  private:
+  [[nodiscard]] Antwoord Kies(Knoppen knoppen);
+
   Meld meld_;
   std::map<std::string, Handeling, std::less<>> handelingen_;
+  std::map<std::string, Antwoord, std::less<>> klaar_;
+  std::vector<std::string> open_;  // the names of the open forms, the one on top last
   bool vinkjeGemeld_ = false;
   int status_ = 0;
-};
-
-// What a user does on a form, by the names of its controls; each tells a failure to `bediener`.
-class Werk {
- public:
-  Werk(Bediener& bediener, Formulier& formulier) : bediener_(bediener), formulier_(formulier) {}
-
-  // Text in a field, as if typed; an item of a pick box or list by its text; "aan" or "uit" of a
-  // tick box or option. `waarde` is Windows-1252. False, and told, when the control did not take
-  // all of it; also when the form has closed.
-  [[nodiscard]] bool Zet(std::string_view naam, std::string_view waarde);
-  void Druk(std::string_view naam);
-  void Kies(std::string_view menuKeuze) { Druk(menuKeuze); }
-
- private:
-  [[nodiscard]] Bediening* Vind(std::string_view naam);
-  [[nodiscard]] bool ZetLijst(Lijst& lijst, std::string_view waarde);
-  [[nodiscard]] bool ZetSchakelaar(Schakelaar& schakelaar, std::string_view waarde);
-  [[nodiscard]] bool Vul(Invoerveld& veld, std::string_view waarde);
-  [[nodiscard]] bool Weiger(std::string_view naam, std::string_view reden);
-
-  Bediener& bediener_;
-  Formulier& formulier_;
 };
 
 }  // namespace lb77

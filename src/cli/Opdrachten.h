@@ -1,8 +1,9 @@
 // The everyday commands: a table of what each takes and does.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <filesystem>
-#include <functional>
 #include <iosfwd>
 #include <optional>
 #include <span>
@@ -22,28 +23,38 @@ struct Omgeving {
   std::ostream& fout;
 };
 
+// The most words that a command takes.
+inline constexpr std::size_t kMeesteWoorden = 3;
+
 // The words of the command line. Texts are Windows-1252; a path is itself.
 struct OpdrachtArgumenten {
-  std::vector<std::string> woorden;  // in the order of the command's words; left-out ones are ""
-  std::filesystem::path bestand;     // of `importeer`
+  // In the order of the command's words; left-out ones are "".
+  std::vector<std::string> woorden = std::vector<std::string>(kMeesteWoorden);
+  std::filesystem::path bestand;  // of `importeer`
   bool html = false;
   std::optional<std::filesystem::path> naar;  // --uit
   std::vector<std::string> zet;               // NAAM=WAARDE
+  bool bewaar = false;                        // --bewaar: the choices hold for later runs too
 };
 
 // What a command accepts beside its words.
 enum class Extra { Geen, Bestand, Rapport };
 
+// Gives the exit status: 0, or 1 after an error.
+using OpdrachtFunctie = int(const Omgeving&, const OpdrachtArgumenten&);
+
 struct Opdracht {
   std::string_view naam;
   std::string_view uitleg;
-  std::vector<std::string_view> woorden;  // the names of its words; one in brackets may be left out
+  // The names of its words, the first empty one ends them; one in brackets may be left out.
+  std::array<std::string_view, kMeesteWoorden> woorden;
   Extra extra;
-  std::function<int(const Omgeving&, const OpdrachtArgumenten&)> doe;  // the exit status
+  OpdrachtFunctie* doe;
+  bool maaktMap = false;  // the program's directory need not be there
 };
 
 // All commands but `speel`, in the order of the help.
-[[nodiscard]] const std::vector<Opdracht>& Opdrachten();
+[[nodiscard]] std::span<const Opdracht> Opdrachten();
 
 // `speel`: plays the script `utf8` and prints its transcript. Relative paths in it are resolved
 // against `basismap`.

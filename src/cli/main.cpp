@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "app/Start.h"
+#include "cli/Gebruik.h"
 #include "cli/Opdrachten.h"
 #include "text/Unicode.h"
 
@@ -12,6 +13,12 @@ namespace lb77 {
 namespace {
 
 constexpr int kVerkeerdGebruik = 2;
+constexpr const char* kOpdrachten = "Opdrachten";
+
+int MeldGebruik(const std::string& tekst) {
+  std::cerr << "lb77-cli: " << tekst << "\nlb77-cli --help toont het gebruik.\n";
+  return kVerkeerdGebruik;
+}
 
 std::filesystem::path PadVanUtf8(const std::string& utf8) {
   return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
@@ -24,9 +31,15 @@ struct Regel {
   std::string draaiboek;
   std::string bestand;
   std::string naar;
-  std::vector<std::string> woorden = std::vector<std::string>(2);
+  std::vector<std::string> woorden = std::vector<std::string>(kMeesteWoorden);
   std::vector<std::string> zet;
   bool html = false;
+  bool bewaar = false;
+};
+
+// A file or directory of the command line that cannot be used.
+struct PadFout {
+  std::string tekst;
 };
 
 // A text of the command line; a character that the program cannot hold is an error of use.
@@ -37,7 +50,8 @@ std::string InWindows(const std::string& utf8) {
 }
 
 void VoegWoordenToe(CLI::App& sub, const Opdracht& opdracht, Regel& regel) {
-  for (std::size_t i = 0; i < opdracht.woorden.size(); ++i) {
+  sub.get_help_ptr()->group(kKeuzes);
+  for (std::size_t i = 0; i < opdracht.woorden.size() && !opdracht.woorden[i].empty(); ++i) {
     std::string naam(opdracht.woorden[i]);
     const bool verplicht = naam.front() != '[';
     if (!verplicht) naam = naam.substr(1, naam.size() - 2);
@@ -48,8 +62,10 @@ void VoegWoordenToe(CLI::App& sub, const Opdracht& opdracht, Regel& regel) {
   }
   if (opdracht.extra == Extra::Rapport) {
     sub.add_flag("--html", regel.html, "schrijf HTML");
-    sub.add_option("--uit", regel.naar, "schrijf naar dit bestand");
-    sub.add_option("--zet", regel.zet, "NAAM=WAARDE: zet een keuze van het verslag")
+    sub.add_option("--uit", regel.naar, "schrijf naar dit bestand")->type_name("BESTAND");
+    sub.add_flag("--bewaar", regel.bewaar, "bewaar de keuzes voor volgende keren");
+    sub.add_option("--zet", regel.zet, "zet een keuze van het verslag")
+        ->type_name("NAAM=WAARDE")
         ->allow_extra_args(false)
         ->check([](const std::string& zet) {
           return zet.find('=') == std::string::npos ? std::string("NAAM=WAARDE verwacht")
@@ -60,12 +76,14 @@ void VoegWoordenToe(CLI::App& sub, const Opdracht& opdracht, Regel& regel) {
 
 OpdrachtArgumenten Argumenten(const Regel& regel) {
   OpdrachtArgumenten argumenten;
+  argumenten.woorden.clear();
   for (const std::string& woord : regel.woorden) argumenten.woorden.push_back(InWindows(woord));
   for (const std::string& zet : regel.zet) argumenten.zet.push_back(InWindows(zet));
   if (!regel.bestand.empty()) {
     argumenten.bestand = std::filesystem::absolute(PadVanUtf8(regel.bestand));
   }
   argumenten.html = regel.html;
+  argumenten.bewaar = regel.bewaar;
   if (!regel.naar.empty()) argumenten.naar = PadVanUtf8(regel.naar);
   return argumenten;
 }
@@ -77,40 +95,58 @@ std::string LeesScript(const std::string& bestand) {
   };
   if (bestand.empty()) return alles(std::cin);
   std::ifstream in(PadVanUtf8(bestand), std::ios::binary);
-  if (!in) throw CLI::FileError::Missing(bestand);
+  if (!in) throw PadFout{bestand + " kan niet worden gelezen"};
   return alles(in);
 }
 
-int Voer(CLI::App& app, const Regel& regel) {
-  std::optional<std::filesystem::path> map;
-  if (!regel.map.empty()) map = std::filesystem::absolute(PadVanUtf8(regel.map));
+// The command that was given; nothing for `speel`.
+const Opdracht* Gegeven(const CLI::App& app) {
+  for (const Opdracht& opdracht : Opdrachten()) {
+    if (app.got_subcommand(std::string(opdracht.naam))) return &opdracht;
+  }
+  return nullptr;
+}
+
+// The directory of --map, if any. A mistyped one would be an empty program.
+std::optional<std::filesystem::path> GevraagdeMap(const Regel& regel, const Opdracht* opdracht) {
+  if (regel.map.empty()) return std::nullopt;
+  std::filesystem::path map = std::filesystem::absolute(PadVanUtf8(regel.map));
+  std::error_code code;
+  if (!std::filesystem::is_directory(map, code) && !(opdracht && opdracht->maaktMap)) {
+    throw PadFout{"--map: " + regel.map + " is geen map"};
+  }
+  return map;
+}
+
+int Voer(const CLI::App& app, const Regel& regel) {
+  const Opdracht* const opdracht = Gegeven(app);
+  const auto map = GevraagdeMap(regel, opdracht);
   const SysteemKlok systeemKlok;
   std::optional<VasteKlok> vasteKlok;
   if (!regel.klok.empty()) vasteKlok.emplace(LeesTijdstip(regel.klok).value());
   const Klok& klok = vasteKlok ? static_cast<const Klok&>(*vasteKlok) : systeemKlok;
   const Omgeving omgeving{ZoekProgrammaMap(map), klok, std::cout, std::cerr};
-  if (app.got_subcommand("speel")) {
-    return SpeelDraaiboek(omgeving, LeesScript(regel.draaiboek), std::filesystem::current_path());
-  }
-  for (const Opdracht& opdracht : Opdrachten()) {
-    if (app.got_subcommand(std::string(opdracht.naam))) {
-      return opdracht.doe(omgeving, Argumenten(regel));
-    }
-  }
-  return kVerkeerdGebruik;
+  if (opdracht) return opdracht->doe(omgeving, Argumenten(regel));
+  return SpeelDraaiboek(omgeving, LeesScript(regel.draaiboek), std::filesystem::current_path());
 }
 
 void BeschrijfRegel(CLI::App& app, Regel& regel) {
+  MaakNederlands(app);
   app.require_subcommand(1);
-  app.add_option("--map", regel.map, "de map van het programma en zijn instellingen");
+  app.set_version_flag("--version", "LB77 " LB77_VERSIE, "toont de versie");
+  app.add_option("--map", regel.map, "de map van het programma en zijn instellingen")
+      ->type_name("MAP");
   app.add_option("--klok", regel.klok, "\"JJJJ-MM-DD UU:MM:SS\": neem dit voor de huidige tijd")
+      ->type_name("TIJD")
       ->check([](const std::string& tekst) {
         return LeesTijdstip(tekst) ? std::string() : std::string("geen tijdstip");
       });
-  CLI::App* speel = app.add_subcommand("speel", "speelt een draaiboek");
+  CLI::App* speel = app.add_subcommand("speel", "speelt een draaiboek")->group(kOpdrachten);
+  speel->get_help_ptr()->group(kKeuzes);
   speel->add_option("BESTAND", regel.draaiboek, "het draaiboek; zonder: van de standaardinvoer");
   for (const Opdracht& opdracht : Opdrachten()) {
-    VoegWoordenToe(*app.add_subcommand(std::string(opdracht.naam), std::string(opdracht.uitleg)),
+    VoegWoordenToe(*app.add_subcommand(std::string(opdracht.naam), std::string(opdracht.uitleg))
+                        ->group(kOpdrachten),
                    opdracht, regel);
   }
 }
@@ -126,8 +162,12 @@ int Hoofd(int argc, char** argv) {
     if (std::cout) return status;
     std::cerr << "lb77-cli: de uitvoer kon niet worden geschreven\n";
     return 1;
+  } catch (const CLI::Success& hulp) {
+    return app.exit(hulp);
   } catch (const CLI::ParseError& fout) {
-    return app.exit(fout) == 0 ? 0 : kVerkeerdGebruik;
+    return MeldGebruik(GebruiksFout(app, fout));
+  } catch (const PadFout& fout) {
+    return MeldGebruik(fout.tekst);
   } catch (const std::exception& fout) {
     std::cerr << "lb77-cli: " << fout.what() << '\n';
     return 1;

@@ -41,7 +41,7 @@ bool IsBereikbaar(const Formulier& formulier, const MenuKeuze& keuze) {
 }  // namespace
 
 void Hand::Weiger(std::string_view naam, std::string_view reden) const {
-  throw SpeelFout{WindowsNaarUtf8(formulier_.Naam()) + "." + WindowsNaarUtf8(naam) + " " +
+  throw SpeelFout{WindowsNaarUtf8(formulier_.Naam()) + "." + WindowsNaarUtf8(naam),
                   std::string(reden)};
 }
 

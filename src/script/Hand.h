@@ -9,9 +9,10 @@
 
 namespace lb77 {
 
-// Why an instruction cannot be played, in UTF-8. Thrown by Hand and caught by the player alone; it
-// is no std::exception, so that nobody else takes it for a failure of the program.
+// What cannot be done, in UTF-8: the control as "Formulier.Naam", and why. Thrown by Hand and caught
+// by who lends it; it is no std::exception, so that nobody else takes it for a failure of the program.
 struct SpeelFout {
+  std::string wat;
   std::string reden;
 };
 

@@ -159,7 +159,7 @@ void Speler::Doe(Formulier& formulier, const Instructie& instructie) {
     if (instructie.soort == InstructieSoort::Toon) return Toon(formulier, instructie);
     Hand(formulier).Doe(instructie);
   } catch (const SpeelFout& fout) {
-    Weiger(fout.reden);
+    Weiger(fout.wat + " " + fout.reden);
   }
 }
 

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "cli/Bediener.h"
+#include "cli/Werk.h"
 #include "text/Letterlijk.h"
 
 namespace lb77 {
@@ -18,9 +19,9 @@ class Keuzevorm final : public Formulier {
     Nummer.BijVerlaten([this] { return Nummer.Tekst() != "13"; });
     BackButton.BijKlik([this] { Sluit(); });
   }
-  Tekstvak Nummer{*this, "Nummer", "Nummer:", 3};
+  Tekstvak Nummer{*this, "Nummer", "Persoonsnummer:", 3};
   Keuzevak Soort{*this, "Soort", "Soort:", {"Een", "Twee"}};
-  Vinkje Ook{*this, "Ook", "Ook"};
+  Vinkje Ook{*this, "Ook", "&Ook stiefkinderen ?"};
   Label Uitleg{*this, "Uitleg", "Uitleg"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 };
@@ -45,7 +46,7 @@ class BedienerToets : public ::testing::Test {
   Keuzevorm vorm_;
 };
 
-TEST_F(BedienerToets, QuestionsAreAnsweredWithNoOrCancelAndTold) {
+TEST_F(BedienerToets, VragenKrijgenNeeOfAnnulerenEnWordenGemeld) {
   const auto vraag = [this](Knoppen knoppen) {
     return bediener_.Bericht(BerichtSoort::Vraag, knoppen, "Doorgaan?");
   };
@@ -58,12 +59,32 @@ TEST_F(BedienerToets, QuestionsAreAnsweredWithNoOrCancelAndTold) {
   EXPECT_EQ(bediener_.Status(), 0);
 }
 
-TEST_F(BedienerToets, AMissingSettingsFileIsMade) {
-  const std::string tekst = "Fout\nDruk op OK om een nieuw IniBestand te maken\nDruk op CANCEL";
-  EXPECT_EQ(bediener_.Bericht(BerichtSoort::Uitroep, Knoppen::OKAnnuleren, tekst), Antwoord::OK);
+TEST_F(BedienerToets, EenAntwoordDatKlaarligtIsVoorEenVraag) {
+  const auto vraag = [this](Knoppen knoppen) {
+    return bediener_.Bericht(BerichtSoort::Uitroep, knoppen, "Nieuw?");
+  };
+  bediener_.HoudKlaar({}, Antwoord::OK);
+  EXPECT_EQ(vraag(Knoppen::JaNee), Antwoord::Nee);  // does not offer it
+  EXPECT_EQ(vraag(Knoppen::OK), Antwoord::OK);      // asks nothing
+  EXPECT_EQ(vraag(Knoppen::OKAnnuleren), Antwoord::OK);
+  EXPECT_EQ(vraag(Knoppen::OKAnnuleren), Antwoord::Annuleren);
+  EXPECT_EQ(regels_.back(), "Nieuw? -> Annuleren");
 }
 
-TEST_F(BedienerToets, OnlyAStopSymbolMakesTheStatusOne) {
+TEST_F(BedienerToets, EenAntwoordGeldtAlleenBijZijnFormulier) {
+  bediener_.HoudKlaar("Keuzevorm", Antwoord::Ja);
+  const auto vraag = [this] {
+    return bediener_.Bericht(BerichtSoort::Vraag, Knoppen::JaNee, "Doorgaan?");
+  };
+  EXPECT_EQ(vraag(), Antwoord::Nee);
+  Antwoord open = Antwoord::Nee;
+  bediener_.Bij("Keuzevorm", [&](Formulier&) { open = vraag(); });
+  bediener_.ToonModaal(vorm_);
+  EXPECT_EQ(open, Antwoord::Ja);
+  EXPECT_EQ(vraag(), Antwoord::Nee);
+}
+
+TEST_F(BedienerToets, AlleenEenStopsymboolMaaktDeUitkomstEen) {
   bediener_.Waarschuw("Let op");
   bediener_.Informeer("Klaar");
   EXPECT_EQ(bediener_.Status(), 0);
@@ -72,19 +93,19 @@ TEST_F(BedienerToets, OnlyAStopSymbolMakesTheStatusOne) {
   EXPECT_EQ(regels_.back(), "ge\xC3\xAFmporteerd");
 }
 
-TEST_F(BedienerToets, ABoxWithATickIsToldOnce) {
+TEST_F(BedienerToets, EenVensterMetVinkjeWordtEenmaalGemeld) {
   EXPECT_TRUE(bediener_.BerichtMetVinkje("Tekenset", "Niet meer tonen"));
   EXPECT_TRUE(bediener_.BerichtMetVinkje("Tekenset", "Niet meer tonen"));
   EXPECT_EQ(regels_, std::vector<std::string>{"Tekenset"});
 }
 
-TEST_F(BedienerToets, FilesPrintersAndStopsAreNotOffered) {
+TEST_F(BedienerToets, BestandenPrintersEnOnderbrekingenZijnErNiet) {
   EXPECT_EQ(bediener_.VraagBestand({}), std::nullopt);
   EXPECT_FALSE(bediener_.DrukAf({}));
   EXPECT_FALSE(bediener_.StopGevraagd(vorm_));
 }
 
-TEST_F(BedienerToets, AFormIsWorkedByItsActionAndLeft) {
+TEST_F(BedienerToets, EenFormulierWordtBediendEnVerlaten) {
   int keer = 0;
   bediener_.Bij("Keuzevorm", [&keer](Formulier&) { ++keer; });
   bediener_.ToonModaal(vorm_);
@@ -92,12 +113,12 @@ TEST_F(BedienerToets, AFormIsWorkedByItsActionAndLeft) {
   EXPECT_EQ(keer, 1);
 }
 
-TEST_F(BedienerToets, AFormThatStaysEndsTheCommand) {
+TEST_F(BedienerToets, EenFormulierDatBlijftEindigtDeOpdracht) {
   Blijfvorm vorm;
   EXPECT_THROW(bediener_.ToonModaal(vorm), std::runtime_error);
 }
 
-TEST_F(BedienerToets, SetsEachKindOfControl) {
+TEST_F(BedienerToets, ZetElkeSoortBediening) {
   EXPECT_TRUE(Zet("Nummer", "12"));
   EXPECT_EQ(vorm_.Nummer.Tekst(), "12");
   EXPECT_TRUE(Zet("Nummer", ""));
@@ -112,25 +133,25 @@ TEST_F(BedienerToets, SetsEachKindOfControl) {
   EXPECT_EQ(bediener_.Status(), 0);
 }
 
-TEST_F(BedienerToets, TellsWhyAControlWasNotSet) {
+TEST_F(BedienerToets, MeldtWaaromEenBedieningNietIsGezet) {
   const auto reden = [this](std::string_view naam, std::string_view waarde) {
     EXPECT_FALSE(Zet(naam, waarde)) << naam;
     return regels_.empty() ? std::string() : regels_.back();
   };
-  EXPECT_EQ(reden("Weg", "1"), "Keuzevorm.Weg bestaat niet");
-  EXPECT_EQ(reden("Nummer", "1x"), "Keuzevorm.Nummer neemt \"1x\" niet aan");
-  EXPECT_EQ(reden("Nummer", "1234"), "Keuzevorm.Nummer neemt \"1234\" niet aan");
-  EXPECT_EQ(reden("Nummer", "13"), "Keuzevorm.Nummer heeft geen geldige waarde");
+  EXPECT_EQ(reden("Weg", "1"), "Keuzen: Weg bestaat niet");
+  EXPECT_EQ(reden("Nummer", "1x"), "Keuzen: Persoonsnummer neemt \"1x\" niet aan");
+  EXPECT_EQ(reden("Nummer", "1234"), "Keuzen: Persoonsnummer neemt \"1234\" niet aan");
+  EXPECT_EQ(reden("Nummer", "13"), "Keuzen: Persoonsnummer heeft geen geldige waarde");
   vorm_.Nummer.ZetTekst("1");
-  EXPECT_EQ(reden("Soort", "Drie"), "Keuzevorm.Soort heeft die keuze niet");
-  EXPECT_EQ(reden("Ook", "ja"), "Keuzevorm.Ook is aan of uit");
-  EXPECT_EQ(reden("Uitleg", "x"), "Keuzevorm.Uitleg kan niet worden gezet");
+  EXPECT_EQ(reden("Soort", "Drie"), "Keuzen: Soort heeft geen rij \"Drie\"");
+  EXPECT_EQ(reden("Ook", "ja"), "Keuzen: Ook stiefkinderen kan alleen aan of uit");
+  EXPECT_EQ(reden("Uitleg", "x"), "Keuzen: Uitleg is geen keuze");
   vorm_.Ook.ZetIngeschakeld(false);
-  EXPECT_EQ(reden("Ook", "aan"), "Keuzevorm.Ook is niet beschikbaar");
+  EXPECT_EQ(reden("Ook", "aan"), "Keuzen: Ook stiefkinderen is uitgeschakeld");
   EXPECT_EQ(bediener_.Status(), 1);
 }
 
-TEST_F(BedienerToets, AFieldThatCannotBeLeftHoldsTheOthers) {
+TEST_F(BedienerToets, EenVeldDatNietVerlatenKanWordenHoudtDeAndereVast) {
   EXPECT_FALSE(Zet("Nummer", "13"));
   EXPECT_FALSE(Zet("Soort", "Een"));
   EXPECT_EQ(vorm_.Soort.Index(), -1);

@@ -1,10 +1,4 @@
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <sstream>
-
-#include "cli/Opdrachten.h"
-#include "steun/TijdelijkeMap.h"
+#include "OpdrachtToets.h"
 
 namespace lb77 {
 namespace {
@@ -14,47 +8,12 @@ constexpr std::string_view kGedcom =
     "2 PLAC K\xE8oln\n1 FAMC @F1@\n0 @I2@ INDI\n1 NAME Piet /van Dam/\n1 SEX M\n1 FAMS @F1@\n"
     "0 @F1@ FAM\n1 HUSB @I2@\n1 CHIL @I1@\n1 XYZ iets\n0 TRLR\n";
 
-class OpdrachtenToets : public ::testing::Test {
+class OpdrachtenToets : public OpdrachtToets {
  protected:
-  // Runs a command; its output lies in uit_ and fout_ then.
-  int Doe(std::string_view naam, OpdrachtArgumenten argumenten) {
-    argumenten.woorden.resize(2);
-    std::ostringstream uit;
-    std::ostringstream fout;
-    const Omgeving omgeving{map_.Pad(), klok_, uit, fout};
-    const auto& alle = Opdrachten();
-    const auto opdracht = std::find_if(alle.begin(), alle.end(),
-                                       [naam](const Opdracht& o) { return o.naam == naam; });
-    if (opdracht == alle.end()) {
-      ADD_FAILURE() << "no command " << naam;
-      return -1;
-    }
-    const int status = opdracht->doe(omgeving, argumenten);
-    uit_ = uit.str();
-    fout_ = fout.str();
-    return status;
-  }
-  int Doe(std::string_view naam, std::vector<std::string> woorden) {
-    OpdrachtArgumenten argumenten;
-    argumenten.woorden = std::move(woorden);
-    return Doe(naam, std::move(argumenten));
-  }
-  void MaakFamilie() {
-    SchrijfBytes(map_ / "familie.ged", kGedcom);
-    ASSERT_EQ(Doe("nieuw", {"familie", "Mijn familie"}), 0) << fout_;
-    OpdrachtArgumenten argumenten;
-    argumenten.woorden = {"FAMILIE"};
-    argumenten.bestand = map_ / "familie.ged";
-    ASSERT_EQ(Doe("importeer", argumenten), 0) << fout_;
-  }
-
-  TijdelijkeMap map_;
-  VasteKlok klok_{{2026, 11, 21, 12, 0, 0}};
-  std::string uit_;
-  std::string fout_;
+  void MaakFamilie() { OpdrachtToets::MaakFamilie(kGedcom); }
 };
 
-TEST_F(OpdrachtenToets, ANewSetIsListed) {
+TEST_F(OpdrachtenToets, EenNieuweSetStaatInDeLijst) {
   EXPECT_EQ(Doe("nieuw", {"familie", "Mijn familie"}), 0);
   EXPECT_NE(fout_.find("Druk op OK om een nieuw IniBestand te maken"), std::string::npos);
   EXPECT_NE(fout_.find("-> OK"), std::string::npos);
@@ -62,19 +21,19 @@ TEST_F(OpdrachtenToets, ANewSetIsListed) {
   EXPECT_EQ(uit_, "FAMILIE   Mijn familie  0 personen, 0 relaties\n");
 }
 
-TEST_F(OpdrachtenToets, ASetThatExistsIsNotMadeAgain) {
+TEST_F(OpdrachtenToets, EenSetDieErIsWordtNietNogEensGemaakt) {
   ASSERT_EQ(Doe("nieuw", {"familie"}), 0);
   EXPECT_EQ(Doe("nieuw", {"Familie"}), 1);
   EXPECT_NE(fout_.find("Deze bestandenset bestaat al"), std::string::npos);
   EXPECT_NE(fout_.find("De bestandenset is niet gemaakt"), std::string::npos);
 }
 
-TEST_F(OpdrachtenToets, ATooLongNameIsRefusedNotCut) {
+TEST_F(OpdrachtenToets, EenTeLangeNaamWordtGeweigerdEnNietAfgekapt) {
   EXPECT_EQ(Doe("nieuw", {"familieboom"}), 1);
   EXPECT_NE(fout_.find("hoogstens 8 tekens"), std::string::npos);
 }
 
-TEST_F(OpdrachtenToets, ImportPrintsTheLog) {
+TEST_F(OpdrachtenToets, InlezenDruktHetVerslagAf) {
   MaakFamilie();
   EXPECT_EQ(uit_, "R-F1 - Onbekende tag: FAM-XYZ : iets\nImporteren voltooid\n");
   EXPECT_EQ(fout_, "Importeren voltooid\n");
@@ -82,21 +41,19 @@ TEST_F(OpdrachtenToets, ImportPrintsTheLog) {
   EXPECT_EQ(uit_, "FAMILIE   Mijn familie  2 personen, 1 relaties\n");
 }
 
-TEST_F(OpdrachtenToets, ListingTheSetsLeavesTheOneInUse) {
+TEST_F(OpdrachtenToets, SetsNoemtOokEenSetDieNietOpenGaat) {
   ASSERT_EQ(Doe("nieuw", {"een", "Eerste"}), 0);
   ASSERT_EQ(Doe("nieuw", {"twee"}), 0);
   ASSERT_EQ(Doe("nieuw", {"drie"}), 0);
-  ASSERT_EQ(Doe("zoek", {"een", "x"}), 0);
   std::filesystem::remove(map_ / "DATA" / "DRIE" / "DRIE.PRS");
   EXPECT_EQ(Doe("sets", OpdrachtArgumenten{}), 0);
   EXPECT_EQ(uit_,
             "EEN       Eerste  0 personen, 0 relaties\nTWEE      0 personen, 0 relaties\n"
             "DRIE      niet te openen\n");
   EXPECT_FALSE(std::filesystem::exists(map_ / "DATA" / "DRIE" / "DRIE.PRS"));
-  EXPECT_NE(LeesBytes(map_ / "LIJNBOOM.INI").find("\r\nSet=EEN\r\n"), std::string::npos);
 }
 
-TEST_F(OpdrachtenToets, AMissingFileIsToldAndNotTheLogOfAnotherImport) {
+TEST_F(OpdrachtenToets, EenBestandDatErNietIsWordtGemeldZonderEenAnderVerslag) {
   MaakFamilie();
   OpdrachtArgumenten argumenten;
   argumenten.woorden = {"familie"};
@@ -107,7 +64,7 @@ TEST_F(OpdrachtenToets, AMissingFileIsToldAndNotTheLogOfAnotherImport) {
   EXPECT_EQ(uit_, "");
 }
 
-TEST_F(OpdrachtenToets, AFileThatIsNoGedcomEndsWithOneAndItsLog) {
+TEST_F(OpdrachtenToets, EenBestandDatGeenGedcomIsEindigtMetEenEnZijnVerslag) {
   MaakFamilie();
   OpdrachtArgumenten argumenten;
   argumenten.woorden = {"familie"};
@@ -118,7 +75,7 @@ TEST_F(OpdrachtenToets, AFileThatIsNoGedcomEndsWithOneAndItsLog) {
   EXPECT_EQ(uit_, "Importeren voltooid\n");
 }
 
-TEST_F(OpdrachtenToets, TheReportIsPrintedInUtf8WithPlainLineEnds) {
+TEST_F(OpdrachtenToets, HetVerslagIsUtf8MetGewoneRegeleinden) {
   MaakFamilie();
   EXPECT_EQ(Doe("kwartierstaat", {"familie", "2"}), 0) << fout_;
   EXPECT_EQ(uit_,
@@ -127,7 +84,7 @@ TEST_F(OpdrachtenToets, TheReportIsPrintedInUtf8WithPlainLineEnds) {
             "          Gemaakt met LB77 voor Windows\n\n");
 }
 
-TEST_F(OpdrachtenToets, AFileGetsTheProgramsOwnBytes) {
+TEST_F(OpdrachtenToets, EenBestandKrijgtDeBytesVanHetProgramma) {
   MaakFamilie();
   OpdrachtArgumenten argumenten;
   argumenten.woorden = {"familie", "2"};
@@ -137,19 +94,16 @@ TEST_F(OpdrachtenToets, AFileGetsTheProgramsOwnBytes) {
   EXPECT_NE(LeesBytes(map_ / "uit.txt").find("geb. K\xF6ln 1-2-1900.\r\n"), std::string::npos);
 }
 
-TEST_F(OpdrachtenToets, AFileIsReplacedOnlyByAWholeReport) {
+TEST_F(OpdrachtenToets, EenBestandWordtAlleenDoorEenHeelVerslagVervangen) {
   MaakFamilie();
   OpdrachtArgumenten argumenten;
   argumenten.woorden = {"familie", "2"};
-  argumenten.naar = map_ / "TEMP" / "KWSTDATA.TMP";  // the report itself
-  EXPECT_EQ(Doe("kwartierstaat", argumenten), 0) << fout_;
-  EXPECT_EQ(LeesBytes(*argumenten.naar).rfind("Generatie I\r\n", 0), 0U);
   argumenten.naar = map_ / "geen map" / "uit.txt";
   EXPECT_EQ(Doe("kwartierstaat", argumenten), 1);
   EXPECT_NE(fout_.find("Fout bij het schrijven van "), std::string::npos);
 }
 
-TEST_F(OpdrachtenToets, ADeviceIsWrittenToAndStays) {
+TEST_F(OpdrachtenToets, EenApparaatWordtBeschrevenEnBlijft) {
   if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no device that is always full";
   MaakFamilie();
   OpdrachtArgumenten argumenten;
@@ -163,7 +117,7 @@ TEST_F(OpdrachtenToets, ADeviceIsWrittenToAndStays) {
   EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
 }
 
-TEST_F(OpdrachtenToets, APathWithAccentsIsAPathLikeAnother) {
+TEST_F(OpdrachtenToets, EenPadMetAccentenIsEenPadAlsElkAnder) {
   MaakFamilie();
   OpdrachtArgumenten argumenten;
   argumenten.woorden = {"familie"};
@@ -176,7 +130,7 @@ TEST_F(OpdrachtenToets, APathWithAccentsIsAPathLikeAnother) {
   EXPECT_TRUE(std::filesystem::exists(*argumenten.naar));
 }
 
-TEST_F(OpdrachtenToets, AReportInHTMLPassesTheLinkDialog) {
+TEST_F(OpdrachtenToets, EenVerslagInHTMLGaatLangsDeKoppelingen) {
   MaakFamilie();
   OpdrachtArgumenten argumenten;
   argumenten.woorden = {"familie", "2"};
@@ -189,7 +143,7 @@ TEST_F(OpdrachtenToets, AReportInHTMLPassesTheLinkDialog) {
   EXPECT_EQ(LeesBytes(map_ / "LIJNBOOM.INI").find("example.org"), std::string::npos);
 }
 
-TEST_F(OpdrachtenToets, ZetSetsFieldsAndChoicesOfTheParameterDialog) {
+TEST_F(OpdrachtenToets, ZetVultVeldenEnKeuzesVanHetKeuzevenster) {
   MaakFamilie();
   OpdrachtArgumenten argumenten;
   argumenten.woorden = {"familie", "2"};
@@ -199,50 +153,46 @@ TEST_F(OpdrachtenToets, ZetSetsFieldsAndChoicesOfTheParameterDialog) {
   EXPECT_EQ(uit_.find("Copyright"), std::string::npos);
 }
 
-TEST_F(OpdrachtenToets, AWrongZetEndsWithoutAReport) {
+TEST_F(OpdrachtenToets, EenVerkeerdeZetGeeftGeenVerslag) {
   MaakFamilie();
   OpdrachtArgumenten argumenten;
   argumenten.woorden = {"familie", "2"};
-  for (const std::string zet : {"Onbekend=1", "MaxGen=99", "OokNrsBox=Misschien"}) {
+  const std::pair<std::string, std::string> gevallen[] = {
+      {"Onbekend=1", "Kwartierstaat Uitvoeropties: Onbekend bestaat niet\n"},
+      {"OokNrsBox=Misschien",
+       "Kwartierstaat Uitvoeropties: Ook Persoons- en Relatienummers uitvoeren heeft geen rij "
+       "\"Misschien\"\n"}};
+  for (const auto& [zet, melding] : gevallen) {
     argumenten.zet = {zet};
     EXPECT_EQ(Doe("kwartierstaat", argumenten), 1) << zet;
     EXPECT_EQ(uit_, "") << zet;
-    EXPECT_NE(fout_.find("KwstTxtParam." + zet.substr(0, zet.find('='))), std::string::npos);
+    EXPECT_NE(fout_.find(melding), std::string::npos) << fout_;
   }
 }
 
-TEST_F(OpdrachtenToets, APersonWhoIsNotThereGivesNoReport) {
+TEST_F(OpdrachtenToets, EenPersoonDieErNietIsGeeftGeenVerslag) {
   MaakFamilie();
   EXPECT_EQ(Doe("kwartierstaat", {"familie", "77"}), 1);
   EXPECT_NE(fout_.find("Er is geen verslag gemaakt"), std::string::npos);
 }
 
-TEST_F(OpdrachtenToets, WhatAFieldWouldDropIsRefused) {
+TEST_F(OpdrachtenToets, WatEenVeldLaatVallenWordtGeweigerd) {
   MaakFamilie();
-  for (const std::string nr : {"2x", "x", "200000", "-2"}) {
+  for (const std::string nr : {"200000", "-2"}) {
     EXPECT_EQ(Doe("kwartierstaat", {"familie", nr}), 1) << nr;
     EXPECT_EQ(uit_, "") << nr;
-    EXPECT_NE(fout_.find("KwstTxtPrs.RecordNr neemt \"" + nr + "\" niet aan"), std::string::npos);
+    EXPECT_NE(fout_.find("Nummer Proband: Persoonsnummer neemt \"" + nr + "\" niet aan"),
+              std::string::npos);
   }
   EXPECT_EQ(Doe("nieuw", {"lang", std::string(51, 'x')}), 1);
-  EXPECT_NE(fout_.find("NieuweSet.SetOmsch neemt "), std::string::npos);
+  EXPECT_NE(fout_.find(" neemt \"xxx"), std::string::npos);
   EXPECT_EQ(Doe("zoek", {"lang", "x"}), 1);
 }
 
-TEST_F(OpdrachtenToets, AnUnknownSetIsTold) {
+TEST_F(OpdrachtenToets, EenOnbekendeSetWordtGemeld) {
   MaakFamilie();
   EXPECT_EQ(Doe("kwartierstaat", {"weg", "2"}), 1);
   EXPECT_NE(fout_.find("Bestandenset WEG staat niet in de lijst"), std::string::npos);
-}
-
-TEST_F(OpdrachtenToets, SearchesAPartOfANameInAnyCase) {
-  MaakFamilie();
-  EXPECT_EQ(Doe("zoek", {"familie", "DAM"}), 0);
-  EXPECT_EQ(uit_, "     2  1900-      Jan van Dam\n     3      -      Piet van Dam\n");
-  EXPECT_EQ(Doe("zoek", {"familie", "iet"}), 0);
-  EXPECT_EQ(uit_, "     3      -      Piet van Dam\n");
-  EXPECT_EQ(Doe("zoek", {"familie", "xyz"}), 0);
-  EXPECT_EQ(uit_, "");
 }
 
 }  // namespace

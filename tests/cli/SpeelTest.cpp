@@ -25,7 +25,7 @@ class SpeelDraaiboekToets : public ::testing::Test {
   std::string fout_;
 };
 
-TEST_F(SpeelDraaiboekToets, PrintsTheTranscript) {
+TEST_F(SpeelDraaiboekToets, DruktHetVerslagAf) {
   EXPECT_EQ(Speel("antwoord OK\nkies AboutLB77\ndruk OKButton\nkies KeuzeAfsluiten\n"), 0);
   EXPECT_NE(
       uit_.find("\n+ OverLB77Form \"Over LB77 voor Windows\"\n- OverLB77Form\n- MenuWindow\n"),
@@ -33,24 +33,24 @@ TEST_F(SpeelDraaiboekToets, PrintsTheTranscript) {
   EXPECT_EQ(fout_, "");
 }
 
-TEST_F(SpeelDraaiboekToets, AScriptThatCannotBePlayedEndsWithOneAndItsLine) {
+TEST_F(SpeelDraaiboekToets, EenDraaiboekDatNietGaatEindigtMetEenEnZijnRegel) {
   EXPECT_EQ(Speel("antwoord OK\ndruk Onbekend\n"), 1);
   EXPECT_NE(uit_.find("+ MenuWindow"), std::string::npos);
   EXPECT_NE(fout_.find("regel 2"), std::string::npos);
 }
 
-TEST_F(SpeelDraaiboekToets, AnUnknownInstructionIsToldBeforeAnythingStarts) {
+TEST_F(SpeelDraaiboekToets, EenOnbekendeOpdrachtWordtVoorHetBeginGemeld) {
   EXPECT_EQ(Speel("dans\n"), 1);
   EXPECT_EQ(uit_, "");
   EXPECT_NE(fout_.find("regel 1"), std::string::npos);
 }
 
-TEST_F(SpeelDraaiboekToets, WhatWasNotUsedIsTold) {
+TEST_F(SpeelDraaiboekToets, WatNietIsGebruiktWordtGemeld) {
   EXPECT_EQ(Speel("antwoord OK Ja\ntoon Statusbalk\n"), 0);
   EXPECT_NE(fout_.find("niet gebruikt: "), std::string::npos);
 }
 
-TEST_F(SpeelDraaiboekToets, ANoSettingsFileAnsweredWithCancelEndsTheProgram) {
+TEST_F(SpeelDraaiboekToets, AnnulerenZonderInstellingenEindigtHetProgramma) {
   EXPECT_EQ(Speel("antwoord Annuleren\n"), 0);
   EXPECT_EQ(uit_.find("+ MenuWindow"), std::string::npos);
   EXPECT_FALSE(std::filesystem::exists(map_ / "LIJNBOOM.INI"));

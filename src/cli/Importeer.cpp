@@ -1,0 +1,33 @@
+// `importeer`: reads a GEDCOM file into a file set and prints the log.
+#include "cli/Afdrukken.h"
+#include "cli/Opdrachten.h"
+#include "cli/Sessie.h"
+#include "exchange/ImpGedcom.h"
+#include "output/ToonTekst.h"
+
+namespace lb77 {
+
+int Importeer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
+  Sessie sessie(omgeving, Instelling::VoorNu);
+  const ImpGedcom* import = nullptr;
+  bool gelukt = false;
+  sessie.bediener.Bij("ImpGedcom", [&](Formulier& form) {
+    import = dynamic_cast<const ImpGedcom*>(&form);
+    if (auto* veld = dynamic_cast<Padvak*>(form.Zoek("Bestandsnaam"))) {
+      veld->ZetPad(argumenten.bestand);
+    }
+    Werk(sessie.bediener, form).Druk("OKButton");
+    gelukt = import && import->Gelukt();
+  });
+  sessie.bediener.Bij("ToonTekst", [&](Formulier& form) {
+    const auto* toon = dynamic_cast<ToonTekst*>(&form);
+    // Behind a file that could not be opened the viewer has the log of another import.
+    if (toon && import && import->Pass3box.Gekozen()) DrukUit(toon->UitvoerPad(), omgeving.uit);
+  });
+  return sessie.Voer(argumenten.woorden[0], Omgang::Schrijven, [&](Werk& menu) {
+    menu.Kies("ImportGedcom");
+    if (!gelukt) sessie.bediener.Mislukt("Het bestand is niet ingelezen");
+  });
+}
+
+}  // namespace lb77

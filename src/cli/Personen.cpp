@@ -1,0 +1,100 @@
+#include "cli/Personen.h"
+
+#include <algorithm>
+
+#include "text/Accenten.h"
+#include "text/Letterlijk.h"
+#include "text/Tekens.h"
+#include "text/Unicode.h"
+
+namespace lb77 {
+namespace {
+
+constexpr std::size_t kNummer = 6;
+
+constexpr const Accentletters* kAccenten[] = {&kGravis, &kAcutus,  &kCircumflex, &kTilde, &kUmlaut,
+                                              &kRing,   &kCedille, &kHacekS,     &kHacekZ};
+
+char ZonderAccent(char letter) {
+  for (const Accentletters* accent : kAccenten) {
+    const std::size_t plaats = accent->letters.find(letter);
+    if (plaats != std::string_view::npos) return accent->kaal[plaats];
+  }
+  return letter == "ø"_w[0] || letter == "Ø"_w[0] ? 'O' : letter;
+}
+
+// The form in which names compare.
+std::string Vergelijkbaar(std::string_view tekst) {
+  std::string uit(tekst);
+  std::ranges::transform(uit, uit.begin(),
+                         [](char teken) { return Hoofdletter(ZonderAccent(teken)); });
+  return uit;
+}
+
+// The words of a text between the separators.
+std::vector<std::string> Woorden(std::string_view tekst, std::string_view scheiders) {
+  std::vector<std::string> uit;
+  while (!tekst.empty()) {
+    const std::size_t eind = std::min(tekst.find_first_of(scheiders), tekst.size());
+    const std::string_view woord = Trim(tekst.substr(0, eind));
+    if (!woord.empty()) uit.emplace_back(woord);
+    tekst.remove_prefix(std::min(eind + 1, tekst.size()));
+  }
+  return uit;
+}
+
+// Compares names without their prefixes.
+class Naamzoeker {
+ public:
+  Naamzoeker(const Voorvoegsels& voorvoegsels, std::string_view deel)
+      : voor_(Woorden(Vergelijkbaar(voorvoegsels.Voor1 + "," + voorvoegsels.Voor2), ",")) {
+    while (deel.ends_with('*')) deel.remove_suffix(1);
+    heel_ = Vergelijkbaar(Trim(deel));
+    zonder_ = ZonderVoorvoegsels(heel_);
+  }
+
+  [[nodiscard]] bool Past(std::string_view naam) const {
+    const std::string heel = Vergelijkbaar(naam);
+    if (heel.find(heel_) != std::string::npos) return true;
+    return !zonder_.empty() && ZonderVoorvoegsels(heel).find(zonder_) != std::string::npos;
+  }
+
+ private:
+  [[nodiscard]] std::string ZonderVoorvoegsels(std::string_view naam) const {
+    std::string uit;
+    for (const std::string& woord : Woorden(naam, " ")) {
+      if (std::ranges::find(voor_, woord) != voor_.end()) continue;
+      if (!uit.empty()) uit += ' ';
+      uit += woord;
+    }
+    return uit;
+  }
+
+  std::vector<std::string> voor_;
+  std::string heel_;
+  std::string zonder_;
+};
+
+}  // namespace
+
+std::vector<std::int16_t> ZoekPersonen(PersoonLB77& persoon, const Voorvoegsels& voorvoegsels,
+                                       std::string_view deel) {
+  const Naamzoeker zoeker(voorvoegsels, deel);
+  std::vector<std::int16_t> uit;
+  const int laatste = persoon.AantalRecords();
+  for (int nr = 2; nr <= laatste; ++nr) {
+    const auto recordNr = static_cast<std::int16_t>(nr);
+    if (!persoon.Lees(recordNr) || persoon.IsVolgRecord()) continue;
+    const std::string naam = persoon.VoorNaamTrue() + " " + persoon.AchterNaamTrue();
+    if (zoeker.Past(Trim(naam))) uit.push_back(recordNr);
+  }
+  return uit;
+}
+
+std::string PersoonRegel(PersoonLB77& persoon, std::int16_t nr) {
+  if (!persoon.Lees(nr)) return {};
+  return Kolom(nr, kNummer, Richting::Rechts) + "  " + persoon.Periode(nr) + "  " +
+         WindowsNaarUtf8(persoon.NaamVoluit());
+}
+
+}  // namespace lb77

@@ -1,0 +1,156 @@
+#include "cli/Rapport.h"
+
+#include <algorithm>
+#include <optional>
+#include <ostream>
+#include <string>
+
+#include "cli/Afdrukken.h"
+#include "cli/Personen.h"
+#include "cli/Sessie.h"
+#include "cli/Werkmap.h"
+#include "output/ToonTekst.h"
+#include "text/Getallen.h"
+#include "text/Pad.h"
+#include "text/Tekens.h"
+
+namespace lb77 {
+namespace {
+
+// One report on its way through its forms.
+class Maker {
+ public:
+  Maker(const Rapport& rapport, const Omgeving& omgeving, const OpdrachtArgumenten& argumenten)
+      : rapport_(rapport),
+        omgeving_(omgeving),
+        argumenten_(argumenten),
+        sessie_(omgeving, argumenten.bewaar ? Instelling::VoorLater : Instelling::VoorNu) {
+    argumenten_.woorden.resize(kMeesteWoorden);
+  }
+
+  [[nodiscard]] int Voer() {
+    for (const RapportVorm& vorm : rapport_.vormen) {
+      if (vorm.formulier.empty()) break;
+      sessie_.bediener.Bij(vorm.formulier, [this, &vorm](Formulier& form) { VulIn(vorm, form); });
+    }
+    sessie_.bediener.Bij("ToonTekst", [this](Formulier& form) { NeemVerslag(form); });
+    return sessie_.Voer(argumenten_.woorden[0], Omgang::Lezen,
+                        [this](Werk& menu) { InMenu(menu); });
+  }
+
+ private:
+  void InMenu(Werk& menu) {
+    if (!MagNaar() || !VindPersonen()) return;
+    const Werkmap werkmap(sessie_.Hoofd().Ini.TempDir());
+    sessie_.Hoofd().instellingen.tijdelijk = werkmap.Pad();
+    menu.Kies(rapport_.menuKeuze);
+    if (!getoond_) sessie_.bediener.Mislukt("Er is geen verslag gemaakt");
+  }
+
+  [[nodiscard]] bool MagNaar();
+  [[nodiscard]] bool VindPersonen();
+  [[nodiscard]] bool VindPersoon(std::string& woord);
+  void VulIn(const RapportVorm& vorm, Formulier& form);
+  [[nodiscard]] bool Vul(Werk& werk, const VeldVulling& vulling);
+  void NeemVerslag(Formulier& form);
+
+  const Rapport& rapport_;
+  const Omgeving& omgeving_;
+  OpdrachtArgumenten argumenten_;  // with numbers for the names of persons
+  Sessie sessie_;
+  bool getoond_ = false;
+};
+
+// Before any work: what --uit would replace must be no part of the program's own.
+bool Maker::MagNaar() {
+  if (!argumenten_.naar) return true;
+  const std::string rol =
+      BeschermdeRol(*argumenten_.naar, omgeving_.programmaMap, sessie_.Hoofd().Ini);
+  if (rol.empty()) return true;
+  sessie_.bediener.Mislukt(PadTekst(*argumenten_.naar) + " is " + rol +
+                           " en wordt niet overschreven");
+  return false;
+}
+
+bool Maker::VindPersonen() {
+  for (const RapportVorm& vorm : rapport_.vormen) {
+    for (const VeldVulling& vulling : vorm.velden) {
+      if (vulling.wat != Vulling::Persoon) continue;
+      if (!VindPersoon(argumenten_.woorden[vulling.woord])) return false;
+    }
+  }
+  return true;
+}
+
+// A number is left to the form.
+bool Maker::VindPersoon(std::string& woord) {
+  if (!std::ranges::any_of(woord, IsLetter)) return true;
+  Hoofdmodule& hoofd = sessie_.Hoofd();
+  const auto gevonden = ZoekPersonen(hoofd.Persoon, hoofd.schrijfwijze.voorvoegsels, woord);
+  if (gevonden.size() == 1) {
+    woord = GetalTekst(gevonden.front());
+    return true;
+  }
+  if (gevonden.empty()) {
+    sessie_.bediener.Mislukt("Niemand gevonden met \"" + woord + "\" in de naam");
+    return false;
+  }
+  sessie_.bediener.Mislukt(GetalTekst(static_cast<std::int64_t>(gevonden.size())) +
+                           " personen hebben \"" + woord + "\" in hun naam; geef een nummer:");
+  for (const std::int16_t nr : gevonden) {
+    sessie_.bediener.MisluktUtf8(PersoonRegel(hoofd.Persoon, nr));
+  }
+  return false;
+}
+
+void Maker::VulIn(const RapportVorm& vorm, Formulier& form) {
+  Werk werk(sessie_.bediener, form);
+  bool goed = true;
+  for (const VeldVulling& vulling : vorm.velden) {
+    if (vulling.wat == Vulling::Niets) break;
+    if (!Vul(werk, vulling)) goed = false;
+  }
+  for (const std::string& zet : argumenten_.zet) {
+    if (!vorm.metZet) break;
+    const std::size_t teken = std::min(zet.find('='), zet.size());
+    const std::size_t achter = std::min(teken + 1, zet.size());
+    if (!werk.Zet(zet.substr(0, teken), zet.substr(achter))) goed = false;
+  }
+  if (goed) werk.Druk("OKButton");
+}
+
+bool Maker::Vul(Werk& werk, const VeldVulling& vulling) {
+  switch (vulling.wat) {
+    case Vulling::Niets:
+      break;
+    case Vulling::Woord:
+    case Vulling::Persoon:
+      return werk.Zet(vulling.veld, argumenten_.woorden[vulling.woord]);
+    case Vulling::Html:
+      return werk.Zet(vulling.veld, argumenten_.html ? "Ja" : "Nee");
+    case Vulling::AlleenIngesteld:
+      return !sessie_.Hoofd().Ini.IniWaarde("INTERNET", vulling.sleutel).empty() ||
+             werk.Zet(vulling.veld, "");
+  }
+  return true;
+}
+
+void Maker::NeemVerslag(Formulier& form) {
+  const auto* toon = dynamic_cast<ToonTekst*>(&form);
+  if (!toon) return;
+  getoond_ = true;
+  if (!argumenten_.naar) return DrukUit(toon->UitvoerPad(), omgeving_.uit);
+  if (const SysteemFout fout = BewaarAls(toon->UitvoerPad(), *argumenten_.naar)) {
+    sessie_.bediener.Mislukt("Fout bij het schrijven van " + PadTekst(*argumenten_.naar) + "\n" +
+                             fout.tekst);
+  }
+}
+
+}  // namespace
+
+int MaakRapport(const Rapport& rapport, const Omgeving& omgeving,
+                const OpdrachtArgumenten& argumenten) {
+  return Maker(rapport, omgeving, argumenten).Voer();
+}
+
+}  // namespace lb77
