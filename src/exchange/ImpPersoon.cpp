@@ -37,8 +37,7 @@ bool ImpPersoon::Begin(std::int16_t nr) {
 }
 
 bool ImpPersoon::Bewaar() {
-  loop_.delen.volgers.HuidigPersoonNr = nr_;
-  return loop_.delen.persoon.Schrijf();
+  return loop_.delen.persoon.Schrijf(nr_);
 }
 
 bool ImpPersoon::Neem(const PersoonPad& pad, std::string_view waarde) {
@@ -157,13 +156,11 @@ bool ImpPersoon::MaakVervolg(std::string_view vierde) {
   if (!Bewaar()) return false;
   const std::int16_t vervolg = loop_.NieuwePersoon();
   if (vervolg == 0) return false;
-  loop_.delen.volgers.HuidigPersoonNr = vervolg;
   Zet("GebCorr", "Z");
   Zet("Relatie1", derde);
   Zet("Relatie2", vierde);
   Zet("Relatie3", "0");
-  if (!persoon.Schrijf()) return false;
-  loop_.delen.volgers.HuidigPersoonNr = nr_;
+  if (!persoon.Schrijf(vervolg)) return false;
   if (!persoon.Lees(nr_)) return false;
   Zet("Relatie3", GetalTekst(-vervolg));
   return Bewaar();
@@ -173,10 +170,8 @@ bool ImpPersoon::ZetVijfde(std::string_view vijfde) {
   PersoonLB77& persoon = loop_.delen.persoon;
   const auto vervolg = static_cast<std::int16_t>(-persoon.relatie3());
   if (!Bewaar() || !persoon.Lees(vervolg)) return false;
-  loop_.delen.volgers.HuidigPersoonNr = vervolg;
   Zet("Relatie3", vijfde);
-  if (!persoon.Schrijf()) return false;
-  loop_.delen.volgers.HuidigPersoonNr = nr_;
+  if (!persoon.Schrijf(vervolg)) return false;
   return persoon.Lees(nr_);
 }
 

@@ -29,8 +29,7 @@ bool ImpRelatie::Begin(std::int16_t nr) {
 }
 
 bool ImpRelatie::Bewaar() {
-  loop_.delen.volgers.HuidigRelatieNr = nr_;
-  return loop_.delen.relatie.Schrijf();
+  return loop_.delen.relatie.Schrijf(nr_);
 }
 
 bool ImpRelatie::Neem(const RelatiePad& pad, std::string_view waarde, char laatsteOvlCorr) {
@@ -92,12 +91,10 @@ bool ImpRelatie::MaakVervolg(std::string_view kind) {
   if (!Bewaar()) return false;
   const std::int16_t vervolg = loop_.NieuweRelatie();
   if (vervolg == 0) return false;
-  loop_.delen.volgers.HuidigRelatieNr = vervolg;
   Zet("HuwCorr", "Z");
   Zet("Kind1", vijftiende);
   Zet("Kind2", kind);
-  if (!relatie.Schrijf()) return false;
-  loop_.delen.volgers.HuidigRelatieNr = nr_;
+  if (!relatie.Schrijf(vervolg)) return false;
   if (!relatie.Lees(nr_)) return false;
   Zet(KindVeld(kInHoofdrecord), GetalTekst(-vervolg));
   return Bewaar();
@@ -107,10 +104,8 @@ bool ImpRelatie::ZetInVervolg(std::string_view kind) {
   RelatieLB77& relatie = loop_.delen.relatie;
   const auto vervolg = static_cast<std::int16_t>(-relatie.KindNr(kInHoofdrecord));
   if (!Bewaar() || !relatie.Lees(vervolg)) return false;
-  loop_.delen.volgers.HuidigRelatieNr = vervolg;
   Zet(KindVeld(kinderen_ - kVerschuiving), kind);
-  if (!relatie.Schrijf()) return false;
-  loop_.delen.volgers.HuidigRelatieNr = nr_;
+  if (!relatie.Schrijf(vervolg)) return false;
   return relatie.Lees(nr_);
 }
 

@@ -86,10 +86,16 @@ bool OpmLB77::SchrijfAdm(std::int16_t Aantal, std::int16_t Vrij, std::int16_t Ge
 }
 
 bool OpmLB77::Lees() {
-  return LeesRecord(Trackers().HuidigOpmNr);
+  return Lees(Trackers().HuidigOpmNr);
+}
+bool OpmLB77::Lees(std::int16_t Nr) {
+  return LeesRecord(Nr);
 }
 bool OpmLB77::Schrijf() {
-  return SchrijfRecord(Trackers().HuidigOpmNr);
+  return Schrijf(Trackers().HuidigOpmNr);
+}
+bool OpmLB77::Schrijf(std::int16_t Nr) {
+  return SchrijfRecord(Nr);
 }
 void OpmLB77::LeegOpmBuffer() {
   Leeg();

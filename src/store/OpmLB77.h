@@ -32,7 +32,7 @@ struct OpmVindplaats {
 // The rubrics of a code and one more: the bits together, negative when either is.
 std::int16_t OpmCodeMet(std::int16_t code, std::int16_t rubriek);
 
-// Holds one line. Reading and writing go by HuidigOpmNr.
+// Holds one line. Reading and writing go by HuidigOpmNr, or by a number given.
 class OpmLB77 final : public RecordRaam {
  public:
   // `persoon` and `relatie` are the owners that SchrijfOpmerking keeps in step.
@@ -49,6 +49,8 @@ class OpmLB77 final : public RecordRaam {
   void LeegOpmBuffer();
   // Writes the buffer to HuidigOpmNr.
   [[nodiscard]] bool Schrijf();
+  // Writes the buffer to record `Nr`, wherever HuidigOpmNr stands.
+  [[nodiscard]] bool Schrijf(std::int16_t Nr);
   // Stores the three counters in the buffer, which must hold record 1, and writes record 1.
   [[nodiscard]] bool SchrijfAdm(std::int16_t Aantal, std::int16_t Vrij, std::int16_t Gebruikt);
 
@@ -77,10 +79,12 @@ class OpmLB77 final : public RecordRaam {
 
   // Reads HuidigOpmNr. False, silently, for an absent record; OpmBufNr is -1 then.
   [[nodiscard]] bool Lees();
+  // Reads record `Nr` likewise, wherever HuidigOpmNr stands.
+  [[nodiscard]] bool Lees(std::int16_t Nr);
 
   // As in the frame, but the count includes record 1, and neither warns of a wrong count.
-  std::int16_t AantalInAdmin();
-  std::int16_t AantalRecords();
+  std::int16_t AantalInAdmin() override;
+  std::int16_t AantalRecords() override;
 
   // Line `Regel` (1 to 10) of the first remark of a rubric in the chain from `Begin`; 11 to 20 are
   // the lines of the second remark, and so on. Empty when there is none. A bad link gives a text

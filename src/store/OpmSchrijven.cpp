@@ -219,13 +219,10 @@ bool OpmLB77::SchrijfEigenaar(const Opdracht& opdracht, const Eigenaar& eigenaar
                               std::string_view persoonFout) {
   const bool isPersoon = opdracht.persoon != 0;
   RecordRaam& raam = isPersoon ? static_cast<RecordRaam&>(persoon_) : relatie_;
-  std::int16_t& huidig = isPersoon ? Trackers().HuidigPersoonNr : Trackers().HuidigRelatieNr;
   raam.Zet("OpmRecord", GetalTekst(eigenaar.opmRecord));
   raam.Zet("OpmCode", GetalTekst(eigenaar.opmCode));
-  const std::int16_t bewaard =
-      std::exchange(huidig, isPersoon ? opdracht.persoon : opdracht.relatie);
-  const bool gelukt = isPersoon ? persoon_.Schrijf() : relatie_.Schrijf();
-  huidig = bewaard;
+  const bool gelukt =
+      isPersoon ? persoon_.Schrijf(opdracht.persoon) : relatie_.Schrijf(opdracht.relatie);
   if (!gelukt) MeldFout(isPersoon ? persoonFout : "Fout bij het schrijven van Relatie");
   return gelukt;
 }

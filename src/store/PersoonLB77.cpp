@@ -61,8 +61,8 @@ void PersoonLB77::HerstelSonde(Soort) {
 bool PersoonLB77::Lees(std::int16_t Nr) {
   return LeesRecord(Nr);
 }
-bool PersoonLB77::Schrijf() {
-  return SchrijfRecord(Trackers().HuidigPersoonNr);
+bool PersoonLB77::Schrijf(std::int16_t Nr) {
+  return SchrijfRecord(Nr);
 }
 bool PersoonLB77::Nieuw(std::int32_t Nr) {
   return NieuwRecord(Nr);

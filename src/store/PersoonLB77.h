@@ -98,8 +98,8 @@ class PersoonLB77 final : public RecordRaam {
 
   // Reads person `Nr`. False, silently, for an absent record; PersBufNr is -1 then.
   [[nodiscard]] bool Lees(std::int16_t Nr);
-  // Writes the buffer to HuidigPersoonNr.
-  [[nodiscard]] bool Schrijf();
+  // Writes the buffer to person `Nr`, wherever HuidigPersoonNr stands.
+  [[nodiscard]] bool Schrijf(std::int16_t Nr);
   // Makes an empty person at `Nr` (from 2, AantalRecords() + 1) and reads it. Above 32767 it
   // refuses with a message.
   [[nodiscard]] bool Nieuw(std::int32_t Nr);

@@ -214,33 +214,57 @@ void RecordRaam::ZetTekstIn(const Veld& veld, std::string_view windows) {
   ZetBytesIn(veld, WindowsNaarDos(Trim(windows)));
 }
 
-void RecordRaam::Zet(std::string_view veld, std::string_view waarde) {
+const Veld* RecordRaam::VindVeld(std::string_view naam) const {
   const auto gevonden =
       std::find_if(tabel_.velden.begin(), tabel_.velden.end(),
-                   [&](const Veld& kandidaat) { return !veld.empty() && kandidaat.naam == veld; });
-  if (gevonden != tabel_.velden.end()) {
-    Verwerk(*gevonden, waarde);
-  } else {
-    opslag_.gesprek.Waarschuw("Opslaan van " + std::string(veld) + " is nog niet geprogrammeerd");
-  }
+                   [&](const Veld& kandidaat) { return !naam.empty() && kandidaat.naam == naam; });
+  if (gevonden != tabel_.velden.end()) return &*gevonden;
+  opslag_.gesprek.Waarschuw("Opslaan van " + std::string(naam) + " is nog niet geprogrammeerd");
+  return nullptr;
 }
 
-void RecordRaam::ZetGetalTekst(const Veld& veld, std::string_view waarde) {
-  if (const auto getal = NaarInt16(Getalwaarde(Trim(waarde)))) {
+void RecordRaam::Zet(std::string_view veld, std::string_view waarde) {
+  const Veld* gevonden = VindVeld(veld);
+  // A refusal has its message and changes nothing.
+  if (gevonden != nullptr) static_cast<void>(Verwerk(*gevonden, waarde));
+}
+
+bool RecordRaam::Wijzig(std::int16_t nr, std::span<const VeldWaarde> velden) {
+  if (nr < 2) {
+    Leeg();
+    return false;
+  }
+  if (!LeesRecord(nr)) return false;
+  for (const VeldWaarde& paar : velden) {
+    const Veld* veld = paar.veld != nullptr ? paar.veld : VindVeld(paar.naam);
+    if (veld == nullptr || !Verwerk(*veld, paar.waarde)) {
+      Leeg();
+      return false;
+    }
+  }
+  if (SchrijfRecord(nr)) return true;
+  Leeg();
+  return false;
+}
+
+bool RecordRaam::ZetGetalTekst(const Veld& veld, std::string_view waarde) {
+  const auto getal = NaarInt16(Getalwaarde(Trim(waarde)));
+  if (getal) {
     ZetGetal(veld, *getal);
   } else {
     MeldFout(kMaximumBereikt);
   }
+  return getal.has_value();
 }
 
-void RecordRaam::Verwerk(const Veld& veld, std::string_view waarde) {
+bool RecordRaam::Verwerk(const Veld& veld, std::string_view tekst) {
+  const std::string_view waarde = WaardeVoor(veld, tekst);
   switch (veld.soort) {
     case VeldSoort::Tekst:
       ZetTekstIn(veld, waarde);
       break;
     case VeldSoort::Getal:
-      ZetGetalTekst(veld, waarde);
-      break;
+      return ZetGetalTekst(veld, waarde);
     case VeldSoort::Datum: {
       const DatumDelen datum = OntleedDatum10(waarde);
       ZetGetal(veld, static_cast<std::int16_t>(datum.dag * 100 + datum.maand));
@@ -255,6 +279,7 @@ void RecordRaam::Verwerk(const Veld& veld, std::string_view waarde) {
     case VeldSoort::Vrij:
       break;
   }
+  return true;
 }
 
 }  // namespace lb77

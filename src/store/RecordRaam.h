@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <span>
 #include <string>
 #include <string_view>
@@ -13,6 +14,7 @@
 #include "store/RecordBestand.h"
 #include "store/SysteemFout.h"
 #include "store/Veld.h"
+#include "store/VeldWaarde.h"
 #include "store/Volgers.h"
 
 namespace lb77 {
@@ -50,12 +52,12 @@ class RecordRaam {
   [[nodiscard]] bool SchrijfAdmin();
 
   // The count that record 1 states; 0 when it can't be read. The buffer then holds record 1.
-  std::int16_t AantalInAdmin();
+  virtual std::int16_t AantalInAdmin();
 
   // The highest record number, found downward from the count of record 1; warns when they differ.
   // An empty set gives 1; a file without a record 1 gives 0, one of places 1. The buffer then
   // holds that record.
-  std::int16_t AantalRecords();
+  virtual std::int16_t AantalRecords();
 
   // The highest number reached by reading upward from 2 until a read fails. The buffer is empty
   // after it.
@@ -64,6 +66,15 @@ class RecordRaam {
   // Stores one field of the buffer from text. A name that the class doesn't know shows a warning,
   // a number that doesn't fit in 16 bits an error; both change nothing.
   void Zet(std::string_view veld, std::string_view waarde);
+
+  // Reads record `nr` (from 2), sets fields of it and writes it; no tracker of a current number
+  // moves. False for a record that can't be read (silently when it is absent), a value that Zet
+  // refuses, and a failed write; nothing is written but by the last. Afterwards the buffer holds
+  // the record as written, or nothing.
+  [[nodiscard]] bool Wijzig(std::int16_t nr, std::span<const VeldWaarde> velden);
+  [[nodiscard]] bool Wijzig(std::int16_t nr, std::initializer_list<VeldWaarde> velden) {
+    return Wijzig(nr, std::span(velden.begin(), velden.size()));
+  }
 
   // Stores the count in the buffer, which must hold record 1.
   void ZetAantal(std::int16_t aantal);
@@ -126,6 +137,8 @@ class RecordRaam {
   virtual bool IsGat(Soort soort) const = 0;
   // True when the stored text of the probe may equal its sentinel.
   virtual bool MagSchildwachtZijn(Soort) const { return false; }
+  // What Zet stores for a value of this field.
+  virtual std::string_view WaardeVoor(const Veld&, std::string_view waarde) const { return waarde; }
   // Puts the probe right after a read that was accepted.
   virtual void HerstelSonde(Soort) {}
 
@@ -140,8 +153,11 @@ class RecordRaam {
   std::int32_t RecordsInBestand() const;
   // Reads a record of a scan; shows an error of the system unless one was shown before.
   [[nodiscard]] bool Probeer(std::int32_t nr, bool& gemeld);
-  void Verwerk(const Veld& veld, std::string_view waarde);
-  void ZetGetalTekst(const Veld& veld, std::string_view waarde);
+  // The field of this name; none after a warning.
+  const Veld* VindVeld(std::string_view naam) const;
+  // Stores a value; False after a message.
+  [[nodiscard]] bool Verwerk(const Veld& veld, std::string_view waarde);
+  [[nodiscard]] bool ZetGetalTekst(const Veld& veld, std::string_view waarde);
 
   static constexpr std::size_t kGrootste = 128;
 

@@ -48,8 +48,8 @@ void RelatieLB77::HerstelSonde(Soort) {
 bool RelatieLB77::Lees(std::int16_t Nr) {
   return LeesRecord(Nr);
 }
-bool RelatieLB77::Schrijf() {
-  return SchrijfRecord(Trackers().HuidigRelatieNr);
+bool RelatieLB77::Schrijf(std::int16_t Nr) {
+  return SchrijfRecord(Nr);
 }
 bool RelatieLB77::Nieuw(std::int32_t Nr) {
   return NieuwRecord(Nr);
@@ -67,14 +67,11 @@ bool RelatieLB77::NieuwAdm() {
   return SchrijfAdmin();
 }
 
-void RelatieLB77::Zet(std::string_view veldNaam, std::string_view waarde) {
-  std::string_view nummer = waarde;
-  if (veldNaam == veld::HuwSwPs.naam) {
-    const std::string_view woord = Trim(waarde);
-    if (woord == "Sw") nummer = "1";
-    if (woord == "Ps") nummer = "2";
-  }
-  RecordRaam::Zet(veldNaam, nummer);
+std::string_view RelatieLB77::WaardeVoor(const Veld& deze, std::string_view waarde) const {
+  if (deze.naam != veld::HuwSwPs.naam) return waarde;
+  const std::string_view woord = Trim(waarde);
+  if (woord == "Sw") return "1";
+  return woord == "Ps" ? "2" : waarde;
 }
 
 std::int16_t RelatieLB77::KindNr(std::int16_t Index) const {

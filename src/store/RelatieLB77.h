@@ -20,8 +20,8 @@ class RelatieLB77 final : public RecordRaam {
  public:
   explicit RelatieLB77(const Opslag& opslag);
 
-  // Writes the buffer to HuidigRelatieNr.
-  [[nodiscard]] bool Schrijf();
+  // Writes the buffer to relation `Nr`, wherever HuidigRelatieNr stands.
+  [[nodiscard]] bool Schrijf(std::int16_t Nr);
   // True for a continuation record.
   [[nodiscard]] bool IsVolgRecord() const;
 
@@ -83,9 +83,6 @@ class RelatieLB77 final : public RecordRaam {
   // "S" for Samenwonen, "P" for Partnerschap, empty for a marriage.
   std::string HuwSwPs() const;
 
-  // As RecordRaam::Zet; for "HuwSwPs" it also takes the words "Sw" and "Ps" beside 1 and 2.
-  void Zet(std::string_view veld, std::string_view waarde);
-
   // Makes an empty relation at `Nr` (from 2, AantalRecords() + 1) and reads it. Above 32767 it
   // refuses with a message.
   [[nodiscard]] bool Nieuw(std::int32_t Nr);
@@ -95,6 +92,8 @@ class RelatieLB77 final : public RecordRaam {
  private:
   bool IsGat(Soort soort) const override;
   void HerstelSonde(Soort soort) override;
+  // For "HuwSwPs" Zet also takes the words "Sw" and "Ps" beside 1 and 2.
+  std::string_view WaardeVoor(const Veld& veld, std::string_view waarde) const override;
   std::string Entree(const Veld& dagMaand, const Veld& jaar) const;
 };
 

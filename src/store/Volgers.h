@@ -8,8 +8,8 @@ namespace lb77 {
 // -1 in a current number means none, or a new record; in a buffer number that nothing valid lies
 // in the buffer.
 struct Volgers {
-  std::int16_t HuidigPersoonNr = -1;  // where PersoonLB77 writes
-  std::int16_t HuidigRelatieNr = -1;  // where RelatieLB77 writes
+  std::int16_t HuidigPersoonNr = -1;  // the person at hand
+  std::int16_t HuidigRelatieNr = -1;  // the relation at hand
   std::int16_t HuidigOpmNr = -1;      // where OpmLB77 reads and writes
   std::int16_t PersBufNr = -1;
   std::int16_t RelBufNr = -1;

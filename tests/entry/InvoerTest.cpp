@@ -122,7 +122,7 @@ TEST_F(InvoerTest, EenOnleesbareRelatieOfPersoonBestaatNiet) {
 
 TEST_F(InvoerTest, EenOnjuisteTellingWordtGemeldVoorDeTekstBekekenWordt) {
   Reeks(2);
-  Bouw().WijzigPersoon(1, {{"GebPlaats", "5"}});
+  Bouw().ZetAantalPersonen(5);
   VerwachtOngeldig("4x", BestandSoort::Personen, Vervolgtest::Geen, R"(
     ! uitroep "Aantal persoonsrecords in administratierecord is onjuist\nGevonden:3\nVolgens administratierecord:6"
     ! uitroep "Recordnummer is niet numeriek"

@@ -198,7 +198,7 @@ TEST_F(ZoekPersoonTest, EenOnleesbaarRecordVraagtOfHetDoorgaat) {
 
 TEST_F(ZoekPersoonTest, EenOnjuisteTellingWordtEerstGemeld) {
   Bouw().Man("Jan", "Vos");
-  Bouw().WijzigPersoon(1, {{"GebPlaats", "5"}});
+  Bouw().ZetAantalPersonen(5);
   EXPECT_EQ(Zoek("Jan", "Vos", "*", "druk JaButton", R"(
     ! uitroep "Aantal persoonsrecords in administratierecord is onjuist\nGevonden:2\nVolgens administratierecord:6"
     + OKPersoon "Zoek Persoon op Naam"

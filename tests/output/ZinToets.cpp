@@ -17,10 +17,7 @@ ZinToets::ZinToets() {
 }
 
 void ZinToets::WijzigOpm(std::int16_t nr, VeldWaarden velden) {
-  set_.volgers.HuidigOpmNr = nr;
-  EXPECT_TRUE(set_.Opmerking.Lees());
-  for (const auto& [veld, waarde] : velden) set_.Opmerking.Zet(veld, waarde);
-  EXPECT_TRUE(set_.Opmerking.Schrijf());
+  EXPECT_TRUE(set_.Opmerking.Wijzig(nr, velden));
 }
 
 std::string ZinToets::Rapport(const ZinOpties& opties, const Taak& taak, int breedte) {

@@ -11,7 +11,7 @@ constexpr std::string_view kIni =
     "[Genealogie]\r\nDatumForm=0\r\n\r\n[Printer]\r\nTekstbr=80\r\n";
 
 void Vul(Hoofdmodule& hoofd) {
-  BouwFamilie bouw(hoofd.Persoon, hoofd.Relatie, hoofd.Plaats, hoofd.Opmerking, hoofd.volgers);
+  BouwFamilie bouw(hoofd.Persoon, hoofd.Relatie, hoofd.Plaats, hoofd.Opmerking);
   bouw.Plaats("Delft", "ZH");
   const auto kind = bouw.Man("Jan", "van Dam", {{"GebDatum", "01-02-1900"}, {"GebPlaats", "2"}});
   const auto vader = bouw.Man("Piet", "van Dam");

@@ -35,7 +35,7 @@ class FormulierenTest : public Formulierproef, public testing::WithParamInterfac
     ASSERT_TRUE(hoofd.Relatie.NieuwAdm());
     ASSERT_TRUE(hoofd.Opmerking.NieuwAdm());
     ASSERT_TRUE(hoofd.Plaats.NieuwAdm());
-    BouwFamilie bouw(hoofd.Persoon, hoofd.Relatie, hoofd.Plaats, hoofd.Opmerking, hoofd.volgers);
+    BouwFamilie bouw(hoofd.Persoon, hoofd.Relatie, hoofd.Plaats, hoofd.Opmerking);
     const auto willem = bouw.Man("Willem", "van Oranje", {{"GebDatum", "24-04-1533"}});
     const auto charlotte = bouw.Vrouw("Charlotte", "de Bourbon");
     const auto louise = bouw.Vrouw("Louise Juliana", "van Nassau", {{"GebDatum", "31-03-1576"}});

@@ -17,24 +17,6 @@ OpmRegels TienRegels(const std::vector<std::string>& regels) {
 
 }  // namespace
 
-void BouwFamilie::ZetPersoon(const std::string& veld, std::int32_t waarde) {
-  persoon_.Zet(veld, std::to_string(waarde));
-}
-
-void BouwFamilie::ZetRelatie(const std::string& veld, std::int32_t waarde) {
-  relatie_.Zet(veld, std::to_string(waarde));
-}
-
-void BouwFamilie::SchrijfPersoon(std::int16_t nr) {
-  volgers_.HuidigPersoonNr = nr;
-  EXPECT_TRUE(persoon_.Schrijf());
-}
-
-void BouwFamilie::SchrijfRelatie(std::int16_t nr) {
-  volgers_.HuidigRelatieNr = nr;
-  EXPECT_TRUE(relatie_.Schrijf());
-}
-
 std::int16_t BouwFamilie::NieuwePersoon() {
   const auto nr = static_cast<std::int16_t>(persoon_.AantalRecords() + 1);
   EXPECT_TRUE(persoon_.Nieuw(nr));
@@ -50,11 +32,10 @@ std::int16_t BouwFamilie::NieuweRelatie() {
 std::int16_t BouwFamilie::Persoon(char geslacht, std::string_view voornaam,
                                   std::string_view achternaam, VeldWaarden velden) {
   const std::int16_t nr = NieuwePersoon();
-  if (geslacht != '?') persoon_.Zet("Geslacht", std::string(1, geslacht));
-  persoon_.Zet("Voornaam", voornaam);
-  persoon_.Zet("Achternaam", achternaam);
-  for (const auto& [veld, waarde] : velden) persoon_.Zet(veld, waarde);
-  SchrijfPersoon(nr);
+  std::vector<VeldWaarde> alle{{"Voornaam", voornaam}, {"Achternaam", achternaam}};
+  if (geslacht != '?') alle.emplace_back("Geslacht", geslacht);
+  alle.insert(alle.end(), velden);
+  EXPECT_TRUE(persoon_.Wijzig(nr, alle));
   return nr;
 }
 
@@ -70,10 +51,9 @@ std::int16_t BouwFamilie::Plaats(std::string_view naam, std::string_view prov) {
 std::int16_t BouwFamilie::Relatie(std::int16_t man, std::int16_t vrouw,
                                   const std::vector<std::int16_t>& kinderen, VeldWaarden velden) {
   const std::int16_t nr = NieuweRelatie();
-  ZetRelatie("ManNr", man);
-  ZetRelatie("VrouwNr", vrouw);
-  for (const auto& [veld, waarde] : velden) relatie_.Zet(veld, waarde);
-  SchrijfRelatie(nr);
+  std::vector<VeldWaarde> alle{{"ManNr", man}, {"VrouwNr", vrouw}};
+  alle.insert(alle.end(), velden);
+  EXPECT_TRUE(relatie_.Wijzig(nr, alle));
   ZetKinderen(nr, kinderen);
   if (man != 0) VoegRelatieBij(man, nr);
   if (vrouw != 0) VoegRelatieBij(vrouw, nr);
@@ -83,25 +63,22 @@ std::int16_t BouwFamilie::Relatie(std::int16_t man, std::int16_t vrouw,
 void BouwFamilie::ZetKinderen(std::int16_t relatie, const std::vector<std::int16_t>& kinderen) {
   ASSERT_LE(kinderen.size(), 29U) << "een relatie heeft hoogstens 29 kinderen";
   const std::int16_t vervolg = kinderen.size() > 15 ? NieuweRelatie() : std::int16_t{0};
-  EXPECT_TRUE(relatie_.Lees(relatie));
+  std::vector<std::string> namen;
+  for (int slot = 1; slot <= 15; ++slot) namen.push_back("Kind" + std::to_string(slot));
+  std::vector<VeldWaarde> eerste;
   for (std::size_t i = 0; i < std::min<std::size_t>(kinderen.size(), 15); ++i) {
-    ZetRelatie("Kind" + std::to_string(i + 1), kinderen[i]);
+    eerste.emplace_back(namen[i], kinderen[i]);
   }
-  if (vervolg != 0) ZetRelatie("Kind15", -vervolg);
-  SchrijfRelatie(relatie);
+  if (vervolg != 0) eerste.emplace_back(namen[14], -vervolg);
+  EXPECT_TRUE(relatie_.Wijzig(relatie, eerste));
   if (vervolg != 0) {
-    EXPECT_TRUE(relatie_.Lees(vervolg));
-    relatie_.Zet("HuwCorr", "Z");
-    for (std::size_t i = 14; i < kinderen.size(); ++i) {
-      ZetRelatie("Kind" + std::to_string(i - 13), kinderen[i]);
-    }
-    SchrijfRelatie(vervolg);
+    std::vector<VeldWaarde> rest{{"HuwCorr", 'Z'}};
+    for (std::size_t i = 14; i < kinderen.size(); ++i)
+      rest.emplace_back(namen[i - 14], kinderen[i]);
+    EXPECT_TRUE(relatie_.Wijzig(vervolg, rest));
   }
-  for (const std::int16_t kind : kinderen) {
-    EXPECT_TRUE(persoon_.Lees(kind));
-    ZetPersoon("Ouders", relatie);
-    SchrijfPersoon(kind);
-  }
+  for (const std::int16_t kind : kinderen)
+    EXPECT_TRUE(persoon_.Wijzig(kind, {{"Ouders", relatie}}));
 }
 
 void BouwFamilie::VoegRelatieBij(std::int16_t persoon, std::int16_t relatie) {
@@ -115,16 +92,13 @@ void BouwFamilie::VoegRelatieBij(std::int16_t persoon, std::int16_t relatie) {
   std::int16_t vervolg =
       persoon_.relatie3() < 0 ? static_cast<std::int16_t>(-persoon_.relatie3()) : std::int16_t{0};
   if (tab[4] != 0 && vervolg == 0) vervolg = NieuwePersoon();
-  EXPECT_TRUE(persoon_.Lees(persoon));
-  ZetPersoon("Relatie1", tab[1]);
-  ZetPersoon("Relatie2", tab[2]);
-  ZetPersoon("Relatie3", vervolg != 0 ? -vervolg : tab[3]);
-  SchrijfPersoon(persoon);
+  EXPECT_TRUE(persoon_.Wijzig(persoon, {{"Relatie1", tab[1]},
+                                        {"Relatie2", tab[2]},
+                                        {"Relatie3", vervolg != 0 ? -vervolg : tab[3]}}));
   if (vervolg == 0) return;
-  EXPECT_TRUE(persoon_.Lees(vervolg));
-  persoon_.Zet("GebCorr", "Z");
-  for (std::size_t i = 3; i <= 5; ++i) ZetPersoon("Relatie" + std::to_string(i - 2), tab[i]);
-  SchrijfPersoon(vervolg);
+  EXPECT_TRUE(persoon_.Wijzig(
+      vervolg,
+      {{"GebCorr", 'Z'}, {"Relatie1", tab[3]}, {"Relatie2", tab[4]}, {"Relatie3", tab[5]}}));
 }
 
 void BouwFamilie::OpmerkingBijPersoon(std::int16_t nr, std::int16_t rubriek,
@@ -142,15 +116,17 @@ void BouwFamilie::OpmerkingBijRelatie(std::int16_t nr, std::int16_t rubriek,
 }
 
 void BouwFamilie::WijzigPersoon(std::int16_t nr, VeldWaarden velden) {
-  ASSERT_TRUE(persoon_.Lees(nr));
-  for (const auto& [veld, waarde] : velden) persoon_.Zet(veld, waarde);
-  SchrijfPersoon(nr);
+  EXPECT_TRUE(persoon_.Wijzig(nr, velden));
 }
 
 void BouwFamilie::WijzigRelatie(std::int16_t nr, VeldWaarden velden) {
-  ASSERT_TRUE(relatie_.Lees(nr));
-  for (const auto& [veld, waarde] : velden) relatie_.Zet(veld, waarde);
-  SchrijfRelatie(nr);
+  EXPECT_TRUE(relatie_.Wijzig(nr, velden));
+}
+
+void BouwFamilie::ZetAantalPersonen(std::int16_t aantal) {
+  EXPECT_TRUE(persoon_.LeesAdmin());
+  persoon_.ZetAantal(aantal);
+  EXPECT_TRUE(persoon_.SchrijfAdmin());
 }
 
 }  // namespace lb77

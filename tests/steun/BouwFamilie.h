@@ -5,31 +5,23 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include "store/OpmLB77.h"
 #include "store/PersoonLB77.h"
 #include "store/PlaatsLB77.h"
 #include "store/RelatieLB77.h"
-#include "store/Volgers.h"
+#include "store/VeldWaarde.h"
 
 namespace lb77 {
 
-// A field of Zet and its value, in Windows-1252.
-using VeldWaarde = std::pair<std::string_view, std::string_view>;
 using VeldWaarden = std::initializer_list<VeldWaarde>;
 
 // Works on the record classes of a session; a failure fails the test. Numbers start at 2.
 class BouwFamilie {
  public:
-  BouwFamilie(PersoonLB77& persoon, RelatieLB77& relatie, PlaatsLB77& plaats, OpmLB77& opmerking,
-              Volgers& volgers)
-      : persoon_(persoon),
-        relatie_(relatie),
-        plaats_(plaats),
-        opmerking_(opmerking),
-        volgers_(volgers) {}
+  BouwFamilie(PersoonLB77& persoon, RelatieLB77& relatie, PlaatsLB77& plaats, OpmLB77& opmerking)
+      : persoon_(persoon), relatie_(relatie), plaats_(plaats), opmerking_(opmerking) {}
 
   // Each makes a record behind the last and gives its number. A sex of '?' stays blank.
   std::int16_t Persoon(char geslacht, std::string_view voornaam, std::string_view achternaam,
@@ -58,22 +50,19 @@ class BouwFamilie {
   // Changes fields of a record.
   void WijzigPersoon(std::int16_t nr, VeldWaarden velden);
   void WijzigRelatie(std::int16_t nr, VeldWaarden velden);
+  // Has record 1 state another number of persons.
+  void ZetAantalPersonen(std::int16_t aantal);
 
  private:
   void VoegRelatieBij(std::int16_t persoon, std::int16_t relatie);
   void ZetKinderen(std::int16_t relatie, const std::vector<std::int16_t>& kinderen);
   std::int16_t NieuwePersoon();
   std::int16_t NieuweRelatie();
-  void SchrijfPersoon(std::int16_t nr);
-  void SchrijfRelatie(std::int16_t nr);
-  void ZetRelatie(const std::string& veld, std::int32_t waarde);
-  void ZetPersoon(const std::string& veld, std::int32_t waarde);
 
   PersoonLB77& persoon_;
   RelatieLB77& relatie_;
   PlaatsLB77& plaats_;
   OpmLB77& opmerking_;
-  Volgers& volgers_;
 };
 
 }  // namespace lb77

@@ -47,7 +47,7 @@ class ProefSet {
   RelatieLB77 Relatie{opslag};
   PlaatsLB77 Plaats{opslag};
   OpmLB77 Opmerking{opslag, Persoon, Relatie};
-  BouwFamilie bouw{Persoon, Relatie, Plaats, Opmerking, volgers};
+  BouwFamilie bouw{Persoon, Relatie, Plaats, Opmerking};
 
  private:
   explicit ProefSet(Bestandenset set) : bestanden(std::move(set)) {}

@@ -49,7 +49,7 @@ std::vector<std::string> Voorbeelden() {
 
 template <class Klasse>
 std::string Bytes(Klasse& klasse, VeldWaarden velden) {
-  for (const auto& [veld, waarde] : velden) klasse.Zet(veld, waarde);
+  for (const VeldWaarde& paar : velden) klasse.Zet(paar.naam, paar.waarde);
   return {klasse.Bytes().data(), klasse.Bytes().size()};
 }
 

@@ -36,7 +36,7 @@ TEST_F(PersoonLB77Test, LezenEnSchrijvenZetDePlaatsbufferOpNul) {
   EXPECT_EQ(set.volgers.PlaatsBufNr, 0);
   EXPECT_EQ(set.Plaats.Naam(plaats), "Delft");
   EXPECT_EQ(set.volgers.PlaatsBufNr, plaats);
-  ASSERT_TRUE(set.Persoon.Schrijf());
+  ASSERT_TRUE(set.Persoon.Schrijf(man));
   EXPECT_EQ(set.volgers.PlaatsBufNr, 0);
 }
 

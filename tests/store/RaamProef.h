@@ -27,10 +27,7 @@ struct PersoonProef {
   static Klasse& Van(ProefSet& set) { return set.Persoon; }
   static std::int16_t BufNr(const ProefSet& set) { return set.volgers.PersBufNr; }
   static bool Lees(ProefSet& set, std::int16_t nr) { return set.Persoon.Lees(nr); }
-  static bool Schrijf(ProefSet& set, std::int16_t nr) {
-    set.volgers.HuidigPersoonNr = nr;
-    return set.Persoon.Schrijf();
-  }
+  static bool Schrijf(ProefSet& set, std::int16_t nr) { return set.Persoon.Schrijf(nr); }
   static std::string Tekst(const Klasse& klasse) { return klasse.VoorNaamTrue(); }
 };
 
@@ -51,10 +48,7 @@ struct RelatieProef {
   static Klasse& Van(ProefSet& set) { return set.Relatie; }
   static std::int16_t BufNr(const ProefSet& set) { return set.volgers.RelBufNr; }
   static bool Lees(ProefSet& set, std::int16_t nr) { return set.Relatie.Lees(nr); }
-  static bool Schrijf(ProefSet& set, std::int16_t nr) {
-    set.volgers.HuidigRelatieNr = nr;
-    return set.Relatie.Schrijf();
-  }
+  static bool Schrijf(ProefSet& set, std::int16_t nr) { return set.Relatie.Schrijf(nr); }
   static std::string Tekst(const Klasse& klasse) { return klasse.HuwSoort(); }
 };
 
@@ -96,14 +90,8 @@ struct OpmProef {
   static constexpr const char* kNaam = "Opmrecord";
   static Klasse& Van(ProefSet& set) { return set.Opmerking; }
   static std::int16_t BufNr(const ProefSet& set) { return set.volgers.OpmBufNr; }
-  static bool Lees(ProefSet& set, std::int16_t nr) {
-    set.volgers.HuidigOpmNr = nr;
-    return set.Opmerking.Lees();
-  }
-  static bool Schrijf(ProefSet& set, std::int16_t nr) {
-    set.volgers.HuidigOpmNr = nr;
-    return set.Opmerking.Schrijf();
-  }
+  static bool Lees(ProefSet& set, std::int16_t nr) { return set.Opmerking.Lees(nr); }
+  static bool Schrijf(ProefSet& set, std::int16_t nr) { return set.Opmerking.Schrijf(nr); }
   static std::string Tekst(const Klasse& klasse) { return klasse.Tekstregel(); }
 };
 

@@ -109,7 +109,7 @@ TEST_F(RelatieLB77Test, EenNulInDeSondeVanHetAdministratierecordMagAlsErRelaties
 TEST_F(RelatieLB77Test, EenRelatieMetHetTekenVanDeSchildwachtLeestAlsAfwezig) {
   Lees(set.bouw.Relatie(0, 0));
   set.Relatie.Zet("HuwCorr", "X");
-  ASSERT_TRUE(set.Relatie.Schrijf());
+  ASSERT_TRUE(set.Relatie.Schrijf(2));
   EXPECT_FALSE(set.Relatie.Lees(2));
 }
 
@@ -272,6 +272,6 @@ TEST_F(RelatieLB77Test, LezenEnSchrijvenZetDePlaatsbufferOpNul) {
   Lees(nr);
   EXPECT_EQ(set.volgers.PlaatsBufNr, 0);
   EXPECT_EQ(set.Plaats.Naam(plaats), "Delft");
-  ASSERT_TRUE(set.Relatie.Schrijf());
+  ASSERT_TRUE(set.Relatie.Schrijf(nr));
   EXPECT_EQ(set.volgers.PlaatsBufNr, 0);
 }
