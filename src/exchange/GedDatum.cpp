@@ -2,6 +2,7 @@
 
 #include <cstddef>
 
+#include "exchange/GedBepaling.h"
 #include "exchange/GedDatumDeel.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"
@@ -10,23 +11,16 @@ namespace lb77 {
 
 namespace {
 
-struct Bepaling {
-  std::string_view woord;
-  char corr;
-};
-constexpr Bepaling kBepalingen[] = {
-    {"ABT", 'C'}, {"AFT", 'N'}, {"BEF", 'V'}, {"BET", 'T'}, {"EST", 'C'}, {"CAL", 'C'},
-};
 constexpr std::size_t kBepalingLengte = 3;
 constexpr std::string_view kEn = " AND";
 constexpr std::string_view kOnbekend = " - Onbekende datum: ";
 constexpr std::size_t kKortste = 3;
 
 char Bepaald(std::string_view tekst) {
-  for (const Bepaling& bepaling : kBepalingen) {
+  for (const GedBepaling& bepaling : kGedBepalingen) {
     if (tekst.starts_with(bepaling.woord)) return bepaling.corr;
   }
-  return ' ';
+  return correctie::kGeen;
 }
 
 // Takes off the qualifier, written out or not (AFT, AFTER), and a full stop behind it.
@@ -62,12 +56,12 @@ struct Lezing {
 void LeesDatums(std::string_view tekst, const Lezing& lezing) {
   GedDatumUitslag& uitslag = lezing.uitslag;
   const std::size_t en = tekst.find(kEn);
-  if (en == std::string_view::npos && uitslag.corr == 'T') {
+  if (en == std::string_view::npos && uitslag.corr == correctie::kTussen) {
     lezing.Noteer(" - Fout in datum: BETWEEN zonder AND met 2e datum ");
-    uitslag.corr = 'N';
+    uitslag.corr = correctie::kNa;
   } else if (en == std::string_view::npos) {
     uitslag.eerste = lezing.Deel(tekst);
-  } else if (uitslag.corr != 'T') {
+  } else if (uitslag.corr != correctie::kTussen) {
     uitslag.log.push_back("Fout in datum: AND zonder BETWEEN " + std::string(tekst));
   } else {
     uitslag.eerste = lezing.Deel(tekst.substr(0, en));
@@ -87,7 +81,7 @@ GedDatumUitslag GedDatum(std::string_view tekst, std::string_view context) {
   std::string_view rest = ZonderStaart(groot);
   if (rest.size() < kKortste) return uitslag;
   uitslag.corr = Bepaald(rest);
-  if (uitslag.corr != ' ') NeemBepalingAf(rest);
+  if (uitslag.corr != correctie::kGeen) NeemBepalingAf(rest);
   const Lezing lezing{tekst, context, uitslag};
   LeesDatums(rest, lezing);
   if (!IsNegatief(uitslag.eerste) && !IsNegatief(uitslag.tweede)) return uitslag;

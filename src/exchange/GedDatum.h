@@ -5,16 +5,16 @@
 #include <string_view>
 #include <vector>
 
+#include "store/Codes.h"
 #include "text/Datum.h"
 
 namespace lb77 {
 
-// A date as read. `corr` is the correction code, a blank for none: "C" about, "N" after,
-// "V" before, "T" between the two dates.
+// A date as read, with its correction code.
 struct GedDatumUitslag {
-  char corr = ' ';
+  char corr = correctie::kGeen;
   DatumDelen eerste;
-  DatumDelen tweede;             // 0 unless `corr` is "T"
+  DatumDelen tweede;             // 0 unless `corr` is kTussen
   std::vector<std::string> log;  // what could not be read, a log line each
 };
 

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "text/Getallen.h"
+#include "text/Maanden.h"
 #include "text/Tekens.h"
 
 namespace lb77 {
@@ -13,25 +14,13 @@ namespace {
 
 constexpr DatumDelen kOnleesbaar{-1, 0, 0};
 
-// The month of a word, 0 for any other word.
-int Maand(std::string_view woord) {
-  constexpr std::string_view kMaanden[] = {"JAN", "FEB", "MAR", "APR", "MAY", "JUN",
-                                           "JUL", "AUG", "SEP", "OCT", "NOV", "DEC"};
-  int nummer = 0;
-  for (const std::string_view maand : kMaanden) {
-    ++nummer;
-    if (woord == maand) return nummer;
-  }
-  return 0;
-}
-
 DatumDelen Jaar(std::string_view tekst) {
   return {0, 0, Getalwaarde(tekst.substr(0, 4))};
 }
 
 // `dag` characters of day, three of month, at most four of year.
 DatumDelen Samengesteld(std::string_view tekst, std::size_t dag) {
-  const int maand = Maand(tekst.substr(dag, 3));
+  const int maand = GedMaand(tekst.substr(dag, 3));
   if (maand == 0) return kOnleesbaar;
   return {Getalwaarde(tekst.substr(0, dag)), maand, Getalwaarde(tekst.substr(dag + 3, 4))};
 }

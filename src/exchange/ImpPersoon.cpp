@@ -3,6 +3,7 @@
 #include <string>
 
 #include "exchange/GedNaam.h"
+#include "store/Codes.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"
 
@@ -18,12 +19,12 @@ std::string_view Gesneden(std::string_view waarde, std::size_t lengte) {
   return Trim(waarde.substr(0, lengte));
 }
 
-// The sex by its first letter; "O" for one that is not known.
-std::string_view GeslachtVan(std::string_view waarde) {
+// The sex by its first letter.
+char GeslachtVan(std::string_view waarde) {
   const std::string_view woord = TrimLinks(waarde);
   const char letter = woord.empty() ? ' ' : Hoofdletter(woord.front());
-  if (letter == 'M') return "M";
-  return letter == 'F' ? "V" : "O";
+  if (letter == 'M') return geslacht::kMan;
+  return letter == 'F' ? geslacht::kVrouw : geslacht::kOnbekend;
 }
 
 }  // namespace
@@ -50,7 +51,7 @@ bool ImpPersoon::Neem(const PersoonPad& pad, std::string_view waarde) {
       NeemNaamDeel(pad, waarde);
       break;
     case PersoonActie::Geslacht:
-      Zet(pad.veld, GeslachtVan(waarde));
+      Zet(pad.veld, std::string(1, GeslachtVan(waarde)));
       break;
     case PersoonActie::GebDatum:
     case PersoonActie::DoopDatum:
@@ -112,15 +113,15 @@ void ImpPersoon::NeemDatum(const PersoonPad& pad, std::string_view waarde) {
   if (geboorte) Zet("GebCorr", std::string(1, datum.corr));
   if (overlijden) Zet("OvlCorr", std::string(1, datum.corr));
   Zet(pad.veld, GedDatumTekst(datum.eerste));
-  if (datum.corr != 'T') return;
+  if (datum.corr != correctie::kTussen) return;
   // The end of a period lies in the fields of the event behind it.
   if (geboorte) Zet("DoopDatum", GedDatumTekst(datum.tweede));
   if (overlijden) Zet("BegrDatum", GedDatumTekst(datum.tweede));
 }
 
 void ImpPersoon::NeemPlaats(const PersoonPad& pad, std::string_view waarde) {
-  if (pad.actie == PersoonActie::DoopPlaats && gebCorr_ == 'T') return;
-  if (pad.actie == PersoonActie::BegrPlaats && ovlCorr_ == 'T') return;
+  if (pad.actie == PersoonActie::DoopPlaats && gebCorr_ == correctie::kTussen) return;
+  if (pad.actie == PersoonActie::BegrPlaats && ovlCorr_ == correctie::kTussen) return;
   Zet(pad.veld, loop_.GedPlaats(waarde));
 }
 
@@ -156,7 +157,7 @@ bool ImpPersoon::MaakVervolg(std::string_view vierde) {
   if (!Bewaar()) return false;
   const std::int16_t vervolg = loop_.NieuwePersoon();
   if (vervolg == 0) return false;
-  Zet("GebCorr", "Z");
+  Zet("GebCorr", std::string(1, correctie::kVervolg));
   Zet("Relatie1", derde);
   Zet("Relatie2", vierde);
   Zet("Relatie3", "0");

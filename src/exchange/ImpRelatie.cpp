@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "store/Codes.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
@@ -65,7 +66,7 @@ void ImpRelatie::NeemDatum(const RelatiePad& pad, std::string_view waarde, char 
   // kept: a marriage looks at the last death or burial, not at its own date, and the qualifier
   // itself is not stored.
   const char corr = pad.actie == RelatieActie::HuwDatumEigen ? datum.corr : laatsteOvlCorr;
-  if (corr == 'T') Zet("KHuwDatum", GedDatumTekst(datum.tweede));
+  if (corr == correctie::kTussen) Zet("KHuwDatum", GedDatumTekst(datum.tweede));
 }
 
 bool ImpRelatie::NeemKind(std::string_view waarde) {
@@ -91,7 +92,7 @@ bool ImpRelatie::MaakVervolg(std::string_view kind) {
   if (!Bewaar()) return false;
   const std::int16_t vervolg = loop_.NieuweRelatie();
   if (vervolg == 0) return false;
-  Zet("HuwCorr", "Z");
+  Zet("HuwCorr", std::string(1, correctie::kVervolg));
   Zet("Kind1", vijftiende);
   Zet("Kind2", kind);
   if (!relatie.Schrijf(vervolg)) return false;

@@ -1,62 +1,64 @@
 #include "exchange/OpmRubrieken.h"
 
+#include "store/Rubrieken.h"
+
 namespace lb77 {
 
 namespace {
 
-constexpr std::int16_t kPersoon = 4096;
-constexpr std::int16_t kRelatie = -256;
+namespace persoon = persoonrubriek;
+namespace relatie = relatierubriek;
 
 // kept: a burial is only known as BURR here, and the events of a marriage only below MARR.
 constexpr OpmRubriek kRubrieken[] = {
-    {"INDI", kPersoon, ""},
-    {"INDI-EVEN", kPersoon, ""},
-    {"INDI-ADOP", kPersoon, ""},
-    {"INDI-FAMC", kPersoon, ""},
-    {"INDI-NAME-GIVN", 2, ""},
-    {"INDI-NAME", 1, ""},
-    {"INDI-NAME-SURN", 1, ""},
-    {"INDI-BIRT", 8, ""},
-    {"INDI-BIRT-DATE", 8, ""},
-    {"INDI-BIRT-PLAC", 4, ""},
-    {"INDI-BAPT", 32, ""},
-    {"INDI-BAPT-DATE", 32, ""},
-    {"INDI-BAPM", 32, ""},
-    {"INDI-BAPM-DATE", 32, ""},
-    {"INDI-CHR", 32, ""},
-    {"INDI-CHR-DATE", 32, ""},
-    {"INDI-BAPT-PLAC", 16, ""},
-    {"INDI-BAPM-PLAC", 16, ""},
-    {"INDI-CHR-PLAC", 16, ""},
-    {"INDI-DEAT", 256, ""},
-    {"INDI-DEAT-DATE", 256, ""},
-    {"INDI-DEAT-PLAC", 128, ""},
-    {"INDI-BURR-DATE", 1024, ""},
-    {"INDI-BURR-PLAC", 512, ""},
-    {"INDI-OCCU", 2048, ""},
-    {"FAM", kRelatie, ""},
-    {"FAM-EVEN", kRelatie, ""},
-    {"FAM-MARR", kRelatie, ""},
-    {"FAM-MARR-MARL", -2, ""},
-    {"FAM-MARR-MARL-DATE", -2, ""},
-    {"FAM-MARR-MARB", -2, ""},
-    {"FAM-MARR-MARB-DATE", -2, ""},
-    {"FAM-MARR-MARL-PLAC", -1, ""},
-    {"FAM-MARR-MARB-PLAC", -1, ""},
-    {"FAM-MARR-MARR", -8, ""},
-    {"FAM-MARR-MARR-DATE", -8, ""},
-    {"FAM-MARR-MARR-PLAC", -4, ""},
-    {"FAM-MARR-MARR-TYPE", -16, ""},
-    {"FAM-MARR-MARC", -64, ""},
-    {"FAM-MARR-MARC-DATE", -64, ""},
-    {"FAM-MARR-MARC-PLAC", -32, ""},
-    {"FAM-MARR-MARC-TYPE", -128, ""},
-    {"FAM-DIV", kRelatie, "Opm_Scheiding: "},
-    {"FAM-ANUL", kRelatie, "Opm_Scheiding: "},
-    {"FAM-DIV-DATE", kRelatie, "Opm_Datum_Scheiding: "},
-    {"FAM-ANUL-DATE", kRelatie, "Opm_Datum_Scheiding: "},
-    {"FAM-DIV-PLAC", kRelatie, "Opm_Plaats_Scheiding: "},
-    {"FAM-ANUL-PLAC", kRelatie, "Opm_Plaats_Scheiding: "},
+    {"INDI", persoon::kAlgemeen, ""},
+    {"INDI-EVEN", persoon::kAlgemeen, ""},
+    {"INDI-ADOP", persoon::kAlgemeen, ""},
+    {"INDI-FAMC", persoon::kAlgemeen, ""},
+    {"INDI-NAME-GIVN", persoon::kVoornaam, ""},
+    {"INDI-NAME", persoon::kAchternaam, ""},
+    {"INDI-NAME-SURN", persoon::kAchternaam, ""},
+    {"INDI-BIRT", persoon::kGebDatum, ""},
+    {"INDI-BIRT-DATE", persoon::kGebDatum, ""},
+    {"INDI-BIRT-PLAC", persoon::kGebPlaats, ""},
+    {"INDI-BAPT", persoon::kDoopDatum, ""},
+    {"INDI-BAPT-DATE", persoon::kDoopDatum, ""},
+    {"INDI-BAPM", persoon::kDoopDatum, ""},
+    {"INDI-BAPM-DATE", persoon::kDoopDatum, ""},
+    {"INDI-CHR", persoon::kDoopDatum, ""},
+    {"INDI-CHR-DATE", persoon::kDoopDatum, ""},
+    {"INDI-BAPT-PLAC", persoon::kDoopPlaats, ""},
+    {"INDI-BAPM-PLAC", persoon::kDoopPlaats, ""},
+    {"INDI-CHR-PLAC", persoon::kDoopPlaats, ""},
+    {"INDI-DEAT", persoon::kOvlDatum, ""},
+    {"INDI-DEAT-DATE", persoon::kOvlDatum, ""},
+    {"INDI-DEAT-PLAC", persoon::kOvlPlaats, ""},
+    {"INDI-BURR-DATE", persoon::kBegrDatum, ""},
+    {"INDI-BURR-PLAC", persoon::kBegrPlaats, ""},
+    {"INDI-OCCU", persoon::kBeroep, ""},
+    {"FAM", relatie::kAlgemeen, ""},
+    {"FAM-EVEN", relatie::kAlgemeen, ""},
+    {"FAM-MARR", relatie::kAlgemeen, ""},
+    {"FAM-MARR-MARL", relatie::kOtrDatum, ""},
+    {"FAM-MARR-MARL-DATE", relatie::kOtrDatum, ""},
+    {"FAM-MARR-MARB", relatie::kOtrDatum, ""},
+    {"FAM-MARR-MARB-DATE", relatie::kOtrDatum, ""},
+    {"FAM-MARR-MARL-PLAC", relatie::kOtrPlaats, ""},
+    {"FAM-MARR-MARB-PLAC", relatie::kOtrPlaats, ""},
+    {"FAM-MARR-MARR", relatie::kWetHuwDatum, ""},
+    {"FAM-MARR-MARR-DATE", relatie::kWetHuwDatum, ""},
+    {"FAM-MARR-MARR-PLAC", relatie::kWetHuwPlaats, ""},
+    {"FAM-MARR-MARR-TYPE", relatie::kHuwSoort, ""},
+    {"FAM-MARR-MARC", relatie::kKHuwDatum, ""},
+    {"FAM-MARR-MARC-DATE", relatie::kKHuwDatum, ""},
+    {"FAM-MARR-MARC-PLAC", relatie::kKHuwPlaats, ""},
+    {"FAM-MARR-MARC-TYPE", relatie::kReligie, ""},
+    {"FAM-DIV", relatie::kAlgemeen, "Opm_Scheiding: "},
+    {"FAM-ANUL", relatie::kAlgemeen, "Opm_Scheiding: "},
+    {"FAM-DIV-DATE", relatie::kAlgemeen, "Opm_Datum_Scheiding: "},
+    {"FAM-ANUL-DATE", relatie::kAlgemeen, "Opm_Datum_Scheiding: "},
+    {"FAM-DIV-PLAC", relatie::kAlgemeen, "Opm_Plaats_Scheiding: "},
+    {"FAM-ANUL-PLAC", relatie::kAlgemeen, "Opm_Plaats_Scheiding: "},
 };
 
 }  // namespace
@@ -66,8 +68,8 @@ std::span<const OpmRubriek> AlleOpmRubrieken() {
 }
 
 std::int16_t AlgemeneRubriek(std::string_view pad) {
-  if (pad.starts_with("INDI")) return kPersoon;
-  return pad.starts_with("FAM") ? kRelatie : std::int16_t{0};
+  if (pad.starts_with("INDI")) return persoon::kAlgemeen;
+  return pad.starts_with("FAM") ? relatie::kAlgemeen : std::int16_t{0};
 }
 
 }  // namespace lb77

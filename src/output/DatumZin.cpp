@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "store/Codes.h"
 #include "text/Datum.h"
 #include "text/Getallen.h"
 
@@ -73,9 +74,9 @@ Bouw::Bouw(const DatumZinDelen& delen)
   }
   if (!twee_.Bekend()) {
     twee_.voor = {};
-    if (corr_ == "T") corr_ = " ";
+    if (IsCode(corr_, correctie::kTussen)) corr_ = " ";
   }
-  if (corr_ == "T") {  // a range has one place
+  if (IsCode(corr_, correctie::kTussen)) {  // a range has one place
     twee_.voor = {};
     twee_.plaatsNr = 0;
   }
@@ -118,10 +119,10 @@ void Bouw::Datum(const Kant& kant) {
 }
 
 void Bouw::Correctie() {
-  if (corr_ == "C") Erbij("ca.");
-  if (corr_ == "N") Erbij("na");
-  if (corr_ == "V") Erbij("voor");
-  if (corr_ == "T") Erbij("tussen");
+  if (IsCode(corr_, correctie::kCirca)) Erbij("ca.");
+  if (IsCode(corr_, correctie::kNa)) Erbij("na");
+  if (IsCode(corr_, correctie::kVoor)) Erbij("voor");
+  if (IsCode(corr_, correctie::kTussen)) Erbij("tussen");
 }
 
 void Bouw::Eerste() {
@@ -129,7 +130,7 @@ void Bouw::Eerste() {
   Plaats(een_);
   Correctie();
   Datum(een_);
-  if (corr_ == "T") {
+  if (IsCode(corr_, correctie::kTussen)) {
     Erbij("en");
     Erbij(twee_.datum);
   }

@@ -18,7 +18,7 @@ struct DatumZinDelen {
   std::int16_t Plaats1 = 0;
   std::int16_t DagMaand1 = 0;
   std::int16_t Jaar1 = 0;
-  std::string_view Corr;  // "C", "N", "V", "T"; blank or empty for an exact date
+  std::string_view Corr;  // a correction code; blank or empty for an exact date
   std::int16_t Plaats2 = 0;
   std::int16_t DagMaand2 = 0;
   std::int16_t Jaar2 = 0;

@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "store/Rubrieken.h"
+
 namespace lb77 {
 
 namespace {
@@ -14,6 +16,12 @@ constexpr unsigned kO = kOndertrouw;
 constexpr unsigned kW = kWettig;
 constexpr unsigned kK = kKerk;
 
+// The remarks on each event.
+constexpr int kOtr = RubriekBits(relatierubriek::kOtrPlaats, relatierubriek::kOtrDatum);
+constexpr int kWetHuw = RubriekBits(relatierubriek::kWetHuwPlaats, relatierubriek::kWetHuwDatum);
+constexpr int kSoort = RubriekBits(relatierubriek::kHuwSoort);
+constexpr int kKHuw = RubriekBits(relatierubriek::kKHuwPlaats, relatierubriek::kKHuwDatum);
+
 enum class Eis { Geen, EenVan, NietEen };
 
 struct Regel {
@@ -24,24 +32,24 @@ struct Regel {
   HuwVorm vorm;
 };
 
-// The first row that fits decides. kept: a remark on the kind of the civil marriage (16) parts no
+// The first row that fits decides. kept: a remark on the kind of the civil marriage parts no
 // pair of two events, only one out of three.
 constexpr std::array kRegels = {
     Regel{kO, "", Eis::Geen, 0, {kO, 0}},
     Regel{kW, "", Eis::Geen, 0, {kW, 0}},
     Regel{kK, "", Eis::Geen, 0, {kK, 0}},
-    Regel{kO | kK, "", Eis::EenVan, 1 | 2 | 32 | 64, {kO | kK, 0}},
-    Regel{kO | kK, "", Eis::NietEen, 1 | 2 | 32 | 64, {0, kO | kK}},
-    Regel{kO | kW, "", Eis::EenVan, 1 | 2 | 4 | 8, {kO | kW, 0}},
-    Regel{kO | kW, "", Eis::NietEen, 1 | 2 | 4 | 8, {0, kO | kW}},
-    Regel{kW | kK, "", Eis::EenVan, 4 | 8 | 32 | 64, {kW | kK, 0}},
-    Regel{kW | kK, "", Eis::NietEen, 4 | 8 | 32 | 64, {0, kW | kK}},
-    Regel{kO | kW | kK, "0", Eis::EenVan, 1 | 2 | 4 | 8 | 16, {kO | kW, 0}},
-    Regel{kO | kW | kK, "0", Eis::NietEen, 1 | 2 | 4 | 8 | 16, {0, kO | kW}},
-    Regel{kO | kW | kK, "1", Eis::EenVan, 4 | 8 | 16 | 32 | 64, {kW | kK, 0}},
-    Regel{kO | kW | kK, "1", Eis::NietEen, 4 | 8 | 16 | 32 | 64, {0, kW | kK}},
-    Regel{kO | kW | kK, "", Eis::NietEen, 4 | 8 | 16 | 32 | 64, {kO, kW | kK}},
-    Regel{kO | kW | kK, "", Eis::NietEen, 1 | 2 | 4 | 8 | 16, {kK, kO | kW}},
+    Regel{kO | kK, "", Eis::EenVan, kOtr | kKHuw, {kO | kK, 0}},
+    Regel{kO | kK, "", Eis::NietEen, kOtr | kKHuw, {0, kO | kK}},
+    Regel{kO | kW, "", Eis::EenVan, kOtr | kWetHuw, {kO | kW, 0}},
+    Regel{kO | kW, "", Eis::NietEen, kOtr | kWetHuw, {0, kO | kW}},
+    Regel{kW | kK, "", Eis::EenVan, kWetHuw | kKHuw, {kW | kK, 0}},
+    Regel{kW | kK, "", Eis::NietEen, kWetHuw | kKHuw, {0, kW | kK}},
+    Regel{kO | kW | kK, "0", Eis::EenVan, kOtr | kWetHuw | kSoort, {kO | kW, 0}},
+    Regel{kO | kW | kK, "0", Eis::NietEen, kOtr | kWetHuw | kSoort, {0, kO | kW}},
+    Regel{kO | kW | kK, "1", Eis::EenVan, kWetHuw | kSoort | kKHuw, {kW | kK, 0}},
+    Regel{kO | kW | kK, "1", Eis::NietEen, kWetHuw | kSoort | kKHuw, {0, kW | kK}},
+    Regel{kO | kW | kK, "", Eis::NietEen, kWetHuw | kSoort | kKHuw, {kO, kW | kK}},
+    Regel{kO | kW | kK, "", Eis::NietEen, kOtr | kWetHuw | kSoort, {kK, kO | kW}},
     Regel{kO | kW | kK, "", Eis::Geen, 0, {kO | kW | kK, 0}},
 };
 

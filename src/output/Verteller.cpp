@@ -12,8 +12,6 @@ namespace lb77 {
 namespace {
 
 constexpr int kInspringen = 4;
-constexpr int kRubriekVoornaam = 2;
-constexpr int kRubriekNaam = 1;
 
 }  // namespace
 
@@ -55,10 +53,10 @@ bool Verteller::SchrijfPersoon(std::int16_t nr) {
   if (!persoon.Lees(nr)) return false;
   InRapport uit(*this, persoon.OpmRecord(), persoon.OpmCode());
   SchrijfNaam(persoon.VoorNaamTrue(), true);
-  uit.Rubriek(kRubriekVoornaam);
+  uit.Rubriek(persoonrubriek::kVoornaam);
   SchrijfNaam(persoon.AchterNaamTrue(), false);
   SchrijfNummer(nr);
-  uit.Rubriek(kRubriekNaam);
+  uit.Rubriek(persoonrubriek::kAchternaam);
   Zinsbouw(bronnen_, uit).Leven(uit.OpmCode());
   return true;
 }

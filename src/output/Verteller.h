@@ -7,6 +7,7 @@
 
 #include "output/TekstSchrijver.h"
 #include "output/ZinOpties.h"
+#include "store/Rubrieken.h"
 
 namespace lb77 {
 
@@ -65,7 +66,7 @@ class Verteller {
 };
 
 // The rubrics of the general remarks.
-inline constexpr int kRubriekPersoon = 4096;
-inline constexpr int kRubriekRelatie = -256;
+inline constexpr int kRubriekPersoon = persoonrubriek::kAlgemeen;
+inline constexpr int kRubriekRelatie = relatierubriek::kAlgemeen;
 
 }  // namespace lb77

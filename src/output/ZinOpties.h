@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "store/Codes.h"
 #include "store/OpmLB77.h"
 #include "store/PersoonLB77.h"
 #include "store/PlaatsLB77.h"
@@ -27,7 +28,7 @@ struct ZinOpties {
   bool ookOpm = false;  // with remarks
   bool ookNrs = false;  // with record numbers
   bool inHTML = false;
-  int opmMasker = 1;            // the bit of `BijProg` of this kind of report
+  int opmMasker = uitvoer::kKwartierstaat;  // the bit of this kind of report
   std::string toonTrouw = "2";  // how three marriage events are shortened: "0", "1" or "2"
 };
 

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "output/Zinsbouw.h"
+#include "store/Codes.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
@@ -72,7 +73,7 @@ std::string Zinnen::PartnerZin(std::int16_t partner) {
 std::string Zinnen::PersoonInfoTekst(std::int16_t nr) {
   std::string uit = PersoonZin(nr);
   if (bronnen_.volgers.PersBufNr == nr) {
-    uit += PartnersZin(nr, bronnen_.persoon.Geslacht() == "V");
+    uit += PartnersZin(nr, IsCode(bronnen_.persoon.Geslacht(), geslacht::kVrouw));
   }
   bronnen_.volgers.HuidigPersoonNr = nr;  // the partners have taken it
   return uit;

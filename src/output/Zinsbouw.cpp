@@ -2,6 +2,8 @@
 
 #include "output/DatumZin.h"
 #include "output/HuwVorm.h"
+#include "store/Codes.h"
+#include "store/Rubrieken.h"
 #include "text/Getallen.h"
 #include "text/Gezindte.h"
 
@@ -51,9 +53,9 @@ struct Zinsbouw::Huwelijk {
 
 namespace {
 
+namespace rubriek = persoonrubriek;
+
 constexpr std::string_view kOndertrouwLabel = "ondertr.";
-constexpr int kRubriekBeroep = 2048;
-constexpr int kRubriekHeleRelatie = -256;
 
 std::string MetKomma(std::string_view tekst, std::string_view erachter = {}) {
   return std::string(", ").append(tekst).append(erachter);
@@ -62,7 +64,7 @@ std::string MetKomma(std::string_view tekst, std::string_view erachter = {}) {
 std::string BondLabel(const RelatieLB77& relatie) {
   const std::string soort = relatie.HuwSwPs();
   if (soort.empty()) return "tr.";
-  return soort == "S" ? "samenwonend" : "partnerschap";
+  return IsCode(soort, bond::kSamenwonen) ? "samenwonend" : "partnerschap";
 }
 
 }  // namespace
@@ -108,7 +110,7 @@ void Zinsbouw::Leven(int opmCode) {
   GeboorteEnDoop(opmCode);
   const std::string beroep = bronnen_.persoon.beroep();
   if (!beroep.empty()) uit_.Aan(MetKomma(beroep));
-  uit_.Rubriek(kRubriekBeroep);
+  uit_.Rubriek(persoonrubriek::kBeroep);
   OverlijdenEnBegraven(opmCode);
 }
 
@@ -122,9 +124,11 @@ void Zinsbouw::GeboorteEnDoop(int opmCode) {
   paar.corr = persoon.GebCorr();
   paar.een = {persoon.GebPlaatsNr(), persoon.GebDagMaand(), persoon.GebJaar()};
   paar.twee = {persoon.DoopPlaatsNr(), persoon.DoopDagMaand(), persoon.DoopJaar()};
-  paar.rubrieken1 = {0, 4, 8};
-  paar.rubrieken2 = {64, 16, 32};
-  paar.uiteenBij = 4 | 8 | 16 | 32;  // kept: a remark on the denomination parts nothing
+  paar.rubrieken1 = {0, rubriek::kGebPlaats, rubriek::kGebDatum};
+  paar.rubrieken2 = {rubriek::kReligie, rubriek::kDoopPlaats, rubriek::kDoopDatum};
+  // kept: a remark on the denomination parts nothing
+  paar.uiteenBij = RubriekBits(rubriek::kGebPlaats, rubriek::kGebDatum, rubriek::kDoopPlaats,
+                               rubriek::kDoopDatum);
   Paar(paar, opmCode);
 }
 
@@ -137,9 +141,9 @@ void Zinsbouw::OverlijdenEnBegraven(int opmCode) {
   paar.corr = persoon.OvlCorr();
   paar.een = {persoon.OvlPlaatsNr(), persoon.OvDagMaand(), persoon.OvJaar()};
   paar.twee = {persoon.BegrPlaatsNr(), persoon.BegrDagMaand(), persoon.BegrJaar()};
-  paar.rubrieken1 = {0, 128, 256};
-  paar.rubrieken2 = {0, 512, 1024};
-  paar.uiteenBij = 128 | 256 | 512 | 1024;
+  paar.rubrieken1 = {0, rubriek::kOvlPlaats, rubriek::kOvlDatum};
+  paar.rubrieken2 = {0, rubriek::kBegrPlaats, rubriek::kBegrDatum};
+  paar.uiteenBij = paar.rubrieken1.Alle() | paar.rubrieken2.Alle();
   Paar(paar, opmCode);
 }
 
@@ -164,30 +168,30 @@ void Zinsbouw::Paar(const Levenspaar& paar, int opmCode) {
 
 // A range of which a bound is missing is none: the events are told by themselves then.
 void Zinsbouw::PaarUiteen(const Levenspaar& paar) {
-  if (paar.corr == "T" && paar.een.DatumBekend() && paar.twee.DatumBekend()) {
+  if (IsCode(paar.corr, correctie::kTussen) && paar.een.DatumBekend() && paar.twee.DatumBekend()) {
     Tussen(paar.label1, paar.een, paar.rubrieken1, paar.twee, paar.rubrieken2);
     return;
   }
-  const std::string_view corr = paar.corr == "T" ? std::string_view{} : paar.corr;
+  const std::string_view corr =
+      IsCode(paar.corr, correctie::kTussen) ? std::string_view{} : paar.corr;
   if (paar.een.Bekend()) Alleen(paar.label1, paar.een, corr, paar.rubrieken1);
   if (paar.twee.Bekend()) Alleen(paar.label2, paar.twee, {}, paar.rubrieken2);
 }
 
 namespace {
 
-// What may be remarked of each marriage event, as rubrics (negative).
-constexpr int kOtrPlaats = -1;
-constexpr int kOtrDatum = -2;
-constexpr int kWetPlaats = -4;
-constexpr int kWetDatum = -8;
-constexpr int kWetSoort = -16;
-constexpr int kKerkPlaats = -32;
-constexpr int kKerkDatum = -64;
+using relatierubriek::kHuwSoort;
+using relatierubriek::kKHuwDatum;
+using relatierubriek::kKHuwPlaats;
+using relatierubriek::kOtrDatum;
+using relatierubriek::kOtrPlaats;
+using relatierubriek::kWetHuwDatum;
+using relatierubriek::kWetHuwPlaats;
 
-// Their bits in an OpmCode.
-constexpr int kOtrBits = 1 | 2;
-constexpr int kWetBits = 4 | 8 | 16;
-constexpr int kKerkBits = 32 | 64;
+// What may be remarked of each marriage event.
+constexpr int kOtrBits = RubriekBits(kOtrPlaats, kOtrDatum);
+constexpr int kWetBits = RubriekBits(kWetHuwPlaats, kWetHuwDatum, kHuwSoort);
+constexpr int kKerkBits = RubriekBits(kKHuwPlaats, kKHuwDatum);
 
 }  // namespace
 
@@ -216,12 +220,12 @@ void Zinsbouw::Relatie(int opmCode, std::string_view voorvoegsel, std::string_vi
   const Gezindten& gezindten = bronnen_.schrijfwijze.gezindten;
   huwelijk.label1 += GezindteNaam(bronnen_.relatie.HuwSoort(), gezindten);
   huwelijk.label2 += GezindteNaam(bronnen_.relatie.Religie(), gezindten);
-  const bool tussen = huwelijk.corr == "T";
+  const bool tussen = IsCode(huwelijk.corr, correctie::kTussen);
   if (tussen && huwelijk.wettig.DatumBekend() && huwelijk.kerk.DatumBekend()) {
     // kept: the banns do not take the number of the relation away from the marriage.
     if ((huwelijk.bekend & huw::kOndertrouw) != 0) Ondertrouw(huwelijk);
     Tussen(huwelijk.label1 + huwelijk.voorvoegsel, huwelijk.wettig,
-           {kWetSoort, kWetPlaats, kWetDatum}, huwelijk.kerk, {0, kKerkPlaats, kKerkDatum});
+           {kHuwSoort, kWetHuwPlaats, kWetHuwDatum}, huwelijk.kerk, {0, kKHuwPlaats, kKHuwDatum});
     return;
   }
   if (tussen) huwelijk.corr.clear();
@@ -242,11 +246,11 @@ void Zinsbouw::Huwelijken(Huwelijk& huwelijk, int opmCode, std::string_view toon
   }
   if ((vorm.alleen & huw::kWettig) != 0) {
     Alleen(huwelijk.label1 + huwelijk.voorvoegsel, huwelijk.wettig, huwelijk.corr,
-           {kWetSoort, kWetPlaats, kWetDatum});
+           {kHuwSoort, kWetHuwPlaats, kWetHuwDatum});
     huwelijk.voorvoegsel.clear();
   }
   if ((vorm.alleen & huw::kKerk) != 0) {  // kept: a pair behind it has the number again
-    Alleen(huwelijk.label2 + huwelijk.voorvoegsel, huwelijk.kerk, {}, {0, kKerkPlaats, kKerkDatum});
+    Alleen(huwelijk.label2 + huwelijk.voorvoegsel, huwelijk.kerk, {}, {0, kKHuwPlaats, kKHuwDatum});
   }
   if (vorm.samen != 0) Samen(huwelijk, vorm.samen);
 }
@@ -265,7 +269,7 @@ void Zinsbouw::Samen(const Huwelijk& huwelijk, unsigned samen) {
                bronnen_.plaats, bronnen_.schrijfwijze.DatumScheider);
   uit_.Aan(MetKomma(zin));
   // kept: a report tells the general remark here, and again on lines of its own
-  uit_.Rubriek(kRubriekHeleRelatie);
+  uit_.Rubriek(relatierubriek::kAlgemeen);
 }
 
 std::string RelatieVoorvoegsel(std::int16_t relNr, int volgNr, bool isEerste, bool ookNrs) {

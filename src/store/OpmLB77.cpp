@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "store/Codes.h"
 #include "store/OpmVelden.h"
 #include "text/Getallen.h"
 
@@ -28,8 +29,6 @@ constexpr RaamTabel kTabel{
     .aantalFout = "",
     .laagste = 0,
 };
-
-constexpr std::int16_t kAlleenHTML = 64;
 
 }  // namespace
 
@@ -137,7 +136,7 @@ std::string OpmLB77::Tekstregel() const {
   return Tekst(veld::Tekstregel);
 }
 bool OpmLB77::AlleenHTML() const {
-  return (BijProg() & kAlleenHTML) != 0;
+  return (BijProg() & uitvoer::kAlleenHTML) != 0;
 }
 
 }  // namespace lb77

@@ -1,5 +1,6 @@
 #include "store/PersoonLB77.h"
 
+#include "store/Codes.h"
 #include "store/PersoonVelden.h"
 #include "text/Datum.h"
 #include "text/Getallen.h"
@@ -71,7 +72,7 @@ void PersoonLB77::LeegPersBuffer() {
   Leeg();
 }
 bool PersoonLB77::IsVolgRecord() const {
-  return Teken(veld::GebCorr) == 'Z';
+  return Teken(veld::GebCorr) == correctie::kVervolg;
 }
 
 bool PersoonLB77::NieuwAdm() {
@@ -132,9 +133,9 @@ std::string PersoonLB77::NaamVoluit() const {
 
 std::int16_t PersoonLB77::IsMan(std::int16_t Nr) {
   if (Nr == 0 || !Lees(Nr)) return -1;
-  const char geslacht = Teken(veld::Geslacht);
-  if (geslacht == 'M') return 1;
-  return geslacht == 'V' ? std::int16_t{0} : std::int16_t{-1};
+  const char teken = Teken(veld::Geslacht);
+  if (teken == geslacht::kMan) return 1;
+  return teken == geslacht::kVrouw ? std::int16_t{0} : std::int16_t{-1};
 }
 
 std::string PersoonLB77::Periode(std::int16_t Nr) {
@@ -152,8 +153,8 @@ std::string PersoonLB77::AchterNaamVVC() const {
 }
 
 std::string PersoonLB77::Geslacht() const {
-  std::string geslacht = Tekst(veld::Geslacht);
-  return geslacht.empty() ? "O" : geslacht;
+  std::string tekst = Tekst(veld::Geslacht);
+  return tekst.empty() ? std::string(1, geslacht::kOnbekend) : tekst;
 }
 
 std::int32_t PersoonLB77::GebDatum() const {
@@ -207,7 +208,7 @@ std::int16_t PersoonLB77::BegrJaar() const {
   return Getal(veld::BegrJaar);
 }
 bool PersoonLB77::BegrCrem() const {
-  return Teken(veld::BegrCrem) == 'C';
+  return Teken(veld::BegrCrem) == kGecremeerd;
 }
 std::int16_t PersoonLB77::GebPlaatsNr() const {
   return Getal(veld::GebPlaatsNr);

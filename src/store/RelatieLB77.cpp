@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "store/Codes.h"
 #include "store/RelatieVelden.h"
 #include "text/Datum.h"
 #include "text/Getallen.h"
@@ -58,7 +59,7 @@ void RelatieLB77::LeegRelBuffer() {
   Leeg();
 }
 bool RelatieLB77::IsVolgRecord() const {
-  return Teken(veld::HuwCorr) == 'Z';
+  return Teken(veld::HuwCorr) == correctie::kVervolg;
 }
 
 bool RelatieLB77::NieuwAdm() {
@@ -188,12 +189,13 @@ std::int16_t RelatieLB77::KHuwPlaatsNr() const {
   return Getal(veld::KHuwPlaatsNr);
 }
 bool RelatieLB77::KHuwSch() const {
-  return Teken(veld::KHuwSch) == 'S';
+  return Teken(veld::KHuwSch) == kGescheiden;
 }
 
 std::string RelatieLB77::HuwSwPs() const {
   const char soort = Teken(veld::HuwSwPs);
-  return soort == 'S' || soort == 'P' ? std::string(1, soort) : std::string();
+  return soort == bond::kSamenwonen || soort == bond::kPartnerschap ? std::string(1, soort)
+                                                                    : std::string();
 }
 
 }  // namespace lb77
