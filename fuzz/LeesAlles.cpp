@@ -5,9 +5,9 @@
 #include <limits>
 #include <vector>
 
+#include "app/Hoofdmodule.h"
 #include "output/Verteller.h"
 #include "output/Zinnen.h"
-#include "reporting/Tijdelijk.h"
 
 namespace lb77::fuzz {
 namespace {
@@ -79,7 +79,7 @@ void LeesPersoon(Hoofdmodule& hoofd, std::int16_t nr) {
   Bekijk(p.VulHuwtab(nr, huwelijken).aantal);
   Bekijk(p.IsMan(nr));
   Bekijk(p.Periode(nr));
-  Zinnen zinnen(Bronnen(hoofd));
+  Zinnen zinnen(hoofd.MaakGegevens());
   Bekijk(zinnen.PersoonZin(nr));
   Bekijk(zinnen.PersoonInfoTekst(nr));
   Bekijk(zinnen.PartnersZin(nr, true));
@@ -92,7 +92,7 @@ void LeesRelatie(Hoofdmodule& hoofd, std::int16_t nr) {
     LeesVelden(r);
     LeesOpmerkingen(hoofd.Opmerking, r.OpmCode(), r.OpmRecord());
   }
-  Zinnen zinnen(Bronnen(hoofd));
+  Zinnen zinnen(hoofd.MaakGegevens());
   Bekijk(r.VulKindtab(nr, kinderen).aantal);
   Bekijk(zinnen.RelatieZin(nr, 2, false));
 }
@@ -114,7 +114,7 @@ void Vertel(Hoofdmodule& hoofd, bool inHTML, const std::vector<std::int16_t>& pe
   opties.ookOpm = true;
   opties.ookNrs = true;
   opties.inHTML = inHTML;
-  Verteller verteller(Bronnen(hoofd), uit, opties);
+  Verteller verteller(hoofd.MaakGegevens(), uit, opties);
   for (const std::int16_t nr : personen) {
     if (!verteller.SchrijfPersoon(nr)) continue;
     const std::int16_t ouders = hoofd.Persoon.RelNrOuders();

@@ -8,11 +8,8 @@ import re
 HOOFDMODULE_MAG = {
     "src/app/Bestandensets": "what the forms of the file sets do alike, start-up included",
     "src/app/Start": "brings the session up",
-    "src/entry/Invoer": "asks a record number of whichever file the form names",
-    "src/entry/PersoonInfo": "the text of a box of forms, from all four files",
     "src/entry/VeldToets": "the keys of a field of a form, which show forms themselves",
     "src/entry/ZoekPersoon": "the door to the forms of the search",
-    "src/reporting/Tijdelijk": "hands the writer of a form its files",
 }
 # The main window is made by the program alone.
 ZONDER_RIJ = {"MenuWindow"}

@@ -48,8 +48,8 @@ void KwstMaakTemp::Werk() {
                               Kwartieren.ZetTekst(GetalTekst(kwartieren));
                               Ververs();
                             }};
-  KwstSchrijver schrijver(tabel_, opties_, Bronnen(hoofd), ZinOptiesVan(opties_, hoofd.Ini), uit,
-                          verloop);
+  KwstSchrijver schrijver(tabel_, opties_, hoofd.MaakGegevens(), ZinOptiesVan(opties_, hoofd.Ini),
+                          uit, verloop);
   const KwstUitslag uitslag = schrijver.Schrijf();
   const bool heel = SluitTijdelijk(uit, pad_, hoofd.gesprek);
   if (uitslag != KwstUitslag::Klaar || !heel) StopKeten();

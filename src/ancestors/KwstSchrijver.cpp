@@ -24,7 +24,7 @@ int AfstandVanEerste(const KwstTabel& tabel, const Kwartiernummer& vanaf) {
 }  // namespace
 
 KwstSchrijver::KwstSchrijver(const KwstTabel& tabel, const KwstOpties& opties,
-                             const ZinBronnen& bronnen, const ZinOpties& zinOpties,
+                             const Gegevens& bronnen, const ZinOpties& zinOpties,
                              TekstSchrijver& uit, const KwstVerloop& verloop)
     : tabel_(tabel),
       opties_(opties),

@@ -7,6 +7,7 @@
 #include "ancestors/KwstOpties.h"
 #include "ancestors/KwstTabel.h"
 #include "output/Verteller.h"
+#include "store/Gegevens.h"
 
 namespace lb77 {
 
@@ -15,7 +16,7 @@ class TekstSchrijver;
 // One run. The file is open and stays so; what was written stands, however the run ends.
 class KwstSchrijver {
  public:
-  KwstSchrijver(const KwstTabel& tabel, const KwstOpties& opties, const ZinBronnen& bronnen,
+  KwstSchrijver(const KwstTabel& tabel, const KwstOpties& opties, const Gegevens& bronnen,
                 const ZinOpties& zinOpties, TekstSchrijver& uit, const KwstVerloop& verloop);
 
   // Writes the whole report. Vol is not among its results.
@@ -73,7 +74,7 @@ class KwstSchrijver {
 
   const KwstTabel& tabel_;
   const KwstOpties& opties_;
-  ZinBronnen bronnen_;
+  Gegevens bronnen_;
   Verteller verteller_;
   TekstSchrijver& uit_;
   const KwstVerloop& verloop_;

@@ -29,7 +29,7 @@ std::array<JaNeeSleutel, 4> KwstTxtParam::Sleutels() {
 }
 
 void KwstTxtParam::BijLaden() {
-  Proband.Toon(hoofd_, opties_.KwProbandNr);
+  Proband.Toon(hoofd_.Persoon, opties_.KwProbandNr);
   Nummers.Laad();
   const std::int32_t soort = Getalwaarde(hoofd_.Ini.IniWaarde("KWST", "SoortUitv"));
   BroerZusBox.ZetIndex(soort > 0 ? soort - 1 : 0);

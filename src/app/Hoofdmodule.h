@@ -10,6 +10,7 @@
 #include "app/Klok.h"
 #include "forms/Gesprek.h"
 #include "store/Bestandenset.h"
+#include "store/Gegevens.h"
 #include "store/OpmLB77.h"
 #include "store/Opslag.h"
 #include "store/PersoonLB77.h"
@@ -33,6 +34,10 @@ class Hoofdmodule {
 
   // What a record class of one's own needs; it reaches the same open files.
   [[nodiscard]] Opslag MaakOpslag() { return {bestanden, volgers, gesprek, schrijfwijze}; }
+  // What a reader of records needs.
+  [[nodiscard]] Gegevens MaakGegevens() {
+    return {Persoon, Relatie, Plaats, Opmerking, volgers, schrijfwijze};
+  }
 
   Gesprek& gesprek;
   const Klok& klok;

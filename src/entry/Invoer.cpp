@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <optional>
 
-#include "app/Hoofdmodule.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"
 
@@ -16,16 +15,16 @@ constexpr std::string_view kBestaatNiet = "Recordnummer bestaat niet";
 constexpr std::size_t kCijfers = 5;
 
 // The highest record number of the file; nothing when there is no such file.
-std::optional<std::int16_t> HoogsteNr(Hoofdmodule& hoofd, BestandSoort bestand) {
+std::optional<std::int16_t> HoogsteNr(const Gegevens& gegevens, BestandSoort bestand) {
   switch (bestand) {
     case BestandSoort::Personen:
-      return hoofd.Persoon.AantalRecords();
+      return gegevens.persoon.AantalRecords();
     case BestandSoort::Relaties:
-      return hoofd.Relatie.AantalRecords();
+      return gegevens.relatie.AantalRecords();
     case BestandSoort::Opmerkingen:
-      return hoofd.Opmerking.AantalRecords();
+      return gegevens.opmerking.AantalRecords();
     case BestandSoort::Plaatsen:
-      return hoofd.Plaats.AantalRecords();
+      return gegevens.plaats.AantalRecords();
   }
   return std::nullopt;
 }
@@ -75,22 +74,22 @@ void HaalNaam(PersoonLB77& persoon, std::int16_t nr, std::string& voornaam, std:
   }
 }
 
-bool RecordNrGeldig(Hoofdmodule& hoofd, std::string_view tekst, BestandSoort bestand,
-                    Vervolgtest vervolgtest) {
-  const auto hoogste = HoogsteNr(hoofd, bestand);
+bool RecordNrGeldig(const Gegevens& gegevens, Gesprek& gesprek, std::string_view tekst,
+                    BestandSoort bestand, Vervolgtest vervolgtest) {
+  const auto hoogste = HoogsteNr(gegevens, bestand);
   if (!hoogste) return false;
   const std::string_view cijfers = Trim(tekst.substr(0, kCijfers));
-  if (cijfers.empty() || !IsNumeriek(hoofd.gesprek, cijfers)) return false;
+  if (cijfers.empty() || !IsNumeriek(gesprek, cijfers)) return false;
   const auto nr = NaarInt16(Getalwaarde(cijfers));
   if (!nr || *nr < 2 || *nr > *hoogste) {
-    hoofd.gesprek.Waarschuw(kBestaatNiet);
+    gesprek.Waarschuw(kBestaatNiet);
     return false;
   }
   if (bestand == BestandSoort::Personen) {
-    return Voldoet(hoofd.gesprek, hoofd.Persoon, *nr, vervolgtest);
+    return Voldoet(gesprek, gegevens.persoon, *nr, vervolgtest);
   }
   if (bestand == BestandSoort::Relaties) {
-    return Voldoet(hoofd.gesprek, hoofd.Relatie, *nr, vervolgtest);
+    return Voldoet(gesprek, gegevens.relatie, *nr, vervolgtest);
   }
   return true;
 }

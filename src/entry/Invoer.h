@@ -5,12 +5,11 @@
 #include <string>
 #include <string_view>
 
+#include "forms/Gesprek.h"
 #include "store/Bestandenset.h"
-#include "store/PersoonLB77.h"
+#include "store/Gegevens.h"
 
 namespace lb77 {
-
-class Hoofdmodule;
 
 // What a person or relation must be besides readable.
 enum class Vervolgtest {
@@ -27,7 +26,8 @@ void HaalNaam(PersoonLB77& persoon, std::int16_t nr, std::string& voornaam, std:
 // Is the text the number of a record of that file? Tells the user why not; an empty text is
 // refused silently. Only its first five characters count. Of persons and relations the record is
 // read into its buffer, and `vervolgtest` judges it; remarks and places are not read.
-[[nodiscard]] bool RecordNrGeldig(Hoofdmodule& hoofd, std::string_view tekst, BestandSoort bestand,
+[[nodiscard]] bool RecordNrGeldig(const Gegevens& gegevens, Gesprek& gesprek,
+                                  std::string_view tekst, BestandSoort bestand,
                                   Vervolgtest vervolgtest);
 
 }  // namespace lb77

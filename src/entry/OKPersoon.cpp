@@ -21,7 +21,7 @@ void OKPersoon::BijLaden() {
   const std::int16_t nr = hoofd_.volgers.HuidigPersoonNr;
   PNr.ZetTekst(NrTekst(nr));
   NaamVeld.ZetTekst(naam_);
-  InfoTekst.ZetTekst(PersoonInfo(hoofd_, nr));
+  InfoTekst.ZetTekst(PersoonInfo(hoofd_.MaakGegevens(), hoofd_.Ini.ToonTrouw(), nr));
 }
 
 // Leaving without an answer is No.

@@ -16,7 +16,7 @@ PersInfoForm::PersInfoForm(Hoofdmodule& hoofd)
 void PersInfoForm::BijLaden() {
   const std::int16_t nr = hoofd_.volgers.HuidigPersoonNr;
   PNr.ZetTekst(NrTekst(nr));
-  InfoTekst.ZetTekst(PersoonInfo(hoofd_, nr));
+  InfoTekst.ZetTekst(PersoonInfo(hoofd_.MaakGegevens(), hoofd_.Ini.ToonTrouw(), nr));
 }
 
 }  // namespace lb77

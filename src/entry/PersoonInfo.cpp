@@ -1,16 +1,13 @@
 #include "entry/PersoonInfo.h"
 
-#include "app/Hoofdmodule.h"
 #include "output/Zinnen.h"
 
 namespace lb77 {
 
-std::string PersoonInfo(Hoofdmodule& hoofd, std::int16_t nr) {
-  const ZinBronnen bronnen{hoofd.Persoon,   hoofd.Relatie, hoofd.Plaats,
-                           hoofd.Opmerking, hoofd.volgers, hoofd.schrijfwijze};
+std::string PersoonInfo(const Gegevens& gegevens, std::string_view toonTrouw, std::int16_t nr) {
   ZinOpties opties;
-  opties.toonTrouw = hoofd.Ini.ToonTrouw();
-  return Zinnen(bronnen, opties).PersoonInfoTekst(nr);
+  opties.toonTrouw = toonTrouw;
+  return Zinnen(gegevens, opties).PersoonInfoTekst(nr);
 }
 
 }  // namespace lb77

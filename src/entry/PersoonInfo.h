@@ -3,13 +3,15 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
+
+#include "store/Gegevens.h"
 
 namespace lb77 {
 
-class Hoofdmodule;
-
-// The person with his events and partners, told by the settings of the session. HuidigPersoonNr is
+// The person with his events and partners; `toonTrouw` is that of the settings. HuidigPersoonNr is
 // `nr` after it; all record buffers may change.
-[[nodiscard]] std::string PersoonInfo(Hoofdmodule& hoofd, std::int16_t nr);
+[[nodiscard]] std::string PersoonInfo(const Gegevens& gegevens, std::string_view toonTrouw,
+                                      std::int16_t nr);
 
 }  // namespace lb77

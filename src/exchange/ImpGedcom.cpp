@@ -134,8 +134,9 @@ ImpGedcom::Afloop ImpGedcom::Lees(const std::filesystem::path& bestand) {
   // A place file that is full or damaged would say so at each of thousands of lines.
   EenmaalGesprek eenmaal(hoofd_.gesprek);
   PlaatsLB77 plaats({hoofd_.bestanden, hoofd_.volgers, eenmaal, hoofd_.schrijfwijze});
-  ImpLoop loop({hoofd_.Persoon, hoofd_.Relatie, plaats, hoofd_.Opmerking, hoofd_.volgers,
-                hoofd_.schrijfwijze.gezindten, scherm},
+  ImpLoop loop({{hoofd_.Persoon, hoofd_.Relatie, plaats, hoofd_.Opmerking, hoofd_.volgers,
+                 hoofd_.schrijfwijze},
+                scherm},
                personen, relaties);
   const ImpUitslag uitslag = VoerGangen(loop, lezer);
   if (uitslag.gestopt) return {.gestopt = true};

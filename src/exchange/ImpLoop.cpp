@@ -83,7 +83,7 @@ std::string ImpLoop::GedRelNr(std::string_view verwijzing) const {
 }
 
 std::string ImpLoop::Gezindte(std::string_view waarde) {
-  return GedGezindte(GedTekst(Trim(waarde)), delen.gezindten);
+  return GedGezindte(GedTekst(Trim(waarde)), delen.schrijfwijze.gezindten);
 }
 
 }  // namespace lb77

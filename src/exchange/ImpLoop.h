@@ -11,23 +11,12 @@
 #include "exchange/GedRegel.h"
 #include "exchange/GedTekenset.h"
 #include "exchange/ImpMelder.h"
-#include "store/OpmLB77.h"
-#include "store/PersoonLB77.h"
-#include "store/PlaatsLB77.h"
-#include "store/RelatieLB77.h"
-#include "store/Volgers.h"
-#include "text/Gezindte.h"
+#include "store/Gegevens.h"
 
 namespace lb77 {
 
 // The records that an import fills, and what it needs beside them.
-struct ImpDelen {
-  PersoonLB77& persoon;
-  RelatieLB77& relatie;
-  PlaatsLB77& plaats;
-  OpmLB77& opmerking;
-  Volgers& volgers;
-  const Gezindten& gezindten;
+struct ImpDelen : Gegevens {
   ImpMelder& melder;
 };
 

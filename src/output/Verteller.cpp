@@ -38,7 +38,7 @@ class Verteller::InRapport final : public ZinUitvoer {
   std::int16_t opmCode_;
 };
 
-Verteller::Verteller(const ZinBronnen& bronnen, TekstSchrijver& schrijver, ZinOpties opties)
+Verteller::Verteller(const Gegevens& bronnen, TekstSchrijver& schrijver, ZinOpties opties)
     : bronnen_(bronnen),
       schrijver_(schrijver),
       opties_(std::move(opties)),

@@ -7,6 +7,7 @@
 
 #include "output/TekstSchrijver.h"
 #include "output/ZinOpties.h"
+#include "store/Gegevens.h"
 #include "store/Rubrieken.h"
 
 namespace lb77 {
@@ -16,7 +17,7 @@ namespace lb77 {
 class Verteller {
  public:
   // Takes the number of remark records. `schrijver` is open and outlives the run.
-  Verteller(const ZinBronnen& bronnen, TekstSchrijver& schrijver, ZinOpties opties);
+  Verteller(const Gegevens& bronnen, TekstSchrijver& schrijver, ZinOpties opties);
 
   [[nodiscard]] const ZinOpties& Opties() const { return opties_; }
   // Switches remarks on or off in the middle of a run.
@@ -59,7 +60,7 @@ class Verteller {
   void SchrijfNaam(std::string_view naam, bool vast);
   [[nodiscard]] bool SchrijfOuder(std::int16_t nr, bool metBeroep);
 
-  ZinBronnen bronnen_;
+  Gegevens bronnen_;
   TekstSchrijver& schrijver_;
   ZinOpties opties_;
   std::int16_t aantalOpm_;

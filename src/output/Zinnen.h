@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "output/ZinOpties.h"
+#include "store/Gegevens.h"
 
 namespace lb77 {
 
@@ -14,7 +15,7 @@ namespace lb77 {
 // remark is written here.
 class Zinnen {
  public:
-  explicit Zinnen(const ZinBronnen& bronnen, ZinOpties opties = {})
+  explicit Zinnen(const Gegevens& bronnen, ZinOpties opties = {})
       : bronnen_(bronnen), opties_(std::move(opties)) {}
 
   // The person with his events. HuidigPersoonNr becomes `nr`, and the buffer holds him.
@@ -34,7 +35,7 @@ class Zinnen {
  private:
   std::string PartnerZin(std::int16_t partner);
 
-  ZinBronnen bronnen_;
+  Gegevens bronnen_;
   ZinOpties opties_;
 };
 

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "output/ZinOpties.h"
+#include "store/Gegevens.h"
 
 namespace lb77 {
 
@@ -25,7 +26,7 @@ class ZinUitvoer {
 // when the sink writes them; those of persons and relations stay.
 class Zinsbouw {
  public:
-  Zinsbouw(const ZinBronnen& bronnen, ZinUitvoer& uitvoer) : bronnen_(bronnen), uit_(uitvoer) {}
+  Zinsbouw(const Gegevens& bronnen, ZinUitvoer& uitvoer) : bronnen_(bronnen), uit_(uitvoer) {}
 
   // All of the person in the buffer behind his name and number: birth and baptism, occupation,
   // death and burial. `opmCode` holds the rubrics after which a remark may follow.
@@ -59,7 +60,7 @@ class Zinsbouw {
   void Ondertrouw(const Huwelijk& huwelijk);
   void Samen(const Huwelijk& huwelijk, unsigned samen);
 
-  ZinBronnen bronnen_;
+  Gegevens bronnen_;
   ZinUitvoer& uit_;
 };
 

@@ -1,6 +1,6 @@
 #include "reporting/PersoonKop.h"
 
-#include "app/Hoofdmodule.h"
+#include "store/PersoonLB77.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
@@ -11,14 +11,14 @@ PersoonKop::PersoonKop(Formulier& formulier, std::string_view wie)
       AchterNm(formulier, "AchterNm" + std::string(wie), "Achternaam:"),
       Periode(formulier, "Periode", "Periode:") {}
 
-void PersoonKop::Toon(Hoofdmodule& hoofd, std::int16_t nr) {
+void PersoonKop::Toon(PersoonLB77& persoon, std::int16_t nr) {
   std::string voor;
   std::string achter;
-  hoofd.Persoon.HeleNaam(nr, voor, achter, "<onbekend>");
+  persoon.HeleNaam(nr, voor, achter, "<onbekend>");
   Nr.ZetTekst(GetalTekst(nr));
   VoorNm.ZetTekst(voor);
   AchterNm.ZetTekst(achter);
-  Periode.ZetTekst(hoofd.Persoon.Periode(nr));
+  Periode.ZetTekst(persoon.Periode(nr));
 }
 
 std::string PersoonKop::Naam() const {

@@ -1,6 +1,5 @@
 #include "reporting/Tijdelijk.h"
 
-#include "app/Hoofdmodule.h"
 #include "text/Pad.h"
 
 namespace lb77 {
@@ -15,11 +14,6 @@ bool SluitTijdelijk(TekstSchrijver& uit, const std::filesystem::path& pad, Gespr
   if (uit.Sluit()) return true;
   gesprek.Fout("Fout bij het schrijven van " + PadTekst(pad) + "\n" + uit.Fout().tekst);
   return false;
-}
-
-ZinBronnen Bronnen(Hoofdmodule& hoofd) {
-  return {hoofd.Persoon,   hoofd.Relatie, hoofd.Plaats,
-          hoofd.Opmerking, hoofd.volgers, hoofd.schrijfwijze};
 }
 
 }  // namespace lb77

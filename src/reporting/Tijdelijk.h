@@ -5,11 +5,8 @@
 
 #include "forms/Gesprek.h"
 #include "output/TekstSchrijver.h"
-#include "output/ZinOpties.h"
 
 namespace lb77 {
-
-class Hoofdmodule;
 
 // Makes the file; the message for a failure is shown here.
 [[nodiscard]] bool OpenTijdelijk(TekstSchrijver& uit, const std::filesystem::path& pad,
@@ -18,8 +15,5 @@ class Hoofdmodule;
 // Closes the file. False, with a message, when not all of it could be written.
 [[nodiscard]] bool SluitTijdelijk(TekstSchrijver& uit, const std::filesystem::path& pad,
                                   Gesprek& gesprek);
-
-// What the phrases read, out of the session.
-[[nodiscard]] ZinBronnen Bronnen(Hoofdmodule& hoofd);
 
 }  // namespace lb77

@@ -34,8 +34,8 @@ class KwstSchrijverToets : public ::testing::Test {
     TekstSchrijver schrijver;
     EXPECT_TRUE(schrijver.Open(set_.map / "uit.txt"));
     schrijver.ZetRechterMarge(opties_.KwInHTML ? TekstSchrijver::kGeenRechterMarge : 78);
-    const ZinBronnen bronnen{set_.Persoon,   set_.Relatie, set_.Plaats,
-                             set_.Opmerking, set_.volgers, set_.schrijfwijze};
+    const Gegevens bronnen{set_.Persoon,   set_.Relatie, set_.Plaats,
+                           set_.Opmerking, set_.volgers, set_.schrijfwijze};
     const KwstUitslag uitslag =
         KwstSchrijver(tabel_, opties_, bronnen, zin, schrijver, verloop_).Schrijf();
     EXPECT_TRUE(schrijver.Sluit());

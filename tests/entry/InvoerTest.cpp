@@ -12,7 +12,8 @@ class InvoerTest : public FamilieToets {
  protected:
   void VerwachtGeldig(std::string_view tekst, BestandSoort bestand, Vervolgtest vervolgtest) {
     Stil([&](Hoofdmodule& hoofd) {
-      EXPECT_TRUE(RecordNrGeldig(hoofd, tekst, bestand, vervolgtest)) << tekst;
+      EXPECT_TRUE(RecordNrGeldig(hoofd.MaakGegevens(), hoofd.gesprek, tekst, bestand, vervolgtest))
+          << tekst;
     });
   }
   void VerwachtOngeldig(std::string_view tekst, BestandSoort bestand, Vervolgtest vervolgtest,
@@ -20,7 +21,9 @@ class InvoerTest : public FamilieToets {
     Verwacht(
         "",
         [&](Hoofdmodule& hoofd) {
-          EXPECT_FALSE(RecordNrGeldig(hoofd, tekst, bestand, vervolgtest)) << tekst;
+          EXPECT_FALSE(
+              RecordNrGeldig(hoofd.MaakGegevens(), hoofd.gesprek, tekst, bestand, vervolgtest))
+              << tekst;
         },
         verslag, plek);
   }

@@ -36,8 +36,8 @@ class ZinToets : public ::testing::Test {
 
   ProefSet set_;
   BouwFamilie& bouw_ = set_.bouw;
-  ZinBronnen bronnen_{set_.Persoon,   set_.Relatie, set_.Plaats,
-                      set_.Opmerking, set_.volgers, set_.schrijfwijze};
+  Gegevens bronnen_{set_.Persoon,   set_.Relatie, set_.Plaats,
+                    set_.Opmerking, set_.volgers, set_.schrijfwijze};
 };
 
 }  // namespace lb77

@@ -18,7 +18,7 @@ class PersoonKopToets : public FamilieToets {
   // The four values, shown for that person.
   std::vector<std::string> Toon(std::int16_t nr) {
     Kopvorm vorm;
-    Stil([&](Hoofdmodule& hoofd) { vorm.Kop.Toon(hoofd, nr); });
+    Stil([&](Hoofdmodule& hoofd) { vorm.Kop.Toon(hoofd.Persoon, nr); });
     naam_ = vorm.Kop.Naam();
     std::vector<std::string> uit;
     for (const Bediening* bediening : vorm.Bedieningen()) {
