@@ -144,8 +144,13 @@ class OpmLB77 final : public RecordRaam {
   [[nodiscard]] bool Koppel(std::int16_t nr, const Veld& schakel, std::int16_t volgende);
   // Takes a free record for a line, fills and counts it; 0 after a message.
   std::int16_t NeemRecord(const Opdracht& opdracht, std::size_t i);
+  // A free record, made when there is none; 0 after a message.
   std::int16_t Kandidaat();
+  // The next free record behind `vanaf`, or the number behind the last record.
   std::int16_t ZoekVrij(std::int16_t vanaf);
+  // The first record from `nr` on that is free, or that the system can't read; behind `aantal` when
+  // there is none.
+  std::int32_t ZoekVrijVanaf(std::int32_t nr, std::int16_t aantal);
   [[nodiscard]] bool TelGebruikt(std::int16_t nr);
   [[nodiscard]] bool LeesAdminVast();
   [[nodiscard]] bool LeesOpmerking(std::int16_t nr);

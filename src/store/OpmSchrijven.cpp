@@ -15,6 +15,7 @@ namespace veld = opmveld;
 
 namespace {
 
+constexpr std::int16_t kEersteOpm = 2;
 constexpr std::string_view kLeesFout = "Fout bij het lezen van Opmerking";
 constexpr std::string_view kSchrijfFout = "Fout bij het schrijven van Opmerking";
 
@@ -152,11 +153,7 @@ std::int16_t OpmLB77::NeemRecord(const Opdracht& opdracht, std::size_t i) {
   if (nr == 0) return 0;
   Trackers().HuidigOpmNr = nr;
   if (!Lees() || Rubriek() != 0) {
-    if (nr == kMaxRecords) {
-      MeldFout(kMaximumBereikt);
-    } else {
-      MeldFout(std::string(kLeesFout) + GetalTekst(nr));
-    }
+    MeldFout(std::string(kLeesFout) + GetalTekst(nr));
     return 0;
   }
   Leeg();
@@ -170,9 +167,14 @@ std::int16_t OpmLB77::NeemRecord(const Opdracht& opdracht, std::size_t i) {
 
 std::int16_t OpmLB77::Kandidaat() {
   if (!LeesAdminVast()) return 0;
-  const std::int16_t vrij = BijProg();
+  // Record 1 is never free, whatever a damaged admin record says.
+  const auto vrij = std::max<std::int16_t>(BijProg(), kEersteOpm);
   const std::int16_t aantal = AantalRecords();
-  if (vrij <= aantal) return vrij;
+  if (vrij <= aantal) {
+    // An interrupted write of the admin record leaves it on a record that was taken since.
+    const std::int32_t vrijNr = ZoekVrijVanaf(vrij, aantal);
+    if (vrijNr <= aantal) return static_cast<std::int16_t>(vrijNr);
+  }
   // Never further than the next record: one behind a gap could not be reached again.
   const std::int32_t nr = aantal + 1;
   return Nieuw(nr) ? static_cast<std::int16_t>(nr) : std::int16_t{0};
@@ -189,11 +191,17 @@ bool OpmLB77::TelGebruikt(std::int16_t nr) {
 }
 
 std::int16_t OpmLB77::ZoekVrij(std::int16_t vanaf) {
-  const std::int16_t aantal = AantalRecords();
-  std::int32_t nr = vanaf + 1;
-  while (nr <= aantal && !(LeesStil(nr).gelukt && Rubriek() == 0)) ++nr;
   // A file that is full has no number behind its last record; taking that one again is refused.
+  const std::int32_t nr = ZoekVrijVanaf(vanaf + 1, AantalRecords());
   return static_cast<std::int16_t>(std::min(nr, kMaxRecords));
+}
+
+std::int32_t OpmLB77::ZoekVrijVanaf(std::int32_t nr, std::int16_t aantal) {
+  for (; nr <= aantal; ++nr) {
+    const Uitslag uitslag = LeesStil(nr);
+    if (uitslag.fout || (uitslag.gelukt && Rubriek() == 0)) break;
+  }
+  return nr;
 }
 
 bool OpmLB77::LeesAdminVast() {

@@ -29,9 +29,11 @@ constexpr RaamTabel kTabel{
     .schrijfAdminFout = "Fout bij het schrijven van het Administratierecord van het Plaatsbestand",
     .aantalFout = "Aantal plaatsrecords in administratierecord is onjuist",
     .laagste = 1,
+    .hoogste = kHoogstePlaats,
+    .volFout = "Het maximum van 10000 plaatsen is bereikt",
 };
 
-constexpr std::int16_t kVermoedelijk = 10000;
+constexpr std::int16_t kVermoedelijk = kHoogstePlaats;
 constexpr std::int16_t kTwijfelachtig = 20000;
 constexpr std::int16_t kGeenPlaats = -1;
 
@@ -159,6 +161,7 @@ std::optional<std::int16_t> PlaatsLB77::Doorzoek(const Zoekvraag& zoek) {
       MeldStoring(*storing);
   };
   for (const std::int16_t nr : nummers) {
+    if (nr > kHoogstePlaats) break;
     meldTot(nr);
     if (!Lees(nr)) {
       MeldStoring({nr, PlaatsStoring::Soort::Onleesbaar});
@@ -174,7 +177,7 @@ std::optional<std::int16_t> PlaatsLB77::Doorzoek(const Zoekvraag& zoek) {
 std::int16_t PlaatsLB77::VoegToe(const Zoekvraag& zoek, std::int32_t nr) {
   const auto bij = [&] { return DeOpslag().bestanden.Stand(BestandSoort::Plaatsen); };
   const bool actueel = indexStand_ == bij();
-  indexStand_.reset();
+  // The file's state tells whether a failure has left anything that the index does not know.
   if (!Nieuw(nr)) return kGeenPlaats;
   std::string prov(zoek.prov);
   if (zoek.toevoegen == 0) prov = zoek.vraag.Provincie(zoek.naam, "  ");

@@ -13,6 +13,9 @@
 
 namespace lb77 {
 
+// The last place that a person or relation can name: a higher number would carry a qualifier.
+inline constexpr std::int16_t kHoogstePlaats = 10000;
+
 // The record number in a place number: without the offsets of its qualifier.
 std::int16_t PlaatsRecordNr(std::int16_t plaatsNr);
 
@@ -36,8 +39,8 @@ class PlaatsLB77 final : public RecordRaam {
   // Reads the place and gives its province code; empty for a failure.
   std::string Prov(std::int16_t PlaatsNr);
 
-  // Makes an empty place at `Nr` (from 2, AantalRecords() + 1) and reads it. Above 32767 it
-  // refuses with a message.
+  // Makes an empty place at `Nr` (from 2, AantalRecords() + 1) and reads it. Above kHoogstePlaats
+  // it refuses with a message.
   [[nodiscard]] bool Nieuw(std::int32_t Nr);
   // Writes record 1 of a new file.
   [[nodiscard]] bool NieuwAdm();
@@ -46,7 +49,7 @@ class PlaatsLB77 final : public RecordRaam {
   // `Gedeeltelijk`: 0 takes the first equal name; -1 compares with the beginning of names and asks
   // at each match; any other value compares whole names and asks.
   // `Toevoegen`, when none was found: 1 adds it with `Prov`; 0 asks first, and for the province;
-  // -1 says that the name was not found.
+  // -1 says that the name was not found. Places above kHoogstePlaats are not found.
   std::int16_t Nr(std::string_view Naam, std::int16_t Gedeeltelijk, std::string_view Prov,
                   std::int16_t Toevoegen, PlaatsVraag& vraag);
   // The place of exactly this name, added with `Prov` when there is none; asks nothing.

@@ -102,8 +102,8 @@ bool RecordRaam::IsInGebruik() const {
 }
 
 bool RecordRaam::MagNieuw(std::int32_t nr) {
-  if (nr > kMaxRecords) {
-    MeldFout(kMaximumBereikt);
+  if (nr > tabel_.hoogste) {
+    MeldFout(tabel_.volFout);
     return false;
   }
   if (nr < 2) {
@@ -117,10 +117,13 @@ bool RecordRaam::MagNieuw(std::int32_t nr) {
     MeldFout(MetNr("Fout bij het lezen van ", tabel_.recordNaam, nr), uitslag.fout);
     return false;
   }
-  if (!HeeftSonde(uitslag.gelezen) || !IsInGebruik()) return true;
-  MeldFout(MetNr("", tabel_.recordNaam, nr) +
-           " bestaat al: het aantal in het administratierecord is te laag");
-  return false;
+  if (HeeftSonde(uitslag.gelezen) && IsInGebruik()) {
+    MeldFout(MetNr("", tabel_.recordNaam, nr) +
+             " bestaat al: het aantal in het administratierecord is te laag");
+    return false;
+  }
+  // A record that could not be counted would lie behind the last one for ever.
+  return LeesAdmin() && VerhoogAantal();
 }
 
 bool RecordRaam::SchrijfLeeg(std::int32_t nr) {
@@ -171,10 +174,11 @@ bool RecordRaam::Probeer(std::int32_t nr, bool& gemeld) {
 std::int16_t RecordRaam::ZoekHoogste(std::int32_t vanaf) {
   // One box for a disk that fails, not one for each of its records.
   bool gemeld = false;
-  std::int32_t nr = std::min(vanaf, kMaxRecords);
+  const std::int32_t begin = std::min(vanaf, kMaxRecords);
+  std::int32_t nr = begin;
   while (nr > tabel_.laagste && !Probeer(nr, gemeld)) {
     // A count that is far too high is not worth a read for each number behind the file's end.
-    nr = nr == vanaf ? std::min(nr - 1, RecordsInBestand()) : nr - 1;
+    nr = nr == begin ? std::min(nr - 1, RecordsInBestand()) : nr - 1;
   }
   return static_cast<std::int16_t>(std::max<std::int32_t>(nr, tabel_.laagste));
 }

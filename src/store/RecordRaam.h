@@ -16,6 +16,7 @@
 #include "store/Veld.h"
 #include "store/VeldWaarde.h"
 #include "store/Volgers.h"
+#include "text/Getallen.h"
 
 namespace lb77 {
 
@@ -33,8 +34,10 @@ struct RaamTabel {
   std::string_view schrijfNaam;    // the same in the message of a write
   std::string_view leesAdminFout;  // message of a record 1 that can't be read
   std::string_view schrijfAdminFout;
-  std::string_view aantalFout;  // warning of a wrong count; empty when there is none
-  std::int16_t laagste;         // what AantalRecords gives when no record is found at all
+  std::string_view aantalFout;         // warning of a wrong count; empty when there is none
+  std::int16_t laagste;                // what AantalRecords gives when no record is found at all
+  std::int32_t hoogste = kMaxRecords;  // the last number that Nieuw takes
+  std::string_view volFout = kMaximumBereikt;
 };
 
 // Holds one record. Reading replaces it; every write reaches the file at once. A failure is shown
@@ -105,7 +108,7 @@ class RecordRaam {
   // Writes an empty record at `nr`, raises the count in record 1 and reads `nr` back.
   [[nodiscard]] bool NieuwRecord(std::int32_t nr);
   // Writes an empty record at `nr`, the first step of a new one. A record that is in use is never
-  // overwritten: that fails with a message.
+  // overwritten, and one that could not be counted never written: both fail with a message.
   [[nodiscard]] bool SchrijfLeeg(std::int32_t nr);
   // Raises the count of the admin record in the buffer; fails with a message when it is full.
   [[nodiscard]] bool VerhoogAantal();

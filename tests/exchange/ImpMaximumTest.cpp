@@ -77,7 +77,7 @@ TEST_F(ImpMaximum, ASixteenthChildWithoutARecordLeavesTheFifteenInPlace) {
 
 TEST_F(ImpMaximum, PlacesThatAreFullAreToldOnceAndKnownOnesAreFound) {
   Bouw().Plaats("Delft");
-  Vul("PLT", 27, plaatsveld::Prov.plaats, 32766, -1);
+  Vul("PLT", 27, plaatsveld::Prov.plaats, 9999, -1);
   Importeer(Ged(R"(
       0 @I1@ INDI
       1 BIRT
@@ -92,10 +92,10 @@ TEST_F(ImpMaximum, PlacesThatAreFullAreToldOnceAndKnownOnesAreFound) {
       1 BURI
       2 PLAC aa
     )"),
-            kMaximum);
+            "! stop \"Het maximum van 10000 plaatsen is bereikt\"\n");
   EXPECT_EQ(LogRegels(), "P-I1 - Plaats niet opgeslagen: Bb\nP-I2 - Plaats niet opgeslagen: Cc\n");
-  EXPECT_EQ(Persoon(2), "te 32767");
-  EXPECT_EQ(Persoon(3), "te 2; te 32767");
+  EXPECT_EQ(Persoon(2), "te 10000");
+  EXPECT_EQ(Persoon(3), "te 2; te 10000");
   EXPECT_EQ(Plaats(2), "Delft");
 }
 

@@ -150,8 +150,8 @@ TEST_F(OpmLB77Test, NieuwWerktDeTellersBijEnStaatOpHetRecord) {
 }
 
 TEST_F(OpmLB77Test, EenNieuwRecordDatNietTerugTeLezenIsMeldtDat) {
-  // In use?, write, read record 1, write record 1, read back.
-  storing = {.bij = 5};
+  // In use?, can it be counted?, write, read record 1, write record 1, read back.
+  storing = {.bij = 6};
   EXPECT_FALSE(set.Opmerking.Nieuw(2));
   EXPECT_EQ(set.Getoond(), Boxen{"! stop \"Fout bij het lezen van het nieuwe "
                                  "Opmerkingenrecord\\nFout van de schijf\""});

@@ -268,12 +268,41 @@ TEST_F(OpmSchrijvenTest, HetZoekenNaarEenVrijRecordGaatOverBezetteHeen) {
   EXPECT_EQ(Admin(), (Drie{5, 3, 3}));
 }
 
-TEST_F(OpmSchrijvenTest, EenEersteVrijDatBezetIsStoptMetEenMelding) {
-  ASSERT_TRUE(Wijzig(1, {"een"}));
-  ZetAdmin(2, 2, 1);
-  EXPECT_FALSE(Wijzig(8, {"twee"}));
-  EXPECT_EQ(set.Getoond(), Boxen{"! stop \"Fout bij het lezen van Opmerking2\""});
-  EXPECT_EQ(Eigenaar(), Paar(2, 1));
+TEST_F(OpmSchrijvenTest, EenEersteVrijDatBezetIsWijktVoorHetVolgendeVrije) {
+  ASSERT_TRUE(Wijzig(1, {"een", "twee", "drie"}));
+  ZetAdmin(4, 2, 3);
+  ASSERT_TRUE(Wijzig(8, {"vier"}));
+  EXPECT_EQ(Teksten(1), (Lijst{"een", "twee", "drie"}));
+  EXPECT_EQ(Teksten(8), Lijst{"vier"});
+  EXPECT_EQ(Admin(), (Drie{5, 4, 6}));
+  ASSERT_TRUE(Wijzig(1, {"een", "twee"}));
+  ZetAdmin(5, 2, 3);
+  ASSERT_TRUE(Wijzig(16, {"vijf"}));
+  EXPECT_EQ(Lees(4).Tekstregel(), "vijf");
+}
+
+TEST_F(OpmSchrijvenTest, EenEersteVrijOnderTweeIsNooitRecordEen) {
+  int opmerking = 0;
+  for (const std::int16_t vrij : std::initializer_list<std::int16_t>{1, 0, -7}) {
+    ZetAdmin(set.Opmerking.AantalInAdmin(), vrij, 0);
+    const std::string voor = LeesBytes(set.paden.opm).substr(10, 86);
+    ASSERT_TRUE(Wijzig(1, {"een"}, ++opmerking));
+    EXPECT_EQ(LeesBytes(set.paden.opm).substr(10, 86), voor);
+  }
+  EXPECT_EQ(Lees(4).Tekstregel(), "een");
+}
+
+TEST_F(OpmSchrijvenTest, EenVolBestandMetEenOudEersteVrijMeldtHetMaximum) {
+  ZetAdmin(32767, 2, 32766);
+  set.bestanden.SluitAlles();
+  std::string bytes = LeesBytes(set.paden.opm);
+  const std::string bezet = std::string("\1\0\1\0", 4) + std::string(92, ' ');
+  while (bytes.size() < 32767 * 96) bytes += bezet;
+  SchrijfBytes(set.paden.opm, bytes);
+  set.Heropen();
+  EXPECT_FALSE(Wijzig(1, {"een"}));
+  EXPECT_EQ(set.Getoond(), Boxen{"! stop \"Het maximum van 32767 records is bereikt\""});
+  EXPECT_EQ(LeesBytes(set.paden.opm), bytes);
 }
 
 TEST_F(OpmSchrijvenTest, EenEersteVrijVerVoorbijHetEindeNeemtHetVolgendeRecord) {

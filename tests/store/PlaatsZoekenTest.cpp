@@ -289,13 +289,37 @@ TEST_F(PlaatsZoekenTest, EenBlijvendeLeesfoutToontOokDeReden) {
   EXPECT_EQ(boxen[1], "! uitroep \"2 Fout bij het lezen van plaatsrecord\"");
 }
 
-TEST_F(PlaatsZoekenTest, EenVolBestandNeemtGeenPlaatsMeer) {
-  Bederf(1, "\xFE\x7F");
-  Bederf(32767, "ZHLaatste                  ");
-  EXPECT_EQ(set.Plaats.AantalRecords(), 32767);
-  NepPlaatsVraag niemand;
-  EXPECT_EQ(Zoek("Laatste", kHeelEersteGoed, kNietToe, niemand), 32767);
+TEST_F(PlaatsZoekenTest, VoorbijNummer10000KomtGeenPlaatsMeer) {
+  Bederf(1, "\x0F\x27");
+  Bederf(10000, "ZHLaatste                  ");
+  EXPECT_EQ(set.Plaats.AantalRecords(), 10000);
+  EXPECT_EQ(Zoek("Laatste"), 10000);
   static_cast<void>(set.Getoond());
-  EXPECT_EQ(Zoek("Nieuw", kHeelEersteGoed, kVoegToe, niemand), -1);
-  EXPECT_EQ(set.Getoond().back(), "! stop \"Het maximum van 32767 records is bereikt\"");
+  const std::string voor = LeesBytes(set.paden.plt);
+  EXPECT_EQ(Zoek("Nieuw", kHeelEersteGoed, kVoegToe), -1);
+  EXPECT_EQ(set.Getoond().back(), "! stop \"Het maximum van 10000 plaatsen is bereikt\"");
+  EXPECT_EQ(LeesBytes(set.paden.plt), voor);
+}
+
+TEST_F(PlaatsZoekenTest, EenPlaatsDieAlVoorbij10000LigtWordtNietGevonden) {
+  Bederf(1, "\x10\x27");
+  Bederf(10001, "ZHVerweg                   ");
+  EXPECT_EQ(Zoek("Verweg"), -1);
+  EXPECT_EQ(set.Getoond().back(), "! uitroep \"Plaatsnaam niet gevonden\"");
+}
+
+TEST_F(PlaatsZoekenTest, EenTellingDieVolIsKostGeenRecordEnGeenNieuweIndex) {
+  Bederf(1, "\xFF\x7F");
+  static_cast<void>(Zoek("Delft"));
+  const std::string voor = LeesBytes(set.paden.plt);
+  const auto leesacties = [&](const char* naam) {
+    const int begin = storing.teller;
+    EXPECT_EQ(Zoek(naam, kHeelEersteGoed, kVoegToe), -1);
+    EXPECT_EQ(set.Getoond().back(), "! stop \"Het maximum van 32767 records is bereikt\"");
+    return storing.teller - begin;
+  };
+  const int eerste = leesacties("Nieuw");
+  EXPECT_EQ(leesacties("Nieuwer"), eerste);
+  EXPECT_LT(eerste, 6);
+  EXPECT_EQ(LeesBytes(set.paden.plt), voor);
 }

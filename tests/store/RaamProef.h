@@ -15,6 +15,8 @@ struct PersoonProef {
   static constexpr BestandSoort kSoort = BestandSoort::Personen;
   static constexpr std::int16_t kGeenNr = -1;
   static constexpr std::int16_t kNieuwAantal = 0;
+  static constexpr int kHoogste = 32767;
+  static constexpr const char* kVol = "Het maximum van 32767 records is bereikt";
   static constexpr const char* kVeld = "Voornaam";
   static constexpr const char* kLees = "Fout bij het lezen van Persoonsrecord ";
   static constexpr const char* kSchrijf = "Fout bij het schrijven van Persoonsrecord ";
@@ -36,6 +38,8 @@ struct RelatieProef {
   static constexpr BestandSoort kSoort = BestandSoort::Relaties;
   static constexpr std::int16_t kGeenNr = -1;
   static constexpr std::int16_t kNieuwAantal = 0;
+  static constexpr int kHoogste = 32767;
+  static constexpr const char* kVol = "Het maximum van 32767 records is bereikt";
   static constexpr const char* kVeld = "HuwSoort";
   static constexpr const char* kLees = "Fout bij het lezen van Relatierecord ";
   static constexpr const char* kSchrijf = "Fout bij het schrijven van Relatierecord ";
@@ -57,6 +61,8 @@ struct PlaatsProef {
   static constexpr BestandSoort kSoort = BestandSoort::Plaatsen;
   static constexpr std::int16_t kGeenNr = 0;
   static constexpr std::int16_t kNieuwAantal = 0;
+  static constexpr int kHoogste = 10000;
+  static constexpr const char* kVol = "Het maximum van 10000 plaatsen is bereikt";
   static constexpr const char* kVeld = "Plaatsnaam";
   static constexpr const char* kLees = "Fout bij het lezen van Plaatsrecord ";
   static constexpr const char* kSchrijf = "Fout bij het schrijven van Plaatsrecord ";
@@ -80,6 +86,8 @@ struct OpmProef {
   static constexpr BestandSoort kSoort = BestandSoort::Opmerkingen;
   static constexpr std::int16_t kGeenNr = -1;
   static constexpr std::int16_t kNieuwAantal = 1;
+  static constexpr int kHoogste = 32767;
+  static constexpr const char* kVol = "Het maximum van 32767 records is bereikt";
   static constexpr const char* kVeld = "Tekstregel";
   static constexpr const char* kLees = "Fout bij het lezen van Opmrecord ";
   static constexpr const char* kSchrijf = "Fout bij het schrijven van Opmerkingenrecord ";

@@ -196,20 +196,22 @@ TYPED_TEST(RecordRaamTest, EenNegatieveTellingIsGeenEindeloosZoeken) {
   EXPECT_EQ(this->set.Getoond(), TypeParam::kNieuwAantal == 1 ? kGeenBoxen : melding);
 }
 
-TYPED_TEST(RecordRaamTest, HetLaatsteNummerIs32767) {
-  this->ZetTelling(this->Telling(32766));
-  ASSERT_TRUE(this->Klasse().Nieuw(32767));
-  EXPECT_EQ(this->Klasse().AantalRecords(), 32767);
+TYPED_TEST(RecordRaamTest, HetLaatsteNummerIsVastgelegd) {
+  this->ZetTelling(this->Telling(TypeParam::kHoogste - 1));
+  ASSERT_TRUE(this->Klasse().Nieuw(TypeParam::kHoogste));
+  EXPECT_EQ(this->Klasse().AantalRecords(), TypeParam::kHoogste);
   const std::string voor = LeesBytes(this->Pad());
   EXPECT_FALSE(this->Klasse().Nieuw(this->Klasse().AantalRecords() + 1));
-  EXPECT_EQ(this->set.Getoond(), Boxen{this->Stop("Het maximum van 32767 records is bereikt")});
+  EXPECT_EQ(this->set.Getoond(), Boxen{this->Stop(TypeParam::kVol)});
   EXPECT_EQ(LeesBytes(this->Pad()), voor);
 }
 
 TYPED_TEST(RecordRaamTest, EenTellingDieNietHogerKanBlijftStaan) {
   this->ZetTelling(32767);
+  const std::string voor = LeesBytes(this->Pad());
   EXPECT_FALSE(this->Klasse().Nieuw(2));
   EXPECT_EQ(this->set.Getoond(), Boxen{this->Stop("Het maximum van 32767 records is bereikt")});
+  EXPECT_EQ(LeesBytes(this->Pad()), voor);
   EXPECT_EQ(TypeParam::BufNr(this->set), TypeParam::kGeenNr);
   EXPECT_EQ(this->Klasse().AantalInAdmin(), 32767);
 }
