@@ -1,12 +1,13 @@
 #include "app/NieuweSet.h"
 
+#include <cstdint>
 #include <filesystem>
-#include <optional>
 #include <system_error>
 
 #include "app/Bestandensets.h"
 #include "store/Bestandenset.h"
 #include "store/Paden.h"
+#include "store/Platform.h"
 #include "store/SetPaden.h"
 #include "text/Getallen.h"
 #include "text/Pad.h"
@@ -44,30 +45,50 @@ bool MaakAdmin(Hoofdmodule& hoofd, BestandSoort soort) {
   return hoofd.Plaats.NieuwAdm();
 }
 
-// Opens a file that was not there, with its record 1. When that can't be written the file goes
-// again, so that a next attempt does not take it for an old one. The central place file is no help
-// here: its record 1 would be lost.
-bool MaakBestand(Hoofdmodule& hoofd, BestandSoort soort, const std::filesystem::path& pad) {
+// What a program that was stopped leaves behind before the first record is written.
+bool IsLeeg(const std::filesystem::path& pad) {
+  std::error_code code;
+  const std::uintmax_t lengte = std::filesystem::file_size(pad, code);
+  return !code && lengte == 0;
+}
+
+// Makes the file when it is not there, and tells whether it did. Of what is there nothing is looked
+// at first: a file that cannot be looked at is not absent.
+SysteemFout MaakNieuw(const std::filesystem::path& pad, bool& gemaakt) {
+  Bestandsgreep greep;
+  SysteemFout fout = greep.Open(pad, Openwijze::Nieuw);
+  gemaakt = !fout;
+  return fout.nummer == kBestandBestaatAl ? SysteemFout{} : fout;
+}
+
+// Opens the file, with its record 1 when it is empty. False after a message.
+bool OpenMetAdmin(Hoofdmodule& hoofd, BestandSoort soort, const std::filesystem::path& pad) {
   if (const SysteemFout fout = hoofd.bestanden.Open(soort, pad)) {
     hoofd.gesprek.Fout(OpenFoutTekst({soort, pad, fout}));
     return false;
   }
-  if (MaakAdmin(hoofd, soort)) return true;
+  if (!IsLeeg(pad) || MaakAdmin(hoofd, soort)) return true;
   hoofd.bestanden.Sluit(soort);
   std::error_code code;
-  std::filesystem::remove(pad, code);
+  std::filesystem::resize_file(pad, 0, code);
   return false;
 }
 
-// An existing file is adopted as it is.
+// An existing file is adopted as it is; a new or an empty one gets its record 1. When that can't be
+// written the file is again as it was, so that a next attempt does not take it for an old one. The
+// central place file is no help here: its record 1 would be lost.
 bool NeemBestand(Hoofdmodule& hoofd, BestandSoort soort, const SetPaden& paden) {
   hoofd.bestanden.Sluit(soort);
   const std::filesystem::path pad = VindPad(PadVanSoort(paden, soort));
+  bool gemaakt = false;
+  if (const SysteemFout fout = MaakNieuw(pad, gemaakt)) {
+    hoofd.gesprek.Fout(OpenFoutTekst({soort, pad, fout}));
+    return false;
+  }
+  if (OpenMetAdmin(hoofd, soort, pad)) return true;
   std::error_code code;
-  if (!std::filesystem::exists(pad, code)) return MaakBestand(hoofd, soort, pad);
-  const std::optional<OpenFout> fout = hoofd.bestanden.Open(soort, paden);
-  if (fout) hoofd.gesprek.Fout(OpenFoutTekst(*fout));
-  return !fout;
+  if (gemaakt) std::filesystem::remove(pad, code);
+  return false;
 }
 
 bool MaakSet(Hoofdmodule& hoofd, const SetPaden& paden) {

@@ -1,5 +1,6 @@
 #include "store/Bestandenset.h"
 
+#include <system_error>
 #include <utility>
 
 #include "store/Paden.h"
@@ -36,6 +37,13 @@ Bestandenset::Opening OpenOpSchijf(const std::filesystem::path& pad, std::size_t
   SysteemFout fout = bestand->Open(pad);
   if (fout) return {nullptr, std::move(fout)};
   return {std::move(bestand), {}};
+}
+
+// A file that cannot be looked at, or a link that leads nowhere, is no absent one: with other places
+// in its stead every place number of the set would mean another town.
+bool IsAfwezig(const std::filesystem::path& pad) {
+  std::error_code code;
+  return std::filesystem::symlink_status(pad, code).type() == std::filesystem::file_type::not_found;
 }
 
 }  // namespace
@@ -85,7 +93,8 @@ std::optional<OpenFout> Bestandenset::Open(BestandSoort soort, const SetPaden& p
   const std::filesystem::path& pad = PadVanSoort(paden, soort);
   SysteemFout fout = Open(soort, pad);
   if (!fout) return std::nullopt;
-  if (soort == BestandSoort::Plaatsen && !Open(soort, paden.centraal)) return std::nullopt;
+  const bool heeftCentraal = soort == BestandSoort::Plaatsen && IsAfwezig(VindPad(pad));
+  if (heeftCentraal && !Open(soort, paden.centraal)) return std::nullopt;
   return OpenFout{soort, pad, std::move(fout)};
 }
 

@@ -65,8 +65,8 @@ class Bestandenset {
   // as this file is closed first, also when the opening fails.
   [[nodiscard]] SysteemFout Open(BestandSoort soort, const std::filesystem::path& pad);
 
-  // Opens one file of a set. When its own places don't open, the central place file is tried.
-  // Nothing on success.
+  // Opens one file of a set. When there are no places of its own and they can't be made, the central
+  // place file is tried; one that is there and does not open is a failure. Nothing on success.
   [[nodiscard]] std::optional<OpenFout> Open(BestandSoort soort, const SetPaden& paden);
 
   // Closes all files and opens those of a set in order. The first failure ends it; the files

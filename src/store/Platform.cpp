@@ -61,6 +61,22 @@ bool IsOnderbroken() {
   return false;
 }
 
+DWORD RechtenVan(Openwijze wijze) {
+  return wijze == Openwijze::AlleenLezen ? GENERIC_READ : GENERIC_READ | GENERIC_WRITE;
+}
+
+DWORD MakenVan(Openwijze wijze) {
+  switch (wijze) {
+    case Openwijze::Nieuw:
+      return CREATE_NEW;
+    case Openwijze::AlleenLezen:
+      return OPEN_EXISTING;
+    case Openwijze::MaakZonodig:
+      break;
+  }
+  return OPEN_ALWAYS;
+}
+
 #else
 
 SysteemFout LaatsteFout() {
@@ -86,20 +102,39 @@ bool IsOnderbroken() {
   return errno == EINTR;
 }
 
+int VlaggenVan(Openwijze wijze) {
+  switch (wijze) {
+    case Openwijze::Nieuw:
+      return O_RDWR | O_CREAT | O_EXCL;
+    case Openwijze::AlleenLezen:
+      return O_RDONLY | O_NONBLOCK;  // a pipe that nobody writes to is opened too
+    case Openwijze::MaakZonodig:
+      break;
+  }
+  return O_RDWR | O_CREAT;
+}
+
+SysteemFout NaarSchijf(int greep) {
+  // Some file systems have nothing to bring to a disk and say so.
+  if (::fsync(greep) == 0 || errno == EINVAL || errno == ENOSYS) return {};
+  return LaatsteFout();
+}
+
 #endif
 
 }  // namespace
 
 #ifdef _WIN32
 
-SysteemFout Bestandsgreep::Open(const std::filesystem::path& pad) {
+SysteemFout Bestandsgreep::Open(const std::filesystem::path& pad, Openwijze wijze) {
   Sluit();
-  HANDLE greep =
-      CreateFileW(pad.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
-                  nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+  HANDLE greep = CreateFileW(pad.c_str(), RechtenVan(wijze), FILE_SHARE_READ | FILE_SHARE_WRITE,
+                             nullptr, MakenVan(wijze), FILE_ATTRIBUTE_NORMAL, nullptr);
   if (greep == INVALID_HANDLE_VALUE) return LaatsteFout();
   greep_ = reinterpret_cast<std::intptr_t>(greep);
-  return {};
+  if (wijze != Openwijze::AlleenLezen || GetFileType(greep) == FILE_TYPE_DISK) return {};
+  Sluit();
+  return FoutGeenBestand();
 }
 
 void Bestandsgreep::Sluit() {
@@ -118,6 +153,10 @@ SysteemFout Bestandsgreep::Veiligstellen() {
   return FlushFileBuffers(Systeem(greep_)) ? SysteemFout{} : LaatsteFout();
 }
 
+SysteemFout MapVeiligstellen(const std::filesystem::path&) {
+  return {};
+}
+
 std::filesystem::path ProgrammaMap() {
   std::wstring naam(32768, L'\0');
   const DWORD lengte = GetModuleFileNameW(nullptr, naam.data(), static_cast<DWORD>(naam.size()));
@@ -134,12 +173,17 @@ std::filesystem::path GebruikersDataMap() {
 
 #else
 
-SysteemFout Bestandsgreep::Open(const std::filesystem::path& pad) {
+SysteemFout Bestandsgreep::Open(const std::filesystem::path& pad, Openwijze wijze) {
   Sluit();
-  const int greep = ::open(pad.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0666);
+  const int greep = ::open(pad.c_str(), VlaggenVan(wijze) | O_CLOEXEC, 0666);
   if (greep < 0) return LaatsteFout();
   greep_ = greep;
-  return {};
+  if (wijze != Openwijze::AlleenLezen) return {};
+  struct stat gegevens {};
+  if (::fstat(greep, &gegevens) == 0 && S_ISREG(gegevens.st_mode)) return {};
+  Sluit();
+  return S_ISDIR(gegevens.st_mode) ? FoutVan(std::make_error_code(std::errc::is_a_directory))
+                                   : FoutGeenBestand();
 }
 
 void Bestandsgreep::Sluit() {
@@ -155,9 +199,15 @@ std::uint64_t Bestandsgreep::Lengte() const {
 
 SysteemFout Bestandsgreep::Veiligstellen() {
   if (!IsOpen()) return FoutNietOpen();
-  // Some file systems have nothing to bring to a disk and say so.
-  if (::fsync(Systeem(greep_)) == 0 || errno == EINVAL || errno == ENOSYS) return {};
-  return LaatsteFout();
+  return NaarSchijf(Systeem(greep_));
+}
+
+SysteemFout MapVeiligstellen(const std::filesystem::path& map) {
+  const int greep = ::open(map.empty() ? "." : map.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+  if (greep < 0) return LaatsteFout();
+  SysteemFout fout = NaarSchijf(greep);
+  ::close(greep);
+  return fout;
 }
 
 std::filesystem::path ProgrammaMap() {

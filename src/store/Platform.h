@@ -16,6 +16,13 @@ struct Leesuitslag {
   SysteemFout fout;
 };
 
+// How a file is opened.
+enum class Openwijze {
+  MaakZonodig,  // for reading and writing; an absent file is made empty
+  Nieuw,        // the same, and a file that is there already is a failure (kBestandBestaatAl)
+  AlleenLezen,  // nothing is made; what is no ordinary file is a failure, without any waiting
+};
+
 // An open file of the operating system; closed when it goes. Nothing is buffered: what a write
 // has returned from, the system has.
 class Bestandsgreep {
@@ -27,9 +34,10 @@ class Bestandsgreep {
   Bestandsgreep(const Bestandsgreep&) = delete;
   Bestandsgreep& operator=(const Bestandsgreep&) = delete;
 
-  // Opens for reading and writing and creates an absent file (not its directory). A file that can
-  // only be read is a failure. What was open is closed first.
-  [[nodiscard]] SysteemFout Open(const std::filesystem::path& pad);
+  // Opens a file, and creates an absent one when the manner says so (not its directory). A file that
+  // can only be read is a failure, unless it is to be read only. What was open is closed first.
+  [[nodiscard]] SysteemFout Open(const std::filesystem::path& pad,
+                                 Openwijze wijze = Openwijze::MaakZonodig);
 
   // Reads from byte `plaats` on, counted from 0. Past the end 0 bytes are read, without an error.
   [[nodiscard]] Leesuitslag Lees(std::uint64_t plaats, std::span<char> doel) const;
@@ -53,6 +61,10 @@ class Bestandsgreep {
   static constexpr std::intptr_t kDicht = -1;
   std::intptr_t greep_ = kDicht;
 };
+
+// Brings the names in a directory to the disk itself: what was made, renamed or removed in it. Does
+// nothing where the system has no such operation.
+[[nodiscard]] SysteemFout MapVeiligstellen(const std::filesystem::path& map);
 
 // The directory of the running executable; the current directory when the system does not tell.
 std::filesystem::path ProgrammaMap();

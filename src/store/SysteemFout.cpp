@@ -27,7 +27,7 @@ constexpr std::array kRegels = {
     Regel{std::errc::is_a_directory, 75, "Pad is een directory"},
     Regel{std::errc::directory_not_empty, 75, "Directory is niet leeg"},
     Regel{std::errc::too_many_symbolic_link_levels, 75, "Te veel koppelingen in het pad"},
-    Regel{std::errc::file_exists, 58, "Bestand bestaat al"},
+    Regel{std::errc::file_exists, kBestandBestaatAl, "Bestand bestaat al"},
     Regel{std::errc::io_error, 57, "Fout van de schijf"},
     Regel{std::errc::no_such_device, 68, "Apparaat niet beschikbaar"},
     Regel{std::errc::no_such_device_or_address, 68, "Apparaat niet beschikbaar"},
@@ -56,6 +56,14 @@ SysteemFout FoutVanStroom() {
 
 SysteemFout FoutNietOpen() {
   return FoutVan(std::make_error_code(std::errc::bad_file_descriptor));
+}
+
+SysteemFout FoutGeenBestand() {
+  return {75, "Pad is geen gewoon bestand"};
+}
+
+SysteemFout FoutInGebruik() {
+  return FoutVan(std::make_error_code(std::errc::device_or_resource_busy));
 }
 
 SysteemFout FoutRecordNummer() {

@@ -18,6 +18,7 @@ struct SysteemFout {
 };
 
 inline constexpr int kBestandNietGevonden = 53;
+inline constexpr int kBestandBestaatAl = 58;
 inline constexpr int kSchijfVol = 61;
 inline constexpr int kGeenToegang = 70;
 
@@ -30,6 +31,12 @@ SysteemFout FoutVanStroom();
 
 // The error of every operation on a file that is not open.
 SysteemFout FoutNietOpen();
+
+// The error of a pipe or a device where a file is expected.
+SysteemFout FoutGeenBestand();
+
+// The error of a lock that somebody else holds.
+SysteemFout FoutInGebruik();
 
 // The error of a write to a record number that cannot exist.
 SysteemFout FoutRecordNummer();

@@ -2,6 +2,7 @@
 
 #include "app/Bestandensets.h"
 #include "app/SessieToets.h"
+#include "app/ZonderRechten.h"
 #include "store/SetPaden.h"
 
 namespace lb77 {
@@ -129,14 +130,34 @@ TEST_F(Sets, ElkBestandDatNietOpenGaatHeeftZijnMelding) {
 }
 
 TEST_F(Sets, ZonderEigenPlaatsenWordtHetCentraleBestandGebruikt) {
-  std::filesystem::rename(map_ / "DATA/EEN/EEN.PLT", map_ / "DATA/PLAATS.PLT");
-  std::filesystem::create_directories(map_ / "DATA/EEN/EEN.PLT/vol");
-  Verwacht("", MetMenu([](Hoofdmodule& hoofd, MenuWindow& menu) {
-             EXPECT_TRUE(menu.Laad());
+  const std::filesystem::path centraal = map_ / "DATA/PLAATS.PLT";
+  std::filesystem::rename(map_ / "DATA/EEN/EEN.PLT", centraal);
+  constexpr auto kVoorElk = std::filesystem::perms(0666);
+  std::filesystem::permissions(centraal, kVoorElk);
+  for (const char* naam : {"EEN.PRS", "EEN.RLT", "EEN.OPM"}) {
+    std::filesystem::permissions(map_ / "DATA/EEN" / naam, kVoorElk);
+  }
+  const ZonderRechten rechten(map_ / "DATA/EEN");
+  Verwacht("", Met([](Hoofdmodule& hoofd) {
+             ASSERT_TRUE(hoofd.Ini.IniLees());
+             hoofd.ActieveSetNaam = "EEN";
+             OpenBestanden(hoofd);
              EXPECT_EQ(hoofd.ActieveSetNaam, "EEN");
              EXPECT_TRUE(hoofd.Plaats.LeesAdmin());
            }),
            "");
+}
+
+TEST_F(Sets, EigenPlaatsenDieNietOpenGaanWordenNietDoorHetCentraleBestandVervangen) {
+  std::filesystem::rename(map_ / "DATA/EEN/EEN.PLT", map_ / "DATA/PLAATS.PLT");
+  std::filesystem::create_directories(map_ / "DATA/EEN/EEN.PLT/vol");
+  Verwacht(
+      "", MetMenu([](Hoofdmodule& hoofd, MenuWindow& menu) {
+        EXPECT_TRUE(menu.Laad());
+        EXPECT_FALSE(hoofd.SetActief());
+      }),
+      MetMap(
+          R"~(! stop "Fout bij het openen van het Plaatsbestand (<map>/DATA/EEN/EEN.PLT, 75 Pad is een directory)")~"));
 }
 
 TEST_F(Sets, EenDataDirectoryDieWegIsLaatHetProgrammaDoorgaan) {

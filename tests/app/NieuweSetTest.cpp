@@ -238,6 +238,68 @@ TEST_F(NieuweSetVenster, EenBestaandeTekstdirectoryOnderEenAndereKastVoldoet) {
   EXPECT_FALSE(Bestaat("DATA/ABC/TEKST"));
 }
 
+TEST_F(NieuweSetVenster, EenLeegBestandIsEenNieuw) {
+  MaakSet("ABC");
+  Schrijf("DATA/ABC/ABC.PRS", "");
+  Schrijf("DATA/ABC/ABC.PLT", "");
+  Speelt("vul SetNaam ABC\ndruk OKButton",
+         R"(- NieuweSet
+            = Statusbalk "Actieve bestandenset: ABC")");
+  EXPECT_EQ(Inhoud("DATA/ABC/ABC.PRS").size(), 128U);
+  EXPECT_EQ(Inhoud("DATA/ABC/ABC.PLT").size(), 27U);
+}
+
+TEST_F(NieuweSetVenster, EenLeegBestandDatNietGeschrevenKanWordenBlijftLeeg) {
+  MaakSet("ABC");
+  Schrijf("DATA/ABC/ABC.PRS", "");
+  Storing storing{.bij = 1, .kort = true};
+  Speel("vul SetNaam ABC\ndruk OKButton", MetMenu([&](Hoofdmodule& hoofd, MenuWindow& menu) {
+          hoofd.bestanden = Bestandenset(FalendeOpener(storing));
+          Toont<NieuweSet>(hoofd, menu)(hoofd.gesprek);
+          EXPECT_FALSE(hoofd.SetActief());
+        }));
+  EXPECT_TRUE(Bestaat("DATA/ABC/ABC.PRS"));
+  EXPECT_EQ(Inhoud("DATA/ABC/ABC.PRS"), "");
+}
+
+TEST_F(NieuweSetVenster, EenBestandDatNietBekekenKanWordenBlijftZoalsHetIs) {
+  std::filesystem::create_directories(map_ / "DATA/ABC/TEKST");
+  Schrijf("dicht/ABC.PRS", "oude personen");
+  std::filesystem::create_symlink(map_ / "dicht/ABC.PRS", map_ / "DATA/ABC/ABC.PRS");
+  {
+    const ZonderRechten rechten(map_ / "dicht", std::filesystem::perms(0));
+    Speelt(
+        "vul SetNaam ABC\ndruk OKButton",
+        R"~(! stop "Fout bij het openen van het Persoonsbestand (<map>/DATA/ABC/ABC.PRS, 70 Geen toegang)"
+            - NieuweSet
+            = Statusbalk "Actieve bestandenset: <geen bestandenset actief>")~");
+  }
+  EXPECT_TRUE(std::filesystem::is_symlink(map_ / "DATA/ABC/ABC.PRS"));
+  EXPECT_EQ(Inhoud("dicht/ABC.PRS"), "oude personen");
+}
+
+TEST_F(NieuweSetVenster, EenKoppelingNaarNergensGaatNietWeg) {
+  std::filesystem::create_directories(map_ / "DATA/ABC");
+  std::filesystem::create_symlink(map_ / "stick/ABC.PRS", map_ / "DATA/ABC/ABC.PRS");
+  Speelt(
+      "vul SetNaam ABC\ndruk OKButton",
+      R"~(! stop "Fout bij het openen van het Persoonsbestand (<map>/DATA/ABC/ABC.PRS, 53 Bestand niet gevonden)"
+          - NieuweSet
+          = Statusbalk "Actieve bestandenset: <geen bestandenset actief>")~");
+  EXPECT_TRUE(std::filesystem::is_symlink(map_ / "DATA/ABC/ABC.PRS"));
+}
+
+TEST_F(NieuweSetVenster, EenOnleesbaarPlaatsbestandWordtNietDoorHetCentraleVervangen) {
+  std::filesystem::create_directories(map_ / "DATA/ABC/ABC.PLT/vol");
+  Schrijf("DATA/PLAATS.PLT", "centraal");
+  Speelt(
+      "vul SetNaam ABC\ndruk OKButton",
+      R"~(! stop "Fout bij het openen van het Plaatsbestand (<map>/DATA/ABC/ABC.PLT, 75 Pad is een directory)"
+          - NieuweSet
+          = Statusbalk "Actieve bestandenset: <geen bestandenset actief>")~");
+  EXPECT_EQ(Inhoud("DATA/PLAATS.PLT"), "centraal");
+}
+
 TEST_F(NieuweSetVenster, WaarHetSchrijvenOokMisluktEenNieuwePogingSlaagt) {
   bool geweest = true;
   for (int k = 1; geweest; ++k) {

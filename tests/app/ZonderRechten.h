@@ -1,4 +1,4 @@
-// A user who may read a directory and change nothing in it.
+// A user who may read a directory and change nothing in it, or less.
 #pragma once
 
 #include <sys/types.h>
@@ -14,8 +14,10 @@ namespace lb77 {
 // For as long as it lives. The administrator, whom no directory refuses anything, becomes nobody.
 class ZonderRechten {
  public:
-  explicit ZonderRechten(std::filesystem::path map) : map_(std::move(map)), wie_(geteuid()) {
-    std::filesystem::permissions(map_, std::filesystem::perms(0555));
+  explicit ZonderRechten(std::filesystem::path map,
+                         std::filesystem::perms rechten = std::filesystem::perms(0555))
+      : map_(std::move(map)), wie_(geteuid()) {
+    std::filesystem::permissions(map_, rechten);
     if (wie_ == 0 && seteuid(kNiemand) != 0) throw std::runtime_error("seteuid");
   }
   ~ZonderRechten() {

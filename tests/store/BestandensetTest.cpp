@@ -70,20 +70,43 @@ TEST_F(BestandensetTest, DeTekstVanEenFoutBijHetOpenenNoemtBestandPadNummerEnRed
   }
 }
 
-TEST_F(BestandensetTest, HetCentralePlaatsbestandStaatInVoorEenEigenDatNietOpenGaat) {
-  std::filesystem::create_directory(paden.plt);
+TEST_F(BestandensetTest, HetCentralePlaatsbestandStaatInVoorEenEigenDatErNietIs) {
   SchrijfBytes(paden.centraal, "centraal");
+  paden.plt = map / "weg" / "PROEF.PLT";
   EXPECT_FALSE(bestanden.OpenSet(paden));
   EXPECT_EQ(bestanden.Bestand(BestandSoort::Plaatsen).Lengte(), 8U);
 }
 
-TEST_F(BestandensetTest, GaanBeidePlaatsbestandenNietOpenDanNoemtDeFoutHetEigene) {
+TEST_F(BestandensetTest, EenEigenPlaatsbestandDatNietOpenGaatIsEenFout) {
   std::filesystem::create_directory(paden.plt);
+  SchrijfBytes(paden.centraal, "centraal");
+  const auto fout = bestanden.OpenSet(paden);
+  ASSERT_TRUE(fout);
+  EXPECT_EQ(fout->pad, paden.plt);
+  EXPECT_EQ(fout->fout.tekst, "Pad is een directory");
+  EXPECT_FALSE(bestanden.IsOpen(BestandSoort::Plaatsen));
+}
+
+TEST_F(BestandensetTest, EenKoppelingNaarNergensIsGeenAfwezigPlaatsbestand) {
+  std::filesystem::create_symlink(map / "weg" / "X.PLT", paden.plt);
+  SchrijfBytes(paden.centraal, "centraal");
+  EXPECT_TRUE(bestanden.OpenSet(paden));
+}
+
+TEST_F(BestandensetTest, GaanBeidePlaatsbestandenNietOpenDanNoemtDeFoutHetEigene) {
+  paden.plt = map / "weg" / "PROEF.PLT";
   std::filesystem::create_directory(paden.centraal);
   const auto fout = bestanden.OpenSet(paden);
   ASSERT_TRUE(fout);
   EXPECT_EQ(fout->pad, paden.plt);
+  EXPECT_EQ(fout->fout.tekst, "Bestand niet gevonden");
   EXPECT_TRUE(bestanden.IsOpen(BestandSoort::Opmerkingen));
+}
+
+TEST_F(BestandensetTest, VanDeVorigeSetBlijftNietsOpen) {
+  ASSERT_FALSE(bestanden.OpenSet(paden));
+  EXPECT_TRUE(bestanden.OpenSet(SetPaden::Van(map.Pad(), "WEG")));
+  for (const BestandSoort soort : kBestandSoorten) EXPECT_FALSE(bestanden.IsOpen(soort));
 }
 
 TEST_F(BestandensetTest, EenGeslotenBestandMisluktInAlles) {

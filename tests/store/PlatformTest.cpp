@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <array>
 #include <cstdlib>
@@ -128,6 +129,38 @@ TEST_F(PlatformTest, EenVolleSchijfIsEenFout) {
   const SysteemFout fout = greep.Schrijf(0, doel);
   EXPECT_EQ(fout.nummer, kSchijfVol);
   EXPECT_EQ(fout.tekst, "Schijf vol");
+}
+
+TEST_F(PlatformTest, EenNieuwBestandMagErNogNietZijn) {
+  EXPECT_FALSE(greep.Open(map / "nieuw", Openwijze::Nieuw));
+  EXPECT_FALSE(greep.Schrijf(0, std::string_view("nu")));
+  EXPECT_EQ(greep.Open(map / "nieuw", Openwijze::Nieuw).nummer, kBestandBestaatAl);
+  EXPECT_FALSE(greep.IsOpen());
+  EXPECT_EQ(LeesBytes(map / "nieuw"), "nu");
+  std::filesystem::create_symlink(map / "nergens", map / "koppeling");
+  EXPECT_EQ(greep.Open(map / "koppeling", Openwijze::Nieuw).tekst, "Bestand bestaat al");
+}
+
+TEST_F(PlatformTest, AlleenLezenMaaktNietsEnSchrijftNiets) {
+  EXPECT_EQ(greep.Open(map / "weg", Openwijze::AlleenLezen).nummer, kBestandNietGevonden);
+  EXPECT_FALSE(std::filesystem::exists(map / "weg"));
+  SchrijfBytes(map / "oud", "inhoud");
+  EXPECT_FALSE(greep.Open(map / "oud", Openwijze::AlleenLezen));
+  EXPECT_EQ(greep.Lees(0, doel).gelezen, 6U);
+  EXPECT_TRUE(greep.Schrijf(0, std::string_view("x")));
+}
+
+TEST_F(PlatformTest, AlleenLezenVanIetsAndersDanEenBestandMisluktMeteen) {
+  EXPECT_EQ(greep.Open(map.Pad(), Openwijze::AlleenLezen).tekst, "Pad is een directory");
+  ASSERT_EQ(::mkfifo((map / "pijp").c_str(), 0600), 0);
+  EXPECT_EQ(greep.Open(map / "pijp", Openwijze::AlleenLezen).tekst, "Pad is geen gewoon bestand");
+  EXPECT_EQ(greep.Open("/dev/null", Openwijze::AlleenLezen).nummer, 75);
+  EXPECT_FALSE(greep.IsOpen());
+}
+
+TEST_F(PlatformTest, DeNamenInEenDirectoryGaanNaarDeSchijf) {
+  EXPECT_FALSE(MapVeiligstellen(map.Pad()));
+  EXPECT_EQ(MapVeiligstellen(map / "weg").nummer, kBestandNietGevonden);
 }
 
 TEST_F(PlatformTest, DeProgrammamapIsDieVanHetProgramma) {
