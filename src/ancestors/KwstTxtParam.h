@@ -3,8 +3,8 @@
 
 #include "ancestors/KwstOpties.h"
 #include "ancestors/KwstVelden.h"
+#include "app/JaNeeVak.h"
 #include "forms/Formulier.h"
-#include "reporting/JaNeeVak.h"
 #include "reporting/PersoonKop.h"
 #include "reporting/TitelVelden.h"
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "app/Hoofdmodule.h"
+#include "entry/VolgersBewaker.h"
 #include "entry/ZoekPersoon.h"
 #include "forms/Formulier.h"
 #include "text/Datum.h"
@@ -31,6 +32,7 @@ void Functietekst(ToetsGebeurtenis& toets, std::string& tekst, Hoofdmodule& hoof
 VeldActie ZonderShift(ToetsGebeurtenis& toets, std::string& tekst, InvoerSoort soort,
                       Hoofdmodule& hoofd) {
   if (toets.code == toets::kF2 && soort == InvoerSoort::Persoon) {
+    const VolgersBewaker bewaker(hoofd.volgers);
     if (const std::int32_t nr = VraagZoekPersoon(hoofd); nr > 0) tekst = NrTekst(nr);
     toets.verwerkt = true;
   } else if (toets.code == toets::kF9) {
@@ -69,21 +71,25 @@ VeldActie VeldToets(ToetsGebeurtenis& toets, std::string& tekst, InvoerSoort soo
   return VeldActie::Geen;
 }
 
+void VeldToetsIn(Formulier& formulier, Invoerveld& veld, InvoerSoort soort, Hoofdmodule& hoofd,
+                 ToetsGebeurtenis& toets) {
+  std::string tekst = veld.Tekst();
+  const VeldActie actie = VeldToets(toets, tekst, soort, hoofd);
+  if (actie == VeldActie::Terug) {
+    toets.verwerkt = true;
+    formulier.VraagSluiten();
+    return;
+  }
+  if (tekst == veld.Tekst()) return;
+  if (veld.MaxLengte() > 0 && tekst.size() > veld.MaxLengte()) tekst.resize(veld.MaxLengte());
+  formulier.Bewerkt(veld, tekst);
+}
+
 void KoppelVeldToets(Formulier& formulier, Invoerveld& veld, InvoerSoort soort, Hoofdmodule& hoofd,
                      EnterSoort enter) {
-  // Behind VeldActie::Controle the field's own Enter runs the check.
   veld.ZetEnter(enter);
   veld.BijToets([&formulier, &veld, &hoofd, soort](ToetsGebeurtenis& toets) {
-    std::string tekst = veld.Tekst();
-    const VeldActie actie = VeldToets(toets, tekst, soort, hoofd);
-    if (actie == VeldActie::Terug) {
-      toets.verwerkt = true;
-      formulier.VraagSluiten();
-      return;
-    }
-    if (tekst == veld.Tekst()) return;
-    if (veld.MaxLengte() > 0 && tekst.size() > veld.MaxLengte()) tekst.resize(veld.MaxLengte());
-    formulier.Bewerkt(veld, tekst);
+    VeldToetsIn(formulier, veld, soort, hoofd, toets);
   });
 }
 

@@ -27,6 +27,12 @@ enum class VeldActie {
 [[nodiscard]] VeldActie VeldToets(ToetsGebeurtenis& toets, std::string& tekst, InvoerSoort soort,
                                   Hoofdmodule& hoofd);
 
+// Deals with a key in a field of a form, whole: Escape and F10 do what the form's BackButton does,
+// and a text that a key brings goes into the field, cut to the longest that it takes. Behind
+// VeldActie::Controle the field's own Enter runs the check.
+void VeldToetsIn(Formulier& formulier, Invoerveld& veld, InvoerSoort soort, Hoofdmodule& hoofd,
+                 ToetsGebeurtenis& toets);
+
 // Hangs VeldToets on a field of a form. Escape and F10 do what the form's BackButton does. Enter
 // runs the leave check and stays, unless `enter` says otherwise. A text that a key brings is cut
 // to the longest that the field takes.

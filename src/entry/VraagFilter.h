@@ -3,6 +3,7 @@
 
 #include "entry/NaamFilter.h"
 #include "forms/Formulier.h"
+#include "store/PersoonVelden.h"
 
 namespace lb77 {
 
@@ -13,8 +14,8 @@ class VraagFilter final : public Formulier {
 
   Label VraagLabel{*this, "VraagLabel", "Alleen Personen tonen met de naam:"};
   // One more than the longest name, for the "*".
-  Tekstvak VoorNm{*this, "VoorNm", "Voornamen:", 30 + 1};
-  Tekstvak AchterNm{*this, "AchterNm", "Achternaam:", 25 + 1};
+  Tekstvak VoorNm{*this, "VoorNm", "Voornamen:", persoonveld::Voornaam.breedte + 1};
+  Tekstvak AchterNm{*this, "AchterNm", "Achternaam:", persoonveld::Achternaam.breedte + 1};
   Label TipJoker{*this, "TipJoker", "Gebruik een sterretje aan het eind als joker"};
   Label TipLetters{*this, "TipLetters",
                    "Het filter maakt onderscheid tussen HOOFDLETTERS en kleine letters"};

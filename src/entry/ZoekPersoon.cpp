@@ -7,14 +7,12 @@
 #include "app/Hoofdmodule.h"
 #include "entry/OKPersoon.h"
 #include "entry/ZoekPrs.h"
+#include "store/PersoonVelden.h"
 #include "text/Tekens.h"
 
 namespace lb77 {
 
 namespace {
-
-constexpr std::size_t kVoorBreedte = 30;
-constexpr std::size_t kAchterBreedte = 25;
 
 // A name to search for, in capitals. The name that it is made of begins with no blank.
 struct Zoeknaam {
@@ -85,7 +83,9 @@ std::int16_t ZoekPersoonOpNaam(Hoofdmodule& hoofd, std::string& voornaam, std::s
                                std::string_view geslacht) {
   voornaam = std::string(Trim(voornaam));
   achternaam = std::string(Trim(achternaam));
-  const Zoekvraag zoek{{voornaam, kVoorBreedte}, {achternaam, kAchterBreedte}, geslacht};
+  const Zoekvraag zoek{{voornaam, persoonveld::Voornaam.breedte},
+                       {achternaam, persoonveld::Achternaam.breedte},
+                       geslacht};
   if (zoek.voor.IsLeeg() && zoek.achter.IsLeeg()) return 0;
   Vondst vondst = Doorzoek(hoofd, zoek);
   if (vondst.nr > 0) {

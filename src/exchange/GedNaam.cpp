@@ -2,14 +2,15 @@
 
 #include <cstddef>
 
+#include "store/PersoonVelden.h"
 #include "text/Tekens.h"
 
 namespace lb77 {
 
 namespace {
 
-constexpr std::size_t kVoornaam = 30;
-constexpr std::size_t kAchternaam = 25;
+constexpr std::size_t kVoornaam = persoonveld::Voornaam.breedte;
+constexpr std::size_t kAchternaam = persoonveld::Achternaam.breedte;
 
 GedNaamDelen Ongesneden(std::string_view waarde) {
   const std::size_t eerste = waarde.find('/');

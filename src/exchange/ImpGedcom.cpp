@@ -21,11 +21,6 @@ constexpr std::string_view kFilter =
     "GEDCOM-bestanden (*.GED)|*.GED|Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt";
 constexpr std::string_view kVoltooid = "Importeren voltooid";
 
-// Reading from the log would empty it before a line of it was read.
-SysteemFout FoutInGebruik() {
-  return FoutVan(std::make_error_code(std::errc::device_or_resource_busy));
-}
-
 bool IsZelfde(const std::filesystem::path& bestand, const std::filesystem::path& ander) {
   std::error_code code;
   return std::filesystem::equivalent(bestand, ander, code);

@@ -4,6 +4,7 @@
 
 #include "exchange/GedNaam.h"
 #include "store/Codes.h"
+#include "store/PersoonVelden.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"
 
@@ -11,9 +12,9 @@ namespace lb77 {
 
 namespace {
 
-constexpr std::size_t kVoornaam = 30;
-constexpr std::size_t kAchternaam = 25;
-constexpr std::size_t kBeroep = 30;
+constexpr std::size_t kVoornaam = persoonveld::Voornaam.breedte;
+constexpr std::size_t kAchternaam = persoonveld::Achternaam.breedte;
+constexpr std::size_t kBeroep = persoonveld::beroep.breedte;
 
 std::string_view Gesneden(std::string_view waarde, std::size_t lengte) {
   return Trim(waarde.substr(0, lengte));

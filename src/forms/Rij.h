@@ -11,16 +11,13 @@
 
 namespace lb77 {
 
-class Formulier;
-
-// `N` controls of kind T, numbered from `eerste`; each is named "naam(nummer)". The further
-// arguments are those of T behind its name.
+// `N` controls of kind T, numbered from `eerste`; each is named "naam(nummer)". The form is of the
+// class that T asks for, and the further arguments are those of T behind its name.
 template <class T, std::size_t N>
 class Rij {
  public:
-  template <class... Args>
-  Rij(Formulier& formulier, std::string_view naam, int eerste, const Args&... args)
-      : eerste_(eerste) {
+  template <class Form, class... Args>
+  Rij(Form& formulier, std::string_view naam, int eerste, const Args&... args) : eerste_(eerste) {
     for (std::size_t i = 0; i < N; ++i) {
       const std::string element =
           std::string(naam) + "(" + GetalTekst(eerste + static_cast<int>(i)) + ")";

@@ -4,11 +4,10 @@
 #include <cstdint>
 #include <string_view>
 
-#include "forms/Formulier.h"
+#include "app/InvoerFormulier.h"
+#include "entry/PersoonVak.h"
 
 namespace lb77 {
-
-class Hoofdmodule;
 
 // What tells one prompt from another.
 struct PersoonPromptSoort {
@@ -18,12 +17,10 @@ struct PersoonPromptSoort {
 };
 
 // A derived form runs the report's chain of forms in Keten(). The prompt closes behind it.
-class PersoonPrompt : public Formulier {
+class PersoonPrompt : public InvoerFormulier {
  public:
   Label VraagLabel;
-  Tekstvak RecordNr{*this, "RecordNr", "Persoonsnummer:", 5};
-  Tekstvak VoorNm{*this, "VoorNm", "Voornamen:", 30};
-  Tekstvak AchterNm{*this, "AchterNm", "Achternaam:", 25};
+  PersoonVak Persoon;
   Knop OKButton{*this, "OKButton", "&OK"};
   Knop ZoekButton{*this, "ZoekButton", "&Zoek Persoon"};
   Knop BackButton{*this, "BackButton", "&Terug"};
@@ -36,16 +33,11 @@ class PersoonPrompt : public Formulier {
   virtual void Keten(std::int16_t persoonNr) = 0;
   // May the chain go on? HuidigPersoonNr -1 says no.
   [[nodiscard]] bool GaatDoor() const;
-  [[nodiscard]] Hoofdmodule& Hoofd() { return hoofd_; }
 
  private:
-  [[nodiscard]] bool RecordNrVerlaten();
-  void ToonNamen(std::int16_t nr);
   void OKButtonKlik();
   void ZoekButtonKlik();
   void BackButtonKlik();
-
-  Hoofdmodule& hoofd_;
 };
 
 }  // namespace lb77

@@ -3,10 +3,10 @@
 
 #include <string_view>
 
+#include "app/JaNeeVak.h"
 #include "forms/Rij.h"
 #include "forms/Velden.h"
 #include "reporting/HTMLPagina.h"
-#include "reporting/JaNeeVak.h"
 
 namespace lb77 {
 

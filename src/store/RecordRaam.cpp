@@ -251,6 +251,26 @@ bool RecordRaam::Wijzig(std::int16_t nr, std::span<const VeldWaarde> velden) {
   return false;
 }
 
+std::string RecordRaam::Waarde(const Veld& veld) const {
+  switch (veld.soort) {
+    case VeldSoort::Tekst:
+      return Tekst(veld);
+    case VeldSoort::Getal:
+      return NrTekst(Getal(veld));
+    case VeldSoort::Datum:
+      return Datum10(Getal(veld), GetalOp(buffer_, veld.plaats + veld.breedte),
+                     opslag_.schrijfwijze.DatumScheider);
+    case VeldSoort::Keuze: {
+      const std::size_t keus = veld.keuzen.find(Teken(veld));
+      return GetalTekst(
+          static_cast<std::int64_t>(keus == std::string_view::npos ? veld.anders : keus));
+    }
+    case VeldSoort::Vrij:
+      break;
+  }
+  return {};
+}
+
 bool RecordRaam::ZetGetalTekst(const Veld& veld, std::string_view waarde) {
   const auto getal = NaarInt16(Getalwaarde(Trim(waarde)));
   if (getal) {

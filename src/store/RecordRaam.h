@@ -78,6 +78,9 @@ class RecordRaam {
   [[nodiscard]] bool Wijzig(std::int16_t nr, std::initializer_list<VeldWaarde> velden) {
     return Wijzig(nr, std::span(velden.begin(), velden.size()));
   }
+  // A field of the buffer as the text that Zet would take: a number without its zero, a date in its
+  // entry form, a choice by its position. Damaged dates come out whole.
+  [[nodiscard]] std::string Waarde(const Veld& veld) const;
 
   // Stores the count in the buffer, which must hold record 1.
   void ZetAantal(std::int16_t aantal);

@@ -44,7 +44,7 @@ inline constexpr TekstVeld HuwSoort       {   55,    2, "HuwSoort"   };
 inline constexpr GetalVeld OpmRecord      {   57,    2, "OpmRecord"  };
 inline constexpr GetalVeld OpmCode        {   59,    2, "OpmCode"    };
 inline constexpr KeuzeVeld KHuwSch        {   61,    1, "KHuwSch", " S"  };
-inline constexpr KeuzeVeld HuwSwPs        {   62,    1, "HuwSwPs", " SP" };
+inline constexpr KeuzeVeld HuwSwPs        {   62,    1, "HuwSwPs", " SP", 2 };  // kept: any other is "P"
 inline constexpr VrijVeld  Vrij           {   63,    1               };
 // clang-format on
 

@@ -23,6 +23,7 @@ struct Veld {
   std::string_view naam;
   VeldSoort soort = VeldSoort::Vrij;
   std::string_view keuzen;
+  std::size_t anders = 0;  // of a choice: which one a character stands for that is none of them
 };
 
 // Text, trimmed when read and cut to its width when stored.
@@ -47,8 +48,8 @@ struct DatumVeld : Veld {
 // One character out of a list: a value read as a number chooses it, too high a number the last.
 struct KeuzeVeld : Veld {
   constexpr KeuzeVeld(std::size_t plaats, std::size_t breedte, std::string_view naam,
-                      std::string_view keuzen)
-      : Veld{plaats, breedte, naam, VeldSoort::Keuze, keuzen} {}
+                      std::string_view keuzen, std::size_t anders = 0)
+      : Veld{plaats, breedte, naam, VeldSoort::Keuze, keuzen, anders} {}
 };
 
 // Bytes without a meaning, blank.

@@ -1,0 +1,40 @@
+#include "entry/DatumVak.h"
+
+#include <cstddef>
+
+#include "text/Datum.h"
+
+namespace lb77 {
+
+namespace {
+
+constexpr std::size_t kBreedte = 10;
+
+}  // namespace
+
+DatumVak::DatumVak(InvoerFormulier& formulier, std::string_view naam, std::string_view bijschrift)
+    : InvoerVak(formulier, naam, bijschrift, kBreedte, InvoerSoort::Datum) {}
+
+void DatumVak::Toon(std::string_view datum10) {
+  getoond_ = datum10;
+  ZetTekst(datum10);
+}
+
+// The mask of a relation has "-" whatever the separator.
+bool DatumVak::IsLeeg() const {
+  return Tekst().find_first_not_of(" -.") == std::string::npos;
+}
+
+void DatumVak::OpBetreden() {
+  if (IsLeeg()) ZetTekst("");
+}
+
+bool DatumVak::OpVerlaten() {
+  const DatumOordeel oordeel = DatumGeldig(Tekst(), Hoofd().schrijfwijze.DatumScheider);
+  for (const std::string_view melding : oordeel.meldingen) Hoofd().gesprek.Waarschuw(melding);
+  // A damaged date in the entry form would be another date, which nobody has typed.
+  if (Tekst() != getoond_) ZetTekst(oordeel.tekst);
+  return oordeel.geldig;
+}
+
+}  // namespace lb77

@@ -1,0 +1,130 @@
+#include "entry/PersoonVak.h"
+
+#include <cstddef>
+
+#include "entry/Invoer.h"
+#include "entry/VolgersBewaker.h"
+#include "entry/ZoekPersoon.h"
+#include "store/PersoonVelden.h"
+#include "text/Getallen.h"
+#include "text/Tekens.h"
+
+namespace lb77 {
+
+namespace {
+
+constexpr std::size_t kCijfers = 5;
+constexpr std::int16_t kAdminNr = 1;
+constexpr std::string_view kOnleesbaar = "?????";
+
+std::string Met(std::string_view naam, std::string_view achtervoegsel) {
+  return std::string(naam) + std::string(achtervoegsel);
+}
+
+}  // namespace
+
+PersoonVak::NrVak::NrVak(PersoonVak& geheel, InvoerFormulier& formulier, std::string_view naam,
+                         std::string_view bijschrift)
+    : InvoerVak(formulier, naam, bijschrift, kCijfers, InvoerSoort::Persoon), geheel_(geheel) {
+  ZetFilter(AlleenCijfers);
+}
+
+bool PersoonVak::NrVak::OpVerlaten() {
+  return InvoerVak::OpVerlaten() && geheel_.NrVerlaten();
+}
+
+// The search brings the names along with the number.
+void PersoonVak::NrVak::OpToets(ToetsGebeurtenis& toets) {
+  if (toets.code == toets::kF2 && !toets.shift) {
+    toets.verwerkt = true;
+    geheel_.Zoek();
+  } else {
+    InvoerVak::OpToets(toets);
+  }
+}
+
+PersoonVak::PersoonVak(InvoerFormulier& formulier, std::string_view achtervoegsel,
+                       const PersoonVakSoort& soort)
+    : RecordNr(*this, formulier, Met(soort.nr, achtervoegsel), soort.nrBijschrift),
+      VoorNm(formulier, Met(soort.voor, achtervoegsel), soort.voorBijschrift,
+             persoonveld::Voornaam.breedte),
+      AchterNm(formulier, Met(soort.achter, achtervoegsel), soort.achterBijschrift,
+               persoonveld::Achternaam.breedte),
+      formulier_(formulier),
+      soort_(soort) {
+  if (!soort.periode.empty()) Periode.emplace(formulier, Met(soort.periode, achtervoegsel));
+  VoorNm.ZetAlleenLezen(!soort.naamInvoer);
+  AchterNm.ZetAlleenLezen(!soort.naamInvoer);
+}
+
+std::int16_t PersoonVak::Nr() const {
+  return NaarInt16(Getalwaarde(RecordNr.Tekst())).value_or(std::int16_t{0});
+}
+
+void PersoonVak::Toon(std::int16_t nr) {
+  RecordNr.ZetTekst(NrTekst(nr));
+  ToonNamen(nr);
+}
+
+void PersoonVak::ToonNamen(std::int16_t nr) {
+  PersoonLB77& persoon = formulier_.Hoofd().Persoon;
+  std::string voor;
+  std::string achter;
+  // Record 1 can be read, but is nobody.
+  const bool bekend = nr != 0 && nr != kAdminNr && persoon.Lees(nr);
+  if (bekend) {
+    voor = OfOnbekend(persoon.VoorNaamTrue());
+    achter = OfOnbekend(persoon.AchterNaamTrue());
+  } else if (nr != 0) {
+    voor = achter = soort_.onbekend.empty() ? kOnleesbaar : soort_.onbekend;
+  }
+  VoorNm.ZetTekst(voor);
+  AchterNm.ZetTekst(achter);
+  if (Periode) Periode->ZetTekst(bekend ? persoon.Periode(nr) : std::string());
+}
+
+std::string PersoonVak::OfOnbekend(std::string naam) const {
+  return naam.empty() ? std::string(soort_.onbekend) : naam;
+}
+
+bool PersoonVak::NrVerlaten() {
+  if (soort_.controle == PersoonControle::Geen) return true;
+  if (RecordNr.Tekst().empty()) {
+    if (soort_.leegWist) ToonNamen(0);
+    return true;
+  }
+  Hoofdmodule& hoofd = formulier_.Hoofd();
+  if (soort_.controle == PersoonControle::Geldig) {
+    if (!RecordNrGeldig(hoofd.MaakGegevens(), hoofd.gesprek, RecordNr.Tekst(),
+                        BestandSoort::Personen, Vervolgtest::GeenVervolg)) {
+      return false;
+    }
+    Toon(Nr());
+    return true;
+  }
+  const auto nr = NaarInt16(Getalwaarde(RecordNr.Tekst()));
+  if (!nr) {
+    hoofd.gesprek.Fout(kMaximumBereikt);
+    return false;
+  }
+  ToonNamen(*nr);
+  return true;
+}
+
+bool PersoonVak::Zoek() {
+  const VolgersBewaker bewaker(formulier_.Hoofd().volgers);
+  const auto nr = NaarInt16(VraagZoekPersoon(formulier_.Hoofd()));
+  if (!nr || *nr < 1) return false;
+  formulier_.Bewerkt(RecordNr, NrTekst(*nr));
+  ToonNamen(*nr);
+  return true;
+}
+
+void PersoonVak::ZetZichtbaar(bool zichtbaar) {
+  RecordNr.ZetZichtbaar(zichtbaar);
+  VoorNm.ZetZichtbaar(zichtbaar);
+  AchterNm.ZetZichtbaar(zichtbaar);
+  if (Periode) Periode->ZetZichtbaar(zichtbaar);
+}
+
+}  // namespace lb77
