@@ -3,6 +3,7 @@
 #include <system_error>
 #include <utility>
 
+#include "store/JournaalBestand.h"
 #include "store/Paden.h"
 #include "store/SchijfBestand.h"
 #include "text/Getallen.h"
@@ -11,6 +12,8 @@
 namespace lb77 {
 
 namespace {
+
+constexpr const char* kJournaalMap = "JOURNAAL";
 
 // Stands in for a file that is not open.
 class GeslotenBestand final : public RecordBestand {
@@ -25,6 +28,8 @@ class GeslotenBestand final : public RecordBestand {
   }
   std::uint64_t Lengte() override { return 0; }
   [[nodiscard]] SysteemFout Veiligstellen() override { return FoutNietOpen(); }
+  [[nodiscard]] SysteemFout Kap(std::uint64_t) override { return FoutNietOpen(); }
+  [[nodiscard]] SysteemFout Vergrendel() override { return FoutNietOpen(); }
   std::uint64_t Wijzigingen() const override { return 0; }
   std::size_t RecordLengte() const override { return recordLengte_; }
 
@@ -51,7 +56,7 @@ bool IsAfwezig(const std::filesystem::path& pad) {
 std::string_view BestandNaam(BestandSoort soort) {
   constexpr std::array<std::string_view, 4> kNamen = {"Persoonsbestand", "Relatiebestand",
                                                       "Opmerkingenbestand", "Plaatsbestand"};
-  return kNamen.at(static_cast<std::size_t>(soort) - 1);
+  return kNamen.at(IndexVan(soort));
 }
 
 const std::filesystem::path& PadVanSoort(const SetPaden& paden, BestandSoort soort) {
@@ -77,16 +82,39 @@ Bestandenset::Bestandenset() : Bestandenset(OpenOpSchijf) {}
 
 Bestandenset::Bestandenset(Opener opener) : opener_(std::move(opener)) {
   for (const BestandSoort soort : kBestandSoorten) {
-    gesloten_.at(static_cast<std::size_t>(soort) - 1) =
-        std::make_unique<GeslotenBestand>(RecordLengteVan(soort));
+    gesloten_.at(IndexVan(soort)) = std::make_unique<GeslotenBestand>(RecordLengteVan(soort));
   }
 }
 
 SysteemFout Bestandenset::Open(BestandSoort soort, const std::filesystem::path& pad) {
   Sluit(soort);
-  Opening opening = opener_(VindPad(pad), RecordLengteVan(soort));
+  const std::filesystem::path gevonden = VindPad(pad);
+  Opening opening = opener_(gevonden, RecordLengteVan(soort));
+  if (opening.bestand && !opening.fout && bron_.tijd) {
+    opening.bestand = MetJournaal(std::move(opening.bestand), soort, gevonden);
+  }
   VakVan(soort).bestand = std::move(opening.bestand);
   return std::move(opening.fout);
+}
+
+std::unique_ptr<RecordBestand> Bestandenset::MetJournaal(std::unique_ptr<RecordBestand> bestand,
+                                                         BestandSoort soort,
+                                                         const std::filesystem::path& pad) {
+  // The central places lie elsewhere, and belong to the actions of the set that writes them.
+  const std::filesystem::path map = pad.parent_path();
+  const bool centraal = soort == BestandSoort::Plaatsen && journaal_ && map != journaalMap_;
+  if (!centraal && (!journaal_ || map != journaalMap_)) {
+    const std::filesystem::path plek = VindPad(map / kJournaalMap);
+    journaal_ = std::make_shared<Journaal>(
+        bron_.map ? bron_.map(plek) : std::make_unique<SchijfJournaalMap>(plek), bron_.tijd,
+        bron_.bijVreemd);
+    journaalMap_ = map;
+  }
+  return std::make_unique<JournaalBestand>(std::move(bestand), journaal_, soort, centraal);
+}
+
+bool Bestandenset::NeemInGebruik() {
+  return Bestand(BestandSoort::Personen).Vergrendel().nummer != kGeenToegang;
 }
 
 std::optional<OpenFout> Bestandenset::Open(BestandSoort soort, const SetPaden& paden) {
@@ -113,6 +141,9 @@ void Bestandenset::Sluit(BestandSoort soort) {
 }
 
 void Bestandenset::SluitAlles() {
+  // While its files are there. What has no end is asked about at the next opening.
+  if (journaal_) static_cast<void>(journaal_->SluitAf());
+  journaal_.reset();
   for (const BestandSoort soort : kBestandSoorten) Sluit(soort);
 }
 
@@ -123,7 +154,7 @@ bool Bestandenset::IsOpen(BestandSoort soort) const {
 RecordBestand& Bestandenset::Bestand(BestandSoort soort) {
   Vak& vak = VakVan(soort);
   if (vak.bestand) return *vak.bestand;
-  return *gesloten_.at(static_cast<std::size_t>(soort) - 1);
+  return *gesloten_.at(IndexVan(soort));
 }
 
 std::uint64_t Bestandenset::Stand(BestandSoort soort) const {

@@ -11,24 +11,13 @@
 #include <string>
 #include <string_view>
 
+#include "store/BestandSoort.h"
+#include "store/Journaal.h"
 #include "store/RecordBestand.h"
 #include "store/SetPaden.h"
 #include "store/SysteemFout.h"
 
 namespace lb77 {
-
-// The files by their file number.
-enum class BestandSoort { Personen = 1, Relaties, Opmerkingen, Plaatsen };
-
-// All four, in the order of opening.
-inline constexpr std::array kBestandSoorten = {BestandSoort::Personen, BestandSoort::Relaties,
-                                               BestandSoort::Opmerkingen, BestandSoort::Plaatsen};
-
-// The length of a record in bytes: 128, 64, 96, 27.
-constexpr std::size_t RecordLengteVan(BestandSoort soort) {
-  constexpr std::array<std::size_t, 4> kLengten = {128, 64, 96, 27};
-  return kLengten.at(static_cast<std::size_t>(soort) - 1);
-}
 
 // The name in messages: "Persoonsbestand", "Relatiebestand" ...
 std::string_view BestandNaam(BestandSoort soort);
@@ -46,6 +35,14 @@ struct OpenFout {
 // The message (stop symbol) of a file that did not open.
 std::string OpenFoutTekst(const OpenFout& fout);
 
+// What a journal needs from outside.
+struct JournaalBron {
+  Journaal::Tijd tijd;
+  Journaal::VreemdMelding bijVreemd;  // may be empty
+  // The files of the journal in a directory; those on the disk when it is empty.
+  std::function<std::unique_ptr<JournaalMap>(const std::filesystem::path& map)> map;
+};
+
 // Owns the open files. A file that is not open is there all the same, and fails every operation.
 class Bestandenset {
  public:
@@ -60,6 +57,16 @@ class Bestandenset {
   Bestandenset();
   // Opens files by `opener`, for tests that wrap them.
   explicit Bestandenset(Opener opener);
+
+  // Files that are opened from here on are written through a journal, in the directory JOURNAAL
+  // beside them. Without this call there is none.
+  void ZetJournaal(JournaalBron bron) { bron_ = std::move(bron); }
+  // The journal of the set that was opened last; nothing when there is none. It goes with the set.
+  [[nodiscard]] const std::shared_ptr<Journaal>& HetJournaal() const { return journaal_; }
+
+  // Takes the set for this run of the program, until its person file is closed. False when another
+  // run has it. It keeps nobody from anything: that is for who asks.
+  [[nodiscard]] bool NeemInGebruik();
 
   // Opens one file, found under another case too; an absent one is created empty. What was open
   // as this file is closed first, also when the opening fails.
@@ -95,12 +102,16 @@ class Bestandenset {
     std::unique_ptr<RecordBestand> bestand;
     std::uint64_t eerder = 0;  // the state when this file was opened
   };
-  Vak& VakVan(BestandSoort soort) { return vakken_.at(static_cast<std::size_t>(soort) - 1); }
-  const Vak& VakVan(BestandSoort soort) const {
-    return vakken_.at(static_cast<std::size_t>(soort) - 1);
-  }
+  Vak& VakVan(BestandSoort soort) { return vakken_.at(IndexVan(soort)); }
+  const Vak& VakVan(BestandSoort soort) const { return vakken_.at(IndexVan(soort)); }
+  // Puts the journal of its directory before a file that has opened.
+  std::unique_ptr<RecordBestand> MetJournaal(std::unique_ptr<RecordBestand> bestand,
+                                             BestandSoort soort, const std::filesystem::path& pad);
 
   Opener opener_;
+  JournaalBron bron_;
+  std::filesystem::path journaalMap_;
+  std::shared_ptr<Journaal> journaal_;
   std::array<Vak, 4> vakken_;
   std::array<std::unique_ptr<RecordBestand>, 4> gesloten_;
 };

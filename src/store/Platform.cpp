@@ -10,6 +10,7 @@
 #include <windows.h>
 #else
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -153,6 +154,34 @@ SysteemFout Bestandsgreep::Veiligstellen() {
   return FlushFileBuffers(Systeem(greep_)) ? SysteemFout{} : LaatsteFout();
 }
 
+SysteemFout Bestandsgreep::Kap(std::uint64_t lengte) {
+  if (!IsOpen()) return FoutNietOpen();
+  LARGE_INTEGER plek{};
+  plek.QuadPart = static_cast<LONGLONG>(lengte);
+  if (!SetFilePointerEx(Systeem(greep_), plek, nullptr, FILE_BEGIN)) return LaatsteFout();
+  return SetEndOfFile(Systeem(greep_)) ? SysteemFout{} : LaatsteFout();
+}
+
+std::int64_t Bestandsgreep::Wijzigtijd() const {
+  FILETIME tijd{};
+  if (!IsOpen() || !GetFileTime(Systeem(greep_), nullptr, nullptr, &tijd)) return 0;
+  return (static_cast<std::int64_t>(tijd.dwHighDateTime) << 32) | tijd.dwLowDateTime;
+}
+
+SysteemFout Bestandsgreep::Vergrendel() {
+  if (!IsOpen()) return FoutNietOpen();
+  // One byte far behind any record: a lock here keeps others from what it covers.
+  OVERLAPPED plek = PlekVan(std::uint64_t{1} << 40U);
+  if (LockFileEx(Systeem(greep_), LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0,
+                 &plek)) {
+    return {};
+  }
+  if (GetLastError() == ERROR_LOCK_VIOLATION) {
+    return FoutInGebruik();
+  }
+  return GetLastError() == ERROR_NOT_SUPPORTED ? SysteemFout{} : LaatsteFout();
+}
+
 SysteemFout MapVeiligstellen(const std::filesystem::path&) {
   return {};
 }
@@ -208,6 +237,38 @@ SysteemFout MapVeiligstellen(const std::filesystem::path& map) {
   SysteemFout fout = NaarSchijf(greep);
   ::close(greep);
   return fout;
+}
+
+SysteemFout Bestandsgreep::Kap(std::uint64_t lengte) {
+  if (!IsOpen()) return FoutNietOpen();
+  while (::ftruncate(Systeem(greep_), static_cast<off_t>(lengte)) != 0) {
+    if (!IsOnderbroken()) return LaatsteFout();
+  }
+  return {};
+}
+
+std::int64_t Bestandsgreep::Wijzigtijd() const {
+  struct stat gegevens {};
+  if (!IsOpen() || ::fstat(Systeem(greep_), &gegevens) != 0) return 0;
+  constexpr std::int64_t kPerSeconde = 1000000000;
+#ifdef __APPLE__
+  const timespec& tijd = gegevens.st_mtimespec;
+#else
+  const timespec& tijd = gegevens.st_mtim;
+#endif
+  return static_cast<std::int64_t>(tijd.tv_sec) * kPerSeconde + tijd.tv_nsec;
+}
+
+SysteemFout Bestandsgreep::Vergrendel() {
+  if (!IsOpen()) return FoutNietOpen();
+  while (::flock(Systeem(greep_), LOCK_EX | LOCK_NB) != 0) {
+    if (errno == EWOULDBLOCK) {
+      return FoutInGebruik();
+    }
+    if (errno == ENOLCK || errno == ENOSYS || errno == EOPNOTSUPP) break;
+    if (!IsOnderbroken()) return LaatsteFout();
+  }
+  return {};
 }
 
 std::filesystem::path ProgrammaMap() {

@@ -1,4 +1,4 @@
-// What the standard library lacks: exact file access, and two directories.
+// What the standard library lacks: exact file access, locks, and two directories.
 #pragma once
 
 #include <cstddef>
@@ -50,6 +50,17 @@ class Bestandsgreep {
 
   // Brings what was written to the disk itself.
   [[nodiscard]] SysteemFout Veiligstellen();
+
+  // Makes the file end at that byte: what lies behind is gone, what was not there is NUL.
+  [[nodiscard]] SysteemFout Kap(std::uint64_t lengte);
+
+  // When the file was last changed, in a measure of the system's own; 0 when it does not tell.
+  std::int64_t Wijzigtijd() const;
+
+  // Takes the lock of the file, which nobody else can take until this is closed; the system gives
+  // it back when a program dies. It keeps nobody from reading or writing. "Bestand is in gebruik"
+  // when another has it. A file system that knows no locks gives it to everybody.
+  [[nodiscard]] SysteemFout Vergrendel();
 
   // Closes the file; does nothing when it is not open.
   void Sluit();

@@ -33,6 +33,15 @@ class RecordBestand {
   // Brings everything written to the disk itself.
   [[nodiscard]] virtual SysteemFout Veiligstellen() = 0;
 
+  // Makes the file end at that byte: what lies behind is gone, what was not there is NUL.
+  [[nodiscard]] virtual SysteemFout Kap(std::uint64_t lengte) = 0;
+
+  // When the file was last changed, in a measure of the system's own; 0 when it cannot be told.
+  virtual std::int64_t Wijzigtijd() { return 0; }
+
+  // Takes the file's lock until it is closed; "Bestand is in gebruik" when another has it.
+  [[nodiscard]] virtual SysteemFout Vergrendel() { return {}; }
+
   // Counts the writes through this door, failed ones included; an index compares it to know
   // whether it is stale.
   virtual std::uint64_t Wijzigingen() const = 0;

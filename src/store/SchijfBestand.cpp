@@ -23,6 +23,11 @@ SysteemFout SchijfBestand::Schrijf(std::int32_t nr, std::span<const char> bron) 
   return greep_.Schrijf(Plaats(nr), bron);
 }
 
+SysteemFout SchijfBestand::Kap(std::uint64_t lengte) {
+  ++wijzigingen_;
+  return greep_.Kap(lengte);
+}
+
 SysteemFout SchijfBestand::Veiligstellen() {
   if (veilig_ == wijzigingen_) return {};
   SysteemFout fout = greep_.Veiligstellen();

@@ -23,6 +23,9 @@ class SchijfBestand final : public RecordBestand {
   [[nodiscard]] SysteemFout Schrijf(std::int32_t nr, std::span<const char> bron) override;
   std::uint64_t Lengte() override { return greep_.Lengte(); }
   [[nodiscard]] SysteemFout Veiligstellen() override;
+  [[nodiscard]] SysteemFout Kap(std::uint64_t lengte) override;
+  std::int64_t Wijzigtijd() override { return greep_.Wijzigtijd(); }
+  [[nodiscard]] SysteemFout Vergrendel() override { return greep_.Vergrendel(); }
   std::uint64_t Wijzigingen() const override { return wijzigingen_; }
   std::size_t RecordLengte() const override { return recordLengte_; }
 

@@ -24,6 +24,11 @@ SysteemFout FaalBestand::Veiligstellen() {
   return bestand_->Veiligstellen();
 }
 
+SysteemFout FaalBestand::Kap(std::uint64_t lengte) {
+  if (storing_.Treft()) return {kSchijfVol, kSchrijfStoring};
+  return bestand_->Kap(lengte);
+}
+
 Leesuitslag GeheugenBestand::Lees(std::int32_t nr, std::span<char> doel) {
   const std::size_t plaats = static_cast<std::size_t>(nr - 1) * recordLengte_;
   if (plaats >= bytes_.size()) return {};
@@ -36,6 +41,12 @@ SysteemFout GeheugenBestand::Schrijf(std::int32_t nr, std::span<const char> bron
   const std::size_t plaats = static_cast<std::size_t>(nr - 1) * recordLengte_;
   if (bytes_.size() < plaats + bron.size()) bytes_.resize(plaats + bron.size());
   std::copy(bron.begin(), bron.end(), bytes_.data() + plaats);
+  ++wijzigingen_;
+  return {};
+}
+
+SysteemFout GeheugenBestand::Kap(std::uint64_t lengte) {
+  bytes_.resize(lengte);
   ++wijzigingen_;
   return {};
 }

@@ -44,6 +44,9 @@ class FaalBestand final : public RecordBestand {
   [[nodiscard]] Leesuitslag Lees(std::int32_t nr, std::span<char> doel) override;
   [[nodiscard]] SysteemFout Schrijf(std::int32_t nr, std::span<const char> bron) override;
   [[nodiscard]] SysteemFout Veiligstellen() override;
+  [[nodiscard]] SysteemFout Kap(std::uint64_t lengte) override;
+  std::int64_t Wijzigtijd() override { return bestand_->Wijzigtijd(); }
+  [[nodiscard]] SysteemFout Vergrendel() override { return bestand_->Vergrendel(); }
   std::uint64_t Lengte() override { return storing_.zonderLengte ? 0 : bestand_->Lengte(); }
   std::uint64_t Wijzigingen() const override { return bestand_->Wijzigingen() + mislukt_; }
   std::size_t RecordLengte() const override { return bestand_->RecordLengte(); }
@@ -63,6 +66,7 @@ class GeheugenBestand final : public RecordBestand {
   [[nodiscard]] Leesuitslag Lees(std::int32_t nr, std::span<char> doel) override;
   [[nodiscard]] SysteemFout Schrijf(std::int32_t nr, std::span<const char> bron) override;
   [[nodiscard]] SysteemFout Veiligstellen() override { return {}; }
+  [[nodiscard]] SysteemFout Kap(std::uint64_t lengte) override;
   std::uint64_t Lengte() override { return bytes_.size(); }
   std::uint64_t Wijzigingen() const override { return wijzigingen_; }
   std::size_t RecordLengte() const override { return recordLengte_; }

@@ -29,6 +29,7 @@ class WeigerBestand final : public RecordBestand {
   }
   std::uint64_t Lengte() override { return bestand_->Lengte(); }
   SysteemFout Veiligstellen() override { return bestand_->Veiligstellen(); }
+  SysteemFout Kap(std::uint64_t lengte) override { return bestand_->Kap(lengte); }
   std::uint64_t Wijzigingen() const override { return bestand_->Wijzigingen(); }
   std::size_t RecordLengte() const override { return bestand_->RecordLengte(); }
 

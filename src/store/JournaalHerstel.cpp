@@ -1,0 +1,173 @@
+// What a crash left of an action: put back, or kept.
+#include <algorithm>
+#include <utility>
+
+#include "store/Journaal.h"
+#include "text/Getallen.h"
+
+namespace lb77 {
+
+namespace {
+
+SysteemFout FoutOnvoltooid() {
+  return {kGeenToegang, "De vorige bewerking is niet voltooid"};
+}
+
+SysteemFout FoutPlaatsen() {
+  return {kGeenToegang, "Het plaatsbestand is een ander dan toen"};
+}
+
+bool OpNaam(const JournaalPost& een, const JournaalPost& ander) {
+  return een.naam < ander.naam;
+}
+
+}  // namespace
+
+SysteemFout Journaal::LeesOnvoltooid(std::vector<Gelezen>& gelezen) {
+  std::vector<JournaalPost> posten;
+  if (SysteemFout fout = map_->Lijst(posten)) return fout;
+  std::ranges::sort(posten, [](const auto& a, const auto& b) { return OpNaam(b, a); });
+  for (const JournaalPost& post : posten) {
+    const auto naam = LeesJournaalNaam(post.naam);
+    if (!naam || !naam->bezig || (lopend_ && lopend_->kop.nummer == naam->nummer)) continue;
+    std::string bytes;
+    if (SysteemFout fout = map_->Lees(post.naam, bytes)) return fout;
+    gelezen.push_back({naam->nummer, post.naam, OntleedJournaal(bytes)});
+  }
+  return {};
+}
+
+// Without a head nothing had been written yet; with an end it was done.
+bool Journaal::Verschilt(const JournaalInhoud& inhoud) {
+  if (!inhoud.kop || inhoud.einde) return false;
+  for (const BestandSoort soort : kBestandSoorten) {
+    const std::uint64_t toen = inhoud.lengten.at(IndexVan(soort));
+    std::uint64_t nu = 0;
+    if (toen != kGeenLengte && (LengteNu(soort, nu) || nu != toen)) return true;
+  }
+  return std::ranges::any_of(inhoud.beelden, [this](const JournaalBeeld& beeld) {
+    std::string bytes;
+    return LeesNu(beeld.plek, bytes) || bytes != beeld.bytes;
+  });
+}
+
+std::optional<OnvoltooideHandeling> Journaal::Onvoltooid() {
+  std::vector<Gelezen> gelezen;
+  static_cast<void>(LeesOnvoltooid(gelezen));
+  for (const Gelezen& deze : gelezen) {
+    if (Verschilt(deze.inhoud)) {
+      return OnvoltooideHandeling{deze.inhoud.kop->label, deze.inhoud.kop->tijd};
+    }
+  }
+  return std::nullopt;
+}
+
+// Gives the ended actions, oldest first. What is left of others goes, or gets the name it lacks;
+// one that changed something forbids all writes.
+SysteemFout Journaal::RuimOnvoltooid(std::vector<JournaalPost>& posten) {
+  std::vector<Gelezen> gelezen;
+  if (SysteemFout fout = LeesOnvoltooid(gelezen)) return fout;
+  for (const Gelezen& deze : gelezen) {
+    if (Verschilt(deze.inhoud)) return FoutOnvoltooid();
+    SysteemFout fout = deze.inhoud.einde
+                           ? map_->Hernoem(deze.naam, JournaalNaam(deze.nummer, false))
+                           : map_->Verwijder(deze.naam);
+    if (fout) return fout;
+  }
+  if (SysteemFout fout = map_->Lijst(posten)) return fout;
+  std::erase_if(posten, [](const JournaalPost& post) { return !LeesJournaalNaam(post.naam); });
+  std::ranges::sort(posten, OpNaam);
+  return {};
+}
+
+SysteemFout Journaal::ZetTerug(const JournaalInhoud& inhoud) {
+  const bool plaatsen = inhoud.lengten.at(IndexVan(BestandSoort::Plaatsen)) != kGeenLengte;
+  if (plaatsen && inhoud.centraal != centraal_) return FoutPlaatsen();
+  for (const JournaalBeeld& beeld : inhoud.beelden) {
+    std::string bytes;
+    if (SysteemFout fout = LeesNu(beeld.plek, bytes)) return fout;
+    if (bytes == beeld.bytes) continue;
+    if (SysteemFout fout = Ruw(beeld.plek.soort)->Schrijf(beeld.plek.nr, beeld.bytes)) return fout;
+  }
+  for (const BestandSoort soort : kBestandSoorten) {
+    const std::uint64_t toen = inhoud.lengten.at(IndexVan(soort));
+    if (toen == kGeenLengte) continue;
+    std::uint64_t nu = 0;
+    if (SysteemFout fout = LengteNu(soort, nu)) return fout;
+    if (nu != toen) {
+      if (SysteemFout fout = Ruw(soort)->Kap(toen)) return fout;
+    }
+    if (SysteemFout fout = Ruw(soort)->Veiligstellen()) return fout;
+  }
+  return {};
+}
+
+SysteemFout Journaal::Herstel() {
+  std::vector<Gelezen> gelezen;
+  if (SysteemFout fout = LeesOnvoltooid(gelezen)) return fout;
+  for (const Gelezen& deze : gelezen) {
+    if (Verschilt(deze.inhoud)) {
+      if (SysteemFout fout = ZetTerug(deze.inhoud)) return fout;
+    }
+    if (deze.inhoud.einde) continue;
+    if (SysteemFout fout = map_->Verwijder(deze.naam)) return fout;
+    if (SysteemFout fout = map_->StelNamenVeilig()) return fout;
+  }
+  Stempelen();
+  return {};
+}
+
+SysteemFout Journaal::StandNu(const JournaalInhoud& inhoud, JournaalEinde& einde) {
+  std::map<RecordPlek, JournaalStand> standen;
+  const auto noteer = [&](const RecordPlek& plek) {
+    std::string bytes;
+    SysteemFout fout = LeesNu(plek, bytes);
+    standen[plek] = StandVan(plek, bytes);
+    return fout;
+  };
+  for (const JournaalBeeld& beeld : inhoud.beelden) {
+    if (SysteemFout fout = noteer(beeld.plek)) return fout;
+  }
+  for (const BestandSoort soort : kBestandSoorten) {
+    const std::uint64_t toen = inhoud.lengten.at(IndexVan(soort));
+    if (toen == kGeenLengte) continue;
+    std::uint64_t& nu = einde.lengten.at(IndexVan(soort));
+    if (SysteemFout fout = LengteNu(soort, nu)) return fout;
+    const auto lengte = static_cast<std::uint64_t>(RecordLengteVan(soort));
+    auto nr = static_cast<std::int32_t>(std::min<std::uint64_t>(toen / lengte + 1, kMaxRecords));
+    for (; nr <= kMaxRecords && BeginVan({soort, nr}) < nu; ++nr) {
+      if (SysteemFout fout = noteer({soort, nr})) return fout;
+    }
+  }
+  for (const auto& [plek, stand] : standen) einde.standen.push_back(stand);
+  return {};
+}
+
+SysteemFout Journaal::BehoudDeze(const Gelezen& gelezen) {
+  JournaalEinde einde;
+  if (SysteemFout fout = StandNu(gelezen.inhoud, einde)) return fout;
+  for (const BestandSoort soort : kBestandSoorten) {
+    if (gelezen.inhoud.lengten.at(IndexVan(soort)) == kGeenLengte) continue;
+    if (SysteemFout fout = Ruw(soort)->Veiligstellen()) return fout;
+  }
+  if (SysteemFout fout = map_->Open(gelezen.naam)) return fout;
+  SysteemFout fout = map_->Kap(gelezen.inhoud.heel);
+  if (!fout) fout = map_->Schrijf(gelezen.inhoud.heel, CodeerEinde(einde));
+  if (!fout) fout = map_->Veiligstellen();
+  map_->Sluit();
+  if (fout) return fout;
+  return map_->Hernoem(gelezen.naam, JournaalNaam(gelezen.nummer, false));
+}
+
+SysteemFout Journaal::Behoud() {
+  std::vector<Gelezen> gelezen;
+  if (SysteemFout fout = LeesOnvoltooid(gelezen)) return fout;
+  for (const Gelezen& deze : gelezen) {
+    if (!Verschilt(deze.inhoud)) continue;
+    if (SysteemFout fout = BehoudDeze(deze)) return fout;
+  }
+  Stempelen();
+  return {};
+}
+
+}  // namespace lb77
