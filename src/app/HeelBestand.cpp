@@ -1,38 +1,87 @@
 #include "app/HeelBestand.h"
 
-#include <cerrno>
-#include <fstream>
-#include <ios>
+#include <algorithm>
+#include <cstddef>
 #include <system_error>
+#include <utility>
+
+#include "store/Platform.h"
 
 namespace lb77 {
 
 SysteemFout LeesHeelBestand(const std::filesystem::path& pad, std::string& inhoud) {
   inhoud.clear();
-  std::error_code code;
-  if (std::filesystem::is_directory(pad, code)) {
-    return FoutVan(std::make_error_code(std::errc::is_a_directory));
+  Bestandsgreep greep;
+  if (SysteemFout fout = greep.Open(pad, Openwijze::AlleenLezen)) return fout;
+  // one byte more than may be shows that there are more
+  const std::uint64_t ruimte = std::min(greep.Lengte(), kMaxHeelBestand) + 1;
+  inhoud.resize(static_cast<std::size_t>(ruimte));
+  Leesuitslag uitslag = greep.Lees(0, inhoud);
+  inhoud.resize(uitslag.gelezen);
+  if (!uitslag.fout && inhoud.size() > kMaxHeelBestand) {
+    uitslag.fout = FoutVan(std::make_error_code(std::errc::file_too_large));
   }
-  errno = 0;
-  std::ifstream in(pad, std::ios::binary);
-  if (!in) return FoutVanStroom();
-  char blok[4096];
-  while (in.read(blok, sizeof blok) || in.gcount() > 0) {
-    inhoud.append(blok, static_cast<std::size_t>(in.gcount()));
-  }
-  if (!in.bad()) return {};
-  inhoud.clear();
-  return FoutVanStroom();
+  if (uitslag.fout) inhoud.clear();
+  return std::move(uitslag.fout);
 }
 
-SchrijfUitslag SchrijfHeelBestand(const std::filesystem::path& pad, std::string_view inhoud) {
-  errno = 0;
-  std::ofstream uit(pad, std::ios::binary | std::ios::trunc);
-  if (!uit) return {SchrijfStap::Openen, FoutVanStroom()};
-  uit.write(inhoud.data(), static_cast<std::streamsize>(inhoud.size()));
-  uit.close();
-  if (!uit) return {SchrijfStap::Schrijven, FoutVanStroom()};
+SchrijfUitslag Bestandswerk::Maak(const std::filesystem::path& pad, std::string_view inhoud) {
+  if (SysteemFout fout = Bestandswerk::Verwijder(pad)) {
+    return {SchrijfStap::Openen, std::move(fout)};
+  }
+  Bestandsgreep greep;
+  SysteemFout fout = greep.Open(pad, Openwijze::Nieuw);
+  if (fout) return {SchrijfStap::Openen, std::move(fout)};
+  fout = greep.Schrijf(0, inhoud);
+  if (fout) return {SchrijfStap::Schrijven, std::move(fout)};
   return {};
+}
+
+SchrijfUitslag Bestandswerk::Overschrijf(const std::filesystem::path& pad,
+                                         std::string_view inhoud) {
+  Bestandsgreep greep;
+  SysteemFout fout = greep.Open(pad);
+  if (fout) return {SchrijfStap::Openen, std::move(fout)};
+  fout = greep.Schrijf(0, inhoud);
+  if (fout) return {SchrijfStap::Schrijven, std::move(fout)};
+  std::error_code code;
+  std::filesystem::resize_file(pad, inhoud.size(), code);
+  fout = code ? FoutVan(code) : greep.Veiligstellen();
+  if (fout) return {SchrijfStap::Schrijven, std::move(fout)};
+  return {};
+}
+
+SysteemFout Bestandswerk::Veiligstellen(const std::filesystem::path& pad) {
+  Bestandsgreep greep;
+  if (SysteemFout fout = greep.Open(pad)) return fout;
+  return greep.Veiligstellen();
+}
+
+SysteemFout Bestandswerk::VeiligstellenMap(const std::filesystem::path& map) {
+  return MapVeiligstellen(map);
+}
+
+SysteemFout Bestandswerk::Verwijder(const std::filesystem::path& pad) {
+  std::error_code code;
+  if (std::filesystem::is_directory(std::filesystem::symlink_status(pad, code))) {
+    return FoutVan(std::make_error_code(std::errc::is_a_directory));
+  }
+  std::filesystem::remove(pad, code);
+  return FoutVan(code);
+}
+
+SysteemFout Bestandswerk::Koppel(const std::filesystem::path& bestand,
+                                 const std::filesystem::path& naam) {
+  std::error_code code;
+  std::filesystem::create_hard_link(bestand, naam, code);
+  return FoutVan(code);
+}
+
+SysteemFout Bestandswerk::Hernoem(const std::filesystem::path& van,
+                                  const std::filesystem::path& naar) {
+  std::error_code code;
+  std::filesystem::rename(van, naar, code);
+  return FoutVan(code);
 }
 
 }  // namespace lb77

@@ -6,7 +6,6 @@
 #include <span>
 #include <utility>
 
-#include "app/IniBestand.h"
 #include "app/IniPaden.h"
 #include "store/Paden.h"
 #include "text/Dos437.h"
@@ -217,55 +216,6 @@ void IniClass::HerplaatsPaden() {
   for (std::filesystem::path& pad : instellingen_.paden)
     pad = Herplaatst(pad, vorige, programmaMap_);
   instellingen_.paden[prog.rij] = programmaMap_;
-}
-
-bool IniClass::IniLees() {
-  ZetStandaard();
-  const std::string melding =
-      "Fout bij het openen van het IniBestand (" + std::string(kIniBestand) + ")\n";
-  std::string inhoud;
-  SysteemFout fout = LeesIniBestand(programmaMap_, inhoud);
-  if (fout) {
-    const std::string vraag = melding + fout.tekst +
-                              "\n\nDruk op OK om een nieuw IniBestand te maken\n"
-                              "Druk op CANCEL om te stoppen";
-    if (gesprek_.Bericht(BerichtSoort::Uitroep, Knoppen::OKAnnuleren, vraag) != Antwoord::OK) {
-      return false;
-    }
-    if (!instellingen_.bewaren) return true;
-    IniSchrijf();
-    if (EindeGevraagd()) return false;
-    fout = LeesIniBestand(programmaMap_, inhoud);
-  }
-  if (fout) {
-    gesprek_.Fout(melding + fout.tekst);
-    return false;
-  }
-  LeesIniRegels(inhoud, [this](std::string_view sectie, std::string_view sleutel,
-                               std::string_view waarde) { PasToe(sectie, sleutel, waarde); });
-  HerplaatsPaden();
-  return true;
-}
-
-void IniClass::IniSchrijf() {
-  if (!instellingen_.bewaren) return;
-  const SchrijfUitslag uitslag = SchrijfIniBestand(
-      programmaMap_, IniRegels([this](SleutelPlaats plaats) { return Regel(plaats); }));
-  const std::string bestand = "(" + std::string(kIniBestand) + ")\n" + uitslag.fout.tekst;
-  switch (uitslag.stap) {
-    case SchrijfStap::Openen:
-      if (gesprek_.Bericht(BerichtSoort::Uitroep, Knoppen::OKAnnuleren,
-                           "Fout bij het openen van het IniBestand " + bestand) != Antwoord::OK) {
-        instellingen_.eindeGevraagd = true;
-      }
-      break;
-    case SchrijfStap::Schrijven:
-      gesprek_.Fout("Fout bij het schrijven van het IniBestand " + bestand +
-                    "\nDe vorige instellingen blijven bewaard.");
-      break;
-    case SchrijfStap::Klaar:
-      break;
-  }
 }
 
 std::string IniClass::bestandenset(int index) const {

@@ -30,11 +30,14 @@ class IniClass {
 
   // The value of a setting; "???" after an error message when there is no such setting.
   [[nodiscard]] std::string IniWaarde(std::string_view sectie, std::string_view tag) const;
-  // Sets the defaults and reads the file. False when the user chose to stop, or when no file can be
-  // made: the program must end then. Where nothing is kept, the defaults stand for a missing file.
+  // Sets the defaults and reads the file; tells when it had to be made again from a copy. False when
+  // the user chose to stop, or when no file can be made: the program must end then. Where nothing is
+  // kept, the defaults stand for a missing file.
   [[nodiscard]] bool IniLees();
-  // Writes the whole file and keeps the last one as LB77_INI.BAK; nothing where nothing is kept. Tells its failures itself; the
-  // last file is still there after one. When the user answers one with Cancel, EindeGevraagd is
+  // Writes the whole file and keeps the last one as LB77_INI.BAK; nothing where nothing is kept. What
+  // another run of the program has changed in it meanwhile stays, where this one changed nothing since
+  // it last read or wrote; its list of sets is taken over. Tells its failures itself; the last file is
+  // still there after one. When the user answers one with Cancel, EindeGevraagd is
   // True from then on.
   void IniSchrijf();
   // Changes a value in memory; an error message when there is no such setting.
@@ -78,6 +81,15 @@ class IniClass {
 
  private:
   void ZetStandaard();
+  void LeesRegels(std::string_view inhoud);
+  // All settings in the form of the file: those in memory, and those of such a text.
+  [[nodiscard]] IniBeeld Beeld() const;
+  [[nodiscard]] IniBeeld BeeldVan(std::string_view inhoud) const;
+  // Takes what is in memory for what the file holds.
+  void Onthoud();
+  // The text of the file, over the one that is there; `stand` is how things are once it is written.
+  [[nodiscard]] std::string NieuweTekst(const std::string* huidig, IniStand& stand) const;
+  void NeemSetsOver(IniStand& stand);
   void PasToe(std::string_view sectie, std::string_view sleutel, std::string_view waarde);
   void HerplaatsPaden();
   // Where a value stands in memory; not for a row that holds a path.

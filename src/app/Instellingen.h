@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "app/IniSamen.h"
+
 namespace lb77 {
 
 // One value a setting, by its row in the table of all settings (app/Sleutels.h). IniClass alone
@@ -21,6 +23,8 @@ struct Instellingen {
   bool bewaren = true;
   // Where temporary files lie in this session; empty: where the settings say.
   std::filesystem::path tijdelijk;
+  // What the settings file and this run had when it was last read or written.
+  IniStand stand;
   // The user answered a failure of the settings file with Cancel: the program must end.
   bool eindeGevraagd = false;
 

@@ -5,7 +5,6 @@
 #include <system_error>
 
 #include "app/IniBestand.h"
-#include "store/Paden.h"
 #include "store/Platform.h"
 #include "text/Getallen.h"
 
@@ -25,9 +24,7 @@ std::filesystem::path ZoekProgrammaMap(const std::optional<std::filesystem::path
                                        const std::filesystem::path& executable,
                                        const std::filesystem::path& gebruiker) {
   if (gevraagd) return Voluit(*gevraagd);
-  std::error_code code;
-  return Voluit(std::filesystem::exists(VindPad(executable / kIniBestand), code) ? executable
-                                                                                 : gebruiker);
+  return Voluit(HeeftInstellingen(executable) ? executable : gebruiker);
 }
 
 std::filesystem::path ZoekProgrammaMap(const std::optional<std::filesystem::path>& gevraagd) {

@@ -122,6 +122,7 @@ ImpGedcom::Afloop ImpGedcom::Lees(const std::filesystem::path& bestand) {
   RegelLezer lezer;
   if (SysteemFout fout = lezer.Open(bestand)) return {.systeem = fout};
   const std::filesystem::path pad = LogPad();
+  // Reading from the log would empty it before a line of it was read.
   if (IsZelfde(bestand, pad)) return {.systeem = FoutInGebruik()};
   GedLog log;
   if (SysteemFout fout = log.Open(pad)) return {.systeem = fout};

@@ -1,75 +1,25 @@
+#include <sys/stat.h>
+
 #include "app/IniBestand.h"
+#include "app/IniWerk.h"
 #include "app/SessieToets.h"
 #include "app/ZonderRechten.h"
 #include "steun/VolleSchijf.h"
+#include "store/PlatformSlot.h"
 
 namespace lb77 {
 namespace {
 
-// The pairs of a text, one a line.
-std::string Paren(std::string_view tekst) {
-  std::string uit;
-  LeesIniRegels(
-      tekst, [&](std::string_view sectie, std::string_view sleutel, std::string_view waarde) {
-        uit += std::string(sectie) + "/" + std::string(sleutel) + "=" + std::string(waarde) + ";";
-      });
-  return uit;
-}
-
-TEST(IniRegels, BeideSoortenRegeleindenWordenGelezen) {
-  EXPECT_EQ(Paren("[A]\r\nb=1\r\nc=2"), "A/b=1;A/c=2;");
-  EXPECT_EQ(Paren("[A]\nb=1\nc=2\n"), "A/b=1;A/c=2;");
-}
-
-TEST(IniRegels, BlankenRondSectieSleutelEnWaardeGaanWeg) {
-  EXPECT_EQ(Paren("  [ A ]  \n  b  =  1 2  \n"), "A/b=1 2;");
-}
-
-TEST(IniRegels, AlleenHetEersteIsTekenScheidt) {
-  EXPECT_EQ(Paren("[A]\nb=1=2\nc==\n"), "A/b=1=2;A/c==;");
-}
-
-TEST(IniRegels, EenRegelZonderIsTekenHerhaaltHetVorigePaar) {
-  EXPECT_EQ(Paren("[A]\nb=1\nlosse regel\n"), "A/b=1;A/b=1;");
-}
-
-TEST(IniRegels, EenNieuweSectieVergeetHetPaar) {
-  EXPECT_EQ(Paren("[A]\nb=1\n[B]\nlosse regel\n"), "A/b=1;");
-}
-
-TEST(IniRegels, EenLegeSleutelWordtOvergeslagen) {
-  EXPECT_EQ(Paren("[A]\n=1\n = 2\n"), "");
-}
-
-TEST(IniRegels, VanEenSectieVervallenHetEersteEnHetLaatsteTeken) {
-  EXPECT_EQ(Paren("[Ax\nb=1\n"), "A/b=1;");
-  EXPECT_EQ(Paren("[\nb=1\n"), "/b=1;");
-  EXPECT_EQ(Paren("[]\nb=1\n"), "/b=1;");
-}
-
-TEST(IniRegels, EenBestandZonderRegelsGeeftNiets) {
-  EXPECT_EQ(Paren(""), "");
-  EXPECT_EQ(Paren("\r\n\r\n"), "");
-  EXPECT_EQ(Paren(std::string(1000, '\0')), "");
-}
-
-TEST(IniRegels, EenWaardeBlijftOpHaarRegel) {
-  const std::string tekst = IniRegels(
-      [](SleutelPlaats plaats) { return std::string(plaats.rij == 0 ? "a\r\n[b]" : ""); });
-  EXPECT_EQ(tekst.substr(0, tekst.find("Copyright")), "[Lijnboom]\r\nVersie=a  [b]\r\n");
-}
-
-TEST(IniRegels, EenGatInEenLijstBlijftEenGat) {
-  const SleutelPlaats set = *VindSleutel("Sets", "Set1");
-  const std::string tekst = IniRegels([&](SleutelPlaats plaats) {
-    return std::string(plaats.rij == set.rij && plaats.nummer % 50 == 3 ? "x" : "");
-  });
-  EXPECT_NE(tekst.find("[Sets]\r\nSet3=x\r\nSet53=x\r\n\r\n[Namenfile]\r\n"), std::string::npos);
-}
-
 class IniBestand : public SessieToets {
  protected:
-  SchrijfUitslag SchrijfNieuw(std::string_view tekst) { return SchrijfIniBestand(map_, tekst); }
+  SchrijfUitslag SchrijfNieuw(std::string_view tekst) { return SchrijfIniIn(map_, tekst); }
+  // What is read, without a message.
+  std::string Gelezen() {
+    const IniGelezen gelezen = LeesIniBestand(map_);
+    EXPECT_EQ(gelezen.melding, "");
+    EXPECT_FALSE(gelezen.fout) << gelezen.fout.tekst;
+    return gelezen.inhoud;
+  }
 };
 
 TEST_F(IniBestand, HetVorigeBestandWordtDeReserve) {
@@ -84,9 +34,7 @@ TEST_F(IniBestand, HetVorigeBestandWordtDeReserve) {
 
 TEST_F(IniBestand, EenBestandOnderEenAndereKastWordtGevonden) {
   Schrijf("lijnboom.ini", "oud");
-  std::string inhoud;
-  EXPECT_FALSE(LeesIniBestand(map_, inhoud));
-  EXPECT_EQ(inhoud, "oud");
+  EXPECT_EQ(Gelezen(), "oud");
   EXPECT_EQ(SchrijfNieuw("nieuw").stap, SchrijfStap::Klaar);
   EXPECT_FALSE(Bestaat("lijnboom.ini"));
   EXPECT_EQ(Ini(), "nieuw");
@@ -101,27 +49,107 @@ TEST_F(IniBestand, EenReserveDieEenDirectoryIsHoudtHetSchrijvenNietTegen) {
 }
 
 TEST_F(IniBestand, ZonderDirectoryMisluktHetOpenen) {
-  const SchrijfUitslag uitslag = SchrijfIniBestand(map_ / "weg", "x");
+  const SchrijfUitslag uitslag = SchrijfIniIn(map_ / "weg", "x");
   EXPECT_EQ(uitslag.stap, SchrijfStap::Openen);
   EXPECT_TRUE(uitslag.fout);
 }
 
-TEST_F(IniBestand, EenDirectoryOpDePlaatsVanHetBestandMaaktPlaats) {
-  std::filesystem::create_directory(map_ / "LIJNBOOM.INI");
-  std::string inhoud;
-  EXPECT_EQ(LeesIniBestand(map_, inhoud).tekst, "Pad is een directory");
-  EXPECT_EQ(SchrijfNieuw("nieuw").stap, SchrijfStap::Klaar);
-  EXPECT_EQ(Ini(), "nieuw");
-}
-
-TEST_F(IniBestand, EenDirectoryDieNietWegWilIsEenFoutVanHetOpenen) {
+TEST_F(IniBestand, WatGeenBestandIsIsEenFoutEnBlijftStaan) {
   Schrijf("LIJNBOOM.INI/vol", "x");
-  Schrijf("LB77_INI.BAK/vol", "x");
-  const SchrijfUitslag uitslag = SchrijfNieuw("nieuw");
+  EXPECT_EQ(LeesIniBestand(map_).fout.tekst, "Pad is een directory");
+  SchrijfUitslag uitslag = SchrijfNieuw("nieuw");
   EXPECT_EQ(uitslag.stap, SchrijfStap::Openen);
-  EXPECT_TRUE(uitslag.fout);
+  EXPECT_EQ(uitslag.fout.tekst, "Pad is een directory");
   EXPECT_TRUE(Bestaat("LIJNBOOM.INI/vol"));
   EXPECT_FALSE(Bestaat("LIJNBOOM.TMP"));
+  std::filesystem::remove_all(map_ / "LIJNBOOM.INI");
+  ASSERT_EQ(::mkfifo((map_ / "LIJNBOOM.INI").c_str(), 0600), 0);
+  EXPECT_EQ(LeesIniBestand(map_).fout.tekst, "Pad is geen gewoon bestand");
+  uitslag = SchrijfNieuw("nieuw");
+  EXPECT_EQ(uitslag.stap, SchrijfStap::Openen);
+  EXPECT_EQ(uitslag.fout.tekst, "Pad is geen gewoon bestand");
+  EXPECT_TRUE(std::filesystem::is_fifo(map_ / "LIJNBOOM.INI"));
+}
+
+TEST_F(IniBestand, PijpenOpDePlaatsVanDeKopieenHoudenNietsOp) {
+  ASSERT_EQ(::mkfifo((map_ / "LIJNBOOM.TMP").c_str(), 0600), 0);
+  ASSERT_EQ(::mkfifo((map_ / "LB77_INI.BAK").c_str(), 0600), 0);
+  EXPECT_EQ(LeesIniBestand(map_).fout.nummer, kBestandNietGevonden);
+  EXPECT_EQ(SchrijfNieuw("een").stap, SchrijfStap::Klaar);
+  EXPECT_EQ(SchrijfNieuw("twee").stap, SchrijfStap::Klaar);
+  EXPECT_EQ(Inhoud("LB77_INI.BAK"), "een");
+  EXPECT_FALSE(Bestaat("LIJNBOOM.TMP"));
+}
+
+TEST_F(IniBestand, EenBestandVanMeerDanEenMegabyteWordtGeweigerd) {
+  const std::string groot(1024 * 1024, '\n');
+  Schrijf("LIJNBOOM.INI", groot);
+  EXPECT_EQ(Gelezen().size(), groot.size());
+  Schrijf("LIJNBOOM.INI", groot + "x");
+  const IniGelezen gelezen = LeesIniBestand(map_);
+  EXPECT_EQ(gelezen.fout.tekst, "Bestand te groot");
+  EXPECT_EQ(gelezen.inhoud, "");
+  EXPECT_EQ(SchrijfNieuw("nieuw").stap, SchrijfStap::Openen);
+  EXPECT_EQ(Ini().size(), groot.size() + 1);
+}
+
+TEST_F(IniBestand, DoorEenKoppelingWordtHeenGeschreven) {
+  Schrijf("elders/mijn.ini", "een");
+  std::filesystem::create_symlink("elders/mijn.ini", map_ / "stap");
+  std::filesystem::create_symlink("stap", map_ / "LIJNBOOM.INI");
+  EXPECT_EQ(Gelezen(), "een");
+  EXPECT_EQ(SchrijfNieuw("twee").stap, SchrijfStap::Klaar);
+  EXPECT_TRUE(std::filesystem::is_symlink(map_ / "LIJNBOOM.INI"));
+  EXPECT_EQ(Inhoud("elders/mijn.ini"), "twee");
+  EXPECT_EQ(Inhoud("LB77_INI.BAK"), "een");
+  EXPECT_FALSE(Bestaat("elders/mijn.ini.TMP"));
+}
+
+TEST_F(IniBestand, EenKoppelingNaarNergensKrijgtHaarBestand) {
+  std::filesystem::create_symlink("elders/mijn.ini", map_ / "LIJNBOOM.INI");
+  EXPECT_EQ(SchrijfNieuw("een").stap, SchrijfStap::Openen);
+  std::filesystem::create_directory(map_ / "elders");
+  EXPECT_EQ(SchrijfNieuw("een").stap, SchrijfStap::Klaar);
+  EXPECT_TRUE(std::filesystem::is_symlink(map_ / "LIJNBOOM.INI"));
+  EXPECT_EQ(Inhoud("elders/mijn.ini"), "een");
+}
+
+TEST_F(IniBestand, EenKoppelingNaarZichzelfIsEenFout) {
+  std::filesystem::create_symlink("LIJNBOOM.INI", map_ / "LIJNBOOM.INI");
+  EXPECT_EQ(LeesIniBestand(map_).fout.nummer, 75);
+  EXPECT_EQ(SchrijfNieuw("een").stap, SchrijfStap::Openen);
+}
+
+TEST_F(IniBestand, HetNieuweBestandHoudtDeRechtenVanHetVorige) {
+  Schrijf("LIJNBOOM.INI", "een");
+  std::filesystem::permissions(map_ / "LIJNBOOM.INI", std::filesystem::perms(0600));
+  EXPECT_EQ(SchrijfNieuw("twee").stap, SchrijfStap::Klaar);
+  EXPECT_EQ(std::filesystem::status(map_ / "LIJNBOOM.INI").permissions(),
+            std::filesystem::perms(0600));
+}
+
+TEST_F(IniBestand, WieNietAanDeBeurtKomtSchrijftNiet) {
+  Schrijf("LIJNBOOM.INI", "een");
+  Slot slot;
+  ASSERT_FALSE(slot.Neem(map_));
+  const SchrijfUitslag uitslag = SchrijfNieuw("twee");
+  EXPECT_EQ(uitslag.stap, SchrijfStap::Openen);
+  EXPECT_EQ(uitslag.fout.tekst, "Bestand is in gebruik");
+  EXPECT_EQ(Ini(), "een");
+  EXPECT_EQ(Gelezen(), "een");
+}
+
+TEST_F(IniBestand, DeMakerZietWatErStaat) {
+  const auto schrijf = [this](const std::string& erBij) {
+    return SchrijfIniBestand(map_,
+                             [&](const std::string* huidig) {
+                               return (huidig != nullptr ? *huidig : "geen") + erBij;
+                             })
+        .stap;
+  };
+  EXPECT_EQ(schrijf(" een"), SchrijfStap::Klaar);
+  EXPECT_EQ(schrijf(" twee"), SchrijfStap::Klaar);
+  EXPECT_EQ(Ini(), "geen een twee");
 }
 
 TEST_F(IniBestand, EenVolleSchijfLaatHetBestandEnDeReserveStaan) {
@@ -167,8 +195,7 @@ TEST_F(IniBestand, EenBestandZonderRechtenWordtNietGelezenEnNietGeschreven) {
   std::filesystem::permissions(map_ / "LIJNBOOM.INI", std::filesystem::perms(0));
   {
     const ZonderRechten rechten(map_);
-    std::string inhoud;
-    EXPECT_EQ(LeesIniBestand(map_, inhoud).tekst, "Geen toegang");
+    EXPECT_EQ(LeesIniBestand(map_).fout.tekst, "Geen toegang");
     const SchrijfUitslag uitslag = SchrijfNieuw("twee");
     EXPECT_EQ(uitslag.stap, SchrijfStap::Openen);
     EXPECT_EQ(uitslag.fout.tekst, "Geen toegang");

@@ -86,13 +86,14 @@ TEST_F(IniKlassePad, EenBestandZonderRechtenHoudtHetProgrammaTegenEnBlijftStaan)
   EXPECT_TRUE(IniHeeft("SetOms=bewaard"));
 }
 
-TEST_F(IniKlassePad, EenOnleesbaarBestandWordtDeReserveEnEenNieuwKomtErVoor) {
+TEST_F(IniKlassePad, WatGeenBestandIsHoudtHetProgrammaTegenEnBlijftStaan) {
   Schrijf("LIJNBOOM.INI/vol", "x");
   Verwacht(
-      "antwoord OK", Met([](Hoofdmodule& hoofd) { EXPECT_TRUE(hoofd.Ini.IniLees()); }),
-      R"(? uitroep OK/Annuleren "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\nPad is een directory\n\nDruk op OK om een nieuw IniBestand te maken\nDruk op CANCEL om te stoppen" -> OK)");
-  EXPECT_TRUE(IniHeeft("Versie=2.1"));
-  EXPECT_TRUE(Bestaat("LB77_INI.BAK/vol"));
+      "antwoord OK OK", Met([](Hoofdmodule& hoofd) { EXPECT_FALSE(hoofd.Ini.IniLees()); }),
+      R"(? uitroep OK/Annuleren "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\nPad is een directory\n\nDruk op OK om een nieuw IniBestand te maken\nDruk op CANCEL om te stoppen" -> OK
+         ? uitroep OK/Annuleren "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\nPad is een directory" -> OK
+         ! stop "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\nPad is een directory")");
+  EXPECT_TRUE(Bestaat("LIJNBOOM.INI/vol"));
 }
 
 TEST_F(IniKlassePad, EenBestandVolOnzinWordtGelezenEnGaatAlsReserveNietVerloren) {

@@ -25,6 +25,7 @@ void SessieToets::ZetIni(std::string_view tekst) const {
   std::string inhoud(tekst);
   VervangAlles(inhoud, "\n", "\r\n");
   Schrijf("LIJNBOOM.INI", inhoud);
+  std::filesystem::remove(map_ / "LB77_INI.BAK");
 }
 
 bool SessieToets::Bestaat(const std::filesystem::path& naam) const {

@@ -17,7 +17,7 @@ namespace lb77 {
 // map_ is the program's directory: fresh, empty, and gone after the test.
 class SessieToets : public SpeelToets {
  protected:
-  // Writes the settings file; line feeds become CR LF.
+  // Writes the settings file, without a backup; line feeds become CR LF.
   void ZetIni(std::string_view tekst) const;
   // The settings file as it lies on the disk.
   [[nodiscard]] std::string Ini() const { return Inhoud("LIJNBOOM.INI"); }
