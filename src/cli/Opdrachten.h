@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "app/Klok.h"
+#include "script/Speler.h"
 
 namespace lb77 {
 
@@ -56,9 +57,8 @@ struct Opdracht {
 // All commands but `speel`, in the order of the help.
 [[nodiscard]] std::span<const Opdracht> Opdrachten();
 
-// `speel`: plays the script `utf8` and prints its transcript. Relative paths in it are resolved
-// against `basismap`.
+// `speel`: plays the script `utf8` and prints its transcript.
 [[nodiscard]] int SpeelDraaiboek(const Omgeving& omgeving, std::string_view utf8,
-                                 const std::filesystem::path& basismap);
+                                 SpeelOpties opties);
 
 }  // namespace lb77

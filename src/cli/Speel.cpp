@@ -1,4 +1,5 @@
 #include <ostream>
+#include <utility>
 
 #include "cli/Opdrachten.h"
 #include "program/Programma.h"
@@ -6,15 +7,12 @@
 
 namespace lb77 {
 
-int SpeelDraaiboek(const Omgeving& omgeving, std::string_view utf8,
-                   const std::filesystem::path& basismap) {
+int SpeelDraaiboek(const Omgeving& omgeving, std::string_view utf8, SpeelOpties opties) {
   const Draaiboek draaiboek = LeesDraaiboek(utf8);
   if (!draaiboek.fout.empty()) {
     omgeving.fout << draaiboek.fout << '\n';
     return 1;
   }
-  SpeelOpties opties;
-  opties.basismap = basismap;
   const SpeelUitslag uitslag = Speel(
       draaiboek.instructies,
       [&omgeving](Gesprek& gesprek) {

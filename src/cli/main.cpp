@@ -35,6 +35,7 @@ struct Regel {
   std::vector<std::string> zet;
   bool html = false;
   bool bewaar = false;
+  bool echo = false;
 };
 
 // A file or directory of the command line that cannot be used.
@@ -127,7 +128,8 @@ int Voer(const CLI::App& app, const Regel& regel) {
   const Klok& klok = vasteKlok ? static_cast<const Klok&>(*vasteKlok) : systeemKlok;
   const Omgeving omgeving{ZoekProgrammaMap(map), klok, std::cout, std::cerr};
   if (opdracht) return opdracht->doe(omgeving, Argumenten(regel));
-  return SpeelDraaiboek(omgeving, LeesScript(regel.draaiboek), std::filesystem::current_path());
+  return SpeelDraaiboek(omgeving, LeesScript(regel.draaiboek),
+                        {.basismap = std::filesystem::current_path(), .echo = regel.echo});
 }
 
 void BeschrijfRegel(CLI::App& app, Regel& regel) {
@@ -144,6 +146,7 @@ void BeschrijfRegel(CLI::App& app, Regel& regel) {
   CLI::App* speel = app.add_subcommand("speel", "speelt een draaiboek")->group(kOpdrachten);
   speel->get_help_ptr()->group(kKeuzes);
   speel->add_option("BESTAND", regel.draaiboek, "het draaiboek; zonder: van de standaardinvoer");
+  speel->add_flag("--echo", regel.echo, "zet elke instructie in het verslag");
   for (const Opdracht& opdracht : Opdrachten()) {
     VoegWoordenToe(*app.add_subcommand(std::string(opdracht.naam), std::string(opdracht.uitleg))
                         ->group(kOpdrachten),

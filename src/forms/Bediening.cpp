@@ -1,6 +1,8 @@
 #include "forms/Bediening.h"
 
+#include "forms/Bijschrift.h"
 #include "forms/Formulier.h"
+#include "text/Tekens.h"
 
 namespace lb77 {
 
@@ -8,6 +10,14 @@ Bediening::Bediening(Formulier& formulier, BedieningSoort soort, std::string_vie
                      std::string_view bijschrift)
     : soort_(soort), naam_(naam), bijschrift_(bijschrift) {
   formulier.Neem(*this);
+}
+
+std::string Bediening::Leesnaam() const {
+  if (!leesnaam_.empty()) return leesnaam_;
+  const std::string prompt = Prompt();
+  const std::string gelezen = ZonderSneltoets(prompt.empty() ? bijschrift_ : prompt);
+  const std::string_view kern = Trim(gelezen);
+  return kern.empty() ? naam_ : std::string(kern);
 }
 
 }  // namespace lb77

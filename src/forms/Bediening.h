@@ -16,6 +16,7 @@ enum class BedieningSoort {
   Tekstblok,
   Padvak,
   Label,
+  Wissellabel,
   Knop,
   Optie,
   Vinkje,
@@ -44,6 +45,11 @@ class Bediening {
   // The caption of a button or label, the prompt beside a field.
   [[nodiscard]] const std::string& Bijschrift() const { return bijschrift_; }
   void ZetBijschrift(std::string_view bijschrift) { bijschrift_ = bijschrift; }
+  // The text that stands before the control, empty when it has none.
+  [[nodiscard]] virtual std::string Prompt() const { return {}; }
+  // What a screen reader says: the name given here, else prompt or caption, else the control's name.
+  [[nodiscard]] virtual std::string Leesnaam() const;
+  void ZetLeesnaam(std::string_view leesnaam) { leesnaam_ = leesnaam; }
 
   [[nodiscard]] bool Zichtbaar() const { return zichtbaar_; }
   void ZetZichtbaar(bool zichtbaar) { zichtbaar_ = zichtbaar; }
@@ -87,6 +93,7 @@ class Bediening {
   BedieningSoort soort_;
   std::string naam_;
   std::string bijschrift_;
+  std::string leesnaam_;
   bool zichtbaar_ = true;
   bool ingeschakeld_ = true;
   std::function<void()> bijBetreden_;

@@ -130,6 +130,7 @@ bool Formulier::Klik(Bediening& bediening) {
 
 bool Formulier::Dubbelklik(Bediening& bediening) {
   if (!Pak(bediening)) return false;
+  Wissel(bediening);
   bediening.OpDubbelklik();
   if (!gesloten_ && bediening.bijDubbelklik_) bediening.bijDubbelklik_();
   return true;
@@ -147,6 +148,15 @@ void Formulier::Schakel(Bediening& bediening) {
     return;
   }
   MeldWijziging(bediening);
+}
+
+// A label that toggles goes to its next text, and from the last to the first.
+bool Formulier::Wissel(Bediening& bediening) {
+  auto* const label = dynamic_cast<Wissellabel*>(&bediening);
+  if (!label) return false;
+  label->ZetIndex(label->Index() + 1);
+  MeldWijziging(*label);
+  return true;
 }
 
 void Formulier::MeldWijziging(Bediening& bediening) {
@@ -212,8 +222,9 @@ bool Formulier::StandaardToets(Bediening* doel, const ToetsGebeurtenis& toets) {
   }
 }
 
-// The blank presses what can be pressed; in a field it is a character.
+// The blank presses what can be pressed and toggles a label; in a field it is a character.
 bool Formulier::SpatieIn(Bediening& bediening) {
+  if (Wissel(bediening)) return true;
   const BedieningSoort soort = bediening.Soort();
   const bool drukbaar = soort == BedieningSoort::Knop || soort == BedieningSoort::Vinkje ||
                         soort == BedieningSoort::Optie;

@@ -133,6 +133,7 @@ class Formulier {
   void ToetsIn(Bediening& bediening, ToetsGebeurtenis& toets);
   void GaVerder(const Bediening* van, int stap);
   void Schakel(Bediening& bediening);
+  bool Wissel(Bediening& bediening);
   void MeldWijziging(Bediening& bediening);
   [[nodiscard]] bool EnterIn(Bediening& bediening);
   [[nodiscard]] bool SpatieIn(Bediening& bediening);

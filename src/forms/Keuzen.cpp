@@ -1,8 +1,21 @@
 #include "forms/Keuzen.h"
 
 #include "forms/Formulier.h"
+#include "text/Getallen.h"
 
 namespace lb77 {
+
+void Verwijzing::ZetNr(int nr, std::string_view bijNul) {
+  nr_ = nr;
+  ZetBijschrift(nr ? GetalTekst(nr) : std::string(bijNul));
+}
+
+// Without a prompt and a name of its own the base says what the button shows already.
+std::string Verwijzing::Leesnaam() const {
+  const std::string naam = Knop::Leesnaam();
+  if (Bijschrift().empty() || naam == Bijschrift()) return naam;
+  return naam + " " + Bijschrift();
+}
 
 void Optie::Zet(bool gekozen) {
   if (gekozen) {

@@ -14,6 +14,27 @@ class Knop : public Bediening {
   [[nodiscard]] bool KanFocus() const override { return true; }
 };
 
+// A button that shows the number of a record and leads to it, with a prompt before it.
+class Verwijzing : public Knop {
+ public:
+  // `leesnaam` is for the ear, where the prompt is too short or there is none.
+  Verwijzing(Formulier& formulier, std::string_view naam, std::string_view prompt = {},
+             std::string_view leesnaam = {})
+      : Knop(formulier, naam, {}), prompt_(prompt) {
+    ZetLeesnaam(leesnaam);
+  }
+  [[nodiscard]] int Nr() const { return nr_; }
+  // Number 0 is shown as `bijNul`.
+  void ZetNr(int nr, std::string_view bijNul = {});
+  [[nodiscard]] std::string Prompt() const override { return prompt_; }
+  // The name and what the button shows.
+  [[nodiscard]] std::string Leesnaam() const override;
+
+ private:
+  std::string prompt_;
+  int nr_ = 0;
+};
+
 // On or off.
 class Schakelaar : public Bediening {
  public:
@@ -66,6 +87,7 @@ class Lijst : public Bediening {
   [[nodiscard]] std::string Tekst() const;
 
   [[nodiscard]] bool KanFocus() const override { return true; }
+  [[nodiscard]] std::string Prompt() const override { return Bijschrift(); }
   [[nodiscard]] std::string Waarde() const override { return Tekst(); }
 
  protected:

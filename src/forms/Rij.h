@@ -3,25 +3,21 @@
 
 #include <cstddef>
 #include <deque>
-#include <string>
 #include <string_view>
-#include <utility>
 
-#include "text/Getallen.h"
+#include "forms/Rijnaam.h"
 
 namespace lb77 {
 
-// `N` controls of kind T, numbered from `eerste`; each is named "naam(nummer)". The form is of the
-// class that T asks for, and the further arguments are those of T behind its name.
+// `N` controls of kind T, numbered from `eerste`; each is named "naam(nummer)". The further
+// arguments are those of T behind its name; each element gets the same ones, references as such.
 template <class T, std::size_t N>
 class Rij {
  public:
-  template <class Form, class... Args>
-  Rij(Form& formulier, std::string_view naam, int eerste, const Args&... args) : eerste_(eerste) {
+  template <class F, class... Args>
+  Rij(F& formulier, std::string_view naam, int eerste, Args&&... args) : eerste_(eerste) {
     for (std::size_t i = 0; i < N; ++i) {
-      const std::string element =
-          std::string(naam) + "(" + GetalTekst(eerste + static_cast<int>(i)) + ")";
-      rij_.emplace_back(formulier, element, args...);
+      rij_.emplace_back(formulier, Genummerd(naam, eerste + static_cast<int>(i)), args...);
     }
   }
 

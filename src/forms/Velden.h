@@ -34,6 +34,7 @@ class Invoerveld : public Bediening {
   [[nodiscard]] char Gefilterd(char teken) const { return filter_ ? filter_(teken) : teken; }
 
   [[nodiscard]] bool KanFocus() const override { return !alleenLezen_; }
+  [[nodiscard]] std::string Prompt() const override { return Bijschrift(); }
   [[nodiscard]] std::string Waarde() const override { return tekst_; }
 
  protected:

@@ -1,4 +1,5 @@
-// The controls that only show: label, counter, fixed-pitch page, status bar; and the menu entry.
+// The controls that show: label, toggling label, counter, fixed-pitch page, status bar; and the menu
+// entry.
 #pragma once
 
 #include <vector>
@@ -14,6 +15,26 @@ class Label : public Bediening {
       : Bediening(formulier, BedieningSoort::Label, naam, bijschrift) {}
 };
 
+// A text that the user changes to the next of a few by a double click or the blank.
+class Wissellabel : public Bediening {
+ public:
+  // Precondition: at least one text.
+  Wissellabel(Formulier& formulier, std::string_view naam, std::vector<std::string> teksten)
+      : Bediening(formulier, BedieningSoort::Wissellabel, naam, teksten.front()),
+        teksten_(std::move(teksten)) {}
+  [[nodiscard]] const std::vector<std::string>& Teksten() const { return teksten_; }
+  // Which of the texts it shows, from 0.
+  [[nodiscard]] int Index() const { return index_; }
+  // An index outside the texts shows the first.
+  void ZetIndex(int index);
+  [[nodiscard]] bool KanFocus() const override { return true; }
+  [[nodiscard]] bool HeeftDubbelklik() const override { return true; }
+
+ private:
+  std::vector<std::string> teksten_;
+  int index_ = 0;
+};
+
 // A value that the program shows: a running count, a name found. Its caption stands before it.
 class Teller : public Bediening {
  public:
@@ -21,6 +42,7 @@ class Teller : public Bediening {
       : Bediening(formulier, BedieningSoort::Teller, naam, bijschrift) {}
   [[nodiscard]] const std::string& Tekst() const { return tekst_; }
   void ZetTekst(std::string_view tekst) { tekst_ = tekst; }
+  [[nodiscard]] std::string Prompt() const override { return Bijschrift(); }
   [[nodiscard]] std::string Waarde() const override { return tekst_; }
 
  private:

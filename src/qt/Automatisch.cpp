@@ -1,45 +1,41 @@
 #include "qt/Automatisch.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
 #include <utility>
 
+#include "forms/Rijnaam.h"
+
 namespace lb77 {
 
 namespace {
-
-struct Rijlid {
-  std::string rij;     // "PersNr" of "PersNr(0)", empty for a control by itself
-  std::string nummer;  // "0"
-};
-
-Rijlid Ontleed(const std::string& naam) {
-  const std::size_t haak = naam.find('(');
-  if (haak == std::string::npos || !naam.ends_with(')')) return {};
-  return {naam.substr(0, haak), naam.substr(haak + 1, naam.size() - haak - 2)};
-}
 
 // A run of controls of one row.
 struct Reeks {
   std::string naam;
   std::vector<Bediening*> leden;
-
-  [[nodiscard]] bool ZelfdeNummers(const Reeks& ander) const {
-    if (leden.size() != ander.leden.size()) return false;
-    for (std::size_t i = 0; i < leden.size(); ++i) {
-      if (Ontleed(leden[i]->Naam()).nummer != Ontleed(ander.leden[i]->Naam()).nummer) return false;
-    }
-    return true;
-  }
+  std::vector<int> nummers;
 };
 
+// Rows that are declared number by number come out family by family, as the others do.
 std::vector<Reeks> InReeksen(const std::vector<Bediening*>& bedieningen) {
   std::vector<Reeks> uit;
+  std::size_t begin = 0;  // of the rows that stand together
   for (Bediening* bediening : bedieningen) {
-    const std::string rij = Ontleed(bediening->Naam()).rij;
-    if (rij.empty() || uit.empty() || uit.back().naam != rij) uit.push_back({rij, {}});
-    uit.back().leden.push_back(bediening);
+    const auto lid = OntleedRijnaam(bediening->Naam());
+    const std::string naam(lid ? lid->familie : std::string_view());
+    const auto vanaf = uit.begin() + static_cast<std::ptrdiff_t>(begin);
+    const auto reeks =
+        std::find_if(vanaf, uit.end(), [&](const Reeks& r) { return r.naam == naam; });
+    if (lid && reeks != uit.end()) {
+      reeks->leden.push_back(bediening);
+      reeks->nummers.push_back(lid->nummer);
+    } else {
+      uit.push_back({naam, {bediening}, {lid ? lid->nummer : 0}});
+    }
+    if (!lid) begin = uit.size();
   }
   return uit;
 }
@@ -67,7 +63,7 @@ class Maker {
   // True when the next control was taken too: a label that is the prompt of a value.
   bool NeemEen(Bediening& bediening, const Bediening* volgende) {
     const Blok blok = indeling::Veld(bediening.Naam());
-    if (bediening.Soort() == BedieningSoort::Knop) {
+    if (bediening.Soort() == BedieningSoort::Knop && bediening.Prompt().empty()) {
       knoppen_.push_back(blok);
     } else if (bediening.Soort() == BedieningSoort::Tekstpagina) {
       SluitVelden();
@@ -95,7 +91,7 @@ class Maker {
     std::vector<Blok> kolommen = {indeling::Veld(reeksen[i].naam + "(*)")};
     const Reeks& eerste = reeksen[i];
     while (i + 1 < reeksen.size() && !reeksen[i + 1].naam.empty() &&
-           reeksen[i + 1].ZelfdeNummers(eerste)) {
+           reeksen[i + 1].nummers == eerste.nummers) {
       kolommen.push_back(indeling::Veld(reeksen[++i].naam + "(*)"));
     }
     if (kolommen.size() == 1 && eerste.leden.front()->Soort() == BedieningSoort::Knop) {

@@ -26,7 +26,7 @@ bool IsLijst(BedieningSoort soort) {
 
 bool IsDrukbaar(BedieningSoort soort) {
   return soort == BedieningSoort::Knop || soort == BedieningSoort::Optie ||
-         soort == BedieningSoort::Vinkje;
+         soort == BedieningSoort::Vinkje || soort == BedieningSoort::Wissellabel;
 }
 
 // The user's own moves; the toolkit's other reasons are windows and menus that come and go.
@@ -114,6 +114,7 @@ bool Binder::EigenToets(Element& element, const QKeyEvent& toets) {
     case BedieningSoort::Optie:
     case BedieningSoort::Knop:
     case BedieningSoort::Vinkje:
+    case BedieningSoort::Wissellabel:
       return true;
     case BedieningSoort::Tekstvak:
     case BedieningSoort::Tekstblok:

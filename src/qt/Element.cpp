@@ -2,7 +2,6 @@
 
 #include <QSizePolicy>
 
-#include "forms/Bijschrift.h"
 #include "forms/Weergave.h"
 #include "qt/Keuzeelementen.h"
 #include "qt/Toonelementen.h"
@@ -26,12 +25,6 @@ void ZetVlaggen(QWidget& widget, const Bediening& bediening) {
   }
 }
 
-// What a screen reader says: the prompt or caption, else the control's own name.
-QString Leesnaam(const Bediening& bediening) {
-  const QString bijschrift = NaarQt(ZonderSneltoets(bediening.Bijschrift())).trimmed();
-  return bijschrift.isEmpty() ? NaarQt(bediening.Naam()) : bijschrift;
-}
-
 }  // namespace
 
 void Element::ZetWidget(QWidget& widget) {
@@ -51,11 +44,11 @@ QLabel& Element::MaakPrompt(QWidget& ouder) {
 
 void Element::Bijwerken() {
   ZetVlaggen(*widget_, bediening_);
-  const QString leesnaam = Leesnaam(bediening_);
+  const QString leesnaam = NaarQt(bediening_.Leesnaam());
   if (widget_->accessibleName() != leesnaam) widget_->setAccessibleName(leesnaam);
   if (prompt_) {
     ZetVlaggen(*prompt_, bediening_);
-    const QString tekst = NaarQt(bediening_.Bijschrift());
+    const QString tekst = NaarQt(bediening_.Prompt());
     if (prompt_->text() != tekst) prompt_->setText(tekst);
   }
   Toon();
@@ -70,6 +63,8 @@ std::unique_ptr<Element> MaakElement(Bediening& bediening, Bezorger& bezorger, Q
       return MaakBlokElement(static_cast<Invoerveld&>(bediening), bezorger, ouder);
     case BedieningSoort::Label:
       return MaakLabelElement(bediening, bezorger, ouder);
+    case BedieningSoort::Wissellabel:
+      return MaakWisselElement(static_cast<Wissellabel&>(bediening), ouder);
     case BedieningSoort::Knop:
       return MaakKnopElement(bediening, bezorger, ouder);
     case BedieningSoort::Optie:

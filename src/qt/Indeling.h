@@ -10,12 +10,13 @@ namespace lb77 {
 // A piece of a layout. A bare control name is one too.
 struct Blok {
   enum class Soort {
-    Veld,     // one control; "PersNr(*)" stands for all elements of a row
+    Veld,     // one control; "PersNr(*)" stands for all elements of a row, "" for an empty cell
     Rij,      // side by side
     Kolom,    // below each other
     Velden,   // a row for each part: its prompt on the left, the rest on the right
     Groep,    // a frame, with a title
     Tabel,    // a column for each part, a line for each number of the rows
+    Rooster,  // a Rij for each line, with a cell for each column; prompts and fields line up
     Knoppen,  // buttons: the first part on the left, the second on the right
   };
 
@@ -23,6 +24,8 @@ struct Blok {
   std::string naam;  // Veld: the control; Groep: the title (UTF-8)
   std::string kop;   // above a column of a Tabel (UTF-8)
   int breedte = 0;   // of a column of a Tabel, in characters; 0 leaves it to its controls
+  int kolommen = 1;  // that a cell of a Rooster takes
+  std::vector<std::string> koppen;  // above the columns of a Rooster (UTF-8)
   std::vector<Blok> delen;
 
   Blok() = default;
@@ -58,6 +61,18 @@ inline Blok Velden(std::vector<Blok> delen) {
 }
 inline Blok Tabel(std::vector<Blok> delen) {
   return {Blok::Soort::Tabel, std::move(delen)};
+}
+// Lines of cells, each with its prompt before its field; Rij({"A", "", Over(2, "B")}) is such a line.
+// A cell of several controls is a Rij too.
+inline Blok Rooster(std::vector<Blok> regels, std::vector<std::string> koppen = {}) {
+  Blok blok(Blok::Soort::Rooster, std::move(regels));
+  blok.koppen = std::move(koppen);
+  return blok;
+}
+// A cell that takes so many columns.
+inline Blok Over(int kolommen, Blok cel) {
+  cel.kolommen = kolommen;
+  return cel;
 }
 inline Blok Groep(std::string titel, std::vector<Blok> delen) {
   Blok blok(Blok::Soort::Groep, std::move(delen));

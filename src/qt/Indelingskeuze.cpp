@@ -23,7 +23,7 @@ bool Past(std::string_view patroon, std::string_view naam) {
 
 template <class Doe>
 void ElkVeld(const Blok& blok, Doe doe) {
-  if (blok.soort == Blok::Soort::Veld) doe(blok.naam);
+  if (blok.soort == Blok::Soort::Veld && !blok.naam.empty()) doe(blok.naam);
   for (const Blok& deel : blok.delen) ElkVeld(deel, doe);
 }
 
@@ -33,7 +33,7 @@ class Zeef {
   explicit Zeef(const Formulier& formulier) : formulier_(formulier) {}
 
   bool Overbodig(const Blok& blok) {
-    if (blok.soort != Blok::Soort::Veld) return false;
+    if (blok.soort != Blok::Soort::Veld || blok.naam.empty()) return false;
     const std::vector<Bediening*> nieuw = Genoemd(formulier_, blok);
     if (nieuw.empty()) return true;
     return !std::all_of(nieuw.begin(), nieuw.end(),
@@ -42,7 +42,21 @@ class Zeef {
 
   void Schoon(Blok& blok) {
     std::erase_if(blok.delen, [this](const Blok& deel) { return Overbodig(deel); });
-    for (Blok& deel : blok.delen) Schoon(deel);
+    for (Blok& deel : blok.delen) {
+      if (blok.soort == Blok::Soort::Rooster) {
+        SchoonRegel(deel);
+      } else {
+        Schoon(deel);
+      }
+    }
+  }
+
+  // In a line of a grid the cells keep their places.
+  void SchoonRegel(Blok& regel) {
+    for (Blok& cel : regel.delen) {
+      if (Overbodig(cel)) cel.naam.clear();
+      Schoon(cel);
+    }
   }
 
  private:

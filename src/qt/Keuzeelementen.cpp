@@ -19,6 +19,7 @@ namespace lb77 {
 
 namespace {
 
+constexpr int kNummer = 6;  // characters of a button for a number
 constexpr int kLijstRegels = 8;
 constexpr int kLijstBreedte = 44;  // characters
 
@@ -152,6 +153,7 @@ class KeuzelijstElement final : public Element {
 std::unique_ptr<Element> MaakKnopElement(Bediening& knop, Bezorger& bezorger, QWidget& ouder) {
   auto& druk = *new QPushButton(&ouder);
   druk.setAutoDefault(false);
+  if (dynamic_cast<const Verwijzing*>(&knop)) ZetTekenBreedte(druk, kNummer, true);
   return std::make_unique<KnopElement>(knop, bezorger, druk);
 }
 

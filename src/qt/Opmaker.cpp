@@ -24,24 +24,13 @@ constexpr int kKnopRuimte = 14;  // pixels more than a button asks
 constexpr int kNummer = 6;       // characters of a button for a number
 
 bool HeeftPrompt(const Bediening& bediening) {
-  switch (bediening.Soort()) {
-    case BedieningSoort::Tekstvak:
-    case BedieningSoort::Tekstblok:
-    case BedieningSoort::Padvak:
-    case BedieningSoort::Teller:
-    case BedieningSoort::Keuzevak:
-    case BedieningSoort::Keuzelijst:
-      return !bediening.Bijschrift().empty();
-    case BedieningSoort::Label:
-    case BedieningSoort::Knop:
-    case BedieningSoort::Optie:
-    case BedieningSoort::Vinkje:
-    case BedieningSoort::Tekstpagina:
-    case BedieningSoort::MenuKeuze:
-    case BedieningSoort::Statusbalk:
-      return false;
-  }
-  return false;
+  return !bediening.Prompt().empty();
+}
+
+// Stands where the prompts of other lines stand.
+bool IsOpschrift(const Bediening& bediening) {
+  return bediening.Soort() == BedieningSoort::Label ||
+         bediening.Soort() == BedieningSoort::Wissellabel;
 }
 
 // Needs the full width, with its prompt above it.
@@ -98,6 +87,9 @@ void Opmaker::Maak(const Blok& blok, QBoxLayout& in) {
       break;
     case Blok::Soort::Tabel:
       Tabel(blok, in);
+      break;
+    case Blok::Soort::Rooster:
+      Rooster(blok, in);
       break;
     case Blok::Soort::Knoppen:
       Knoppen(blok, in);
@@ -219,7 +211,7 @@ void Opmaker::Samen(const std::vector<Element*>& elementen, Roosterregel regel) 
   if (HeeftPrompt(eerste.Bron())) {
     regel.rooster.addWidget(&eerste.MaakPrompt(ouder_), regel.nummer, 0);
     rij->addWidget(&eerste.Widget());
-  } else if (eerste.Bron().Soort() == BedieningSoort::Label) {
+  } else if (IsOpschrift(eerste.Bron())) {
     regel.rooster.addWidget(&eerste.Widget(), regel.nummer, 0);
   } else {
     rij->addWidget(&eerste.Widget());
@@ -240,7 +232,7 @@ void Opmaker::EnkelVeld(Element& element, Roosterregel regel) {
     }
     rooster.addWidget(widget, regel.nummer, 0, 1, regel.kolommen);
     rooster.setRowStretch(regel.nummer, 1);
-  } else if (element.Bron().Soort() == BedieningSoort::Label) {
+  } else if (IsOpschrift(element.Bron())) {
     rooster.addWidget(widget, regel.nummer, 0, 1, regel.kolommen);
   } else {
     if (prompt) rooster.addWidget(&element.MaakPrompt(ouder_), regel.nummer, 0);
@@ -296,6 +288,56 @@ void Opmaker::Tabelkolom(const Blok& blok, int kolom, QGridLayout& rooster) {
     cel->addWidget(&element->Widget());
     MaakCel(*element, kolom, rooster);
     if (blok.breedte) ZetTekenBreedte(element->Widget(), blok.breedte, false);
+  }
+}
+
+void Opmaker::Rooster(const Blok& blok, QBoxLayout& in) {
+  auto* rooster = new QGridLayout;
+  in.addLayout(rooster);
+  rooster->setHorizontalSpacing(kTussen);
+  rooster->setVerticalSpacing(kTussen);
+  int kolom = 0;
+  for (const std::string& kop : blok.koppen) {
+    auto* titel = new QLabel(QString::fromStdString(kop), &ouder_);
+    titel->setFont(Vet(titel->font()));
+    rooster->addWidget(titel, 0, 2 * kolom++, 1, 2);
+  }
+  int nummer = 1;
+  for (const Blok& regel : blok.delen) {
+    kolom = 0;
+    for (const Blok& cel : regel.delen) {
+      Cel(cel, *rooster, nummer, kolom);
+      kolom += cel.kolommen;
+      rooster->setColumnStretch(2 * kolom - 1, 1);
+    }
+    ++nummer;
+  }
+}
+
+void Opmaker::Cel(const Blok& blok, QGridLayout& rooster, int regel, int kolom) {
+  std::vector<Element*> elementen = Elementen(blok);
+  if (elementen.empty()) return;
+  Element& eerste = *elementen.front();
+  const int breedte = 2 * blok.kolommen;
+  if (IsOpschrift(eerste.Bron())) {
+    const int eigen = elementen.size() == 1 ? breedte : 1;
+    rooster.addWidget(&eerste.Widget(), regel, 2 * kolom, 1, eigen);
+    elementen.erase(elementen.begin());
+  } else if (HeeftPrompt(eerste.Bron())) {
+    rooster.addWidget(&eerste.MaakPrompt(ouder_), regel, 2 * kolom);
+  }
+  if (elementen.empty()) return;
+  QHBoxLayout* rij = NieuweRij();
+  rooster.addLayout(rij, regel, 2 * kolom + 1, 1, breedte - 1);
+  for (Element* element : elementen) {
+    if (element == &eerste) {
+      rij->addWidget(&element->Widget());
+    } else {
+      Naast(*element, *rij);
+    }
+  }
+  if (std::all_of(elementen.begin(), elementen.end(), [](Element* e) { return IsSmal(*e); })) {
+    rij->addStretch(1);
   }
 }
 

@@ -30,6 +30,7 @@ class Opmaker {
   void Knoppen(const Blok& blok, QBoxLayout& in);
   void Velden(const Blok& blok, QBoxLayout& in);
   void Tabel(const Blok& blok, QBoxLayout& in);
+  void Rooster(const Blok& blok, QBoxLayout& in);
 
   // A line of a grid with so many columns: prompts in the even ones, fields in the odd ones.
   struct Roosterregel {
@@ -48,6 +49,8 @@ class Opmaker {
   void EnkelVeld(Element& element, Roosterregel regel);
   // The line of a table that stands under its heading.
   void Tabelkolom(const Blok& blok, int kolom, QGridLayout& rooster);
+  // A cell of a grid: the prompt in the left one of its two columns.
+  void Cel(const Blok& blok, QGridLayout& rooster, int regel, int kolom);
   // A widget with its prompt, if it has one, before it.
   void Naast(Element& element, QBoxLayout& in);
 

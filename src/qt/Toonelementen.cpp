@@ -1,8 +1,14 @@
 #include "qt/Toonelementen.h"
 
+#include <QFocusEvent>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QPalette>
+#include <algorithm>
 #include <functional>
+#include <string>
 #include <utility>
 
 #include "forms/Bijschrift.h"
@@ -61,6 +67,57 @@ class LabelElement final : public Element {
   KlikLabel& label_;
 };
 
+// The mouse arrives by way of the binder; the focus is seen by a line around the text.
+class Wisselvlak final : public QLabel {
+ public:
+  explicit Wisselvlak(QWidget* ouder) : QLabel(ouder) {
+    setTextFormat(Qt::PlainText);
+    setFocusPolicy(Qt::TabFocus);
+    setCursor(Qt::PointingHandCursor);
+    setMargin(kRand);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* verf) override {
+    QLabel::paintEvent(verf);
+    if (!hasFocus()) return;
+    QPainter kwast(this);
+    kwast.setPen(palette().color(QPalette::Highlight));
+    kwast.drawRect(rect().adjusted(0, 0, -1, -1));
+  }
+  void focusInEvent(QFocusEvent* focus) override {
+    QLabel::focusInEvent(focus);
+    update();
+  }
+  void focusOutEvent(QFocusEvent* focus) override {
+    QLabel::focusOutEvent(focus);
+    update();
+  }
+
+ private:
+  static constexpr int kRand = 2;  // pixels
+};
+
+// As wide as its longest text, so that nothing beside it moves.
+class WisselElement final : public Element {
+ public:
+  WisselElement(Wissellabel& bron, QWidget& ouder)
+      : Element(bron), label_(*new Wisselvlak(&ouder)) {
+    ZetWidget(label_);
+    int breedte = 0;
+    for (const std::string& tekst : bron.Teksten()) {
+      label_.setText(NaarQt(tekst));
+      breedte = std::max(breedte, label_.sizeHint().width());
+    }
+    label_.setMinimumWidth(breedte);
+  }
+
+ private:
+  void Toon() override { ZetTekst(label_, NaarQt(Bron().Bijschrift())); }
+
+  Wisselvlak& label_;
+};
+
 class TellerElement final : public Element {
  public:
   TellerElement(Teller& teller, QWidget& ouder)
@@ -97,6 +154,10 @@ class PaginaElement final : public Element {
 
 std::unique_ptr<Element> MaakLabelElement(Bediening& label, Bezorger& bezorger, QWidget& ouder) {
   return std::make_unique<LabelElement>(label, bezorger, ouder);
+}
+
+std::unique_ptr<Element> MaakWisselElement(Wissellabel& label, QWidget& ouder) {
+  return std::make_unique<WisselElement>(label, ouder);
 }
 
 std::unique_ptr<Element> MaakTellerElement(Teller& teller, QWidget& ouder) {

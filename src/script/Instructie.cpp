@@ -165,6 +165,7 @@ Draaiboek LeesDraaiboek(std::string_view utf8) {
     if (regel.empty() || regel.front() == '#') continue;
     Instructie instructie;
     instructie.regel = nr;
+    instructie.tekst = regel;
     const Reden reden = LeesRegel(instructie, regel);
     if (!reden.empty()) return {{}, OpRegel(nr, reden)};
     boek.instructies.push_back(std::move(instructie));

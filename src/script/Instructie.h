@@ -35,6 +35,7 @@ struct Instructie {
   std::vector<Antwoord> antwoorden;  // of `antwoord`, at least one
   int aantal = 0;                    // of `onderbreek`, from 1
   int regel = 0;                     // counted from 1
+  std::string tekst;                 // the line as it was written, in UTF-8
 };
 
 // A script as read. `fout` is empty, or tells line and reason in UTF-8; there are no instructions

@@ -45,13 +45,19 @@ SpeelUitslag Speler::Speel(const std::function<void(Gesprek&)>& programma) {
 
 void Speler::ZetKopKlaar() {
   while (volgende_ < instructies_.size() && IsKlaarzetten(instructies_[volgende_].soort)) {
-    voorraad_.ZetKlaar(instructies_[volgende_++]);
+    voorraad_.ZetKlaar(Neem());
   }
+}
+
+const Instructie& Speler::Neem() {
+  const Instructie& instructie = instructies_[volgende_++];
+  if (opties_.echo) uit_("$ " + instructie.tekst);
+  return instructie;
 }
 
 const Instructie& Speler::Volgende() {
   if (volgende_ == instructies_.size()) Breek();
-  const Instructie& instructie = instructies_[volgende_++];
+  const Instructie& instructie = Neem();
   regel_ = instructie.regel;
   return instructie;
 }

@@ -18,9 +18,12 @@ namespace lb77 {
 // How a script is played; all of it may be left out.
 struct SpeelOpties {
   // Relative paths of `bestand` are resolved against it; empty leaves them as they are.
-  std::filesystem::path basismap;
+  std::filesystem::path basismap = {};
+  // Tells each instruction ahead of what it does, as "$ vul Naam Jan", so that one that was swallowed
+  // is seen.
+  bool echo = false;
   // Called with each text that appears, in UTF-8: of a box, a form's title, a file question's filter.
-  std::function<void(std::string_view utf8)> getoond;
+  std::function<void(std::string_view utf8)> getoond = {};
 };
 
 // How it went. All texts are UTF-8.
@@ -59,6 +62,7 @@ class Speler final : public Gesprek {
   struct Afgebroken {};  // unwinds the program; no std::exception, so that nobody else catches it
 
   void ZetKopKlaar();
+  [[nodiscard]] const Instructie& Neem();
   [[nodiscard]] const Instructie& Volgende();
   void Doe(Formulier& formulier, const Instructie& instructie);
   void Toon(Formulier& formulier, const Instructie& instructie);

@@ -1,6 +1,9 @@
 #include "script/Verslag.h"
 
+#include <utility>
+
 #include "forms/Keuzen.h"
+#include "script/Rijtabel.h"
 #include "text/Getallen.h"
 #include "text/Unicode.h"
 
@@ -97,11 +100,14 @@ std::string Aangehaald(std::string_view windows) {
   return AangehaaldUtf8(WindowsNaarUtf8(windows));
 }
 
-std::string BedieningRegel(const Bediening& bediening) {
+std::string WaardeTekst(const Bediening& bediening) {
   const bool schakelaar =
       bediening.Soort() == BedieningSoort::Vinkje || bediening.Soort() == BedieningSoort::Optie;
-  std::string uit = "= " + WindowsNaarUtf8(bediening.Naam()) + " ";
-  uit += schakelaar ? bediening.Waarde() : Aangehaald(bediening.Waarde());
+  return schakelaar ? bediening.Waarde() : Aangehaald(bediening.Waarde());
+}
+
+std::string BedieningRegel(const Bediening& bediening) {
+  std::string uit = "= " + WindowsNaarUtf8(bediening.Naam()) + " " + WaardeTekst(bediening);
   if (!bediening.Ingeschakeld()) uit += " [uit]";
   if (!bediening.Zichtbaar()) uit += " [verborgen]";
   return uit;
@@ -121,8 +127,8 @@ std::vector<std::string> BedieningRegels(const Bediening& bediening) {
 std::vector<std::string> FormulierRegels(const Formulier& formulier) {
   std::vector<std::string> uit{": " + WindowsNaarUtf8(formulier.Naam()) + " " +
                                Aangehaald(formulier.Titel())};
-  for (const Bediening* bediening : formulier.Bedieningen()) {
-    uit.push_back(BedieningRegel(*bediening));
+  for (std::string& regel : BedieningenRegels(formulier.Bedieningen())) {
+    uit.push_back(std::move(regel));
   }
   if (formulier.FocusVeld()) uit.push_back("* " + WindowsNaarUtf8(formulier.FocusVeld()->Naam()));
   return uit;

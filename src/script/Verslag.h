@@ -29,11 +29,14 @@ namespace lb77 {
 // The same of a Windows-1252 text.
 [[nodiscard]] std::string Aangehaald(std::string_view windows);
 
+// The value as a transcript tells it: "aan" or "uit", else in quotes.
+[[nodiscard]] std::string WaardeTekst(const Bediening& bediening);
 // "= NAAM "waarde" [uit] [verborgen]".
 [[nodiscard]] std::string BedieningRegel(const Bediening& bediening);
 // That line, and for a list its items behind it.
 [[nodiscard]] std::vector<std::string> BedieningRegels(const Bediening& bediening);
-// The whole form: its name and title, its controls, the field with the focus.
+// The whole form: its name and title, its controls (those in rows as tables), the field with the
+// focus.
 [[nodiscard]] std::vector<std::string> FormulierRegels(const Formulier& formulier);
 
 // "regel 3: reden"; a line number 0 is before the first instruction.

@@ -10,10 +10,11 @@ namespace {
 
 class SpeelDraaiboekToets : public ::testing::Test {
  protected:
-  int Speel(std::string_view draaiboek) {
+  int Speel(std::string_view draaiboek, bool echo = false) {
     std::ostringstream uit;
     std::ostringstream fout;
-    const int status = SpeelDraaiboek({map_.Pad(), klok_, uit, fout}, draaiboek, map_.Pad());
+    const int status = SpeelDraaiboek({map_.Pad(), klok_, uit, fout}, draaiboek,
+                                      {.basismap = map_.Pad(), .echo = echo});
     uit_ = uit.str();
     fout_ = fout.str();
     return status;
@@ -31,6 +32,12 @@ TEST_F(SpeelDraaiboekToets, DruktHetVerslagAf) {
       uit_.find("\n+ OverLB77Form \"Over LB77 voor Windows\"\n- OverLB77Form\n- MenuWindow\n"),
       std::string::npos);
   EXPECT_EQ(fout_, "");
+}
+
+TEST_F(SpeelDraaiboekToets, EchoZetElkeInstructieInHetVerslag) {
+  EXPECT_EQ(Speel("antwoord OK\n  kies AboutLB77\ndruk OKButton\n", true), 0);
+  EXPECT_EQ(uit_.rfind("$ antwoord OK\n", 0), 0U) << uit_;
+  EXPECT_NE(uit_.find("\n$ kies AboutLB77\n+ OverLB77Form"), std::string::npos) << uit_;
 }
 
 TEST_F(SpeelDraaiboekToets, EenDraaiboekDatNietGaatEindigtMetEenEnZijnRegel) {

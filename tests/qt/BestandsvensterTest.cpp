@@ -57,16 +57,16 @@ class BestandsvensterTest : public Vensterproef {
   }
 };
 
-TEST_F(BestandsvensterTest, FileThatWasChosenComesBack) {
+TEST_F(BestandsvensterTest, EenGekozenBestandKomtTerug) {
   EXPECT_EQ(Vraag(BestandsWijze::Openen, [](QFileDialog& v) { Kies(v, "oranje.ged"); }),
             Pad("oranje.ged"));
 }
 
-TEST_F(BestandsvensterTest, CancellingGivesNothing) {
+TEST_F(BestandsvensterTest, AnnulerenGeeftNiets) {
   EXPECT_FALSE(Vraag(BestandsWijze::Openen, [](QFileDialog& v) { v.reject(); }));
 }
 
-TEST_F(BestandsvensterTest, DialogSpeaksDutchAndBeginsWhereItWasTold) {
+TEST_F(BestandsvensterTest, HetVensterSpreektNederlandsEnBegintWaarHetMoet) {
   Vraag(BestandsWijze::Openen, [&](QFileDialog& v) {
     EXPECT_EQ(v.windowTitle(), QString("Bestand openen"));
     EXPECT_EQ(v.labelText(QFileDialog::Accept), QString("&Openen"));
@@ -77,19 +77,19 @@ TEST_F(BestandsvensterTest, DialogSpeaksDutchAndBeginsWhereItWasTold) {
   });
 }
 
-TEST_F(BestandsvensterTest, SavingAddsTheExtensionOfTheFilter) {
+TEST_F(BestandsvensterTest, OpslaanVoegtDeExtensieVanHetFilterToe) {
   EXPECT_EQ(Vraag(BestandsWijze::Opslaan, [](QFileDialog& v) { Kies(v, "nieuw"); }),
             Pad("nieuw.GED"));
 }
 
-TEST_F(BestandsvensterTest, SavingOverAFileAsksFirst) {
+TEST_F(BestandsvensterTest, OverEenBestandHeenOpslaanVraagtHetEerst) {
   Antwoord({"Ja"});
   EXPECT_EQ(Vraag(BestandsWijze::Opslaan, [](QFileDialog& v) { Kies(v, "oranje.ged"); }),
             Pad("oranje.ged"));
   EXPECT_THAT(boxen, testing::ElementsAre("Het bestand oranje.ged bestaat al. Overschrijven ?"));
 }
 
-TEST_F(BestandsvensterTest, NoToWritingOverAsksForAnotherFile) {
+TEST_F(BestandsvensterTest, NeeTegenOverschrijvenVraagtEenAnderBestand) {
   Antwoord({"Nee"});
   bijBox = [](QMessageBox&) {
     QTimer::singleShot(50, qApp, [] {
@@ -101,11 +101,11 @@ TEST_F(BestandsvensterTest, NoToWritingOverAsksForAnotherFile) {
   EXPECT_FALSE(Vraag(BestandsWijze::Opslaan, [](QFileDialog& v) { Kies(v, "oranje.ged"); }));
 }
 
-TEST_F(BestandsvensterTest, DirectoryCanBeChosen) {
+TEST_F(BestandsvensterTest, EenMapKanWordenGekozen) {
   EXPECT_EQ(Vraag(BestandsWijze::Map, [](QFileDialog& v) { Kies(v, "onder"); }), Pad("onder"));
 }
 
-TEST_F(BestandsvensterTest, LastDirectoryIsRememberedForTheSameFilter) {
+TEST_F(BestandsvensterTest, DeLaatsteMapWordtVoorHetzelfdeFilterOnthouden) {
   Vraag(BestandsWijze::Openen, [](QFileDialog& v) { Kies(v, "oranje.ged"); });
   EXPECT_EQ(instellingen_.LaatsteMap(kGedcom), map_.path());
   EXPECT_EQ(instellingen_.LaatsteMap("Alle Bestanden (*.*)|*.*"), QString());
@@ -115,7 +115,7 @@ TEST_F(BestandsvensterTest, LastDirectoryIsRememberedForTheSameFilter) {
   }));
 }
 
-TEST(Naamfilters, PatternsStandInBothCases) {
+TEST(Naamfilters, PatronenStaanErInBeideKasten) {
   EXPECT_EQ(Naamfilters(kGedcom),
             QStringList({"GEDCOM-bestanden (*.GED *.ged)", "Alle Bestanden (*)"}));
   EXPECT_EQ(Naamfilters("Internet|*.htm;*.html"),

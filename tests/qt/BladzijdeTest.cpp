@@ -47,7 +47,7 @@ class BladzijdeTest : public Vensterproef {
   }
 };
 
-TEST_F(BladzijdeTest, ShowsItsLinesInAFixedPitchAndFillsTheScreen) {
+TEST_F(BladzijdeTest, ToontZijnRegelsInEenVasteLetterEnVultHetScherm) {
   Lees({[&] {
     EXPECT_TRUE(Blad().toPlainText().startsWith("regel a\nregel b\n"));
     EXPECT_TRUE(QFontInfo(Blad().font()).fixedPitch());
@@ -56,12 +56,12 @@ TEST_F(BladzijdeTest, ShowsItsLinesInAFixedPitchAndFillsTheScreen) {
   }});
 }
 
-TEST_F(BladzijdeTest, EightyColumnsAreInView) {
+TEST_F(BladzijdeTest, TachtigKolommenZijnInBeeld) {
   vorm.UitvoerBox.ZetRegels({std::string(kBladKolommen, 'W')});
   Lees({[&] { EXPECT_EQ(Blad().horizontalScrollBar()->maximum(), 0); }});
 }
 
-TEST_F(BladzijdeTest, KeysScrollTheSheetBeforeTheyReachTheForm) {
+TEST_F(BladzijdeTest, ToetsenRollenHetBladVoorZeBijHetFormulierKomen) {
   Lees({[&] {
     Toets(Qt::Key_Down);
     EXPECT_EQ(Plek(), 1);
@@ -80,7 +80,7 @@ TEST_F(BladzijdeTest, KeysScrollTheSheetBeforeTheyReachTheForm) {
   }});
 }
 
-TEST_F(BladzijdeTest, NextPageBeginsAtItsTop) {
+TEST_F(BladzijdeTest, DeVolgendeBladzijdeBegintBovenaan) {
   Lees({[&] {
     Toets(Qt::Key_End);
     Toets(Qt::Key_PageDown);
@@ -89,7 +89,7 @@ TEST_F(BladzijdeTest, NextPageBeginsAtItsTop) {
   }});
 }
 
-TEST_F(BladzijdeTest, MouseMaySelectTextWithoutMovingTheFormsFocus) {
+TEST_F(BladzijdeTest, DeMuisMagTekstKiezenZonderDeFocusTeVerzetten) {
   Lees({[&] {
     QTest::mouseClick(Blad().viewport(), Qt::LeftButton);
     EXPECT_EQ(Focus(), "UitvoerBox");

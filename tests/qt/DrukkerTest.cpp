@@ -35,7 +35,7 @@ class DrukkerTest : public testing::Test {
   }
 };
 
-TEST_F(DrukkerTest, WholePageFitsOnEachPaper) {
+TEST_F(DrukkerTest, EenHeleBladzijdePastOpElkPapier) {
   for (const auto soort : {QPageSize::A4, QPageSize::A5, QPageSize::Letter}) {
     QPdfWriter papier(Pad("maat.pdf"));
     papier.setPageSize(QPageSize(soort));
@@ -48,7 +48,7 @@ TEST_F(DrukkerTest, WholePageFitsOnEachPaper) {
   }
 }
 
-TEST_F(DrukkerTest, LetterGrowsNoLargerThanTwelvePoints) {
+TEST_F(DrukkerTest, DeLetterWordtNietGroterDanTwaalfPunten) {
   QPdfWriter papier(Pad("groot.pdf"));
   papier.setPageSize(QPageSize(QPageSize::A0));
   const QFont letter =
@@ -56,7 +56,7 @@ TEST_F(DrukkerTest, LetterGrowsNoLargerThanTwelvePoints) {
   EXPECT_EQ(letter.pixelSize(), 12 * papier.resolution() / 72);
 }
 
-TEST_F(DrukkerTest, EachPageHasASheetOfItsOwn) {
+TEST_F(DrukkerTest, ElkeBladzijdeHeeftEenEigenVel) {
   {
     QPdfWriter papier(Pad("druk.pdf"));
     EXPECT_TRUE(Druk(papier, Proefdruk(3)));
@@ -64,12 +64,12 @@ TEST_F(DrukkerTest, EachPageHasASheetOfItsOwn) {
   EXPECT_EQ(Paginas(Pad("druk.pdf")), 3);
 }
 
-TEST_F(DrukkerTest, PaperThatCannotBeWrittenOnIsAFailure) {
+TEST_F(DrukkerTest, PapierDatNietBeschrevenKanWordenIsEenFout) {
   QPdfWriter papier(Pad("geen/map/druk.pdf"));
   EXPECT_FALSE(Druk(papier, Proefdruk(1)));
 }
 
-TEST_F(DrukkerTest, FailureIsTold) {
+TEST_F(DrukkerTest, EenFoutWordtGemeld) {
   QString tekst;
   QTimer::singleShot(0, qApp, [&] {
     auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
@@ -85,7 +85,7 @@ TEST_F(DrukkerTest, FailureIsTold) {
   EXPECT_TRUE(DrukOfMeld(nullptr, goed, Proefdruk(1)));
 }
 
-TEST_F(DrukkerTest, CancellingPrintsNothing) {
+TEST_F(DrukkerTest, AnnulerenDruktNietsAf) {
   QTimer::singleShot(0, qApp, [] {
     auto* vraag = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
     ASSERT_TRUE(vraag);

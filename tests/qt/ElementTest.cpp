@@ -33,12 +33,12 @@ class ElementTest : public Vensterproef {
   }
 };
 
-TEST_F(ElementTest, TextFieldShowsItsTextInUnicode) {
+TEST_F(ElementTest, EenTekstvakToontZijnTekstInUnicode) {
   vorm.Een.ZetTekst("geërfd €"_w);
   Bekijk([&] { EXPECT_EQ(Vind<QLineEdit>("Een").text(), QString::fromUtf8("geërfd €")); });
 }
 
-TEST_F(ElementTest, TextSetFromCodeShowsAndRaisesNothing) {
+TEST_F(ElementTest, TekstVanuitCodeIsTeZienEnGeeftGeenGebeurtenis) {
   Bekijk([&] {
     Verander([&] { vorm.Vrij.ZetTekst("nieuw"); });
     EXPECT_EQ(Vind<QLineEdit>("Vrij").text(), QString("nieuw"));
@@ -46,17 +46,17 @@ TEST_F(ElementTest, TextSetFromCodeShowsAndRaisesNothing) {
   });
 }
 
-TEST_F(ElementTest, TextLongerThanTheMaximumIsShownWhole) {
+TEST_F(ElementTest, TekstBovenDeMaximumlengteIsHeelTeZien) {
   vorm.Een.ZetTekst("twaalf tekens");
   Bekijk([&] { EXPECT_EQ(Vind<QLineEdit>("Een").text(), QString("twaalf tekens")); });
 }
 
-TEST_F(ElementTest, MultiLineTextKeepsItsLineEnds) {
+TEST_F(ElementTest, TekstVanMeerRegelsHoudtZijnRegeleinden) {
   vorm.Blok.ZetTekst("een\ntwee");
   Bekijk([&] { EXPECT_EQ(Vind<QPlainTextEdit>("Blok").toPlainText(), QString("een\ntwee")); });
 }
 
-TEST_F(ElementTest, ReadOnlyFieldTakesNoFocusAndNoText) {
+TEST_F(ElementTest, EenVeldOmTeLezenNeemtGeenFocusEnGeenTekst) {
   vorm.Lezen.ZetTekst("vast");
   Bekijk([&] {
     auto& veld = Vind<QLineEdit>("Lezen");
@@ -66,7 +66,7 @@ TEST_F(ElementTest, ReadOnlyFieldTakesNoFocusAndNoText) {
   });
 }
 
-TEST_F(ElementTest, PathFieldKeepsAPathThatWindowsTextCannotShow) {
+TEST_F(ElementTest, EenPadvakHoudtEenPadDatNietTeTonenIs) {
   const std::filesystem::path pad(u8"/tmp/Łódź");
   vorm.Pad.ZetPad(pad);
   Bekijk([&] {
@@ -76,7 +76,7 @@ TEST_F(ElementTest, PathFieldKeepsAPathThatWindowsTextCannotShow) {
   EXPECT_EQ(vorm.Pad.Pad(), pad);
 }
 
-TEST_F(ElementTest, PathFieldStoresATypedPath) {
+TEST_F(ElementTest, EenPadvakBewaartEenGetyptPad) {
   Bekijk([&] {
     QTest::mouseClick(&Vind("Pad"), Qt::LeftButton);
     Typ("/data/geërfd");
@@ -84,17 +84,17 @@ TEST_F(ElementTest, PathFieldStoresATypedPath) {
   EXPECT_EQ(vorm.Pad.Pad(), std::filesystem::path(u8"/data/geërfd"));
 }
 
-TEST_F(ElementTest, LabelShowsItsTextPlainly) {
+TEST_F(ElementTest, EenLabelToontZijnTekstZoalsDieIs) {
   Bekijk([&] { EXPECT_EQ(Vind<QLabel>("Uitleg").text(), QString("<b>Uitleg</b> & meer")); });
   EXPECT_EQ(vorm.Uitleg.Bijschrift(), "<b>Uitleg</b> & meer");
 }
 
-TEST_F(ElementTest, LabelWithAHandlerCanBeClicked) {
+TEST_F(ElementTest, EenLabelMetEenAfhandelingKanWordenAangeklikt) {
   Bekijk([&] { QTest::mouseClick(&Vind("Klikbaar"), Qt::LeftButton); });
   EXPECT_THAT(vorm.log, testing::Contains("klik Klikbaar"));
 }
 
-TEST_F(ElementTest, TickBoxFollowsClicksAndCode) {
+TEST_F(ElementTest, EenVinkjeVolgtKliksEnCode) {
   Bekijk([&] {
     auto& vink = Vind<QCheckBox>("Vink");
     vink.click();
@@ -105,7 +105,7 @@ TEST_F(ElementTest, TickBoxFollowsClicksAndCode) {
   });
 }
 
-TEST_F(ElementTest, OptionsExcludeEachOther) {
+TEST_F(ElementTest, OptiesSluitenElkaarUit) {
   Bekijk([&] {
     Vind<QRadioButton>("Rood").click();
     Vind<QRadioButton>("Blauw").click();
@@ -117,7 +117,7 @@ TEST_F(ElementTest, OptionsExcludeEachOther) {
   EXPECT_TRUE(vorm.Blauw.Gekozen());
 }
 
-TEST_F(ElementTest, ArrowsWalkThroughTheOptions) {
+TEST_F(ElementTest, PijlenLopenDoorDeOpties) {
   vorm.Rood.Zet(true);
   vorm.ZetEersteVeld(vorm.Rood);
   Bekijk([&] {
@@ -130,7 +130,7 @@ TEST_F(ElementTest, ArrowsWalkThroughTheOptions) {
   EXPECT_TRUE(vorm.Blauw.Gekozen());
 }
 
-TEST_F(ElementTest, PickBoxShowsItsRowsAndFollowsTheChoice) {
+TEST_F(ElementTest, EenKeuzevakToontZijnRijenEnVolgtDeKeuze) {
   Bekijk([&] {
     auto& vak = Vind<QComboBox>("Vak");
     EXPECT_EQ(vak.count(), 3);
@@ -145,7 +145,7 @@ TEST_F(ElementTest, PickBoxShowsItsRowsAndFollowsTheChoice) {
   });
 }
 
-TEST_F(ElementTest, ArrowsChooseInAPickBox) {
+TEST_F(ElementTest, PijlenKiezenInEenKeuzevak) {
   vorm.ZetEersteVeld(vorm.Vak);
   Bekijk([&] {
     Toets(Qt::Key_Down);
@@ -154,7 +154,7 @@ TEST_F(ElementTest, ArrowsChooseInAPickBox) {
   EXPECT_EQ(vorm.Vak.Tekst(), "een");
 }
 
-TEST_F(ElementTest, PickListFollowsMouseAndDoubleClick) {
+TEST_F(ElementTest, EenKeuzelijstVolgtMuisEnDubbelklik) {
   vorm.Kieslijst.ZetRijen({"aap", "noot", "mies"});
   Bekijk([&] {
     auto& lijst = Vind<QListWidget>("Kieslijst");
@@ -166,7 +166,7 @@ TEST_F(ElementTest, PickListFollowsMouseAndDoubleClick) {
   EXPECT_THAT(vorm.log, testing::Contains("dubbel Kieslijst"));
 }
 
-TEST_F(ElementTest, FocusAloneChoosesNothingInAPickList) {
+TEST_F(ElementTest, DeFocusAlleenKiestNietsInEenKeuzelijst) {
   vorm.Kieslijst.ZetRijen({"aap", "noot", "mies"});
   vorm.ZetEersteVeld(vorm.Vak);
   Bekijk([&] {
@@ -181,7 +181,7 @@ TEST_F(ElementTest, FocusAloneChoosesNothingInAPickList) {
   EXPECT_EQ(std::count(vorm.log.begin(), vorm.log.end(), "wijzig Kieslijst aap"), 1);
 }
 
-TEST_F(ElementTest, SecondPressOfADoubleClickOnALabelIsNoClick) {
+TEST_F(ElementTest, DeTweedeDrukVanEenDubbelklikOpEenLabelIsGeenKlik) {
   vorm.Klikbaar.BijDubbelklik([&] { vorm.log.emplace_back("dubbel"); });
   Bekijk([&] {
     QTest::mouseClick(&Vind("Klikbaar"), Qt::LeftButton);
@@ -192,12 +192,12 @@ TEST_F(ElementTest, SecondPressOfADoubleClickOnALabelIsNoClick) {
   EXPECT_EQ(std::count(vorm.log.begin(), vorm.log.end(), "dubbel"), 1);
 }
 
-TEST_F(ElementTest, ValueShowsBehindItsPrompt) {
+TEST_F(ElementTest, EenWaardeStaatAchterZijnPrompt) {
   vorm.Stand.ZetTekst("12");
   Bekijk([&] { EXPECT_EQ(Vind<QLabel>("Stand").text(), QString("12")); });
 }
 
-TEST_F(ElementTest, FlagsAndCaptionsFollowTheForm) {
+TEST_F(ElementTest, VlaggenEnBijschriftenVolgenHetFormulier) {
   Bekijk([&] {
     Verander([&] {
       vorm.Vrij.ZetIngeschakeld(false);
@@ -212,7 +212,7 @@ TEST_F(ElementTest, FlagsAndCaptionsFollowTheForm) {
   });
 }
 
-TEST_F(ElementTest, AccessibleNameIsThePromptOrCaption) {
+TEST_F(ElementTest, DeLeesnaamIsDePromptOfHetBijschrift) {
   Bekijk([&] {
     EXPECT_EQ(Vind("Een").accessibleName(), QString("Eerste veld:"));
     EXPECT_EQ(Vind("OKButton").accessibleName(), QString("OK"));
@@ -220,7 +220,7 @@ TEST_F(ElementTest, AccessibleNameIsThePromptOrCaption) {
   });
 }
 
-TEST_F(ElementTest, PromptIsTheBuddyOfItsField) {
+TEST_F(ElementTest, DePromptHoortBijZijnVeld) {
   Bekijk([&] {
     int gevonden = 0;
     for (const QLabel* label : Bovenste().findChildren<QLabel*>()) {
@@ -230,7 +230,7 @@ TEST_F(ElementTest, PromptIsTheBuddyOfItsField) {
   });
 }
 
-TEST_F(ElementTest, NoButtonIsADefaultButton) {
+TEST_F(ElementTest, GeenKnopIsEenStandaardknop) {
   Bekijk([&] {
     for (const QPushButton* knop : Bovenste().findChildren<QPushButton*>()) {
       EXPECT_FALSE(knop->isDefault());

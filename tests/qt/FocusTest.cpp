@@ -26,12 +26,12 @@ class FocusTest : public Vensterproef {
   void Druk(const char* naam) { QTest::mouseClick(&Vind(naam), Qt::LeftButton); }
 };
 
-TEST_F(FocusTest, FirstFieldIsEnteredOnceBehindActivation) {
+TEST_F(FocusTest, HetEersteVeldWordtNaHetActiverenEenKeerBetreden) {
   Speel({[&] { EXPECT_EQ(Focus(), "Een"); }});
   EXPECT_THAT(vorm.log, ElementsAre("in Een", "klik BackButton"));
 }
 
-TEST_F(FocusTest, FailedCheckSwallowsAButtonAndShowsItsBoxOnce) {
+TEST_F(FocusTest, EenMislukteControleSliktDeKnopInEnMeldtHetEenKeer) {
   vorm.eenGoed = false;
   Speel({[&] {
     Druk("OKButton");
@@ -42,7 +42,7 @@ TEST_F(FocusTest, FailedCheckSwallowsAButtonAndShowsItsBoxOnce) {
   EXPECT_THAT(vorm.log, ElementsAre("in Een", "controle Een", "klik BackButton"));
 }
 
-TEST_F(FocusTest, FailedCheckLeavesATickBoxAsItWas) {
+TEST_F(FocusTest, EenMislukteControleLaatEenVinkjeZoalsHetWas) {
   vorm.eenGoed = false;
   Speel({[&] {
     Vind<QCheckBox>("Vink").click();
@@ -52,7 +52,7 @@ TEST_F(FocusTest, FailedCheckLeavesATickBoxAsItWas) {
   EXPECT_THAT(boxen, ElementsAre("Een is fout"));
 }
 
-TEST_F(FocusTest, FailedCheckLeavesAPickBoxAsItWas) {
+TEST_F(FocusTest, EenMislukteControleLaatEenKeuzevakZoalsHetWas) {
   vorm.eenGoed = false;
   Speel({[&] {
     auto& vak = Vind<QComboBox>("Vak");
@@ -63,7 +63,7 @@ TEST_F(FocusTest, FailedCheckLeavesAPickBoxAsItWas) {
   EXPECT_THAT(boxen, ElementsAre("Een is fout"));
 }
 
-TEST_F(FocusTest, FailedCheckKeepsTheMouseOutOfAnotherField) {
+TEST_F(FocusTest, EenMislukteControleHoudtDeMuisUitEenAnderVeld) {
   vorm.eenGoed = false;
   Speel({[&] {
            Druk("Vrij");
@@ -73,7 +73,7 @@ TEST_F(FocusTest, FailedCheckKeepsTheMouseOutOfAnotherField) {
   EXPECT_THAT(boxen, ElementsAre("Een is fout"));
 }
 
-TEST_F(FocusTest, MouseMovesToAnotherField) {
+TEST_F(FocusTest, DeMuisGaatNaarEenAnderVeld) {
   Speel({[&] {
     Druk("Vrij");
     EXPECT_EQ(Focus(), "Vrij");
@@ -81,7 +81,7 @@ TEST_F(FocusTest, MouseMovesToAnotherField) {
   EXPECT_THAT(vorm.log, ElementsAre("in Een", "controle Een", "in Vrij", "klik BackButton"));
 }
 
-TEST_F(FocusTest, FocusThatMovesByItselfAsksTheForm) {
+TEST_F(FocusTest, EenFocusDieVanzelfVerhuistVraagtHetHetFormulier) {
   vorm.eenGoed = false;
   Speel({[&] {
     Vind("Vrij").setFocus(Qt::ShortcutFocusReason);
@@ -92,28 +92,28 @@ TEST_F(FocusTest, FocusThatMovesByItselfAsksTheForm) {
   EXPECT_THAT(boxen, ElementsAre("Een is fout"));
 }
 
-TEST_F(FocusTest, FocusThatComesBackFromABoxRaisesNothing) {
+TEST_F(FocusTest, EenFocusDieVanEenMeldingTerugkomtGeeftGeenGebeurtenis) {
   vorm.bijOK = [&] { gesprek.Informeer("klaar"); };
   Speel({[&] { Druk("OKButton"); }, [&] { EXPECT_EQ(Focus(), "OKButton"); }});
   EXPECT_THAT(vorm.log, ElementsAre("in Een", "controle Een", "in OKButton", "klik OKButton",
                                     "klik BackButton"));
 }
 
-TEST_F(FocusTest, EscapeRunsBackWithoutACheck) {
+TEST_F(FocusTest, EscapeGaatTerugZonderControle) {
   vorm.eenGoed = false;
   Voer(vorm, {[&] { Toets(Qt::Key_Escape); }});
   EXPECT_THAT(boxen, IsEmpty());
   EXPECT_THAT(vorm.log, ElementsAre("in Een", "klik BackButton"));
 }
 
-TEST_F(FocusTest, FrameRunsBackWithoutACheck) {
+TEST_F(FocusTest, HetKaderGaatTerugZonderControle) {
   vorm.eenGoed = false;
   Voer(vorm, {[&] { Bovenste().close(); }});
   EXPECT_THAT(boxen, IsEmpty());
   EXPECT_THAT(vorm.log, ElementsAre("in Een", "klik BackButton"));
 }
 
-TEST_F(FocusTest, FrameWithoutAWayBackLeavesTheFormOpen) {
+TEST_F(FocusTest, HetKaderZonderWegTerugLaatHetFormulierOpen) {
   vorm.BackButton.ZetIngeschakeld(false);
   vorm.bijOK = [&] { vorm.Sluit(); };
   Voer(vorm, {[&] {
@@ -124,7 +124,7 @@ TEST_F(FocusTest, FrameWithoutAWayBackLeavesTheFormOpen) {
   EXPECT_TRUE(vorm.Gesloten());
 }
 
-TEST_F(FocusTest, EnterGoesOn) {
+TEST_F(FocusTest, EnterGaatVerder) {
   vorm.Een.ZetEnter(EnterSoort::Door);
   Speel({[&] {
     Toets(Qt::Key_Return);
@@ -132,7 +132,7 @@ TEST_F(FocusTest, EnterGoesOn) {
   }});
 }
 
-TEST_F(FocusTest, EnterChecksAndStays) {
+TEST_F(FocusTest, EnterControleertEnBlijft) {
   vorm.Een.ZetEnter(EnterSoort::Controle);
   Speel({[&] {
     Toets(Qt::Key_Enter, Qt::KeypadModifier);
@@ -141,13 +141,13 @@ TEST_F(FocusTest, EnterChecksAndStays) {
   EXPECT_THAT(vorm.log, ElementsAre("in Een", "controle Een", "klik BackButton"));
 }
 
-TEST_F(FocusTest, EnterPressesOK) {
+TEST_F(FocusTest, EnterDruktOpOK) {
   vorm.Een.ZetEnter(EnterSoort::OK);
   Speel({[&] { Toets(Qt::Key_Return); }});
   EXPECT_THAT(vorm.log, testing::Contains("klik OKButton"));
 }
 
-TEST_F(FocusTest, EnterThatIsHeldCountsOnce) {
+TEST_F(FocusTest, EenVastgehoudenEnterTeltEenKeer) {
   vorm.Een.ZetEnter(EnterSoort::Controle);
   Speel({[&] {
     QKeyEvent herhaald(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
@@ -157,7 +157,7 @@ TEST_F(FocusTest, EnterThatIsHeldCountsOnce) {
   EXPECT_THAT(vorm.log, ElementsAre("in Een", "klik BackButton"));
 }
 
-TEST_F(FocusTest, BlankThatIsHeldPressesOnce) {
+TEST_F(FocusTest, EenVastgehoudenSpatieDruktEenKeer) {
   vorm.ZetEersteVeld(vorm.OKButton);
   Speel({[&] {
     Toets(Qt::Key_Space);
@@ -167,13 +167,13 @@ TEST_F(FocusTest, BlankThatIsHeldPressesOnce) {
   EXPECT_EQ(std::count(vorm.log.begin(), vorm.log.end(), "klik OKButton"), 1);
 }
 
-TEST_F(FocusTest, EnterOnAButtonPressesIt) {
+TEST_F(FocusTest, EnterOpEenKnopDruktHem) {
   vorm.ZetEersteVeld(vorm.OKButton);
   Speel({[&] { Toets(Qt::Key_Return); }, [&] { Toets(Qt::Key_Space); }});
   EXPECT_EQ(std::count(vorm.log.begin(), vorm.log.end(), "klik OKButton"), 2);
 }
 
-TEST_F(FocusTest, TabFollowsTheOrderOfTheForm) {
+TEST_F(FocusTest, TabVolgtDeVolgordeVanHetFormulier) {
   Speel({[&] {
     std::vector<std::string> gang;
     do {
@@ -189,7 +189,7 @@ TEST_F(FocusTest, TabFollowsTheOrderOfTheForm) {
   }});
 }
 
-TEST_F(FocusTest, TabStaysWhenTheCheckFails) {
+TEST_F(FocusTest, TabBlijftAlsDeControleMislukt) {
   vorm.eenGoed = false;
   Speel({[&] {
     Toets(Qt::Key_Tab);
@@ -198,7 +198,7 @@ TEST_F(FocusTest, TabStaysWhenTheCheckFails) {
   EXPECT_THAT(boxen, ElementsAre("Een is fout"));
 }
 
-TEST_F(FocusTest, AcceleratorPressesAButtonBehindTheCheck) {
+TEST_F(FocusTest, EenSneltoetsDruktEenKnopNaDeControle) {
   vorm.eenGoed = false;
   Speel({[&] {
     Toets(Qt::Key_O, Qt::AltModifier);
@@ -208,7 +208,7 @@ TEST_F(FocusTest, AcceleratorPressesAButtonBehindTheCheck) {
   EXPECT_THAT(vorm.log, ElementsAre("in Een", "controle Een", "klik BackButton"));
 }
 
-TEST_F(FocusTest, AcceleratorOfAPromptGoesToItsField) {
+TEST_F(FocusTest, DeSneltoetsVanEenPromptGaatNaarHetVeld) {
   vorm.ZetEersteVeld(vorm.Groot);
   Speel({[&] {
     Toets(Qt::Key_E, Qt::AltModifier);
@@ -217,7 +217,7 @@ TEST_F(FocusTest, AcceleratorOfAPromptGoesToItsField) {
   EXPECT_THAT(vorm.log, ElementsAre("in Groot", "in Een", "klik BackButton"));
 }
 
-TEST_F(FocusTest, FocusFollowsWhatTheFormMoves) {
+TEST_F(FocusTest, DeFocusVolgtHetFormulier) {
   vorm.bijOK = [&] { vorm.ZetFocus(vorm.Pad); };
   Speel({[&] {
     Druk("OKButton");
@@ -225,14 +225,14 @@ TEST_F(FocusTest, FocusFollowsWhatTheFormMoves) {
   }});
 }
 
-TEST_F(FocusTest, FieldThatIsDisabledUnderTheFocusRunsNoCheck) {
+TEST_F(FocusTest, EenVeldDatOnderDeFocusUitgaatWordtNietGecontroleerd) {
   vorm.bijActief = [&] { vorm.ZetFocus(vorm.Een); };
   vorm.Vrij.BijWijziging([&] { vorm.Vrij.ZetIngeschakeld(false); });
   Speel({[&] { Druk("Vrij"); }, [&] { Typ("x"); }, [&] { EXPECT_FALSE(Vind("Vrij").hasFocus()); }});
   EXPECT_EQ(std::count(vorm.log.begin(), vorm.log.end(), "in Groot"), 0);
 }
 
-TEST_F(FocusTest, KeysReachTheFormWhenNothingHasTheFocus) {
+TEST_F(FocusTest, ToetsenKomenBijHetFormulierAlsNietsDeFocusHeeft) {
   vorm.Een.ZetIngeschakeld(false);
   Voer(vorm, {[&] {
          EXPECT_EQ(Focus(), "Proefvorm");
@@ -241,7 +241,7 @@ TEST_F(FocusTest, KeysReachTheFormWhenNothingHasTheFocus) {
   EXPECT_THAT(vorm.log, ElementsAre("klik BackButton"));
 }
 
-TEST_F(FocusTest, KeyThatAControlDoesNotWantComesOnce) {
+TEST_F(FocusTest, EenToetsDieEenVeldNietWilKomtEenKeer) {
   int keer = 0;
   vorm.Een.BijToets([&](ToetsGebeurtenis& toets) {
     if (toets.code == toets::kF8) ++keer;

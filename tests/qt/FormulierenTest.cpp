@@ -49,7 +49,7 @@ class FormulierenTest : public Formulierproef, public testing::WithParamInterfac
   std::optional<Programma> programma_;
 };
 
-TEST_P(FormulierenTest, OpensShowsAllTabsThroughAndCloses) {
+TEST_P(FormulierenTest, GaatOpenToontAllesLooptRondEnSluit) {
   if (GetParam().naam == "BekijkTekst") {
     SchrijfBytes(map_ / "brief.txt", "Geachte familie,\r\n");
     Bestand(map_ / "brief.txt");
@@ -64,7 +64,7 @@ INSTANTIATE_TEST_SUITE_P(Alle, FormulierenTest, testing::ValuesIn(AlleFormuliere
 
 class HoofdschermTest : public FormulierenTest {};
 
-TEST_F(HoofdschermTest, ComesUpWithTheSetThatWasUsedLast) {
+TEST_F(HoofdschermTest, KomtOpMetDeSetVanDeLaatsteKeer) {
   programma_->Hoofd().Ini.IniZet("Systeem", "Set", "ORANJE");
   Voer(programma_->Menu(), {[&] {
          auto& hoofd = dynamic_cast<Hoofdvenster&>(Bovenste());

@@ -21,6 +21,7 @@ void Formulierproef::Bewaar(QWidget& venster, std::string_view naam) {
 
 void Formulierproef::Beproef(Formulier& formulier) {
   ASSERT_TRUE(formulier.Laad());
+  EXPECT_TRUE(GeschrevenIndeling(formulier.Naam())) << "geen indeling in qt/indeling";
   EXPECT_THAT(LayoutFouten(formulier), testing::IsEmpty());
   Binder binder(formulier, gesprek, instellingen_, nullptr);
   binder.Toon();
@@ -67,7 +68,7 @@ void Formulierproef::NietsLigtOverElkaar(const Formulier& formulier) {
 void Formulierproef::SneltoetsenZijnUniek(const Formulier& formulier) {
   std::map<char, std::string> gehad;
   for (const Bediening* een : formulier.Bedieningen()) {
-    const char toets = Sneltoets(een->Bijschrift());
+    const char toets = Sneltoets(een->Prompt().empty() ? een->Bijschrift() : een->Prompt());
     if (!toets || een->Soort() == BedieningSoort::MenuKeuze) continue;
     const auto [ander, nieuw] = gehad.emplace(toets, een->Naam());
     const std::string dubbel = formulier.Naam() + " " + ander->second + " " + een->Naam();

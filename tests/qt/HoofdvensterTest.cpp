@@ -40,7 +40,7 @@ class HoofdvensterTest : public Vensterproef {
   QAction& Actie(const char* naam) { return *Hoofd().Actie(naam); }
 };
 
-TEST_F(HoofdvensterTest, MenusStandAsTheFormTells) {
+TEST_F(HoofdvensterTest, DeMenusStaanZoalsHetFormulierZegt) {
   Voer(vorm, {[&] {
          const auto balk = Hoofd().menuBar()->actions();
          ASSERT_EQ(balk.size(), 2);
@@ -54,12 +54,12 @@ TEST_F(HoofdvensterTest, MenusStandAsTheFormTells) {
   EXPECT_TRUE(vorm.Gesloten());
 }
 
-TEST_F(HoofdvensterTest, EntryRunsItsAction) {
+TEST_F(HoofdvensterTest, EenKeuzeVoertHaarHandelingUit) {
   Voer(vorm, {[&] { Actie("OpenSet").trigger(); }, [&] { Actie("KeuzeAfsluiten").trigger(); }});
   EXPECT_THAT(vorm.log, testing::ElementsAre("open"));
 }
 
-TEST_F(HoofdvensterTest, FlagsStatusAndTitleFollowTheForm) {
+TEST_F(HoofdvensterTest, VlaggenStatusEnTitelVolgenHetFormulier) {
   vorm.Ini.ZetIngeschakeld(false);
   vorm.Gebruiker.ZetZichtbaar(false);
   vorm.Status.ZetTekst("Actieve Bestandenset:");
@@ -80,7 +80,7 @@ TEST_F(HoofdvensterTest, FlagsStatusAndTitleFollowTheForm) {
        }});
 }
 
-TEST_F(HoofdvensterTest, StandsWhereTheFormTellsAndTellsWhereItWasMoved) {
+TEST_F(HoofdvensterTest, StaatWaarHetFormulierZegtEnZegtWaarHetHeenGing) {
   vorm.ZetPositie({120, 80});
   Voer(vorm, {[&] {
          EXPECT_EQ(Bovenste().pos(), QPoint(120, 80));
@@ -93,7 +93,7 @@ TEST_F(HoofdvensterTest, StandsWhereTheFormTellsAndTellsWhereItWasMoved) {
   EXPECT_EQ(vorm.Positie()->y, 150);
 }
 
-TEST_F(HoofdvensterTest, FullSizeIsNoPlaceToComeBackTo) {
+TEST_F(HoofdvensterTest, DeVolleMaatIsGeenPlekOmNaarTerugTeKeren) {
   vorm.ZetPositie({120, 80});
   Voer(vorm, {[&] {
          Bovenste().showMaximized();
@@ -106,7 +106,7 @@ TEST_F(HoofdvensterTest, FullSizeIsNoPlaceToComeBackTo) {
   EXPECT_EQ(vorm.Positie()->y, 80);
 }
 
-TEST_F(HoofdvensterTest, PlaceOutsideTheScreenIsNotTaken) {
+TEST_F(HoofdvensterTest, EenPlekBuitenHetSchermWordtNietGenomen) {
   vorm.ZetPositie({-5000, 9000});
   Voer(vorm, {[&] {
          EXPECT_GT(Bovenste().pos().x(), -1000);
@@ -115,7 +115,7 @@ TEST_F(HoofdvensterTest, PlaceOutsideTheScreenIsNotTaken) {
        }});
 }
 
-TEST_F(HoofdvensterTest, FrameAsksTheForm) {
+TEST_F(HoofdvensterTest, HetKaderVraagtHetHetFormulier) {
   vorm.magSluiten = false;
   Voer(vorm, {[&] {
          Bovenste().close();
@@ -126,7 +126,7 @@ TEST_F(HoofdvensterTest, FrameAsksTheForm) {
   EXPECT_TRUE(vorm.Gesloten());
 }
 
-TEST_F(HoofdvensterTest, AcceleratorOpensAMenu) {
+TEST_F(HoofdvensterTest, EenSneltoetsOpentEenMenu) {
   Voer(vorm, {[&] {
          Toets(Qt::Key_B, Qt::AltModifier);
          EXPECT_TRUE(Actie("MenuBestand").menu()->isVisible());

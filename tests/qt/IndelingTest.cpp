@@ -30,38 +30,38 @@ std::vector<std::string> Namen(const Formulier& vorm, const Blok& blok) {
   return uit;
 }
 
-TEST(Indeling, CompleteLayoutHasNoErrors) {
+TEST(Indeling, EenVolledigeIndelingHeeftGeenFouten) {
   const Klein vorm;
   const Blok blok = Kolom({Velden({"A"}), Tabel({"B(*)"}), indeling::Knoppen({"OKButton"})});
   EXPECT_THAT(LayoutFouten(vorm, blok), IsEmpty());
 }
 
-TEST(Indeling, ForgottenDoubleAndUnknownControlsAreTold) {
+TEST(Indeling, VergetenDubbeleEnOnbekendeBedieningenWordenGenoemd) {
   const Klein vorm;
   EXPECT_THAT(LayoutFouten(vorm, Kolom({"A", "A", "B(1)", "X", "OKButton"})),
               ElementsAre("X bestaat niet", "A staat dubbel", "B(2) ontbreekt"));
 }
 
-TEST(Indeling, FormWithoutALayoutHasNoErrors) {
+TEST(Indeling, EenFormulierZonderIndelingHeeftGeenFouten) {
   const Klein vorm;
   EXPECT_FALSE(GeschrevenIndeling("Klein"));
   EXPECT_THAT(LayoutFouten(vorm), IsEmpty());
 }
 
-TEST(Indeling, WhatIsForgottenIsAddedBeforeTheButtons) {
+TEST(Indeling, WatVergetenIsKomtVoorDeKnoppenErbij) {
   const Klein vorm;
   const Blok blok = Aangevuld(vorm, Kolom({"X", Velden({"A", "A"}), indeling::Knoppen({})}));
   EXPECT_THAT(Namen(vorm, blok), ElementsAre("A", "B(1)", "B(2)", "OKButton"));
   EXPECT_EQ(blok.delen.back().soort, Blok::Soort::Knoppen);
 }
 
-TEST(Indeling, WhatIsForgottenIsAddedToALayoutWithoutButtons) {
+TEST(Indeling, WatVergetenIsKomtErOokZonderKnoppenBij) {
   const Klein vorm;
   EXPECT_THAT(Namen(vorm, Aangevuld(vorm, Velden({"A"}))),
               ElementsAre("A", "B(1)", "B(2)", "OKButton"));
 }
 
-TEST(Indeling, AutomaticLayoutTakesRowsWithTheSameNumbersTogether) {
+TEST(Indeling, RijenMetDezelfdeNummersKomenVanzelfBijElkaar) {
   QtGesprek gesprek;
   const Proefvorm vorm(gesprek);
   const Blok blok = IndelingVoor(vorm);
@@ -73,7 +73,7 @@ TEST(Indeling, AutomaticLayoutTakesRowsWithTheSameNumbersTogether) {
   EXPECT_EQ(tabel->delen.size(), 2U);
 }
 
-TEST(Indeling, AutomaticLayoutSetsALabelBeforeItsValue) {
+TEST(Indeling, EenLabelKomtVanzelfVoorZijnWaarde) {
   class Waarden final : public Formulier {
    public:
     Waarden() : Formulier("Waarden", "Waarden") {}
@@ -89,7 +89,7 @@ TEST(Indeling, AutomaticLayoutSetsALabelBeforeItsValue) {
   EXPECT_THAT(LayoutFouten(vorm, blok), IsEmpty());
 }
 
-TEST(Indeling, NoFormHasTwoLayouts) {
+TEST(Indeling, GeenFormulierHeeftTweeIndelingen) {
   std::vector<std::string> namen;
   for (const lb77::Indeling& een : Alle()) namen.push_back(een.formulier);
   std::sort(namen.begin(), namen.end());
@@ -98,7 +98,7 @@ TEST(Indeling, NoFormHasTwoLayouts) {
 
 class GroteVorm : public Vensterproef {};
 
-TEST_F(GroteVorm, FormLargerThanTheScreenScrolls) {
+TEST_F(GroteVorm, EenFormulierGroterDanHetSchermRolt) {
   class Groot final : public Formulier {
    public:
     Groot() : Formulier("Groot", "Groot") {}

@@ -33,28 +33,28 @@ class InvoerTest : public Vensterproef {
   }
 };
 
-TEST_F(InvoerTest, TypedTextReachesTheForm) {
+TEST_F(InvoerTest, GetypteTekstKomtBijHetFormulier) {
   In(vorm.Vrij, [&] { QTest::keyClicks(&Vind("Vrij"), "Jan de Wit"); });
   EXPECT_EQ(vorm.Vrij.Tekst(), "Jan de Wit");
   EXPECT_TRUE(vorm.Gewijzigd());
 }
 
-TEST_F(InvoerTest, DigitFilterDropsLetters) {
+TEST_F(InvoerTest, HetCijferfilterLaatLettersVallen) {
   In(vorm.Cijfers, [&] { Typ("1a2b"); });
   EXPECT_EQ(vorm.Cijfers.Tekst(), "12");
 }
 
-TEST_F(InvoerTest, CapitalsFilterCoversAccents) {
+TEST_F(InvoerTest, HetHoofdletterfilterKentAccenten) {
   In(vorm.Groot, [&] { Typ("née"); });
   EXPECT_EQ(vorm.Groot.Tekst(), "NÉE"_w);
 }
 
-TEST_F(InvoerTest, MaximumCountsCharacters) {
+TEST_F(InvoerTest, DeMaximumlengteTeltTekens) {
   In(vorm.Een, [&] { Typ("ëëëëëëëëëëëë"); });
   EXPECT_EQ(vorm.Een.Tekst(), "ëëëëëëëëëë"_w);
 }
 
-TEST_F(InvoerTest, FullFieldTakesACharacterOverASelection) {
+TEST_F(InvoerTest, EenVolVeldNeemtEenTekenOverDeKeuzeHeen) {
   vorm.Een.ZetTekst("tienletter");
   In(vorm.Een, [&] {
     Vind<QLineEdit>("Een").setSelection(0, 4);
@@ -63,19 +63,19 @@ TEST_F(InvoerTest, FullFieldTakesACharacterOverASelection) {
   EXPECT_EQ(vorm.Een.Tekst(), "10letter");
 }
 
-TEST_F(InvoerTest, CharacterWithoutEquivalentIsTransliterated) {
+TEST_F(InvoerTest, EenTekenZonderGelijkeWordtOmgezet) {
   In(vorm.Vrij, [&] { Typ("Dvořák"); });
   EXPECT_EQ(vorm.Vrij.Tekst(), "Dvorák"_w);
   EXPECT_THAT(boxen, IsEmpty());
 }
 
-TEST_F(InvoerTest, CharacterThatCannotBeWrittenIsRefusedWithAMessage) {
+TEST_F(InvoerTest, EenTekenDatNietKanWordtMetEenMeldingGeweigerd) {
   In(vorm.Vrij, [&] { Typ("a漢b"); });
   EXPECT_EQ(vorm.Vrij.Tekst(), "ab");
   EXPECT_THAT(boxen, ElementsAre(kGeweigerd));
 }
 
-TEST_F(InvoerTest, PastedTextGoesTheSameWayWithOneMessage) {
+TEST_F(InvoerTest, GeplakteTekstGaatDezelfdeWegMetEenMelding) {
   In(vorm.Vrij, [&] {
     Plak("漢字 ř\n€");
     EXPECT_EQ(Vind<QLineEdit>("Vrij").text(), QString::fromUtf8(" r €"));
@@ -84,12 +84,12 @@ TEST_F(InvoerTest, PastedTextGoesTheSameWayWithOneMessage) {
   EXPECT_THAT(boxen, ElementsAre(kGeweigerd));
 }
 
-TEST_F(InvoerTest, PastedTextIsFilteredAndCut) {
+TEST_F(InvoerTest, GeplakteTekstWordtGefilterdEnAfgekapt) {
   In(vorm.Cijfers, [&] { Plak("a1b2c3d4e5"); });
   EXPECT_EQ(vorm.Cijfers.Tekst(), "1234");
 }
 
-TEST_F(InvoerTest, PastingLeavesWhatStoodThereAlone) {
+TEST_F(InvoerTest, PlakkenLaatStaanWatErStond) {
   vorm.Cijfers.ZetTekst("N");
   In(vorm.Cijfers, [&] {
     Vind<QLineEdit>("Cijfers").end(false);
@@ -98,7 +98,7 @@ TEST_F(InvoerTest, PastingLeavesWhatStoodThereAlone) {
   EXPECT_EQ(vorm.Cijfers.Tekst(), "N7");
 }
 
-TEST_F(InvoerTest, InputMethodGoesTheSameWay) {
+TEST_F(InvoerTest, EenInvoermethodeGaatDezelfdeWeg) {
   In(vorm.Groot, [&] {
     QInputMethodEvent invoer;
     invoer.setCommitString(QString::fromUtf8("é"));
@@ -107,7 +107,7 @@ TEST_F(InvoerTest, InputMethodGoesTheSameWay) {
   EXPECT_EQ(vorm.Groot.Tekst(), "É"_w);
 }
 
-TEST_F(InvoerTest, UndoReachesTheForm) {
+TEST_F(InvoerTest, OngedaanMakenKomtBijHetFormulier) {
   In(vorm.Vrij, [&] {
     Plak("abc");
     Toets(Qt::Key_Z, Qt::ControlModifier);
@@ -115,7 +115,7 @@ TEST_F(InvoerTest, UndoReachesTheForm) {
   EXPECT_EQ(vorm.Vrij.Tekst(), "");
 }
 
-TEST_F(InvoerTest, BackspaceReachesTheForm) {
+TEST_F(InvoerTest, BackspaceKomtBijHetFormulier) {
   vorm.Vrij.ZetTekst("abc");
   In(vorm.Vrij, [&] {
     Vind<QLineEdit>("Vrij").end(false);
@@ -124,7 +124,7 @@ TEST_F(InvoerTest, BackspaceReachesTheForm) {
   EXPECT_EQ(vorm.Vrij.Tekst(), "ab");
 }
 
-TEST_F(InvoerTest, MultiLineTextTakesEnterAsALineEnd) {
+TEST_F(InvoerTest, TekstVanMeerRegelsNeemtEnterAlsRegeleinde) {
   In(vorm.Blok, [&] {
     Typ("een");
     Toets(Qt::Key_Return);
@@ -133,24 +133,24 @@ TEST_F(InvoerTest, MultiLineTextTakesEnterAsALineEnd) {
   EXPECT_EQ(vorm.Blok.Tekst(), "een\ntwee");
 }
 
-TEST_F(InvoerTest, MultiLineTextIsCutWhenPasted) {
+TEST_F(InvoerTest, TekstVanMeerRegelsWordtBijPlakkenAfgekapt) {
   In(vorm.Blok, [&] { Plak("1234567890\n1234567890"); });
   EXPECT_EQ(vorm.Blok.Tekst(), "1234567890\n123456789");
 }
 
-TEST_F(InvoerTest, MultiLineTextRefusesWhatCannotBeWritten) {
+TEST_F(InvoerTest, TekstVanMeerRegelsWeigertWatNietKan) {
   In(vorm.Blok, [&] { Plak("a漢b"); });
   EXPECT_EQ(vorm.Blok.Tekst(), "ab");
   EXPECT_THAT(boxen, ElementsAre(kGeweigerd));
 }
 
-TEST_F(InvoerTest, KeyThatAHandlerTakesIsNotTyped) {
+TEST_F(InvoerTest, EenToetsDieWordtAfgehandeldWordtNietGetypt) {
   vorm.Vrij.BijToets([](ToetsGebeurtenis& toets) { toets.verwerkt = toets.teken == 'x'; });
   In(vorm.Vrij, [&] { Typ("axb"); });
   EXPECT_EQ(vorm.Vrij.Tekst(), "ab");
 }
 
-TEST_F(InvoerTest, TextThatAHandlerWritesWhileTypingIsShown) {
+TEST_F(InvoerTest, TekstDieTijdensHetTypenWordtGezetIsTeZien) {
   vorm.Vrij.BijToets([&](ToetsGebeurtenis& toets) {
     if (toets.code == toets::kF9) vorm.Vrij.ZetTekst("");
   });
@@ -163,7 +163,7 @@ TEST_F(InvoerTest, TextThatAHandlerWritesWhileTypingIsShown) {
   EXPECT_EQ(vorm.Vrij.Tekst(), "d");
 }
 
-TEST(WatIsNieuw, FindsThePieceThatAnEditPutIn) {
+TEST(WatIsNieuw, VindtHetStukDatErbijKwam) {
   EXPECT_EQ(WatIsNieuw("abc", "abXYc").van, 2);
   EXPECT_EQ(WatIsNieuw("abc", "abXYc").lengte, 2);
   EXPECT_EQ(WatIsNieuw("abc", "ac").lengte, 0);

@@ -42,12 +42,12 @@ class QtGesprekTest : public Vensterproef {
   }
 };
 
-TEST_F(QtGesprekTest, BoxWithOneButtonAnswersOK) {
+TEST_F(QtGesprekTest, EenMeldingMetEenKnopAntwoordtOK) {
   EXPECT_EQ(gesprek.Bericht(BerichtSoort::Info, Knoppen::OK, "geëxporteerd"_w), lb77::Antwoord::OK);
   EXPECT_THAT(boxen, ElementsAre("geëxporteerd"));
 }
 
-TEST_F(QtGesprekTest, ChoiceGivesTheButtonThatWasPressed) {
+TEST_F(QtGesprekTest, EenKeuzeGeeftDeGedrukteKnop) {
   EXPECT_EQ(Vraag(Knoppen::JaNee, "Ja"), lb77::Antwoord::Ja);
   EXPECT_EQ(Vraag(Knoppen::JaNee, "Nee"), lb77::Antwoord::Nee);
   EXPECT_EQ(Vraag(Knoppen::OKAnnuleren, "OK"), lb77::Antwoord::OK);
@@ -56,14 +56,14 @@ TEST_F(QtGesprekTest, ChoiceGivesTheButtonThatWasPressed) {
   EXPECT_EQ(Vraag(Knoppen::JaNeeAnnuleren, "Annuleren"), lb77::Antwoord::Annuleren);
 }
 
-TEST_F(QtGesprekTest, ClosingABoxIsItsCancelOrNo) {
+TEST_F(QtGesprekTest, EenMeldingSluitenIsAnnulerenOfNee) {
   EXPECT_EQ(SluitBox(BerichtSoort::Info, Knoppen::OK), lb77::Antwoord::OK);
   EXPECT_EQ(SluitBox(BerichtSoort::Vraag, Knoppen::JaNee), lb77::Antwoord::Nee);
   EXPECT_EQ(SluitBox(BerichtSoort::Vraag, Knoppen::OKAnnuleren), lb77::Antwoord::Annuleren);
   EXPECT_EQ(SluitBox(BerichtSoort::Vraag, Knoppen::JaNeeAnnuleren), lb77::Antwoord::Annuleren);
 }
 
-TEST_F(QtGesprekTest, EachKindOfBoxHasItsSymbol) {
+TEST_F(QtGesprekTest, ElkeSoortMeldingHeeftHaarTeken) {
   const std::pair<BerichtSoort, QMessageBox::Icon> soorten[] = {
       {BerichtSoort::Geen, QMessageBox::NoIcon},     {BerichtSoort::Info, QMessageBox::Information},
       {BerichtSoort::Uitroep, QMessageBox::Warning}, {BerichtSoort::Vraag, QMessageBox::Question},
@@ -75,12 +75,12 @@ TEST_F(QtGesprekTest, EachKindOfBoxHasItsSymbol) {
   }
 }
 
-TEST_F(QtGesprekTest, BoxShowsMarkupAsItStands) {
+TEST_F(QtGesprekTest, EenMeldingToontOpmaakZoalsDieErStaat) {
   SluitBox(BerichtSoort::Info, Knoppen::OK,
            [](QMessageBox& box) { EXPECT_EQ(box.textFormat(), Qt::PlainText); });
 }
 
-TEST_F(QtGesprekTest, EnterThatIsStillHeldDoesNotAnswerABox) {
+TEST_F(QtGesprekTest, EenEnterDieNogIngedruktIsBeantwoordtGeenMelding) {
   SluitBox(BerichtSoort::Vraag, Knoppen::JaNee, [](QMessageBox& box) {
     QKeyEvent herhaald(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
     QApplication::sendEvent(box.defaultButton(), &herhaald);
@@ -88,7 +88,7 @@ TEST_F(QtGesprekTest, EnterThatIsStillHeldDoesNotAnswerABox) {
   });
 }
 
-TEST_F(QtGesprekTest, BoxWithATickTellsWhetherItWasTicked) {
+TEST_F(QtGesprekTest, EenMeldingMetEenVinkjeZegtOfHetAanStond) {
   EXPECT_FALSE(gesprek.BerichtMetVinkje("melding", "Niet meer tonen tijdens deze import"));
   bijBox = [](QMessageBox& box) {
     ASSERT_TRUE(box.checkBox());
@@ -98,7 +98,7 @@ TEST_F(QtGesprekTest, BoxWithATickTellsWhetherItWasTicked) {
   EXPECT_TRUE(gesprek.BerichtMetVinkje("melding", "Niet meer tonen"));
 }
 
-TEST_F(QtGesprekTest, FormThatClosesWhileItLoadsIsNeverShown) {
+TEST_F(QtGesprekTest, EenFormulierDatBijHetLadenSluitIsNooitTeZien) {
   class Kort final : public Formulier {
    public:
     Kort() : Formulier("Kort", "Kort") {}
@@ -110,7 +110,7 @@ TEST_F(QtGesprekTest, FormThatClosesWhileItLoadsIsNeverShown) {
   EXPECT_FALSE(QApplication::activeModalWidget());
 }
 
-TEST_F(QtGesprekTest, FormIsInViewWhenItBecomesActive) {
+TEST_F(QtGesprekTest, EenFormulierIsInBeeldAlsHetActiefWordt) {
   vorm.bijActief = [&] {
     EXPECT_TRUE(Bovenste().isVisible());
     EXPECT_EQ(Bovenste().objectName(), QString("Proefvorm"));
@@ -121,7 +121,7 @@ TEST_F(QtGesprekTest, FormIsInViewWhenItBecomesActive) {
   EXPECT_FALSE(QApplication::activeModalWidget());
 }
 
-TEST_F(QtGesprekTest, HandlerGoesOnWhereItStoodAfterANestedForm) {
+TEST_F(QtGesprekTest, EenAfhandelingGaatNaEenGenestFormulierVerderWaarZijWas) {
   Proefvorm binnen(gesprek, "Binnen");
   vorm.bijOK = [&] {
     vorm.Stand.ZetTekst("voor");
@@ -139,7 +139,7 @@ TEST_F(QtGesprekTest, HandlerGoesOnWhereItStoodAfterANestedForm) {
   EXPECT_THAT(binnen.log, ElementsAre("in Een", "klik BackButton"));
 }
 
-TEST_F(QtGesprekTest, HiddenFormStaysHiddenUnderTheNext) {
+TEST_F(QtGesprekTest, EenVerborgenFormulierBlijftVerborgenOnderHetVolgende) {
   Proefvorm binnen(gesprek, "Binnen");
   QWidget* onder = nullptr;
   vorm.bijOK = [&] {
@@ -195,7 +195,7 @@ TEST_F(QtGesprekTest, AlleenHetBovensteFormulierWordtBijgewerkt) {
               [&] { Druk("BackButton"); }});
 }
 
-TEST_F(QtGesprekTest, FormThatStaysHiddenCountsAsClosed) {
+TEST_F(QtGesprekTest, EenFormulierDatVerborgenBlijftTeltAlsGesloten) {
   vorm.bijOK = [&] { vorm.Verberg(); };
   Voer(vorm, {[&] { Druk("OKButton"); }});
   EXPECT_FALSE(vorm.Gesloten());
@@ -206,7 +206,7 @@ TEST_F(QtGesprekTest, FormThatStaysHiddenCountsAsClosed) {
               testing::ElementsAre("in Een", "controle Een", "in OKButton", "klik OKButton"));
 }
 
-TEST_F(QtGesprekTest, InputUnderARunningHandlerIsDropped) {
+TEST_F(QtGesprekTest, InvoerOnderEenLopendeAfhandelingVervalt) {
   vorm.bijOK = [&] {
     QWidget* venster = &Bovenste();
     QTimer::singleShot(0, qApp,
@@ -217,7 +217,7 @@ TEST_F(QtGesprekTest, InputUnderARunningHandlerIsDropped) {
   EXPECT_FALSE(vorm.Vink.Gekozen());
 }
 
-TEST_F(QtGesprekTest, EscapeDuringWorkIsAStopRequest) {
+TEST_F(QtGesprekTest, EscapeTijdensHetWerkVraagtOmStoppen) {
   int rondes = 0;
   vorm.bijActief = [&] {
     QTimer::singleShot(20, qApp, [&] { Toets(Qt::Key_Escape); });
@@ -230,7 +230,7 @@ TEST_F(QtGesprekTest, EscapeDuringWorkIsAStopRequest) {
   EXPECT_GT(rondes, 0);
 }
 
-TEST_F(QtGesprekTest, BackButtonAndFrameDuringWorkAreStopRequests) {
+TEST_F(QtGesprekTest, TerugknopEnKaderVragenTijdensHetWerkOmStoppen) {
   for (const bool kader : {false, true}) {
     Proefvorm werk(gesprek);
     werk.bijActief = [&] {
@@ -250,7 +250,7 @@ TEST_F(QtGesprekTest, BackButtonAndFrameDuringWorkAreStopRequests) {
   }
 }
 
-TEST_F(QtGesprekTest, OtherInputDuringWorkIsDropped) {
+TEST_F(QtGesprekTest, AndereInvoerTijdensHetWerkVervalt) {
   vorm.bijActief = [&] {
     bool klaar = false;
     QTimer::singleShot(0, qApp, [&] {
@@ -270,7 +270,7 @@ TEST_F(QtGesprekTest, OtherInputDuringWorkIsDropped) {
   EXPECT_FALSE(vorm.StopVerzocht());
 }
 
-TEST_F(QtGesprekTest, RepaintShowsTheCounterAndTheBusyCursor) {
+TEST_F(QtGesprekTest, VerversenToontDeTellerEnDeWachtwijzer) {
   vorm.bijActief = [&] {
     vorm.ZetBezig(true);
     vorm.Stand.ZetTekst("17");
@@ -282,7 +282,7 @@ TEST_F(QtGesprekTest, RepaintShowsTheCounterAndTheBusyCursor) {
   gesprek.ToonModaal(vorm);
 }
 
-TEST_F(QtGesprekTest, RepaintIsCheapEnoughForEveryRecord) {
+TEST_F(QtGesprekTest, VerversenIsGoedkoopGenoegVoorElkRecord) {
   vorm.bijActief = [&] {
     QElapsedTimer tijd;
     tijd.start();
@@ -293,13 +293,13 @@ TEST_F(QtGesprekTest, RepaintIsCheapEnoughForEveryRecord) {
   gesprek.ToonModaal(vorm);
 }
 
-TEST_F(QtGesprekTest, ErrorInAHandlerLeavesFromToonModaal) {
+TEST_F(QtGesprekTest, EenUitzonderingInEenAfhandelingKomtUitToonModaal) {
   vorm.bijOK = [] { throw std::runtime_error("stuk"); };
   EXPECT_THROW(Voer(vorm, {[&] { Druk("OKButton"); }}), std::runtime_error);
   EXPECT_FALSE(QApplication::activeModalWidget());
 }
 
-TEST_F(QtGesprekTest, ErrorInANestedFormClosesBoth) {
+TEST_F(QtGesprekTest, EenUitzonderingInEenGenestFormulierSluitBeide) {
   Proefvorm binnen(gesprek, "Binnen");
   binnen.bijActief = [] { throw std::runtime_error("stuk"); };
   vorm.bijOK = [&] { gesprek.ToonModaal(binnen); };

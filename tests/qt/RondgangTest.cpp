@@ -74,7 +74,7 @@ class RondgangTest : public Formulierproef {
   VasteKlok klok_{{2026, 1, 2, 3, 4, 5}};
 };
 
-TEST_F(RondgangTest, NewSetImportAndKwartierstaat) {
+TEST_F(RondgangTest, NieuweSetImportEnKwartierstaat) {
   std::vector<Piloot::Stap> stappen = MaakSet();
   for (auto& deel : {Importeer(), Kwartierstaat()}) {
     stappen.insert(stappen.end(), deel.begin(), deel.end());

@@ -14,7 +14,7 @@ class StartVensterTest : public Vensterproef {
   static std::filesystem::path Map() { return {}; }
 };
 
-TEST_F(StartVensterTest, ProgramThatEndsGivesNought) {
+TEST_F(StartVensterTest, EenProgrammaDatEindigtGeeftNul) {
   std::filesystem::path gekregen;
   const int status = VoerMetVangnet({.map = [] { return std::filesystem::path("ergens"); },
                                      .voer =
@@ -27,7 +27,7 @@ TEST_F(StartVensterTest, ProgramThatEndsGivesNought) {
   EXPECT_THAT(boxen, testing::ElementsAre("begin"));
 }
 
-TEST_F(StartVensterTest, ErrorThatNobodyCaughtIsToldAndGivesOne) {
+TEST_F(StartVensterTest, EenUitzonderingDieNiemandVingWordtGemeldEnGeeftEen) {
   EXPECT_EQ(VoerMetVangnet({.map = Map,
                             .voer =
                                 [](Gesprek&, const std::filesystem::path&) {
@@ -43,7 +43,7 @@ TEST_F(StartVensterTest, ErrorThatNobodyCaughtIsToldAndGivesOne) {
                                           "wordt beëindigd.\n(onbekende fout)"));
 }
 
-TEST_F(StartVensterTest, ErrorBeforeTheFirstWindowIsToldAsWell) {
+TEST_F(StartVensterTest, EenUitzonderingVoorHetEersteVensterWordtOokGemeld) {
   EXPECT_EQ(VoerMetVangnet(
                 {.map = []() -> std::filesystem::path { throw std::runtime_error("geen map"); },
                  .voer = [](Gesprek&, const std::filesystem::path&) { FAIL(); }}),

@@ -17,28 +17,28 @@
 namespace lb77 {
 namespace {
 
-TEST(Stijl, LettersAreLargeEnoughForOlderEyes) {
+TEST(Stijl, LettersZijnGrootGenoegVoorOudereOgen) {
   EXPECT_GE(QApplication::font().pointSizeF(), 11.0);
 }
 
-TEST(Stijl, FixedPitchLetterIsThereWhateverTheSystemHas) {
+TEST(Stijl, DeVasteLetterIsErWatHetSysteemOokHeeft) {
   EXPECT_TRUE(QFontInfo(VasteLetter(11)).fixedPitch());
   EXPECT_DOUBLE_EQ(VasteLetter(13).pointSizeF(), 13.0);
 }
 
-TEST(Stijl, DisabledTextCanStillBeRead) {
+TEST(Stijl, UitgeschakeldeTekstIsNogTeLezen) {
   const QPalette kleuren = QApplication::palette();
   const int grond = kleuren.color(QPalette::Window).lightness();
   const int grijs = kleuren.color(QPalette::Disabled, QPalette::WindowText).lightness();
   EXPECT_GE(std::abs(grond - grijs), 100);
 }
 
-TEST(Stijl, ButtonsOfBoxesStandInTheSameOrderEverywhere) {
+TEST(Stijl, KnoppenVanMeldingenStaanOveralInDezelfdeVolgorde) {
   EXPECT_EQ(QApplication::style()->styleHint(QStyle::SH_DialogButtonLayout),
             QDialogButtonBox::WinLayout);
 }
 
-TEST(Stijl, ReadOnlyFieldLiesInTheColourOfItsWindow) {
+TEST(Stijl, EenVeldOmTeLezenHeeftDeKleurVanZijnVenster) {
   QLineEdit veld;
   const QColor wit = veld.palette().color(QPalette::Base);
   ToonAlleenLezen(veld, true);
@@ -47,7 +47,7 @@ TEST(Stijl, ReadOnlyFieldLiesInTheColourOfItsWindow) {
   EXPECT_EQ(veld.palette().color(QPalette::Base), wit);
 }
 
-TEST(Woorden, ContextMenuOfAFieldIsDutch) {
+TEST(Woorden, HetMenuVanEenVeldIsNederlands) {
   QLineEdit veld;
   const std::unique_ptr<QMenu> menu(veld.createStandardContextMenu());
   QStringList teksten;
@@ -58,12 +58,12 @@ TEST(Woorden, ContextMenuOfAFieldIsDutch) {
   }
 }
 
-TEST(Woorden, UnknownTextStaysAsItIs) {
+TEST(Woorden, OnbekendeTekstBlijftZoalsHijIs) {
   EXPECT_TRUE(Woorden().translate("QX", "Something else", nullptr, -1).isNull());
   EXPECT_EQ(QApplication::translate("QX", "Something else"), QString("Something else"));
 }
 
-TEST(Vertaling, EveryByteComesBackAsItself) {
+TEST(Vertaling, ElkeByteKomtAlsZichzelfTerug) {
   std::string alle;
   for (int i = 1; i < 256; ++i) alle += static_cast<char>(i);
   const Overgezet terug = VanQt(NaarQt(alle));
@@ -71,16 +71,16 @@ TEST(Vertaling, EveryByteComesBackAsItself) {
   EXPECT_FALSE(terug.geweigerd);
 }
 
-TEST(Vertaling, AccentsBehindTheirLetterAreJoinedToIt) {
+TEST(Vertaling, AccentenAchterHunLetterWordenErmeeVerenigd) {
   EXPECT_EQ(VanQt(QString::fromUtf8("e\u0308")).tekst, "ë"_w);
 }
 
-TEST(Vertaling, PathsComeBackAsThemselves) {
+TEST(Vertaling, PadenKomenAlsZichzelfTerug) {
   const std::filesystem::path pad(u8"/tmp/Łódź/漢");
   EXPECT_EQ(PadVanQt(PadNaarQt(pad)), pad);
 }
 
-TEST(Vertaling, PathWithABadNameIsShownAllTheSame) {
+TEST(Vertaling, EenPadMetEenFouteNaamIsTochTeZien) {
   EXPECT_FALSE(PadNaarQt(std::filesystem::path("/tmp/\xFF\xFE")).isEmpty());
 }
 

@@ -53,7 +53,7 @@ const std::array kGevallen = {
     Geval{Qt::Key_unknown, Qt::NoModifier, "漢", 0, 0, false},
 };
 
-TEST(Toetsen, EachKeyHasTheCodeThatTheFormsKnow) {
+TEST(Toetsen, ElkeToetsHeeftDeCodeDieDeFormulierenKennen) {
   for (const Geval& geval : kGevallen) {
     const auto toets = NaarToets(Druk(geval.qt, geval.met, geval.tekst));
     ASSERT_TRUE(toets) << geval.qt;
@@ -63,14 +63,14 @@ TEST(Toetsen, EachKeyHasTheCodeThatTheFormsKnow) {
   }
 }
 
-TEST(Toetsen, CombinationsAndModifiersAreNoBusinessOfAForm) {
+TEST(Toetsen, CombinatiesGaanEenFormulierNietAan) {
   EXPECT_FALSE(NaarToets(Druk(Qt::Key_C, Qt::ControlModifier, "\x03")));
   EXPECT_FALSE(NaarToets(Druk(Qt::Key_O, Qt::AltModifier, "o")));
   EXPECT_FALSE(NaarToets(Druk(Qt::Key_Shift, Qt::ShiftModifier)));
   EXPECT_FALSE(NaarToets(Druk(Qt::Key_F4, Qt::AltModifier)));
 }
 
-TEST(Toetsen, HeldEnterEscapeAndFunctionKeysCountOnceHeldLettersRepeat) {
+TEST(Toetsen, VastgehoudenEnterTeltEenKeerEnLettersHerhalen) {
   EXPECT_FALSE(NaarToets(Druk(Qt::Key_Return, Qt::NoModifier, "\r", true)));
   EXPECT_FALSE(NaarToets(Druk(Qt::Key_Escape, Qt::NoModifier, "", true)));
   EXPECT_FALSE(NaarToets(Druk(Qt::Key_F10, Qt::NoModifier, "", true)));
@@ -78,7 +78,7 @@ TEST(Toetsen, HeldEnterEscapeAndFunctionKeysCountOnceHeldLettersRepeat) {
   EXPECT_TRUE(NaarToets(Druk(Qt::Key_A, Qt::NoModifier, "a", true)));
 }
 
-TEST(Toetsen, TypedTextIsWhatCanBeRead) {
+TEST(Toetsen, GetypteTekstIsWatTeLezenIs) {
   EXPECT_EQ(GetypteTekst(Druk(Qt::Key_A, Qt::NoModifier, "a")), QString("a"));
   EXPECT_EQ(GetypteTekst(Druk(Qt::Key_Return, Qt::NoModifier, "\r")), QString());
   EXPECT_EQ(GetypteTekst(Druk(Qt::Key_Backspace, Qt::NoModifier, "\b")), QString());

@@ -93,26 +93,26 @@ class TweelingTest : public Vensterproef {
   }
 };
 
-TEST_F(TweelingTest, CheckThatAsksAndMovesTheFocusOn) {
+TEST_F(TweelingTest, EenControleDieVraagtEnDeFocusVerzet) {
   EXPECT_THAT(Speel("antwoord Ja\ntyp RecordNrMan 2\ntoets Tab\ntoets Tab\nsluit"),
               ElementsAre("in RecordNrMan \"\"", "controle RecordNrMan",
                           "Opgegeven Persoon is een Vrouw. Doorgaan ? ja", "in RecordNrVrouw",
                           "in OtrDatum", "terug"));
 }
 
-TEST_F(TweelingTest, NoKeepsTheFocusAndSwallowsTheClick) {
+TEST_F(TweelingTest, NeeHoudtDeFocusEnSliktDeKlikIn) {
   EXPECT_THAT(Speel("antwoord Nee\ntyp RecordNrMan 2\ndruk Opslaan\ndruk BackButton"),
               ElementsAre("in RecordNrMan \"\"", "controle RecordNrMan",
                           "Opgegeven Persoon is een Vrouw. Doorgaan ? nee", "terug"));
 }
 
-TEST_F(TweelingTest, RefusalIsNotAcceptedTheSecondTime) {
+TEST_F(TweelingTest, EenWeigeringWordtDeTweedeKeerNietAangenomen) {
   EXPECT_THAT(Speel("typ RecordNrMan 9\ndruk Opslaan\ntoets Tab\ntoets F10"),
               ElementsAre("in RecordNrMan \"\"", "controle RecordNrMan", "Onbekend nummer",
                           "controle RecordNrMan", "Onbekend nummer", "terug"));
 }
 
-TEST_F(TweelingTest, YesLetsTheClickThroughAndTheSaveMoveTheFocus) {
+TEST_F(TweelingTest, JaLaatDeKlikDoorEnHetOpslaanDeFocusVerzetten) {
   EXPECT_THAT(Speel("typ OtrDatum 2\nantwoord Ja Ja Nee\ntyp RecordNrMan 2\ndruk Opslaan\n"
                     "toets Tab\ntoets F9"),
               ElementsAre("in RecordNrMan \"\"", "controle RecordNrMan", "in OtrDatum",
@@ -122,7 +122,7 @@ TEST_F(TweelingTest, YesLetsTheClickThroughAndTheSaveMoveTheFocus) {
                           "in Opslaan", "opslaan", "Corrigeren ? nee", "geschreven"));
 }
 
-TEST_F(TweelingTest, DoubleClickOnALabelLeavesTheField) {
+TEST_F(TweelingTest, EenDubbelklikOpEenLabelVerlaatHetVeld) {
   EXPECT_THAT(Speel("typ RecordNrMan 9\ndubbelklik HuwLabel\ntyp RecordNrMan 1\n"
                     "dubbelklik HuwLabel\ndubbelklik HuwLabel\ntoets F10"),
               ElementsAre("in RecordNrMan \"\"", "controle RecordNrMan", "Onbekend nummer",
@@ -130,7 +130,7 @@ TEST_F(TweelingTest, DoubleClickOnALabelLeavesTheField) {
                           "dubbelklik Huwelijk", "terug"));
 }
 
-TEST_F(TweelingTest, HiddenFieldIsSteppedOver) {
+TEST_F(TweelingTest, EenVerborgenVeldWordtOvergeslagen) {
   EXPECT_THAT(Speel("typ HuwCorr t\ntoets Enter\ntoets Down\ntoets Shift+Tab\ntoets Shift+Tab\n"
                     "typ HuwCorr c\ntoets Tab\ntoets Escape"),
               ElementsAre("in RecordNrMan \"\"", "controle RecordNrMan", "in HuwCorr",

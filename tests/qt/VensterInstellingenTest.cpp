@@ -12,7 +12,7 @@
 namespace lb77 {
 namespace {
 
-TEST(VensterInstellingen, SizesAndDirectoriesComeBack) {
+TEST(VensterInstellingen, MatenEnMappenKomenTerug) {
   const QTemporaryDir map;
   {
     VensterInstellingen instellingen(PadVanQt(map.path()));
@@ -26,7 +26,7 @@ TEST(VensterInstellingen, SizesAndDirectoriesComeBack) {
   EXPECT_EQ(later.LaatsteMap("a|*.a"), QString("/ergens"));
 }
 
-TEST(VensterInstellingen, WithoutADirectoryNothingIsKept) {
+TEST(VensterInstellingen, ZonderMapWordtNietsBewaard) {
   VensterInstellingen instellingen({});
   instellingen.BewaarMaat("ToonTekst", {800, 600});
   instellingen.BewaarLaatsteMap("a", "/ergens");
@@ -34,7 +34,7 @@ TEST(VensterInstellingen, WithoutADirectoryNothingIsKept) {
   EXPECT_EQ(instellingen.LaatsteMap("a"), QString());
 }
 
-TEST(VensterInstellingen, DamagedFileCostsARememberedSizeAndNoMore) {
+TEST(VensterInstellingen, EenBeschadigdBestandKostAlleenEenOnthoudenMaat) {
   const QTemporaryDir map;
   QFile bestand(map.filePath("lb77-venster.ini"));
   ASSERT_TRUE(bestand.open(QIODevice::WriteOnly));
@@ -47,7 +47,7 @@ TEST(VensterInstellingen, DamagedFileCostsARememberedSizeAndNoMore) {
 
 class VenstermaatTest : public Vensterproef {};
 
-TEST_F(VenstermaatTest, FormComesBackInTheSizeThatItWasGiven) {
+TEST_F(VenstermaatTest, EenFormulierKomtTerugInDeMaatDieHetKreeg) {
   const QTemporaryDir map;
   QtGesprek metMap(PadVanQt(map.path()));
   QSize gekregen;
@@ -66,7 +66,7 @@ TEST_F(VenstermaatTest, FormComesBackInTheSizeThatItWasGiven) {
   }
 }
 
-TEST_F(VenstermaatTest, SizeOfALargerScreenIsCutToThisOne) {
+TEST_F(VenstermaatTest, DeMaatVanEenGroterSchermWordtOpDezeAfgekapt) {
   const QTemporaryDir map;
   VensterInstellingen(PadVanQt(map.path())).BewaarMaat("Proefvorm", {5000, 4000});
   QtGesprek metMap(PadVanQt(map.path()));

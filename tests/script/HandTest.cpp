@@ -40,6 +40,14 @@ TEST_F(HandTest, DubbelklikDubbelklikt) {
   InvoerWeigert("dubbelklik Plat", "Invoer.Plat doet niets bij een dubbelklik");
 }
 
+TEST_F(HandTest, EenWissellabelWisseltDoorDubbelklikEnSpatie) {
+  InInvoer("dubbelklik Wissel\ntoon Wissel\ntoets Wissel Space\ntoon Wissel", R"(
+    = Wissel "Crematie"
+    = Wissel "Begraven"
+  )");
+  InvoerWeigert("druk Wissel", "Invoer.Wissel kan niet worden aangeklikt");
+}
+
 // toets.
 
 TEST_F(HandTest, ToetsGaatNaarHetVeldMetDeFocus) {

@@ -75,6 +75,7 @@ class Invoer final : public Formulier {
   Optie Vrouw{*this, "Vrouw", "V&rouw"};
   Label Kop{*this, "Kop", "Begraven"};
   Label Plat{*this, "Plat", "Plat"};
+  Wissellabel Wissel{*this, "Wissel", {"Begraven", "Crematie"}};
   Teller Stand{*this, "Stand"};
   Knop WerkButton{*this, "WerkButton", "&Werk"};
   Knop OKButton{*this, "OKButton", "&OK"};

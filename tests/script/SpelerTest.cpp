@@ -137,6 +137,34 @@ TEST_F(SpelerTest, EenFormulierDatVerborgenBlijftTeltAlsGesloten) {
   )");
 }
 
+TEST_F(SpelerTest, MetEchoStaatElkeInstructieVoorWatZijDoet) {
+  echo_ = true;
+  Verwacht(R"(
+    antwoord Ja
+    kies Nieuw
+      vul Nummer   0
+    druk OKButton
+    druk BackButton
+  )",
+           [](Gesprek& gesprek) {
+             static_cast<void>(gesprek.Vraag("Doorgaan ?"));
+             ToonHoofd(gesprek);
+           },
+           R"(
+    $ antwoord Ja
+    ? vraag Ja/Nee "Doorgaan ?" -> Ja
+    + Hoofd "Hoofdvenster"
+    $ kies Nieuw
+    + Invoer "Invoer"
+    $ vul Nummer   0
+    ! uitroep "Nummer bestaat niet"
+    $ druk OKButton
+    ! uitroep "Nummer bestaat niet"
+    $ druk BackButton
+    - Invoer
+  )");
+}
+
 // Boxes.
 
 TEST_F(SpelerTest, ElkBerichtMetEenKnopHeeftGeenAntwoordNodig) {

@@ -33,7 +33,7 @@ SpeelUitslag SpeelToets::Speel(std::string_view draaiboek, const Programma& prog
   if (!boek.fout.empty()) return {1, boek.fout, {}};
   return lb77::Speel(boek.instructies, programma,
                      [&](std::string_view regel) { verslag_ += std::string(regel) + '\n'; },
-                     {.basismap = basismap_, .getoond = NoteerGetoond});
+                     {.basismap = basismap_, .echo = echo_, .getoond = NoteerGetoond});
 }
 
 void SpeelToets::Verwacht(std::string_view draaiboek, const Programma& programma,

@@ -33,6 +33,7 @@ class SpeelToets : public ::testing::Test {
 
   // Relative paths of `bestand` are resolved against it.
   std::filesystem::path basismap_;
+  bool echo_ = false;  // instructions stand in the transcript
   std::string verslag_;
 };
 
