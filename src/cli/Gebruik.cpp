@@ -45,7 +45,7 @@ void MaakNederlands(CLI::App& app) {
 }
 
 std::string GebruiksFout(const CLI::App& app, const CLI::ParseError& fout) {
-  const std::string tekst = fout.what();
+  std::string tekst = fout.what();
   const bool zonderOpdracht = app.get_subcommands().empty();
   if (dynamic_cast<const CLI::RequiredError*>(&fout)) {
     const std::string over = Over(app);

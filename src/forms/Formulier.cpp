@@ -199,7 +199,7 @@ bool Formulier::Toets(Bediening* doel, ToetsGebeurtenis toets) {
 }
 
 // The kind's own keys first, and what it leaves is the form's.
-void Formulier::ToetsIn(Bediening& bediening, ToetsGebeurtenis& toets) {
+void Formulier::ToetsIn(Bediening& bediening, ToetsGebeurtenis& toets) const {
   bediening.OpToets(toets);
   if (!toets.verwerkt && !gesloten_ && bediening.bijToets_) bediening.bijToets_(toets);
 }

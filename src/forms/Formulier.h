@@ -130,7 +130,7 @@ class Formulier {
   [[nodiscard]] bool Pak(Bediening& bediening);
   void Betreed(Bediening& bediening);
   void BetreedEerste();
-  void ToetsIn(Bediening& bediening, ToetsGebeurtenis& toets);
+  void ToetsIn(Bediening& bediening, ToetsGebeurtenis& toets) const;
   void GaVerder(const Bediening* van, int stap);
   void Schakel(Bediening& bediening);
   bool Wissel(Bediening& bediening);

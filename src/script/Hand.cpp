@@ -113,7 +113,7 @@ void Hand::Vul(const Instructie& instructie) {
   if (!veld) Weiger(instructie.naam, "is geen invoerveld");
   if (veld->AlleenLezen()) Weiger(instructie.naam, "is alleen om te lezen");
   const std::string_view tekst = instructie.argument;
-  if (veld->Soort() != BedieningSoort::Tekstblok && tekst.find('\n') != tekst.npos) {
+  if (veld->Soort() != BedieningSoort::Tekstblok && tekst.find('\n') != std::string_view::npos) {
     Weiger(instructie.naam, "heeft maar een regel");
   }
   if (!Betreed(*veld)) return;
