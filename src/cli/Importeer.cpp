@@ -4,20 +4,35 @@
 #include "cli/Sessie.h"
 #include "exchange/ImpGedcom.h"
 #include "output/ToonTekst.h"
+#include "text/Getallen.h"
 
 namespace lb77 {
+
+namespace {
+
+std::string Aantal(std::size_t aantal) {
+  return GetalTekst(static_cast<std::int64_t>(aantal));
+}
+
+}  // namespace
 
 int Importeer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
   Sessie sessie(omgeving, Instelling::VoorNu);
   const ImpGedcom* import = nullptr;
   bool gelukt = false;
+  std::string reden = "Het bestand is niet ingelezen";
   sessie.bediener.Bij("ImpGedcom", [&](Formulier& form) {
     import = dynamic_cast<const ImpGedcom*>(&form);
     if (auto* veld = dynamic_cast<Padvak*>(form.Zoek("Bestandsnaam"))) {
       veld->ZetPad(argumenten.bestand);
     }
     Werk(sessie.bediener, form).Druk("OKButton");
-    gelukt = import && import->Gelukt();
+    if (!import) return;
+    gelukt = import->Gelukt();
+    if (import->OpmerkingenVol()) {
+      reden = "Opgeslagen zijn " + Aantal(import->GelezenPersonen()) + " personen en " +
+              Aantal(import->GelezenRelaties()) + " relaties, en een deel van de opmerkingen";
+    }
   });
   sessie.bediener.Bij("ToonTekst", [&](Formulier& form) {
     const auto* toon = dynamic_cast<ToonTekst*>(&form);
@@ -26,7 +41,7 @@ int Importeer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
   });
   return sessie.Voer(argumenten.woorden[0], Omgang::Schrijven, [&](Werk& menu) {
     menu.Kies("ImportGedcom");
-    if (!gelukt) sessie.bediener.Mislukt("Het bestand is niet ingelezen");
+    if (!gelukt) sessie.bediener.Mislukt(reden);
   });
 }
 

@@ -8,6 +8,7 @@
 #include "cli/Opdrachten.h"
 #include "cli/Sessie.h"
 #include "store/Bestandenset.h"
+#include "store/Hoofdrecords.h"
 #include "store/Paden.h"
 #include "store/SetPaden.h"
 #include "text/Getallen.h"
@@ -19,17 +20,6 @@ namespace lb77 {
 namespace {
 
 constexpr std::size_t kSetNaam = 8;
-
-// The records of a file that are no continuation of another.
-template <class Klasse>
-int Aantal(Klasse& klasse) {
-  int aantal = 0;
-  const std::int16_t laatste = klasse.AantalRecords();
-  for (int nr = 2; nr <= laatste; ++nr) {
-    if (klasse.Lees(static_cast<std::int16_t>(nr)) && !klasse.IsVolgRecord()) ++aantal;
-  }
-  return aantal;
-}
 
 struct Telling {
   int personen = 0;
@@ -53,7 +43,8 @@ std::optional<Telling> Tel(Hoofdmodule& hoofd, const std::string& set) {
   const Opslag opslag{bestanden, volgers, hoofd.gesprek, hoofd.schrijfwijze};
   PersoonLB77 persoon(opslag);
   RelatieLB77 relatie(opslag);
-  return Telling{Aantal(persoon), Aantal(relatie)};
+  return Telling{AantalHoofdrecords(persoon, persoon.AantalRecords()),
+                 AantalHoofdrecords(relatie, relatie.AantalRecords())};
 }
 
 }  // namespace

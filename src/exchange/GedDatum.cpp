@@ -1,5 +1,6 @@
 #include "exchange/GedDatum.h"
 
+#include <algorithm>
 #include <cstddef>
 
 #include "exchange/GedBepaling.h"
@@ -12,6 +13,7 @@ namespace lb77 {
 namespace {
 
 constexpr std::size_t kBepalingLengte = 3;
+constexpr std::size_t kMaandLengte = 3;
 constexpr std::string_view kEn = " AND";
 constexpr std::string_view kOnbekend = " - Onbekende datum: ";
 constexpr std::size_t kKortste = 3;
@@ -23,12 +25,20 @@ char Bepaald(std::string_view tekst) {
   return correctie::kGeen;
 }
 
-// Takes off the qualifier, written out or not (AFT, AFTER), and a full stop behind it.
+// Takes off the qualifier, written out or not (AFT, AFTER), and a full stop behind it. A month that
+// follows without a blank stays.
 void NeemBepalingAf(std::string_view& tekst) {
   std::size_t lengte = kBepalingLengte;
-  while (lengte < tekst.size() && IsLetter(tekst[lengte])) ++lengte;
+  if (GedMaand(tekst.substr(lengte, kMaandLengte)) == 0) {
+    while (lengte < tekst.size() && IsLetter(tekst[lengte])) ++lengte;
+  }
   tekst.remove_prefix(lengte);
   if (tekst.starts_with('.')) tekst.remove_prefix(1);
+}
+
+// Is there a word behind the last digit, such as a month without a year, or BC?
+bool HeeftWoordAchteraan(std::string_view tekst, std::string_view zonderStaart) {
+  return !zonderStaart.empty() && std::ranges::any_of(tekst.substr(zonderStaart.size()), IsLetter);
 }
 
 std::string_view ZonderStaart(std::string_view tekst) {
@@ -79,10 +89,14 @@ GedDatumUitslag GedDatum(std::string_view tekst, std::string_view context) {
   GedDatumUitslag uitslag;
   const std::string groot = Hoofdletters(Trim(tekst));
   std::string_view rest = ZonderStaart(groot);
+  const Lezing lezing{tekst, context, uitslag};
+  if (HeeftWoordAchteraan(groot, rest)) {
+    lezing.Noteer(kOnbekend);
+    return uitslag;
+  }
   if (rest.size() < kKortste) return uitslag;
   uitslag.corr = Bepaald(rest);
   if (uitslag.corr != correctie::kGeen) NeemBepalingAf(rest);
-  const Lezing lezing{tekst, context, uitslag};
   LeesDatums(rest, lezing);
   if (!IsNegatief(uitslag.eerste) && !IsNegatief(uitslag.tweede)) return uitslag;
   // No record can hold it: a failure halfway, which leaves nothing behind.

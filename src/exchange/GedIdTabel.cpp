@@ -25,6 +25,7 @@ std::int16_t GedIdTabel::Nr(std::size_t rij) const {
 }
 
 std::int16_t GedIdTabel::NrVan(std::string_view verwijzing) const {
+  verwijzing = TrimRechts(verwijzing);
   if (verwijzing.size() < 3 || verwijzing.front() != '@' || verwijzing.back() != '@') return 0;
   const auto gevonden = eerste_.find(Sleutel(verwijzing.substr(1, verwijzing.size() - 2)));
   return gevonden == eerste_.end() ? std::int16_t{0} : gevonden->second;

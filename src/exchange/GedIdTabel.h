@@ -19,7 +19,8 @@ class GedIdTabel {
   // The number in row `rij`, from 0; 0 when there is no such row.
   [[nodiscard]] std::int16_t Nr(std::size_t rij) const;
 
-  // The number that a pointer ‘@id@’ means: that of the first row with the id. 0 for an id that
+  // The number that a pointer ‘@id@’ means: that of the first row with the id. Blanks at its end do
+  // not count. 0 for an id that
   // is not there and for a text that is no pointer.
   [[nodiscard]] std::int16_t NrVan(std::string_view verwijzing) const;
 

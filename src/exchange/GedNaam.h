@@ -10,6 +10,7 @@ struct GedNaamDelen {
   std::string_view voornaam;    // at most 30 bytes, trimmed
   std::string_view achternaam;  // at most 25 bytes, trimmed
   std::string_view rest;        // what stands behind the second "/"
+  bool afgekapt = false;        // a name was longer than that
 };
 
 // Splits ‘Jan /Jansen/ rest’. A value without slashes is a surname.

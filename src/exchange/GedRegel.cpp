@@ -55,6 +55,7 @@ GedDelen GedRegel(std::string_view regel) {
   }
   delen.tag = q ? rest.substr(0, *q) : TrimRechts(rest);
   if (q) delen.waarde = rest.substr(*q + 1);
+  delen.tag = delen.tag.substr(0, kLangsteTag);
   if (delen.tag == "CHARSET") delen.tag = "CHAR";
   return delen;
 }

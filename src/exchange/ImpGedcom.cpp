@@ -1,6 +1,8 @@
 #include "exchange/ImpGedcom.h"
 
+#include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <system_error>
 
 #include "app/Hoofdmodule.h"
@@ -8,6 +10,7 @@
 #include "exchange/ImpGangen.h"
 #include "exchange/RegelLezer.h"
 #include "output/ToonTekst.h"
+#include "store/Hoofdrecords.h"
 #include "store/Paden.h"
 #include "text/Dos850.h"
 #include "text/Getallen.h"
@@ -73,6 +76,23 @@ ImpGedcom::ImpGedcom(Hoofdmodule& hoofd)
 
 void ImpGedcom::BijLaden() {
   for (Label* label : labels_) label->ZetZichtbaar(false);
+  ToonDoel();
+}
+
+void ImpGedcom::ToonDoel() {
+  if (!hoofd_.SetActief()) return;
+  const std::string& set = hoofd_.ActieveSetNaam;
+  const std::string omschrijving = hoofd_.Ini.BestandenSetOms(hoofd_.Ini.BestandenSetIndex(set));
+  PersoonLB77 persoon(hoofd_.MaakOpslag());  // the working one keeps its record
+  // By the length of the file: a count that is wrong is told by the import itself.
+  const std::uint64_t records = hoofd_.bestanden.Bestand(BestandSoort::Personen).Lengte() /
+                                RecordLengteVan(BestandSoort::Personen);
+  const int personen =
+      AantalHoofdrecords(persoon, static_cast<std::int32_t>(std::min<std::uint64_t>(
+                                      records, static_cast<std::uint64_t>(kMaxRecords))));
+  DoelLabel.ZetBijschrift("Wordt toegevoegd aan " + set +
+                          (omschrijving.empty() ? "" : ", " + omschrijving) + " (" +
+                          GetalTekst(personen) + (personen == 1 ? " persoon)" : " personen)"));
 }
 
 void ImpGedcom::BrowseButtonKlik() {
@@ -93,6 +113,7 @@ void ImpGedcom::OKButtonKlik() {
   ZetBezig(true);
   const Afloop afloop = Importeer();
   StelVeilig();
+  ToonDoel();
   ZetBezig(false);
   WisStop();
   for (Label* label : labels_) label->ZetZichtbaar(false);
@@ -108,7 +129,8 @@ void ImpGedcom::OKButtonKlik() {
 void ImpGedcom::WisVoortgang() {
   for (Teller* teller : tellers_) teller->ZetTekst("");
   for (Vinkje* vinkje : vinkjes_) vinkje->Zet(false);
-  gelukt_ = false;
+  gelukt_ = opmerkingenVol_ = false;
+  gelezenPersonen_ = gelezenRelaties_ = 0;
 }
 
 ImpGedcom::Afloop ImpGedcom::Importeer() {
@@ -137,11 +159,15 @@ ImpGedcom::Afloop ImpGedcom::Lees(const std::filesystem::path& bestand) {
   const ImpUitslag uitslag = VoerGangen(loop, lezer);
   if (uitslag.gestopt) return {.gestopt = true};
   if (lezer.Fout()) return {.systeem = lezer.Fout()};
-  return {.systeem = Rond(uitslag, log)};
+  return {.systeem = Rond(uitslag, loop, log)};
 }
 
-SysteemFout ImpGedcom::Rond(const ImpUitslag& uitslag, GedLog& log) {
+SysteemFout ImpGedcom::Rond(const ImpUitslag& uitslag, const ImpLoop& loop, GedLog& log) {
+  gelezenPersonen_ = loop.GedPersId.Aantal();
+  gelezenRelaties_ = loop.GedRelId.Aantal();
+  opmerkingenVol_ = loop.verliezen.IsVol();
   if (!uitslag.fout.empty()) hoofd_.gesprek.Waarschuw(uitslag.fout);
+  loop.verliezen.Noteer([&log](std::string_view regel) { log.Regel(regel); });
   log.Regel(kVoltooid);
   Pass3box.Zet(true);
   gelukt_ = uitslag.fout.empty();

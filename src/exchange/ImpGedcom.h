@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -20,6 +21,7 @@ class ImpGedcom final : public Formulier {
 
   Padvak Bestandsnaam{*this, "Bestandsnaam", "GEDCOM-bestand:"};
   Knop BrowseButton{*this, "BrowseButton", "&Browse"};
+  Label DoelLabel{*this, "DoelLabel"};
   Label Pass1Label{*this, "Pass1Label", kBezig};
   Vinkje Pass1box{*this, "Pass1box", "Eerste analyse"};
   Label Pass2Label{*this, "Pass2Label", kBezig};
@@ -36,6 +38,11 @@ class ImpGedcom final : public Formulier {
   Knop OKButton{*this, "OKButton", "&Start Import"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 
+  // The records of the last import, remarks aside.
+  [[nodiscard]] std::size_t GelezenPersonen() const { return gelezenPersonen_; }
+  [[nodiscard]] std::size_t GelezenRelaties() const { return gelezenRelaties_; }
+  // All that it read has been stored but for the remarks that found no room.
+  [[nodiscard]] bool OpmerkingenVol() const { return opmerkingenVol_; }
   // The last import came to the end of its file, with no error in it that ends the reading.
   [[nodiscard]] bool Gelukt() const { return gelukt_; }
 
@@ -57,7 +64,8 @@ class ImpGedcom final : public Formulier {
   void WisVoortgang();
   [[nodiscard]] Afloop Importeer();
   [[nodiscard]] Afloop Lees(const std::filesystem::path& bestand);
-  [[nodiscard]] SysteemFout Rond(const ImpUitslag& uitslag, GedLog& log);
+  [[nodiscard]] SysteemFout Rond(const ImpUitslag& uitslag, const ImpLoop& loop, GedLog& log);
+  void ToonDoel();
   void ToonGang(int nummer);
   void StelVeilig();
   void MeldFout(const SysteemFout& fout);
@@ -66,6 +74,9 @@ class ImpGedcom final : public Formulier {
 
   Hoofdmodule& hoofd_;
   bool gelukt_ = false;
+  bool opmerkingenVol_ = false;
+  std::size_t gelezenPersonen_ = 0;
+  std::size_t gelezenRelaties_ = 0;
   std::array<Label*, 3> labels_{&Pass1Label, &Pass2Label, &Pass3Label};
   std::array<Vinkje*, 3> vinkjes_{&Pass1box, &Pass2box, &Pass3box};
   std::array<Teller*, 7> tellers_{&RegelNr, &AantalPersonen, &AantalRelaties, &AantalBronnen,

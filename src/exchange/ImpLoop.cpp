@@ -12,6 +12,7 @@ namespace lb77 {
 namespace {
 
 constexpr std::int32_t kRegelsPerVerversing = 128;
+constexpr std::size_t kPlaatsnaam = 25;
 
 }  // namespace
 
@@ -68,18 +69,25 @@ std::string ImpLoop::GedPlaats(std::string_view waarde) {
   const std::string tekst = GedTekst(Trim(waarde));
   const std::string_view naam = GedPlaatsNaam(tekst);
   if (naam.empty()) return "0";
+  if (naam.size() > kPlaatsnaam) TelVerlies(Verlies::Plaatsnaam);
   const std::int16_t nr = delen.plaats.NrOfNieuw(naam, "");
   if (nr > 0) return GetalTekst(nr);
   Log(" - Plaats niet opgeslagen: " + std::string(naam));
   return "0";
 }
 
-std::string ImpLoop::GedPersNr(std::string_view verwijzing) const {
-  return GetalTekst(GedPersId.NrVan(verwijzing));
+std::string ImpLoop::NrVan(const GedIdTabel& tabel, std::string_view verwijzing) {
+  const std::int16_t nr = tabel.NrVan(verwijzing);
+  if (nr == 0 && !Trim(verwijzing).empty()) TelVerlies(Verlies::Verwijzing);
+  return GetalTekst(nr);
 }
 
-std::string ImpLoop::GedRelNr(std::string_view verwijzing) const {
-  return GetalTekst(GedRelId.NrVan(verwijzing));
+std::string ImpLoop::GedPersNr(std::string_view verwijzing) {
+  return NrVan(GedPersId, verwijzing);
+}
+
+std::string ImpLoop::GedRelNr(std::string_view verwijzing) {
+  return NrVan(GedRelId, verwijzing);
 }
 
 std::string ImpLoop::Gezindte(std::string_view waarde) {

@@ -11,6 +11,7 @@
 #include "exchange/GedRegel.h"
 #include "exchange/GedTekenset.h"
 #include "exchange/ImpMelder.h"
+#include "exchange/ImpVerliezen.h"
 #include "store/Gegevens.h"
 
 namespace lb77 {
@@ -53,6 +54,9 @@ class ImpLoop {
   // Adds a log line: the context and what follows.
   void Log(std::string_view tekst) { delen.melder.Log(context_ + std::string(tekst)); }
 
+  // Counts a loss in the line at hand.
+  void TelVerlies(Verlies soort) { verliezen.Tel(soort, stand.regels); }
+
   // A text of the file in Windows-1252.
   [[nodiscard]] std::string GedTekst(std::string_view tekst);
   // The value of a DATE line; what can't be read goes to the log.
@@ -60,8 +64,8 @@ class ImpLoop {
   // The number of a place, as text, which is added when it is new; "0" for none.
   [[nodiscard]] std::string GedPlaats(std::string_view waarde);
   // The record number of a pointer as text; "0" for none.
-  [[nodiscard]] std::string GedPersNr(std::string_view verwijzing) const;
-  [[nodiscard]] std::string GedRelNr(std::string_view verwijzing) const;
+  [[nodiscard]] std::string GedPersNr(std::string_view verwijzing);
+  [[nodiscard]] std::string GedRelNr(std::string_view verwijzing);
   // The code of a religion or a kind of marriage.
   [[nodiscard]] std::string Gezindte(std::string_view waarde);
 
@@ -70,8 +74,11 @@ class ImpLoop {
   GedIdTabel GedRelId;
   GedTekenset tekenset = GedTekenset::Geen;
   ImpStand stand;
+  ImpVerliezen verliezen;
 
  private:
+  [[nodiscard]] std::string NrVan(const GedIdTabel& tabel, std::string_view verwijzing);
+
   std::string context_;
   std::int16_t laatstePersoon_;
   std::int16_t laatsteRelatie_;

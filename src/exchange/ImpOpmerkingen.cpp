@@ -67,6 +67,7 @@ ImpUitslag ImpOpmerkingen::Voer(RegelLezer& lezer) {
 ImpUitslag ImpOpmerkingen::NeemKop(const GedDelen& delen) {
   ImpUitslag uitslag = Bewaar();
   pad_.Zet(0, delen.tag);
+  if (delen.tag == kNote) loop_.TelVerlies(Verlies::NietOvergenomen);
   einde_ = loop_.Kop(delen) == GedSoort::Einde;
   return uitslag;
 }
@@ -87,9 +88,18 @@ ImpUitslag ImpOpmerkingen::NeemRegel(const GedDelen& delen) {
   Regel regel{pad_.Ouder(delen.level), pad, delen.tag, tag, {}};
   if (gewisseld) regel.waarde = wissel->voor;
   regel.waarde += delen.waarde;
+  if (IsVreemd(regel.ouder)) {
+    if (delen.tag == kNote) loop_.TelVerlies(Verlies::NietOvergenomen);
+    return {};
+  }
   WordtOpmerking(regel);
   if (regel.tag == kNote) Wacht(regel);
   return {};
+}
+
+// A level that was skipped may have a path that another kind of record left there.
+bool ImpOpmerkingen::IsVreemd(std::string_view pad) const {
+  return pad.substr(0, pad.find('-')) != pad_.Van(0);
 }
 
 void ImpOpmerkingen::NeemVervolg(const GedDelen& delen) {
@@ -138,6 +148,8 @@ void ImpOpmerkingen::Wacht(const Regel& regel) {
   rubriek_ = rij != nullptr ? rij->rubriek : AlgemeneRubriek(regel.ouder);
   tekst_ = rij != nullptr ? rij->voor : std::string_view();
   tekst_ += regel.waarde;
+  regel_ = loop_.stand.regels;
+  if (rubriek_ == 0 && regel.bron == kNote) loop_.TelVerlies(Verlies::NietOvergenomen);
 }
 
 ImpUitslag ImpOpmerkingen::Bewaar() {
@@ -156,14 +168,20 @@ ImpUitslag ImpOpmerkingen::Bewaar() {
 
 ImpUitslag ImpOpmerkingen::Schrijf(std::int16_t begin, std::int16_t persoon, std::int16_t relatie) {
   OpmLB77& opmerking = loop_.delen.opmerking;
-  const OpmRegels regels = BreekAf(loop_.GedTekst(tekst_));
+  const std::string tekst = loop_.GedTekst(tekst_);
+  if (!PastGeheel(tekst)) loop_.verliezen.Tel(Verlies::OpmAfgekapt, regel_);
+  const OpmRegels regels = BreekAf(tekst);
   const bool gelukt =
       opmerking.SchrijfOpmerking(regels, {}, 0, persoon, relatie, begin, kBijProg, rubriek_);
   rubriek_ = 0;
   if (gelukt) return {};
   // No later note would do better; where it stopped stands behind what the class has told.
-  return {.fout = persoon != 0 ? "Schrijffout bij Persoon " + GetalTekst(persoon)
-                               : "Schrijffout bij Relatie " + GetalTekst(relatie)};
+  const bool bijPersoon = persoon != 0;
+  const std::string nr = GetalTekst(bijPersoon ? persoon : relatie);
+  if (opmerking.AantalRecords() >= kMaxRecords) {
+    loop_.verliezen.ZetVol((bijPersoon ? "persoon " : "relatie ") + nr);
+  }
+  return {.fout = (bijPersoon ? "Schrijffout bij Persoon " : "Schrijffout bij Relatie ") + nr};
 }
 
 }  // namespace lb77

@@ -30,6 +30,7 @@ class ImpOpmerkingen {
   void WordtOpmerking(Regel& regel);
   void ToonNaam(std::string_view waarde);
   [[nodiscard]] std::string AdoptieDatum(std::string_view waarde);
+  [[nodiscard]] bool IsVreemd(std::string_view pad) const;
   void Wacht(const Regel& regel);
   [[nodiscard]] ImpUitslag Bewaar();
   [[nodiscard]] ImpUitslag Schrijf(std::int16_t begin, std::int16_t persoon, std::int16_t relatie);
@@ -38,6 +39,7 @@ class ImpOpmerkingen {
   Padtabel<OpmRubriek> rubrieken_;
   GedPad pad_;
   std::string tekst_;         // of the note that waits, as the file has it
+  std::int32_t regel_ = 0;    // in which that note begins
   std::int16_t rubriek_ = 0;  // of that note; 0 when none waits
   bool einde_ = false;
 };

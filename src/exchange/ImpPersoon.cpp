@@ -16,8 +16,17 @@ constexpr std::size_t kVoornaam = persoonveld::Voornaam.breedte;
 constexpr std::size_t kAchternaam = persoonveld::Achternaam.breedte;
 constexpr std::size_t kBeroep = persoonveld::beroep.breedte;
 
+bool IsLanger(std::string_view waarde, std::size_t lengte) {
+  return TrimRechts(waarde).size() > lengte;
+}
+
 std::string_view Gesneden(std::string_view waarde, std::size_t lengte) {
   return Trim(waarde.substr(0, lengte));
+}
+
+// Does `nieuw` take the place of another name?
+bool IsAnder(std::string_view oud, std::string_view nieuw) {
+  return !oud.empty() && oud != nieuw;
 }
 
 // The sex by its first letter.
@@ -34,6 +43,8 @@ bool ImpPersoon::Begin(std::int16_t nr) {
   nr_ = nr;
   relaties_ = 0;
   gebCorr_ = ovlCorr_ = ' ';
+  voornaam_.clear();
+  achternaam_.clear();
   loop_.delen.volgers.HuidigPersoonNr = nr;
   return loop_.delen.persoon.Lees(nr);
 }
@@ -69,6 +80,7 @@ bool ImpPersoon::Neem(const PersoonPad& pad, std::string_view waarde) {
       Zet(pad.veld, loop_.Gezindte(waarde));
       break;
     case PersoonActie::Beroep:
+      if (IsLanger(waarde, kBeroep)) loop_.TelVerlies(Verlies::Beroep);
       Zet(pad.veld, loop_.GedTekst(Gesneden(waarde, kBeroep)));
       break;
     case PersoonActie::Ouders:
@@ -91,14 +103,26 @@ void ImpPersoon::NeemNaam(const PersoonPad& pad, std::string_view waarde) {
   }
   loop_.stand.voornaam = loop_.GedTekst(naam.voornaam);
   loop_.stand.achternaam = loop_.GedTekst(naam.achternaam);
-  Zet("Voornaam", loop_.stand.voornaam);
-  Zet("Achternaam", loop_.stand.achternaam);
+  if (naam.afgekapt) loop_.TelVerlies(Verlies::Naam);
+  // One line, one loss.
+  const bool ander =
+      IsAnder(voornaam_, loop_.stand.voornaam) || IsAnder(achternaam_, loop_.stand.achternaam);
+  if (ander) loop_.TelVerlies(Verlies::Overschreven);
+  voornaam_ = loop_.stand.voornaam;
+  achternaam_ = loop_.stand.achternaam;
+  Zet("Voornaam", voornaam_);
+  Zet("Achternaam", achternaam_);
 }
 
 void ImpPersoon::NeemNaamDeel(const PersoonPad& pad, std::string_view waarde) {
   const bool isVoornaam = pad.actie == PersoonActie::Voornaam;
   std::string& getoond = isVoornaam ? loop_.stand.voornaam : loop_.stand.achternaam;
-  getoond = loop_.GedTekst(Gesneden(waarde, isVoornaam ? kVoornaam : kAchternaam));
+  const std::size_t lengte = isVoornaam ? kVoornaam : kAchternaam;
+  if (IsLanger(waarde, lengte)) loop_.TelVerlies(Verlies::Naam);
+  getoond = loop_.GedTekst(Gesneden(waarde, lengte));
+  std::string& opgeslagen = isVoornaam ? voornaam_ : achternaam_;
+  if (IsAnder(opgeslagen, getoond)) loop_.TelVerlies(Verlies::Overschreven);
+  opgeslagen = getoond;
   Zet(pad.veld, getoond);
 }
 

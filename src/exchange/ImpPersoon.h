@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "exchange/ImpLoop.h"
@@ -39,6 +40,8 @@ class ImpPersoon {
   ImpLoop& loop_;
   std::int16_t nr_ = 0;
   int relaties_ = 0;
+  std::string voornaam_;  // as stored so far
+  std::string achternaam_;
   char gebCorr_ = ' ';
   char ovlCorr_ = ' ';
   char laatsteOvlCorr_ = ' ';

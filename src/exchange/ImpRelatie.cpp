@@ -10,9 +10,8 @@ namespace lb77 {
 namespace {
 
 constexpr int kInHoofdrecord = 15;
-// kept: the 30th child is offered to a slot that does not exist, and Zet says so; only the 31st
-// brings the message of a family that is too large.
-constexpr int kHoogsteKind = 30;
+// 14 in the main record, behind which the continuation stands, and 15 there.
+constexpr int kHoogsteKind = 29;
 // Slot n of the continuation holds child n + 14.
 constexpr int kVerschuiving = 14;
 

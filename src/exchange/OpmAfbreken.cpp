@@ -20,9 +20,8 @@ std::string_view EersteRegel(std::string_view tekst) {
   return blanco == std::string_view::npos ? std::string_view() : TrimRechts(stuk.substr(0, blanco));
 }
 
-}  // namespace
-
-OpmRegels BreekAf(std::string_view tekst) {
+// Takes the lines off, and leaves what does not fit.
+OpmRegels Neem(std::string_view& tekst) {
   OpmRegels regels;
   for (std::string& regel : regels) {
     tekst = TrimLinks(tekst);
@@ -31,7 +30,19 @@ OpmRegels BreekAf(std::string_view tekst) {
     regel = stuk;
     tekst.remove_prefix(stuk.size());
   }
+  tekst = TrimLinks(tekst);
   return regels;
+}
+
+}  // namespace
+
+OpmRegels BreekAf(std::string_view tekst) {
+  return Neem(tekst);
+}
+
+bool PastGeheel(std::string_view tekst) {
+  static_cast<void>(Neem(tekst));
+  return tekst.empty();
 }
 
 }  // namespace lb77

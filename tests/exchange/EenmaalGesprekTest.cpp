@@ -9,7 +9,7 @@ namespace {
 
 using ::testing::ElementsAre;
 
-TEST(EenmaalGesprekTest, ShowsAMessageOnce) {
+TEST(EenmaalGesprekTest, ToontEenMeldingEenmaal) {
   NepGesprek gebruiker;
   EenmaalGesprek eenmaal(gebruiker);
   eenmaal.Fout("vol");
@@ -19,7 +19,7 @@ TEST(EenmaalGesprekTest, ShowsAMessageOnce) {
   EXPECT_THAT(gebruiker.Regels(), ElementsAre("! stop \"vol\"", "! uitroep \"anders\""));
 }
 
-TEST(EenmaalGesprekTest, TheFirstLineTellsWhetherAMessageIsTheSame) {
+TEST(EenmaalGesprekTest, DeEersteRegelZegtOfEenMeldingDezelfdeIs) {
   NepGesprek gebruiker;
   EenmaalGesprek eenmaal(gebruiker);
   eenmaal.Waarschuw("Aantal is onjuist\nGevonden:4");
@@ -27,7 +27,7 @@ TEST(EenmaalGesprekTest, TheFirstLineTellsWhetherAMessageIsTheSame) {
   EXPECT_THAT(gebruiker.Regels(), ElementsAre("! uitroep \"Aantal is onjuist\\nGevonden:4\""));
 }
 
-TEST(EenmaalGesprekTest, AsksEachTime) {
+TEST(EenmaalGesprekTest, VraagtElkeKeer) {
   NepGesprek gebruiker;
   gebruiker.Antwoordt(Antwoord::Ja);
   gebruiker.Antwoordt(Antwoord::Nee);
@@ -36,7 +36,7 @@ TEST(EenmaalGesprekTest, AsksEachTime) {
   EXPECT_FALSE(eenmaal.Vraag("Toevoegen ?"));
 }
 
-TEST(EenmaalGesprekTest, PassesTheRestOn) {
+TEST(EenmaalGesprekTest, GeeftDeRestDoor) {
   NepGesprek gebruiker;
   EenmaalGesprek eenmaal(gebruiker);
   EXPECT_FALSE(eenmaal.BerichtMetVinkje("met vinkje", "Niet meer tonen"));

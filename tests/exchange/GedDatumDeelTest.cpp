@@ -20,7 +20,7 @@ struct Rij {
 
 class GedDatumDeelTest : public ::testing::TestWithParam<Rij> {};
 
-TEST_P(GedDatumDeelTest, IsRead) {
+TEST_P(GedDatumDeelTest, WordtGelezen) {
   const DatumDelen datum = GedDatumDeel(GetParam().tekst);
   EXPECT_EQ(datum.dag, GetParam().dag);
   EXPECT_EQ(datum.maand, GetParam().maand);
@@ -60,7 +60,7 @@ INSTANTIATE_TEST_SUITE_P(Maanden, GedDatumDeelTest, ::testing::ValuesIn(kMaanden
 
 class OnleesbareDatumTest : public ::testing::TestWithParam<std::string_view> {};
 
-TEST_P(OnleesbareDatumTest, HasDayMinusOne) {
+TEST_P(OnleesbareDatumTest, HeeftDagMinEen) {
   EXPECT_EQ(GedDatumDeel(GetParam()).dag, -1);
 }
 
@@ -73,7 +73,7 @@ INSTANTIATE_TEST_SUITE_P(Vorm, OnleesbareDatumTest,
                                            "jan"));
 
 // kept: by its length of ten this is read as a month and a year, whatever it looks like.
-TEST(GedDatumDeelLengteTest, TheLengthDecidesTheForm) {
+TEST(GedDatumDeelLengteTest, DeLengteBepaaltDeVorm) {
   EXPECT_EQ(GedDatumDeel("1JAN1890/1").dag, -1);
 }
 

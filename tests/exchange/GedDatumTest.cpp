@@ -28,7 +28,7 @@ struct Rij {
 
 class GedDatumTest : public ::testing::TestWithParam<Rij> {};
 
-TEST_P(GedDatumTest, IsRead) {
+TEST_P(GedDatumTest, WordtGelezen) {
   EXPECT_EQ(Gelezen(GetParam().tekst), GetParam().gelezen);
 }
 
@@ -45,6 +45,9 @@ constexpr Rij kBepalingen[] = {
     {"ABT1890", "C00-00-1890"},
     {"ABOUT 1890", " 00-00-0000; P-I1 - Onbekende datum: ABOUT 1890"},
     {"AFTER 1890", "N00-00-1890"},
+    {"ABTJAN 1890", "C00-01-1890"},
+    {"BEFMARCH 1900", "V00-00-0000; P-I1 - Onbekende datum: BEFMARCH 1900"},
+    {"ESTIMATED JAN 1890", "C00-01-1890"},
     {"BEFORE 1890", "V00-00-1890"},
     {"ABT 12-03-1890", "C12-03-1890"},
     {"12-03-1890", " 12-03-1890"},
@@ -73,7 +76,10 @@ constexpr Rij kOverig[] = {
     {"onbekend", " 00-00-0000"},
     {"12", " 00-00-0000"},
     {"0000", " 00-00-0000"},
-    {"1890 BC", " 00-00-1890"},
+    {"1890 BC", " 00-00-0000; P-I1 - Onbekende datum: 1890 BC"},
+    {"ABT 560 BC", " 00-00-0000; P-I1 - Onbekende datum: ABT 560 BC"},
+    {"10 JAN", " 00-00-0000; P-I1 - Onbekende datum: 10 JAN"},
+    {"1890 (?)", " 00-00-1890"},
     {"12 MAR 1890 (?)", " 12-03-1890"},
     {"ABT", " 00-00-0000"},
     {"INT 1890 (ca. 1890)", " 00-00-0000; P-I1 - Onbekende datum: INT 1890 (ca. 1890)"},
@@ -92,7 +98,7 @@ constexpr Rij kMislukt[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Mislukt, GedDatumTest, ::testing::ValuesIn(kMislukt));
 
-TEST(GedDatumTekstTest, PartsArePaddedWithNoughts) {
+TEST(GedDatumTekstTest, DelenWordenMetNullenGevuld) {
   EXPECT_EQ(GedDatumTekst({1, 2, 890}), "01-02-0890");
   EXPECT_EQ(GedDatumTekst({12, 11, 1890}), "12-11-1890");
   EXPECT_EQ(GedDatumTekst({}), "00-00-0000");

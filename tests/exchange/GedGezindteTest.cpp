@@ -15,32 +15,32 @@ Gezindten Lijst() {
   return lijst;
 }
 
-TEST(GedGezindteTest, TheCodeOfAName) {
+TEST(GedGezindteTest, DeCodeVanEenNaam) {
   EXPECT_EQ(GedGezindte("Nederlands Hervormd", Lijst()), "NH");
 }
 
-TEST(GedGezindteTest, UpperAndLowerCaseDoNotCount) {
+TEST(GedGezindteTest, GrootEnKleinTellenNiet) {
   EXPECT_EQ(GedGezindte(" nederlands HERVORMD ", Lijst()), "NH");
 }
 
-TEST(GedGezindteTest, AllTwentyEntriesAreSearched) {
+TEST(GedGezindteTest, AlleTwintigRegelsWordenDoorzocht) {
   EXPECT_EQ(GedGezindte("waals gereformÉ"_w, Lijst()), "WG");
 }
 
-TEST(GedGezindteTest, AnUnknownNameLeavesItsFirstTwoCharacters) {
+TEST(GedGezindteTest, EenOnbekendeNaamLaatTweeTekensNa) {
   EXPECT_EQ(GedGezindte("Luthers", Lijst()), "Lu");
   EXPECT_EQ(GedGezindte("RK", Lijst()), "RK");
 }
 
-TEST(GedGezindteTest, AnUnknownNameOfOneCharacterIsPadded) {
+TEST(GedGezindteTest, EenOnbekendeNaamVanEenTekenWordtAangevuld) {
   EXPECT_EQ(GedGezindte("X", Lijst()), "X ");
 }
 
-TEST(GedGezindteTest, ACodeOfOneCharacterIsLost) {
+TEST(GedGezindteTest, EenCodeVanEenTekenGaatVerloren) {
   EXPECT_EQ(GedGezindte("Burgerlijk", Lijst()), "  ");
 }
 
-TEST(GedGezindteTest, AnEmptyTextIsNought) {
+TEST(GedGezindteTest, EenLegeTekstIsNul) {
   EXPECT_EQ(GedGezindte("", Lijst()), "0");
   EXPECT_EQ(GedGezindte("   ", Lijst()), "0");
 }

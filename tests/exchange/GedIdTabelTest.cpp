@@ -7,7 +7,7 @@
 namespace lb77 {
 namespace {
 
-TEST(GedIdTabelTest, APointerMeansTheNumberOfItsId) {
+TEST(GedIdTabelTest, EenVerwijzingIsHetNummerVanHaarId) {
   GedIdTabel tabel;
   tabel.Voeg("I1", 7);
   tabel.Voeg("I2", 8);
@@ -15,23 +15,23 @@ TEST(GedIdTabelTest, APointerMeansTheNumberOfItsId) {
   EXPECT_EQ(tabel.NrVan("@I2@"), 8);
 }
 
-TEST(GedIdTabelTest, AnIdThatIsNotThereIsNought) {
+TEST(GedIdTabelTest, EenIdDatErNietIsIsNul) {
   GedIdTabel tabel;
   tabel.Voeg("I1", 7);
   EXPECT_EQ(tabel.NrVan("@I2@"), 0);
   EXPECT_EQ(tabel.NrVan("@i1@"), 0);
 }
 
-TEST(GedIdTabelTest, APointerHasSignsAtBothEndsAndSomethingBetween) {
+TEST(GedIdTabelTest, EenVerwijzingHeeftTekensAanBeideKantenEnIetsErtussen) {
   GedIdTabel tabel;
   tabel.Voeg("", 6);
   tabel.Voeg("I1", 7);
-  for (const std::string_view tekst : {"", "@", "@@", "I1", "@I1", "I1@", "@I1@ ", " @I1@"}) {
+  for (const std::string_view tekst : {"", "@", "@@", "I1", "@I1", "I1@", " @I1@"}) {
     EXPECT_EQ(tabel.NrVan(tekst), 0) << tekst;
   }
 }
 
-TEST(GedIdTabelTest, OfTwoRowsWithOneIdPointersGoToTheFirst) {
+TEST(GedIdTabelTest, VanTweeRijenMetEenIdGaanVerwijzingenNaarDeEerste) {
   GedIdTabel tabel;
   tabel.Voeg("I1", 7);
   tabel.Voeg("I1", 8);
@@ -41,7 +41,7 @@ TEST(GedIdTabelTest, OfTwoRowsWithOneIdPointersGoToTheFirst) {
   EXPECT_EQ(tabel.Aantal(), 2U);
 }
 
-TEST(GedIdTabelTest, IdsAreCutToTwentyTwoCharacters) {
+TEST(GedIdTabelTest, IdsWordenAfgekaptOpTweeentwintigTekens) {
   const std::string lang(22, 'x');
   GedIdTabel tabel;
   tabel.Voeg(lang + "een", 7);
@@ -51,23 +51,29 @@ TEST(GedIdTabelTest, IdsAreCutToTwentyTwoCharacters) {
   EXPECT_EQ(tabel.NrVan("@" + lang.substr(1) + "@"), 0);
 }
 
-TEST(GedIdTabelTest, BlanksThatFillUpAnIdDoNotCount) {
+TEST(GedIdTabelTest, SpatiesDieEenIdAanvullenTellenNiet) {
   GedIdTabel tabel;
   tabel.Voeg("I1", 7);
   EXPECT_EQ(tabel.NrVan("@I1   @"), 7);
   EXPECT_EQ(tabel.NrVan("@ I1@"), 0);
 }
 
-TEST(GedIdTabelTest, ARowThatIsNotThereIsNought) {
+TEST(GedIdTabelTest, EenRijDieErNietIsIsNul) {
   GedIdTabel tabel;
   EXPECT_EQ(tabel.Nr(0), 0);
 }
 
-TEST(GedIdTabelTest, AllRowsAreFoundWhileTheTableGrows) {
+TEST(GedIdTabelTest, AlleRijenWordenGevondenTerwijlDeTabelGroeit) {
   GedIdTabel tabel;
   for (int i = 1; i <= 32000; ++i)
     tabel.Voeg("I" + std::to_string(i), static_cast<std::int16_t>(i));
   for (int i = 1; i <= 32000; ++i) ASSERT_EQ(tabel.NrVan("@I" + std::to_string(i) + "@"), i);
+}
+
+TEST(GedIdTabelTest, SpatiesAchterEenVerwijzingTellenNiet) {
+  GedIdTabel tabel;
+  tabel.Voeg("I1", 7);
+  EXPECT_EQ(tabel.NrVan("@I1@  "), 7);
 }
 
 }  // namespace

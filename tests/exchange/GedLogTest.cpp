@@ -23,7 +23,7 @@ class GedLogTest : public ::testing::Test {
   GedLog log_;
 };
 
-TEST_F(GedLogTest, LinesEndInReturnAndLineFeed) {
+TEST_F(GedLogTest, RegelsEindigenOpCRenLF) {
   ASSERT_FALSE(log_.Open(Pad()));
   log_.Regel("een");
   log_.Regel("twee\tdrie");
@@ -31,12 +31,12 @@ TEST_F(GedLogTest, LinesEndInReturnAndLineFeed) {
   EXPECT_EQ(Inhoud(), "een\r\ntwee\tdrie\r\n");
 }
 
-TEST_F(GedLogTest, ADirectoryThatIsGoneIsMade) {
+TEST_F(GedLogTest, EenMapDieWegIsWordtGemaakt) {
   EXPECT_FALSE(log_.Open(Pad()));
   EXPECT_TRUE(std::filesystem::is_directory(Pad().parent_path()));
 }
 
-TEST_F(GedLogTest, ANewLogReplacesTheLast) {
+TEST_F(GedLogTest, EenNieuwVerslagVervangtHetVorige) {
   ASSERT_FALSE(log_.Open(Pad()));
   log_.Regel("oud");
   ASSERT_FALSE(log_.Sluit());
@@ -46,17 +46,17 @@ TEST_F(GedLogTest, ANewLogReplacesTheLast) {
   EXPECT_EQ(Inhoud(), "nieuw\r\n");
 }
 
-TEST_F(GedLogTest, ADirectoryInItsPlaceIsAnError) {
+TEST_F(GedLogTest, EenMapInZijnPlaatsIsEenFout) {
   std::filesystem::create_directories(Pad());
   EXPECT_EQ(log_.Open(Pad()).tekst, "Pad is een directory");
 }
 
-TEST_F(GedLogTest, AFileInThePlaceOfItsDirectoryIsAnError) {
+TEST_F(GedLogTest, EenBestandInDePlaatsVanZijnMapIsEenFout) {
   std::ofstream(Pad().parent_path()) << "bestand";
   EXPECT_TRUE(log_.Open(Pad()));
 }
 
-TEST_F(GedLogTest, AFullDiskShowsWhenItIsClosed) {
+TEST_F(GedLogTest, EenVolleSchijfBlijktBijHetSluiten) {
   if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "geen /dev/full op dit systeem";
   ASSERT_FALSE(log_.Open("/dev/full"));
   for (int i = 0; i < 10000; ++i) log_.Regel("een regel die niet meer past");

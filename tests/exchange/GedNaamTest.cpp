@@ -14,36 +14,36 @@ std::string Gesplitst(std::string_view waarde) {
   return uit.append("|").append(delen.achternaam).append("|").append(delen.rest);
 }
 
-TEST(GedNaamTest, TheSurnameStandsBetweenSlashes) {
+TEST(GedNaamTest, DeAchternaamStaatTussenStrepen) {
   EXPECT_EQ(Gesplitst("Jan Piet /van den Berg/"), "Jan Piet|van den Berg|");
 }
 
-TEST(GedNaamTest, WhatStandsBehindTheSecondSlashIsTheRest) {
+TEST(GedNaamTest, WatAchterDeTweedeStreepStaatIsDeRest) {
   EXPECT_EQ(Gesplitst("Jan /Jansen/ jr"), "Jan|Jansen| jr");
   EXPECT_EQ(Gesplitst("Jan /Jansen/a/b"), "Jan|Jansen|a/b");
 }
 
-TEST(GedNaamTest, WithoutASlashItIsASurname) {
+TEST(GedNaamTest, ZonderStreepIsHetEenAchternaam) {
   EXPECT_EQ(Gesplitst(" Jan Jansen "), "|Jan Jansen|");
   EXPECT_EQ(Gesplitst(""), "||");
 }
 
-TEST(GedNaamTest, ASlashAsTheLastCharacterOnlyBelongsToTheSurname) {
+TEST(GedNaamTest, EenStreepAlsLaatsteTekenHoortBijDeAchternaam) {
   EXPECT_EQ(Gesplitst("Jan/"), "|Jan/|");
   EXPECT_EQ(Gesplitst("/"), "|/|");
 }
 
-TEST(GedNaamTest, WithoutASecondSlashTheSurnameRunsToTheEnd) {
+TEST(GedNaamTest, ZonderTweedeStreepLooptDeAchternaamTotHetEind) {
   EXPECT_EQ(Gesplitst("Jan /Jansen"), "Jan|Jansen|");
 }
 
-TEST(GedNaamTest, EitherPartMayBeEmpty) {
+TEST(GedNaamTest, ElkDeelMagLeegZijn) {
   EXPECT_EQ(Gesplitst("Jan //"), "Jan||");
   EXPECT_EQ(Gesplitst("/Jansen/"), "|Jansen|");
   EXPECT_EQ(Gesplitst("//"), "||");
 }
 
-TEST(GedNaamTest, PartsAreCutToTheirFieldsBeforeTheyAreTrimmed) {
+TEST(GedNaamTest, DelenWordenAfgekaptVoorZeWordenGetrimd) {
   EXPECT_EQ(Gesplitst(std::string(31, 'v') + "/" + std::string(26, 'a') + "/"),
             std::string(30, 'v') + "|" + std::string(25, 'a') + "|");
   EXPECT_EQ(Gesplitst(std::string(29, ' ') + "Jan/ " + std::string(24, ' ') + "Jansen/"), "J||");

@@ -5,7 +5,7 @@
 namespace lb77 {
 namespace {
 
-TEST(GedPadTest, ATagIsJoinedToThePathAboveIt) {
+TEST(GedPadTest, EenLabelKomtAchterHetPadErboven) {
   GedPad pad;
   pad.Zet(0, "INDI");
   pad.Zet(1, "BIRT");
@@ -15,7 +15,7 @@ TEST(GedPadTest, ATagIsJoinedToThePathAboveIt) {
   EXPECT_EQ(pad.Van(2), "INDI-BIRT-DATE");
 }
 
-TEST(GedPadTest, ALineReplacesTheLastOneOfItsLevel) {
+TEST(GedPadTest, EenRegelVervangtDeVorigeVanZijnNiveau) {
   GedPad pad;
   pad.Zet(0, "INDI");
   pad.Zet(1, "BIRT");
@@ -23,7 +23,7 @@ TEST(GedPadTest, ALineReplacesTheLastOneOfItsLevel) {
   EXPECT_EQ(pad.Van(1), "INDI-DEAT");
 }
 
-TEST(GedPadTest, ASkippedLevelKeepsWhatAnEarlierLineLeft) {
+TEST(GedPadTest, EenOvergeslagenNiveauHoudtWatEenEerdereRegelNaliet) {
   GedPad pad;
   pad.Zet(0, "INDI");
   pad.Zet(1, "BIRT");
@@ -32,14 +32,14 @@ TEST(GedPadTest, ASkippedLevelKeepsWhatAnEarlierLineLeft) {
   EXPECT_EQ(pad.Van(2), "INDI-BIRT-DATE");
 }
 
-TEST(GedPadTest, ALevelThatNoLineHasHadIsEmpty) {
+TEST(GedPadTest, EenNiveauDatGeenRegelHadIsLeeg) {
   GedPad pad;
   pad.Zet(3, "DATE");
   EXPECT_EQ(pad.Ouder(3), "");
   EXPECT_EQ(pad.Van(3), "-DATE");
 }
 
-TEST(GedPadTest, LevelsRunToNinetyNine) {
+TEST(GedPadTest, NiveausLopenTotNegenennegentig) {
   GedPad pad;
   for (int level = 0; level <= 99; ++level) pad.Zet(level, "A");
   EXPECT_EQ(pad.Van(99).size(), 199U);

@@ -5,11 +5,11 @@
 namespace lb77 {
 namespace {
 
-TEST(GedPlaatsNaamTest, ANameWithoutMarksIsTrimmed) {
+TEST(GedPlaatsNaamTest, EenNaamZonderTekensWordtGetrimd) {
   EXPECT_EQ(GedPlaatsNaam(" Den Haag "), "Den Haag");
 }
 
-TEST(GedPlaatsNaamTest, MarksOfUncertaintyAreLost) {
+TEST(GedPlaatsNaamTest, TekensVanTwijfelGaanVerloren) {
   EXPECT_EQ(GedPlaatsNaam("verm. Utrecht"), "Utrecht");
   EXPECT_EQ(GedPlaatsNaam("Utrecht(?)"), "Utrecht");
   EXPECT_EQ(GedPlaatsNaam("Utrecht (?)"), "Utrecht");
@@ -18,17 +18,17 @@ TEST(GedPlaatsNaamTest, MarksOfUncertaintyAreLost) {
   EXPECT_EQ(GedPlaatsNaam("verm. Utrecht (?)"), "Utrecht");
 }
 
-TEST(GedPlaatsNaamTest, OnlyTheMarkAtTheEndIsTaken) {
+TEST(GedPlaatsNaamTest, AlleenHetTekenAanHetEindGaatEraf) {
   EXPECT_EQ(GedPlaatsNaam("Utrecht?(?)"), "Utrecht?");
   EXPECT_EQ(GedPlaatsNaam("Utrecht (?) stad"), "Utrecht (?) stad");
 }
 
-TEST(GedPlaatsNaamTest, TheWordNeedsItsBlankAndItsCase) {
+TEST(GedPlaatsNaamTest, HetWoordHeeftZijnSpatieEnKleineLettersNodig) {
   EXPECT_EQ(GedPlaatsNaam("verm.Utrecht"), "verm.Utrecht");
   EXPECT_EQ(GedPlaatsNaam("Verm. Utrecht"), "Verm. Utrecht");
 }
 
-TEST(GedPlaatsNaamTest, NothingButMarksIsNoName) {
+TEST(GedPlaatsNaamTest, NietsDanTekensIsGeenNaam) {
   for (const std::string_view tekst : {"", "  ", "?", "???", "(?)", "verm. ?", "verm. (?)"}) {
     EXPECT_EQ(GedPlaatsNaam(tekst), "") << tekst;
   }

@@ -6,7 +6,7 @@
 namespace lb77 {
 namespace {
 
-TEST(GedTekensetTest, NamesOfCharacterSets) {
+TEST(GedTekensetTest, NamenVanTekensets) {
   EXPECT_EQ(GedTekensetVan("IBMPC"), GedTekenset::CP437);
   EXPECT_EQ(GedTekensetVan("CP437"), GedTekenset::CP437);
   EXPECT_EQ(GedTekensetVan("ANSEL"), GedTekenset::ANSEL);
@@ -14,17 +14,17 @@ TEST(GedTekensetTest, NamesOfCharacterSets) {
   EXPECT_EQ(GedTekensetVan("WIN"), GedTekenset::WIN1252);
 }
 
-TEST(GedTekensetTest, AnyOtherNameIsASCII) {
+TEST(GedTekensetTest, ElkeAndereNaamIsASCII) {
   for (const std::string_view naam : {"", "ASCII", "ANSI", "UTF-8", "ansel", "ANSEL2", "WIN1252"}) {
     EXPECT_EQ(GedTekensetVan(naam), GedTekenset::ASCII) << naam;
   }
 }
 
-TEST(GedTekensetTest, BlanksAroundANameDoNotCount) {
+TEST(GedTekensetTest, SpatiesOmEenNaamTellenNiet) {
   EXPECT_EQ(GedTekensetVan(" ANSEL "), GedTekenset::ANSEL);
 }
 
-TEST(GedTekensetTest, TextsBecomeWindowsTexts) {
+TEST(GedTekensetTest, TekstenWordenWindowsteksten) {
   EXPECT_EQ(GedNaarWindows(GedTekenset::ANSEL,
                            "Ren\xE2"
                            "e"),
@@ -33,12 +33,12 @@ TEST(GedTekensetTest, TextsBecomeWindowsTexts) {
   EXPECT_EQ(GedNaarWindows(GedTekenset::CP850, "Ren\x82"), "René"_w);
 }
 
-TEST(GedTekensetTest, CodePages437And850Differ) {
+TEST(GedTekensetTest, Codepaginas437En850Verschillen) {
   EXPECT_EQ(GedNaarWindows(GedTekenset::CP850, "\xB7"), "À"_w);
   EXPECT_EQ(GedNaarWindows(GedTekenset::CP437, "\xB7"), "\xB7");
 }
 
-TEST(GedTekensetTest, TheOtherSetsPassAsTheyAre) {
+TEST(GedTekensetTest, DeAndereSetsBlijvenZoalsZeZijn) {
   constexpr std::string_view kTekst =
       "^~Ren\x82\xE2"
       "e";

@@ -1,6 +1,7 @@
 // The first pass: which files are refused, and the records that are made before that shows.
 #include <gtest/gtest.h>
 
+#include "exchange/GedRegel.h"
 #include "exchange/ImportToets.h"
 
 namespace lb77 {
@@ -20,13 +21,13 @@ constexpr std::string_view kGeenLevel = "GEDCOM Fout: Regel begint niet met een 
 constexpr std::string_view kFoutLevel = "GEDCOM Fout: Onjuist levelnummer";
 constexpr std::string_view kGeenHeader = "Fout: Header van GEDCOM-bestand niet gevonden";
 
-TEST_F(ImpAnalyseTest, AnEmptyFile) {
+TEST_F(ImpAnalyseTest, EenLeegBestand) {
   Geweigerd("", "GEDCOM Fout: Leeg bestand");
   Geweigerd("\xEF\xBB\xBF", "GEDCOM Fout: Leeg bestand");
   EXPECT_EQ(Aantallen(), "1 1 1 1");
 }
 
-TEST_F(ImpAnalyseTest, AFileWithoutAHeader) {
+TEST_F(ImpAnalyseTest, EenBestandZonderHoofd) {
   Geweigerd("0 @I1@ INDI\n0 TRLR\n", kGeenHeader);
   Geweigerd("\n0 HEAD\n0 TRLR\n", kGeenHeader);
   Geweigerd("zomaar een tekst", kGeenHeader);
@@ -34,14 +35,14 @@ TEST_F(ImpAnalyseTest, AFileWithoutAHeader) {
   EXPECT_EQ(Aantallen(), "1 1 1 1");
 }
 
-TEST_F(ImpAnalyseTest, TwoHeadersKeepTheRecordsThatWereMade) {
+TEST_F(ImpAnalyseTest, TweeHoofdenHoudenDeGemaakteRecords) {
   Geweigerd("0 HEAD\n0 @I1@ INDI\n1 NAME Jan //\n0 HEAD\n0 @I2@ INDI\n0 TRLR\n",
             "GEDCOM Fout: bestand heeft 2 headers");
   EXPECT_EQ(Aantallen(), "2 1 1 1");
   EXPECT_EQ(Persoon(2), "");
 }
 
-TEST_F(ImpAnalyseTest, ALineThatCannotBeSplit) {
+TEST_F(ImpAnalyseTest, EenRegelDieNietGesplitstKanWorden) {
   Geweigerd("0 HEAD\n0 @I1@ INDI\nrommel\n0 @I2@ INDI\n0 TRLR\n", kGeenLevel);
   Geweigerd("0 HEAD\n\n0 TRLR\n", kGeenLevel);
   Geweigerd("0 HEAD\n1 \n0 TRLR\n", kGeenLevel);
@@ -52,12 +53,12 @@ TEST_F(ImpAnalyseTest, ALineThatCannotBeSplit) {
   EXPECT_EQ(Aantallen(), "2 1 1 1");
 }
 
-TEST_F(ImpAnalyseTest, ALevelZeroMayBeWrittenWithMoreZeros) {
+TEST_F(ImpAnalyseTest, NiveauNulMagMetMeerNullen) {
   Importeer("00 HEAD\n000 @I1@ INDI\n01 NAME Jan //\n0 TRLR\n");
   EXPECT_EQ(Persoon(2), "voor Jan");
 }
 
-TEST_F(ImpAnalyseTest, NulBytesPassThroughWithoutHarm) {
+TEST_F(ImpAnalyseTest, NulBytesGaanErZonderSchadeDoor) {
   using namespace std::string_literals;
   Geweigerd("\0\0\0\0"s, kGeenHeader);
   Geweigerd("0 HEAD\n\0\0\0\n0 TRLR\n"s, kGeenLevel);
@@ -66,7 +67,7 @@ TEST_F(ImpAnalyseTest, NulBytesPassThroughWithoutHarm) {
   EXPECT_EQ(Persoon(2), "voor J\0an; opm 4096"s);
 }
 
-TEST_F(ImpAnalyseTest, AllKindsOfLineEnds) {
+TEST_F(ImpAnalyseTest, AlleSoortenRegeleinden) {
   for (const std::string_view eind : {"\n", "\r\n", "\r"}) {
     std::string bytes;
     for (const std::string_view regel :
@@ -80,12 +81,12 @@ TEST_F(ImpAnalyseTest, AllKindsOfLineEnds) {
   EXPECT_EQ(Aantallen(), "5 1 1 1");
 }
 
-TEST_F(ImpAnalyseTest, LinesMayBeIndented) {
+TEST_F(ImpAnalyseTest, RegelsMogenInspringen) {
   Importeer("  0 HEAD\n 0 @I1@ INDI\n    1 NAME Jan //\n0 TRLR\n");
   EXPECT_EQ(Persoon(2), "voor Jan");
 }
 
-TEST_F(ImpAnalyseTest, LinesOfAMegabyte) {
+TEST_F(ImpAnalyseTest, RegelsVanEenMegabyte) {
   const std::string lang(1 << 20, 'x');
   Importeer("0 HEAD\n0 @" + lang + "@ INDI\n1 NAME " + lang + " /" + lang + "/\n1 OCCU " + lang +
             "\n1 BIRT\n2 PLAC " + lang + "\n2 DATE " + lang + "\n1 SEX " + lang + "\n1 NOTE " +
@@ -95,17 +96,22 @@ TEST_F(ImpAnalyseTest, LinesOfAMegabyte) {
                             "; te 2; beroep " + lang.substr(0, 30));
   EXPECT_EQ(Plaats(2), lang.substr(0, 25));
   EXPECT_EQ(OpmBijRelatie(2), "-256 TYPE:\n");  // and there it stops, at a word that is too long
-  EXPECT_EQ(LogRegels(), "");
+  EXPECT_EQ(LogRegels(),
+            "LET OP: plaatsnaam afgekapt: 1 keer, voor het eerst in regel 6\n"
+            "LET OP: naam afgekapt: 1 keer, voor het eerst in regel 3\n"
+            "LET OP: beroep afgekapt: 1 keer, voor het eerst in regel 4\n"
+            "LET OP: opmerking afgekapt na tien regels: 2 keer, voor het eerst in regel 9\n");
 }
 
-TEST_F(ImpAnalyseTest, ALongLineUnderAnUnknownTagIsLoggedWhole) {
+TEST_F(ImpAnalyseTest, EenLangeRegelOnderEenOnbekendLabelStaatHeelInHetVerslag) {
   const std::string lang(1 << 20, 'x');
   Importeer("0 HEAD\n1 ABCD " + lang + "\n1 " + lang + "\n0 TRLR\n");
   EXPECT_EQ(LogRegels(), "H-Header - Onbekende tag: HEAD-ABCD : " + lang +
-                             "\nH-Header - Onbekende tag: HEAD-" + lang + " : \n");
+                             "\nH-Header - Onbekende tag: HEAD-" + lang.substr(0, kLangsteTag) +
+                             " : \n");
 }
 
-TEST_F(ImpAnalyseTest, RecordsTakeTheNumbersBehindTheHighest) {
+TEST_F(ImpAnalyseTest, RecordsKrijgenDeNummersAchterHetHoogste) {
   Reeks(3);
   Bouw().Relatie(2, 3);
   Importeer(Ged("0 @I7@ INDI\n1 NAME Zes //\n1 FAMS @F1@\n0 @F1@ FAM\n1 HUSB @I7@"));
@@ -114,7 +120,7 @@ TEST_F(ImpAnalyseTest, RecordsTakeTheNumbersBehindTheHighest) {
   EXPECT_EQ(Relatie(3), "man 5");
 }
 
-TEST_F(ImpAnalyseTest, AWrongCountIsToldInTheFirstAndTheThirdPass) {
+TEST_F(ImpAnalyseTest, EenVerkeerdAantalWordtInDeEersteEnDerdeGangGemeld) {
   const auto pad = Map() / "PROEF" / "PROEF.PRS";
   std::string bytes = LeesBytes(pad);
   bytes[55] = 5;

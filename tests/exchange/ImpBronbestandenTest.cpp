@@ -127,7 +127,7 @@ class ImpBronbestanden : public ImportToets, public ::testing::WithParamInterfac
   }
 };
 
-TEST_P(ImpBronbestanden, ComesInWithAllItsRecordsAndLinks) {
+TEST_P(ImpBronbestanden, KomtBinnenMetAlZijnRecordsEnVerwijzingen) {
   const Geval& geval = GetParam();
   const auto pad = Pad(geval.bestand);
   if (!std::filesystem::exists(pad)) GTEST_SKIP() << pad << " is absent";
@@ -144,19 +144,16 @@ TEST_P(ImpBronbestanden, ComesInWithAllItsRecordsAndLinks) {
 
 INSTANTIATE_TEST_SUITE_P(
     Data, ImpBronbestanden,
-    ::testing::Values(Geval{"royal92.ged", 3010, 1422,
-                            "! uitroep \"Meer dan 5 relaties voor Persoon 829\""},
-                      Geval{"ibmpc-cp437-broskeep.ged", 2145, 1042},
-                      Geval{"ansi-cp1252-ftm17.ged", 178, 113},
-                      Geval{"ansel-lf.ged", 35, 1,
-                            "! uitroep \"Opslaan van Kind16 is nog niet geprogrammeerd\"\n"
-                            "! uitroep \"Meer dan 29 kinderen voor Relatie 2\""},
-                      Geval{"tgc55clf.ged", 15, 7}, Geval{"kennedy.ged", 208, 75},
-                      Geval{"queen.ged", 4683, 2863,
-                            "! uitroep \"Meer dan 5 relaties voor Persoon 321\"\n"
-                            "! uitroep \"Meer dan 5 relaties voor Persoon 740\""},
-                      Geval{"bronte.ged", 14, 4}, Geval{"vendor-gramps.ged", 5, 2},
-                      Geval{"structural-edge-cases.ged", 10, 3}));
+    ::testing::Values(
+        Geval{"royal92.ged", 3010, 1422, "! uitroep \"Meer dan 5 relaties voor Persoon 829\""},
+        Geval{"ibmpc-cp437-broskeep.ged", 2145, 1042}, Geval{"ansi-cp1252-ftm17.ged", 178, 113},
+        Geval{"ansel-lf.ged", 35, 1, "! uitroep \"Meer dan 29 kinderen voor Relatie 2\""},
+        Geval{"tgc55clf.ged", 15, 7}, Geval{"kennedy.ged", 208, 75},
+        Geval{"queen.ged", 4683, 2863,
+              "! uitroep \"Meer dan 5 relaties voor Persoon 321\"\n"
+              "! uitroep \"Meer dan 5 relaties voor Persoon 740\""},
+        Geval{"bronte.ged", 14, 4}, Geval{"vendor-gramps.ged", 5, 2},
+        Geval{"structural-edge-cases.ged", 10, 3}));
 
 }  // namespace
 }  // namespace lb77

@@ -20,6 +20,7 @@ class ImpGedcomTest : public ImportToets {
              const Plek& plek = Plek::current()) {
     const Taak taak = [](Hoofdmodule& hoofd) {
       ASSERT_TRUE(Start(hoofd));
+      hoofd.ActieveSetNaam = "PROEF";
       ImpGedcom form(hoofd);
       hoofd.gesprek.ToonModaal(form);
     };
@@ -30,12 +31,13 @@ class ImpGedcomTest : public ImportToets {
 
 constexpr std::string_view kOpen = "+ ImpGedcom \"Importeer Gegevens - Gedcom\"\n";
 
-TEST_F(ImpGedcomTest, OpensEmptyAndWithoutALabelOfWork) {
+TEST_F(ImpGedcomTest, OpentLeegEnZonderLabelVanWerk) {
   Speel("toon\ndruk BackButton", R"(
       + ImpGedcom "Importeer Gegevens - Gedcom"
       : ImpGedcom "Importeer Gegevens - Gedcom"
       = Bestandsnaam ""
       = BrowseButton "&Browse"
+      = DoelLabel "Wordt toegevoegd aan PROEF (0 personen)"
       = Pass1Label "Bezig met ... ==>" [verborgen]
       = Pass1box uit [uit]
       = Pass2Label "Bezig met ... ==>" [verborgen]
@@ -56,7 +58,7 @@ TEST_F(ImpGedcomTest, OpensEmptyAndWithoutALabelOfWork) {
     )");
 }
 
-TEST_F(ImpGedcomTest, AfterARunItShowsTheCountsOfTheLastPass) {
+TEST_F(ImpGedcomTest, NaAfloopStaanErDeTellingenVanDeLaatsteGang) {
   SchrijfBytes(Bestand(), GedIn("ANSEL", R"(
       0 @I1@ INDI
       1 NAME Andr)"
@@ -78,6 +80,7 @@ TEST_F(ImpGedcomTest, AfterARunItShowsTheCountsOfTheLastPass) {
       = Bestandsnaam ")" + Bestand().string() +
                                                                              R"("
       = BrowseButton "&Browse"
+      = DoelLabel "Wordt toegevoegd aan PROEF (2 personen)"
       = Pass1Label "Bezig met ... ==>" [verborgen]
       = Pass1box aan [uit]
       = Pass2Label "Bezig met ... ==>" [verborgen]
@@ -98,7 +101,7 @@ TEST_F(ImpGedcomTest, AfterARunItShowsTheCountsOfTheLastPass) {
     )");
 }
 
-TEST_F(ImpGedcomTest, AsksForAFileFirst) {
+TEST_F(ImpGedcomTest, VraagtEerstEenBestand) {
   Speel("druk OKButton\nvul Bestandsnaam \"  \"\ndruk OKButton\ndruk BackButton",
         std::string(kOpen) + R"(
       ! uitroep "Geen GEDCOM-bestand gekozen"
@@ -107,7 +110,7 @@ TEST_F(ImpGedcomTest, AsksForAFileFirst) {
     )");
 }
 
-TEST_F(ImpGedcomTest, BrowsesFromTheTextDirectory) {
+TEST_F(ImpGedcomTest, BladertVanafDeTekstmap) {
   SchrijfBytes(Bestand(), Ged("0 @I1@ INDI"));
   Speel("bestand " + Bestand().string() + "\ndruk BrowseButton\ntoon Bestandsnaam\nbestand\n" +
             "druk BrowseButton\ntoon Bestandsnaam\ndruk OKButton\ndruk BackButton\ndruk BackButton",
@@ -126,11 +129,12 @@ TEST_F(ImpGedcomTest, BrowsesFromTheTextDirectory) {
   EXPECT_EQ(Aantallen(), "2 1 1 1");
 }
 
-TEST_F(ImpGedcomTest, OneFileIsNotReadTwiceByOneMoreClick) {
+TEST_F(ImpGedcomTest, EenBestandWordtNietTweemaalGelezenDoorNogEenKlik) {
   SchrijfBytes(Bestand(), Ged("0 @I1@ INDI"));
   VerwachtFout(Vul() + "druk OKButton\ndruk BackButton\ndruk OKButton",
                Sessie([](Hoofdmodule& hoofd) {
                  ASSERT_TRUE(Start(hoofd));
+                 hoofd.ActieveSetNaam = "PROEF";
                  ImpGedcom form(hoofd);
                  hoofd.gesprek.ToonModaal(form);
                }),
@@ -138,7 +142,7 @@ TEST_F(ImpGedcomTest, OneFileIsNotReadTwiceByOneMoreClick) {
   EXPECT_EQ(Aantallen(), "2 1 1 1");
 }
 
-TEST_F(ImpGedcomTest, AFileThatIsGone) {
+TEST_F(ImpGedcomTest, EenBestandDatWegIs) {
   Speel(Vul() + "druk OKButton\ndruk BackButton\ndruk BackButton", std::string(kOpen) + R"(
       ! uitroep "Bestand niet gevonden"
       + ToonTekst "Importeren - Resultaat"
@@ -147,7 +151,7 @@ TEST_F(ImpGedcomTest, AFileThatIsGone) {
     )");
 }
 
-TEST_F(ImpGedcomTest, ADirectoryIsNoFile) {
+TEST_F(ImpGedcomTest, EenMapIsGeenBestand) {
   Speel("vul Bestandsnaam " + Map().string() + "\ndruk OKButton\ndruk BackButton\ndruk BackButton",
         std::string(kOpen) + R"(
       ! stop "Leesfout: Pad is een directory"
@@ -157,7 +161,7 @@ TEST_F(ImpGedcomTest, ADirectoryIsNoFile) {
     )");
 }
 
-TEST_F(ImpGedcomTest, TheLogItselfCannotBeImported) {
+TEST_F(ImpGedcomTest, HetVerslagZelfKanNietWordenIngelezen) {
   const auto log = TekstMap() / "GEDCOM.LOG";
   SchrijfBytes(log, Ged("0 @I1@ INDI"));
   Speel("vul Bestandsnaam " + log.string() + "\ndruk OKButton\ndruk BackButton\ndruk BackButton",
@@ -171,13 +175,13 @@ TEST_F(ImpGedcomTest, TheLogItselfCannotBeImported) {
   EXPECT_EQ(Aantallen(), "1 1 1 1");
 }
 
-TEST_F(ImpGedcomTest, ATextDirectoryThatIsGoneIsMade) {
+TEST_F(ImpGedcomTest, EenTekstmapDieWegIsWordtGemaakt) {
   EXPECT_FALSE(std::filesystem::exists(TekstMap()));
   Importeer(Ged("0 @I1@ INDI"));
   EXPECT_EQ(Log(), "Importeren voltooid\r\n");
 }
 
-TEST_F(ImpGedcomTest, ALogThatCannotBeWrittenEndsTheRunBeforeItStores) {
+TEST_F(ImpGedcomTest, EenVerslagDatNietTeSchrijvenIsStoptVoorHetOpslaan) {
   SchrijfBytes(TekstMap(), "een bestand op de plaats van de map");
   SchrijfBytes(Bestand(), Ged("0 @I1@ INDI"));
   Speel(Vul() + "druk OKButton\ndruk BackButton\ndruk BackButton", std::string(kOpen) + R"(
@@ -189,7 +193,7 @@ TEST_F(ImpGedcomTest, ALogThatCannotBeWrittenEndsTheRunBeforeItStores) {
   EXPECT_EQ(Aantallen(), "1 1 1 1");
 }
 
-TEST_F(ImpGedcomTest, AnErrorOfTheFirstPassStillTicksTheBoxes) {
+TEST_F(ImpGedcomTest, EenFoutInDeEersteGangZetDeVinkjesToch) {
   SchrijfBytes(Bestand(), "0 HEAD\n0 HEAD\n");
   Speel(Vul() + "druk OKButton\ndruk BackButton\ntoon Pass1box\ntoon Pass3box\ndruk BackButton",
         std::string(kOpen) + R"(
@@ -236,11 +240,12 @@ class Vinkgebruiker final : public Gesprek {
   std::filesystem::path bestand_;
 };
 
-TEST_F(ImpGedcomTest, TheMessageOfCodePage850CanBeSilencedForOneImport) {
+TEST_F(ImpGedcomTest, DeMeldingVanCodepagina850KanVoorEenImportWeg) {
   SchrijfBytes(Bestand(), GedIn("CP850", "0 @I1@ INDI\n1 NAME Andr\x82 /Sm\x9Bt/\n1 OCCU \x82"));
   Vinkgebruiker gebruiker(Bestand());
   for (int keer = 1; keer <= 2; ++keer) {
     Sessie([](Hoofdmodule& hoofd) {
+      hoofd.ActieveSetNaam = "PROEF";
       ImpGedcom form(hoofd);
       hoofd.gesprek.ToonModaal(form);
     })(gebruiker);
@@ -249,7 +254,7 @@ TEST_F(ImpGedcomTest, TheMessageOfCodePage850CanBeSilencedForOneImport) {
   EXPECT_EQ(Persoon(3), "voor Andr\xE9; achter Sm\xF8t; beroep \xE9");
 }
 
-TEST_F(ImpGedcomTest, AWholeFamilyAndItsLog) {
+TEST_F(ImpGedcomTest, EenHeleFamilieEnHaarVerslag) {
   const std::string bytes = LeesBytes(BronMap() / "tests/gouden/import.ged");
   ASSERT_FALSE(bytes.empty());
   Importeer(bytes);
@@ -258,6 +263,24 @@ TEST_F(ImpGedcomTest, AWholeFamilyAndItsLog) {
     VerwachtGouden("import." + std::string(soort),
                    LeesBytes(Map() / "PROEF" / ("PROEF." + std::string(soort))));
   }
+}
+
+TEST_F(ImpGedcomTest, HetVensterZegtWaarHetBestandHeengaat) {
+  const auto doel = [this] {
+    std::string tekst;
+    InSessie([&tekst](Hoofdmodule& hoofd) {
+      hoofd.ActieveSetNaam = "PROEF";
+      ImpGedcom form(hoofd);
+      ASSERT_TRUE(form.Laad());
+      tekst = form.DoelLabel.Bijschrift();
+    });
+    return tekst;
+  };
+  EXPECT_EQ(doel(), "Wordt toegevoegd aan PROEF (0 personen)");
+  Importeer(Ged("0 @I1@ INDI\n1 NAME Jan //"));
+  EXPECT_EQ(doel(), "Wordt toegevoegd aan PROEF (1 persoon)");
+  Importeer(Ged("0 @I1@ INDI\n1 NAME Piet //"));
+  EXPECT_EQ(doel(), "Wordt toegevoegd aan PROEF (2 personen)");
 }
 
 }  // namespace

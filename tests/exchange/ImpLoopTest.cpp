@@ -10,7 +10,7 @@ namespace {
 
 class ImpLoopTest : public ImportToets {};
 
-TEST_F(ImpLoopTest, AnselIsConverted) {
+TEST_F(ImpLoopTest, AnselWordtOmgezet) {
   Importeer(GedIn("ANSEL",
                   "0 @I1@ INDI\n1 NAME Andr\xE2"
                   "e /M\xE8uller/\n1 OCCU caf\xE2"
@@ -23,37 +23,37 @@ TEST_F(ImpLoopTest, AnselIsConverted) {
 }
 
 // kept: the export leaves place names unconverted though its header says ANSEL.
-TEST_F(ImpLoopTest, APlaceThatWasExportedWithAnAccentIsMisread) {
+TEST_F(ImpLoopTest, EenPlaatsDieMetAccentIsUitgevoerdWordtVerkeerdGelezen) {
   Importeer(GedIn("ANSEL", "0 @I1@ INDI\n1 BIRT\n2 PLAC D\xFCsseldorf"));
   EXPECT_EQ(Plaats(2), "D?_252_?sseldorf");
 }
 
-TEST_F(ImpLoopTest, CodePage437IsConvertedUnderBothItsNames) {
+TEST_F(ImpLoopTest, Codepagina437WordtOnderBeideNamenOmgezet) {
   Importeer(GedIn("IBMPC", "0 @I1@ INDI\n1 NAME Andr\x82 //"));
   Importeer(GedIn("CP437", "0 @I1@ INDI\n1 NAME Andr\x82 //"));
   EXPECT_EQ(Persoon(2), "voor Andr\xE9");
   EXPECT_EQ(Persoon(3), "voor Andr\xE9");
 }
 
-TEST_F(ImpLoopTest, OtherSetsLeaveTheTextAsItIs) {
+TEST_F(ImpLoopTest, AndereSetsLatenDeTekstZoalsHijIs) {
   for (const std::string_view set : {"ASCII", "WIN", "ANSI", "UTF-8", ""}) {
     Importeer(GedIn(set, "0 @I1@ INDI\n1 NAME Andr\xE9 //"));
   }
   for (std::int16_t nr = 2; nr <= 6; ++nr) EXPECT_EQ(Persoon(nr), "voor Andr\xE9");
 }
 
-TEST_F(ImpLoopTest, WithoutACharacterSetTheTextStaysAsItIs) {
+TEST_F(ImpLoopTest, ZonderTekensetBlijftDeTekstZoalsHijIs) {
   Importeer(Ged("0 @I1@ INDI\n1 NAME Andr\xE9 //"));
   EXPECT_EQ(Persoon(2), "voor Andr\xE9");
 }
 
-TEST_F(ImpLoopTest, TheSetMayStandWithTheSenderAndUnderAnotherName) {
+TEST_F(ImpLoopTest, DeTekensetMagBijDeInzenderEnOnderEenAndereNaamStaan) {
   Importeer(Ged("1 CHARSET IBMPC\n0 @I1@ INDI\n1 NAME Andr\x82 //"));
   Importeer(Ged("0 @M1@ SUBM\n1 CHAR IBMPC\n0 @I1@ INDI\n1 NAME Andr\x82 //"));
   EXPECT_EQ(Persoon(2) + Persoon(3), "voor Andr\xE9voor Andr\xE9");
 }
 
-TEST_F(ImpLoopTest, ASetThatComesLateHoldsFromThereOnAndForAllRemarks) {
+TEST_F(ImpLoopTest, EenLateTekensetGeldtVanDaarAfEnVoorAlleOpmerkingen) {
   Importeer(
       Ged("0 @I1@ INDI\n1 NAME Andr\x82 //\n1 NOTE Andr\x82\n"
           "0 @M1@ SUBM\n1 CHAR IBMPC\n0 @I2@ INDI\n1 NAME Andr\x82 //"));
@@ -63,14 +63,14 @@ TEST_F(ImpLoopTest, ASetThatComesLateHoldsFromThereOnAndForAllRemarks) {
 }
 
 // A box a text; in a window the first one can silence the others.
-TEST_F(ImpLoopTest, CodePage850SaysItsOddMessageForEachText) {
+TEST_F(ImpLoopTest, Codepagina850MeldtZichBijElkeTekst) {
   const std::string box =
       "! info \"Codepage 860 wordt nog niet ondersteund.\\nCodepage 437 wordt gebruikt\"\n";
   Importeer(GedIn("CP850", "0 @I1@ INDI\n1 NAME Andr\x82 /Sm\x9Bt/\n1 OCCU \x9D"), box + box + box);
   EXPECT_EQ(Persoon(2), "voor Andr\xE9; achter Sm\xF8t; beroep /O");
 }
 
-TEST_F(ImpLoopTest, APlaceIsStoredOnceWhateverItsCase) {
+TEST_F(ImpLoopTest, EenPlaatsWordtEenmaalOpgeslagenGrootOfKlein) {
   Bouw().Plaats("delft", "ZH");
   Importeer(Ged("0 @I1@ INDI\n1 BIRT\n2 PLAC DELFT\n1 DEAT\n2 PLAC Breda\n1 BURI\n2 PLAC  breda"));
   EXPECT_EQ(Persoon(2), "te 2; te 3; te 3");
@@ -78,7 +78,7 @@ TEST_F(ImpLoopTest, APlaceIsStoredOnceWhateverItsCase) {
   EXPECT_EQ(Aantallen(), "2 1 3 1");
 }
 
-TEST_F(ImpLoopTest, APlaceLosesItsMarksOfDoubt) {
+TEST_F(ImpLoopTest, EenPlaatsVerliestHaarTekensVanTwijfel) {
   Importeer(Ged(R"(
       0 @I1@ INDI
       1 BIRT
@@ -96,17 +96,17 @@ TEST_F(ImpLoopTest, APlaceLosesItsMarksOfDoubt) {
   EXPECT_EQ(Aantallen(), "3 1 2 1");
 }
 
-TEST_F(ImpLoopTest, APlaceKeepsItsBracketsAndCommas) {
+TEST_F(ImpLoopTest, EenPlaatsHoudtHaakjesEnKommas) {
   Importeer(Ged("0 @I1@ INDI\n1 BIRT\n2 PLAC Delft, ZH (NL)"));
   EXPECT_EQ(Plaats(2), "Delft, ZH (NL)");
 }
 
-TEST_F(ImpLoopTest, APlaceOutsideCodePage437IsFoundAgain) {
+TEST_F(ImpLoopTest, EenPlaatsBuitenCodepagina437WordtTeruggevonden) {
   Importeer(Ged("0 @I1@ INDI\n1 BIRT\n2 PLAC \xC2mes\n1 DEAT\n2 PLAC \xC2mes"));
   EXPECT_EQ(Persoon(2), "te 2; te 2");
 }
 
-TEST_F(ImpLoopTest, PlacesAreCutToTheirFieldBeforeTheyAreLookedUp) {
+TEST_F(ImpLoopTest, PlaatsenWordenAfgekaptVoorZeWordenOpgezocht) {
   Importeer(
       Ged("0 @I1@ INDI\n1 BIRT\n2 PLAC 1234567890123456789012345 een\n"
           "1 DEAT\n2 PLAC 1234567890123456789012345 twee"));

@@ -29,7 +29,7 @@ class ImpMaximum : public ImportToets {
   }
 };
 
-TEST_F(ImpMaximum, PersonsThatFitAreMadeAndTheRunEnds) {
+TEST_F(ImpMaximum, PersonenDiePassenWordenGemaaktEnDeImportStopt) {
   Bouw().Man("Jan", "Jansen");
   Vul("PRS", 128, persoonveld::GebPlaatsNr.plaats, 32766, -1);
   ImporteerMet(Ged("0 @I1@ INDI\n1 NAME Piet //\n0 @I2@ INDI\n0 @I3@ INDI"), kMaximum, false);
@@ -40,14 +40,14 @@ TEST_F(ImpMaximum, PersonsThatFitAreMadeAndTheRunEnds) {
   EXPECT_EQ(Log(), "");
 }
 
-TEST_F(ImpMaximum, RelationsThatFitAreMadeAndTheRunEnds) {
+TEST_F(ImpMaximum, RelatiesDiePassenWordenGemaaktEnDeImportStopt) {
   Bouw().Relatie(0, 0);
   Vul("RLT", 64, relatieveld::ManNr.plaats, 32766, -1);
   ImporteerMet(Ged("0 @F1@ FAM\n0 @F2@ FAM\n0 @F3@ FAM"), kMaximum, false);
   EXPECT_EQ(Aantallen(), "1 32767 1 1");
 }
 
-TEST_F(ImpMaximum, AFourthRelationWithoutARecordLeavesTheThreeInPlace) {
+TEST_F(ImpMaximum, EenVierdeRelatieZonderRecordLaatDeDrieStaan) {
   Bouw().Man("Jan", "Jansen");
   Vul("PRS", 128, persoonveld::GebPlaatsNr.plaats, 32766, -1);
   ImporteerMet(Ged(R"(
@@ -66,7 +66,7 @@ TEST_F(ImpMaximum, AFourthRelationWithoutARecordLeavesTheThreeInPlace) {
   EXPECT_EQ(Persoon(32767), "voor Piet; rel1 2; rel2 3; rel3 4");
 }
 
-TEST_F(ImpMaximum, ASixteenthChildWithoutARecordLeavesTheFifteenInPlace) {
+TEST_F(ImpMaximum, EenZestiendeKindZonderRecordLaatDeVijftienStaan) {
   Bouw().Relatie(0, 0);
   Vul("RLT", 64, relatieveld::ManNr.plaats, 32766, -1);
   std::string regels = "0 @I1@ INDI\n0 @F1@ FAM\n";
@@ -75,7 +75,7 @@ TEST_F(ImpMaximum, ASixteenthChildWithoutARecordLeavesTheFifteenInPlace) {
   EXPECT_EQ(Relatie(32767), "kind 2 2 2 2 2 2 2 2 2 2 2 2 2 2 2");
 }
 
-TEST_F(ImpMaximum, PlacesThatAreFullAreToldOnceAndKnownOnesAreFound) {
+TEST_F(ImpMaximum, VollePlaatsenWordenEenmaalGemeldEnBekendeGevonden) {
   Bouw().Plaats("Delft");
   Vul("PLT", 27, plaatsveld::Prov.plaats, 9999, -1);
   Importeer(Ged(R"(
@@ -99,7 +99,7 @@ TEST_F(ImpMaximum, PlacesThatAreFullAreToldOnceAndKnownOnesAreFound) {
   EXPECT_EQ(Plaats(2), "Delft");
 }
 
-TEST_F(ImpMaximum, RemarksThatFitAreStoredAndTheRunEnds) {
+TEST_F(ImpMaximum, OpmerkingenDiePassenWordenOpgeslagenEnDeImportStopt) {
   Bouw().OpmerkingBijPersoon(Bouw().Man("Jan", "Jansen"), 4096, {"oud"});
   Vul("OPM", 96, opmveld::Rubriek.plaats, 32766, 0);
   InSessie([](Hoofdmodule& hoofd) {
@@ -119,6 +119,9 @@ TEST_F(ImpMaximum, RemarksThatFitAreStoredAndTheRunEnds) {
   EXPECT_EQ(Persoon(3), "voor Piet; opm 4096");
   EXPECT_EQ(OpmBijPersoon(3), "4096 een\n");
   EXPECT_EQ(OpmBijPersoon(2), "4096 oud\n");
+  EXPECT_EQ(LogRegels(),
+            "Opmerkingen vanaf persoon 3 zijn niet opgeslagen: het maximum van 32767 records is "
+            "bereikt\n");
 }
 
 }  // namespace

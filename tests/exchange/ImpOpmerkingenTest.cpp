@@ -26,18 +26,18 @@ class ImpOpmerkingenTest : public ImportToets {
   }
 };
 
-TEST_F(ImpOpmerkingenTest, ANoteGoesOnWithOrWithoutABlank) {
+TEST_F(ImpOpmerkingenTest, EenNotitieGaatVerderMetOfZonderSpatie) {
   EXPECT_EQ(BijPersoon("1 NOTE Een\n2 CONT twee\n2 CONC drie\n2 CONT  vier"),
             "4096 Een tweedrie  vier\n");
   EXPECT_EQ(LogRegels(), "");
 }
 
-TEST_F(ImpOpmerkingenTest, APointerIsText) {
+TEST_F(ImpOpmerkingenTest, EenVerwijzingIsTekst) {
   EXPECT_EQ(BijPersoon("1 NOTE @N1@\n0 @N1@ NOTE tekst\n1 CONT meer"), "4096 @N1@\n");
-  EXPECT_EQ(LogRegels(), "");
+  EXPECT_EQ(LogRegels(), "LET OP: NOTE niet overgenomen: 1 keer, voor het eerst in regel 4\n");
 }
 
-TEST_F(ImpOpmerkingenTest, TagsThatBecomeANote) {
+TEST_F(ImpOpmerkingenTest, LabelsDieEenNotitieWorden) {
   EXPECT_EQ(BijPersoon(R"(1 _COMM a
 1 _ALIA b
 1 ADDR c
@@ -52,12 +52,12 @@ TEST_F(ImpOpmerkingenTest, TagsThatBecomeANote) {
             "4096 i\n");
 }
 
-TEST_F(ImpOpmerkingenTest, ContinuationsOfSuchTagsBelongToTheNote) {
+TEST_F(ImpOpmerkingenTest, VervolgregelsVanZulkeLabelsHorenBijDeNotitie) {
   EXPECT_EQ(BijPersoon("1 ADDR Straat 1\n2 CONT Delft\n1 SOUR @S1@\n2 CONC x"),
             "4096 Adres: Straat 1 Delft\n4096 Bron: @S1@x\n");
 }
 
-TEST_F(ImpOpmerkingenTest, ContinuationsOfOtherTagsAreLoggedWithTabs) {
+TEST_F(ImpOpmerkingenTest, VervolgregelsVanAndereLabelsStaanMetTabsInHetVerslag) {
   EXPECT_EQ(BijPersoon("1 OCCU bakker\n2 CONT en smid\n2 CONC s"), "");
   EXPECT_EQ(LogRegels(),
             "Vervolgregels worden alleen voor NOTES ondersteund...\n"
@@ -66,12 +66,12 @@ TEST_F(ImpOpmerkingenTest, ContinuationsOfOtherTagsAreLoggedWithTabs) {
             "P-I1\tINDI-OCCU-CONC\ts\n");
 }
 
-TEST_F(ImpOpmerkingenTest, ContinuationsOfASenderAreNotTold) {
+TEST_F(ImpOpmerkingenTest, VervolgregelsVanEenInzenderWordenNietGemeld) {
   Importeer(Ged("0 @M1@ SUBM\n1 CONT a\n1 ADDR b\n2 CONT c"));
   EXPECT_EQ(LogRegels(), "");
 }
 
-TEST_F(ImpOpmerkingenTest, EventsAreTold) {
+TEST_F(ImpOpmerkingenTest, GebeurtenissenWordenVerteld) {
   EXPECT_EQ(
       BijPersoon("1 EVEN iets\n2 TYPE Verhuizing\n2 DATE 3 MAY 1890\n2 NOTE zomaar\n2 SOUR @S@"),
       "4096 INDI-EVEN : TYPE: Verhuizing\n4096 INDI-EVEN-DATE : 3 MAY 1890\n"
@@ -79,12 +79,12 @@ TEST_F(ImpOpmerkingenTest, EventsAreTold) {
   EXPECT_EQ(BijRelatie("1 EVEN\n2 PLAC Delft"), "-256 FAM-EVEN-PLAC : Delft\n");
 }
 
-TEST_F(ImpOpmerkingenTest, AdoptionsAreTold) {
+TEST_F(ImpOpmerkingenTest, AdoptiesWordenVerteld) {
   EXPECT_EQ(BijPersoon("1 ADOP\n2 DATE ABT 3 MAY 1890\n2 FAMC @F1@\n2 NOTE zomaar\n3 CONT x"),
             "4096 Adoptie: C 03-05-1890\n4096 Adoptie: @F1@\n4096 Adoptie: zomaar x\n");
 }
 
-TEST_F(ImpOpmerkingenTest, AnAdoptionOnAnUnknownDay) {
+TEST_F(ImpOpmerkingenTest, EenAdoptieOpEenOnbekendeDag) {
   EXPECT_EQ(BijPersoon("1 ADOP\n2 DATE ooit in 18"), "4096 Adoptie:   00-00-0000\n");
   EXPECT_EQ(LogRegels(),
             "P-I1 - Onbekende tag: INDI-ADOP-DATE : ooit in 18\n"
@@ -117,7 +117,7 @@ std::string LijnenVan(std::string_view pad) {
   return uit + std::to_string(level + 1) + " NOTE tekst";
 }
 
-TEST_P(ImpRubriekTest, LandsWithItsElement) {
+TEST_P(ImpRubriekTest, KomtBijZijnOnderdeel) {
   const RubriekGeval& geval = GetParam();
   const std::string verwacht =
       std::to_string(geval.rubriek) + " " + std::string(geval.voor) + "tekst\n";
@@ -165,7 +165,7 @@ INSTANTIATE_TEST_SUITE_P(
         RubriekGeval{"FAM-MARB", -256}, RubriekGeval{"FAM-MARR-DATE", -256},
         RubriekGeval{"FAM-HUSB", -256}));
 
-TEST_F(ImpOpmerkingenTest, TheCodeOfTheOwnerJoinsAllRubrics) {
+TEST_F(ImpOpmerkingenTest, DeCodeVanDeEigenaarVoegtAlleRubriekenSamen) {
   Importeer(Ged(R"(
       0 @I1@ INDI
       1 NOTE a
@@ -188,25 +188,27 @@ TEST_F(ImpOpmerkingenTest, TheCodeOfTheOwnerJoinsAllRubrics) {
   EXPECT_EQ(OpmBijRelatie(2), "-256 d\n-2 e\n-32 f\n");
 }
 
-TEST_F(ImpOpmerkingenTest, NotesOfOtherRecordsAreDropped) {
+TEST_F(ImpOpmerkingenTest, NotitiesVanAndereRecordsVervallen) {
   Importeer(
       Ged("1 NOTE a\n2 CONT b\n0 @I1@ INDI\n0 @S1@ SOUR\n1 NOTE c\n1 TEXT d\n2 CONC e\n"
           "0 @R1@ REPO\n1 NOTE f"));
   EXPECT_EQ(Aantallen(), "2 1 1 1");
-  EXPECT_EQ(LogRegels(), "A-S1 - Onbekende tag: SOUR-TEXT : d\n");
+  EXPECT_EQ(LogRegels(),
+            "A-S1 - Onbekende tag: SOUR-TEXT : d\n"
+            "LET OP: NOTE niet overgenomen: 3 keer, voor het eerst in regel 2\n");
 }
 
-TEST_F(ImpOpmerkingenTest, TheLastNoteOfTheFileIsStoredToo) {
+TEST_F(ImpOpmerkingenTest, OokDeLaatsteNotitieVanHetBestandWordtOpgeslagen) {
   Importeer(Ged("0 @I1@ INDI\n0 @F1@ FAM\n1 NOTE slot"));
   EXPECT_EQ(OpmBijRelatie(2), "-256 slot\n");
 }
 
-TEST_F(ImpOpmerkingenTest, AnEmptyNoteMakesNoRemark) {
+TEST_F(ImpOpmerkingenTest, EenLegeNotitieMaaktGeenOpmerking) {
   EXPECT_EQ(BijPersoon("1 NOTE\n1 NOTE  \n2 CONT"), "");
   EXPECT_EQ(Aantallen(), "2 1 1 1");
 }
 
-TEST_F(ImpOpmerkingenTest, RemarksAreForAllKindsOfOutput) {
+TEST_F(ImpOpmerkingenTest, OpmerkingenZijnVoorAlleSoortenUitvoer) {
   EXPECT_EQ(BijPersoon("1 NOTE a"), "4096 a\n");
   InSessie([](Hoofdmodule& hoofd) {
     hoofd.volgers.HuidigOpmNr = 2;
@@ -216,7 +218,7 @@ TEST_F(ImpOpmerkingenTest, RemarksAreForAllKindsOfOutput) {
   });
 }
 
-TEST_F(ImpOpmerkingenTest, ANoteIsWrappedAtBlanks) {
+TEST_F(ImpOpmerkingenTest, EenNotitieWordtBijSpatiesAfgebroken) {
   const std::string zeventig(70, 'a');
   EXPECT_EQ(BijPersoon("1 NOTE " + zeventig + " bbbbbbbbb cc"),
             "4096 " + zeventig + " bbbbbbbbb|cc\n");
@@ -224,13 +226,13 @@ TEST_F(ImpOpmerkingenTest, ANoteIsWrappedAtBlanks) {
             "4096 " + zeventig + "|bbbbbbbbbb cc\n");
 }
 
-TEST_F(ImpOpmerkingenTest, AWordThatIsTooLongEndsTheRemark) {
+TEST_F(ImpOpmerkingenTest, EenTeLangWoordEindigtDeOpmerking) {
   const std::string lang(81, 'x');
   EXPECT_EQ(BijPersoon("1 NOTE begin " + lang + " eind"), "4096 begin\n");
   EXPECT_EQ(BijPersoon("1 NOTE " + lang + " eind"), "");
 }
 
-TEST_F(ImpOpmerkingenTest, ARemarkHasTenLinesAtMost) {
+TEST_F(ImpOpmerkingenTest, EenOpmerkingHeeftHoogstensTienRegels) {
   std::string tekst = "1 NOTE";
   std::string verwacht = "4096 ";
   for (int i = 0; i < 12; ++i) {
@@ -241,21 +243,34 @@ TEST_F(ImpOpmerkingenTest, ARemarkHasTenLinesAtMost) {
   EXPECT_EQ(BijPersoon(tekst), verwacht + "\n");
 }
 
-TEST_F(ImpOpmerkingenTest, AMarkAndItsLetterOnTwoLinesBecomeOneCharacter) {
+TEST_F(ImpOpmerkingenTest, EenAccentEnZijnLetterOpTweeRegelsWordenEenTeken) {
   Importeer("0 HEAD\n1 CHAR ANSEL\n0 @I1@ INDI\n1 NOTE Andr\xE2\n2 CONC e\n0 TRLR\n");
   EXPECT_EQ(OpmBijPersoon(2), "4096 Andr\xE9\n");
 }
 
-TEST_F(ImpOpmerkingenTest, RemarksFollowThoseThatThePersonHasAlready) {
+TEST_F(ImpOpmerkingenTest, OpmerkingenKomenAchterDieDePersoonAlHeeft) {
   Importeer(Ged("0 @I1@ INDI\n1 NOTE a\n0 @I2@ INDI\n1 NOTE b\n0 @I1@ INDI\n1 NOTE c"));
   EXPECT_EQ(OpmBijPersoon(2) + OpmBijPersoon(3) + OpmBijPersoon(4), "4096 a\n4096 b\n4096 c\n");
 }
 
-TEST_F(ImpOpmerkingenTest, RemarksOfAMuchMarriedPersonGoToTheMainRecord) {
+TEST_F(ImpOpmerkingenTest, OpmerkingenVanEenVeelgehuwdeGaanNaarHetHoofdrecord) {
   std::string regels;
   for (int i = 1; i <= 5; ++i) regels += "1 FAMS @F" + std::to_string(i) + "@\n";
   Importeer("0 HEAD\n0 @I1@ INDI\n" + regels + "1 NOTE a\n0 @I2@ INDI\n1 NOTE b\n0 TRLR\n");
   EXPECT_EQ(OpmBijPersoon(2) + OpmBijPersoon(3) + OpmBijPersoon(4), "4096 a\n4096 b\n");
+}
+
+TEST_F(ImpOpmerkingenTest, EenPadVanEenAnderSoortRecordWordtNietGevolgd) {
+  Importeer(Ged(R"(
+      0 @I1@ INDI
+      1 BIRT
+      0 @F1@ FAM
+      2 NOTE dwaalt
+      1 NOTE hoort hier
+    )"));
+  EXPECT_EQ(OpmBijPersoon(2), "");
+  EXPECT_EQ(OpmBijRelatie(2), "-256 hoort hier\n");
+  EXPECT_EQ(LogRegels(), "LET OP: NOTE niet overgenomen: 1 keer, voor het eerst in regel 5\n");
 }
 
 }  // namespace

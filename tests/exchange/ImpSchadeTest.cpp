@@ -92,7 +92,7 @@ class ImpSchade : public ImportToets {
   std::map<std::string, std::string> bewaard_;
 };
 
-TEST_F(ImpSchade, AFileThatIsCutOffAtAnyByteIsReadAsFarAsItGoes) {
+TEST_F(ImpSchade, EenBestandDatErgensIsAfgekaptWordtGelezenZoverHetGaat) {
   const std::string heel = Voorbeeld();
   Bewaar();
   for (std::size_t lengte = 0; lengte <= heel.size(); ++lengte) {
@@ -115,7 +115,7 @@ TEST_F(ImpSchade, AFileThatIsCutOffAtAnyByteIsReadAsFarAsItGoes) {
 class ImpStoringTest : public ImpSchade,
                        public ::testing::WithParamInterface<std::tuple<bool, bool>> {};
 
-TEST_P(ImpStoringTest, EndsAtAnyOperationWithAMessageAndKeepsWhatWasThere) {
+TEST_P(ImpStoringTest, EindigtBijElkeBewerkingMetEenMeldingEnHoudtWatErWas) {
   const std::int16_t oud = Bouw().Man("Oude", "Man");
   Bouw().Plaats("Delft");
   Bouw().OpmerkingBijPersoon(oud, 4096, {"oude opmerking"});

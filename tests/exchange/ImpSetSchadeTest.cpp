@@ -42,7 +42,7 @@ std::string Beschadigd(Schade schade, std::string bytes) {
 class ImpSetSchade : public ImportToets,
                      public ::testing::WithParamInterface<std::tuple<const char*, Schade>> {};
 
-TEST_P(ImpSetSchade, EndsWithFewBoxes) {
+TEST_P(ImpSetSchade, EindigtMetWeinigMeldingen) {
   const auto [soort, schade] = GetParam();
   const auto oud = Bouw().Man("Oude", "Man");
   Bouw().Relatie(oud, 0);

@@ -26,45 +26,45 @@ std::string X(std::size_t aantal, char teken = 'x') {
   return std::string(aantal, teken);
 }
 
-TEST(OpmAfbrekenTest, AShortTextIsOneLine) {
+TEST(OpmAfbrekenTest, EenKorteTekstIsEenRegel) {
   EXPECT_EQ(Afgebroken("een tekst"), (Regelrij{"een tekst"}));
 }
 
-TEST(OpmAfbrekenTest, NothingIsNoLine) {
+TEST(OpmAfbrekenTest, NietsIsGeenRegel) {
   EXPECT_EQ(Afgebroken(""), Regelrij{});
   EXPECT_EQ(Afgebroken(X(200, ' ')), Regelrij{});
 }
 
-TEST(OpmAfbrekenTest, BlanksAtBothEndsAreLost) {
+TEST(OpmAfbrekenTest, SpatiesAanBeideKantenGaanVerloren) {
   EXPECT_EQ(Afgebroken("  een  tekst  "), (Regelrij{"een  tekst"}));
 }
 
-TEST(OpmAfbrekenTest, EightyCharactersFit) {
+TEST(OpmAfbrekenTest, TachtigTekensPassen) {
   EXPECT_EQ(Afgebroken(X(80)), (Regelrij{X(80)}));
 }
 
-TEST(OpmAfbrekenTest, ABlankBehindTheEightiethCharacterEndsTheLine) {
+TEST(OpmAfbrekenTest, EenSpatieAchterHetTachtigsteTekenEindigtDeRegel) {
   EXPECT_EQ(Afgebroken(X(80) + " y"), (Regelrij{X(80), "y"}));
 }
 
-TEST(OpmAfbrekenTest, ABlankAsTheEightiethCharacterEndsTheLine) {
+TEST(OpmAfbrekenTest, EenSpatieAlsTachtigsteTekenEindigtDeRegel) {
   EXPECT_EQ(Afgebroken(X(79) + " y"), (Regelrij{X(79), "y"}));
 }
 
-TEST(OpmAfbrekenTest, AWordThatDoesNotFitGoesToTheNextLine) {
+TEST(OpmAfbrekenTest, EenWoordDatNietPastGaatNaarDeVolgendeRegel) {
   EXPECT_EQ(Afgebroken(X(76) + " woorden"), (Regelrij{X(76), "woorden"}));
 }
 
-TEST(OpmAfbrekenTest, BlanksBetweenTwoLinesAreLost) {
+TEST(OpmAfbrekenTest, SpatiesTussenTweeRegelsGaanVerloren) {
   EXPECT_EQ(Afgebroken(X(78) + "     woorden"), (Regelrij{X(78), "woorden"}));
 }
 
-TEST(OpmAfbrekenTest, AWordThatIsTooLongEndsTheRemark) {
+TEST(OpmAfbrekenTest, EenTeLangWoordEindigtDeOpmerking) {
   EXPECT_EQ(Afgebroken(X(81) + " en meer"), Regelrij{});
   EXPECT_EQ(Afgebroken("begin " + X(81) + " en meer"), (Regelrij{"begin"}));
 }
 
-TEST(OpmAfbrekenTest, AtMostTenLinesAreTaken) {
+TEST(OpmAfbrekenTest, HoogstensTienRegelsWordenGenomen) {
   std::string tekst;
   Regelrij regels;
   for (char teken = 'a'; teken <= 'k'; ++teken) {
@@ -74,11 +74,21 @@ TEST(OpmAfbrekenTest, AtMostTenLinesAreTaken) {
   EXPECT_EQ(Afgebroken(tekst), regels);
 }
 
-TEST(OpmAfbrekenTest, ATextOfAMegabyteIsCutToTenLines) {
+TEST(OpmAfbrekenTest, EenTekstVanEenMegabyteWordtTienRegels) {
   std::string tekst;
   while (tekst.size() < 1 << 20) tekst += "woord ";
   EXPECT_EQ(Afgebroken(tekst).size(), 10U);
   EXPECT_EQ(Afgebroken(X(1 << 20)), Regelrij{});
+}
+
+TEST(OpmAfbrekenTest, PastGeheelZegtOfErIetsVervalt) {
+  std::string tekst;
+  for (int i = 0; i < 10; ++i) tekst += X(80) + " ";
+  EXPECT_TRUE(PastGeheel(""));
+  EXPECT_TRUE(PastGeheel("  een tekst  "));
+  EXPECT_TRUE(PastGeheel(tekst));
+  EXPECT_FALSE(PastGeheel(tekst + "x"));
+  EXPECT_FALSE(PastGeheel(X(81)));
 }
 
 }  // namespace

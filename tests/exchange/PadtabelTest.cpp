@@ -18,17 +18,17 @@ struct Rij {
 };
 constexpr Rij kRijen[] = {{"A", 1}, {"A-B", 2}, {"A", 3}};
 
-TEST(PadtabelTest, FindsARowByItsPath) {
+TEST(PadtabelTest, VindtEenRijOpHaarPad) {
   const Padtabel<Rij> tabel{kRijen};
   ASSERT_NE(tabel.Zoek("A-B"), nullptr);
   EXPECT_EQ(tabel.Zoek("A-B")->nummer, 2);
 }
 
-TEST(PadtabelTest, OfTwoRowsTheFirstCounts) {
+TEST(PadtabelTest, VanTweeRijenTeltDeEerste) {
   EXPECT_EQ(Padtabel<Rij>{kRijen}.Zoek("A")->nummer, 1);
 }
 
-TEST(PadtabelTest, APathWithoutARowGivesNull) {
+TEST(PadtabelTest, EenPadZonderRijGeeftNull) {
   const Padtabel<Rij> tabel{kRijen};
   for (const std::string_view pad : {"", "B", "A-", "a", "A-B-C"}) {
     EXPECT_EQ(tabel.Zoek(pad), nullptr) << pad;
@@ -42,14 +42,14 @@ void VerwachtVerschillend(std::span<const Tabelrij> rijen, std::size_t aantal) {
   EXPECT_EQ(paden.size(), aantal);
 }
 
-TEST(PadtabelTest, NoPathStandsTwiceInATableOfTheImport) {
+TEST(PadtabelTest, GeenPadStaatTweemaalInEenTabelVanDeImport) {
   VerwachtVerschillend(AllePersoonPaden(), 37);
   VerwachtVerschillend(AlleRelatiePaden(), 53);
   VerwachtVerschillend(AlleOverigePaden(), 49);
   VerwachtVerschillend(AlleOpmRubrieken(), 48);
 }
 
-TEST(PadtabelTest, EachTableHasThePathsOfItsOwnKindOfRecord) {
+TEST(PadtabelTest, ElkeTabelHeeftDePadenVanHaarEigenRecordsoort) {
   for (const PersoonPad& rij : AllePersoonPaden()) EXPECT_TRUE(rij.pad.starts_with("INDI-"));
   for (const RelatiePad& rij : AlleRelatiePaden()) EXPECT_TRUE(rij.pad.starts_with("FAM-"));
   for (const OverigPad& rij : AlleOverigePaden()) {

@@ -35,56 +35,56 @@ class RegelLezerTest : public ::testing::Test {
 
 using Regelrij = std::vector<std::string>;
 
-TEST_F(RegelLezerTest, AnEmptyFileHasNoLines) {
+TEST_F(RegelLezerTest, EenLeegBestandHeeftGeenRegels) {
   Open("");
   EXPECT_TRUE(lezer_.IsAanEinde());
   EXPECT_EQ(Rest(), Regelrij{});
 }
 
-TEST_F(RegelLezerTest, ThreeKindsOfLineEnd) {
+TEST_F(RegelLezerTest, DrieSoortenRegeleinde) {
   EXPECT_EQ(Lees("a\nb\n"), (Regelrij{"a", "b"}));
   EXPECT_EQ(Lees("a\r\nb\r\n"), (Regelrij{"a", "b"}));
   EXPECT_EQ(Lees("a\rb\r"), (Regelrij{"a", "b"}));
 }
 
-TEST_F(RegelLezerTest, TheKindsMayBeMixed) {
+TEST_F(RegelLezerTest, DeSoortenMogenDoorElkaar) {
   EXPECT_EQ(Lees("a\rb\nc\r\nd\n\re"), (Regelrij{"a", "b", "c", "d", "", "e"}));
 }
 
-TEST_F(RegelLezerTest, TheLastLineNeedsNoEnd) {
+TEST_F(RegelLezerTest, DeLaatsteRegelHeeftGeenEindeNodig) {
   EXPECT_EQ(Lees("a\nb"), (Regelrij{"a", "b"}));
 }
 
-TEST_F(RegelLezerTest, EmptyLinesCount) {
+TEST_F(RegelLezerTest, LegeRegelsTellen) {
   EXPECT_EQ(Lees("\n\na\n\n"), (Regelrij{"", "", "a", ""}));
   EXPECT_EQ(Lees("\r\r"), (Regelrij{"", ""}));
 }
 
-TEST_F(RegelLezerTest, ALineFeedBehindTheLastReturnBeginsNoLine) {
+TEST_F(RegelLezerTest, EenLFachterDeLaatsteCRBegintGeenRegel) {
   Open("a\r\n");
   std::string_view regel;
   EXPECT_TRUE(lezer_.Volgende(regel));
   EXPECT_TRUE(lezer_.IsAanEinde());
 }
 
-TEST_F(RegelLezerTest, AByteOrderMarkIsSkippedBeforeTheFirstLineOnly) {
+TEST_F(RegelLezerTest, EenByteOrderMarkWordtAlleenVoorDeEersteRegelOvergeslagen) {
   EXPECT_EQ(Lees("\xEF\xBB\xBF"
                  "0 HEAD\n\xEF\xBB\xBF"),
             (Regelrij{"0 HEAD", "\xEF\xBB\xBF"}));
 }
 
-TEST_F(RegelLezerTest, AFileOfAByteOrderMarkAloneIsEmpty) {
+TEST_F(RegelLezerTest, EenBestandMetAlleenEenByteOrderMarkIsLeeg) {
   Open("\xEF\xBB\xBF");
   EXPECT_TRUE(lezer_.IsAanEinde());
 }
 
-TEST_F(RegelLezerTest, NulBytesAreCharacters) {
+TEST_F(RegelLezerTest, NulBytesZijnTekens) {
   using namespace std::string_literals;
   EXPECT_EQ(Lees("a\0b\n\0"s), (Regelrij{"a\0b"s, "\0"s}));
 }
 
 // Line ends of each kind fall at, before and behind the edge of a block.
-TEST_F(RegelLezerTest, LinesCrossTheEdgeOfABlock) {
+TEST_F(RegelLezerTest, RegelsLopenOverDeRandVanEenBlok) {
   constexpr std::size_t kBlok = 256 * 1024;
   for (const std::string einde : {"\n", "\r", "\r\n"}) {
     for (std::size_t lengte = kBlok - 3; lengte <= kBlok + 3; ++lengte) {
@@ -94,19 +94,19 @@ TEST_F(RegelLezerTest, LinesCrossTheEdgeOfABlock) {
   }
 }
 
-TEST_F(RegelLezerTest, LinesOfAMegabyte) {
+TEST_F(RegelLezerTest, RegelsVanEenMegabyte) {
   const std::string a(1 << 20, 'a');
   const std::string b(3 << 20, 'b');
   EXPECT_EQ(Lees(a + "\n" + b + "\rc\r\n" + a), (Regelrij{a, b, "c", a}));
 }
 
-TEST_F(RegelLezerTest, ManyShortLinesWithoutALineFeed) {
+TEST_F(RegelLezerTest, VeelKorteRegelsZonderLF) {
   std::string bytes;
   for (int i = 0; i < 200000; ++i) bytes += "x\r";
   EXPECT_EQ(Lees(bytes), Regelrij(200000, "x"));
 }
 
-TEST_F(RegelLezerTest, BeginGoesBackToTheFirstLine) {
+TEST_F(RegelLezerTest, BeginGaatTerugNaarDeEersteRegel) {
   Open(
       "\xEF\xBB\xBF"
       "a\nb\n");
@@ -115,24 +115,24 @@ TEST_F(RegelLezerTest, BeginGoesBackToTheFirstLine) {
   EXPECT_EQ(Rest(), (Regelrij{"a", "b"}));
 }
 
-TEST_F(RegelLezerTest, AnotherFileTakesTheFirstOnesPlace) {
+TEST_F(RegelLezerTest, EenAnderBestandNeemtDePlaatsVanHetEerste) {
   Open("a\nb\n");
   std::string_view regel;
   EXPECT_TRUE(lezer_.Volgende(regel));
   EXPECT_EQ(Lees("c\n"), (Regelrij{"c"}));
 }
 
-TEST_F(RegelLezerTest, AFileThatIsNotThereIsNotFound) {
+TEST_F(RegelLezerTest, EenBestandDatErNietIsWordtNietGevonden) {
   EXPECT_EQ(lezer_.Open(map_.Pad() / "geen.ged").nummer, kBestandNietGevonden);
   std::string_view regel;
   EXPECT_FALSE(lezer_.Volgende(regel));
 }
 
-TEST_F(RegelLezerTest, ADirectoryCannotBeRead) {
+TEST_F(RegelLezerTest, EenMapKanNietWordenGelezen) {
   EXPECT_EQ(lezer_.Open(map_.Pad()).tekst, "Pad is een directory");
 }
 
-TEST_F(RegelLezerTest, AClosedReaderIsAtItsEnd) {
+TEST_F(RegelLezerTest, EenGeslotenLezerIsAanHetEinde) {
   Open("a\n");
   lezer_.Sluit();
   EXPECT_TRUE(lezer_.IsAanEinde());

@@ -7,6 +7,7 @@ std::vector<Indeling> Uitwisseling() {
   return {
       {"ImpGedcom", Kolom({
                         Velden({Rij({"Bestandsnaam", "BrowseButton"})}),
+                        "DoelLabel",
                         Groep("Voortgang", {Velden({
                                                Rij({"Pass1Label", "Pass1box"}),
                                                Rij({"Pass2Label", "Pass2box"}),
