@@ -2,12 +2,12 @@
 
 #include "ancestors/KwstSchrijver.h"
 #include "app/Hoofdmodule.h"
-#include "output/TekstSchrijver.h"
-#include "reporting/Tijdelijk.h"
-#include "text/Getallen.h"
 
 namespace lb77 {
 namespace {
+
+constexpr SchrijfSoort kSoort{"KwstMaakTemp", "Kwartierstaat Schrijven",
+                              "Schrijven van de kwartierstaat.", kKwartieren};
 
 constexpr int kOpmMasker = 1;  // the bit "Kwartierstaat (tekst)" of a remark
 
@@ -21,39 +21,21 @@ ZinOpties ZinOptiesVan(const KwstOpties& opties, const IniClass& ini) {
   return zin;
 }
 
+VerslagBestand BestandVan(const KwstOpties& opties, const Instellingen& instellingen,
+                          const std::filesystem::path& pad) {
+  return {pad, opties.KwInHTML ? TekstSchrijver::kGeenRechterMarge : instellingen.Tekstbr()};
+}
+
 }  // namespace
 
 KwstMaakTemp::KwstMaakTemp(Hoofdmodule& hoofd, const KwstOpties& opties, const KwstTabel& tabel,
-                           std::filesystem::path pad)
-    : WerkFormulier("KwstMaakTemp", "Kwartierstaat Schrijven", hoofd),
-      opties_(opties),
-      tabel_(tabel),
-      pad_(std::move(pad)) {
-  Koppel(OKButton, BackButton);
-}
-
-void KwstMaakTemp::Werk() {
-  Hoofdmodule& hoofd = Hoofd();
-  TekstSchrijver uit;
-  if (!OpenTijdelijk(uit, pad_, hoofd.gesprek)) {
-    StopKeten();
-    Sluit();
-    return;
-  }
-  uit.ZetRechterMarge(opties_.KwInHTML ? TekstSchrijver::kGeenRechterMarge
-                                       : hoofd.instellingen.Tekstbr());
-  hoofd.volgers.HuidigPersoonNr = opties_.KwProbandNr;
-  const KwstVerloop verloop{[this] { return Afbreken(); },
-                            [this](int, int kwartieren) {
-                              Kwartieren.ZetTekst(GetalTekst(kwartieren));
-                              Ververs();
-                            }};
-  KwstSchrijver schrijver(tabel_, opties_, hoofd.MaakGegevens(), ZinOptiesVan(opties_, hoofd.Ini),
-                          uit, verloop);
-  const KwstUitslag uitslag = schrijver.Schrijf();
-  const bool heel = SluitTijdelijk(uit, pad_, hoofd.gesprek);
-  if (uitslag != KwstUitslag::Klaar || !heel) StopKeten();
-  if (uitslag != KwstUitslag::Afgebroken) Sluit();
-}
+                           const std::filesystem::path& pad)
+    : SchrijfForm(kSoort, hoofd, BestandVan(opties, hoofd.instellingen, pad),
+                  [&](TekstSchrijver& uit, const Verloop& verloop) {
+                    hoofd.volgers.HuidigPersoonNr = opties.KwProbandNr;
+                    return KwstSchrijver(tabel, opties, hoofd.MaakGegevens(),
+                                         ZinOptiesVan(opties, hoofd.Ini), uit, verloop)
+                        .Schrijf();
+                  }) {}
 
 }  // namespace lb77

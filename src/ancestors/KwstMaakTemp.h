@@ -4,30 +4,15 @@
 #include <filesystem>
 
 #include "ancestors/KwstTabel.h"
-#include "reporting/WerkFormulier.h"
+#include "reporting/SchrijfForm.h"
 
 namespace lb77 {
 
 // Writes `pad`. HuidigPersoonNr is -1 afterwards when there is no whole report to show.
-class KwstMaakTemp final : public WerkFormulier {
+class KwstMaakTemp final : public SchrijfForm {
  public:
   KwstMaakTemp(Hoofdmodule& hoofd, const KwstOpties& opties, const KwstTabel& tabel,
-               std::filesystem::path pad);
-
-  Label SchrijfLabel{*this, "SchrijfLabel", "Schrijven van de kwartierstaat."};
-  Label KwartierenLabel{*this, "KwartierenLabel", "Aantal kwartieren:"};
-  Teller Kwartieren{*this, "Kwartieren"};
-  Label GeduldLabel{*this, "GeduldLabel", "Even geduld a.u.b."};
-  Knop OKButton{*this, "OKButton", "&OK"};
-  Knop BackButton{*this, "BackButton", "&Terug"};
-
- protected:
-  void Werk() override;
-
- private:
-  const KwstOpties& opties_;
-  const KwstTabel& tabel_;
-  std::filesystem::path pad_;
+               const std::filesystem::path& pad);
 };
 
 }  // namespace lb77

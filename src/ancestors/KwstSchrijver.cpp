@@ -25,7 +25,7 @@ int AfstandVanEerste(const KwstTabel& tabel, const Kwartiernummer& vanaf) {
 
 KwstSchrijver::KwstSchrijver(const KwstTabel& tabel, const KwstOpties& opties,
                              const Gegevens& bronnen, const ZinOpties& zinOpties,
-                             TekstSchrijver& uit, const KwstVerloop& verloop)
+                             TekstSchrijver& uit, const Verloop& verloop)
     : tabel_(tabel),
       opties_(opties),
       bronnen_(bronnen),
@@ -37,18 +37,18 @@ KwstSchrijver::KwstSchrijver(const KwstTabel& tabel, const KwstOpties& opties,
       maxGen_(std::min(opties.KwMaxGen, tabel.KwNummer(tabel.KwstAantal() - 1).Generatie())),
       huidigeGen_(beginGen_) {}
 
-KwstUitslag KwstSchrijver::Schrijf() {
-  if (!bronnen_.persoon.Lees(opties_.KwProbandNr)) return KwstUitslag::Leesfout;
+Uitslag KwstSchrijver::Schrijf() {
+  if (!verteller_.LeesPersoon(opties_.KwProbandNr)) return verteller_.Fout();
   uit_.ZetMarge(true, 0);
   if (opties_.KwInHTML) {
     SchrijfHTMLKop(uit_, opties_.teksten, "Kwartierstaat", bronnen_.persoon.VoorNaamTrue(),
                    bronnen_.persoon.AchterNaamTrue());
   }
   if (opties_.KwBeginNr.Vanaf(opties_.KwVanafNr) && !SchrijfProband()) {
-    return KwstUitslag::Leesfout;
+    return verteller_.Fout();
   }
-  const KwstUitslag uitslag = SchrijfVoorouders();
-  if (uitslag == KwstUitslag::Klaar) SchrijfSlot(uit_, opties_.teksten, opties_.KwInHTML);
+  const Uitslag uitslag = SchrijfVoorouders();
+  if (uitslag == Einde::Klaar) SchrijfSlot(uit_, opties_.teksten, opties_.KwInHTML);
   return uitslag;
 }
 
@@ -95,7 +95,7 @@ bool KwstSchrijver::SchrijfProband() {
   }
   Kindtab kinderen{};
   bronnen_.volgers.HuidigRelatieNr = proband.relNrOuders;
-  if (!bronnen_.relatie.Lees(proband.relNrOuders)) return false;
+  if (!verteller_.LeesRelatie(proband.relNrOuders)) return false;
   static_cast<void>(bronnen_.relatie.VulKindtab(proband.relNrOuders, kinderen));
   if (opties_.KwInHTML) {
     uit_.Vast("<BR>");
@@ -172,14 +172,14 @@ bool KwstSchrijver::SchrijfAndereRelaties(std::int16_t nr, std::int16_t hoofdRel
 
 bool KwstSchrijver::SchrijfRelatieMetPartner(std::int16_t nr, bool isMan, std::int16_t relatie,
                                              int volgNr) {
-  if (!bronnen_.relatie.Lees(relatie)) return false;
+  if (!verteller_.LeesRelatie(relatie)) return false;
   const std::int16_t partner = PartnerVan(bronnen_.relatie, nr, isMan);
   const bool partnerIsMan = partner == bronnen_.relatie.ManNr();
   if (partner == 0) return true;
   if (!verteller_.SchrijfRelatie(relatie, volgNr)) return false;
   uit_.Tekst(" ");
   if (!verteller_.SchrijfPersoon(partner)) return false;
-  if (!bronnen_.persoon.Lees(partner)) return false;
+  if (!verteller_.LeesPersoon(partner)) return false;
   const std::int16_t ouders = bronnen_.persoon.RelNrOuders();
   return ouders <= 0 || verteller_.SchrijfOuders(partnerIsMan ? 1 : 0, ouders);
 }
@@ -200,17 +200,17 @@ KwstSchrijver::Ouder KwstSchrijver::MaakOuder(int index) const {
 }
 
 bool KwstSchrijver::LeesOuder(Ouder& ouder) {
-  if (!bronnen_.persoon.Lees(ouder.nr)) return false;
+  if (!verteller_.LeesPersoon(ouder.nr)) return false;
   ouder.opmRecord = bronnen_.persoon.OpmRecord();
   ouder.opmCode = bronnen_.persoon.OpmCode();
   ouder.relNrOuders = bronnen_.persoon.RelNrOuders();
   return true;
 }
 
-KwstUitslag KwstSchrijver::SchrijfVoorouders() {
+Uitslag KwstSchrijver::SchrijfVoorouders() {
   const int aantal = tabel_.KwstAantal();
   for (int i = 1; i < aantal;) {
-    if (verloop_.afbreken()) return KwstUitslag::Afgebroken;
+    if (verloop_.afbreken()) return Einde::Afgebroken;
     verloop_.toon(0, i);
     const KwstPaar plaatsen = tabel_.Paar(i);
     Paar paar;
@@ -218,11 +218,11 @@ KwstUitslag KwstSchrijver::SchrijfVoorouders() {
     if (plaatsen.moeder > 0) paar.moeder = MaakOuder(plaatsen.moeder);
     const std::int16_t kind = tabel_.Persoon(tabel_.KwKindIndex(i) - 1);
     i = plaatsen.volgende;
-    if (!bronnen_.persoon.Lees(kind)) return KwstUitslag::Leesfout;
+    if (!verteller_.LeesPersoon(kind)) return verteller_.Fout();
     paar.relatie = bronnen_.persoon.RelNrOuders();
-    if (!SchrijfPaar(paar)) return KwstUitslag::Leesfout;
+    if (!SchrijfPaar(paar)) return verteller_.Fout();
   }
-  return KwstUitslag::Klaar;
+  return Einde::Klaar;
 }
 
 bool KwstSchrijver::SchrijfPaar(Paar& paar) {
@@ -264,7 +264,7 @@ bool KwstSchrijver::SchrijfOuder(Ouder& ouder, Paar& paar) {
 // What stands between a father and a mother who are both told.
 bool KwstSchrijver::SchrijfHuwelijk(Paar& paar) {
   if (!paar.Beiden()) return true;
-  if (!bronnen_.relatie.Lees(paar.relatie)) return false;
+  if (!verteller_.LeesRelatie(paar.relatie)) return false;
   paar.opmRecord = bronnen_.relatie.OpmRecord();
   paar.opmCode = bronnen_.relatie.OpmCode();
   if (!ZegtIets(bronnen_.relatie)) return true;
@@ -297,7 +297,7 @@ bool KwstSchrijver::SchrijfBroersZussen(const Paar& paar) {
 
 bool KwstSchrijver::SchrijfBroersZussenVan(const Ouder& ouder) {
   Kindtab kinderen{};
-  if (!bronnen_.relatie.Lees(ouder.relNrOuders)) return false;
+  if (!verteller_.LeesRelatie(ouder.relNrOuders)) return false;
   static_cast<void>(bronnen_.relatie.VulKindtab(ouder.relNrOuders, kinderen));
   return SchrijfKinderen(kinderen, ouder.nr, false);
 }

@@ -7,6 +7,7 @@
 #include "ancestors/KwstOpties.h"
 #include "ancestors/KwstTabel.h"
 #include "output/Verteller.h"
+#include "reporting/Verloop.h"
 #include "store/Gegevens.h"
 
 namespace lb77 {
@@ -17,10 +18,10 @@ class TekstSchrijver;
 class KwstSchrijver {
  public:
   KwstSchrijver(const KwstTabel& tabel, const KwstOpties& opties, const Gegevens& bronnen,
-                const ZinOpties& zinOpties, TekstSchrijver& uit, const KwstVerloop& verloop);
+                const ZinOpties& zinOpties, TekstSchrijver& uit, const Verloop& verloop);
 
   // Writes the whole report. Vol is not among its results.
-  [[nodiscard]] KwstUitslag Schrijf();
+  [[nodiscard]] Uitslag Schrijf();
 
  private:
   // One side of a couple; index -1 for an unknown parent.
@@ -48,7 +49,7 @@ class KwstSchrijver {
 
   [[nodiscard]] bool SchrijfProband();
   [[nodiscard]] bool SchrijfProbandAlleen(const Ouder& proband);
-  [[nodiscard]] KwstUitslag SchrijfVoorouders();
+  [[nodiscard]] Uitslag SchrijfVoorouders();
 
   [[nodiscard]] Ouder MaakOuder(int index) const;
   [[nodiscard]] bool LeesOuder(Ouder& ouder);
@@ -77,7 +78,7 @@ class KwstSchrijver {
   Gegevens bronnen_;
   Verteller verteller_;
   TekstSchrijver& uit_;
-  const KwstVerloop& verloop_;
+  const Verloop& verloop_;
   int beginGen_;
   int eersteGen_;  // of the first entry that is written; a heading links no further back
   int maxGen_;

@@ -1,5 +1,7 @@
 #include "ancestors/KwstTabel.h"
 
+#include <optional>
+
 #include "text/Getallen.h"
 
 namespace lb77 {
@@ -9,22 +11,22 @@ namespace {
 constexpr std::int16_t kEerstePersoon = 2;
 
 struct Ouders {
-  bool gelezen = true;
   std::int16_t vader = 0;
   std::int16_t moeder = 0;
+  std::optional<Leesfout> fout;
 };
 
 Ouders LeesOuders(std::int16_t kind, PersoonLB77& persoon, RelatieLB77& relatie) {
-  if (!persoon.Lees(kind)) return {.gelezen = false};
+  if (!persoon.Lees(kind)) return {.fout = Leesfout{BestandSoort::Personen, kind}};
   const std::int16_t ouders = persoon.RelNrOuders();
   if (ouders <= 0) return {};
-  if (!relatie.Lees(ouders)) return {.gelezen = false};
-  return {true, relatie.ManNr(), relatie.VrouwNr()};
+  if (!relatie.Lees(ouders)) return {.fout = Leesfout{BestandSoort::Relaties, ouders}};
+  return {relatie.ManNr(), relatie.VrouwNr(), std::nullopt};
 }
 
-KwstUitslag Leesfout(Volgers& volgers) {
+Uitslag Mislukt(Volgers& volgers, const Leesfout& fout) {
   volgers.HuidigPersoonNr = -1;
-  return KwstUitslag::Leesfout;
+  return fout;
 }
 
 }  // namespace
@@ -66,11 +68,11 @@ bool KwstTabel::VoegToe(std::int16_t persoon, int kind, bool moeder) {
   return true;
 }
 
-KwstUitslag BouwKwst(KwstTabel& tabel, const KwstOpties& opties, PersoonLB77& persoon,
-                     RelatieLB77& relatie, Volgers& volgers, const KwstVerloop& verloop) {
+Uitslag BouwKwst(KwstTabel& tabel, const KwstOpties& opties, PersoonLB77& persoon,
+                 RelatieLB77& relatie, Volgers& volgers, const Verloop& verloop) {
   volgers.HuidigPersoonNr = opties.KwProbandNr;
   if (opties.KwProbandNr < kEerstePersoon || !persoon.Lees(opties.KwProbandNr)) {
-    return Leesfout(volgers);
+    return Mislukt(volgers, {BestandSoort::Personen, opties.KwProbandNr});
   }
   tabel.Begin(opties.KwProbandNr, persoon.Geslacht() == "M", opties.KwBeginNr);
   const int beginGeneratie = opties.KwBeginNr.Generatie();
@@ -81,14 +83,14 @@ KwstUitslag BouwKwst(KwstTabel& tabel, const KwstOpties& opties, PersoonLB77& pe
     if (tabel.Generatie(i) + beginGeneratie >= opties.KwMaxGen) break;
     if (verloop.afbreken()) {
       volgers.HuidigPersoonNr = -1;
-      return KwstUitslag::Afgebroken;
+      return Einde::Afgebroken;
     }
     if (tabel.IsHerhaling(i) && !opties.KwVolgHerh) continue;
     const std::int16_t kind = tabel.Persoon(i);
     verloop.toon(kind, tabel.KwstAantal());
     volgers.HuidigPersoonNr = kind;
     const Ouders ouders = LeesOuders(kind, persoon, relatie);
-    if (!ouders.gelezen) return Leesfout(volgers);
+    if (ouders.fout) return Mislukt(volgers, *ouders.fout);
     if (ouders.vader >= 1 && tabel.VoegToe(ouders.vader, i, false)) {
       verloop.toon(kind, tabel.KwstAantal());
     }
@@ -96,7 +98,7 @@ KwstUitslag BouwKwst(KwstTabel& tabel, const KwstOpties& opties, PersoonLB77& pe
       verloop.toon(kind, tabel.KwstAantal());
     }
   }
-  return tabel.KwstAantal() == kMaxKwartieren ? KwstUitslag::Vol : KwstUitslag::Klaar;
+  return tabel.KwstAantal() == kMaxKwartieren ? Einde::Vol : Einde::Klaar;
 }
 
 }  // namespace lb77

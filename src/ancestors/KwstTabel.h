@@ -2,11 +2,12 @@
 #pragma once
 
 #include <cstdint>
-#include <functional>
 #include <string>
 #include <vector>
 
 #include "ancestors/KwstOpties.h"
+#include "reporting/TellerRegel.h"
+#include "reporting/Verloop.h"
 #include "store/PersoonLB77.h"
 #include "store/RelatieLB77.h"
 #include "store/Volgers.h"
@@ -63,19 +64,12 @@ class KwstTabel {
   std::vector<std::int16_t> eerste_;  // by record number: entry of the first occurrence, 0 for none
 };
 
-// How a build ended.
-enum class KwstUitslag { Klaar, Vol, Afgebroken, Leesfout };
+// How the forms count the entries.
+inline constexpr TellerSoort kKwartieren{"Kwartieren", "KwartierenLabel", "Aantal kwartieren:"};
 
-// What a build asks and tells while it runs.
-struct KwstVerloop {
-  std::function<bool()> afbreken;  // tested before each entry; True ends the build
-  std::function<void(int persoon, int kwartieren)> toon;  // person 0: none being read
-};
-
-// Fills `tabel` from the record files. HuidigPersoonNr follows the persons that are read, and is -1
+// Fills `tabel` from the record files; the stop is tested before each entry. HuidigPersoonNr follows the persons that are read, and is -1
 // after a failed read or a stop.
-[[nodiscard]] KwstUitslag BouwKwst(KwstTabel& tabel, const KwstOpties& opties, PersoonLB77& persoon,
-                                   RelatieLB77& relatie, Volgers& volgers,
-                                   const KwstVerloop& verloop);
+[[nodiscard]] Uitslag BouwKwst(KwstTabel& tabel, const KwstOpties& opties, PersoonLB77& persoon,
+                               RelatieLB77& relatie, Volgers& volgers, const Verloop& verloop);
 
 }  // namespace lb77

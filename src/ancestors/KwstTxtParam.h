@@ -4,7 +4,8 @@
 #include "ancestors/KwstOpties.h"
 #include "ancestors/KwstVelden.h"
 #include "app/JaNeeVak.h"
-#include "forms/Formulier.h"
+#include "reporting/KetenFormulier.h"
+#include "reporting/OptieTabel.h"
 #include "reporting/PersoonKop.h"
 #include "reporting/TitelVelden.h"
 
@@ -13,8 +14,8 @@ namespace lb77 {
 class Hoofdmodule;
 
 // OK puts the choices into `opties` and, when the user wants them kept, into the settings.
-// BackButton sets HuidigPersoonNr to -1.
-class KwstTxtParam final : public Formulier {
+// BackButton stops the chain.
+class KwstTxtParam final : public KetenFormulier {
  public:
   KwstTxtParam(Hoofdmodule& hoofd, KwstOpties& opties);
 
@@ -37,12 +38,15 @@ class KwstTxtParam final : public Formulier {
   void BijLaden() override;
 
  private:
-  [[nodiscard]] std::array<JaNeeSleutel, 4> Sleutels();
   void OKButtonKlik();
-  void Bewaar();
 
-  Hoofdmodule& hoofd_;
   KwstOpties& opties_;
+  OptieTabel keuzen_{"KWST",
+                     {{BroerZusBox, "SoortUitv", 1, opties_.KwBroerZus},
+                      {OokNrsBox, "OokNummers", true, opties_.KwOokNrs},
+                      {OokOpmBox, "OokOpm", true, opties_.KwOokOpm},
+                      {KwHerhaalBox, "VolgHerh", true, opties_.KwVolgHerh},
+                      {InHTMLBox, "HTML", false, opties_.KwInHTML}}};
 };
 
 }  // namespace lb77

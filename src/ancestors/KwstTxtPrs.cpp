@@ -4,7 +4,6 @@
 #include "ancestors/KwstMaakTemp.h"
 #include "ancestors/KwstTxtParam.h"
 #include "app/Hoofdmodule.h"
-#include "output/ToonTekst.h"
 #include "reporting/HTMLParam.h"
 
 namespace lb77 {
@@ -19,18 +18,15 @@ void KwstTxtPrs::Keten(std::int16_t persoonNr) {
   Hoofdmodule& hoofd = Hoofd();
   KwstOpties opties;
   opties.KwProbandNr = persoonNr;
-  Gesprek& gesprek = hoofd.gesprek;
-
-  gesprek.Toon<KwstTxtParam>(hoofd, opties);
-  if (GaatDoor() && opties.KwInHTML) gesprek.Toon<HTMLParam>(kKwHTMLParam, hoofd, opties.teksten);
-  Verberg();
   KwstTabel tabel;
   const std::filesystem::path pad = hoofd.Ini.TempDir() / "KWSTDATA.TMP";
-  if (GaatDoor()) gesprek.Toon<KwstBereken>(hoofd, opties, tabel);
-  if (GaatDoor()) gesprek.Toon<KwstMaakTemp>(hoofd, opties, tabel, pad);
-  if (hoofd.volgers.HuidigPersoonNr <= 0) return;
-  gesprek.Toon<ToonTekst>(hoofd, pad, "Kwartierstaat in Tekstvorm", opties.KwInHTML);
-  hoofd.volgers.HuidigPersoonNr = 0;
+
+  Stap(KwstTxtParam(hoofd, opties));
+  if (opties.KwInHTML) Stap(HTMLParam(kKwHTMLParam, hoofd, opties.teksten));
+  Verberg();
+  Stap(KwstBereken(hoofd, opties, tabel));
+  Stap(KwstMaakTemp(hoofd, opties, tabel, pad));
+  ToonVerslag(pad, "Kwartierstaat in Tekstvorm", opties.KwInHTML);
 }
 
 }  // namespace lb77

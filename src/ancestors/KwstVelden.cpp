@@ -21,7 +21,8 @@ KwartierVak::KwartierVak(Formulier& formulier, Gesprek& gesprek, const KwartierV
 
 bool KwartierVak::Geldig() const {
   const std::string_view tekst = Trim(Tekst());
-  if (!tekst.empty() && std::all_of(tekst.begin(), tekst.end(), IsCijfer)) return true;
+  const bool cijfers = std::all_of(tekst.begin(), tekst.end(), IsCijfer);
+  if (!tekst.empty() && cijfers && Nummer() != Kwartiernummer("0")) return true;
   gesprek_.Waarschuw(tekst.empty() ? verplicht_ : "Onjuist kwartiernummer (geen getal)");
   return false;
 }

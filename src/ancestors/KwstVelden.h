@@ -6,6 +6,7 @@
 #include "ancestors/KwstOpties.h"
 #include "forms/Velden.h"
 #include "reporting/GeneratiesVak.h"
+#include "reporting/HTMLParam.h"
 
 namespace lb77 {
 
@@ -24,12 +25,16 @@ inline constexpr KwartierVakSoort kNrProbandVak{"KwNrProband", "Kwartiernummer v
 inline constexpr KwartierVakSoort kVanafVak{"VanafKwartier", "Eerst uit te voeren kwartiernummer:",
                                             "Het eerst uit te voeren kwartiernummer is verplicht"};
 
+// The links of the ancestor report.
+inline constexpr HTMLParamSoort kKwHTMLParam{
+    "KwHTMLParam", "Kwartierstaat Uitvoeropties voor Internet", "KWST", "kwartierstaat"};
+
 // A field for a kwartier number. Its leave check is Geldig().
 class KwartierVak final : public Tekstvak {
  public:
   KwartierVak(Formulier& formulier, Gesprek& gesprek, const KwartierVakSoort& soort);
 
-  // Digits and nothing else? Tells the user why not.
+  // Digits and nothing else, and more than 0? Tells the user why not.
   [[nodiscard]] bool Geldig() const;
   [[nodiscard]] Kwartiernummer Nummer() const { return Kwartiernummer(Tekst()); }
 

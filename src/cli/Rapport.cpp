@@ -44,7 +44,9 @@ class Maker {
     const Werkmap werkmap(sessie_.Hoofd().Ini.TempDir());
     sessie_.Hoofd().instellingen.tijdelijk = werkmap.Pad();
     menu.Kies(rapport_.menuKeuze);
-    if (!getoond_) sessie_.bediener.Mislukt("Er is geen verslag gemaakt");
+    if (!getoond_ && sessie_.bediener.Status() == 0) {
+      sessie_.bediener.Mislukt("Er is geen verslag gemaakt");
+    }
   }
 
   [[nodiscard]] bool MagNaar();

@@ -48,9 +48,21 @@ std::string Verteller::Gecodeerd(std::string_view tekst) const {
   return opties_.inHTML ? TekstNaarHTML(tekst) : std::string(tekst);
 }
 
+bool Verteller::LeesPersoon(std::int16_t nr) {
+  if (bronnen_.persoon.Lees(nr)) return true;
+  fout_ = {BestandSoort::Personen, nr};
+  return false;
+}
+
+bool Verteller::LeesRelatie(std::int16_t relNr) {
+  if (bronnen_.relatie.Lees(relNr)) return true;
+  fout_ = {BestandSoort::Relaties, relNr};
+  return false;
+}
+
 bool Verteller::SchrijfPersoon(std::int16_t nr) {
-  PersoonLB77& persoon = bronnen_.persoon;
-  if (!persoon.Lees(nr)) return false;
+  const PersoonLB77& persoon = bronnen_.persoon;
+  if (!LeesPersoon(nr)) return false;
   InRapport uit(*this, persoon.OpmRecord(), persoon.OpmCode());
   SchrijfNaam(persoon.VoorNaamTrue(), true);
   uit.Rubriek(persoonrubriek::kVoornaam);
@@ -73,7 +85,7 @@ void Verteller::SchrijfNummer(std::int16_t nr) {
 
 bool Verteller::SchrijfRelatie(std::int16_t relNr, int volgNr) {
   const RelatieLB77& relatie = bronnen_.relatie;
-  if (!bronnen_.relatie.Lees(relNr)) return false;
+  if (!LeesRelatie(relNr)) return false;
   InRapport uit(*this, relatie.OpmRecord(), relatie.OpmCode());
   Zinsbouw(bronnen_, uit)
       .Relatie(std::abs(uit.OpmCode()),
@@ -82,7 +94,7 @@ bool Verteller::SchrijfRelatie(std::int16_t relNr, int volgNr) {
 }
 
 bool Verteller::SchrijfOuders(std::int16_t sexFlag, std::int16_t relNr) {
-  if (!bronnen_.relatie.Lees(relNr)) return false;
+  if (!LeesRelatie(relNr)) return false;
   const std::int16_t vader = bronnen_.relatie.ManNr();
   const std::int16_t moeder = bronnen_.relatie.VrouwNr();
   if (vader == 0 && moeder == 0) return true;
@@ -96,7 +108,7 @@ bool Verteller::SchrijfOuders(std::int16_t sexFlag, std::int16_t relNr) {
 }
 
 bool Verteller::SchrijfOuder(std::int16_t nr, bool metBeroep) {
-  if (!bronnen_.persoon.Lees(nr)) return false;
+  if (!LeesPersoon(nr)) return false;
   schrijver_.Tekst(Gecodeerd(bronnen_.persoon.NaamVoluit()));
   SchrijfNummer(nr);
   const std::string beroep = metBeroep ? bronnen_.persoon.beroep() : std::string{};

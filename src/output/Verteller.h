@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "output/Leesfout.h"
 #include "output/TekstSchrijver.h"
 #include "output/ZinOpties.h"
 #include "store/Gegevens.h"
@@ -22,6 +23,12 @@ class Verteller {
   [[nodiscard]] const ZinOpties& Opties() const { return opties_; }
   // Switches remarks on or off in the middle of a run.
   void ZetOokOpm(bool aan) { opties_.ookOpm = aan; }
+
+  // Read into the buffer. A failure is remembered as the one that ends the report.
+  [[nodiscard]] bool LeesPersoon(std::int16_t nr);
+  [[nodiscard]] bool LeesRelatie(std::int16_t relNr);
+  // The read that failed last.
+  [[nodiscard]] const Leesfout& Fout() const { return fout_; }
 
   // Name, number and events of a person, without a full stop. The buffer holds him afterwards.
   [[nodiscard]] bool SchrijfPersoon(std::int16_t nr);
@@ -64,6 +71,7 @@ class Verteller {
   TekstSchrijver& schrijver_;
   ZinOpties opties_;
   std::int16_t aantalOpm_;
+  Leesfout fout_;
 };
 
 // The rubrics of the general remarks.

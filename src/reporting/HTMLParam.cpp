@@ -1,21 +1,21 @@
 #include "reporting/HTMLParam.h"
 
 #include "app/Hoofdmodule.h"
+#include "reporting/OptieTabel.h"
 #include "reporting/TitelVelden.h"
 #include "text/Letterlijk.h"
 
 namespace lb77 {
 namespace {
 
-constexpr std::string_view kVoorbeeldAdres = "naam@example.org";
-constexpr std::string_view kVoorbeeldPagina = "http://www.example.org";
-
 // The society's page; without an address its line is left out.
 constexpr std::string_view kHSKHome = "";
 constexpr std::string_view kHSKHomeTekst = "";
 
-std::string OfVoorbeeld(const std::string& waarde, const std::string& voorbeeld) {
-  return waarde.empty() ? voorbeeld : waarde;
+std::string Voorbeeld(std::string_view sjabloon, const std::string& adres) {
+  std::string uit(sjabloon);
+  const std::size_t plek = uit.find('*');
+  return plek == std::string::npos ? uit : uit.replace(plek, 1, adres);
 }
 
 }  // namespace
@@ -23,42 +23,26 @@ std::string OfVoorbeeld(const std::string& waarde, const std::string& voorbeeld)
 const std::string_view HTMLParam::kLabelVoor = "Geef de tekst vóór de link:"_w;
 
 HTMLParam::HTMLParam(const HTMLParamSoort& soort, Hoofdmodule& hoofd, PaginaTeksten& teksten)
-    : Formulier(soort.naam, soort.titel), soort_(soort), hoofd_(hoofd), teksten_(teksten) {
+    : KetenFormulier(soort.naam, soort.titel, hoofd), soort_(soort), teksten_(teksten) {
   ZetHulpOnderwerp(soort.hulp);
   ZetEersteVeld(EmailAdres);
   OKButton.BijKlik([this] { OKButtonKlik(); });
-  BackButton.BijKlik([this] { BackButtonKlik(); });
+  KoppelTerug(BackButton);
 }
 
 void HTMLParam::BijLaden() {
-  IniClass& ini = hoofd_.Ini;
-  const std::string email =
-      OfVoorbeeld(ini.IniWaarde("INTERNET", "Email"), std::string(kVoorbeeldAdres));
-  EmailAdres.ZetTekst(email);
-  EmailTekst.ZetTekst(
-      OfVoorbeeld(ini.IniWaarde("INTERNET", "EmailLabel"), "Schrijf me... (" + email + ")"));
-  HomePageURL.ZetTekst(OfVoorbeeld(ini.IniWaarde("INTERNET", "HomePage"), "index.htm"));
-  URLTekstTekst.ZetTekst(OfVoorbeeld(ini.IniWaarde("INTERNET", "HomePageLink"),
-                                     "mijn home page (" + std::string(kVoorbeeldPagina) + ")"));
-  URLLabelTekst.ZetTekst(OfVoorbeeld(ini.IniWaarde("INTERNET", "HomePageLabel"), "Naar"));
+  for (const LinkRij& rij : rijen_) {  // the address comes first: a sample tells it
+    const std::string waarde = Hoofd().Ini.IniWaarde("INTERNET", rij.tag);
+    rij.veld.ZetTekst(waarde.empty() ? Voorbeeld(rij.voorbeeld, EmailAdres.Tekst()) : waarde);
+  }
 }
 
 void HTMLParam::OKButtonKlik() {
-  struct Sleutel {
-    const Tekstvak& veld;
-    std::string& tekst;
-    std::string_view tag;
-  };
-  const Sleutel sleutels[] = {{EmailAdres, teksten_.email, "Email"},
-                              {EmailTekst, teksten_.emailTekst, "EmailLabel"},
-                              {HomePageURL, teksten_.homePage, "HomePage"},
-                              {URLTekstTekst, teksten_.homePageTekst, "HomePageLink"},
-                              {URLLabelTekst, teksten_.homePageLabel, "HomePageLabel"}};
-  IniClass& ini = hoofd_.Ini;
-  const bool bewaar = ini.IniWaarde("Systeem", "OpslaanVelden") == "J";
-  for (const Sleutel& sleutel : sleutels) {
-    sleutel.tekst = PaginaTekst(sleutel.veld.Tekst());
-    if (bewaar && !sleutel.tekst.empty()) ini.IniZet("INTERNET", sleutel.tag, sleutel.tekst);
+  IniClass& ini = Hoofd().Ini;
+  const bool bewaar = BewaartVelden(ini);
+  for (const LinkRij& rij : rijen_) {
+    rij.tekst = PaginaTekst(rij.veld.Tekst());
+    if (bewaar && !rij.tekst.empty()) ini.IniZet("INTERNET", rij.tag, rij.tekst);
   }
   teksten_.hskHome = kHSKHome;
   teksten_.hskHomeTekst = kHSKHomeTekst;
@@ -67,16 +51,14 @@ void HTMLParam::OKButtonKlik() {
 }
 
 void HTMLParam::BewaarLinks() {
-  IniClass& ini = hoofd_.Ini;
-  ini.IniZet(soort_.sectie, "OokEmail", teksten_.email.empty() ? "N" : "J");
-  ini.IniZet(soort_.sectie, "OokHomePage", teksten_.homePage.empty() ? "N" : "J");
-  ini.IniZet(soort_.sectie, "OokHSKHome", teksten_.hskHome.empty() ? "N" : "J");
+  IniClass& ini = Hoofd().Ini;
+  const auto zet = [&](std::string_view tag, const std::string& adres) {
+    ini.IniZet(soort_.sectie, tag, adres.empty() ? "N" : "J");
+  };
+  zet("OokEmail", teksten_.email);
+  zet("OokHomePage", teksten_.homePage);
+  zet("OokHSKHome", teksten_.hskHome);
   ini.IniSchrijf();
-}
-
-void HTMLParam::BackButtonKlik() {
-  hoofd_.volgers.HuidigPersoonNr = -1;
-  Sluit();
 }
 
 }  // namespace lb77

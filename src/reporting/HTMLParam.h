@@ -1,17 +1,17 @@
 // The dialog for the links of an HTML report; one class for all reports, by a table of texts.
 #pragma once
 
+#include <array>
+#include <string>
 #include <string_view>
 
-#include "forms/Formulier.h"
 #include "reporting/HTMLPagina.h"
+#include "reporting/KetenFormulier.h"
 
 namespace lb77 {
 
-class Hoofdmodule;
-
 // What tells one HTML dialog from another: its name, title, the settings section of its report, and
-// the chapter of the manual.
+// the chapter of the manual. Each report has its own row.
 struct HTMLParamSoort {
   std::string_view naam;
   std::string_view titel;
@@ -19,12 +19,9 @@ struct HTMLParamSoort {
   std::string_view hulp;
 };
 
-inline constexpr HTMLParamSoort kKwHTMLParam{
-    "KwHTMLParam", "Kwartierstaat Uitvoeropties voor Internet", "KWST", "kwartierstaat"};
-
 // Asks e-mail address and home page for the foot of a page. OK puts them into `teksten` and into
-// the settings; BackButton sets HuidigPersoonNr to -1.
-class HTMLParam final : public Formulier {
+// the settings; BackButton stops the chain.
+class HTMLParam final : public KetenFormulier {
  public:
   HTMLParam(const HTMLParamSoort& soort, Hoofdmodule& hoofd, PaginaTeksten& teksten);
 
@@ -40,15 +37,29 @@ class HTMLParam final : public Formulier {
   void BijLaden() override;
 
  private:
+  // One link text: its field, its key in section INTERNET, where it goes, and the sample that the
+  // field shows when there is none. The address stands in a sample as '*'.
+  struct LinkRij {
+    Tekstvak& veld;
+    std::string_view tag;
+    std::string& tekst;
+    std::string_view voorbeeld;
+  };
+
   static const std::string_view kLabelVoor;
 
   void OKButtonKlik();
   void BewaarLinks();
-  void BackButtonKlik();
 
   HTMLParamSoort soort_;
-  Hoofdmodule& hoofd_;
   PaginaTeksten& teksten_;
+  std::array<LinkRij, 5> rijen_{
+      {{EmailAdres, "Email", teksten_.email, "naam@example.org"},
+       {EmailTekst, "EmailLabel", teksten_.emailTekst, "Schrijf me... (*)"},
+       {HomePageURL, "HomePage", teksten_.homePage, "index.htm"},
+       {URLTekstTekst, "HomePageLink", teksten_.homePageTekst,
+        "mijn home page (http://www.example.org)"},
+       {URLLabelTekst, "HomePageLabel", teksten_.homePageLabel, "Naar"}}};
 };
 
 }  // namespace lb77

@@ -20,7 +20,7 @@ constexpr PersoonVakSoort kPersoon = {.controle = PersoonControle::Tonen,
 }  // namespace
 
 PersoonPrompt::PersoonPrompt(const PersoonPromptSoort& soort, Hoofdmodule& hoofd)
-    : InvoerFormulier(soort.naam, soort.titel, hoofd),
+    : KetenFormulier(soort.naam, soort.titel, hoofd),
       VraagLabel(*this, "VraagLabel", soort.vraag),
       Persoon(*this, "", kPersoon) {
   ZetEersteVeld(Persoon.RecordNr);
@@ -30,15 +30,18 @@ PersoonPrompt::PersoonPrompt(const PersoonPromptSoort& soort, Hoofdmodule& hoofd
   }
   OKButton.BijKlik([this] { OKButtonKlik(); });
   ZoekButton.BijKlik([this] { ZoekButtonKlik(); });
-  BackButton.BijKlik([this] { BackButtonKlik(); });
+  KoppelTerug(BackButton);
 }
 
 void PersoonPrompt::BijLaden() {
   Persoon.MaakLeeg();
 }
 
-bool PersoonPrompt::GaatDoor() const {
-  return Hoofd().volgers.HuidigPersoonNr != -1;
+void PersoonPrompt::ToonVerslag(const std::filesystem::path& pad, std::string_view titel,
+                                bool inHTML) {
+  if (Hoofd().volgers.HuidigPersoonNr <= 0) return;
+  ToonTekstbestand(pad, titel, inHTML);
+  Hoofd().volgers.HuidigPersoonNr = 0;
 }
 
 void PersoonPrompt::OKButtonKlik() {
@@ -66,11 +69,6 @@ void PersoonPrompt::OKButtonKlik() {
 
 void PersoonPrompt::ZoekButtonKlik() {
   static_cast<void>(Persoon.Zoek());
-}
-
-void PersoonPrompt::BackButtonKlik() {
-  Hoofd().volgers.HuidigPersoonNr = -1;
-  Sluit();
 }
 
 }  // namespace lb77

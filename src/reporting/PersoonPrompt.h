@@ -2,10 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <filesystem>
 #include <string_view>
 
-#include "app/InvoerFormulier.h"
 #include "entry/PersoonVak.h"
+#include "reporting/KetenFormulier.h"
 
 namespace lb77 {
 
@@ -17,7 +18,7 @@ struct PersoonPromptSoort {
 };
 
 // A derived form runs the report's chain of forms in Keten(). The prompt closes behind it.
-class PersoonPrompt : public InvoerFormulier {
+class PersoonPrompt : public KetenFormulier {
  public:
   Label VraagLabel;
   PersoonVak Persoon;
@@ -31,13 +32,12 @@ class PersoonPrompt : public InvoerFormulier {
   void BijLaden() override;
   // The forms behind the prompt. HuidigPersoonNr is `persoonNr` on entry.
   virtual void Keten(std::int16_t persoonNr) = 0;
-  // May the chain go on? HuidigPersoonNr -1 says no.
-  [[nodiscard]] bool GaatDoor() const;
+  // The end of a chain that came to a report: shows it. HuidigPersoonNr is 0 then.
+  void ToonVerslag(const std::filesystem::path& pad, std::string_view titel, bool inHTML);
 
  private:
   void OKButtonKlik();
   void ZoekButtonKlik();
-  void BackButtonKlik();
 };
 
 }  // namespace lb77

@@ -4,16 +4,18 @@
 
 namespace lb77 {
 
-bool OpenTijdelijk(TekstSchrijver& uit, const std::filesystem::path& pad, Gesprek& gesprek) {
-  if (uit.Open(pad)) return true;
-  gesprek.Fout("Kan tijdelijk bestand " + PadTekst(pad) + " niet openen");
-  return false;
-}
-
-bool SluitTijdelijk(TekstSchrijver& uit, const std::filesystem::path& pad, Gesprek& gesprek) {
-  if (uit.Sluit()) return true;
-  gesprek.Fout("Fout bij het schrijven van " + PadTekst(pad) + "\n" + uit.Fout().tekst);
-  return false;
+Uitslag SchrijfVerslag(const VerslagBestand& bestand, Gesprek& gesprek,
+                       const std::function<Uitslag(TekstSchrijver&)>& schrijf) {
+  TekstSchrijver uit;
+  if (!uit.Open(bestand.pad)) {
+    gesprek.Fout("Kan tijdelijk bestand " + PadTekst(bestand.pad) + " niet openen");
+    return Einde::Schrijffout;
+  }
+  uit.ZetRechterMarge(bestand.breedte);
+  const Uitslag uitslag = schrijf(uit);
+  if (uit.Sluit()) return uitslag;
+  gesprek.Fout("Fout bij het schrijven van " + PadTekst(bestand.pad) + "\n" + uit.Fout().tekst);
+  return uitslag == Einde::Afgebroken ? uitslag : Einde::Schrijffout;
 }
 
 }  // namespace lb77

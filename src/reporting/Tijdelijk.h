@@ -1,19 +1,24 @@
-// The temporary file of a report: opening and closing it with their messages.
+// The temporary file of a report: made, written, closed and checked, with the messages for failures.
 #pragma once
 
 #include <filesystem>
+#include <functional>
 
 #include "forms/Gesprek.h"
 #include "output/TekstSchrijver.h"
+#include "reporting/Verloop.h"
 
 namespace lb77 {
 
-// Makes the file; the message for a failure is shown here.
-[[nodiscard]] bool OpenTijdelijk(TekstSchrijver& uit, const std::filesystem::path& pad,
-                                 Gesprek& gesprek);
+// Where a report is made, and the last usable column of its text.
+struct VerslagBestand {
+  std::filesystem::path pad;
+  int breedte = TekstSchrijver::kGeenRechterMarge;
+};
 
-// Closes the file. False, with a message, when not all of it could be written.
-[[nodiscard]] bool SluitTijdelijk(TekstSchrijver& uit, const std::filesystem::path& pad,
-                                  Gesprek& gesprek);
+// Makes the file, has `schrijf` write it, and closes it. A file that can't be made or written gives
+// Schrijffout behind its message; what was written stands, however it ended.
+[[nodiscard]] Uitslag SchrijfVerslag(const VerslagBestand& bestand, Gesprek& gesprek,
+                                     const std::function<Uitslag(TekstSchrijver&)>& schrijf);
 
 }  // namespace lb77

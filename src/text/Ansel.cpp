@@ -21,7 +21,7 @@ struct Accent {
   std::string_view naam;  // left in the text when the letter has no such combination
 };
 
-// kept: hacek combines with "s" alone; its "z" leaves the name of the mark.
+// kept: hacek combines with "s" alone; before anything else it leaves its name.
 constexpr std::array kAccenten = {
     Accent{"\xE1\xEC", kGravis, ""},              // 225, 236
     Accent{"\xE2\xE0\xEB\xED\xFE", kAcutus, ""},  // 226, 224, 235, 237, 254
@@ -189,6 +189,8 @@ std::string AnselNaarWindows(std::string_view ansel) {
       VoegLos(byte, uit);
     } else if (i + 1 < ansel.size() && IsKaleLetter(ansel[i + 1])) {
       VoegMetAccent(*accent, ansel[++i], uit);
+    } else {
+      uit += accent->naam;  // what follows carries no accent
     }
   }
   return uit;

@@ -48,7 +48,7 @@ TEST_F(KwstParen, AMotherAloneHasHerOwnPoint) {
   const auto moeder = set_.bouw.Vrouw("Moeder", "B");
   const auto kind = set_.bouw.Man("Kind", "A");
   set_.bouw.Relatie(0, moeder, {kind}, {{"WHuwDatum", "01-01-1800"}});
-  EXPECT_EQ(Schrijf(kind), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kind), Einde::Klaar);
   EXPECT_EQ(uit_,
             "Generatie I\r\n\r\n     1  Kind A.\r\n\r\n\r\nGeneratie II\r\n\r\n"
             "     3  Moeder B.\r\n\r\n\r\n\r\n");
@@ -58,14 +58,14 @@ TEST_F(KwstParen, AFatherAloneHasHisOwnPoint) {
   const auto vader = set_.bouw.Man("Vader", "B");
   const auto kind = set_.bouw.Man("Kind", "A");
   set_.bouw.Relatie(vader, 0, {kind}, {{"WHuwDatum", "01-01-1800"}});
-  EXPECT_EQ(Schrijf(kind), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kind), Einde::Klaar);
   EXPECT_TRUE(Bevat("     2  Vader B.\r\n\r\n\r\n\r\n"));
 }
 
 TEST_F(KwstParen, AFirstNumberThatCutsACoupleLeavesTheMotherWithoutTheirMarriage) {
   BouwHalfbroerEnZus();
   opties_.KwVanafNr = Kwartiernummer("3");
-  EXPECT_EQ(Schrijf(kind_), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kind_), Einde::Klaar);
   EXPECT_EQ(uit_.rfind("Generatie II\r\n\r\n     3  Moeder A.\r\n\r\n\r\nGeneratie III\r\n", 0), 0U)
       << uit_;
   EXPECT_FALSE(Bevat("Vader A"));
@@ -74,7 +74,7 @@ TEST_F(KwstParen, AFirstNumberThatCutsACoupleLeavesTheMotherWithoutTheirMarriage
 
 TEST_F(KwstParen, ACoupleOfWhomOneIsARepeatHasNoMarriageAndOnePoint) {
   BouwHalfbroerEnZus();
-  EXPECT_EQ(Schrijf(kind_), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kind_), Einde::Klaar);
   // He is told with both marriages under his first number.
   EXPECT_TRUE(Bevat("     4  Opa A, tr.(2) 1.1.1810 Oma C, tr. 1.1.1800.\r\n     5  Oma B.\r\n"))
       << uit_;
@@ -91,7 +91,7 @@ TEST_F(KwstParen, AMotherWhoIsARepeatEndsInThePointOfTheCouple) {
   set_.bouw.Relatie(opa2, oma, {moeder}, {{"WHuwDatum", "01-01-1810"}});
   const auto kind = set_.bouw.Man("Kind", "A");
   set_.bouw.Relatie(vader, moeder, {kind});
-  EXPECT_EQ(Schrijf(kind), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kind), Einde::Klaar);
   EXPECT_TRUE(Bevat("     6  Opa C\r\n     7  = 5.\r\n")) << uit_;
 }
 
@@ -101,7 +101,7 @@ TEST_F(KwstParen, TheRemarksOfARepeatAndOfHisMarriageAreNotToldAgain) {
   set_.bouw.OpmerkingBijPersoon(4, 4096, {"Over oma C."});
   set_.bouw.OpmerkingBijRelatie(4, -256, {"Over hun huwelijk."});
   opties_.KwOokOpm = true;
-  EXPECT_EQ(Schrijf(kind_), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kind_), Einde::Klaar);
   EXPECT_EQ(uit_.find("Over opa."), uit_.rfind("Over opa."));
   EXPECT_TRUE(Bevat("     7  Oma C.\r\n\r\n            Over oma C.\r\n")) << uit_;
   EXPECT_FALSE(Bevat("Over hun huwelijk."));
@@ -113,10 +113,10 @@ TEST_F(KwstParen, ARelationWithOnlyARemarkOnAnEventIsToldWithIt) {
   const auto kind = set_.bouw.Man("Kind", "A");
   const auto relatie = set_.bouw.Relatie(vader, moeder, {kind});
   set_.bouw.OpmerkingBijRelatie(relatie, -8, {"Datum zoek."});
-  EXPECT_EQ(Schrijf(kind), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kind), Einde::Klaar);
   EXPECT_TRUE(Bevat("     2  Vader A\r\n     3  Moeder B.\r\n")) << uit_;
   opties_.KwOokOpm = true;
-  EXPECT_EQ(Schrijf(kind), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kind), Einde::Klaar);
   EXPECT_TRUE(Bevat("     2  Vader A, tr. Datum zoek..\r\n     3  Moeder B.\r\n")) << uit_;
 }
 
@@ -127,7 +127,7 @@ TEST_F(KwstParen, ARelationWithOnlyAGeneralRemarkHasNothingBetween) {
   const auto relatie = set_.bouw.Relatie(vader, moeder, {kind});
   set_.bouw.OpmerkingBijRelatie(relatie, -256, {"Een goed huwelijk."});
   opties_.KwOokOpm = true;
-  EXPECT_EQ(Schrijf(kind), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kind), Einde::Klaar);
   EXPECT_TRUE(
       Bevat("     2  Vader A\r\n     3  Moeder B.\r\n\r\n            Een goed huwelijk.\r\n"))
       << uit_;
@@ -140,7 +140,7 @@ TEST_F(KwstParen, ThePlaceOfTheMarriageAmongThoseOfTheFatherIsTold) {
   const auto kind = set_.bouw.Man("Kind", "A");
   set_.bouw.Relatie(vader, eerste, {}, {{"WHuwDatum", "01-01-1800"}});
   set_.bouw.Relatie(vader, moeder, {kind}, {{"WHuwDatum", "01-01-1810"}});
-  EXPECT_EQ(Schrijf(kind), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kind), Einde::Klaar);
   EXPECT_TRUE(
       Bevat("     2  Vader A, tr. 1.1.1800 Eerste B, tr.(2) 1.1.1810.\r\n     3  Moeder C.\r\n"))
       << uit_;
@@ -152,7 +152,7 @@ TEST_F(KwstParen, APersonOfUnknownSexHasTheOtherOfTheTwoForPartner) {
   const auto schoonvader = set_.bouw.Man("Schoonvader", "B");
   set_.bouw.Relatie(schoonvader, 0, {vrouw});
   set_.bouw.Relatie(iemand, vrouw, {}, {{"WHuwDatum", "01-01-1800"}});
-  EXPECT_EQ(Schrijf(iemand), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(iemand), Einde::Klaar);
   EXPECT_TRUE(Bevat("     1  Iemand A, tr. 1.1.1800 Vrouw B, dr. van Schoonvader B.")) << uit_;
 }
 
@@ -162,14 +162,14 @@ TEST_F(KwstParen, ThePlaceInTheRelationMakesAPartnerASonOrADaughter) {
   const auto vader = set_.bouw.Man("Vader", "A");
   set_.bouw.Relatie(vader, 0, {iemand});
   set_.bouw.Relatie(iemand, vrouw, {}, {{"HuwSwPs", "1"}});
-  EXPECT_EQ(Schrijf(vrouw), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(vrouw), Einde::Klaar);
   EXPECT_TRUE(Bevat("     1  Vrouw B, samenwonend Iemand A, zn. van Vader A.")) << uit_;
 }
 
 TEST_F(KwstParen, ARelationWithoutAPartnerIsNotToldAmongTheOthers) {
   const auto man = set_.bouw.Man("Man", "A");
   set_.bouw.Relatie(man, 0, {}, {{"WHuwDatum", "01-01-1800"}});
-  EXPECT_EQ(Schrijf(man), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(man), Einde::Klaar);
   EXPECT_TRUE(Bevat("     1  Man A.\r\n")) << uit_;
 }
 
@@ -180,7 +180,7 @@ TEST_F(KwstParen, TheBrothersOfTheMotherGoByTheFathersRepeat) {
   const auto overgroot = set_.bouw.Man("Overgroot", "C");
   set_.bouw.Relatie(overgroot, 0, {oma2, tante});
   opties_.KwBroerZus = BroerZus::Alle;
-  EXPECT_EQ(Schrijf(kind_), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kind_), Einde::Klaar);
   // Number 6 is a repeat, so nothing is told beside number 7, his wife.
   EXPECT_TRUE(Bevat("     7  Oma C.\r\n"));
   EXPECT_FALSE(Bevat("Tante C"));
@@ -189,7 +189,7 @@ TEST_F(KwstParen, TheBrothersOfTheMotherGoByTheFathersRepeat) {
 TEST_F(KwstParen, LinksLeadToEveryParentInTheTable) {
   BouwHalfbroerEnZus();
   opties_.KwInHTML = true;
-  EXPECT_EQ(Schrijf(kind_), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kind_), Einde::Klaar);
   EXPECT_EQ(LosseLinks(), "");
   EXPECT_EQ(RegelVan("6"), "<A HREF=\"#3\">K</A> = 4<BR>");
   EXPECT_EQ(RegelVan("7").rfind("<A HREF=\"#3\">K</A><STRONG>Oma", 0), 0U) << RegelVan("7");
@@ -200,7 +200,7 @@ TEST_F(KwstParen, LinksLeadToEveryParentInTheTable) {
 TEST_F(KwstParen, AFollowedRepeatHasLinksToHisParentsToo) {
   BouwHalfbroerEnZus();
   opties_.KwInHTML = opties_.KwVolgHerh = true;
-  EXPECT_EQ(Schrijf(kind_), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kind_), Einde::Klaar);
   EXPECT_EQ(LosseLinks(), "");
   EXPECT_EQ(RegelVan("6"),
             "<A HREF=\"#3\">K</A><A HREF=\"#12\">M</A><A HREF=\"#13\">V</A> = 4<BR>");
@@ -212,7 +212,7 @@ TEST_F(KwstParen, LinksOfThoseWhoAreNotWrittenAreSteppedOver) {
   BouwHalfbroerEnZus();
   opties_.KwInHTML = opties_.KwVolgHerh = true;
   opties_.KwVanafNr = Kwartiernummer("6");
-  EXPECT_EQ(Schrijf(kind_), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kind_), Einde::Klaar);
   EXPECT_EQ(RegelVan("5"), "");
   EXPECT_EQ(RegelVan("6"),
             "<A HREF=\"#3\">K</A><A HREF=\"#12\">M</A><A HREF=\"#13\">V</A> = 4<BR>");
@@ -223,14 +223,14 @@ TEST_F(KwstParen, AHeadingLinksToNoGenerationThatIsNotWritten) {
   BouwHalfbroerEnZus();
   opties_.KwInHTML = true;
   opties_.KwBeginNr = Kwartiernummer("5");  // with the first number left at 1
-  EXPECT_EQ(Schrijf(kind_), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kind_), Einde::Klaar);
   EXPECT_EQ(LosseLinks(), "");
   EXPECT_TRUE(Bevat("Generatie III<A NAME=\"III\"></A><A HREF=\"#IV\">(Generatie IV)</A></H4>"));
   EXPECT_TRUE(Bevat("Generatie VI<A NAME=\"VI\"></A><A HREF=\"#V\">(Generatie V)</A></H4>"));
   // Nobody of generation III has such a number, so that generation IV is the first.
   opties_.KwBeginNr = Kwartiernummer("1");
   opties_.KwVanafNr = Kwartiernummer("8");
-  EXPECT_EQ(Schrijf(kind_), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kind_), Einde::Klaar);
   EXPECT_TRUE(Bevat("Generatie IV<A NAME=\"IV\"></A></H4>")) << uit_;
 }
 
@@ -239,7 +239,7 @@ TEST_F(KwstParen, AProbandWhoIsHisOwnAncestorStandsAmongHisBrothersEachTime) {
   const auto broer = set_.bouw.Man("Broer", "A");
   set_.bouw.Relatie(kind, 0, {kind, broer});
   opties_.KwBroerZus = BroerZus::Alle;
-  EXPECT_EQ(Schrijf(kind), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kind), Einde::Klaar);
   EXPECT_TRUE(Bevat("     2  Kring A.\r\n\r\n     a. Kring A.\r\n     b. Broer A.\r\n")) << uit_;
 }
 

@@ -8,7 +8,7 @@ namespace lb77 {
 namespace {
 
 TEST_F(KwstSchrijverToets, TellsAFamilyAsText) {
-  EXPECT_EQ(Schrijf(Familie().proband), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(Familie().proband), Einde::Klaar);
   VerwachtGouden("kwst_tekst.txt", uit_);
 }
 
@@ -19,7 +19,7 @@ TEST_F(KwstSchrijverToets, TellsEverythingItCanAsText) {
   opties_.teksten.inleiding[0] = "Inleiding";
   opties_.teksten.copyrightRegel = "Copyright (2026) Jan Jansen";
   opties_.teksten.programmaRegel = "Gemaakt met LB77 voor Windows";
-  EXPECT_EQ(Schrijf(Familie().proband), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(Familie().proband), Einde::Klaar);
   VerwachtGouden("kwst_tekst_alles.txt", uit_);
   EXPECT_FALSE(Bevat("Titel"));
   EXPECT_FALSE(Bevat("Inleiding"));
@@ -36,20 +36,20 @@ TEST_F(KwstSchrijverToets, TellsAFamilyInHTML) {
   opties_.teksten.homePage = "http://www.example.org/jan";
   opties_.teksten.homePageLabel = "Naar";
   opties_.teksten.homePageTekst = "mijn home page";
-  EXPECT_EQ(Schrijf(Familie().proband), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(Familie().proband), Einde::Klaar);
   VerwachtGouden("kwst_html.txt", uit_);
 }
 
 TEST_F(KwstSchrijverToets, TellsBrothersAndSistersInHTMLInLists) {
   opties_.KwInHTML = opties_.KwOokOpm = true;
   opties_.KwBroerZus = BroerZus::Alle;
-  EXPECT_EQ(Schrijf(Familie().proband), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(Familie().proband), Einde::Klaar);
   VerwachtGouden("kwst_html_broerzus.txt", uit_);
 }
 
 TEST_F(KwstSchrijverToets, TellsTheProbandAmongHisBrothersAndSistersOnly) {
   opties_.KwBroerZus = BroerZus::VanProband;
-  EXPECT_EQ(Schrijf(Familie().proband), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(Familie().proband), Einde::Klaar);
   EXPECT_TRUE(Bevat("     a.  Gerrit van Dam"));
   EXPECT_TRUE(Bevat("     b.  Hanna van Dam"));
   EXPECT_FALSE(Bevat("Eva van Dam"));
@@ -57,7 +57,7 @@ TEST_F(KwstSchrijverToets, TellsTheProbandAmongHisBrothersAndSistersOnly) {
 
 TEST_F(KwstSchrijverToets, StartsAtTheFirstNumberAskedFor) {
   opties_.KwVanafNr = Kwartiernummer("4");
-  EXPECT_EQ(Schrijf(Familie().proband), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(Familie().proband), Einde::Klaar);
   EXPECT_FALSE(Bevat("Gerrit"));
   EXPECT_FALSE(Bevat("Femke"));
   EXPECT_EQ(uit_.rfind("Generatie III\r\n\r\n     4  Adriaan van Dam", 0), 0U);
@@ -65,21 +65,21 @@ TEST_F(KwstSchrijverToets, StartsAtTheFirstNumberAskedFor) {
 
 TEST_F(KwstSchrijverToets, AFirstNumberAboveAllLeavesTheClosingLines) {
   opties_.KwVanafNr = Kwartiernummer("1000");
-  EXPECT_EQ(Schrijf(Familie().proband), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(Familie().proband), Einde::Klaar);
   EXPECT_EQ(uit_, "\r\n\r\n\r\n");
 }
 
 TEST_F(KwstSchrijverToets, AProbandNumberOfFiveBeginsAtGenerationThree) {
   opties_.KwBeginNr = Kwartiernummer("5");
   opties_.KwVanafNr = Kwartiernummer("5");
-  EXPECT_EQ(Schrijf(Familie().proband), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(Familie().proband), Einde::Klaar);
   EXPECT_EQ(uit_.rfind("Generatie III\r\n\r\n     5  Gerrit van Dam", 0), 0U);
   EXPECT_TRUE(Bevat("\r\n    10  Dirk van Dam"));
 }
 
 TEST_F(KwstSchrijverToets, ANumberOfSixDigitsOrMoreStandsAtTheMargin) {
   opties_.KwBeginNr = opties_.KwVanafNr = Kwartiernummer("1234567");
-  EXPECT_EQ(Schrijf(set_.bouw.Man("Jan", "Jansen")), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(set_.bouw.Man("Jan", "Jansen")), Einde::Klaar);
   EXPECT_TRUE(Bevat("\r\n1234567  Jan Jansen."));
 }
 
@@ -88,7 +88,7 @@ TEST_F(KwstSchrijverToets, ACoupleWhoseRelationHasNoDataHasNothingBetween) {
   const auto moeder = set_.bouw.Vrouw("Moeder", "B");
   const auto kind = set_.bouw.Man("Kind", "A");
   set_.bouw.Relatie(vader, moeder, {kind});
-  EXPECT_EQ(Schrijf(kind), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kind), Einde::Klaar);
   EXPECT_TRUE(Bevat("     2  Vader A\r\n     3  Moeder B.\r\n"));
 }
 
@@ -97,7 +97,7 @@ TEST_F(KwstSchrijverToets, ACoupleLivingTogetherIsToldWithoutEvents) {
   const auto moeder = set_.bouw.Vrouw("Moeder", "B");
   const auto kind = set_.bouw.Man("Kind", "A");
   set_.bouw.Relatie(vader, moeder, {kind}, {{"HuwSwPs", "2"}});
-  EXPECT_EQ(Schrijf(kind), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kind), Einde::Klaar);
   EXPECT_TRUE(Bevat("     2  Vader A, partnerschap.\r\n     3  Moeder B.\r\n"));
 }
 
@@ -107,7 +107,7 @@ TEST_F(KwstSchrijverToets, MoreThanTwentySixChildrenHaveTwoLetters) {
   for (int i = 0; i < 28; ++i) kinderen.push_back(set_.bouw.Man("Kind", "A"));
   set_.bouw.Relatie(vader, 0, kinderen);
   opties_.KwBroerZus = BroerZus::VanProband;
-  EXPECT_EQ(Schrijf(kinderen[0]), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(kinderen[0]), Einde::Klaar);
   EXPECT_TRUE(Bevat("\r\n     z.  Kind A."));
   EXPECT_TRUE(Bevat("\r\n    aa.   Kind A."));
   EXPECT_TRUE(Bevat("\r\n    ab.   Kind A."));
@@ -116,12 +116,12 @@ TEST_F(KwstSchrijverToets, MoreThanTwentySixChildrenHaveTwoLetters) {
 TEST_F(KwstSchrijverToets, AStopLeavesTheFileAsFarAsItWasWritten) {
   int test = 0;
   verloop_.afbreken = [&test] { return ++test == 2; };
-  EXPECT_EQ(Bereken(Familie().proband), KwstUitslag::Afgebroken);
+  EXPECT_EQ(Bereken(Familie().proband), Einde::Afgebroken);
   verloop_.afbreken = [] { return false; };
-  EXPECT_EQ(Bereken(opties_.KwProbandNr), KwstUitslag::Klaar);
+  EXPECT_EQ(Bereken(opties_.KwProbandNr), Einde::Klaar);
   test = 0;
   verloop_.afbreken = [&test] { return ++test == 2; };
-  EXPECT_EQ(SchrijfTabel(), KwstUitslag::Afgebroken);
+  EXPECT_EQ(SchrijfTabel(), Einde::Afgebroken);
   EXPECT_TRUE(Bevat("Femke"));
   EXPECT_FALSE(Bevat("Adriaan"));
 }
@@ -130,14 +130,14 @@ TEST_F(KwstSchrijverToets, AnUnreadablePartnerEndsTheReport) {
   const auto man = set_.bouw.Man("Jan", "Jansen");
   const auto relatie = set_.bouw.Relatie(man, 0);
   set_.bouw.WijzigRelatie(relatie, {{"VrouwNr", "500"}});
-  EXPECT_EQ(Schrijf(man), KwstUitslag::Leesfout);
+  EXPECT_EQ(Schrijf(man), Einde::Leesfout);
 }
 
 TEST_F(KwstSchrijverToets, APartnerOfTheSameSexIsTheOtherOfTheTwo) {
   const auto een = set_.bouw.Man("Een", "A");
   const auto twee = set_.bouw.Man("Twee", "B");
   set_.bouw.Relatie(een, twee, {}, {{"WHuwDatum", "01-04-2001"}});
-  EXPECT_EQ(Schrijf(twee), KwstUitslag::Klaar);
+  EXPECT_EQ(Schrijf(twee), Einde::Klaar);
   EXPECT_TRUE(Bevat("     1  Twee B, tr. 1.4.2001 Een A."));
 }
 

@@ -17,16 +17,16 @@ class KwstSchrijverToets : public ::testing::Test {
  protected:
   KwstSchrijverToets() { set_.schrijfwijze.gezindten[1] = "NHNederlands Hervormd"; }
 
-  KwstUitslag Bereken(std::int16_t proband) {
+  Uitslag Bereken(std::int16_t proband) {
     opties_.KwProbandNr = proband;
     return BouwKwst(tabel_, opties_, set_.Persoon, set_.Relatie, set_.volgers, verloop_);
   }
   // Computes and writes; the file is in uit_ afterwards, with plain line ends.
-  KwstUitslag Schrijf(std::int16_t proband) {
-    EXPECT_EQ(Bereken(proband), KwstUitslag::Klaar);
+  Uitslag Schrijf(std::int16_t proband) {
+    EXPECT_EQ(Bereken(proband), Einde::Klaar);
     return SchrijfTabel();
   }
-  KwstUitslag SchrijfTabel() {
+  Uitslag SchrijfTabel() {
     ZinOpties zin;
     zin.ookOpm = opties_.KwOokOpm;
     zin.ookNrs = opties_.KwOokNrs;
@@ -36,7 +36,7 @@ class KwstSchrijverToets : public ::testing::Test {
     schrijver.ZetRechterMarge(opties_.KwInHTML ? TekstSchrijver::kGeenRechterMarge : 78);
     const Gegevens bronnen{set_.Persoon,   set_.Relatie, set_.Plaats,
                            set_.Opmerking, set_.volgers, set_.schrijfwijze};
-    const KwstUitslag uitslag =
+    const Uitslag uitslag =
         KwstSchrijver(tabel_, opties_, bronnen, zin, schrijver, verloop_).Schrijf();
     EXPECT_TRUE(schrijver.Sluit());
     uit_ = LeesBytes(set_.map / "uit.txt");
@@ -50,7 +50,7 @@ class KwstSchrijverToets : public ::testing::Test {
   ProefSet set_;
   KwstTabel tabel_;
   KwstOpties opties_;
-  KwstVerloop verloop_{[] { return false; }, [](int, int) {}};
+  Verloop verloop_{[] { return false; }, [](int, int) {}};
   std::string uit_;
 };
 

@@ -8,13 +8,13 @@ namespace {
 
 class KwstTabelToets : public ::testing::Test {
  protected:
-  KwstUitslag Bouw() {
-    const KwstVerloop verloop{
+  Uitslag Bouw() {
+    const Verloop verloop{
         [this] { return stopBij_ > 0 && --stopBij_ == 0; },
         [this](int persoon, int kwartieren) { getoond_.emplace_back(persoon, kwartieren); }};
     return BouwKwst(tabel_, opties_, set_.Persoon, set_.Relatie, set_.volgers, verloop);
   }
-  KwstUitslag Bouw(std::int16_t proband) {
+  Uitslag Bouw(std::int16_t proband) {
     opties_.KwProbandNr = proband;
     return Bouw();
   }
@@ -52,7 +52,7 @@ class KwstTabelToets : public ::testing::Test {
 };
 
 TEST_F(KwstTabelToets, AProbandWithoutParentsIsOneEntry) {
-  EXPECT_EQ(Bouw(set_.bouw.Man("Jan", "Jansen")), KwstUitslag::Klaar);
+  EXPECT_EQ(Bouw(set_.bouw.Man("Jan", "Jansen")), Einde::Klaar);
   EXPECT_EQ(tabel_.KwstAantal(), 1);
   EXPECT_EQ(tabel_.KwKindIndex(0), 0);
   EXPECT_EQ(tabel_.KwGenSoort(0), 0);
@@ -60,9 +60,9 @@ TEST_F(KwstTabelToets, AProbandWithoutParentsIsOneEntry) {
 }
 
 TEST_F(KwstTabelToets, AProbandWhoIsNoManHasTheMothersBit) {
-  EXPECT_EQ(Bouw(set_.bouw.Vrouw("Jane", "Jansen")), KwstUitslag::Klaar);
+  EXPECT_EQ(Bouw(set_.bouw.Vrouw("Jane", "Jansen")), Einde::Klaar);
   EXPECT_EQ(tabel_.KwGenSoort(0), 128);
-  EXPECT_EQ(Bouw(set_.bouw.Persoon('?', "Jo", "Jansen")), KwstUitslag::Klaar);
+  EXPECT_EQ(Bouw(set_.bouw.Persoon('?', "Jo", "Jansen")), Einde::Klaar);
   EXPECT_EQ(tabel_.KwGenSoort(0), 128);
 }
 
@@ -72,7 +72,7 @@ TEST_F(KwstTabelToets, AFatherAloneGetsOneEntryAndHisLineKeepsItsNumbers) {
   const auto kind = set_.bouw.Man("Kind", "A");
   set_.bouw.Relatie(0, grootmoeder, {vader});
   set_.bouw.Relatie(vader, 0, {kind});
-  EXPECT_EQ(Bouw(kind), KwstUitslag::Klaar);
+  EXPECT_EQ(Bouw(kind), Einde::Klaar);
   EXPECT_EQ(Personen(), (std::vector<int>{kind, vader, grootmoeder}));
   EXPECT_EQ(Nummers(), (std::vector<std::string>{"1", "2", "5"}));
   EXPECT_EQ(tabel_.KwGenSoort(1), 1);
@@ -82,20 +82,20 @@ TEST_F(KwstTabelToets, AFatherAloneGetsOneEntryAndHisLineKeepsItsNumbers) {
 
 TEST_F(KwstTabelToets, CouplesAreWalkedOneBehindTheOther) {
   BouwNichtenhuwelijk();
-  EXPECT_EQ(Bouw(kind_), KwstUitslag::Klaar);
+  EXPECT_EQ(Bouw(kind_), Einde::Klaar);
   EXPECT_EQ(tabel_.Paar(1), (KwstPaar{1, 2, 3}));
   EXPECT_EQ(tabel_.Paar(5), (KwstPaar{5, 6, 7}));
   EXPECT_EQ(tabel_.Paar(7), (KwstPaar{7, 0, 8}));
   const auto moeder = set_.bouw.Vrouw("Moeder", "A");
   const auto kind = set_.bouw.Man("Kind", "A");
   set_.bouw.Relatie(0, moeder, {kind});
-  EXPECT_EQ(Bouw(kind), KwstUitslag::Klaar);
+  EXPECT_EQ(Bouw(kind), Einde::Klaar);
   EXPECT_EQ(tabel_.Paar(1), (KwstPaar{0, 1, 2}));
 }
 
 TEST_F(KwstTabelToets, ACousinMarriageRefersBackAndStopsThere) {
   BouwNichtenhuwelijk();
-  EXPECT_EQ(Bouw(kind_), KwstUitslag::Klaar);
+  EXPECT_EQ(Bouw(kind_), Einde::Klaar);
   // 1 kind, 2 vader, 3 moeder, 4 opa, 5 oma, then both once more, then the great-grandfather.
   EXPECT_EQ(Personen(), (std::vector<int>{kind_, 4, 5, 2, 3, -3, -4, overgroot_}));
   EXPECT_EQ(Nummers(), (std::vector<std::string>{"1", "2", "3", "4", "5", "6", "7", "8"}));
@@ -105,7 +105,7 @@ TEST_F(KwstTabelToets, ACousinMarriageRefersBackAndStopsThere) {
 TEST_F(KwstTabelToets, FollowedRepeatsListTheirParentsAsRepeats) {
   BouwNichtenhuwelijk();
   opties_.KwVolgHerh = true;
-  EXPECT_EQ(Bouw(kind_), KwstUitslag::Klaar);
+  EXPECT_EQ(Bouw(kind_), Einde::Klaar);
   EXPECT_EQ(Personen(), (std::vector<int>{kind_, 4, 5, 2, 3, -3, -4, overgroot_, -7}));
   EXPECT_EQ(tabel_.KwNummer(8).Tekst(), "12");
 }
@@ -114,7 +114,7 @@ TEST_F(KwstTabelToets, TheNumberOfTheProbandGivesTheFirstGeneration) {
   BouwNichtenhuwelijk();
   opties_.KwBeginNr = Kwartiernummer("5");
   opties_.KwMaxGen = 4;
-  EXPECT_EQ(Bouw(kind_), KwstUitslag::Klaar);
+  EXPECT_EQ(Bouw(kind_), Einde::Klaar);
   EXPECT_EQ(Nummers(), (std::vector<std::string>{"5", "10", "11"}));
 }
 
@@ -122,7 +122,7 @@ TEST_F(KwstTabelToets, ALastGenerationNotBeyondTheProbandsLeavesHimAlone) {
   BouwNichtenhuwelijk();
   opties_.KwBeginNr = Kwartiernummer("5");
   opties_.KwMaxGen = 3;
-  EXPECT_EQ(Bouw(kind_), KwstUitslag::Klaar);
+  EXPECT_EQ(Bouw(kind_), Einde::Klaar);
   EXPECT_EQ(tabel_.KwstAantal(), 1);
 }
 
@@ -131,14 +131,14 @@ TEST_F(KwstTabelToets, FatherAndMotherOfOneRecordAreAnEntryAndAReference) {
   const auto kind = set_.bouw.Man("Kind", "A");
   const auto relatie = set_.bouw.Relatie(ouder, 0, {kind});
   set_.bouw.WijzigRelatie(relatie, {{"VrouwNr", "2"}});
-  EXPECT_EQ(Bouw(kind), KwstUitslag::Klaar);
+  EXPECT_EQ(Bouw(kind), Einde::Klaar);
   EXPECT_EQ(Personen(), (std::vector<int>{kind, ouder, -1}));
 }
 
 TEST_F(KwstTabelToets, APersonWhoIsHisOwnParentEndsAtTheFirstRepeat) {
   const auto kind = set_.bouw.Man("Kind", "A");
   set_.bouw.Relatie(kind, 0, {kind});
-  EXPECT_EQ(Bouw(kind), KwstUitslag::Klaar);
+  EXPECT_EQ(Bouw(kind), Einde::Klaar);
   EXPECT_EQ(Personen(), (std::vector<int>{kind, kind, -1}));
 }
 
@@ -146,7 +146,7 @@ TEST_F(KwstTabelToets, AFollowedLoopEndsAtTheLastGeneration) {
   const auto kind = set_.bouw.Man("Kind", "A");
   set_.bouw.Relatie(kind, 0, {kind});
   opties_.KwVolgHerh = true;
-  EXPECT_EQ(Bouw(kind), KwstUitslag::Klaar);
+  EXPECT_EQ(Bouw(kind), Einde::Klaar);
   EXPECT_EQ(tabel_.KwstAantal(), 80);
   EXPECT_EQ(tabel_.KwNummer(79).Generatie(), 80);
 }
@@ -156,19 +156,19 @@ TEST_F(KwstTabelToets, ATableIsFullAtTenThousandEntries) {
   const auto relatie = set_.bouw.Relatie(kind, 0, {kind});
   set_.bouw.WijzigRelatie(relatie, {{"VrouwNr", "2"}});
   opties_.KwVolgHerh = true;
-  EXPECT_EQ(Bouw(kind), KwstUitslag::Vol);
+  EXPECT_EQ(Bouw(kind), Einde::Vol);
   EXPECT_EQ(tabel_.KwstAantal(), 10000);
   EXPECT_EQ(set_.volgers.HuidigPersoonNr, kind);
 }
 
 TEST_F(KwstTabelToets, AnUnreadableProbandIsAFailedRead) {
-  EXPECT_EQ(Bouw(12), KwstUitslag::Leesfout);
+  EXPECT_EQ(Bouw(12), Einde::Leesfout);
   EXPECT_EQ(set_.volgers.HuidigPersoonNr, -1);
 }
 
 TEST_F(KwstTabelToets, TheRecordAboutTheFileIsNoProband) {
-  EXPECT_EQ(Bouw(1), KwstUitslag::Leesfout);
-  EXPECT_EQ(Bouw(0), KwstUitslag::Leesfout);
+  EXPECT_EQ(Bouw(1), Einde::Leesfout);
+  EXPECT_EQ(Bouw(0), Einde::Leesfout);
   EXPECT_EQ(set_.volgers.HuidigPersoonNr, -1);
 }
 
@@ -176,20 +176,20 @@ TEST_F(KwstTabelToets, AnUnreadableParentEndsTheRun) {
   const auto kind = set_.bouw.Man("Kind", "A");
   const auto relatie = set_.bouw.Relatie(0, 0, {kind});
   set_.bouw.WijzigRelatie(relatie, {{"ManNr", "77"}});
-  EXPECT_EQ(Bouw(kind), KwstUitslag::Leesfout);
+  EXPECT_EQ(Bouw(kind), Einde::Leesfout);
   EXPECT_EQ(set_.volgers.HuidigPersoonNr, -1);
   EXPECT_EQ(tabel_.KwstAantal(), 2);
 }
 
 TEST_F(KwstTabelToets, AnUnreadableRelationOfTheParentsEndsTheRun) {
   const auto kind = set_.bouw.Man("Kind", "A", {{"Ouders", "99"}});
-  EXPECT_EQ(Bouw(kind), KwstUitslag::Leesfout);
+  EXPECT_EQ(Bouw(kind), Einde::Leesfout);
 }
 
 TEST_F(KwstTabelToets, AStopIsAskedForOnceAnEntry) {
   BouwNichtenhuwelijk();
   stopBij_ = 3;
-  EXPECT_EQ(Bouw(kind_), KwstUitslag::Afgebroken);
+  EXPECT_EQ(Bouw(kind_), Einde::Afgebroken);
   EXPECT_EQ(set_.volgers.HuidigPersoonNr, -1);
   EXPECT_EQ(tabel_.KwstAantal(), 5);
 }
@@ -198,7 +198,7 @@ TEST_F(KwstTabelToets, TheCountersBeginBlankAtOneAndFollowEachEntry) {
   const auto vader = set_.bouw.Man("Vader", "A");
   const auto kind = set_.bouw.Man("Kind", "A");
   set_.bouw.Relatie(vader, 0, {kind});
-  EXPECT_EQ(Bouw(kind), KwstUitslag::Klaar);
+  EXPECT_EQ(Bouw(kind), Einde::Klaar);
   EXPECT_EQ(getoond_, (std::vector<std::pair<int, int>>{{0, 1}, {kind, 1}, {kind, 2}, {vader, 2}}));
   EXPECT_EQ(set_.volgers.HuidigPersoonNr, vader);
 }

@@ -84,6 +84,27 @@ TEST_F(KwstParam, FieldsAreCheckedWhenTheyAreLeft) {
     )~");
 }
 
+TEST_F(KwstParam, KwartiernummerNulIsGeenGetal) {
+  Speel(R"(
+      vul RecordNr 9
+      druk OKButton
+      vul KwNrProband 0
+      vul KwNrProband 000
+      vul KwNrProband 10
+      vul VanafKwartier 0
+      druk BackButton
+    )",
+        R"~(
+      + KwstTxtPrs "Nummer Proband"
+      + KwstTxtParam "Kwartierstaat Uitvoeropties"
+      ! uitroep "Onjuist kwartiernummer (geen getal)"
+      ! uitroep "Onjuist kwartiernummer (geen getal)"
+      ! uitroep "Onjuist kwartiernummer (geen getal)"
+      - KwstTxtParam
+      - KwstTxtPrs
+    )~");
+}
+
 TEST_F(KwstParam, ChoicesAreKeptInTheSettings) {
   Speel(R"(
       vul RecordNr 9

@@ -173,7 +173,7 @@ TEST_F(OpdrachtenToets, EenVerkeerdeZetGeeftGeenVerslag) {
 TEST_F(OpdrachtenToets, EenPersoonDieErNietIsGeeftGeenVerslag) {
   MaakFamilie();
   EXPECT_EQ(Doe("kwartierstaat", {"familie", "77"}), 1);
-  EXPECT_NE(fout_.find("Er is geen verslag gemaakt"), std::string::npos);
+  EXPECT_EQ(fout_, "Persoonsrecord 77 kan niet worden gelezen. Er is geen verslag gemaakt.\n");
 }
 
 TEST_F(OpdrachtenToets, WatEenVeldLaatVallenWordtGeweigerd) {

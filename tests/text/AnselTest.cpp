@@ -166,7 +166,12 @@ TEST(AnselNaarWindowsTest, LaatEenLetterZonderZulkeSamenvoegingAlleenStaan) {
 TEST(AnselNaarWindowsTest, LaatEenMerkVoorIetsAndersDanEenLetterVallen) {
   EXPECT_EQ(AnselNaarWindows("\3421 ^/ ~"), "1 / ");
   EXPECT_EQ(AnselNaarWindows("\342\262"), "ø"_w);
-  EXPECT_EQ(AnselNaarWindows("\351-"), "-");
+}
+
+TEST(AnselNaarWindowsTest, LaatDeNaamVanEenHacekStaanVoorWatGeenSIs) {
+  EXPECT_EQ(AnselNaarWindows("Dvo\351 rak"), "Dvo<hacek> rak");
+  EXPECT_EQ(AnselNaarWindows("\351-\3511"), "<hacek>-<hacek>1");
+  EXPECT_EQ(AnselNaarWindows("Dvo\351"), "Dvo<hacek>");
 }
 
 TEST(AnselNaarWindowsTest, LeestEenMerkAchterEenMerkOpZichzelf) {

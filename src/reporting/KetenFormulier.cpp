@@ -1,0 +1,31 @@
+#include "reporting/KetenFormulier.h"
+
+#include "output/ToonTekst.h"
+
+namespace lb77 {
+
+void KetenFormulier::KoppelTerug(Knop& terug) {
+  terug.BijKlik([this] {
+    StopKeten();
+    Sluit();
+  });
+}
+
+void KetenFormulier::StopKeten() {
+  Hoofd().volgers.HuidigPersoonNr = -1;
+}
+
+bool KetenFormulier::GaatDoor() const {
+  return Hoofd().volgers.HuidigPersoonNr != -1;
+}
+
+void KetenFormulier::Stap(Formulier&& formulier) {
+  if (GaatDoor()) Hoofd().gesprek.ToonModaal(formulier);
+}
+
+void KetenFormulier::ToonTekstbestand(const std::filesystem::path& pad, std::string_view titel,
+                                      bool inHTML) {
+  Hoofd().gesprek.Toon<ToonTekst>(Hoofd(), pad, titel, inHTML);
+}
+
+}  // namespace lb77

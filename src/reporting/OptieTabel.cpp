@@ -1,0 +1,29 @@
+#include "reporting/OptieTabel.h"
+
+#include <cstdint>
+
+namespace lb77 {
+
+void OptieRij::ToonKeuze(Keuzevak& vak, int eerste, std::string_view waarde) {
+  const std::int32_t getal = Getalwaarde(waarde);
+  vak.ZetIndex(getal >= eerste ? getal - eerste : 0);
+  if (vak.Index() < 0) vak.ZetIndex(0);
+}
+
+void OptieTabel::Laad(const IniClass& ini) const {
+  for (const OptieRij& rij : rijen_) rij.Toon(ini.IniWaarde(sectie_, rij.Tag()));
+}
+
+void OptieTabel::Neem() const {
+  for (const OptieRij& rij : rijen_) rij.Neem();
+}
+
+void OptieTabel::Bewaar(IniClass& ini) const {
+  for (const OptieRij& rij : rijen_) ini.IniZet(sectie_, rij.Tag(), rij.Waarde());
+}
+
+bool BewaartVelden(const IniClass& ini) {
+  return ini.IniWaarde("Systeem", "OpslaanVelden") == "J";
+}
+
+}  // namespace lb77

@@ -1,0 +1,104 @@
+// The kinds of option rows, each through the settings and back.
+#include <gtest/gtest.h>
+
+#include "forms/Formulier.h"
+#include "reporting/OptieTabel.h"
+#include "steun/FamilieToets.h"
+
+namespace lb77 {
+namespace {
+
+enum class Volgorde : std::int16_t { Eerste = 1, Tweede = 2 };
+
+struct Keuzen {
+  bool nummers = false;
+  bool perGeneratie = false;
+  Volgorde volgorde = Volgorde::Eerste;
+  int datums = 0;
+  int leeftijd = 0;
+};
+
+class Optievorm final : public Formulier {
+ public:
+  explicit Optievorm(Keuzen& keuzen) : Formulier("Optievorm", "Opties"), keuzen_(keuzen) {}
+  JaNeeVak OokNrsBox{*this, "OokNrsBox", "Nummers ?"};
+  Keuzevak PerTakBox{*this, "PerTakBox", "Volgorde:", {"Per tak", "Per generatie"}};
+  Keuzevak ZonenBox{*this, "ZonenBox", "Zonen:", {"Een", "Twee"}};
+  Keuzevak DatumsBox{*this, "DatumsBox", "Datums:", {"Nee", "Jaartallen", "Volledig"}};
+  Tekstvak Leeftijd{*this, "Leeftijd", "Leeftijd:", 2};
+
+ private:
+  Keuzen& keuzen_;
+
+ public:
+  OptieTabel tabel{"GEN",
+                   {{OokNrsBox, "OokNummers", true, keuzen_.nummers},
+                    {PerTakBox, "PerGeneratie", false, keuzen_.perGeneratie},
+                    {ZonenBox, "VolgZonen", 1, keuzen_.volgorde},
+                    {DatumsBox, "VolgDochters", 0, keuzen_.datums},
+                    {Leeftijd, "Leeftijd", 11, 15, keuzen_.leeftijd}}};
+};
+
+class OptieTabelToets : public FamilieToets {
+ protected:
+  // Fills the controls from these values.
+  void Laad(Hoofdmodule& hoofd, const std::array<std::string_view, 5>& waarden) {
+    for (std::size_t i = 0; i < kTags.size(); ++i) hoofd.Ini.IniZet("GEN", kTags[i], waarden[i]);
+    vorm_.tabel.Laad(hoofd.Ini);
+  }
+  static constexpr std::array<std::string_view, 5> kTags{"OokNummers", "PerGeneratie", "VolgZonen",
+                                                         "VolgDochters", "Leeftijd"};
+
+  Keuzen keuzen_;
+  Optievorm vorm_{keuzen_};
+};
+
+TEST_F(OptieTabelToets, ToontWatBewaardIsEnVultDeOpties) {
+  Stil([this](Hoofdmodule& hoofd) {
+    Laad(hoofd, {"N", "J", "2", "2", "30"});
+    EXPECT_FALSE(vorm_.OokNrsBox.Ja());
+    EXPECT_EQ(vorm_.PerTakBox.Tekst(), "Per generatie");
+    EXPECT_EQ(vorm_.ZonenBox.Tekst(), "Twee");
+    EXPECT_EQ(vorm_.DatumsBox.Tekst(), "Volledig");
+    EXPECT_EQ(vorm_.Leeftijd.Tekst(), "30");
+    keuzen_.nummers = true;
+    vorm_.tabel.Neem();
+    EXPECT_FALSE(keuzen_.nummers);
+    EXPECT_TRUE(keuzen_.perGeneratie);
+    EXPECT_EQ(keuzen_.volgorde, Volgorde::Tweede);
+    EXPECT_EQ(keuzen_.datums, 2);
+    EXPECT_EQ(keuzen_.leeftijd, 30);
+  });
+}
+
+TEST_F(OptieTabelToets, NeemtVoorEenWaardeDieGeenIsDeStandaard) {
+  Stil([this](Hoofdmodule& hoofd) {
+    for (const std::string_view waarde : {"", "?", "-3", "99999999999"}) {
+      Laad(hoofd, {waarde, waarde, waarde, waarde, waarde == "99999999999" ? "10" : waarde});
+      EXPECT_TRUE(vorm_.OokNrsBox.Ja()) << waarde;
+      EXPECT_EQ(vorm_.PerTakBox.Tekst(), "Per tak") << waarde;
+      EXPECT_EQ(vorm_.ZonenBox.Tekst(), "Een") << waarde;
+      EXPECT_EQ(vorm_.DatumsBox.Tekst(), "Nee") << waarde;
+      EXPECT_EQ(vorm_.Leeftijd.Tekst(), "15") << waarde;
+    }
+  });
+}
+
+TEST_F(OptieTabelToets, BewaartWatGekozenIs) {
+  Stil([this](Hoofdmodule& hoofd) {
+    Laad(hoofd, {"N", "N", "1", "0", "20"});
+    vorm_.OokNrsBox.ZetJa(true);
+    vorm_.PerTakBox.ZetIndex(1);
+    vorm_.ZonenBox.ZetIndex(1);
+    vorm_.DatumsBox.ZetIndex(1);
+    vorm_.Leeftijd.ZetTekst("44");
+    vorm_.tabel.Bewaar(hoofd.Ini);
+    const std::array<std::string_view, 5> verwacht{"J", "J", "2", "1", "44"};
+    for (std::size_t i = 0; i < kTags.size(); ++i) {
+      EXPECT_EQ(hoofd.Ini.IniWaarde("GEN", kTags[i]), verwacht[i]) << kTags[i];
+    }
+  });
+}
+
+}  // namespace
+}  // namespace lb77
