@@ -20,7 +20,7 @@ class Controlevorm final : public WerkFormulier {
  protected:
   void Werk() override {
     EXPECT_FALSE(OKButton.Ingeschakeld());
-    const std::filesystem::path pad = Hoofd().Ini.TempDir() / "CTRL.TMP";
+    const std::filesystem::path pad = Hoofd().programmaMap / "CTRL.TMP";
     const bool heel = MaakVerslag({pad}, [this](TekstSchrijver& uit) {
       uit.VolleRegel("Controle");
       return einde_ == Einde::Leesfout ? Uitslag(Leesfout{BestandSoort::Relaties, 12}) : einde_;

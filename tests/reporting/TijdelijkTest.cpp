@@ -18,7 +18,7 @@ TEST(Verslagbestand, WordtOpBreedteGeschrevenZonderEenWoord) {
   EXPECT_EQ(SchrijfVerslag({map / "KWSTDATA.TMP"}, gesprek, Klaar), Einde::Klaar);
   EXPECT_EQ(LeesBytes(map / "KWSTDATA.TMP"), "Generatie I en nog veel meer\r\n");
   EXPECT_EQ(SchrijfVerslag({map / "KWSTDATA.TMP", 12}, gesprek, Klaar), Einde::Klaar);
-  EXPECT_EQ(LeesBytes(map / "KWSTDATA.TMP"), "Generatie I\r\nen nog\r\nveel meer\r\n");
+  EXPECT_EQ(LeesBytes(map / "KWSTDATA.TMP"), "Generatie I\r\nen nog veel\r\nmeer\r\n");
   EXPECT_TRUE(gesprek.Neem().empty());
 }
 

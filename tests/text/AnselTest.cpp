@@ -57,6 +57,7 @@ constexpr std::array kLosseMerken = {
     LosMerk{229, "\345"},
     LosMerk{230, "<breve>"},
     LosMerk{231, "<dot_above>"},
+    LosMerk{233, "<hacek>"},
     LosMerk{238, "\356"},
     LosMerk{239, "<candrabindu>"},
     LosMerk{241, "<ogonek>"},
