@@ -48,17 +48,17 @@ Uitslag KwstSchrijver::Schrijf() {
     return verteller_.Fout();
   }
   const Uitslag uitslag = SchrijfVoorouders();
-  if (uitslag == Einde::Klaar) SchrijfSlot(uit_, opties_.teksten, opties_.KwInHTML);
+  if (uitslag == Einde::Klaar) SchrijfSlot(uit_, opties_.teksten);
   return uitslag;
 }
 
 void KwstSchrijver::SchrijfGeneratieKop(int generatie) {
-  if (opties_.KwInHTML) uit_.Vast("<HR><H4>");
+  uit_.Tag("<HR><H4>");
   if (generatie > opties_.KwVanafNr.Generatie()) {
     uit_.LegeRegel();
     uit_.LegeRegel();
   }
-  SchrijfGeneratie(uit_, generatie, eersteGen_, maxGen_, opties_.KwInHTML);
+  SchrijfGeneratie(uit_, generatie, eersteGen_, maxGen_);
 }
 
 // Numbers are right-aligned in six columns; the text hangs at column 8.
@@ -72,7 +72,7 @@ void KwstSchrijver::SchrijfKop(std::string_view nummer) {
 
 // The anchor of an entry and the links to its child and its parents.
 void KwstSchrijver::SchrijfLinks(int index) {
-  if (!opties_.KwInHTML) return;
+  if (!uit_.InHTML()) return;
   uit_.Vast(Anker(tabel_.KwNummer(index).Tekst()));
   if (index > 0) {
     uit_.Vast(Verwijzing(tabel_.KwNummer(tabel_.KwKindIndex(index) - 1).Tekst(), "K"));
@@ -93,17 +93,13 @@ bool KwstSchrijver::SchrijfProband() {
   if (opties_.KwBroerZus == BroerZus::Zonder || proband.relNrOuders <= 0) {
     return SchrijfProbandAlleen(proband);
   }
-  Kindtab kinderen{};
   bronnen_.volgers.HuidigRelatieNr = proband.relNrOuders;
   if (!verteller_.LeesRelatie(proband.relNrOuders)) return false;
-  static_cast<void>(bronnen_.relatie.VulKindtab(proband.relNrOuders, kinderen));
-  if (opties_.KwInHTML) {
-    uit_.Vast("<BR>");
-    SchrijfLinks(0);
-    uit_.Vast("<UL>");
-  }
-  if (!SchrijfKinderen(kinderen, proband.nr, true)) return false;
-  if (opties_.KwInHTML) uit_.Vast("</UL>");
+  uit_.Tag("<BR>");
+  SchrijfLinks(0);
+  uit_.Tag("<UL>");
+  if (!SchrijfKinderen(proband, true)) return false;
+  uit_.Tag("</UL>");
   return true;
 }
 
@@ -118,13 +114,13 @@ bool KwstSchrijver::SchrijfProbandAlleen(const Ouder& proband) {
   return true;
 }
 
-// Lettered by child slot: the letter is right-aligned in six columns, the text hangs at column 8,
+// The children of the parents of `van`, lettered by slot: the letter is right-aligned in six columns, the text hangs at column 8,
 // in the proband's own list further by the letter's length.
-bool KwstSchrijver::SchrijfKinderen(const Kindtab& kinderen, std::int16_t nietDeze,
-                                    bool vanProband) {
+bool KwstSchrijver::SchrijfKinderen(const Ouder& van, bool vanProband) {
+  const Kindtab kinderen = LeesKinderen(bronnen_.relatie, van.relNrOuders).plaatsen;
   for (int plaats = 1; plaats < static_cast<int>(kinderen.size()); ++plaats) {
     const std::int16_t kind = kinderen[static_cast<std::size_t>(plaats)];
-    if (kind <= 0 || (kind == nietDeze && kind != opties_.KwProbandNr)) continue;
+    if (kind <= 0 || (kind == van.nr && kind != opties_.KwProbandNr)) continue;
     if (!bronnen_.persoon.Lees(kind)) return true;  // ends the list, not the report
     if (!SchrijfKind(plaats, kind, vanProband)) return false;
   }
@@ -139,7 +135,7 @@ bool KwstSchrijver::SchrijfKind(int plaats, std::int16_t kind, bool vanProband) 
   int volgNr = 1;
   uit_.EindeRegel();
   uit_.ZetMarge(true, 0);
-  if (opties_.KwInHTML) uit_.Vast("<BR>");
+  uit_.Tag("<BR>");
   uit_.ZetMarge(true, 6 - lengte);
   uit_.Vast(letter + ".");
   uit_.ZetMarge(true, vanProband ? 8 + lengte : 8);
@@ -152,42 +148,22 @@ bool KwstSchrijver::SchrijfKind(int plaats, std::int16_t kind, bool vanProband) 
 
 bool KwstSchrijver::SchrijfAndereRelaties(std::int16_t nr, std::int16_t hoofdRel, bool eenOverslaan,
                                           int& volgNr) {
-  if (!bronnen_.persoon.Lees(nr)) return true;
-  const bool isMan = bronnen_.persoon.Geslacht() == "M";
-  if (eenOverslaan && bronnen_.persoon.AantalHuw(nr) == 1) return true;
-  Huwtab relaties{};
-  static_cast<void>(bronnen_.persoon.VulHuwtab(nr, relaties));
-  for (std::size_t plaats = 1; plaats < relaties.size(); ++plaats) {
-    const std::int16_t relatie = relaties[plaats];
-    if (relatie <= 0) continue;
-    const int volg = static_cast<int>(plaats);
-    if (relatie == hoofdRel) {
-      volgNr = volg;
-    } else if (!SchrijfRelatieMetPartner(nr, isMan, relatie, volg)) {
+  const auto gezinnen = LeesGezinnen(bronnen_.persoon, bronnen_.relatie, nr);
+  if (!gezinnen || (eenOverslaan && gezinnen->lijst.size() == 1)) return true;
+  for (const GezinBlik& gezin : gezinnen->lijst) {
+    if (gezin.relNr == hoofdRel) {
+      volgNr = gezin.volgNr;
+    } else if (verteller_.SchrijfPartner(gezin, true) == PartnerVerteld::Onleesbaar) {
       return false;
     }
   }
   return true;
 }
 
-bool KwstSchrijver::SchrijfRelatieMetPartner(std::int16_t nr, bool isMan, std::int16_t relatie,
-                                             int volgNr) {
-  if (!verteller_.LeesRelatie(relatie)) return false;
-  const std::int16_t partner = PartnerVan(bronnen_.relatie, nr, isMan);
-  const bool partnerIsMan = partner == bronnen_.relatie.ManNr();
-  if (partner == 0) return true;
-  if (!verteller_.SchrijfRelatie(relatie, volgNr)) return false;
-  uit_.Tekst(" ");
-  if (!verteller_.SchrijfPersoon(partner)) return false;
-  if (!verteller_.LeesPersoon(partner)) return false;
-  const std::int16_t ouders = bronnen_.persoon.RelNrOuders();
-  return ouders <= 0 || verteller_.SchrijfOuders(partnerIsMan ? 1 : 0, ouders);
-}
-
 // Has the relation in the buffer anything that can be told between its partners?
 bool KwstSchrijver::ZegtIets(const RelatieLB77& relatie) const {
   const int opmCode = opties_.KwOokOpm ? std::abs(int{relatie.OpmCode()}) : 0;
-  return HeeftHuwelijksgegevens(relatie) || (opmCode & kHuwelijksRubrieken) != 0;
+  return VerbintenisVan(relatie).HeeftGegevens() || (opmCode & kHuwelijksRubrieken) != 0;
 }
 
 KwstSchrijver::Ouder KwstSchrijver::MaakOuder(int index) const {
@@ -233,7 +209,7 @@ bool KwstSchrijver::SchrijfPaar(Paar& paar) {
   }
   if (paar.vader.geschreven || paar.moeder.geschreven) {
     uit_.VolleRegel(".");
-    if (opties_.KwInHTML) uit_.Vast("<BR>");
+    uit_.Tag("<BR>");
   }
   SchrijfOpmerkingen(paar);
   return opties_.KwBroerZus != BroerZus::Alle || SchrijfBroersZussen(paar);
@@ -247,7 +223,7 @@ bool KwstSchrijver::SchrijfOuder(Ouder& ouder, Paar& paar) {
     huidigeGen_ = generatie;
     SchrijfGeneratieKop(generatie);
   }
-  if (opties_.KwInHTML) uit_.Vast("<BR>");
+  uit_.Tag("<BR>");
   SchrijfKop(tabel_.KwNummer(ouder.index).Tekst());
   SchrijfLinks(ouder.index);
   if (ouder.herhaling) {
@@ -288,18 +264,16 @@ bool KwstSchrijver::SchrijfBroersZussen(const Paar& paar) {
     return ouder.geschreven && ouder.relNrOuders > 0 && !paar.vader.herhaling;
   };
   if (!heeft(paar.vader) && !heeft(paar.moeder)) return true;
-  if (opties_.KwInHTML) uit_.Vast("<UL>");
+  uit_.Tag("<UL>");
   if (heeft(paar.vader) && !SchrijfBroersZussenVan(paar.vader)) return false;
   if (heeft(paar.moeder) && !SchrijfBroersZussenVan(paar.moeder)) return false;
-  if (opties_.KwInHTML) uit_.Vast("</UL>");
+  uit_.Tag("</UL>");
   return true;
 }
 
 bool KwstSchrijver::SchrijfBroersZussenVan(const Ouder& ouder) {
-  Kindtab kinderen{};
   if (!verteller_.LeesRelatie(ouder.relNrOuders)) return false;
-  static_cast<void>(bronnen_.relatie.VulKindtab(ouder.relNrOuders, kinderen));
-  return SchrijfKinderen(kinderen, ouder.nr, false);
+  return SchrijfKinderen(ouder, false);
 }
 
 }  // namespace lb77

@@ -60,13 +60,10 @@ class KwstSchrijver {
   [[nodiscard]] bool SchrijfBroersZussen(const Paar& paar);
   [[nodiscard]] bool SchrijfBroersZussenVan(const Ouder& ouder);
 
-  [[nodiscard]] bool SchrijfKinderen(const Kindtab& kinderen, std::int16_t nietDeze,
-                                     bool vanProband);
+  [[nodiscard]] bool SchrijfKinderen(const Ouder& van, bool vanProband);
   [[nodiscard]] bool SchrijfKind(int plaats, std::int16_t kind, bool vanProband);
   [[nodiscard]] bool SchrijfAndereRelaties(std::int16_t nr, std::int16_t hoofdRel,
                                            bool eenOverslaan, int& volgNr);
-  [[nodiscard]] bool SchrijfRelatieMetPartner(std::int16_t nr, bool isMan, std::int16_t relatie,
-                                              int volgNr);
   [[nodiscard]] bool ZegtIets(const RelatieLB77& relatie) const;
 
   void SchrijfGeneratieKop(int generatie);

@@ -46,6 +46,10 @@ class TekstSchrijver {
   // before it without a blank.
   void TekstUit(std::string_view tekst, bool regelEinde, bool vast);
 
+  // Is this output for the Internet? Until it is said, it is text.
+  void ZetHTML(bool inHTML) { inHTML_ = inHTML; }
+  [[nodiscard]] bool InHTML() const { return inHTML_; }
+
   // Sets the left margin to `waarde` (`absoluut`), else moves it by `waarde`, which may be
   // negative.
   void ZetMarge(bool absoluut, int waarde);
@@ -60,6 +64,13 @@ class TekstSchrijver {
   void Tekst(std::string_view tekst) { TekstUit(tekst, false, false); }
   // Text glued to what stands before it: what begins with a comma or a full stop, a tag.
   void Vast(std::string_view tekst) { TekstUit(tekst, false, true); }
+  // A tag as Vast or as VolleRegel writes it; nothing in text.
+  void Tag(std::string_view tag) {
+    if (inHTML_) Vast(tag);
+  }
+  void TagRegel(std::string_view tag) {
+    if (inHTML_) VolleRegel(tag);
+  }
   // Text that is the rest of its line.
   void VolleRegel(std::string_view tekst) { TekstUit(tekst, true, true); }
   // Ends the line.
@@ -91,6 +102,7 @@ class TekstSchrijver {
   int rechterMarge_ = kGewoneRechterMarge;
   int linkerMarge_ = 0;
   int vorigeMarge_ = 0;
+  bool inHTML_ = false;
   std::string wachtWoord_;
 };
 

@@ -42,7 +42,9 @@ Verteller::Verteller(const Gegevens& bronnen, TekstSchrijver& schrijver, ZinOpti
     : bronnen_(bronnen),
       schrijver_(schrijver),
       opties_(std::move(opties)),
-      aantalOpm_(bronnen.opmerking.AantalRecords()) {}
+      aantalOpm_(bronnen.opmerking.AantalRecords()) {
+  schrijver_.ZetHTML(opties_.inHTML);
+}
 
 std::string Verteller::Gecodeerd(std::string_view tekst) const {
   return opties_.inHTML ? TekstNaarHTML(tekst) : std::string(tekst);
@@ -91,6 +93,22 @@ bool Verteller::SchrijfRelatie(std::int16_t relNr, int volgNr) {
       .Relatie(std::abs(uit.OpmCode()),
                RelatieVoorvoegsel(relNr, volgNr, volgNr == 1, opties_.ookNrs), opties_.toonTrouw);
   return true;
+}
+
+PartnerVerteld Verteller::SchrijfPartner(const GezinBlik& gezin, bool metOuders) {
+  if (!gezin.gelezen) {
+    fout_ = {BestandSoort::Relaties, gezin.relNr};
+    return PartnerVerteld::Onleesbaar;
+  }
+  if (gezin.partner == 0) return PartnerVerteld::Geen;
+  if (!SchrijfRelatie(gezin.relNr, gezin.volgNr)) return PartnerVerteld::Onleesbaar;
+  schrijver_.Tekst(" ");
+  if (!SchrijfPersoon(gezin.partner)) return PartnerVerteld::Onleesbaar;
+  const std::int16_t ouders = metOuders ? bronnen_.persoon.RelNrOuders() : std::int16_t{0};
+  if (ouders > 0 && !SchrijfOuders(gezin.PartnerIsMan() ? 1 : 0, ouders)) {
+    return PartnerVerteld::Onleesbaar;
+  }
+  return PartnerVerteld::Geschreven;
 }
 
 bool Verteller::SchrijfOuders(std::int16_t sexFlag, std::int16_t relNr) {
@@ -167,10 +185,10 @@ bool Verteller::SchrijfOpmRegels(int& stappen) {
 
 void Verteller::SchrijfAlgemeneOpm(std::int16_t opmRecord, std::int16_t opmCode, int rubriek) {
   if (!opties_.ookOpm) return;
-  const bool lijst = opties_.inHTML && (std::abs(int{opmCode}) & std::abs(rubriek)) != 0;
-  if (lijst) schrijver_.Vast("<UL>");
+  const bool aanwezig = (std::abs(int{opmCode}) & std::abs(rubriek)) != 0;
+  if (aanwezig) schrijver_.Tag("<UL>");
   SchrijfRubriekOpm(opmRecord, opmCode, rubriek, true);
-  if (lijst) schrijver_.Vast("</UL>");
+  if (aanwezig) schrijver_.Tag("</UL>");
 }
 
 }  // namespace lb77

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "output/Blik.h"
 #include "output/Leesfout.h"
 #include "output/TekstSchrijver.h"
 #include "output/ZinOpties.h"
@@ -13,11 +14,16 @@
 
 namespace lb77 {
 
+// What came of telling a partner. Geen: there is none, and nothing was written. Onleesbaar: a record
+// could not be read, and the report must end.
+enum class PartnerVerteld { Geschreven, Geen, Onleesbaar };
+
 // The report form of the grammar, one a run. A False result means that a record could not be read:
 // it aborts the report. All text is encoded for HTML here when the run is in HTML.
 class Verteller {
  public:
-  // Takes the number of remark records. `schrijver` is open and outlives the run.
+  // Takes the number of remark records, and tells the writer whether it writes for the Internet.
+  // `schrijver` is open and outlives the run.
   Verteller(const Gegevens& bronnen, TekstSchrijver& schrijver, ZinOpties opties);
 
   [[nodiscard]] const ZinOpties& Opties() const { return opties_; }
@@ -36,6 +42,9 @@ class Verteller {
   // The events of a relation behind a comma; `volgNr` is its number among the person's, from 1,
   // and told unless it is 1. The buffer holds it afterwards.
   [[nodiscard]] bool SchrijfRelatie(std::int16_t relNr, int volgNr);
+
+  // A relation, its partner and, with `metOuders`, the partner's parents.
+  [[nodiscard]] PartnerVerteld SchrijfPartner(const GezinBlik& gezin, bool metOuders);
 
   // ", zn. van" (`sexFlag` 1, as IsMan gives it) or ", dr. van" and the parents of relation
   // `relNr`; nothing when it has neither. The person buffer changes.

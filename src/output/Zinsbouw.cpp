@@ -9,15 +9,6 @@
 
 namespace lb77 {
 
-struct Zinsbouw::Gebeurtenis {
-  std::int16_t plaatsNr = 0;
-  std::int16_t dagMaand = 0;
-  std::int16_t jaar = 0;
-
-  [[nodiscard]] bool DatumBekend() const { return dagMaand != 0 || jaar != 0; }
-  [[nodiscard]] bool Bekend() const { return plaatsNr != 0 || DatumBekend(); }
-};
-
 // The rubrics of one event; 0 where no remark can follow.
 struct Zinsbouw::Rubrieken {
   int label = 0;
@@ -40,13 +31,9 @@ struct Zinsbouw::Levenspaar {
   int uiteenBij = 0;  // the remarks that part the two
 };
 
-struct Zinsbouw::Huwelijk {
-  Gebeurtenis ondertrouw;
-  Gebeurtenis wettig;
-  Gebeurtenis kerk;
+struct Zinsbouw::Huwelijk : Verbintenis {
   std::string label1;
   std::string label2;
-  std::string corr;
   std::string voorvoegsel;
   unsigned bekend = 0;
 };
@@ -61,10 +48,9 @@ std::string MetKomma(std::string_view tekst, std::string_view erachter = {}) {
   return std::string(", ").append(tekst).append(erachter);
 }
 
-std::string BondLabel(const RelatieLB77& relatie) {
-  const std::string soort = relatie.HuwSwPs();
-  if (soort.empty()) return "tr.";
-  return IsCode(soort, bond::kSamenwonen) ? "samenwonend" : "partnerschap";
+std::string BondLabel(const Verbintenis& verbintenis) {
+  if (verbintenis.bond.empty()) return "tr.";
+  return IsCode(verbintenis.bond, bond::kSamenwonen) ? "samenwonend" : "partnerschap";
 }
 
 }  // namespace
@@ -107,23 +93,22 @@ void Zinsbouw::Tussen(std::string_view label, const Gebeurtenis& begin,
 }
 
 void Zinsbouw::Leven(int opmCode) {
-  GeboorteEnDoop(opmCode);
+  const Levensloop leven = LevensloopVan(bronnen_.persoon);
   const std::string beroep = bronnen_.persoon.beroep();
+  GeboorteEnDoop(leven, opmCode);
   if (!beroep.empty()) uit_.Aan(MetKomma(beroep));
   uit_.Rubriek(persoonrubriek::kBeroep);
-  OverlijdenEnBegraven(opmCode);
+  OverlijdenEnBegraven(leven, opmCode);
 }
 
-void Zinsbouw::GeboorteEnDoop(int opmCode) {
-  const PersoonLB77& persoon = bronnen_.persoon;
-  const std::string gedoopt =
-      "ged." + GezindteNaam(persoon.Religie(), bronnen_.schrijfwijze.gezindten);
+void Zinsbouw::GeboorteEnDoop(const Levensloop& leven, int opmCode) {
+  const std::string gedoopt = "ged." + GezindteNaam(leven.religie, bronnen_.schrijfwijze.gezindten);
   Levenspaar paar;
   paar.label1 = "geb.";
   paar.label2 = paar.label2InPaar = gedoopt;
-  paar.corr = persoon.GebCorr();
-  paar.een = {persoon.GebPlaatsNr(), persoon.GebDagMaand(), persoon.GebJaar()};
-  paar.twee = {persoon.DoopPlaatsNr(), persoon.DoopDagMaand(), persoon.DoopJaar()};
+  paar.corr = leven.gebCorr;
+  paar.een = leven.geboorte;
+  paar.twee = leven.doop;
   paar.rubrieken1 = {0, rubriek::kGebPlaats, rubriek::kGebDatum};
   paar.rubrieken2 = {rubriek::kReligie, rubriek::kDoopPlaats, rubriek::kDoopDatum};
   // kept: a remark on the denomination parts nothing
@@ -132,15 +117,14 @@ void Zinsbouw::GeboorteEnDoop(int opmCode) {
   Paar(paar, opmCode);
 }
 
-void Zinsbouw::OverlijdenEnBegraven(int opmCode) {
-  const PersoonLB77& persoon = bronnen_.persoon;
+void Zinsbouw::OverlijdenEnBegraven(const Levensloop& leven, int opmCode) {
   Levenspaar paar;
   paar.label1 = "overl.";
-  paar.label2 = persoon.BegrCrem() ? "crematie" : "begr.";
+  paar.label2 = leven.crematie ? "crematie" : "begr.";
   paar.label2InPaar = "begr.";  // kept: also for a cremation
-  paar.corr = persoon.OvlCorr();
-  paar.een = {persoon.OvlPlaatsNr(), persoon.OvDagMaand(), persoon.OvJaar()};
-  paar.twee = {persoon.BegrPlaatsNr(), persoon.BegrDagMaand(), persoon.BegrJaar()};
+  paar.corr = leven.ovlCorr;
+  paar.een = leven.overlijden;
+  paar.twee = leven.begrafenis;
   paar.rubrieken1 = {0, rubriek::kOvlPlaats, rubriek::kOvlDatum};
   paar.rubrieken2 = {0, rubriek::kBegrPlaats, rubriek::kBegrDatum};
   paar.uiteenBij = paar.rubrieken1.Alle() | paar.rubrieken2.Alle();
@@ -196,14 +180,9 @@ constexpr int kKerkBits = RubriekBits(kKHuwPlaats, kKHuwDatum);
 }  // namespace
 
 Zinsbouw::Huwelijk Zinsbouw::LeesHuwelijk(int opmCode) const {
-  const RelatieLB77& relatie = bronnen_.relatie;
-  Huwelijk uit;
-  uit.ondertrouw = {relatie.OtrPlaatsNr(), relatie.OtrDagMaand(), relatie.OtrJaar()};
-  uit.wettig = {relatie.WetHuwPlaatsNr(), relatie.WetHuwDagMaand(), relatie.WetHuwJaar()};
-  uit.kerk = {relatie.KHuwPlaatsNr(), relatie.KHuwDagMaand(), relatie.KHuwJaar()};
-  uit.label1 = BondLabel(relatie);
-  uit.label2 = relatie.KHuwSch() ? "sch." : "tr.kerk";
-  uit.corr = relatie.HuwCorr();
+  Huwelijk uit{VerbintenisVan(bronnen_.relatie), {}, {}, {}, 0};
+  uit.label1 = BondLabel(uit);
+  uit.label2 = uit.scheiding ? "sch." : "tr.kerk";
   if (uit.ondertrouw.Bekend() || (opmCode & kOtrBits) != 0) uit.bekend |= huw::kOndertrouw;
   if (uit.wettig.Bekend() || (opmCode & kWetBits) != 0) uit.bekend |= huw::kWettig;
   if (uit.kerk.Bekend() || (opmCode & kKerkBits) != 0) uit.bekend |= huw::kKerk;
@@ -218,8 +197,8 @@ void Zinsbouw::Relatie(int opmCode, std::string_view voorvoegsel, std::string_vi
     return;
   }
   const Gezindten& gezindten = bronnen_.schrijfwijze.gezindten;
-  huwelijk.label1 += GezindteNaam(bronnen_.relatie.HuwSoort(), gezindten);
-  huwelijk.label2 += GezindteNaam(bronnen_.relatie.Religie(), gezindten);
+  huwelijk.label1 += GezindteNaam(huwelijk.huwSoort, gezindten);
+  huwelijk.label2 += GezindteNaam(huwelijk.religie, gezindten);
   const bool tussen = IsCode(huwelijk.corr, correctie::kTussen);
   if (tussen && huwelijk.wettig.DatumBekend() && huwelijk.kerk.DatumBekend()) {
     // kept: the banns do not take the number of the relation away from the marriage.
@@ -277,13 +256,6 @@ std::string RelatieVoorvoegsel(std::int16_t relNr, int volgNr, bool isEerste, bo
   if (!isEerste) uit = "(" + GetalTekst(volgNr) + ")";
   if (ookNrs) uit += " [" + GetalTekst(relNr) + "]";
   return uit;
-}
-
-bool HeeftHuwelijksgegevens(const RelatieLB77& relatie) {
-  return !relatie.HuwSwPs().empty() || relatie.OtrPlaatsNr() != 0 || relatie.OtrDagMaand() != 0 ||
-         relatie.OtrJaar() != 0 || relatie.WetHuwPlaatsNr() != 0 || relatie.WetHuwDagMaand() != 0 ||
-         relatie.WetHuwJaar() != 0 || relatie.KHuwPlaatsNr() != 0 || relatie.KHuwDagMaand() != 0 ||
-         relatie.KHuwJaar() != 0;
 }
 
 std::int16_t PartnerVan(const RelatieLB77& relatie, std::int16_t nr, bool isMan) {

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "output/Gebeurtenis.h"
 #include "output/ZinOpties.h"
 #include "store/Gegevens.h"
 
@@ -37,7 +38,6 @@ class Zinsbouw {
   void Relatie(int opmCode, std::string_view voorvoegsel, std::string_view toonTrouw);
 
  private:
-  struct Gebeurtenis;
   struct Rubrieken;
   struct Levenspaar;
   struct Huwelijk;
@@ -50,8 +50,8 @@ class Zinsbouw {
   void Tussen(std::string_view label, const Gebeurtenis& begin, const Rubrieken& rubriekenBegin,
               const Gebeurtenis& einde, const Rubrieken& rubriekenEinde);
 
-  void GeboorteEnDoop(int opmCode);
-  void OverlijdenEnBegraven(int opmCode);
+  void GeboorteEnDoop(const Levensloop& leven, int opmCode);
+  void OverlijdenEnBegraven(const Levensloop& leven, int opmCode);
   void Paar(const Levenspaar& paar, int opmCode);
   void PaarUiteen(const Levenspaar& paar);
 
@@ -67,9 +67,6 @@ class Zinsbouw {
 // Which relation of a person is told: "(" + number + ")" behind the first one, and with `ookNrs`
 // " [" + record number + "]".
 std::string RelatieVoorvoegsel(std::int16_t relNr, int volgNr, bool isEerste, bool ookNrs);
-
-// Has the relation in the buffer an event, or a kind of bond other than marriage?
-[[nodiscard]] bool HeeftHuwelijksgegevens(const RelatieLB77& relatie);
 
 // The partner of `nr` in the relation in the buffer: the woman of a man (`isMan`), else the man;
 // where that is the person himself, the other of the two. 0 for none.

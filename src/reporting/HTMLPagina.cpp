@@ -81,9 +81,9 @@ void SchrijfHTMLKop(TekstSchrijver& uit, const PaginaTeksten& teksten, std::stri
   }
 }
 
-void SchrijfGeneratie(TekstSchrijver& uit, int generatie, int eerste, int laatste, bool inHTML) {
+void SchrijfGeneratie(TekstSchrijver& uit, int generatie, int eerste, int laatste) {
   uit.Vast("Generatie " + Romeins(generatie));
-  if (!inHTML) {
+  if (!uit.InHTML()) {
     uit.EindeRegel();
     return;
   }
@@ -97,9 +97,9 @@ void SchrijfGeneratie(TekstSchrijver& uit, int generatie, int eerste, int laatst
   uit.LegeRegel();
 }
 
-void SchrijfSlot(TekstSchrijver& uit, const PaginaTeksten& teksten, bool inHTML) {
+void SchrijfSlot(TekstSchrijver& uit, const PaginaTeksten& teksten) {
   uit.ZetMarge(true, 0);
-  if (inHTML) {
+  if (uit.InHTML()) {
     SlotInHTML(uit, teksten);
   } else {
     SlotInTekst(uit, teksten);

@@ -38,9 +38,9 @@ void SchrijfHTMLKop(TekstSchrijver& uit, const PaginaTeksten& teksten, std::stri
 // "Generatie " and its number in Roman. In HTML with its anchor and with links to the generations
 // beside it that lie in `eerste` to `laatste`; the heading ends with its line, in HTML with an empty
 // one besides.
-void SchrijfGeneratie(TekstSchrijver& uit, int generatie, int eerste, int laatste, bool inHTML);
+void SchrijfGeneratie(TekstSchrijver& uit, int generatie, int eerste, int laatste);
 
 // The closing lines of a report, in HTML or in text, and the empty line behind them.
-void SchrijfSlot(TekstSchrijver& uit, const PaginaTeksten& teksten, bool inHTML);
+void SchrijfSlot(TekstSchrijver& uit, const PaginaTeksten& teksten);
 
 }  // namespace lb77

@@ -174,7 +174,7 @@ TEST_F(RelatieZinTest, AnUnreadableRelationEndsTheReport) {
 TEST_F(RelatieZinTest, AnEventOrABondOtherThanMarriageIsSomethingToTell) {
   const auto heeft = [this](VeldWaarden velden) {
     EXPECT_TRUE(set_.Relatie.Lees(Huwelijk(velden)));
-    return HeeftHuwelijksgegevens(set_.Relatie);
+    return VerbintenisVan(set_.Relatie).HeeftGegevens();
   };
   EXPECT_FALSE(heeft({}));
   EXPECT_FALSE(heeft({{"OpmCode", "-1"}, {"HuwSoort", "BS"}}));

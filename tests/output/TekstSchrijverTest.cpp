@@ -27,6 +27,17 @@ class TekstSchrijverTest : public ::testing::Test {
   TekstSchrijver schrijver_;
 };
 
+TEST_F(TekstSchrijverTest, EenTagIsStilInTekst) {
+  EXPECT_FALSE(schrijver_.InHTML());
+  schrijver_.Tag("<BR>");
+  schrijver_.TagRegel("<TABLE>");
+  schrijver_.Vast("Jan");
+  schrijver_.ZetHTML(true);
+  schrijver_.Tag("<BR>");
+  schrijver_.TagRegel("<HR>");
+  EXPECT_EQ(Uit(), "Jan<BR><HR>\r\n");
+}
+
 // Step 1: a held word at or left of the margin.
 
 TEST_F(TekstSchrijverTest, AHeldWordLeftOfTheMarginIsWrittenAtTheMargin) {

@@ -12,8 +12,9 @@ class HTMLPaginaToets : public ::testing::Test {
  protected:
   // What `doe` writes, with plain line ends.
   template <class F>
-  std::string Geschreven(F doe) {
+  std::string Geschreven(F doe, bool inHTML = false) {
     TekstSchrijver uit;
+    uit.ZetHTML(inHTML);
     EXPECT_TRUE(uit.Open(map_ / "uit.txt"));
     uit.ZetRechterMarge(TekstSchrijver::kGeenRechterMarge);
     doe(uit);
@@ -54,7 +55,7 @@ TEST_F(HTMLPaginaToets, AnEmptyTitleIsLeftOut) {
 TEST_F(HTMLPaginaToets, AGenerationIsLinkedToThoseBesideIt) {
   const auto kop = [this](int generatie, int eerste, int laatste, bool inHTML) {
     return Geschreven(
-        [&](TekstSchrijver& uit) { SchrijfGeneratie(uit, generatie, eerste, laatste, inHTML); });
+        [&](TekstSchrijver& uit) { SchrijfGeneratie(uit, generatie, eerste, laatste); }, inHTML);
   };
   EXPECT_EQ(kop(4, 1, 9, false), "Generatie IV\n");
   EXPECT_EQ(kop(2, 1, 3, true),
@@ -68,7 +69,7 @@ TEST_F(HTMLPaginaToets, TheFootTellsOnlyWhatIsFilledIn) {
   teksten_.emailTekst = "Schrijf me";
   teksten_.hskHome = "http://www.example.org";
   teksten_.hskHomeTekst = "De vereniging";
-  EXPECT_EQ(Geschreven([this](TekstSchrijver& uit) { SchrijfSlot(uit, teksten_, true); }),
+  EXPECT_EQ(Geschreven([this](TekstSchrijver& uit) { SchrijfSlot(uit, teksten_); }, true),
             "\n<HR>\n\n"
             "Schrijf me <A HREF=\"mailto:jan@example.org\">jan@example.org</A><BR>\n\n"
             "<A HREF=\"http://www.example.org\">De vereniging</A><BR>\n\n"
@@ -78,7 +79,7 @@ TEST_F(HTMLPaginaToets, TheFootTellsOnlyWhatIsFilledIn) {
 TEST_F(HTMLPaginaToets, TheFootOfATextIsIndentedByTen) {
   teksten_.copyrightRegel = "Copyright (2026) Jan";
   teksten_.programmaRegel = "Gemaakt met LB77 voor Windows";
-  EXPECT_EQ(Geschreven([this](TekstSchrijver& uit) { SchrijfSlot(uit, teksten_, false); }),
+  EXPECT_EQ(Geschreven([this](TekstSchrijver& uit) { SchrijfSlot(uit, teksten_); }),
             "\n\n          Copyright (2026) Jan\n          Gemaakt met LB77 voor Windows\n\n");
 }
 
@@ -86,7 +87,7 @@ TEST_F(HTMLPaginaToets, TheFootBeginsAtTheMarginWhateverTheTextDid) {
   EXPECT_EQ(Geschreven([this](TekstSchrijver& uit) {
               uit.ZetMarge(true, 8);
               uit.Vast("Slot.");
-              SchrijfSlot(uit, teksten_, false);
+              SchrijfSlot(uit, teksten_);
             }),
             "        Slot.\n\n\n");
 }
