@@ -1,12 +1,11 @@
 // The settings dialog of the user's own particulars.
 #pragma once
 
-#include "app/Hoofdmodule.h"
-#include "forms/Formulier.h"
+#include "app/InstelFormulier.h"
 
 namespace lb77 {
 
-class IniGebruiker final : public Formulier {
+class IniGebruiker final : public InstelFormulier {
  public:
   explicit IniGebruiker(Hoofdmodule& hoofd);
 
@@ -25,14 +24,6 @@ class IniGebruiker final : public Formulier {
   Tekstvak EmailTekst{*this, "EmailTekst", "E-mail adres:"};
   Knop OKButton{*this, "OKButton", "&OK"};
   Knop BackButton{*this, "BackButton", "&Terug"};
-
- protected:
-  void BijLaden() override;
-
- private:
-  void OKButtonKlik();
-
-  Hoofdmodule& hoofd_;
 };
 
 }  // namespace lb77

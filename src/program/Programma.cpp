@@ -3,7 +3,12 @@
 #include <exception>
 
 #include "ancestors/KwstTxtPrs.h"
+#include "app/IniFunctie.h"
 #include "app/IniGebruiker.h"
+#include "app/IniGezindte.h"
+#include "app/IniSysteem.h"
+#include "app/IniVoorkeur.h"
+#include "app/IniVoorvoeg.h"
 #include "app/NieuweSet.h"
 #include "app/OpenSetForm.h"
 #include "app/OverLB77Form.h"
@@ -39,6 +44,11 @@ void Programma::HangOp() {
   menu_.Hang("OpenSet", [this, &gesprek] { gesprek.Toon<OpenSetForm>(hoofd_, menu_); });
   menu_.Hang("VerwijderSet", [this, &gesprek] { gesprek.Toon<VerwijderSetForm>(hoofd_, menu_); });
   menu_.Hang("SetupGebruiker", [this, &gesprek] { gesprek.Toon<IniGebruiker>(hoofd_); });
+  menu_.Hang("SetupGezindte", [this, &gesprek] { gesprek.Toon<IniGezindte>(hoofd_); });
+  menu_.Hang("SetupVoorvoeg", [this, &gesprek] { gesprek.Toon<IniVoorvoeg>(hoofd_); });
+  menu_.Hang("SetupVoorkeur", [this, &gesprek] { gesprek.Toon<IniVoorkeur>(hoofd_); });
+  menu_.Hang("SetupToetsen", [this, &gesprek] { gesprek.Toon<IniFunctie>(hoofd_); });
+  menu_.Hang("SetupSysteem", [this, &gesprek] { gesprek.Toon<IniSysteem>(hoofd_); });
   menu_.Hang("ImportGedcom", [this, &gesprek] { gesprek.Toon<ImpGedcom>(hoofd_); });
   menu_.Hang("ViewTekst", [this, &gesprek] { gesprek.Toon<BekijkTekst>(hoofd_); });
   menu_.Hang("TekstKwst", [this, &gesprek] { gesprek.Toon<KwstTxtPrs>(hoofd_); });

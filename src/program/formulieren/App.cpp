@@ -1,5 +1,10 @@
 // The file sets, the settings and the program itself.
+#include "app/IniFunctie.h"
 #include "app/IniGebruiker.h"
+#include "app/IniGezindte.h"
+#include "app/IniSysteem.h"
+#include "app/IniVoorkeur.h"
+#include "app/IniVoorvoeg.h"
 #include "app/NieuweSet.h"
 #include "app/OpenSetForm.h"
 #include "app/OverLB77Form.h"
@@ -14,6 +19,11 @@ constexpr FormulierRij kRijen[] = {
     {"OpenSetForm", [](Programma& p) { return Maak<OpenSetForm>(p.Hoofd(), p.Menu()); }},
     {"VerwijderSetForm", [](Programma& p) { return Maak<VerwijderSetForm>(p.Hoofd(), p.Menu()); }},
     {"IniGebruiker", [](Programma& p) { return Maak<IniGebruiker>(p.Hoofd()); }},
+    {"IniGezindte", [](Programma& p) { return Maak<IniGezindte>(p.Hoofd()); }},
+    {"IniVoorvoeg", [](Programma& p) { return Maak<IniVoorvoeg>(p.Hoofd()); }},
+    {"IniVoorkeur", [](Programma& p) { return Maak<IniVoorkeur>(p.Hoofd()); }},
+    {"IniFunctie", [](Programma& p) { return Maak<IniFunctie>(p.Hoofd()); }},
+    {"IniSysteem", [](Programma& p) { return Maak<IniSysteem>(p.Hoofd()); }},
     {"OverLB77Form", [](Programma&) { return Maak<OverLB77Form>(); }},
 };
 

@@ -1,0 +1,37 @@
+#include "app/IniSysteem.h"
+
+#include <filesystem>
+#include <optional>
+
+namespace lb77 {
+
+namespace {
+
+constexpr int kJa = 0;
+
+}  // namespace
+
+IniSysteem::IniSysteem(Hoofdmodule& hoofd)
+    : InstelFormulier("IniSysteem", "Systeem Instellingen - Systeem", hoofd) {
+  ZetEersteVeld(ProgDirTekst);
+  Koppel(ProgDirTekst, "Systeem", "Prog");
+  Koppel(DataDirTekst, "Systeem", "Data");
+  Koppel(TempDirTekst, "Systeem", "Tempdir");
+  Koppel(GCIDirTekst, "GCI", "Data");
+  Koppel(LB77EditorTekst, "Systeem", "Edit");
+  Koppel(OpslaanParamsBox, "Systeem", "OpslaanVelden", {"J", "N"}, kJa);
+  BrowseDataDir.BijKlik([this] { KiesMap(DataDirTekst); });
+  BrowseTempDir.BijKlik([this] { KiesMap(TempDirTekst); });
+  BrowseGCIDir.BijKlik([this] { KiesMap(GCIDirTekst); });
+  KoppelKnoppen(OKButton, BackButton);
+}
+
+void IniSysteem::KiesMap(Padvak& veld) {
+  const std::optional<std::filesystem::path> map = Hoofd().gesprek.VraagBestand(
+      {.wijze = BestandsWijze::Map,
+       .filter = "Directories (*.)|*.dir|Alle Bestanden (*.*)|*.*",
+       .beginmap = Hoofd().programmaMap / veld.Pad()});
+  if (map) veld.ZetPad(*map);
+}
+
+}  // namespace lb77
