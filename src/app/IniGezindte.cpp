@@ -35,17 +35,17 @@ void IniGezindte::BijLaden() {
     const std::string gezindte = Hoofd().Ini.IniWaarde(kSectie, Sleutel(nummer));
     const std::string_view tekst = gezindte;
     regel.GezAfkTekst.ZetTekst(Trim(tekst.substr(0, kCodeBreedte)));
-    regel.GezTekst.ZetTekst(
-        tekst.size() > kCodeBreedte ? Trim(tekst.substr(kCodeBreedte)) : std::string_view());
+    regel.GezTekst.ZetTekst(tekst.size() > kCodeBreedte ? Trim(tekst.substr(kCodeBreedte))
+                                                        : std::string_view());
   });
 }
 
 // An empty row is two blanks.
 void IniGezindte::Bewaar() {
   Regels.Elk([this](int nummer, const GezindteRegel& regel) {
-    Hoofd().Ini.IniZet(kSectie, Sleutel(nummer),
-                       Links(regel.GezAfkTekst.Tekst(), kCodeBreedte) +
-                           std::string(Trim(regel.GezTekst.Tekst())));
+    Hoofd().Ini.IniZet(
+        kSectie, Sleutel(nummer),
+        Links(regel.GezAfkTekst.Tekst(), kCodeBreedte) + std::string(Trim(regel.GezTekst.Tekst())));
   });
 }
 

@@ -27,10 +27,10 @@ IniSysteem::IniSysteem(Hoofdmodule& hoofd)
 }
 
 void IniSysteem::KiesMap(Padvak& veld) {
-  const std::optional<std::filesystem::path> map = Hoofd().gesprek.VraagBestand(
-      {.wijze = BestandsWijze::Map,
-       .filter = "Directories (*.)|*.dir|Alle Bestanden (*.*)|*.*",
-       .beginmap = Hoofd().programmaMap / veld.Pad()});
+  const std::optional<std::filesystem::path> map =
+      Hoofd().gesprek.VraagBestand({.wijze = BestandsWijze::Map,
+                                    .filter = "Directories (*.)|*.dir|Alle Bestanden (*.*)|*.*",
+                                    .beginmap = Hoofd().programmaMap / veld.Pad()});
   if (map) veld.ZetPad(*map);
 }
 

@@ -16,8 +16,7 @@ class IniVoorkeur final : public InstelFormulier {
                        "Uitvoer naam in HOOFDLETTERS:",
                        {"Nee", "Achternaam", "Voornamen en achternaam"}};
   JaNeeVak FamNaamUitvoerBox{*this, "FamNaamUitvoerBox", "Uitvoer familienaam bij kinderen:"};
-  Keuzevak DatumSeparatorBox{
-      *this, "DatumSeparatorBox", "Scheidingsteken in datums:", {"-", "."}};
+  Keuzevak DatumSeparatorBox{*this, "DatumSeparatorBox", "Scheidingsteken in datums:", {"-", "."}};
   JaNeeVak CapsZoekenBox{*this, "CapsZoekenBox", "Onderscheid hoofdletters bij zoeken ? (*)"};
   Keuzevak HuwInkortenBox{*this,
                           "HuwInkortenBox",

@@ -8,9 +8,8 @@ namespace lb77 {
 
 void InstelFormulier::Koppel(Invoerveld& veld, std::string_view sectie, std::string_view sleutel) {
   IniClass& ini = Hoofd().Ini;
-  koppelingen_.push_back(
-      {[=, &ini, &veld] { veld.ZetTekst(ini.IniWaarde(sectie, sleutel)); },
-       [=, &ini, &veld] { ini.IniZet(sectie, sleutel, veld.Tekst()); }});
+  koppelingen_.push_back({[=, &ini, &veld] { veld.ZetTekst(ini.IniWaarde(sectie, sleutel)); },
+                          [=, &ini, &veld] { ini.IniZet(sectie, sleutel, veld.Tekst()); }});
 }
 
 void InstelFormulier::Koppel(Padvak& veld, std::string_view sectie, std::string_view sleutel) {

@@ -19,12 +19,12 @@ std::vector<Indeling> Instellen() {
                            }),
                            Knoppen({"OKButton", "BackButton"}),
                        })},
-      {"IniGezindte", Kolom({
-                          "GezindtenLabel",
-                          Tabel({Veld("GezAfkTekst(*)", "Code", 4),
-                                 Veld("GezTekst(*)", "Naam", 30)}),
-                          Knoppen({"OKButton", "BackButton"}),
-                      })},
+      {"IniGezindte",
+       Kolom({
+           "GezindtenLabel",
+           Tabel({Veld("GezAfkTekst(*)", "Code", 4), Veld("GezTekst(*)", "Naam", 30)}),
+           Knoppen({"OKButton", "BackButton"}),
+       })},
       {"IniVoorvoeg", Kolom({
                           Velden({"Voorvoeg1Tekst", "Voorvoeg2Tekst"}),
                           Knoppen({"OKButton", "BackButton"}),
@@ -42,13 +42,13 @@ std::vector<Indeling> Instellen() {
                           "InvoerUitleg",
                           Knoppen({"OKButton", "BackButton"}),
                       })},
-      {"IniFunctie", Kolom({
-                         "DefinieerLabel",
-                         Velden({"FtoetsTekst(1)", "FtoetsTekst(2)", "FtoetsTekst(3)",
-                                 "FtoetsTekst(4)", "FtoetsTekst(5)", "FtoetsTekst(6)",
-                                 "FtoetsTekst(7)", "FtoetsTekst(8)"}),
-                         Knoppen({"OKButton", "BackButton"}),
-                     })},
+      {"IniFunctie",
+       Kolom({
+           "DefinieerLabel",
+           Velden({"FtoetsTekst(1)", "FtoetsTekst(2)", "FtoetsTekst(3)", "FtoetsTekst(4)",
+                   "FtoetsTekst(5)", "FtoetsTekst(6)", "FtoetsTekst(7)", "FtoetsTekst(8)"}),
+           Knoppen({"OKButton", "BackButton"}),
+       })},
       {"IniSysteem", Kolom({
                          Velden({
                              Rij({"ProgDirTekst", "ProgDirUitleg"}),
