@@ -14,7 +14,7 @@ namespace {
 constexpr std::string_view kSectie = "Namenfile";
 constexpr std::size_t kCodeBreedte = 2;
 
-std::string Sleutel(int nummer) {
+std::string SleutelVan(int nummer) {
   return "Gez" + GetalTekst(nummer + 1);
 }
 
@@ -32,7 +32,7 @@ IniGezindte::IniGezindte(Hoofdmodule& hoofd)
 
 void IniGezindte::BijLaden() {
   Regels.Elk([this](int nummer, GezindteRegel& regel) {
-    const std::string gezindte = Hoofd().Ini.IniWaarde(kSectie, Sleutel(nummer));
+    const std::string gezindte = Hoofd().Ini.IniWaarde(kSectie, SleutelVan(nummer));
     const std::string_view tekst = gezindte;
     regel.GezAfkTekst.ZetTekst(Trim(tekst.substr(0, kCodeBreedte)));
     regel.GezTekst.ZetTekst(tekst.size() > kCodeBreedte ? Trim(tekst.substr(kCodeBreedte))
@@ -44,7 +44,7 @@ void IniGezindte::BijLaden() {
 void IniGezindte::Bewaar() {
   Regels.Elk([this](int nummer, const GezindteRegel& regel) {
     Hoofd().Ini.IniZet(
-        kSectie, Sleutel(nummer),
+        kSectie, SleutelVan(nummer),
         Links(regel.GezAfkTekst.Tekst(), kCodeBreedte) + std::string(Trim(regel.GezTekst.Tekst())));
   });
 }

@@ -34,9 +34,9 @@ void InstelFormulier::Koppel(Lijst& vak, std::string_view sectie, std::string_vi
        }});
 }
 
-void InstelFormulier::KoppelKnoppen(Knop& ok, Knop& terug) {
-  ok.BijKlik([this] { OKButtonKlik(); });
-  terug.BijKlik([this] { Sluit(); });
+void InstelFormulier::KoppelKnoppen(Knop& OKButton, Knop& BackButton) {
+  OKButton.BijKlik([this] { OKButtonKlik(); });
+  BackButton.BijKlik([this] { Sluit(); });
 }
 
 void InstelFormulier::BijLaden() {

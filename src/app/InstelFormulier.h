@@ -23,7 +23,7 @@ class InstelFormulier : public InvoerFormulier {
   void Koppel(Lijst& vak, std::string_view sectie, std::string_view sleutel,
               std::vector<std::string> waarden, int anders = 0);
   // What OK and Terug do.
-  void KoppelKnoppen(Knop& ok, Knop& terug);
+  void KoppelKnoppen(Knop& OKButton, Knop& BackButton);
 
   void BijLaden() override;
   // What OK does before the settings file is written.

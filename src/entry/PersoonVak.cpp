@@ -37,7 +37,7 @@ bool PersoonVak::NrVak::OpVerlaten() {
 void PersoonVak::NrVak::OpToets(ToetsGebeurtenis& toets) {
   if (toets.code == toets::kF2 && !toets.shift) {
     toets.verwerkt = true;
-    geheel_.Zoek();
+    static_cast<void>(geheel_.Zoek());
   } else {
     InvoerVak::OpToets(toets);
   }

@@ -67,7 +67,7 @@ class PersoonVak {
   void ToonNamen(std::int16_t nr);
   void MaakLeeg() { Toon(0); }
   // Has the user choose a person, and shows him. False when he chose nobody.
-  bool Zoek();
+  [[nodiscard]] bool Zoek();
   void ZetZichtbaar(bool zichtbaar);
 
  private:

@@ -3,6 +3,42 @@
 
 namespace lb77::indeling {
 
+namespace {
+
+Blok Voorkeur() {
+  return Kolom({
+      Velden({
+          "NaamCapsBox",
+          "FamNaamUitvoerBox",
+          "DatumSeparatorBox",
+          "CapsZoekenBox",
+          "HuwInkortenBox",
+      }),
+      "HuwInkortenUitleg",
+      "DOSUitleg",
+      "InvoerUitleg",
+      Knoppen({"OKButton", "BackButton"}),
+  });
+}
+
+Blok Systeem() {
+  return Kolom({
+      Velden({
+          Rij({"ProgDirTekst", "ProgDirUitleg"}),
+          Rij({"DataDirTekst", "BrowseDataDir", "DataDirUitleg"}),
+          Rij({"TempDirTekst", "BrowseTempDir"}),
+          "TempDirUitleg",
+          Rij({"GCIDirTekst", "BrowseGCIDir"}),
+          "LB77EditorTekst",
+          "LB77EditorUitleg",
+          "OpslaanParamsBox",
+      }),
+      Knoppen({"OKButton", "BackButton"}),
+  });
+}
+
+}  // namespace
+
 std::vector<Indeling> Instellen() {
   return {
       {"IniGebruiker", Kolom({
@@ -29,19 +65,7 @@ std::vector<Indeling> Instellen() {
                           Velden({"Voorvoeg1Tekst", "Voorvoeg2Tekst"}),
                           Knoppen({"OKButton", "BackButton"}),
                       })},
-      {"IniVoorkeur", Kolom({
-                          Velden({
-                              "NaamCapsBox",
-                              "FamNaamUitvoerBox",
-                              "DatumSeparatorBox",
-                              "CapsZoekenBox",
-                              "HuwInkortenBox",
-                          }),
-                          "HuwInkortenUitleg",
-                          "DOSUitleg",
-                          "InvoerUitleg",
-                          Knoppen({"OKButton", "BackButton"}),
-                      })},
+      {"IniVoorkeur", Voorkeur()},
       {"IniFunctie",
        Kolom({
            "DefinieerLabel",
@@ -49,19 +73,7 @@ std::vector<Indeling> Instellen() {
                    "FtoetsTekst(5)", "FtoetsTekst(6)", "FtoetsTekst(7)", "FtoetsTekst(8)"}),
            Knoppen({"OKButton", "BackButton"}),
        })},
-      {"IniSysteem", Kolom({
-                         Velden({
-                             Rij({"ProgDirTekst", "ProgDirUitleg"}),
-                             Rij({"DataDirTekst", "BrowseDataDir", "DataDirUitleg"}),
-                             Rij({"TempDirTekst", "BrowseTempDir"}),
-                             "TempDirUitleg",
-                             Rij({"GCIDirTekst", "BrowseGCIDir"}),
-                             "LB77EditorTekst",
-                             "LB77EditorUitleg",
-                             "OpslaanParamsBox",
-                         }),
-                         Knoppen({"OKButton", "BackButton"}),
-                     })},
+      {"IniSysteem", Systeem()},
       {"OverLB77Form", Kolom({
                            Velden({"Programma", "Versie"}),
                            Knoppen({"OKButton"}),
