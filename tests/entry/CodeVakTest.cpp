@@ -29,7 +29,9 @@ class CodeVakToets : public VakToets {
           Vakscherm<RecordNrVak> scherm(hoofd, "RecordNr", "Nummer:", BestandSoort::Personen,
                                         vervolgtest);
           scherm.Vak.ToonNr(0);
+          hoofd.volgers.HuidigPersoonNr = 7;
           hoofd.gesprek.ToonModaal(scherm);
+          EXPECT_EQ(hoofd.volgers.HuidigPersoonNr, 7);
           nr_ = scherm.Vak.Nr();
         },
         verslag, plek);

@@ -142,6 +142,16 @@ TEST_F(Programmaloop, ElkeKeuzeDieTeKiezenIsToontZijnFormulier) {
       sluit
       kies SetupGebruiker
       sluit
+      kies SetupGezindte
+      sluit
+      kies SetupVoorvoeg
+      sluit
+      kies SetupVoorkeur
+      sluit
+      kies SetupToetsen
+      sluit
+      kies SetupSysteem
+      sluit
       kies ImportGedcom
       sluit
       bestand
@@ -161,6 +171,16 @@ TEST_F(Programmaloop, ElkeKeuzeDieTeKiezenIsToontZijnFormulier) {
       - VerwijderSetForm
       + IniGebruiker "Systeem Instellingen - Gebruikersgegevens"
       - IniGebruiker
+      + IniGezindte "Systeem Instellingen - Gezindten"
+      - IniGezindte
+      + IniVoorvoeg "Systeem Instellingen - Voorvoegsels"
+      - IniVoorvoeg
+      + IniVoorkeur "Systeem Instellingen - Genealogische Voorkeuren"
+      - IniVoorkeur
+      + IniFunctie "Systeem Instellingen - Functietoetsen"
+      - IniFunctie
+      + IniSysteem "Systeem Instellingen - Systeem"
+      - IniSysteem
       + ImpGedcom "Importeer Gegevens - Gedcom"
       - ImpGedcom
       > openen "Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt|GEDCOM-bestanden (*.GED)|*.GED" -> -
