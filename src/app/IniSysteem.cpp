@@ -18,7 +18,7 @@ IniSysteem::IniSysteem(Hoofdmodule& hoofd)
   Koppel(DataDirTekst, "Systeem", "Data");
   Koppel(TempDirTekst, "Systeem", "Tempdir");
   Koppel(GCIDirTekst, "GCI", "Data");
-  Koppel(LB77EditorTekst, "Systeem", "Edit");
+  Koppel(LB77EditorTekst, "Systeem", "Editor");
   Koppel(OpslaanParamsBox, "Systeem", "OpslaanVelden", {"J", "N"}, kJa);
   BrowseDataDir.BijKlik([this] { KiesMap(DataDirTekst); });
   BrowseTempDir.BijKlik([this] { KiesMap(TempDirTekst); });
