@@ -27,7 +27,7 @@ constexpr std::string_view kOpenEnDicht =
 TEST_F(IniVoorkeurVenster, DeInstellingenStaanInDeVakken) {
   ZetIni("[Genealogie]\nDatumForm=1\nHoofdletters=2\nFamNaamWeerg=1\nOnderscheid=J\nHuwData=0\n");
   Verwacht("toon\ndruk BackButton", Dialoog(),
-           R"(+ IniVoorkeur "Systeem Instellingen - Genealogische Voorkeuren"
+           R"~(+ IniVoorkeur "Systeem Instellingen - Genealogische Voorkeuren"
               : IniVoorkeur "Systeem Instellingen - Genealogische Voorkeuren"
               = NaamCapsBox "Voornamen en achternaam"
               = FamNaamUitvoerBox "Ja"
