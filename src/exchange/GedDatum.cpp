@@ -6,6 +6,7 @@
 #include "exchange/GedBepaling.h"
 #include "exchange/GedDatumDeel.h"
 #include "text/Getallen.h"
+#include "text/Maanden.h"
 #include "text/Tekens.h"
 
 namespace lb77 {

@@ -37,17 +37,6 @@ std::optional<DatumDelen> MetStreepjes(std::string_view tekst) {
 
 }  // namespace
 
-int GedMaand(std::string_view woord) {
-  constexpr std::string_view kMaanden[] = {"JAN", "FEB", "MAR", "APR", "MAY", "JUN",
-                                           "JUL", "AUG", "SEP", "OCT", "NOV", "DEC"};
-  int nummer = 0;
-  for (const std::string_view maand : kMaanden) {
-    ++nummer;
-    if (woord == maand) return nummer;
-  }
-  return 0;
-}
-
 DatumDelen GedDatumDeel(std::string_view tekst) {
   if (tekst.empty()) return {};
   if (const auto datum = MetStreepjes(tekst)) return *datum;

@@ -11,7 +11,4 @@ namespace lb77 {
 // read; a part that is not given is 0.
 [[nodiscard]] DatumDelen GedDatumDeel(std::string_view tekst);
 
-// The month of a word in capitals, "JAN" to "DEC"; 0 for any other word.
-[[nodiscard]] int GedMaand(std::string_view woord);
-
 }  // namespace lb77

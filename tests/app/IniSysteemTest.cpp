@@ -34,6 +34,8 @@ TEST_F(IniSysteemVenster, DeInstellingenStaanInDeVelden) {
               = GCIDirTekst "gci"
               = LB77EditorTekst "LBEDIT"
               = OpslaanParamsBox "Nee"
+              #0 "Ja"
+              #1 "Nee"
               = ProgDirTekst "<map>"
               - IniSysteem)"));
 }

@@ -28,16 +28,19 @@ TEST_F(IniVoorkeurVenster, DeInstellingenStaanInDeVakken) {
   ZetIni("[Genealogie]\nDatumForm=1\nHoofdletters=2\nFamNaamWeerg=1\nOnderscheid=J\nHuwData=0\n");
   Verwacht("toon\ndruk BackButton", Dialoog(),
            R"~(+ IniVoorkeur "Systeem Instellingen - Genealogische Voorkeuren"
-              : IniVoorkeur "Systeem Instellingen - Genealogische Voorkeuren"
-              = NaamCapsBox "Voornamen en achternaam"
-              = FamNaamUitvoerBox "Ja"
-              = DatumSeparatorBox "."
-              = CapsZoekenBox "Ja"
-              = HuwInkortenBox "Zonder huw.(kerk)" =
-               HuwInkortenUitleg "(*) Zodra otr., huw.(wet) en huw.(kerk) bekend zijn" = DOSUitleg
-           "(*) Deze optie wordt slechts in de oude DOS-versie gebruikt" =
-               InvoerUitleg "Invoer hier is uitsluitend vanwege compatibiliteit opgenomen." =
-                   OKButton "&OK" = BackButton "&Terug" * NaamCapsBox - IniVoorkeur) ");
+               : IniVoorkeur "Systeem Instellingen - Genealogische Voorkeuren"
+               = NaamCapsBox "Voornamen en achternaam"
+               = FamNaamUitvoerBox "Ja"
+               = DatumSeparatorBox "."
+               = CapsZoekenBox "Ja"
+               = HuwInkortenBox "Zonder huw.(kerk)"
+               = HuwInkortenUitleg "(*) Zodra otr., huw.(wet) en huw.(kerk) bekend zijn"
+               = DOSUitleg "(*) Deze optie wordt slechts in de oude DOS-versie gebruikt"
+               = InvoerUitleg "Invoer hier is uitsluitend vanwege compatibiliteit opgenomen."
+               = OKButton "&OK"
+               = BackButton "&Terug"
+               * NaamCapsBox
+               - IniVoorkeur)~");
 }
 
 TEST_F(IniVoorkeurVenster, EenLegeInstellingIsNee) {
@@ -63,6 +66,7 @@ TEST_F(IniVoorkeurVenster, OKBewaartDePlaatsInHetVakEnDeScheiderVolgtLater) {
 }
 
 TEST_F(IniVoorkeurVenster, TerugBewaartNiets) {
+  ZetIni("[Genealogie]\nDatumForm=0\n");
   const std::string voor = Ini();
   Verwacht("stel DatumSeparatorBox #1\ndruk BackButton", Dialoog(), kOpenEnDicht);
   EXPECT_EQ(Ini(), voor);

@@ -32,7 +32,7 @@ class ImpGedcomTest : public ImportToets {
 constexpr std::string_view kOpen = "+ ImpGedcom \"Importeer Gegevens - Gedcom\"\n";
 
 TEST_F(ImpGedcomTest, OpentLeegEnZonderLabelVanWerk) {
-  Speel("toon\ndruk BackButton", R"(
+  Speel("toon\ndruk BackButton", R"~(
       + ImpGedcom "Importeer Gegevens - Gedcom"
       : ImpGedcom "Importeer Gegevens - Gedcom"
       = Bestandsnaam ""
@@ -55,7 +55,7 @@ TEST_F(ImpGedcomTest, OpentLeegEnZonderLabelVanWerk) {
       = BackButton "&Terug"
       * Bestandsnaam
       - ImpGedcom
-    )");
+    )~");
 }
 
 TEST_F(ImpGedcomTest, NaAfloopStaanErDeTellingenVanDeLaatsteGang) {
@@ -72,13 +72,13 @@ TEST_F(ImpGedcomTest, NaAfloopStaanErDeTellingenVanDeLaatsteGang) {
       0 @S2@ SOUR
       1 AUTH Niemand
     )"));
-  Speel(Vul() + "druk OKButton\ndruk BackButton\ntoon\ndruk BackButton", std::string(kOpen) + R"(
+  Speel(Vul() + "druk OKButton\ndruk BackButton\ntoon\ndruk BackButton", std::string(kOpen) + R"~(
       ! info "Importeren voltooid"
       + ToonTekst "Importeren - Resultaat"
       - ToonTekst
       : ImpGedcom "Importeer Gegevens - Gedcom"
-      = Bestandsnaam ")" + Bestand().string() +
-                                                                             R"("
+      = Bestandsnaam ")~" + Bestand().string() +
+                                                                             R"~("
       = BrowseButton "&Browse"
       = DoelLabel "Wordt toegevoegd aan PROEF (2 personen)"
       = Pass1Label "Bezig met ... ==>" [verborgen]
@@ -98,7 +98,7 @@ TEST_F(ImpGedcomTest, NaAfloopStaanErDeTellingenVanDeLaatsteGang) {
       = BackButton "&Terug"
       * OKButton
       - ImpGedcom
-    )");
+    )~");
 }
 
 TEST_F(ImpGedcomTest, VraagtEerstEenBestand) {
