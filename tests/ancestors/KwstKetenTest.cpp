@@ -7,7 +7,7 @@
 namespace lb77 {
 namespace {
 
-TEST_F(KwstKeten, GoesFromNumberToViewer) {
+TEST_F(KwstKeten, GaatVanNummerTotScherm) {
   Speel(R"(
       vul RecordNr 9
       toon
@@ -41,7 +41,7 @@ TEST_F(KwstKeten, GoesFromNumberToViewer) {
   EXPECT_EQ(Verslag().rfind("Generatie I\r\n\r\n     1  Gerrit van Dam", 0), 0U);
 }
 
-TEST_F(KwstKeten, AStopIsConfirmedAndLeavesTheFormOpen) {
+TEST_F(KwstKeten, EenStopWordtBevestigdEnLaatHetFormulierOpen) {
   Speel(R"(
       vul RecordNr 9
       druk OKButton
@@ -66,7 +66,7 @@ TEST_F(KwstKeten, AStopIsConfirmedAndLeavesTheFormOpen) {
   EXPECT_EQ(gebleven_, -1);
 }
 
-TEST_F(KwstKeten, AStopThatIsTakenBackGoesOn) {
+TEST_F(KwstKeten, EenIngetrokkenStopGaatVerder) {
   Speel(R"(
       vul RecordNr 9
       druk OKButton
@@ -89,7 +89,7 @@ TEST_F(KwstKeten, AStopThatIsTakenBackGoesOn) {
   EXPECT_EQ(gebleven_, -1);
 }
 
-TEST_F(KwstKeten, AStopOfTheWritingShowsNoReport) {
+TEST_F(KwstKeten, EenStopVanHetSchrijvenToontGeenVerslag) {
   // The computation tests for it at each of its eight entries, the writing at each couple.
   for (const std::string_view weg : {"druk OKButton", "druk BackButton", "toets Escape", "sluit"}) {
     Speel(R"(
@@ -118,7 +118,7 @@ TEST_F(KwstKeten, AStopOfTheWritingShowsNoReport) {
   }
 }
 
-TEST_F(KwstKeten, AStopOfTheWritingThatIsTakenBackShowsTheReport) {
+TEST_F(KwstKeten, EenIngetrokkenStopVanHetSchrijvenToontHetVerslag) {
   Speel(R"(
       vul RecordNr 9
       druk OKButton
@@ -145,7 +145,7 @@ TEST_F(KwstKeten, AStopOfTheWritingThatIsTakenBackShowsTheReport) {
 }
 
 // Each way out of each form before the work begins.
-TEST_F(KwstKeten, EveryWayBackStopsTheChain) {
+TEST_F(KwstKeten, ElkeWegTerugStoptDeKeten) {
   for (const std::string_view weg : {"druk BackButton", "toets Escape", "sluit"}) {
     const std::string terug = std::string(weg) + "\n";
     gebleven_ = 0;
@@ -187,7 +187,7 @@ TEST_F(KwstKeten, EenBerekeningDieMisluktZegtWatOnleesbaarIsEnSluit) {
   EXPECT_EQ(gebleven_, -1);
 }
 
-TEST_F(KwstKeten, AFailedReadOfTheWritingShowsNoReport) {
+TEST_F(KwstKeten, EenLeesfoutVanHetSchrijvenToontGeenVerslag) {
   const auto relatie = Bouw().Relatie(familie_.proband, 0);
   Bouw().WijzigRelatie(relatie, {{"VrouwNr", "500"}});
   Speel(R"(
@@ -209,7 +209,7 @@ TEST_F(KwstKeten, AFailedReadOfTheWritingShowsNoReport) {
   EXPECT_EQ(gebleven_, -1);
 }
 
-TEST_F(KwstKeten, OneGenerationIsTheProbandAndIsShown) {
+TEST_F(KwstKeten, EenGeneratieIsDeProbandEnWordtGetoond) {
   Speel(R"(
       vul RecordNr 9
       druk OKButton
@@ -233,7 +233,7 @@ TEST_F(KwstKeten, OneGenerationIsTheProbandAndIsShown) {
   EXPECT_EQ(Verslag().find("Generatie II"), std::string::npos);
 }
 
-TEST_F(KwstKeten, ATemporaryFileThatCannotBeMadeStopsTheChain) {
+TEST_F(KwstKeten, EenTijdelijkBestandDatNietKanStoptDeKeten) {
   std::filesystem::create_directories(Map() / "TEMP" / "KWSTDATA.TMP");
   const std::string pad = (Map() / "TEMP" / "KWSTDATA.TMP").string();
   const std::string melding = "! stop \"Kan tijdelijk bestand " + pad + " niet openen\"\n";
@@ -257,7 +257,7 @@ TEST_F(KwstKeten, ATemporaryFileThatCannotBeMadeStopsTheChain) {
   EXPECT_EQ(gebleven_, -1);
 }
 
-TEST_F(KwstKeten, AFullTableIsToldAndWritten) {
+TEST_F(KwstKeten, EenVolleTabelWordtGemeldEnGeschreven) {
   const auto kind = Bouw().Man("Kring", "Loop");
   const auto relatie = Bouw().Relatie(kind, 0, {kind});
   const std::string nummer = GetalTekst(kind);

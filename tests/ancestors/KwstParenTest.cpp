@@ -44,7 +44,7 @@ class KwstParen : public KwstSchrijverToets {
   std::int16_t kind_ = 0;
 };
 
-TEST_F(KwstParen, AMotherAloneHasHerOwnPoint) {
+TEST_F(KwstParen, EenMoederAlleenHeeftEenEigenPunt) {
   const auto moeder = set_.bouw.Vrouw("Moeder", "B");
   const auto kind = set_.bouw.Man("Kind", "A");
   set_.bouw.Relatie(0, moeder, {kind}, {{"WHuwDatum", "01-01-1800"}});
@@ -54,7 +54,7 @@ TEST_F(KwstParen, AMotherAloneHasHerOwnPoint) {
             "     3  Moeder B.\r\n\r\n\r\n\r\n");
 }
 
-TEST_F(KwstParen, AFatherAloneHasHisOwnPoint) {
+TEST_F(KwstParen, EenVaderAlleenHeeftEenEigenPunt) {
   const auto vader = set_.bouw.Man("Vader", "B");
   const auto kind = set_.bouw.Man("Kind", "A");
   set_.bouw.Relatie(vader, 0, {kind}, {{"WHuwDatum", "01-01-1800"}});
@@ -62,7 +62,7 @@ TEST_F(KwstParen, AFatherAloneHasHisOwnPoint) {
   EXPECT_TRUE(Bevat("     2  Vader B.\r\n\r\n\r\n\r\n"));
 }
 
-TEST_F(KwstParen, AFirstNumberThatCutsACoupleLeavesTheMotherWithoutTheirMarriage) {
+TEST_F(KwstParen, EenEersteNummerMiddenInEenPaarLaatDeMoederZonderHuwelijk) {
   BouwHalfbroerEnZus();
   opties_.KwVanafNr = Kwartiernummer("3");
   EXPECT_EQ(Schrijf(kind_), Einde::Klaar);
@@ -72,7 +72,7 @@ TEST_F(KwstParen, AFirstNumberThatCutsACoupleLeavesTheMotherWithoutTheirMarriage
   EXPECT_FALSE(Bevat("1830"));
 }
 
-TEST_F(KwstParen, ACoupleOfWhomOneIsARepeatHasNoMarriageAndOnePoint) {
+TEST_F(KwstParen, EenPaarMetEenHerhalingHeeftGeenHuwelijkEnEenPunt) {
   BouwHalfbroerEnZus();
   EXPECT_EQ(Schrijf(kind_), Einde::Klaar);
   // He is told with both marriages under his first number.
@@ -81,7 +81,7 @@ TEST_F(KwstParen, ACoupleOfWhomOneIsARepeatHasNoMarriageAndOnePoint) {
   EXPECT_TRUE(Bevat("\r\n\r\n     6  = 4\r\n     7  Oma C.\r\n"));
 }
 
-TEST_F(KwstParen, AMotherWhoIsARepeatEndsInThePointOfTheCouple) {
+TEST_F(KwstParen, EenMoederDieHerhalingIsEindigtInDePuntVanHetPaar) {
   const auto oma = set_.bouw.Vrouw("Oma", "A");
   const auto opa1 = set_.bouw.Man("Opa", "B");
   const auto opa2 = set_.bouw.Man("Opa", "C");
@@ -95,7 +95,7 @@ TEST_F(KwstParen, AMotherWhoIsARepeatEndsInThePointOfTheCouple) {
   EXPECT_TRUE(Bevat("     6  Opa C\r\n     7  = 5.\r\n")) << uit_;
 }
 
-TEST_F(KwstParen, TheRemarksOfARepeatAndOfHisMarriageAreNotToldAgain) {
+TEST_F(KwstParen, DeOpmerkingenVanEenHerhalingStaanErNietNogEens) {
   BouwHalfbroerEnZus();
   set_.bouw.OpmerkingBijPersoon(2, 4096, {"Over opa."});
   set_.bouw.OpmerkingBijPersoon(4, 4096, {"Over oma C."});
@@ -107,7 +107,7 @@ TEST_F(KwstParen, TheRemarksOfARepeatAndOfHisMarriageAreNotToldAgain) {
   EXPECT_FALSE(Bevat("Over hun huwelijk."));
 }
 
-TEST_F(KwstParen, ARelationWithOnlyARemarkOnAnEventIsToldWithIt) {
+TEST_F(KwstParen, EenRelatieMetAlleenEenOpmerkingBijEenGebeurtenisStaatErMee) {
   const auto vader = set_.bouw.Man("Vader", "A");
   const auto moeder = set_.bouw.Vrouw("Moeder", "B");
   const auto kind = set_.bouw.Man("Kind", "A");
@@ -120,7 +120,7 @@ TEST_F(KwstParen, ARelationWithOnlyARemarkOnAnEventIsToldWithIt) {
   EXPECT_TRUE(Bevat("     2  Vader A, tr. Datum zoek..\r\n     3  Moeder B.\r\n")) << uit_;
 }
 
-TEST_F(KwstParen, ARelationWithOnlyAGeneralRemarkHasNothingBetween) {
+TEST_F(KwstParen, EenRelatieMetAlleenEenAlgemeneOpmerkingHeeftNietsErtussen) {
   const auto vader = set_.bouw.Man("Vader", "A");
   const auto moeder = set_.bouw.Vrouw("Moeder", "B");
   const auto kind = set_.bouw.Man("Kind", "A");
@@ -133,7 +133,7 @@ TEST_F(KwstParen, ARelationWithOnlyAGeneralRemarkHasNothingBetween) {
       << uit_;
 }
 
-TEST_F(KwstParen, ThePlaceOfTheMarriageAmongThoseOfTheFatherIsTold) {
+TEST_F(KwstParen, HetHoeveelsteHuwelijkVanDeVaderStaatErbij) {
   const auto vader = set_.bouw.Man("Vader", "A");
   const auto eerste = set_.bouw.Vrouw("Eerste", "B");
   const auto moeder = set_.bouw.Vrouw("Moeder", "C");
@@ -146,7 +146,7 @@ TEST_F(KwstParen, ThePlaceOfTheMarriageAmongThoseOfTheFatherIsTold) {
       << uit_;
 }
 
-TEST_F(KwstParen, APersonOfUnknownSexHasTheOtherOfTheTwoForPartner) {
+TEST_F(KwstParen, VanOnbekendGeslachtIsDeAnderVanDeTweePartner) {
   const auto iemand = set_.bouw.Persoon('?', "Iemand", "A");
   const auto vrouw = set_.bouw.Vrouw("Vrouw", "B");
   const auto schoonvader = set_.bouw.Man("Schoonvader", "B");
@@ -156,7 +156,7 @@ TEST_F(KwstParen, APersonOfUnknownSexHasTheOtherOfTheTwoForPartner) {
   EXPECT_TRUE(Bevat("     1  Iemand A, tr. 1.1.1800 Vrouw B, dr. van Schoonvader B.")) << uit_;
 }
 
-TEST_F(KwstParen, ThePlaceInTheRelationMakesAPartnerASonOrADaughter) {
+TEST_F(KwstParen, DePlaatsInDeRelatieMaaktEenPartnerZoonOfDochter) {
   const auto iemand = set_.bouw.Persoon('?', "Iemand", "A");
   const auto vrouw = set_.bouw.Vrouw("Vrouw", "B");
   const auto vader = set_.bouw.Man("Vader", "A");
@@ -166,14 +166,14 @@ TEST_F(KwstParen, ThePlaceInTheRelationMakesAPartnerASonOrADaughter) {
   EXPECT_TRUE(Bevat("     1  Vrouw B, samenwonend Iemand A, zn. van Vader A.")) << uit_;
 }
 
-TEST_F(KwstParen, ARelationWithoutAPartnerIsNotToldAmongTheOthers) {
+TEST_F(KwstParen, EenRelatieZonderPartnerStaatNietBijDeAndere) {
   const auto man = set_.bouw.Man("Man", "A");
   set_.bouw.Relatie(man, 0, {}, {{"WHuwDatum", "01-01-1800"}});
   EXPECT_EQ(Schrijf(man), Einde::Klaar);
   EXPECT_TRUE(Bevat("     1  Man A.\r\n")) << uit_;
 }
 
-TEST_F(KwstParen, TheBrothersOfTheMotherGoByTheFathersRepeat) {
+TEST_F(KwstParen, DeBroersVanDeMoederGaanNaarDeHerhalingVanDeVader) {
   BouwHalfbroerEnZus();
   const auto tante = set_.bouw.Vrouw("Tante", "C");
   const auto oma2 = std::int16_t{4};
@@ -186,7 +186,7 @@ TEST_F(KwstParen, TheBrothersOfTheMotherGoByTheFathersRepeat) {
   EXPECT_FALSE(Bevat("Tante C"));
 }
 
-TEST_F(KwstParen, LinksLeadToEveryParentInTheTable) {
+TEST_F(KwstParen, VerwijzingenGaanNaarElkeOuderInDeTabel) {
   BouwHalfbroerEnZus();
   opties_.KwInHTML = true;
   EXPECT_EQ(Schrijf(kind_), Einde::Klaar);
@@ -197,7 +197,7 @@ TEST_F(KwstParen, LinksLeadToEveryParentInTheTable) {
             0U);
 }
 
-TEST_F(KwstParen, AFollowedRepeatHasLinksToHisParentsToo) {
+TEST_F(KwstParen, EenGevolgdeHerhalingVerwijstOokNaarZijnOuders) {
   BouwHalfbroerEnZus();
   opties_.KwInHTML = opties_.KwVolgHerh = true;
   EXPECT_EQ(Schrijf(kind_), Einde::Klaar);
@@ -208,7 +208,7 @@ TEST_F(KwstParen, AFollowedRepeatHasLinksToHisParentsToo) {
   EXPECT_EQ(RegelVan("13"), "<A HREF=\"#6\">K</A> = 9.");
 }
 
-TEST_F(KwstParen, LinksOfThoseWhoAreNotWrittenAreSteppedOver) {
+TEST_F(KwstParen, VerwijzingenVanWieNietGeschrevenIsWordenOvergeslagen) {
   BouwHalfbroerEnZus();
   opties_.KwInHTML = opties_.KwVolgHerh = true;
   opties_.KwVanafNr = Kwartiernummer("6");
@@ -219,7 +219,7 @@ TEST_F(KwstParen, LinksOfThoseWhoAreNotWrittenAreSteppedOver) {
   EXPECT_EQ(RegelVan("8").rfind("<A HREF=\"#4\">K</A><STRONG>", 0), 0U) << RegelVan("8");
 }
 
-TEST_F(KwstParen, AHeadingLinksToNoGenerationThatIsNotWritten) {
+TEST_F(KwstParen, EenKopVerwijstNietNaarEenGeneratieDieErNietStaat) {
   BouwHalfbroerEnZus();
   opties_.KwInHTML = true;
   opties_.KwBeginNr = Kwartiernummer("5");  // with the first number left at 1
@@ -234,7 +234,7 @@ TEST_F(KwstParen, AHeadingLinksToNoGenerationThatIsNotWritten) {
   EXPECT_TRUE(Bevat("Generatie IV<A NAME=\"IV\"></A></H4>")) << uit_;
 }
 
-TEST_F(KwstParen, AProbandWhoIsHisOwnAncestorStandsAmongHisBrothersEachTime) {
+TEST_F(KwstParen, EenProbandDieZijnEigenVoorouderIsStaatTelkensBijZijnBroers) {
   const auto kind = set_.bouw.Man("Kring", "A");
   const auto broer = set_.bouw.Man("Broer", "A");
   set_.bouw.Relatie(kind, 0, {kind, broer});

@@ -7,12 +7,12 @@
 namespace lb77 {
 namespace {
 
-TEST_F(KwstSchrijverToets, TellsAFamilyAsText) {
+TEST_F(KwstSchrijverToets, VerteltEenFamilieAlsTekst) {
   EXPECT_EQ(Schrijf(Familie().proband), Einde::Klaar);
   VerwachtGouden("kwst_tekst.txt", uit_);
 }
 
-TEST_F(KwstSchrijverToets, TellsEverythingItCanAsText) {
+TEST_F(KwstSchrijverToets, VerteltAllesWatHetKanAlsTekst) {
   opties_.KwOokOpm = opties_.KwOokNrs = opties_.KwVolgHerh = true;
   opties_.KwBroerZus = BroerZus::Alle;
   opties_.teksten.titel = "Titel";
@@ -25,7 +25,7 @@ TEST_F(KwstSchrijverToets, TellsEverythingItCanAsText) {
   EXPECT_FALSE(Bevat("Inleiding"));
 }
 
-TEST_F(KwstSchrijverToets, TellsAFamilyInHTML) {
+TEST_F(KwstSchrijverToets, VerteltEenFamilieInHTML) {
   opties_.KwInHTML = opties_.KwOokOpm = true;
   opties_.teksten.titel = "Kwartierstaat van Gerrit & zijn zus";
   opties_.teksten.inleiding = {"Eerste regel", "", "Derde regel"};
@@ -40,14 +40,14 @@ TEST_F(KwstSchrijverToets, TellsAFamilyInHTML) {
   VerwachtGouden("kwst_html.txt", uit_);
 }
 
-TEST_F(KwstSchrijverToets, TellsBrothersAndSistersInHTMLInLists) {
+TEST_F(KwstSchrijverToets, ZetBroersEnZussenInHTMLInLijsten) {
   opties_.KwInHTML = opties_.KwOokOpm = true;
   opties_.KwBroerZus = BroerZus::Alle;
   EXPECT_EQ(Schrijf(Familie().proband), Einde::Klaar);
   VerwachtGouden("kwst_html_broerzus.txt", uit_);
 }
 
-TEST_F(KwstSchrijverToets, TellsTheProbandAmongHisBrothersAndSistersOnly) {
+TEST_F(KwstSchrijverToets, ZetAlleenDeProbandTussenZijnBroersEnZussen) {
   opties_.KwBroerZus = BroerZus::VanProband;
   EXPECT_EQ(Schrijf(Familie().proband), Einde::Klaar);
   EXPECT_TRUE(Bevat("     a.  Gerrit van Dam"));
@@ -55,7 +55,7 @@ TEST_F(KwstSchrijverToets, TellsTheProbandAmongHisBrothersAndSistersOnly) {
   EXPECT_FALSE(Bevat("Eva van Dam"));
 }
 
-TEST_F(KwstSchrijverToets, StartsAtTheFirstNumberAskedFor) {
+TEST_F(KwstSchrijverToets, BegintBijHetGevraagdeEersteNummer) {
   opties_.KwVanafNr = Kwartiernummer("4");
   EXPECT_EQ(Schrijf(Familie().proband), Einde::Klaar);
   EXPECT_FALSE(Bevat("Gerrit"));
@@ -63,13 +63,13 @@ TEST_F(KwstSchrijverToets, StartsAtTheFirstNumberAskedFor) {
   EXPECT_EQ(uit_.rfind("Generatie III\r\n\r\n     4  Adriaan van Dam", 0), 0U);
 }
 
-TEST_F(KwstSchrijverToets, AFirstNumberAboveAllLeavesTheClosingLines) {
+TEST_F(KwstSchrijverToets, EenEersteNummerBovenAlleLaatDeSlotregels) {
   opties_.KwVanafNr = Kwartiernummer("1000");
   EXPECT_EQ(Schrijf(Familie().proband), Einde::Klaar);
   EXPECT_EQ(uit_, "\r\n\r\n\r\n");
 }
 
-TEST_F(KwstSchrijverToets, AProbandNumberOfFiveBeginsAtGenerationThree) {
+TEST_F(KwstSchrijverToets, EenProbandMetNummerVijfBegintBijGeneratieDrie) {
   opties_.KwBeginNr = Kwartiernummer("5");
   opties_.KwVanafNr = Kwartiernummer("5");
   EXPECT_EQ(Schrijf(Familie().proband), Einde::Klaar);
@@ -77,13 +77,13 @@ TEST_F(KwstSchrijverToets, AProbandNumberOfFiveBeginsAtGenerationThree) {
   EXPECT_TRUE(Bevat("\r\n    10  Dirk van Dam"));
 }
 
-TEST_F(KwstSchrijverToets, ANumberOfSixDigitsOrMoreStandsAtTheMargin) {
+TEST_F(KwstSchrijverToets, EenNummerVanZesCijfersOfMeerStaatAanDeMarge) {
   opties_.KwBeginNr = opties_.KwVanafNr = Kwartiernummer("1234567");
   EXPECT_EQ(Schrijf(set_.bouw.Man("Jan", "Jansen")), Einde::Klaar);
   EXPECT_TRUE(Bevat("\r\n1234567  Jan Jansen."));
 }
 
-TEST_F(KwstSchrijverToets, ACoupleWhoseRelationHasNoDataHasNothingBetween) {
+TEST_F(KwstSchrijverToets, EenPaarZonderGegevensHeeftNietsErtussen) {
   const auto vader = set_.bouw.Man("Vader", "A");
   const auto moeder = set_.bouw.Vrouw("Moeder", "B");
   const auto kind = set_.bouw.Man("Kind", "A");
@@ -92,7 +92,7 @@ TEST_F(KwstSchrijverToets, ACoupleWhoseRelationHasNoDataHasNothingBetween) {
   EXPECT_TRUE(Bevat("     2  Vader A\r\n     3  Moeder B.\r\n"));
 }
 
-TEST_F(KwstSchrijverToets, ACoupleLivingTogetherIsToldWithoutEvents) {
+TEST_F(KwstSchrijverToets, EenSamenwonendPaarStaatErZonderGebeurtenissen) {
   const auto vader = set_.bouw.Man("Vader", "A");
   const auto moeder = set_.bouw.Vrouw("Moeder", "B");
   const auto kind = set_.bouw.Man("Kind", "A");
@@ -101,7 +101,7 @@ TEST_F(KwstSchrijverToets, ACoupleLivingTogetherIsToldWithoutEvents) {
   EXPECT_TRUE(Bevat("     2  Vader A, partnerschap.\r\n     3  Moeder B.\r\n"));
 }
 
-TEST_F(KwstSchrijverToets, MoreThanTwentySixChildrenHaveTwoLetters) {
+TEST_F(KwstSchrijverToets, MeerDanZesentwintigKinderenHebbenTweeLetters) {
   const auto vader = set_.bouw.Man("Vader", "A");
   std::vector<std::int16_t> kinderen;
   for (int i = 0; i < 28; ++i) kinderen.push_back(set_.bouw.Man("Kind", "A"));
@@ -113,7 +113,7 @@ TEST_F(KwstSchrijverToets, MoreThanTwentySixChildrenHaveTwoLetters) {
   EXPECT_TRUE(Bevat("\r\n    ab.   Kind A."));
 }
 
-TEST_F(KwstSchrijverToets, AStopLeavesTheFileAsFarAsItWasWritten) {
+TEST_F(KwstSchrijverToets, EenStopLaatHetBestandZoverAlsHetWas) {
   int test = 0;
   verloop_.afbreken = [&test] { return ++test == 2; };
   EXPECT_EQ(Bereken(Familie().proband), Einde::Afgebroken);
@@ -126,14 +126,14 @@ TEST_F(KwstSchrijverToets, AStopLeavesTheFileAsFarAsItWasWritten) {
   EXPECT_FALSE(Bevat("Adriaan"));
 }
 
-TEST_F(KwstSchrijverToets, AnUnreadablePartnerEndsTheReport) {
+TEST_F(KwstSchrijverToets, EenOnleesbarePartnerEindigtHetVerslag) {
   const auto man = set_.bouw.Man("Jan", "Jansen");
   const auto relatie = set_.bouw.Relatie(man, 0);
   set_.bouw.WijzigRelatie(relatie, {{"VrouwNr", "500"}});
   EXPECT_EQ(Schrijf(man), Einde::Leesfout);
 }
 
-TEST_F(KwstSchrijverToets, APartnerOfTheSameSexIsTheOtherOfTheTwo) {
+TEST_F(KwstSchrijverToets, EenPartnerVanHetzelfdeGeslachtIsDeAnderVanDeTwee) {
   const auto een = set_.bouw.Man("Een", "A");
   const auto twee = set_.bouw.Man("Twee", "B");
   set_.bouw.Relatie(een, twee, {}, {{"WHuwDatum", "01-04-2001"}});

@@ -51,7 +51,7 @@ class KwstTabelToets : public ::testing::Test {
   std::vector<std::pair<int, int>> getoond_;
 };
 
-TEST_F(KwstTabelToets, AProbandWithoutParentsIsOneEntry) {
+TEST_F(KwstTabelToets, EenProbandZonderOudersIsEenKwartier) {
   EXPECT_EQ(Bouw(set_.bouw.Man("Jan", "Jansen")), Einde::Klaar);
   EXPECT_EQ(tabel_.KwstAantal(), 1);
   EXPECT_EQ(tabel_.KwKindIndex(0), 0);
@@ -59,14 +59,14 @@ TEST_F(KwstTabelToets, AProbandWithoutParentsIsOneEntry) {
   EXPECT_EQ(tabel_.KwPersoon(1), 0);
 }
 
-TEST_F(KwstTabelToets, AProbandWhoIsNoManHasTheMothersBit) {
+TEST_F(KwstTabelToets, EenProbandDieGeenManIsHeeftDeMoederbit) {
   EXPECT_EQ(Bouw(set_.bouw.Vrouw("Jane", "Jansen")), Einde::Klaar);
   EXPECT_EQ(tabel_.KwGenSoort(0), 128);
   EXPECT_EQ(Bouw(set_.bouw.Persoon('?', "Jo", "Jansen")), Einde::Klaar);
   EXPECT_EQ(tabel_.KwGenSoort(0), 128);
 }
 
-TEST_F(KwstTabelToets, AFatherAloneGetsOneEntryAndHisLineKeepsItsNumbers) {
+TEST_F(KwstTabelToets, EenVaderAlleenKrijgtEenKwartierEnZijnLijnHoudtZijnNummers) {
   const auto grootmoeder = set_.bouw.Vrouw("Grootmoeder", "A");
   const auto vader = set_.bouw.Man("Vader", "A");
   const auto kind = set_.bouw.Man("Kind", "A");
@@ -80,7 +80,7 @@ TEST_F(KwstTabelToets, AFatherAloneGetsOneEntryAndHisLineKeepsItsNumbers) {
   EXPECT_EQ(tabel_.KwKindIndex(2), 2);
 }
 
-TEST_F(KwstTabelToets, CouplesAreWalkedOneBehindTheOther) {
+TEST_F(KwstTabelToets, ParenVolgenOpElkaar) {
   BouwNichtenhuwelijk();
   EXPECT_EQ(Bouw(kind_), Einde::Klaar);
   EXPECT_EQ(tabel_.Paar(1), (KwstPaar{1, 2, 3}));
@@ -93,7 +93,7 @@ TEST_F(KwstTabelToets, CouplesAreWalkedOneBehindTheOther) {
   EXPECT_EQ(tabel_.Paar(1), (KwstPaar{0, 1, 2}));
 }
 
-TEST_F(KwstTabelToets, ACousinMarriageRefersBackAndStopsThere) {
+TEST_F(KwstTabelToets, EenNichtenhuwelijkVerwijstTerugEnStoptDaar) {
   BouwNichtenhuwelijk();
   EXPECT_EQ(Bouw(kind_), Einde::Klaar);
   // 1 kind, 2 vader, 3 moeder, 4 opa, 5 oma, then both once more, then the great-grandfather.
@@ -102,7 +102,7 @@ TEST_F(KwstTabelToets, ACousinMarriageRefersBackAndStopsThere) {
   EXPECT_EQ(tabel_.Persoon(5), 2);
 }
 
-TEST_F(KwstTabelToets, FollowedRepeatsListTheirParentsAsRepeats) {
+TEST_F(KwstTabelToets, GevolgdeHerhalingenHebbenOudersDieHerhalingZijn) {
   BouwNichtenhuwelijk();
   opties_.KwVolgHerh = true;
   EXPECT_EQ(Bouw(kind_), Einde::Klaar);
@@ -110,7 +110,7 @@ TEST_F(KwstTabelToets, FollowedRepeatsListTheirParentsAsRepeats) {
   EXPECT_EQ(tabel_.KwNummer(8).Tekst(), "12");
 }
 
-TEST_F(KwstTabelToets, TheNumberOfTheProbandGivesTheFirstGeneration) {
+TEST_F(KwstTabelToets, HetNummerVanDeProbandGeeftDeEersteGeneratie) {
   BouwNichtenhuwelijk();
   opties_.KwBeginNr = Kwartiernummer("5");
   opties_.KwMaxGen = 4;
@@ -118,7 +118,7 @@ TEST_F(KwstTabelToets, TheNumberOfTheProbandGivesTheFirstGeneration) {
   EXPECT_EQ(Nummers(), (std::vector<std::string>{"5", "10", "11"}));
 }
 
-TEST_F(KwstTabelToets, ALastGenerationNotBeyondTheProbandsLeavesHimAlone) {
+TEST_F(KwstTabelToets, EenLaatsteGeneratieDieNietVerderGaatLaatHemAlleen) {
   BouwNichtenhuwelijk();
   opties_.KwBeginNr = Kwartiernummer("5");
   opties_.KwMaxGen = 3;
@@ -126,7 +126,7 @@ TEST_F(KwstTabelToets, ALastGenerationNotBeyondTheProbandsLeavesHimAlone) {
   EXPECT_EQ(tabel_.KwstAantal(), 1);
 }
 
-TEST_F(KwstTabelToets, FatherAndMotherOfOneRecordAreAnEntryAndAReference) {
+TEST_F(KwstTabelToets, VaderEnMoederVanEenRecordZijnKwartierEnVerwijzing) {
   const auto ouder = set_.bouw.Man("Ouder", "A");
   const auto kind = set_.bouw.Man("Kind", "A");
   const auto relatie = set_.bouw.Relatie(ouder, 0, {kind});
@@ -135,14 +135,14 @@ TEST_F(KwstTabelToets, FatherAndMotherOfOneRecordAreAnEntryAndAReference) {
   EXPECT_EQ(Personen(), (std::vector<int>{kind, ouder, -1}));
 }
 
-TEST_F(KwstTabelToets, APersonWhoIsHisOwnParentEndsAtTheFirstRepeat) {
+TEST_F(KwstTabelToets, WieZijnEigenOuderIsEindigtBijDeEersteHerhaling) {
   const auto kind = set_.bouw.Man("Kind", "A");
   set_.bouw.Relatie(kind, 0, {kind});
   EXPECT_EQ(Bouw(kind), Einde::Klaar);
   EXPECT_EQ(Personen(), (std::vector<int>{kind, kind, -1}));
 }
 
-TEST_F(KwstTabelToets, AFollowedLoopEndsAtTheLastGeneration) {
+TEST_F(KwstTabelToets, EenGevolgdeKringEindigtBijDeLaatsteGeneratie) {
   const auto kind = set_.bouw.Man("Kind", "A");
   set_.bouw.Relatie(kind, 0, {kind});
   opties_.KwVolgHerh = true;
@@ -151,7 +151,7 @@ TEST_F(KwstTabelToets, AFollowedLoopEndsAtTheLastGeneration) {
   EXPECT_EQ(tabel_.KwNummer(79).Generatie(), 80);
 }
 
-TEST_F(KwstTabelToets, ATableIsFullAtTenThousandEntries) {
+TEST_F(KwstTabelToets, EenTabelIsVolBijTienduizendKwartieren) {
   const auto kind = set_.bouw.Man("Kind", "A");
   const auto relatie = set_.bouw.Relatie(kind, 0, {kind});
   set_.bouw.WijzigRelatie(relatie, {{"VrouwNr", "2"}});
@@ -161,18 +161,18 @@ TEST_F(KwstTabelToets, ATableIsFullAtTenThousandEntries) {
   EXPECT_EQ(set_.volgers.HuidigPersoonNr, kind);
 }
 
-TEST_F(KwstTabelToets, AnUnreadableProbandIsAFailedRead) {
+TEST_F(KwstTabelToets, EenOnleesbareProbandIsEenLeesfout) {
   EXPECT_EQ(Bouw(12), Einde::Leesfout);
   EXPECT_EQ(set_.volgers.HuidigPersoonNr, -1);
 }
 
-TEST_F(KwstTabelToets, TheRecordAboutTheFileIsNoProband) {
+TEST_F(KwstTabelToets, HetRecordOverHetBestandIsGeenProband) {
   EXPECT_EQ(Bouw(1), Einde::Leesfout);
   EXPECT_EQ(Bouw(0), Einde::Leesfout);
   EXPECT_EQ(set_.volgers.HuidigPersoonNr, -1);
 }
 
-TEST_F(KwstTabelToets, AnUnreadableParentEndsTheRun) {
+TEST_F(KwstTabelToets, EenOnleesbareOuderEindigtDeOpbouw) {
   const auto kind = set_.bouw.Man("Kind", "A");
   const auto relatie = set_.bouw.Relatie(0, 0, {kind});
   set_.bouw.WijzigRelatie(relatie, {{"ManNr", "77"}});
@@ -181,12 +181,12 @@ TEST_F(KwstTabelToets, AnUnreadableParentEndsTheRun) {
   EXPECT_EQ(tabel_.KwstAantal(), 2);
 }
 
-TEST_F(KwstTabelToets, AnUnreadableRelationOfTheParentsEndsTheRun) {
+TEST_F(KwstTabelToets, EenOnleesbareRelatieVanDeOudersEindigtDeOpbouw) {
   const auto kind = set_.bouw.Man("Kind", "A", {{"Ouders", "99"}});
   EXPECT_EQ(Bouw(kind), Einde::Leesfout);
 }
 
-TEST_F(KwstTabelToets, AStopIsAskedForOnceAnEntry) {
+TEST_F(KwstTabelToets, EenStopWordtPerKwartierEenmaalGevraagd) {
   BouwNichtenhuwelijk();
   stopBij_ = 3;
   EXPECT_EQ(Bouw(kind_), Einde::Afgebroken);
@@ -194,7 +194,7 @@ TEST_F(KwstTabelToets, AStopIsAskedForOnceAnEntry) {
   EXPECT_EQ(tabel_.KwstAantal(), 5);
 }
 
-TEST_F(KwstTabelToets, TheCountersBeginBlankAtOneAndFollowEachEntry) {
+TEST_F(KwstTabelToets, DeTellersBeginnenLeegBijEenEnVolgenElkKwartier) {
   const auto vader = set_.bouw.Man("Vader", "A");
   const auto kind = set_.bouw.Man("Kind", "A");
   set_.bouw.Relatie(vader, 0, {kind});

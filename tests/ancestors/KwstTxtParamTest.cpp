@@ -8,7 +8,7 @@ namespace {
 
 class KwstParam : public KwstKeten {};
 
-TEST_F(KwstParam, TheParameterDialogOpensWithItsDefaultsAndTheSavedChoices) {
+TEST_F(KwstParam, HetOptieschermOpentMetZijnStandaardEnDeBewaardeKeuzen) {
   Speel(R"(
       vul RecordNr 9
       druk OKButton
@@ -51,7 +51,7 @@ TEST_F(KwstParam, TheParameterDialogOpensWithItsDefaultsAndTheSavedChoices) {
   EXPECT_EQ(gebleven_, -1);
 }
 
-TEST_F(KwstParam, FieldsAreCheckedWhenTheyAreLeft) {
+TEST_F(KwstParam, VeldenWordenGecontroleerdBijHetVerlaten) {
   Speel(R"(
       vul RecordNr 9
       druk OKButton
@@ -105,7 +105,7 @@ TEST_F(KwstParam, KwartiernummerNulIsGeenGetal) {
     )~");
 }
 
-TEST_F(KwstParam, ChoicesAreKeptInTheSettings) {
+TEST_F(KwstParam, KeuzenBlijvenInDeInstellingen) {
   Speel(R"(
       vul RecordNr 9
       druk OKButton
@@ -138,7 +138,7 @@ TEST_F(KwstParam, ChoicesAreKeptInTheSettings) {
   EXPECT_EQ(Verslag().find("Gemaakt met"), std::string::npos);
 }
 
-TEST_F(KwstParam, AKindOfOutputThatIsNoneIsTheFirst) {
+TEST_F(KwstParam, EenSoortUitvoerDieErGeenIsIsDeEerste) {
   for (const std::string_view waarde : {"", "0", "4", "x", "-99999999999", "99999999999"}) {
     std::string ini(kIni);
     ini.replace(ini.find("SoortUitv=1"), 11, "SoortUitv=" + std::string(waarde));
@@ -157,7 +157,7 @@ TEST_F(KwstParam, AKindOfOutputThatIsNoneIsTheFirst) {
   }
 }
 
-TEST_F(KwstParam, ChoicesAreForgottenWhenTheSettingsSaySo) {
+TEST_F(KwstParam, KeuzenWordenVergetenAlsDeInstellingenDatZeggen) {
   std::string ini(kIni);
   ini.replace(ini.find("OpslaanVelden=J"), 15, "OpslaanVelden=N");
   SchrijfBytes(Map() / "LIJNBOOM.INI", ini);
@@ -187,7 +187,7 @@ TEST_F(KwstParam, ChoicesAreForgottenWhenTheSettingsSaySo) {
   EXPECT_EQ(Ini(), ini);
 }
 
-TEST_F(KwstParam, TheHTMLDialogShowsSamplesAndKeepsWhatIsFilledIn) {
+TEST_F(KwstParam, HetHTMLSchermToontVoorbeeldenEnBewaartWatIngevuldIs) {
   Speel(R"(
       vul RecordNr 9
       druk OKButton
@@ -233,7 +233,7 @@ TEST_F(KwstParam, TheHTMLDialogShowsSamplesAndKeepsWhatIsFilledIn) {
   EXPECT_NE(Verslag().find("&copy;Copyright (2000) J. Jansen"), std::string::npos);
 }
 
-TEST_F(KwstParam, BackInTheHTMLDialogStopsTheChain) {
+TEST_F(KwstParam, TerugInHetHTMLSchermStoptDeKeten) {
   Speel(R"(
       vul RecordNr 9
       druk OKButton

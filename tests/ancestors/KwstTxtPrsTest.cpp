@@ -8,7 +8,7 @@ namespace {
 
 class KwstPrompt : public KwstKeten {};
 
-TEST_F(KwstPrompt, AnEmptyPromptAsksForANumber) {
+TEST_F(KwstPrompt, EenLegeVraagVraagtOmEenNummer) {
   Speel(R"(
       druk OKButton
       toon
@@ -30,7 +30,7 @@ TEST_F(KwstPrompt, AnEmptyPromptAsksForANumber) {
     )");
 }
 
-TEST_F(KwstPrompt, ANameAloneIsSearchedFor) {
+TEST_F(KwstPrompt, EenNaamAlleenWordtGezocht) {
   Speel(R"(
       vul VoorNm Ger*
       druk OKButton
@@ -47,7 +47,7 @@ TEST_F(KwstPrompt, ANameAloneIsSearchedFor) {
     )");
 }
 
-TEST_F(KwstPrompt, AnUnknownNumberShowsQuestionMarksAndEndsInTheComputation) {
+TEST_F(KwstPrompt, EenOnbekendNummerToontVraagtekensEnEindigtInDeOpbouw) {
   Speel(R"(
       vul RecordNr 500
       toon VoorNm
@@ -69,7 +69,7 @@ TEST_F(KwstPrompt, AnUnknownNumberShowsQuestionMarksAndEndsInTheComputation) {
   EXPECT_EQ(gebleven_, -1);
 }
 
-TEST_F(KwstPrompt, TheRecordAboutTheFileIsNobody) {
+TEST_F(KwstPrompt, HetRecordOverHetBestandIsNiemand) {
   Speel(R"(
       vul RecordNr 1
       toon VoorNm
@@ -91,7 +91,7 @@ TEST_F(KwstPrompt, TheRecordAboutTheFileIsNobody) {
   EXPECT_EQ(gebleven_, -1);
 }
 
-TEST_F(KwstPrompt, ANameThatNobodyHasIsToldAndAsksForANumber) {
+TEST_F(KwstPrompt, EenNaamDieNiemandHeeftWordtGemeld) {
   Speel(R"(
       vul AchterNm Niemand
       druk OKButton
@@ -108,7 +108,7 @@ TEST_F(KwstPrompt, ANameThatNobodyHasIsToldAndAsksForANumber) {
   EXPECT_EQ(gebleven_, -1);
 }
 
-TEST_F(KwstPrompt, EnterMovesOn) {
+TEST_F(KwstPrompt, EnterGaatVerder) {
   Speel(R"(
       vul RecordNr 9
       toets RecordNr Enter
@@ -125,7 +125,7 @@ TEST_F(KwstPrompt, EnterMovesOn) {
     )");
 }
 
-TEST_F(KwstPrompt, ATooHighNumberIsRefused) {
+TEST_F(KwstPrompt, EenTeHoogNummerWordtGeweigerd) {
   Speel(R"(
       vul RecordNr 40000
       toets Escape
@@ -137,7 +137,7 @@ TEST_F(KwstPrompt, ATooHighNumberIsRefused) {
     )");
 }
 
-TEST_F(KwstPrompt, TheSearchButtonAndF2FillTheNumber) {
+TEST_F(KwstPrompt, DeZoekknopEnF2VullenHetNummer) {
   Speel(R"(
       druk ZoekButton
       druk RecordNrPrs(8)

@@ -24,7 +24,7 @@ class BekijkTekstTest : public SpeelToets {
   VasteKlok klok_{Tijdstip{2024, 1, 2, 3, 4, 5}};
 };
 
-TEST_F(BekijkTekstTest, ShowsTheChosenFile) {
+TEST_F(BekijkTekstTest, ToontHetGekozenBestand) {
   SchrijfBytes(map_ / "brief.txt", "Beste neef,\r\n");
   Verwacht(R"(
       bestand brief.txt
@@ -39,13 +39,13 @@ TEST_F(BekijkTekstTest, ShowsTheChosenFile) {
     )");
 }
 
-TEST_F(BekijkTekstTest, ClosesUnseenWithoutAFile) {
+TEST_F(BekijkTekstTest, SluitOngezienZonderBestand) {
   Verwacht("bestand", Bekijkt(), R"(
       > openen "Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt|GEDCOM-bestanden (*.GED)|*.GED" -> -
     )");
 }
 
-TEST_F(BekijkTekstTest, AFileThatCannotBeReadIsTold) {
+TEST_F(BekijkTekstTest, EenOnleesbaarBestandWordtGemeld) {
   Verwacht(R"(
       bestand weg.txt
       toon UitvoerBox

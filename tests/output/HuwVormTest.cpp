@@ -34,11 +34,11 @@ void VerwachtBits(unsigned bekend, const std::string& toonTrouw, int bits, HuwVo
 
 const std::array<std::string, 4> kAlleTrouw = {"0", "1", "2", ""};
 
-TEST(HuwVormTest, NoEventGivesNothing) {
+TEST(HuwVormTest, GeenGebeurtenisGeeftNiets) {
   EXPECT_EQ(KiesHuwVorm(0, kAlleBits, "2"), HuwVorm());
 }
 
-TEST(HuwVormTest, OneEventIsToldAlone) {
+TEST(HuwVormTest, EenGebeurtenisStaatAlleen) {
   for (const std::string& trouw : kAlleTrouw) {
     for (const unsigned een : {kO, kW, kK}) {
       EXPECT_EQ(KiesHuwVorm(een, 0, trouw), (HuwVorm{een, 0}));
@@ -47,33 +47,33 @@ TEST(HuwVormTest, OneEventIsToldAlone) {
   }
 }
 
-TEST(HuwVormTest, BannsAndChurchMergeUnlessARemarkStandsBetween) {
+TEST(HuwVormTest, OndertrouwEnKerkGaanSamenTenzijEenOpmerkingErtussenStaat) {
   for (const std::string& trouw : kAlleTrouw) {
     VerwachtBits(kO | kK, trouw, 1 | 2 | 32 | 64, {kO | kK, 0}, {0, kO | kK});
   }
 }
 
-TEST(HuwVormTest, BannsAndCivilMergeUnlessARemarkOnPlaceOrDateStandsBetween) {
+TEST(HuwVormTest, OndertrouwEnWettigGaanSamenTenzijEenOpmerkingErtussenStaat) {
   for (const std::string& trouw : kAlleTrouw) {
     VerwachtBits(kO | kW, trouw, 1 | 2 | 4 | 8, {kO | kW, 0}, {0, kO | kW});
   }
 }
 
-TEST(HuwVormTest, CivilAndChurchMergeUnlessARemarkOnPlaceOrDateStandsBetween) {
+TEST(HuwVormTest, WettigEnKerkGaanSamenTenzijEenOpmerkingErtussenStaat) {
   for (const std::string& trouw : kAlleTrouw) {
     VerwachtBits(kW | kK, trouw, 4 | 8 | 32 | 64, {kW | kK, 0}, {0, kW | kK});
   }
 }
 
-TEST(HuwVormTest, SettingZeroLeavesTheChurchOut) {
+TEST(HuwVormTest, InstellingNulLaatDeKerkWeg) {
   VerwachtBits(kDrie, "0", 1 | 2 | 4 | 8 | 16, {kO | kW, 0}, {0, kO | kW});
 }
 
-TEST(HuwVormTest, SettingOneLeavesTheBannsOut) {
+TEST(HuwVormTest, InstellingEenLaatDeOndertrouwWeg) {
   VerwachtBits(kDrie, "1", 4 | 8 | 16 | 32 | 64, {kW | kK, 0}, {0, kW | kK});
 }
 
-TEST(HuwVormTest, AnyOtherSettingTellsAllThree) {
+TEST(HuwVormTest, ElkeAndereInstellingVerteltAlleDrie) {
   for (const std::string trouw : {"2", "", "x"}) {
     const HuwVorm wettigMetKerk{kO, kW | kK};
     const HuwVorm ondertrouwMetWettig{kK, kO | kW};

@@ -31,22 +31,22 @@ class RegelstroomTest : public ::testing::Test {
   Regelstroom stroom_;
 };
 
-TEST_F(RegelstroomTest, AnEmptyFileHasNoLine) {
+TEST_F(RegelstroomTest, EenLeegBestandHeeftGeenRegel) {
   EXPECT_EQ(Regels(""), Lijst());
 }
 
-TEST_F(RegelstroomTest, EveryKindOfEndCounts) {
+TEST_F(RegelstroomTest, ElkSoortEindeTelt) {
   EXPECT_EQ(Regels("a\r\nb\nc\rd"), (Lijst{"a", "b", "c", "d"}));
   EXPECT_EQ(Regels("a\n\r"), (Lijst{"a", ""}));
   EXPECT_EQ(Regels("\r\r\n\n"), (Lijst{"", "", ""}));
 }
 
-TEST_F(RegelstroomTest, ALineMayLieAcrossBlocks) {
+TEST_F(RegelstroomTest, EenRegelMagOverBlokkenLiggen) {
   const std::string lang(3 * kBlok + 5, 'x');
   EXPECT_EQ(Regels(lang + "\r\nb"), (Lijst{lang, "b"}));
 }
 
-TEST_F(RegelstroomTest, AnEndMayLieAcrossBlocks) {
+TEST_F(RegelstroomTest, EenEindeMagOverBlokkenLiggen) {
   const std::string vol(kBlok - 1, 'x');
   EXPECT_EQ(Regels(vol + "\r\nb"), (Lijst{vol, "b"}));
   EXPECT_EQ(Regels(vol + "\rb"), (Lijst{vol, "b"}));
@@ -54,12 +54,12 @@ TEST_F(RegelstroomTest, AnEndMayLieAcrossBlocks) {
   EXPECT_EQ(Regels(vol + "\n"), (Lijst{vol}));
 }
 
-TEST_F(RegelstroomTest, ReadingMayBeginAnywhere) {
+TEST_F(RegelstroomTest, LezenMagOveralBeginnen) {
   EXPECT_EQ(Regels("een\r\ntwee\r\n", 5), (Lijst{"twee"}));
   EXPECT_EQ(Regels("een", 3), Lijst());
 }
 
-TEST_F(RegelstroomTest, TheRestOfALineIsPassedOver) {
+TEST_F(RegelstroomTest, DeRestVanEenRegelWordtOvergeslagen) {
   SchrijfBytes(map_ / "in.txt", std::string(2 * kBlok, 'x') + "\r\ntwee\r\n");
   ASSERT_TRUE(stroom_.Open(map_ / "in.txt"));
   ASSERT_TRUE(stroom_.VolgendeRegel());
@@ -67,7 +67,7 @@ TEST_F(RegelstroomTest, TheRestOfALineIsPassedOver) {
   EXPECT_EQ(stroom_.Stuk(), "twee");
 }
 
-TEST_F(RegelstroomTest, ThePlaceBehindALineIsWhereTheNextBegins) {
+TEST_F(RegelstroomTest, DePlaatsAchterEenRegelIsHetBeginVanDeVolgende) {
   SchrijfBytes(map_ / "in.txt", "een\r\ntwee\r\n");
   ASSERT_TRUE(stroom_.Open(map_ / "in.txt"));
   ASSERT_TRUE(stroom_.VolgendeRegel());
@@ -76,7 +76,7 @@ TEST_F(RegelstroomTest, ThePlaceBehindALineIsWhereTheNextBegins) {
   EXPECT_EQ(stroom_.Plaats(), 5U);
 }
 
-TEST_F(RegelstroomTest, AStreamThatIsOpenedAgainBeginsAfresh) {
+TEST_F(RegelstroomTest, EenStroomDieWeerOpengaatBegintOpnieuw) {
   SchrijfBytes(map_ / "in.txt", "een\r\ntwee\r\n");
   EXPECT_FALSE(stroom_.Open(map_ / "weg.txt"));
   ASSERT_TRUE(stroom_.Open(map_ / "in.txt"));
@@ -90,7 +90,7 @@ TEST_F(RegelstroomTest, AStreamThatIsOpenedAgainBeginsAfresh) {
   EXPECT_EQ(stroom_.Plaats(), 11U);
 }
 
-TEST_F(RegelstroomTest, AFileThatIsNotThereTellsWhy) {
+TEST_F(RegelstroomTest, EenBestandDatErNietIsZegtWaarom) {
   EXPECT_FALSE(stroom_.Open(map_ / "weg.txt"));
   EXPECT_EQ(stroom_.Fout().nummer, kBestandNietGevonden);
   EXPECT_FALSE(stroom_.VolgendeRegel());

@@ -41,7 +41,7 @@ class RubriekOpmTest : public ZinToets {
   std::string edam_ = std::to_string(bouw_.Plaats("Edam"));
 };
 
-TEST_F(RubriekOpmTest, EachRubricOfAPersonStandsBehindItsElement) {
+TEST_F(RubriekOpmTest, ElkeRubriekVanEenPersoonStaatAchterZijnElement) {
   const std::int16_t nr = Volledig({{"GebPlaats", edam_},
                                     {"GebDatum", "00-00-1850"},
                                     {"DoopReligie", "NH"},
@@ -57,7 +57,7 @@ TEST_F(RubriekOpmTest, EachRubricOfAPersonStandsBehindItsElement) {
             "smid [2048], overl. Edam [128] 1900 [256], begr. Edam [512] 1901 [1024]");
 }
 
-TEST_F(RubriekOpmTest, InASpanThePlacesAndDatesHaveTheirRemarks) {
+TEST_F(RubriekOpmTest, InEenBereikHebbenPlaatsenEnDatumsHunOpmerkingen) {
   const std::int16_t nr = Volledig({{"GebPlaats", edam_},
                                     {"GebDatum", "00-00-1850"},
                                     {"GebCorr", "T"},
@@ -67,18 +67,18 @@ TEST_F(RubriekOpmTest, InASpanThePlacesAndDatesHaveTheirRemarks) {
             "Jan [2] Bos [1], geb. Edam [4] tussen 1850 [8] en Edam [16] 1851 [32] [2048]");
 }
 
-TEST_F(RubriekOpmTest, APlaceThatIsNotKnownKeepsItsRemark) {
+TEST_F(RubriekOpmTest, EenOnbekendePlaatsHoudtZijnOpmerking) {
   const std::int16_t nr = Man({{"GebDatum", "00-00-1850"}});
   bouw_.OpmerkingBijPersoon(nr, 4, {"(plaats onzeker)"});
   EXPECT_EQ(Verteld(nr, MetOpm()), "Jan Bos, geb. (plaats onzeker) 1850");
 }
 
-TEST_F(RubriekOpmTest, WithRemarksOffTheEventsMerge) {
+TEST_F(RubriekOpmTest, ZonderOpmerkingenGaanDeGebeurtenissenSamen) {
   const std::int16_t nr = Volledig({{"GebDatum", "01-01-1850"}, {"DoopDatum", "01-01-1850"}});
   EXPECT_EQ(Verteld(nr), "Jan Bos, geb. en ged. 1-1-1850");
 }
 
-TEST_F(RubriekOpmTest, EachRubricOfARelationStandsBehindItsElement) {
+TEST_F(RubriekOpmTest, ElkeRubriekVanEenRelatieStaatAchterHaarElement) {
   const std::int16_t nr = Huwelijk({{"OtrPlaats", edam_},
                                     {"OtrDatum", "00-00-1801"},
                                     {"WHuwPlaats", edam_},
@@ -98,7 +98,7 @@ TEST_F(RubriekOpmTest, EachRubricOfARelationStandsBehindItsElement) {
       ", ondertr. Edam [1] 1801 [2], tr. [16] Edam [4] tussen 1802 [8] en Edam [32] 1803 [64]");
 }
 
-TEST_F(RubriekOpmTest, WithRemarksOffTheMarriagesMerge) {
+TEST_F(RubriekOpmTest, ZonderOpmerkingenGaanDeHuwelijkenSamen) {
   const std::int16_t nr = Huwelijk({{"OtrDatum", "00-00-1801"}, {"WHuwDatum", "00-00-1802"}});
   bouw_.OpmerkingBijRelatie(nr, -1, {"opm"});
   bouw_.OpmerkingBijRelatie(nr, -32, {"opm"});
@@ -106,13 +106,13 @@ TEST_F(RubriekOpmTest, WithRemarksOffTheMarriagesMerge) {
   EXPECT_EQ(VerteldeRelatie(nr), ", ondertr./tr. 1801/1802");
 }
 
-TEST_F(RubriekOpmTest, AMergedMarriageIsFollowedByTheGeneralRemarkOnTheSameLine) {
+TEST_F(RubriekOpmTest, EenSamengevoegdHuwelijkHeeftDeAlgemeneOpmerkingOpDezelfdeRegel) {
   const std::int16_t nr = Huwelijk({{"OtrDatum", "00-00-1801"}, {"WHuwDatum", "00-00-1802"}});
   bouw_.OpmerkingBijRelatie(nr, -256, {"Gezien."});
   EXPECT_EQ(VerteldeRelatie(nr, MetOpm()), ", ondertr./tr. 1801/1802 Gezien.");
 }
 
-TEST_F(RubriekOpmTest, TheReportsMaskDecides) {
+TEST_F(RubriekOpmTest, HetMaskerVanHetVerslagBeslist) {
   const std::int16_t nr = Man({});
   bouw_.OpmerkingBijPersoon(nr, 1, {"een"}, kTekstKwst);
   bouw_.OpmerkingBijPersoon(nr, 1, {"twee"}, kAndereUitvoer);
@@ -122,42 +122,42 @@ TEST_F(RubriekOpmTest, TheReportsMaskDecides) {
   EXPECT_EQ(Verteld(nr, opties), "Jan Bos twee");
 }
 
-TEST_F(RubriekOpmTest, ARemarkForHtmlAloneIsNotInText) {
+TEST_F(RubriekOpmTest, EenOpmerkingVoorHtmlAlleenStaatNietInTekst) {
   const std::int16_t nr = Man({});
   bouw_.OpmerkingBijPersoon(nr, 1, {"web"}, kTekstKwst | kAlleenHTML);
   EXPECT_EQ(Verteld(nr, MetOpm()), "Jan Bos");
   EXPECT_EQ(Verteld(nr, MetOpm(true)), "<STRONG>Jan</STRONG> <STRONG>Bos</STRONG> web");
 }
 
-TEST_F(RubriekOpmTest, ARemarkWithOnlyTheHtmlBitIsInNoOutput) {
+TEST_F(RubriekOpmTest, EenOpmerkingMetAlleenDeHtmlBitStaatNergens) {
   const std::int16_t nr = Man({});
   bouw_.OpmerkingBijPersoon(nr, 1, {"web"}, kAlleenHTML);
   EXPECT_EQ(Verteld(nr, MetOpm()), "Jan Bos");
   EXPECT_EQ(Verteld(nr, MetOpm(true)), "<STRONG>Jan</STRONG> <STRONG>Bos</STRONG>");
 }
 
-TEST_F(RubriekOpmTest, LinesFollowEachOtherAndAreEncoded) {
+TEST_F(RubriekOpmTest, RegelsVolgenOpElkaarEnWordenGecodeerd) {
   const std::int16_t nr = Man({});
   bouw_.OpmerkingBijPersoon(nr, 1, {"a & b", "c"});
   EXPECT_EQ(Verteld(nr, MetOpm()), "Jan Bos a & b c");
   EXPECT_EQ(Verteld(nr, MetOpm(true)), "<STRONG>Jan</STRONG> <STRONG>Bos</STRONG> a &amp; b c");
 }
 
-TEST_F(RubriekOpmTest, EmptyLinesArePassedOver) {
+TEST_F(RubriekOpmTest, LegeRegelsWordenOvergeslagen) {
   const std::int16_t nr = Man({});
   bouw_.OpmerkingBijPersoon(nr, 1, {"een", "twee", "drie"});
   WijzigOpm(3, {{"Tekstregel", ""}});
   EXPECT_EQ(Verteld(nr, MetOpm()), "Jan Bos een drie");
 }
 
-TEST_F(RubriekOpmTest, TheGeneralRemarkStandsOnItsOwnIndentedLines) {
+TEST_F(RubriekOpmTest, DeAlgemeneOpmerkingStaatOpEigenIngesprongenRegels) {
   const std::int16_t nr = Man({});
   bouw_.OpmerkingBijPersoon(nr, 4096, {"Een leven"});
   bouw_.OpmerkingBijPersoon(nr, 4096, {"in twee delen."});
   EXPECT_EQ(Algemeen(nr), "\r\n    Een leven\r\n    in twee delen.");
 }
 
-TEST_F(RubriekOpmTest, TheMarginIsBackBehindTheGeneralRemark) {
+TEST_F(RubriekOpmTest, DeMargeIsTerugAchterDeAlgemeneOpmerking) {
   const std::int16_t nr = Man({});
   bouw_.OpmerkingBijPersoon(nr, 4096, {"Een leven."});
   TekstSchrijver schrijver;
@@ -169,7 +169,7 @@ TEST_F(RubriekOpmTest, TheMarginIsBackBehindTheGeneralRemark) {
   EXPECT_EQ(schrijver.LinkerMarge(), 0);
 }
 
-TEST_F(RubriekOpmTest, AnyOtherRubricStaysOnTheLine) {
+TEST_F(RubriekOpmTest, ElkeAndereRubriekBlijftOpDeRegel) {
   const std::int16_t nr = Man({});
   bouw_.OpmerkingBijPersoon(nr, 1, {"naam"});
   const std::string uit = Rapport(MetOpm(), [&](Verteller& verteller) {
@@ -179,7 +179,7 @@ TEST_F(RubriekOpmTest, AnyOtherRubricStaysOnTheLine) {
   EXPECT_EQ(uit, "naam");
 }
 
-TEST_F(RubriekOpmTest, InHtmlTheGeneralRemarkIsAList) {
+TEST_F(RubriekOpmTest, InHtmlIsDeAlgemeneOpmerkingEenLijst) {
   const std::int16_t nr = Man({});
   bouw_.OpmerkingBijPersoon(nr, 4096, {"Een leven."});
   const auto schrijf = [&](Verteller& verteller) {
@@ -193,7 +193,7 @@ TEST_F(RubriekOpmTest, InHtmlTheGeneralRemarkIsAList) {
   EXPECT_EQ(Rapport(zonder, schrijf), "");
 }
 
-TEST_F(RubriekOpmTest, WithoutAGeneralRemarkThereIsNoList) {
+TEST_F(RubriekOpmTest, ZonderAlgemeneOpmerkingIsErGeenLijst) {
   const std::int16_t nr = Man({});
   bouw_.OpmerkingBijPersoon(nr, 1, {"naam"});
   const std::string uit = Rapport(MetOpm(true), [&](Verteller& verteller) {
@@ -203,17 +203,17 @@ TEST_F(RubriekOpmTest, WithoutAGeneralRemarkThereIsNoList) {
   EXPECT_EQ(uit, "");
 }
 
-TEST_F(RubriekOpmTest, AFirstRecordBehindTheLastOneIsNone) {
+TEST_F(RubriekOpmTest, EenEersteRecordAchterHetLaatsteIsGeen) {
   const std::int16_t nr = Man({{"OpmRecord", "50"}, {"OpmCode", "1"}});
   EXPECT_EQ(Verteld(nr, MetOpm()), "Jan Bos");
 }
 
-TEST_F(RubriekOpmTest, ANegativeFirstRecordIsNone) {
+TEST_F(RubriekOpmTest, EenNegatiefEersteRecordIsGeen) {
   const std::int16_t nr = Man({{"OpmRecord", "-3"}, {"OpmCode", "1"}});
   EXPECT_EQ(Verteld(nr, MetOpm()), "Jan Bos");
 }
 
-TEST_F(RubriekOpmTest, ABadLinkEndsTheRemarksOfTheRubric) {
+TEST_F(RubriekOpmTest, EenFouteVerwijzingEindigtDeOpmerkingenVanDeRubriek) {
   const std::int16_t nr = Man({});
   bouw_.OpmerkingBijPersoon(nr, 1, {"een", "twee"});
   bouw_.OpmerkingBijPersoon(nr, 1, {"drie"});
@@ -223,14 +223,14 @@ TEST_F(RubriekOpmTest, ABadLinkEndsTheRemarksOfTheRubric) {
   EXPECT_EQ(Verteld(nr, MetOpm()), "Jan Bos een");
 }
 
-TEST_F(RubriekOpmTest, ACycleOfRemarksEnds) {
+TEST_F(RubriekOpmTest, EenKringVanOpmerkingenEindigt) {
   const std::int16_t nr = Man({});
   bouw_.OpmerkingBijPersoon(nr, 1, {"een"});
   WijzigOpm(2, {{"BijZelfde", "2"}});
   EXPECT_EQ(Verteld(nr, MetOpm()), "Jan Bos een een");
 }
 
-TEST_F(RubriekOpmTest, ACycleOfLinesEnds) {
+TEST_F(RubriekOpmTest, EenKringVanRegelsEindigt) {
   const std::int16_t nr = Man({});
   bouw_.OpmerkingBijPersoon(nr, 1, {"een"});
   WijzigOpm(2, {{"VolgRegel", "2"}});
@@ -239,7 +239,7 @@ TEST_F(RubriekOpmTest, ACycleOfLinesEnds) {
 
 // Three remarks of which each has the next as its line too: told to the end they would grow with
 // the square of the file.
-TEST_F(RubriekOpmTest, ChainsThatRunTogetherEndAfterAsManyStepsAsThereAreRecords) {
+TEST_F(RubriekOpmTest, KetensDieSamenlopenEindigenNaZoveelStappenAlsErRecordsZijn) {
   const std::int16_t nr = Man({});
   for (const std::string regel : {"een", "twee", "drie"}) {
     bouw_.OpmerkingBijPersoon(nr, 1, {regel});
@@ -249,14 +249,14 @@ TEST_F(RubriekOpmTest, ChainsThatRunTogetherEndAfterAsManyStepsAsThereAreRecords
   EXPECT_EQ(Verteld(nr, MetOpm()), "Jan Bos een twee drie twee");
 }
 
-TEST_F(RubriekOpmTest, ARemarkThatItsOwnerDoesNotKnowOfIsNotTold) {
+TEST_F(RubriekOpmTest, EenOpmerkingDieDeEigenaarNietKentWordtNietVerteld) {
   const std::int16_t nr = Man({});
   bouw_.OpmerkingBijPersoon(nr, 1, {"naam"});
   bouw_.WijzigPersoon(nr, {{"OpmCode", "2"}});
   EXPECT_EQ(Verteld(nr, MetOpm()), "Jan Bos");
 }
 
-TEST_F(RubriekOpmTest, ARemarkBehindTheCountedOnesIsNotTold) {
+TEST_F(RubriekOpmTest, EenOpmerkingAchterDeGeteldeWordtNietVerteld) {
   const std::int16_t piet = Man({});
   bouw_.OpmerkingBijPersoon(piet, 1, {"een"});
   const std::int16_t jan = Man({});
@@ -268,7 +268,7 @@ TEST_F(RubriekOpmTest, ARemarkBehindTheCountedOnesIsNotTold) {
   EXPECT_EQ(Verteld(piet, MetOpm()), "Jan Bos een");
 }
 
-TEST_F(RubriekOpmTest, TheGeneralRemarkStandsFourFurtherThanTheText) {
+TEST_F(RubriekOpmTest, DeAlgemeneOpmerkingStaatVierVerderDanDeTekst) {
   const std::int16_t nr = Man({});
   bouw_.OpmerkingBijPersoon(nr, 4096, {"Een leven."});
   TekstSchrijver schrijver;
@@ -285,7 +285,7 @@ TEST_F(RubriekOpmTest, TheGeneralRemarkStandsFourFurtherThanTheText) {
   EXPECT_EQ(LeesBytes(set_.map / "marge.txt"), "        x\r\n            Een leven.\r\n");
 }
 
-TEST_F(RubriekOpmTest, RemarksCanBeSwitchedOffInTheMiddleOfARun) {
+TEST_F(RubriekOpmTest, OpmerkingenKunnenOnderwegUit) {
   const std::int16_t nr = Man({});
   bouw_.OpmerkingBijPersoon(nr, 1, {"opm"});
   EXPECT_EQ(Rapport(MetOpm(),

@@ -40,7 +40,7 @@ TEST_F(TekstSchrijverTest, EenTagIsStilInTekst) {
 
 // Step 1: a held word at or left of the margin.
 
-TEST_F(TekstSchrijverTest, AHeldWordLeftOfTheMarginIsWrittenAtTheMargin) {
+TEST_F(TekstSchrijverTest, EenWachtwoordLinksVanDeMargeKomtAanDeMarge) {
   schrijver_.Tekst("een twee");
   schrijver_.ZetMarge(true, 8);
   schrijver_.Tekst("drie");
@@ -48,12 +48,12 @@ TEST_F(TekstSchrijverTest, AHeldWordLeftOfTheMarginIsWrittenAtTheMargin) {
   EXPECT_EQ(Uit(), "een     tweedrie");
 }
 
-TEST_F(TekstSchrijverTest, AtALineStartNoBlankIsWanted) {
+TEST_F(TekstSchrijverTest, AanHetBeginVanEenRegelHoeftGeenBlanco) {
   schrijver_.Tekst("een");
   EXPECT_EQ(Uit(), "een");
 }
 
-TEST_F(TekstSchrijverTest, BehindANumberLeftOfTheMarginNoBlankIsAdded) {
+TEST_F(TekstSchrijverTest, AchterEenNummerLinksVanDeMargeKomtGeenBlanco) {
   schrijver_.ZetMarge(true, 4);
   schrijver_.Vast("12");
   schrijver_.ZetMarge(true, 8);
@@ -63,26 +63,26 @@ TEST_F(TekstSchrijverTest, BehindANumberLeftOfTheMarginNoBlankIsAdded) {
 
 // Step 3: ending a line.
 
-TEST_F(TekstSchrijverTest, AnEmptyTextEndsTheLineAfterTheHeldWord) {
+TEST_F(TekstSchrijverTest, EenLegeTekstEindigtDeRegelNaHetWachtwoord) {
   schrijver_.Tekst("een twee");
   schrijver_.EindeRegel();
   EXPECT_EQ(schrijver_.HuidigeKolom(), 0);
   EXPECT_EQ(Uit(), "een twee\r\n");
 }
 
-TEST_F(TekstSchrijverTest, AHeldWordThatJustFitsStaysOnItsLine) {
+TEST_F(TekstSchrijverTest, EenWachtwoordDatJuistPastBlijftOpZijnRegel) {
   schrijver_.Tekst("aaaaaaaaaaaaaa bbbbb");  // 14, a blank and 5 fill the 20
   schrijver_.EindeRegel();
   EXPECT_EQ(Uit(), "aaaaaaaaaaaaaa bbbbb\r\n");
 }
 
-TEST_F(TekstSchrijverTest, AHeldWordThatDoesNotFitGoesToALineOfItsOwn) {
+TEST_F(TekstSchrijverTest, EenWachtwoordDatNietPastKrijgtEenEigenRegel) {
   schrijver_.Tekst("aaaaaaaaaaaaaaa bbbbb");
   schrijver_.EindeRegel();
   EXPECT_EQ(Uit(), "aaaaaaaaaaaaaaa\r\nbbbbb\r\n");
 }
 
-TEST_F(TekstSchrijverTest, ThatLineHasTheMarginOfThePreviousCall) {
+TEST_F(TekstSchrijverTest, DieRegelHeeftDeMargeVanDeVorigeAanroep) {
   schrijver_.ZetMarge(true, 4);
   schrijver_.Tekst("aaaaaaaaaaaa bbbbb");
   schrijver_.ZetMarge(false, -4);
@@ -90,7 +90,7 @@ TEST_F(TekstSchrijverTest, ThatLineHasTheMarginOfThePreviousCall) {
   EXPECT_EQ(Uit(), "    aaaaaaaaaaaa\r\n    bbbbb\r\n");
 }
 
-TEST_F(TekstSchrijverTest, TwoLineEndsLeaveAnEmptyLine) {
+TEST_F(TekstSchrijverTest, TweeRegeleindenLatenEenLegeRegel) {
   schrijver_.Tekst("een");
   schrijver_.EindeRegel();
   schrijver_.LegeRegel();
@@ -100,28 +100,28 @@ TEST_F(TekstSchrijverTest, TwoLineEndsLeaveAnEmptyLine) {
 
 // Step 4: what stands between two texts.
 
-TEST_F(TekstSchrijverTest, TextFollowsAHeldWordBehindABlank) {
+TEST_F(TekstSchrijverTest, TekstVolgtEenWachtwoordNaEenBlanco) {
   schrijver_.Tekst("een twee");
   schrijver_.Tekst("drie");
   schrijver_.EindeRegel();
   EXPECT_EQ(Uit(), "een twee drie\r\n");
 }
 
-TEST_F(TekstSchrijverTest, JoinedTextIsGluedToTheHeldWord) {
+TEST_F(TekstSchrijverTest, VasteTekstKleeftAanHetWachtwoord) {
   schrijver_.Tekst("een twee");
   schrijver_.Vast(",");
   schrijver_.EindeRegel();
   EXPECT_EQ(Uit(), "een twee,\r\n");
 }
 
-TEST_F(TekstSchrijverTest, TextFollowsWrittenTextBehindABlank) {
+TEST_F(TekstSchrijverTest, TekstVolgtGeschrevenTekstNaEenBlanco) {
   schrijver_.Tekst("een");
   schrijver_.Tekst("twee");
   schrijver_.EindeRegel();
   EXPECT_EQ(Uit(), "een twee\r\n");
 }
 
-TEST_F(TekstSchrijverTest, JoinedTextIsGluedToWrittenText) {
+TEST_F(TekstSchrijverTest, VasteTekstKleeftAanGeschrevenTekst) {
   schrijver_.Tekst("een");
   schrijver_.Vast(".");
   schrijver_.EindeRegel();
@@ -130,23 +130,23 @@ TEST_F(TekstSchrijverTest, JoinedTextIsGluedToWrittenText) {
 
 // Step 5: the word held back.
 
-TEST_F(TekstSchrijverTest, TheLastWordIsHeldBack) {
+TEST_F(TekstSchrijverTest, HetLaatsteWoordWacht) {
   schrijver_.Tekst("een twee");
   EXPECT_EQ(Uit(), "een");
 }
 
-TEST_F(TekstSchrijverTest, JoinedTextThatEndsInABlankHoldsNothingBack) {
+TEST_F(TekstSchrijverTest, VasteTekstDieOpEenBlancoEindigtHoudtNietsTerug) {
   schrijver_.Vast("een twee ");
   EXPECT_EQ(Uit(), "een twee ");
 }
 
-TEST_F(TekstSchrijverTest, LooseTextThatEndsInABlankReleasesItsWord) {
+TEST_F(TekstSchrijverTest, LosseTekstDieOpEenBlancoEindigtLaatZijnWoordLos) {
   schrijver_.Tekst("een");
   schrijver_.Tekst("twee ");
   EXPECT_EQ(Uit(), "een twee");
 }
 
-TEST_F(TekstSchrijverTest, ASingleBlankReleasesTheHeldWordAndStandsBehindIt) {
+TEST_F(TekstSchrijverTest, EenEnkeleBlancoLaatHetWachtwoordLosEnStaatErachter) {
   schrijver_.Tekst("een twee");
   schrijver_.Tekst(" ");
   schrijver_.Vast("Jan");
@@ -154,7 +154,7 @@ TEST_F(TekstSchrijverTest, ASingleBlankReleasesTheHeldWordAndStandsBehindIt) {
   EXPECT_EQ(Uit(), "een twee Jan\r\n");
 }
 
-TEST_F(TekstSchrijverTest, ATextWithALineEndHoldsNothingBack) {
+TEST_F(TekstSchrijverTest, EenTekstMetRegeleindeHoudtNietsTerug) {
   schrijver_.TekstUit("een twee", true, false);
   schrijver_.Tekst("drie");
   EXPECT_EQ(Uit(), "een twee\r\ndrie");
@@ -162,7 +162,7 @@ TEST_F(TekstSchrijverTest, ATextWithALineEndHoldsNothingBack) {
 
 // Step 6: the indent.
 
-TEST_F(TekstSchrijverTest, TextBeginsAtTheLeftMargin) {
+TEST_F(TekstSchrijverTest, TekstBegintAanDeLinkermarge) {
   schrijver_.ZetMarge(true, 3);
   schrijver_.VolleRegel("een");
   EXPECT_EQ(Uit(), "   een\r\n");
@@ -170,55 +170,55 @@ TEST_F(TekstSchrijverTest, TextBeginsAtTheLeftMargin) {
 
 // Step 7: wrapping.
 
-TEST_F(TekstSchrijverTest, ALongTextBreaksAtItsLastBlankThatFits) {
+TEST_F(TekstSchrijverTest, EenLangeTekstBreektBijDeLaatsteBlancoDiePast) {
   schrijver_.ZetMarge(true, 2);
   schrijver_.VolleRegel("een twee drie vier vijf zes");
   EXPECT_EQ(Uit(), "  een twee drie\r\n  vier vijf zes\r\n");
 }
 
-TEST_F(TekstSchrijverTest, ABlankJustBehindTheRoomIsNotFound) {
+TEST_F(TekstSchrijverTest, EenBlancoJuistAchterDeRuimteWordtNietGevonden) {
   schrijver_.ZetRechterMarge(10);
   schrijver_.VolleRegel("aaa bbbbbb ccc");
   EXPECT_EQ(Uit(), "aaa\r\nbbbbbb ccc\r\n");
 }
 
-TEST_F(TekstSchrijverTest, ATextThatFillsTheRoomExactlyIsNotBroken) {
+TEST_F(TekstSchrijverTest, EenTekstDieDeRuimteVultWordtNietGebroken) {
   schrijver_.ZetRechterMarge(10);
   schrijver_.VolleRegel("aaaa bbbbb");
   EXPECT_EQ(Uit(), "aaaa bbbbb\r\n");
 }
 
-TEST_F(TekstSchrijverTest, AWordLongerThanTheLineIsBrokenHardAtTheLeftMargin) {
+TEST_F(TekstSchrijverTest, EenWoordLangerDanDeRegelBreektHardAanDeLinkermarge) {
   schrijver_.ZetRechterMarge(10);
   schrijver_.ZetMarge(true, 2);
   schrijver_.VolleRegel("abcdefghijklmnopqrst");
   EXPECT_EQ(Uit(), "  abcdefgh\r\n  ijklmnop\r\n  qrst\r\n");
 }
 
-TEST_F(TekstSchrijverTest, AWordThatDoesNotFitMovesWholeToTheNextLine) {
+TEST_F(TekstSchrijverTest, EenWoordDatNietPastGaatHeelNaarDeVolgendeRegel) {
   schrijver_.ZetMarge(true, 2);
   schrijver_.Vast("1234567890");
   schrijver_.TekstUit("abcdefghijkl", true, false);
   EXPECT_EQ(Uit(), "  1234567890\r\n  abcdefghijkl\r\n");
 }
 
-TEST_F(TekstSchrijverTest, AJoinedWordWithoutABlankMovesWholeToo) {
+TEST_F(TekstSchrijverTest, EenVastWoordZonderBlancoGaatOokHeel) {
   schrijver_.Vast("123456789012345");
   schrijver_.VolleRegel("abcdefghijkl");
   EXPECT_EQ(Uit(), "123456789012345\r\nabcdefghijkl\r\n");
 }
 
-TEST_F(TekstSchrijverTest, LooseTextAtTheMarginLosesItsLeadingBlanks) {
+TEST_F(TekstSchrijverTest, LosseTekstAanDeMargeVerliestBlancoVooraan) {
   schrijver_.TekstUit("   een", true, false);
   EXPECT_EQ(Uit(), "een\r\n");
 }
 
-TEST_F(TekstSchrijverTest, JoinedTextAtTheMarginKeepsItsLeadingBlanks) {
+TEST_F(TekstSchrijverTest, VasteTekstAanDeMargeHoudtBlancoVooraan) {
   schrijver_.VolleRegel("   een");
   EXPECT_EQ(Uit(), "   een\r\n");
 }
 
-TEST_F(TekstSchrijverTest, ASurnameAndItsCommaStayTogetherAtTheEndOfALine) {
+TEST_F(TekstSchrijverTest, EenAchternaamEnZijnKommaBlijvenSamenAanHetEindeVanEenRegel) {
   schrijver_.Tekst("Jan Pieter Willem");
   schrijver_.Tekst("Bos");  // 17 + 1 + 3 passes 20 with the comma
   schrijver_.Vast(", geb.");
@@ -226,7 +226,7 @@ TEST_F(TekstSchrijverTest, ASurnameAndItsCommaStayTogetherAtTheEndOfALine) {
   EXPECT_EQ(Uit(), "Jan Pieter Willem\r\nBos, geb.\r\n");
 }
 
-TEST_F(TekstSchrijverTest, AHeldWordIsWrittenAtTheMarginBehindAWrap) {
+TEST_F(TekstSchrijverTest, EenWachtwoordKomtNaEenOmslagAanDeMarge) {
   schrijver_.ZetRechterMarge(10);
   schrijver_.ZetMarge(true, 2);
   schrijver_.Tekst("aaaa bbbbbbbb cc");
@@ -236,7 +236,7 @@ TEST_F(TekstSchrijverTest, AHeldWordIsWrittenAtTheMarginBehindAWrap) {
 
 // Margins.
 
-TEST_F(TekstSchrijverTest, AMarginIsAbsoluteOrRelative) {
+TEST_F(TekstSchrijverTest, EenMargeIsAbsoluutOfRelatief) {
   schrijver_.ZetMarge(true, 5);
   schrijver_.ZetMarge(false, 3);
   EXPECT_EQ(schrijver_.LinkerMarge(), 8);
@@ -246,21 +246,21 @@ TEST_F(TekstSchrijverTest, AMarginIsAbsoluteOrRelative) {
   EXPECT_EQ(schrijver_.LinkerMarge(), 0);
 }
 
-TEST_F(TekstSchrijverTest, AMissingWidthIsTheOrdinaryOne) {
+TEST_F(TekstSchrijverTest, EenBreedteDieOntbreektIsDeGewone) {
   schrijver_.ZetRechterMarge(0);
   EXPECT_EQ(schrijver_.RechterMarge(), 80);
   schrijver_.ZetRechterMarge(-3);
   EXPECT_EQ(schrijver_.RechterMarge(), 80);
 }
 
-TEST_F(TekstSchrijverTest, AMarginBehindTheRightOneStillLeavesTenCharacters) {
+TEST_F(TekstSchrijverTest, EenMargeAchterDeRechterLaatTochTienTekens) {
   schrijver_.ZetMarge(true, 25);
   schrijver_.VolleRegel("abcdefghijklmno pqr");
   const std::string wit(25, ' ');
   EXPECT_EQ(Uit(), wit + "abcdefghij\r\n" + wit + "klmno pqr\r\n");
 }
 
-TEST_F(TekstSchrijverTest, OutputThatIsNotWrappedHasAWidthAllTheSame) {
+TEST_F(TekstSchrijverTest, UitvoerZonderOmslagHeeftTochEenBreedte) {
   schrijver_.ZetRechterMarge(TekstSchrijver::kGeenRechterMarge);
   const std::string lang(5000, 'x');
   schrijver_.VolleRegel(lang + " " + lang.substr(1));
@@ -269,7 +269,7 @@ TEST_F(TekstSchrijverTest, OutputThatIsNotWrappedHasAWidthAllTheSame) {
 
 // The file.
 
-TEST_F(TekstSchrijverTest, OpeningAgainBeginsAfresh) {
+TEST_F(TekstSchrijverTest, OpnieuwOpenenBegintOpnieuw) {
   schrijver_.ZetMarge(true, 4);
   schrijver_.Tekst("een twee");
   ASSERT_TRUE(schrijver_.Sluit());
@@ -278,7 +278,7 @@ TEST_F(TekstSchrijverTest, OpeningAgainBeginsAfresh) {
   EXPECT_EQ(Uit(), "drie\r\n");
 }
 
-TEST_F(TekstSchrijverTest, ABrokenOffRunLeavesWhatItWrote) {
+TEST_F(TekstSchrijverTest, EenAfgebrokenLoopLaatWatHijSchreef) {
   {
     TekstSchrijver ander;
     ASSERT_TRUE(ander.Open(map_ / "ander.txt"));
@@ -287,14 +287,14 @@ TEST_F(TekstSchrijverTest, ABrokenOffRunLeavesWhatItWrote) {
   EXPECT_EQ(LeesBytes(map_ / "ander.txt"), "half\r\n");
 }
 
-TEST_F(TekstSchrijverTest, AFileThatCannotBeMadeTellsWhy) {
+TEST_F(TekstSchrijverTest, EenBestandDatNietGemaaktKanWordenZegtWaarom) {
   TekstSchrijver ander;
   EXPECT_FALSE(ander.Open(map_ / "geen" / "uit.txt"));
   EXPECT_TRUE(ander.Fout());
   EXPECT_FALSE(ander.Fout().tekst.empty());
 }
 
-TEST_F(TekstSchrijverTest, AFullDiskIsNoticedAtTheEnd) {
+TEST_F(TekstSchrijverTest, EenVolleSchijfBlijktAanHetEinde) {
   if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no /dev/full here";
   TekstSchrijver vol;
   ASSERT_TRUE(vol.Open("/dev/full"));
@@ -305,7 +305,7 @@ TEST_F(TekstSchrijverTest, AFullDiskIsNoticedAtTheEnd) {
   EXPECT_EQ(vol.Fout().nummer, kSchijfVol);
 }
 
-TEST_F(TekstSchrijverTest, AFullDiskIsNoticedDuringALongRun) {
+TEST_F(TekstSchrijverTest, EenVolleSchijfBlijktTijdensEenLangeLoop) {
   if (!std::filesystem::exists("/dev/full")) GTEST_SKIP() << "no /dev/full here";
   TekstSchrijver vol;
   ASSERT_TRUE(vol.Open("/dev/full"));
@@ -316,7 +316,7 @@ TEST_F(TekstSchrijverTest, AFullDiskIsNoticedDuringALongRun) {
 }
 
 // Whatever is called with whatever margins: it ends, and no character is lost or moved.
-TEST_F(TekstSchrijverTest, NoCallLosesACharacterAtAnyMargin) {
+TEST_F(TekstSchrijverTest, GeenAanroepVerliestBijEnigeMargeEenTeken) {
   std::mt19937 toeval(77);
   const auto tot = [&toeval](unsigned n) { return static_cast<int>(toeval() % n); };
   std::string verwacht;

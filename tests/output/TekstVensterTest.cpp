@@ -85,7 +85,7 @@ class TekstVensterTest : public ::testing::Test {
   Lezer lezer_{[this](Formulier& formulier) { doe_(formulier); }};
 };
 
-TEST_F(TekstVensterTest, AllPagesArePrintedColumnAfterColumnWithinEachRow) {
+TEST_F(TekstVensterTest, AlleBladzijdenWordenPerRijKolomNaKolomGedrukt) {
   const std::string breed = std::string(80, 'a') + "bb";
   Druk(breed + "\n" + Genummerd(69), {"PrintButton(2)"});
   ASSERT_EQ(lezer_.afdrukken.size(), 1U);
@@ -101,14 +101,14 @@ TEST_F(TekstVensterTest, AllPagesArePrintedColumnAfterColumnWithinEachRow) {
   EXPECT_EQ(lezer_.berichten, Regels{"De tekst is naar de printer verstuurd."});
 }
 
-TEST_F(TekstVensterTest, ThisPageIsTheOneThatIsShown) {
+TEST_F(TekstVensterTest, DezeBladzijdeIsDieGetoondWordt) {
   Druk(Genummerd(70), {"MoveButton(4)", "PrintButton(1)"});
   ASSERT_EQ(lezer_.afdrukken.size(), 1U);
   EXPECT_EQ(lezer_.afdrukken.front().titel, "Rapport");
   EXPECT_EQ(lezer_.afdrukken.front().paginas, std::vector<Regels>{Regels{"regel 70"}});
 }
 
-TEST_F(TekstVensterTest, AnEmptyFileIsPrintedAsItIsShown) {
+TEST_F(TekstVensterTest, EenLeegBestandWordtGedruktZoalsHetGetoondWordt) {
   Druk("", {"PrintButton(1)", "PrintButton(2)"});
   ASSERT_EQ(lezer_.afdrukken.size(), 2U);
   for (const Afdruk& afdruk : lezer_.afdrukken) {
@@ -116,14 +116,14 @@ TEST_F(TekstVensterTest, AnEmptyFileIsPrintedAsItIsShown) {
   }
 }
 
-TEST_F(TekstVensterTest, APrinterThatWasNotReachedIsNotSaidToBe) {
+TEST_F(TekstVensterTest, EenPrinterDieNietBereiktIsWordtNietBereiktGenoemd) {
   lezer_.printerWerkt = false;
   Druk("een\n", {"PrintButton(1)", "PrintButton(2)"});
   EXPECT_EQ(lezer_.afdrukken.size(), 2U);
   EXPECT_EQ(lezer_.berichten, Regels{});
 }
 
-TEST_F(TekstVensterTest, APageThatIsGoneIsNotPrinted) {
+TEST_F(TekstVensterTest, EenVerdwenenBladzijdeWordtNietGedrukt) {
   SchrijfBytes(map_ / "uit.txt", "een\n");
   doe_ = [this](Formulier& formulier) {
     std::filesystem::remove(map_ / "uit.txt");
@@ -136,7 +136,7 @@ TEST_F(TekstVensterTest, APageThatIsGoneIsNotPrinted) {
   EXPECT_EQ(lezer_.berichten, (Regels{melding, melding}));
 }
 
-TEST_F(TekstVensterTest, AFileThatChangesIsShownAsItIsAtTheNextMove) {
+TEST_F(TekstVensterTest, EenBestandDatVerandertIsBijDeVolgendeStapZoalsHetIs) {
   SchrijfBytes(map_ / "uit.txt", Genummerd(140));
   doe_ = [this](Formulier& formulier) {
     SchrijfBytes(map_ / "uit.txt", "vooraf\n" + Genummerd(140));
@@ -151,7 +151,7 @@ TEST_F(TekstVensterTest, AFileThatChangesIsShownAsItIsAtTheNextMove) {
 }
 
 // Saving gives every line CR LF, so that its pages begin elsewhere in the file.
-TEST_F(TekstVensterTest, TheShownFileSavedOverItselfKeepsItsPages) {
+TEST_F(TekstVensterTest, HetGetoondeBestandOverZichzelfBewaardHoudtZijnBladzijden) {
   lezer_.antwoord = map_ / "uit.txt";
   SchrijfBytes(map_ / "uit.txt", Genummerd(140));
   doe_ = [](Formulier& formulier) {
@@ -162,7 +162,7 @@ TEST_F(TekstVensterTest, TheShownFileSavedOverItselfKeepsItsPages) {
   Toon();
 }
 
-TEST_F(TekstVensterTest, TheQuestionWhereToSaveBeginsInTheTextDirectory) {
+TEST_F(TekstVensterTest, DeVraagWaarOpTeSlaanBegintInDeTekstmap) {
   SchrijfBytes(map_ / "LIJNBOOM.INI", "[Systeem]\nSet=ABC\n");
   std::filesystem::create_directories(map_ / "DATA/ABC/Tekst");
   SchrijfBytes(map_ / "uit.txt", "een\n");

@@ -23,7 +23,7 @@ class TekstpaginasTest : public ::testing::Test {
   Tekstpaginas paginas_;
 };
 
-TEST_F(TekstpaginasTest, AnEmptyFileHasOneEmptyPage) {
+TEST_F(TekstpaginasTest, EenLeegBestandHeeftEenLegeBladzijde) {
   Open("");
   EXPECT_TRUE(paginas_.Leeg());
   EXPECT_EQ(paginas_.Kolommen(), 1);
@@ -33,13 +33,13 @@ TEST_F(TekstpaginasTest, AnEmptyFileHasOneEmptyPage) {
   EXPECT_TRUE(regels.empty());
 }
 
-TEST_F(TekstpaginasTest, AnEmptyLineIsALine) {
+TEST_F(TekstpaginasTest, EenLegeRegelIsEenRegel) {
   Open("\r\n");
   EXPECT_FALSE(paginas_.Leeg());
 }
 
 // Every page of a text at random against the lines of which it was made.
-TEST_F(TekstpaginasTest, EveryPageHoldsItsPartOfItsLines) {
+TEST_F(TekstpaginasTest, ElkeBladzijdeHeeftHaarDeelVanHaarRegels) {
   std::mt19937 toeval(69);
   const auto tot = [&toeval](unsigned n) { return static_cast<std::size_t>(toeval() % n); };
   for (int ronde = 0; ronde < 20; ++ronde) {
@@ -70,7 +70,7 @@ TEST_F(TekstpaginasTest, EveryPageHoldsItsPartOfItsLines) {
   }
 }
 
-TEST_F(TekstpaginasTest, AColumnMayLieAcrossTheBlocksOfReading) {
+TEST_F(TekstpaginasTest, EenKolomMagOverLeesblokkenLiggen) {
   Open(std::string(65530, 'a') + std::string(100, 'b') + "c");
   EXPECT_EQ(paginas_.Kolommen(), 65631 / 80 + 1);
   std::vector<std::string> regels;
@@ -80,7 +80,7 @@ TEST_F(TekstpaginasTest, AColumnMayLieAcrossTheBlocksOfReading) {
   EXPECT_EQ(regels, std::vector<std::string>{std::string(30, 'b') + "c"});
 }
 
-TEST_F(TekstpaginasTest, AFileThatShrankHasFewerLines) {
+TEST_F(TekstpaginasTest, EenGekrompenBestandHeeftMinderRegels) {
   Open(std::string(200, '\n'));
   SchrijfBytes(map_ / "in.txt", "kort\r\n");
   std::vector<std::string> regels;
@@ -88,14 +88,14 @@ TEST_F(TekstpaginasTest, AFileThatShrankHasFewerLines) {
   EXPECT_TRUE(regels.empty());
 }
 
-TEST_F(TekstpaginasTest, ACopyThatFailsLeavesTheOldFile) {
+TEST_F(TekstpaginasTest, EenMislukteKopieLaatHetOudeBestand) {
   SchrijfBytes(map_ / "oud.txt", "oud");
   EXPECT_EQ(KopieerTekst(map_ / "weg.txt", map_ / "oud.txt").nummer, kBestandNietGevonden);
   EXPECT_EQ(LeesBytes(map_ / "oud.txt"), "oud");
   EXPECT_FALSE(std::filesystem::exists(map_ / "oud.txt.nieuw"));
 }
 
-TEST_F(TekstpaginasTest, ACopyForWhichThereIsNoRoomTellsWhyAndLeavesTheOldFile) {
+TEST_F(TekstpaginasTest, EenKopieZonderRuimteZegtWaaromEnLaatHetOudeBestand) {
   SchrijfBytes(map_ / "oud.txt", "oud");
   for (const std::size_t lengte : {2000, 500000}) {  // noticed at the end, and on the way
     SchrijfBytes(map_ / "in.txt", std::string(lengte, 'x') + "\n" + std::string(lengte, 'y'));
@@ -106,7 +106,7 @@ TEST_F(TekstpaginasTest, ACopyForWhichThereIsNoRoomTellsWhyAndLeavesTheOldFile) 
   }
 }
 
-TEST_F(TekstpaginasTest, ACopyTakesThePlaceOfTheOldFile) {
+TEST_F(TekstpaginasTest, EenKopieNeemtDePlaatsVanHetOudeBestand) {
   SchrijfBytes(map_ / "oud.txt", "oud");
   SchrijfBytes(map_ / "in.txt", std::string("a\0b\nc", 5));
   EXPECT_FALSE(KopieerTekst(map_ / "in.txt", map_ / "oud.txt"));
@@ -114,7 +114,7 @@ TEST_F(TekstpaginasTest, ACopyTakesThePlaceOfTheOldFile) {
   EXPECT_FALSE(std::filesystem::exists(map_ / "oud.txt.nieuw"));
 }
 
-TEST_F(TekstpaginasTest, ACopyLeavesAFileThatHasTheNameOfItsDraft) {
+TEST_F(TekstpaginasTest, EenKopieLaatEenBestandMetDeNaamVanHaarKlad) {
   SchrijfBytes(map_ / "in.txt", "een\n");
   SchrijfBytes(map_ / "uit.txt.nieuw", "van de gebruiker");
   SchrijfBytes(map_ / "uit.txt.nieuw1", "ook");
@@ -126,7 +126,7 @@ TEST_F(TekstpaginasTest, ACopyLeavesAFileThatHasTheNameOfItsDraft) {
   EXPECT_FALSE(std::filesystem::exists(map_ / "uit.txt.nieuw2"));
 }
 
-TEST_F(TekstpaginasTest, AFileThatComesBackIsRead) {
+TEST_F(TekstpaginasTest, EenBestandDatTerugkomtWordtGelezen) {
   Open("een\n");
   std::filesystem::remove(map_ / "in.txt");
   std::vector<std::string> regels;

@@ -51,7 +51,7 @@ class ToonTekstTest : public SpeelToets {
   VasteKlok klok_{Tijdstip{2024, 1, 2, 3, 4, 5}};
 };
 
-TEST_F(ToonTekstTest, ShowsTheFirstPage) {
+TEST_F(ToonTekstTest, ToontDeEersteBladzijde) {
   Verwacht(R"(
       toon
       druk BackButton
@@ -74,13 +74,13 @@ TEST_F(ToonTekstTest, ShowsTheFirstPage) {
     )");
 }
 
-TEST_F(ToonTekstTest, EscapeAndTheFrameClose) {
+TEST_F(ToonTekstTest, EscapeEnHetKaderSluiten) {
   for (const std::string weg : {"toets Escape", "sluit"}) {
     Verwacht(weg, Toont("een\r\n"), "+ ToonTekst \"Rapport\"\n- ToonTekst\n");
   }
 }
 
-TEST_F(ToonTekstTest, AnEmptyFileSaysSoOnItsOnePage) {
+TEST_F(ToonTekstTest, EenLeegBestandZegtHetOpZijnEneBladzijde) {
   Verwacht(R"(
       toon UitvoerBox
       toon XY_label
@@ -97,7 +97,7 @@ TEST_F(ToonTekstTest, AnEmptyFileSaysSoOnItsOnePage) {
     )");
 }
 
-TEST_F(ToonTekstTest, AFileThatIsNotThereSaysWhy) {
+TEST_F(ToonTekstTest, EenBestandDatErNietIsMeldtWaarom) {
   Verwacht(R"(
       toon
       druk BackButton
@@ -120,13 +120,13 @@ TEST_F(ToonTekstTest, AFileThatIsNotThereSaysWhy) {
     )");
 }
 
-TEST_F(ToonTekstTest, ADirectoryIsNoFile) {
+TEST_F(ToonTekstTest, EenMapIsGeenBestand) {
   std::filesystem::create_directory(map_ / "uit.txt");
   EXPECT_EQ(Speel("toon UitvoerBox\ndruk BackButton", ToontBestand()).status, 0);
   EXPECT_NE(verslag_.find("= UitvoerBox \"Fout: "), std::string::npos) << verslag_;
 }
 
-TEST_F(ToonTekstTest, AFileOfSeventyLinesHasTwoPageRows) {
+TEST_F(ToonTekstTest, EenBestandVanZeventigRegelsHeeftTweeRijen) {
   Verwacht(R"(
       druk MoveButton(4)
       toon UitvoerBox
@@ -148,7 +148,7 @@ TEST_F(ToonTekstTest, AFileOfSeventyLinesHasTwoPageRows) {
     )");
 }
 
-TEST_F(ToonTekstTest, AFileOfSixtyNineLinesHasOnePageRow) {
+TEST_F(ToonTekstTest, EenBestandVanNegenenzestigRegelsHeeftEenRij) {
   Verwacht("toon MoveButton(4)\ndruk BackButton", Toont(Genummerd(69)), R"(
       + ToonTekst "Rapport"
       = MoveButton(4) "O&mlaag" [uit]
@@ -156,7 +156,7 @@ TEST_F(ToonTekstTest, AFileOfSixtyNineLinesHasOnePageRow) {
     )");
 }
 
-TEST_F(ToonTekstTest, AnExactlyFullLineMakesAnEmptySecondColumn) {
+TEST_F(ToonTekstTest, EenJuistVolleRegelMaaktEenLegeTweedeKolom) {
   Verwacht(R"(
       druk MoveButton(2)
       toon UitvoerBox
@@ -176,7 +176,7 @@ TEST_F(ToonTekstTest, AnExactlyFullLineMakesAnEmptySecondColumn) {
     )");
 }
 
-TEST_F(ToonTekstTest, ALineOfSeventyNineMakesOneColumn) {
+TEST_F(ToonTekstTest, EenRegelVanNegenenzeventigMaaktEenKolom) {
   Verwacht("toon MoveButton(2)\ndruk BackButton", Toont(std::string(79, 'x')), R"(
       + ToonTekst "Rapport"
       = MoveButton(2) "Naar &rechts" [uit]
@@ -184,14 +184,14 @@ TEST_F(ToonTekstTest, ALineOfSeventyNineMakesOneColumn) {
     )");
 }
 
-TEST_F(ToonTekstTest, ALongLineGoesOnInTheNextColumn) {
+TEST_F(ToonTekstTest, EenLangeRegelGaatInDeVolgendeKolomVerder) {
   const std::string regel = std::string(80, 'a') + std::string(80, 'b') + "c";
   EXPECT_EQ(Pagina(regel), "\"" + std::string(80, 'a') + "\"");
   EXPECT_EQ(Pagina(regel, "druk MoveButton(2)"), "\"" + std::string(80, 'b') + "\"");
   EXPECT_EQ(Pagina(regel, "druk MoveButton(2)\ndruk MoveButton(2)"), "\"c\"");
 }
 
-TEST_F(ToonTekstTest, TheKeysMoveOverThePages) {
+TEST_F(ToonTekstTest, DeToetsenGaanOverDeBladzijden) {
   Verwacht(R"(
       toets PageDown
       toon XY_label
@@ -223,7 +223,7 @@ TEST_F(ToonTekstTest, TheKeysMoveOverThePages) {
     )");
 }
 
-TEST_F(ToonTekstTest, PrintsOnePageOrAllOfThem) {
+TEST_F(ToonTekstTest, DruktEenBladzijdeOfAlle) {
   Verwacht(R"(
       druk PrintButton(1)
       druk PrintButton(2)
@@ -239,17 +239,17 @@ TEST_F(ToonTekstTest, PrintsOnePageOrAllOfThem) {
     )");
 }
 
-TEST_F(ToonTekstTest, LineEndsOfAllKindsCount) {
+TEST_F(ToonTekstTest, RegeleindenVanElkSoortTellen) {
   EXPECT_EQ(Pagina("een\r\ntwee\ndrie\rvier"), R"("een\ntwee\ndrie\nvier")");
   EXPECT_EQ(Pagina("\r\n\n\r"), R"("\n\n")");
   EXPECT_EQ(Pagina("een\r\r\ntwee"), R"("een\n\ntwee")");
 }
 
-TEST_F(ToonTekstTest, ANulByteShowsAsABlank) {
+TEST_F(ToonTekstTest, EenNulbyteStaatErAlsBlanco) {
   EXPECT_EQ(Pagina(std::string_view("a\0b\0", 4)), "\"a b \"");
 }
 
-TEST_F(ToonTekstTest, CrLfAcrossTwoBlocksIsOneLineEnd) {
+TEST_F(ToonTekstTest, CrLfOverTweeBlokkenIsEenRegeleinde) {
   const std::string lang(65535, 'x');
   std::string verwacht = "\"" + std::string(80, 'x') + "\\n";
   EXPECT_EQ(Pagina(lang + "\r\neinde\r\n"), verwacht + "einde\"");
@@ -257,12 +257,12 @@ TEST_F(ToonTekstTest, CrLfAcrossTwoBlocksIsOneLineEnd) {
   EXPECT_EQ(Pagina(lang + "\r"), "\"" + std::string(80, 'x') + "\"");
 }
 
-TEST_F(ToonTekstTest, PagesBehindLinesOfAMegabyteAreFound) {
+TEST_F(ToonTekstTest, BladzijdenAchterRegelsVanEenMegabyteWordenGevonden) {
   std::string inhoud = Genummerd(68) + std::string(1000000, 'x') + "\r\nachter\r\n";
   EXPECT_EQ(Pagina(inhoud, "druk MoveButton(4)"), "\"achter\"");
 }
 
-TEST_F(ToonTekstTest, AFileThatGoesAwaySaysSoAtTheNextMove) {
+TEST_F(ToonTekstTest, EenBestandDatVerdwijntZegtHetBijDeVolgendeStap) {
   const Programma toont = Toont(Genummerd(70));
   const auto programma = [this, &toont](Gesprek& gesprek) {
     Hoofdmodule hoofd(gesprek, klok_, map_.Pad());
@@ -292,7 +292,7 @@ TEST_F(ToonTekstTest, AFileThatGoesAwaySaysSoAtTheNextMove) {
   EXPECT_FALSE(std::filesystem::exists(map_ / "nieuw.txt"));
 }
 
-TEST_F(ToonTekstTest, SavesLineByLine) {
+TEST_F(ToonTekstTest, BewaartRegelVoorRegel) {
   Verwacht(R"(
       bestand kopie.txt
       druk SaveButton
@@ -307,7 +307,7 @@ TEST_F(ToonTekstTest, SavesLineByLine) {
   EXPECT_EQ(LeesBytes(map_ / "kopie.txt"), "een\r\ntwee\r\ndrie\r\n");
 }
 
-TEST_F(ToonTekstTest, HtmlOffersItsOwnKindsOfFile) {
+TEST_F(ToonTekstTest, HtmlBiedtEigenSoortenBestandAan) {
   Verwacht(R"(
       bestand kopie.htm
       druk SaveButton
@@ -322,17 +322,17 @@ TEST_F(ToonTekstTest, HtmlOffersItsOwnKindsOfFile) {
   EXPECT_EQ(LeesBytes(map_ / "kopie.htm"), "<HTML>\r\n");
 }
 
-TEST_F(ToonTekstTest, CancellingTheSaveChangesNothing) {
+TEST_F(ToonTekstTest, OpslaanAnnulerenVerandertNiets) {
   Verwacht("bestand\ndruk SaveButton\ndruk BackButton", Toont("een\r\n"),
            "+ ToonTekst \"Rapport\"\n> opslaan " + std::string(kLosFilter) + " -> -\n- ToonTekst");
 }
 
-TEST_F(ToonTekstTest, SavingOverTheShownFileItselfKeepsIt) {
+TEST_F(ToonTekstTest, OpslaanOverHetGetoondeBestandBehoudtHet) {
   Speel("bestand uit.txt\ndruk SaveButton\ndruk BackButton", Toont("een\ntwee\n"));
   EXPECT_EQ(LeesBytes(map_ / "uit.txt"), "een\r\ntwee\r\n");
 }
 
-TEST_F(ToonTekstTest, AFailedSaveLeavesWhatWasThere) {
+TEST_F(ToonTekstTest, MisluktOpslaanLaatWatErWas) {
   std::filesystem::create_directories(map_ / "bezet" / "vol");
   SchrijfBytes(map_ / "bezet/vol/oud.txt", "oud");
   EXPECT_EQ(Speel("bestand bezet\ndruk SaveButton\ndruk BackButton", Toont("een\r\n")).status, 0);
@@ -342,7 +342,7 @@ TEST_F(ToonTekstTest, AFailedSaveLeavesWhatWasThere) {
   EXPECT_FALSE(std::filesystem::exists(map_ / "bezet.nieuw"));
 }
 
-TEST_F(ToonTekstTest, SavingInADirectoryThatIsGoneSaysWhy) {
+TEST_F(ToonTekstTest, OpslaanInEenVerdwenenMapZegtWaarom) {
   Speel("bestand weg/kopie.txt\ndruk SaveButton\ndruk BackButton", Toont("een\r\n"));
   EXPECT_NE(verslag_.find(R"(! stop "Fout bij het opslaan van de tekst.\n)"), std::string::npos)
       << verslag_;

@@ -70,7 +70,7 @@ class ZinvormenTest : public ZinToets {
 };
 
 // The string has the number glued to the name, the report behind a blank; all else is the same.
-TEST_F(ZinvormenTest, APersonReadsTheSameInBothForms) {
+TEST_F(ZinvormenTest, EenPersoonLeestInBeideVormenGelijk) {
   ZinOpties opties;
   opties.ookOpm = opties.ookNrs = true;
   for (int i = 0; i < 400; ++i) {
@@ -83,7 +83,7 @@ TEST_F(ZinvormenTest, APersonReadsTheSameInBothForms) {
   }
 }
 
-TEST_F(ZinvormenTest, WithRemarksOffAPersonReadsAsOneWithoutThem) {
+TEST_F(ZinvormenTest, ZonderOpmerkingenLeestEenPersoonAlsEenZonder) {
   for (int i = 0; i < 200; ++i) {
     const std::int16_t nr = WillekeurigePersoon();
     const std::string met = Verteld(nr);
@@ -94,7 +94,7 @@ TEST_F(ZinvormenTest, WithRemarksOffAPersonReadsAsOneWithoutThem) {
   }
 }
 
-TEST_F(ZinvormenTest, ARelationReadsTheSameInBothForms) {
+TEST_F(ZinvormenTest, EenRelatieLeestInBeideVormenGelijk) {
   for (int i = 0; i < 600; ++i) {
     ZinOpties opties;
     opties.ookOpm = true;

@@ -14,7 +14,7 @@ class Generatievorm final : public Formulier {
   GeneratiesVak MaxGen;
 };
 
-TEST(GeneratiesVak, RefusesWhatIsEmptyOrOutsideItsBounds) {
+TEST(GeneratiesVak, WeigertWatLeegIsOfBuitenZijnGrenzen) {
   NepGesprek gesprek;
   Generatievorm vorm(gesprek, {2, 10, "Onjuist aantal generaties (2-10)"});
   const auto verlaat = [&](std::string_view tekst) {

@@ -28,12 +28,12 @@ class HTMLPaginaToets : public ::testing::Test {
   PaginaTeksten teksten_;
 };
 
-TEST(Verwijzingen, QuoteTheirNames) {
+TEST(Verwijzingen, ZettenHunNaamTussenAanhalingstekens) {
   EXPECT_EQ(Anker("12"), "<A NAME=\"12\"></A>");
   EXPECT_EQ(Verwijzing("12", "V"), "<A HREF=\"#12\">V</A>");
 }
 
-TEST_F(HTMLPaginaToets, TheHeadEncodesNamesTitleAndIntroduction) {
+TEST_F(HTMLPaginaToets, DeKopCodeertNamenTitelEnInleiding) {
   teksten_.titel = "Vader & zoon";
   teksten_.inleiding = {"Regel <1>", "", "Regel 3"};
   EXPECT_EQ(Geschreven([this](TekstSchrijver& uit) {
@@ -45,14 +45,14 @@ TEST_F(HTMLPaginaToets, TheHeadEncodesNamesTitleAndIntroduction) {
             "<H3>Regel 3</H3><BR>\n");
 }
 
-TEST_F(HTMLPaginaToets, AnEmptyTitleIsLeftOut) {
+TEST_F(HTMLPaginaToets, EenLegeTitelWordtWeggelaten) {
   const std::string kop = Geschreven(
       [this](TekstSchrijver& uit) { SchrijfHTMLKop(uit, teksten_, "Kwartierstaat", "", ""); });
   EXPECT_EQ(kop.find("H1"), std::string::npos);
   EXPECT_EQ(kop.find("H3"), std::string::npos);
 }
 
-TEST_F(HTMLPaginaToets, AGenerationIsLinkedToThoseBesideIt) {
+TEST_F(HTMLPaginaToets, EenGeneratieVerwijstNaarDieErnaast) {
   const auto kop = [this](int generatie, int eerste, int laatste, bool inHTML) {
     return Geschreven(
         [&](TekstSchrijver& uit) { SchrijfGeneratie(uit, generatie, eerste, laatste); }, inHTML);
@@ -64,7 +64,7 @@ TEST_F(HTMLPaginaToets, AGenerationIsLinkedToThoseBesideIt) {
   EXPECT_EQ(kop(2, 2, 2, true), "Generatie II<A NAME=\"II\"></A></H4>\n\n");
 }
 
-TEST_F(HTMLPaginaToets, TheFootTellsOnlyWhatIsFilledIn) {
+TEST_F(HTMLPaginaToets, HetSlotNoemtAlleenWatIngevuldIs) {
   teksten_.email = "jan@example.org";
   teksten_.emailTekst = "Schrijf me";
   teksten_.hskHome = "http://www.example.org";
@@ -76,14 +76,14 @@ TEST_F(HTMLPaginaToets, TheFootTellsOnlyWhatIsFilledIn) {
             "<CENTER><A HREF=#TOP>Terug naar de top</A></CENTER><BR>\n<HR>\n</BODY>\n</HTML>\n\n");
 }
 
-TEST_F(HTMLPaginaToets, TheFootOfATextIsIndentedByTen) {
+TEST_F(HTMLPaginaToets, HetSlotVanEenTekstSpringtTienIn) {
   teksten_.copyrightRegel = "Copyright (2026) Jan";
   teksten_.programmaRegel = "Gemaakt met LB77 voor Windows";
   EXPECT_EQ(Geschreven([this](TekstSchrijver& uit) { SchrijfSlot(uit, teksten_); }),
             "\n\n          Copyright (2026) Jan\n          Gemaakt met LB77 voor Windows\n\n");
 }
 
-TEST_F(HTMLPaginaToets, TheFootBeginsAtTheMarginWhateverTheTextDid) {
+TEST_F(HTMLPaginaToets, HetSlotBegintAanDeMargeWatDeTekstOokDeed) {
   EXPECT_EQ(Geschreven([this](TekstSchrijver& uit) {
               uit.ZetMarge(true, 8);
               uit.Vast("Slot.");

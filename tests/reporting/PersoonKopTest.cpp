@@ -29,20 +29,20 @@ class PersoonKopToets : public FamilieToets {
   std::string naam_;
 };
 
-TEST_F(PersoonKopToets, ShowsNumberNamesAndLifetime) {
+TEST_F(PersoonKopToets, ToontNummerNamenEnPeriode) {
   const auto nr = Bouw().Man("Jan", "van Dam", {{"GebDatum", "00-00-1810"}});
   EXPECT_EQ(Toon(nr), (std::vector<std::string>{"NrStamouder=2", "VoorNmStamouder=Jan",
                                                 "AchterNmStamouder=van Dam", "Periode=1810-    "}));
   EXPECT_EQ(naam_, "Jan van Dam");
 }
 
-TEST_F(PersoonKopToets, ANameThatIsMissingIsUnknown) {
+TEST_F(PersoonKopToets, EenNaamDieOntbreektIsOnbekend) {
   const auto nr = Bouw().Man("Jan", "");
   EXPECT_EQ(Toon(nr)[2], "AchterNmStamouder=<onbekend>");
   EXPECT_EQ(naam_, "Jan <onbekend>");
 }
 
-TEST_F(PersoonKopToets, APersonWhoCannotBeReadHasNoName) {
+TEST_F(PersoonKopToets, EenOnleesbarePersoonHeeftGeenNaam) {
   const std::string onbekend(4, '?');
   EXPECT_EQ(Toon(77),
             (std::vector<std::string>{"NrStamouder=77", "VoorNmStamouder=", "AchterNmStamouder=",

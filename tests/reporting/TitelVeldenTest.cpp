@@ -18,7 +18,7 @@ class TitelVeldenToets : public FamilieToets {
   Titelvorm vorm_;
 };
 
-TEST_F(TitelVeldenToets, LoadsTheTitleAndTheSavedChoices) {
+TEST_F(TitelVeldenToets, LaadtDeTitelEnDeBewaardeKeuzen) {
   Stil([this](Hoofdmodule& hoofd) {
     hoofd.Ini.IniZet("KWST", "OokCopyRt", "N");
     hoofd.Ini.IniZet("KWST", "OokLB77", "");
@@ -31,7 +31,7 @@ TEST_F(TitelVeldenToets, LoadsTheTitleAndTheSavedChoices) {
   });
 }
 
-TEST_F(TitelVeldenToets, NamesTheUserInTheCopyrightLine) {
+TEST_F(TitelVeldenToets, NoemtDeGebruikerInDeCopyrightregel) {
   Stil([this](Hoofdmodule& hoofd) {
     vorm_.Velden.Laad(hoofd.Ini, "KWST", "Titel");
     vorm_.Velden.CopyrightBox.ZetJa(true);
@@ -43,14 +43,14 @@ TEST_F(TitelVeldenToets, NamesTheUserInTheCopyrightLine) {
   });
 }
 
-TEST_F(TitelVeldenToets, KeepsEightyOneCharactersOfALine) {
+TEST_F(TitelVeldenToets, HoudtEenentachtigTekensVanEenRegel) {
   Stil([this](Hoofdmodule& hoofd) {
     vorm_.Velden.Inleiding1.ZetTekst("  " + std::string(90, 'x'));
     EXPECT_EQ(vorm_.Velden.Teksten(hoofd.Ini, 2026).inleiding[0], std::string(81, 'x'));
   });
 }
 
-TEST_F(TitelVeldenToets, AYesNoChoiceKnowsWhatAnUnknownValueMeans) {
+TEST_F(TitelVeldenToets, EenKeuzeWeetWatEenOnbekendeWaardeBetekent) {
   Stil([this](Hoofdmodule& hoofd) {
     JaNeeVak& vak = vorm_.Velden.CopyrightBox;
     const auto lees = [&](std::string_view waarde, bool anders) {

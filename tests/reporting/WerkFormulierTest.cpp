@@ -46,12 +46,12 @@ class WerkFormulierToets : public FamilieToets {
   std::int16_t gebleven_ = 0;
 };
 
-TEST_F(WerkFormulierToets, ClosesByItselfWhenItIsDone) {
+TEST_F(WerkFormulierToets, SluitVanzelfAlsHetKlaarIs) {
   Speel("", "+ Telvorm \"Tellen\"\n- Telvorm\n");
   EXPECT_EQ(gebleven_, 5);
 }
 
-TEST_F(WerkFormulierToets, StopsWhenTheUserConfirmsAndWaitsToBeLeft) {
+TEST_F(WerkFormulierToets, StoptAlsDeGebruikerHetBevestigtEnWacht) {
   Speel(R"(
       onderbreek 4
       antwoord Ja
@@ -67,7 +67,7 @@ TEST_F(WerkFormulierToets, StopsWhenTheUserConfirmsAndWaitsToBeLeft) {
   EXPECT_EQ(gebleven_, -1);
 }
 
-TEST_F(WerkFormulierToets, ANoForgetsTheRequest) {
+TEST_F(WerkFormulierToets, NeeVergeetHetVerzoek) {
   Speel(R"(
       onderbreek 4
       antwoord Nee
