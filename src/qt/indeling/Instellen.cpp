@@ -24,8 +24,10 @@ Blok Voorkeur() {
 Blok Systeem() {
   return Kolom({
       Velden({
-          Rij({"ProgDirTekst", "ProgDirUitleg"}),
-          Rij({"DataDirTekst", "BrowseDataDir", "DataDirUitleg"}),
+          "ProgDirTekst",
+          "ProgDirUitleg",
+          Rij({"DataDirTekst", "BrowseDataDir"}),
+          "DataDirUitleg",
           Rij({"TempDirTekst", "BrowseTempDir"}),
           "TempDirUitleg",
           Rij({"GCIDirTekst", "BrowseGCIDir"}),
