@@ -161,7 +161,7 @@ SysteemFout Journaal::NoteerLengte(BestandSoort soort) {
 }
 
 SysteemFout Journaal::NoteerBeeld(const RecordPlek& plek) {
-  if (BeginVan(plek) >= lopend_->lengten.at(IndexVan(plek.soort))) return {};
+  if (BeginVan(plek) >= lopend_->lengten.at(IndexVan(plek.soort))) return NoteerStaart(plek.soort);
   if (MerkVan(plek).beeld) return {};
   JournaalBeeld beeld{plek, {}};
   if (SysteemFout fout = LeesNu(plek, beeld.bytes)) return fout;
@@ -169,6 +169,19 @@ SysteemFout Journaal::NoteerBeeld(const RecordPlek& plek) {
   MerkVan(plek).beeld = true;
   if (++lopend_->losse > kVeelBeelden) LeesVooruit(plek);
   return {};
+}
+
+// A write behind a last record that is cut short fills that record up.
+SysteemFout Journaal::NoteerStaart(BestandSoort soort) {
+  const std::uint64_t lengte = lopend_->lengten.at(IndexVan(soort));
+  const std::uint64_t heel = lengte / RecordLengteVan(soort);
+  if (lengte % RecordLengteVan(soort) == 0 || heel >= static_cast<std::uint64_t>(kMaxRecords))
+    return {};
+  const RecordPlek staart{soort, static_cast<std::int32_t>(heel) + 1};
+  Merk& merk = MerkVan(staart);
+  if (!merk.geschreven) merk.aantal = kAantalOnbekend;
+  merk.geschreven = true;
+  return NoteerBeeld(staart);
 }
 
 void Journaal::LeesVooruit(const RecordPlek& plek) {

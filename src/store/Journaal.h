@@ -158,6 +158,7 @@ class Journaal {
   void MeldVreemd();
   [[nodiscard]] SysteemFout NoteerLengte(BestandSoort soort);
   [[nodiscard]] SysteemFout NoteerBeeld(const RecordPlek& plek);
+  [[nodiscard]] SysteemFout NoteerStaart(BestandSoort soort);
   void LeesVooruit(const RecordPlek& plek);
   [[nodiscard]] SysteemFout Spoel();
   [[nodiscard]] SysteemFout SluitLopendAf();
@@ -170,6 +171,8 @@ class Journaal {
   // The files with an unfinished action, the last one first.
   [[nodiscard]] SysteemFout LeesOnvoltooid(std::vector<Gelezen>& gelezen);
   [[nodiscard]] bool Verschilt(const JournaalInhoud& inhoud);
+  [[nodiscard]] SysteemFout LegEindeVast(const Gelezen& gelezen);
+  [[nodiscard]] SysteemFout LegBestandenVast(const JournaalInhoud& inhoud);
   [[nodiscard]] SysteemFout ZetTerug(const JournaalInhoud& inhoud);
   [[nodiscard]] SysteemFout BehoudDeze(const Gelezen& gelezen);
   [[nodiscard]] SysteemFout StandNu(const JournaalInhoud& inhoud, JournaalEinde& einde);

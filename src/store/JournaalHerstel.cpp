@@ -52,14 +52,36 @@ bool Journaal::Verschilt(const JournaalInhoud& inhoud) {
 }
 
 std::optional<OnvoltooideHandeling> Journaal::Onvoltooid() {
+  // The file of an action that is running must stay the one that is written.
+  if (lopend_) return std::nullopt;
   std::vector<Gelezen> gelezen;
   static_cast<void>(LeesOnvoltooid(gelezen));
   for (const Gelezen& deze : gelezen) {
+    // Where it can't be done now, the next write does it, or is refused.
+    if (deze.inhoud.einde) static_cast<void>(LegEindeVast(deze));
     if (Verschilt(deze.inhoud)) {
       return OnvoltooideHandeling{deze.inhoud.kop->label, deze.inhoud.kop->tijd};
     }
   }
   return std::nullopt;
+}
+
+// An end that a program which died has written need not be on the disk itself.
+SysteemFout Journaal::LegEindeVast(const Gelezen& gelezen) {
+  SysteemFout fout = map_->Open(gelezen.naam);
+  if (!fout) fout = map_->Veiligstellen();
+  map_->Sluit();
+  return fout;
+}
+
+// The same goes for what it put back: the journal must not go before that is there.
+SysteemFout Journaal::LegBestandenVast(const JournaalInhoud& inhoud) {
+  for (const BestandSoort soort : kBestandSoorten) {
+    if (inhoud.lengten.at(IndexVan(soort)) == kGeenLengte) continue;
+    if (Ruw(soort) == nullptr) return FoutNietOpen();
+    if (SysteemFout fout = Ruw(soort)->Veiligstellen()) return fout;
+  }
+  return {};
 }
 
 // Gives the ended actions, oldest first. What is left of others goes, or gets the name it lacks;
@@ -69,9 +91,11 @@ SysteemFout Journaal::RuimOnvoltooid(std::vector<JournaalPost>& posten) {
   if (SysteemFout fout = LeesOnvoltooid(gelezen)) return fout;
   for (const Gelezen& deze : gelezen) {
     if (Verschilt(deze.inhoud)) return FoutOnvoltooid();
-    SysteemFout fout = deze.inhoud.einde
-                           ? map_->Hernoem(deze.naam, JournaalNaam(deze.nummer, false))
-                           : map_->Verwijder(deze.naam);
+    const bool af = deze.inhoud.einde.has_value();
+    SysteemFout fout = af ? LegEindeVast(deze) : LegBestandenVast(deze.inhoud);
+    if (fout) return fout;
+    fout = af ? map_->Hernoem(deze.naam, JournaalNaam(deze.nummer, false))
+              : map_->Verwijder(deze.naam);
     if (fout) return fout;
   }
   if (SysteemFout fout = map_->Lijst(posten)) return fout;
@@ -94,15 +118,14 @@ SysteemFout Journaal::ZetTerug(const JournaalInhoud& inhoud) {
     if (toen == kGeenLengte) continue;
     std::uint64_t nu = 0;
     if (SysteemFout fout = LengteNu(soort, nu)) return fout;
-    if (nu != toen) {
-      if (SysteemFout fout = Ruw(soort)->Kap(toen)) return fout;
-    }
-    if (SysteemFout fout = Ruw(soort)->Veiligstellen()) return fout;
+    if (nu == toen) continue;
+    if (SysteemFout fout = Ruw(soort)->Kap(toen)) return fout;
   }
   return {};
 }
 
 SysteemFout Journaal::Herstel() {
+  if (lopend_) return {};
   std::vector<Gelezen> gelezen;
   if (SysteemFout fout = LeesOnvoltooid(gelezen)) return fout;
   for (const Gelezen& deze : gelezen) {
@@ -110,6 +133,7 @@ SysteemFout Journaal::Herstel() {
       if (SysteemFout fout = ZetTerug(deze.inhoud)) return fout;
     }
     if (deze.inhoud.einde) continue;
+    if (SysteemFout fout = LegBestandenVast(deze.inhoud)) return fout;
     if (SysteemFout fout = map_->Verwijder(deze.naam)) return fout;
     if (SysteemFout fout = map_->StelNamenVeilig()) return fout;
   }
@@ -146,10 +170,7 @@ SysteemFout Journaal::StandNu(const JournaalInhoud& inhoud, JournaalEinde& einde
 SysteemFout Journaal::BehoudDeze(const Gelezen& gelezen) {
   JournaalEinde einde;
   if (SysteemFout fout = StandNu(gelezen.inhoud, einde)) return fout;
-  for (const BestandSoort soort : kBestandSoorten) {
-    if (gelezen.inhoud.lengten.at(IndexVan(soort)) == kGeenLengte) continue;
-    if (SysteemFout fout = Ruw(soort)->Veiligstellen()) return fout;
-  }
+  if (SysteemFout fout = LegBestandenVast(gelezen.inhoud)) return fout;
   if (SysteemFout fout = map_->Open(gelezen.naam)) return fout;
   SysteemFout fout = map_->Kap(gelezen.inhoud.heel);
   if (!fout) fout = map_->Schrijf(gelezen.inhoud.heel, CodeerEinde(einde));
@@ -160,6 +181,7 @@ SysteemFout Journaal::BehoudDeze(const Gelezen& gelezen) {
 }
 
 SysteemFout Journaal::Behoud() {
+  if (lopend_) return {};
   std::vector<Gelezen> gelezen;
   if (SysteemFout fout = LeesOnvoltooid(gelezen)) return fout;
   for (const Gelezen& deze : gelezen) {

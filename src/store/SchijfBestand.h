@@ -35,7 +35,8 @@ class SchijfBestand final : public RecordBestand {
   Bestandsgreep greep_;
   std::size_t recordLengte_;
   std::uint64_t wijzigingen_ = 0;
-  std::uint64_t veilig_ = 0;
+  // The state that is on the disk itself. Not the first one: a program that died may have written.
+  std::uint64_t veilig_ = ~std::uint64_t{0};
 };
 
 }  // namespace lb77

@@ -75,6 +75,16 @@ TEST_F(JournaalOngedaanTest, TerugNaarEenEerdereIsEenHandeling) {
   EXPECT_EQ(Stand(), drie);
 }
 
+TEST_F(JournaalOngedaanTest, WieAchterEenHalfRecordSchrijftVultDatAan) {
+  const VierBestanden begin = Stand();
+  ASSERT_FALSE(Schrijf(Plaatsen, 5, 'x'));
+  ASSERT_TRUE(Dagboek().MaakOngedaan(1));
+  ASSERT_FALSE(Schrijf(Plaatsen, 9, 'y'));
+  ASSERT_FALSE(Schrijf(Plaatsen, 5, 'z'));
+  EXPECT_TRUE(Dagboek().MaakOngedaan(1));
+  EXPECT_EQ(Stand(), begin);
+}
+
 TEST_F(JournaalOngedaanTest, EenRecordVanEenAnderWordtNietOverschreven) {
   ASSERT_FALSE(Doe("Een", {{Personen, 2}, {Relaties, 3}}, 'x'));
   schijf.Bytes(Naam(Relaties))[2 * 64] = 'q';
