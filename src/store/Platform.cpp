@@ -123,6 +123,13 @@ SysteemFout NaarSchijf(int greep) {
 
 #endif
 
+// What the call that has just been made came to.
+Roepuitslag Gedaan(std::ptrdiff_t bytes) {
+  if (bytes >= 0) return {bytes};
+  const bool onderbroken = IsOnderbroken();
+  return {bytes, onderbroken, LaatsteFout()};
+}
+
 }  // namespace
 
 #ifdef _WIN32
@@ -309,34 +316,16 @@ Bestandsgreep& Bestandsgreep::operator=(Bestandsgreep&& ander) noexcept {
 
 Leesuitslag Bestandsgreep::Lees(std::uint64_t plaats, std::span<char> doel) const {
   if (!IsOpen()) return {0, FoutNietOpen()};
-  Leesuitslag uitslag;
-  while (uitslag.gelezen < doel.size()) {
-    const std::ptrdiff_t stuk =
-        LeesStuk(greep_, plaats + uitslag.gelezen, doel.subspan(uitslag.gelezen));
-    if (stuk == 0) break;
-    if (stuk > 0) {
-      uitslag.gelezen += static_cast<std::size_t>(stuk);
-    } else if (!IsOnderbroken()) {
-      uitslag.fout = LaatsteFout();
-      break;
-    }
-  }
-  return uitslag;
+  return LeesInStukken(plaats, doel, [this](std::uint64_t vanaf, std::span<char> waarin) {
+    return Gedaan(LeesStuk(greep_, vanaf, waarin));
+  });
 }
 
 SysteemFout Bestandsgreep::Schrijf(std::uint64_t plaats, std::span<const char> bron) {
   if (!IsOpen()) return FoutNietOpen();
-  while (!bron.empty()) {
-    const std::ptrdiff_t stuk = SchrijfStuk(greep_, plaats, bron);
-    if (stuk == 0) return FoutVan(std::make_error_code(std::errc::no_space_on_device));
-    if (stuk > 0) {
-      plaats += static_cast<std::uint64_t>(stuk);
-      bron = bron.subspan(static_cast<std::size_t>(stuk));
-    } else if (!IsOnderbroken()) {
-      return LaatsteFout();
-    }
-  }
-  return {};
+  return SchrijfInStukken(plaats, bron, [this](std::uint64_t vanaf, std::span<const char> wat) {
+    return Gedaan(SchrijfStuk(greep_, vanaf, wat));
+  });
 }
 
 }  // namespace lb77

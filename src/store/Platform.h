@@ -6,15 +6,10 @@
 #include <filesystem>
 #include <span>
 
+#include "store/Stukken.h"
 #include "store/SysteemFout.h"
 
 namespace lb77 {
-
-// The number of bytes that an operation reached, or why it failed.
-struct Leesuitslag {
-  std::size_t gelezen = 0;  // fewer than asked only at the end of the file
-  SysteemFout fout;
-};
 
 // How a file is opened.
 enum class Openwijze {

@@ -8,8 +8,9 @@
 namespace lb77 {
 
 Leesuitslag FaalBestand::Lees(std::int32_t nr, std::span<char> doel) {
-  if (storing_.Treft()) return {0, {57, kLeesStoring}};
-  return bestand_->Lees(nr, doel);
+  if (!storing_.Treft()) return bestand_->Lees(nr, doel);
+  const std::size_t gelezen = storing_.gelezen ? bestand_->Lees(nr, doel).gelezen : 0;
+  return {gelezen, {57, kLeesStoring}};
 }
 
 SysteemFout FaalBestand::Schrijf(std::int32_t nr, std::span<const char> bron) {

@@ -19,6 +19,7 @@ struct Storing {
   int bij = 0;                // the operation that fails; 0 is none
   bool kort = false;          // a write that fails has written half of its bytes
   bool blijvend = false;      // all operations behind it fail too
+  bool gelezen = false;       // a read that fails has read its bytes all the same
   bool zonderLengte = false;  // the size of a file can't be told
   int teller = 0;
 

@@ -1,6 +1,7 @@
 // Every road that writes, with each of its operations failing in turn.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <set>
 
@@ -106,6 +107,10 @@ bool Beloop(const Weg& weg, const Storing& met, std::set<std::string>& boxen) {
     return true;
   }
   EXPECT_FALSE(getoond.empty()) << "een fout zonder melding";
+  const bool schrijffout = std::any_of(getoond.begin(), getoond.end(), [](const std::string& box) {
+    return box.find(kSchrijfStoring) != std::string::npos;
+  });
+  EXPECT_FALSE(schrijffout && gelukt) << "een mislukte schrijfactie telt als gelukt";
   if (met.bij == 1 && !met.kort) {
     EXPECT_EQ(Inhoud(set), voor);
   }

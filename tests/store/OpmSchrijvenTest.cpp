@@ -1,81 +1,13 @@
 // Storing remarks.
 #include <gtest/gtest.h>
 
-#include "steun/FaalBestand.h"
-#include "steun/ProefSet.h"
-#include "store/OpmLB77.h"
+#include "store/OpmSchrijvenToets.h"
 
 using namespace lb77;
-using Boxen = std::vector<std::string>;
 
 namespace {
 
-struct OpmSchrijvenTest : ::testing::Test {
-  OpmSchrijvenTest() {
-    man = set.bouw.Man("Jan", "Jansen");
-    relatie = set.bouw.Relatie(man, 0);
-  }
-  ~OpmSchrijvenTest() override { EXPECT_EQ(set.Getoond(), Boxen{}); }
-
-  static OpmRegels Regels(const std::vector<std::string>& regels) {
-    OpmRegels tien;
-    std::copy(regels.begin(), regels.end(), tien.begin());
-    return tien;
-  }
-  // Edits the `opmerking`-th remark (from 1) of a rubric of the person, as the dialog does.
-  bool Wijzig(std::int16_t rubriek, const std::vector<std::string>& regels, int opmerking = 1,
-              std::int16_t prog = 23) {
-    EXPECT_TRUE(set.Persoon.Lees(man));
-    OpmRecnrs recnrs{};
-    std::int16_t vorige = 0;
-    for (std::size_t i = 0; i < recnrs.size(); ++i) {
-      const auto regel = static_cast<std::int16_t>((opmerking - 1) * 10 + static_cast<int>(i) + 1);
-      const OpmVindplaats plek = set.Opmerking.OpmRecordNr(
-          set.Persoon.OpmCode(), set.Persoon.OpmRecord(), rubriek, regel, false);
-      recnrs[i] = plek.Nr;
-      if (i == 0) vorige = plek.Vorige;
-    }
-    return set.Opmerking.SchrijfOpmerking(Regels(regels), recnrs, vorige, man, 0,
-                                          set.Persoon.OpmRecord(), prog, rubriek);
-  }
-  std::vector<std::string> Teksten(std::int16_t rubriek, int opmerking = 1) {
-    EXPECT_TRUE(set.Persoon.Lees(man));
-    std::vector<std::string> teksten;
-    for (int regel = 1; regel <= 10; ++regel) {
-      const auto nr = static_cast<std::int16_t>((opmerking - 1) * 10 + regel);
-      teksten.push_back(set.Opmerking.OpmerkingTekst(set.Persoon.OpmCode(), set.Persoon.OpmRecord(),
-                                                     rubriek, nr, false));
-      if (teksten.back().empty()) {
-        teksten.pop_back();
-        break;
-      }
-    }
-    return teksten;
-  }
-  std::pair<int, int> Eigenaar() {
-    EXPECT_TRUE(set.Persoon.Lees(man));
-    return {set.Persoon.OpmRecord(), set.Persoon.OpmCode()};
-  }
-  // Records, in use, first that may be free.
-  std::array<int, 3> Admin() {
-    EXPECT_TRUE(set.Opmerking.LeesAdmin());
-    return {set.Opmerking.Rubriek(), set.Opmerking.BijRecord(), set.Opmerking.BijProg()};
-  }
-  OpmLB77& Lees(std::int16_t nr) {
-    set.volgers.HuidigOpmNr = nr;
-    EXPECT_TRUE(set.Opmerking.Lees());
-    return set.Opmerking;
-  }
-  void ZetAdmin(std::int16_t aantal, std::int16_t vrij, std::int16_t gebruikt) {
-    EXPECT_TRUE(set.Opmerking.LeesAdmin());
-    EXPECT_TRUE(set.Opmerking.SchrijfAdm(aantal, vrij, gebruikt));
-  }
-
-  Storing storing;
-  ProefSet set{FalendeOpener(storing)};
-  std::int16_t man = 0;
-  std::int16_t relatie = 0;
-};
+struct OpmSchrijvenTest : OpmSchrijvenToets {};
 
 using Paar = std::pair<int, int>;
 using Drie = std::array<int, 3>;
@@ -266,43 +198,6 @@ TEST_F(OpmSchrijvenTest, HetZoekenNaarEenVrijRecordGaatOverBezetteHeen) {
   ZetAdmin(5, 2, 2);
   ASSERT_TRUE(Wijzig(32, {"nog een"}));
   EXPECT_EQ(Admin(), (Drie{5, 3, 3}));
-}
-
-TEST_F(OpmSchrijvenTest, EenEersteVrijDatBezetIsWijktVoorHetVolgendeVrije) {
-  ASSERT_TRUE(Wijzig(1, {"een", "twee", "drie"}));
-  ZetAdmin(4, 2, 3);
-  ASSERT_TRUE(Wijzig(8, {"vier"}));
-  EXPECT_EQ(Teksten(1), (Lijst{"een", "twee", "drie"}));
-  EXPECT_EQ(Teksten(8), Lijst{"vier"});
-  EXPECT_EQ(Admin(), (Drie{5, 4, 6}));
-  ASSERT_TRUE(Wijzig(1, {"een", "twee"}));
-  ZetAdmin(5, 2, 3);
-  ASSERT_TRUE(Wijzig(16, {"vijf"}));
-  EXPECT_EQ(Lees(4).Tekstregel(), "vijf");
-}
-
-TEST_F(OpmSchrijvenTest, EenEersteVrijOnderTweeIsNooitRecordEen) {
-  int opmerking = 0;
-  for (const std::int16_t vrij : std::initializer_list<std::int16_t>{1, 0, -7}) {
-    ZetAdmin(set.Opmerking.AantalInAdmin(), vrij, 0);
-    const std::string voor = LeesBytes(set.paden.opm).substr(10, 86);
-    ASSERT_TRUE(Wijzig(1, {"een"}, ++opmerking));
-    EXPECT_EQ(LeesBytes(set.paden.opm).substr(10, 86), voor);
-  }
-  EXPECT_EQ(Lees(4).Tekstregel(), "een");
-}
-
-TEST_F(OpmSchrijvenTest, EenVolBestandMetEenOudEersteVrijMeldtHetMaximum) {
-  ZetAdmin(32767, 2, 32766);
-  set.bestanden.SluitAlles();
-  std::string bytes = LeesBytes(set.paden.opm);
-  const std::string bezet = std::string("\1\0\1\0", 4) + std::string(92, ' ');
-  while (bytes.size() < 32767 * 96) bytes += bezet;
-  SchrijfBytes(set.paden.opm, bytes);
-  set.Heropen();
-  EXPECT_FALSE(Wijzig(1, {"een"}));
-  EXPECT_EQ(set.Getoond(), Boxen{"! stop \"Het maximum van 32767 records is bereikt\""});
-  EXPECT_EQ(LeesBytes(set.paden.opm), bytes);
 }
 
 TEST_F(OpmSchrijvenTest, EenEersteVrijVerVoorbijHetEindeNeemtHetVolgendeRecord) {

@@ -158,6 +158,34 @@ TYPED_TEST(RecordRaamTest, EenGrootteDieHetSysteemNietVertelt) {
   EXPECT_LE(this->set.Getoond().size(), 1U);
 }
 
+TYPED_TEST(RecordRaamTest, EenEnkelByteAanEenRandHoudtEenNieuwRecordTegen) {
+  if constexpr (!std::is_same_v<TypeParam, OpmProef>) {
+    for (const std::size_t rand : {std::size_t{0}, this->Leeg().size() - 1}) {
+      std::string record = this->Leeg();
+      record[rand] = 'Q';
+      this->ZetBestand(LeesBytes(this->Pad()).substr(0, record.size()) + record);
+      EXPECT_FALSE(this->Klasse().Nieuw(2)) << rand;
+      EXPECT_EQ(this->set.Getoond().size(), 1U);
+      EXPECT_EQ(LeesBytes(this->Pad()).substr(record.size()), record);
+    }
+  }
+}
+
+TYPED_TEST(RecordRaamTest, EenGatHoudtEenNieuwRecordNietTegen) {
+  this->ZetBestand(LeesBytes(this->Pad()) + std::string(this->Leeg().size(), '\0'));
+  EXPECT_TRUE(this->Klasse().Nieuw(2));
+  EXPECT_EQ(this->Bytes(), this->Leeg());
+}
+
+TYPED_TEST(RecordRaamTest, EenLeesfoutHalverwegeIsEenLeesfout) {
+  this->Maak(2, "AB");
+  this->storing = {.bij = 1, .gelezen = true};
+  EXPECT_FALSE(this->Lees(2));
+  EXPECT_EQ(this->set.Getoond(),
+            Boxen{this->Stop(std::string(TypeParam::kLees) + "2\\nFout van de schijf")});
+  EXPECT_EQ(this->Bytes(), this->Leeg());
+}
+
 TYPED_TEST(RecordRaamTest, EenStompjeVoorbijHetEindeHoudtGeenNieuwRecordTegen) {
   this->Maak(2, "AB");
   this->ZetBestand(LeesBytes(this->Pad()) + "A");
