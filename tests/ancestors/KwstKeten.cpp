@@ -25,6 +25,17 @@ void KwstKeten::Speel(std::string_view draaiboek, std::string_view verslag, cons
   Verwacht(draaiboek, taak, verslag, plek);
 }
 
+Keten KwstKeten::Weg() {
+  return Keten({
+      {"KwstTxtPrs", "Nummer Proband", "vul RecordNr 9\ndruk OKButton"},
+      {"KwstTxtParam", "Kwartierstaat Uitvoeropties", "druk OKButton"},
+      {"KwHTMLParam", "Kwartierstaat Uitvoeropties voor Internet", "druk OKButton", false},
+      {"KwstBereken", "Opbouwen Kwartierstaat", ""},
+      {"KwstMaakTemp", "Kwartierstaat Schrijven", ""},
+      {"ToonTekst", "Kwartierstaat in Tekstvorm", "druk BackButton"},
+  });
+}
+
 bool KwstKeten::IniHeeft(std::string_view regel) const {
   return Ini().find("\r\n" + std::string(regel) + "\r\n") != std::string::npos;
 }

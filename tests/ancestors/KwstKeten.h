@@ -6,6 +6,7 @@
 
 #include "ancestors/KwstFamilie.h"
 #include "steun/FamilieToets.h"
+#include "steun/Keten.h"
 
 namespace lb77 {
 
@@ -18,6 +19,12 @@ class KwstKeten : public FamilieToets {
   // Plays a script from the prompt on.
   void Speel(std::string_view draaiboek, std::string_view verslag,
              const Plek& plek = Plek::current());
+  // The same for the ordinary road, or what a test makes of it.
+  void Speel(const Keten& keten, const Plek& plek = Plek::current()) {
+    Speel(keten.Draaiboek(), keten.Verslag(), plek);
+  }
+  // From the number of the proband to the viewer.
+  [[nodiscard]] static Keten Weg();
   [[nodiscard]] std::string Ini() const { return LeesBytes(Map() / "LIJNBOOM.INI"); }
   [[nodiscard]] bool IniHeeft(std::string_view regel) const;
   [[nodiscard]] std::string Verslag() const { return LeesBytes(Map() / "TEMP" / "KWSTDATA.TMP"); }

@@ -42,76 +42,38 @@ TEST_F(KwstKeten, GaatVanNummerTotScherm) {
 }
 
 TEST_F(KwstKeten, EenStopWordtBevestigdEnLaatHetFormulierOpen) {
-  Speel(R"(
-      vul RecordNr 9
-      druk OKButton
-      onderbreek 2
-      antwoord Ja
-      druk OKButton
-      toon PersoonsNr
-      toon Kwartieren
-      druk BackButton
-    )",
-        R"(
-      + KwstTxtPrs "Nummer Proband"
-      + KwstTxtParam "Kwartierstaat Uitvoeropties"
-      - KwstTxtParam
-      + KwstBereken "Opbouwen Kwartierstaat"
-      ? vraag Ja/Nee "Opbouw Afbreken ?" -> Ja
-      = PersoonsNr "9"
-      = Kwartieren "3"
-      - KwstBereken
-      - KwstTxtPrs
-    )");
+  Speel(Weg()
+            .In("KwstTxtParam", "onderbreek 2\nantwoord Ja\ndruk OKButton")
+            .In("KwstBereken", "toon PersoonsNr\ntoon Kwartieren\ndruk BackButton", R"(
+                ? vraag Ja/Nee "Opbouw Afbreken ?" -> Ja
+                = PersoonsNr "9"
+                = Kwartieren "3"
+              )")
+            .Tot("KwstBereken"));
   EXPECT_EQ(gebleven_, -1);
 }
 
 TEST_F(KwstKeten, EenIngetrokkenStopGaatVerder) {
-  Speel(R"(
-      vul RecordNr 9
-      druk OKButton
-      onderbreek 2
-      onderbreek 1
-      antwoord Nee Ja
-      druk OKButton
-      druk OKButton
-    )",
-        R"(
-      + KwstTxtPrs "Nummer Proband"
-      + KwstTxtParam "Kwartierstaat Uitvoeropties"
-      - KwstTxtParam
-      + KwstBereken "Opbouwen Kwartierstaat"
-      ? vraag Ja/Nee "Opbouw Afbreken ?" -> Nee
-      ? vraag Ja/Nee "Opbouw Afbreken ?" -> Ja
-      - KwstBereken
-      - KwstTxtPrs
-    )");
+  Speel(Weg()
+            .In("KwstTxtParam", "onderbreek 2\nonderbreek 1\nantwoord Nee Ja\ndruk OKButton")
+            .In("KwstBereken", "druk OKButton", R"(
+                ? vraag Ja/Nee "Opbouw Afbreken ?" -> Nee
+                ? vraag Ja/Nee "Opbouw Afbreken ?" -> Ja
+              )")
+            .Tot("KwstBereken"));
   EXPECT_EQ(gebleven_, -1);
 }
 
 TEST_F(KwstKeten, EenStopVanHetSchrijvenToontGeenVerslag) {
   // The computation tests for it at each of its eight entries, the writing at each couple.
   for (const std::string_view weg : {"druk OKButton", "druk BackButton", "toets Escape", "sluit"}) {
-    Speel(R"(
-        vul RecordNr 9
-        druk OKButton
-        onderbreek 10
-        antwoord Ja
-        druk OKButton
-        toon Kwartieren
-        )" + std::string(weg),
-          R"(
-        + KwstTxtPrs "Nummer Proband"
-        + KwstTxtParam "Kwartierstaat Uitvoeropties"
-        - KwstTxtParam
-        + KwstBereken "Opbouwen Kwartierstaat"
-        - KwstBereken
-        + KwstMaakTemp "Kwartierstaat Schrijven"
-        ? vraag Ja/Nee "Opbouw Afbreken ?" -> Ja
-        = Kwartieren "1"
-        - KwstMaakTemp
-        - KwstTxtPrs
-      )");
+    Speel(Weg()
+              .In("KwstTxtParam", "onderbreek 10\nantwoord Ja\ndruk OKButton")
+              .In("KwstMaakTemp", "toon Kwartieren\n" + std::string(weg), R"(
+                  ? vraag Ja/Nee "Opbouw Afbreken ?" -> Ja
+                  = Kwartieren "1"
+                )")
+              .Tot("KwstMaakTemp"));
     EXPECT_EQ(gebleven_, -1) << weg;
     EXPECT_NE(Verslag().find("Femke"), std::string::npos);
     EXPECT_EQ(Verslag().find("Adriaan"), std::string::npos);
@@ -119,27 +81,9 @@ TEST_F(KwstKeten, EenStopVanHetSchrijvenToontGeenVerslag) {
 }
 
 TEST_F(KwstKeten, EenIngetrokkenStopVanHetSchrijvenToontHetVerslag) {
-  Speel(R"(
-      vul RecordNr 9
-      druk OKButton
-      onderbreek 10
-      antwoord Nee
-      druk OKButton
-      druk BackButton
-    )",
-        R"(
-      + KwstTxtPrs "Nummer Proband"
-      + KwstTxtParam "Kwartierstaat Uitvoeropties"
-      - KwstTxtParam
-      + KwstBereken "Opbouwen Kwartierstaat"
-      - KwstBereken
-      + KwstMaakTemp "Kwartierstaat Schrijven"
-      ? vraag Ja/Nee "Opbouw Afbreken ?" -> Nee
-      - KwstMaakTemp
-      + ToonTekst "Kwartierstaat in Tekstvorm"
-      - ToonTekst
-      - KwstTxtPrs
-    )");
+  Speel(Weg()
+            .In("KwstTxtParam", "onderbreek 10\nantwoord Nee\ndruk OKButton")
+            .Zegt("KwstMaakTemp", R"(? vraag Ja/Nee "Opbouw Afbreken ?" -> Nee)"));
   EXPECT_EQ(gebleven_, 0);
   EXPECT_NE(Verslag().find("Klaas Cool"), std::string::npos);
 }
@@ -147,27 +91,16 @@ TEST_F(KwstKeten, EenIngetrokkenStopVanHetSchrijvenToontHetVerslag) {
 // Each way out of each form before the work begins.
 TEST_F(KwstKeten, ElkeWegTerugStoptDeKeten) {
   for (const std::string_view weg : {"druk BackButton", "toets Escape", "sluit"}) {
-    const std::string terug = std::string(weg) + "\n";
+    for (const std::string_view vorm : {"KwstTxtPrs", "KwstTxtParam"}) {
+      gebleven_ = 0;
+      Speel(Weg().In(vorm, weg).Tot(vorm));
+      EXPECT_EQ(gebleven_, -1) << weg;
+    }
     gebleven_ = 0;
-    Speel(terug, "+ KwstTxtPrs \"Nummer Proband\"\n- KwstTxtPrs\n");
-    EXPECT_EQ(gebleven_, -1) << weg;
-    gebleven_ = 0;
-    Speel("vul RecordNr 9\ndruk OKButton\n" + terug, R"(
-      + KwstTxtPrs "Nummer Proband"
-      + KwstTxtParam "Kwartierstaat Uitvoeropties"
-      - KwstTxtParam
-      - KwstTxtPrs
-    )");
-    EXPECT_EQ(gebleven_, -1) << weg;
-    gebleven_ = 0;
-    Speel("vul RecordNr 9\ndruk OKButton\nstel InHTMLBox Ja\ndruk OKButton\n" + terug, R"(
-      + KwstTxtPrs "Nummer Proband"
-      + KwstTxtParam "Kwartierstaat Uitvoeropties"
-      - KwstTxtParam
-      + KwHTMLParam "Kwartierstaat Uitvoeropties voor Internet"
-      - KwHTMLParam
-      - KwstTxtPrs
-    )");
+    Speel(Weg()
+              .In("KwstTxtParam", "stel InHTMLBox Ja\ndruk OKButton")
+              .In("KwHTMLParam", weg)
+              .Tot("KwHTMLParam"));
     EXPECT_EQ(gebleven_, -1) << weg;
     EXPECT_EQ(Verslag(), "") << weg;
   }
@@ -175,60 +108,28 @@ TEST_F(KwstKeten, ElkeWegTerugStoptDeKeten) {
 
 TEST_F(KwstKeten, EenBerekeningDieMisluktZegtWatOnleesbaarIsEnSluit) {
   Bouw().WijzigPersoon(familie_.vader, {{"Ouders", "99"}});
-  Speel("vul RecordNr 9\ndruk OKButton\ndruk OKButton\n", R"(
-      + KwstTxtPrs "Nummer Proband"
-      + KwstTxtParam "Kwartierstaat Uitvoeropties"
-      - KwstTxtParam
-      + KwstBereken "Opbouwen Kwartierstaat"
-      ! stop "Relatierecord 99 kan niet worden gelezen. Er is geen verslag gemaakt."
-      - KwstBereken
-      - KwstTxtPrs
-    )");
+  Speel(
+      Weg()
+          .Zegt("KwstBereken",
+                R"(! stop "Relatierecord 99 kan niet worden gelezen. Er is geen verslag gemaakt.")")
+          .Tot("KwstBereken"));
   EXPECT_EQ(gebleven_, -1);
 }
 
 TEST_F(KwstKeten, EenLeesfoutVanHetSchrijvenToontGeenVerslag) {
   const auto relatie = Bouw().Relatie(familie_.proband, 0);
   Bouw().WijzigRelatie(relatie, {{"VrouwNr", "500"}});
-  Speel(R"(
-      vul RecordNr 9
-      druk OKButton
-      druk OKButton
-    )",
-        R"(
-      + KwstTxtPrs "Nummer Proband"
-      + KwstTxtParam "Kwartierstaat Uitvoeropties"
-      - KwstTxtParam
-      + KwstBereken "Opbouwen Kwartierstaat"
-      - KwstBereken
-      + KwstMaakTemp "Kwartierstaat Schrijven"
-      ! stop "Persoonsrecord 500 kan niet worden gelezen. Er is geen verslag gemaakt."
-      - KwstMaakTemp
-      - KwstTxtPrs
-    )");
+  Speel(
+      Weg()
+          .Zegt(
+              "KwstMaakTemp",
+              R"(! stop "Persoonsrecord 500 kan niet worden gelezen. Er is geen verslag gemaakt.")")
+          .Tot("KwstMaakTemp"));
   EXPECT_EQ(gebleven_, -1);
 }
 
 TEST_F(KwstKeten, EenGeneratieIsDeProbandEnWordtGetoond) {
-  Speel(R"(
-      vul RecordNr 9
-      druk OKButton
-      vul MaxGen 1
-      druk OKButton
-      sluit
-    )",
-        R"(
-      + KwstTxtPrs "Nummer Proband"
-      + KwstTxtParam "Kwartierstaat Uitvoeropties"
-      - KwstTxtParam
-      + KwstBereken "Opbouwen Kwartierstaat"
-      - KwstBereken
-      + KwstMaakTemp "Kwartierstaat Schrijven"
-      - KwstMaakTemp
-      + ToonTekst "Kwartierstaat in Tekstvorm"
-      - ToonTekst
-      - KwstTxtPrs
-    )");
+  Speel(Weg().In("KwstTxtParam", "vul MaxGen 1\ndruk OKButton").In("ToonTekst", "sluit"));
   EXPECT_EQ(gebleven_, 0);
   EXPECT_EQ(Verslag().find("Generatie II"), std::string::npos);
 }
@@ -236,24 +137,9 @@ TEST_F(KwstKeten, EenGeneratieIsDeProbandEnWordtGetoond) {
 TEST_F(KwstKeten, EenTijdelijkBestandDatNietKanStoptDeKeten) {
   std::filesystem::create_directories(Map() / "TEMP" / "KWSTDATA.TMP");
   const std::string pad = (Map() / "TEMP" / "KWSTDATA.TMP").string();
-  const std::string melding = "! stop \"Kan tijdelijk bestand " + pad + " niet openen\"\n";
-  Speel(R"(
-      vul RecordNr 9
-      druk OKButton
-      druk OKButton
-    )",
-        R"(
-      + KwstTxtPrs "Nummer Proband"
-      + KwstTxtParam "Kwartierstaat Uitvoeropties"
-      - KwstTxtParam
-      + KwstBereken "Opbouwen Kwartierstaat"
-      - KwstBereken
-      + KwstMaakTemp "Kwartierstaat Schrijven"
-      )" + melding +
-            R"(
-      - KwstMaakTemp
-      - KwstTxtPrs
-    )");
+  Speel(Weg()
+            .Zegt("KwstMaakTemp", "! stop \"Kan tijdelijk bestand " + pad + " niet openen\"")
+            .Tot("KwstMaakTemp"));
   EXPECT_EQ(gebleven_, -1);
 }
 

@@ -14,7 +14,7 @@ TEST(GedTekensetTest, NamenVanTekensets) {
   EXPECT_EQ(GedTekensetVan("WIN"), GedTekenset::WIN1252);
 }
 
-TEST(GedTekensetTest, ElkeAndereNaamIsASCII) {
+TEST(GedTekensetTest, ElkeAndereNaamGeeftASCII) {
   for (const std::string_view naam : {"", "ASCII", "ANSI", "UTF-8", "ansel", "ANSEL2", "WIN1252"}) {
     EXPECT_EQ(GedTekensetVan(naam), GedTekenset::ASCII) << naam;
   }

@@ -143,9 +143,6 @@ class Toetsnaam(Regel):
                 self.verwacht("tests/app/XTest.cpp", f"\n{soort}(X, {naam}) {{}}\n", 2, woord)
         self.verwacht("bench/XTest.cpp", "TEST(X, ReadsAll) {}\n", 1, "Reads")
 
-    def test_waar_zij_nog_engels_zijn(self):
-        self.schoon("tests/qt/XTest.cpp", "TEST(X, ShowsItsName) {}\n")
-
 
 def functie(regels, kop="int F() {"):
     return kop + "\n" + "  g();\n" * (regels - 2) + "}\n"
