@@ -2,6 +2,7 @@
 
 #include "ancestors/KwstSchrijver.h"
 #include "app/Hoofdmodule.h"
+#include "store/Codes.h"
 
 namespace lb77 {
 namespace {
@@ -9,14 +10,12 @@ namespace {
 constexpr SchrijfSoort kSoort{"KwstMaakTemp", "Kwartierstaat Schrijven",
                               "Schrijven van de kwartierstaat.", kKwartieren};
 
-constexpr int kOpmMasker = 1;  // the bit "Kwartierstaat (tekst)" of a remark
-
 ZinOpties ZinOptiesVan(const KwstOpties& opties, const IniClass& ini) {
   ZinOpties zin;
   zin.ookOpm = opties.KwOokOpm;
   zin.ookNrs = opties.KwOokNrs;
   zin.inHTML = opties.KwInHTML;
-  zin.opmMasker = kOpmMasker;
+  zin.opmMasker = uitvoer::kKwartierstaat;
   zin.toonTrouw = ini.ToonTrouw();
   return zin;
 }

@@ -6,12 +6,16 @@
 #include "output/TekstSchrijver.h"
 #include "output/Zinsbouw.h"
 #include "reporting/HTMLPagina.h"
+#include "store/Rubrieken.h"
 
 namespace lb77 {
 namespace {
 
 // The rubrics of a relation's events: their remarks are told even when the events are not known.
-constexpr int kHuwelijksRubrieken = 1 | 2 | 4 | 8 | 16 | 32 | 64;
+constexpr int kHuwelijksRubrieken =
+    RubriekBits(relatierubriek::kOtrPlaats, relatierubriek::kOtrDatum,
+                relatierubriek::kWetHuwPlaats, relatierubriek::kWetHuwDatum,
+                relatierubriek::kHuwSoort, relatierubriek::kKHuwPlaats, relatierubriek::kKHuwDatum);
 
 // Generations from the proband to the first entry that is written; 0 when none is.
 int AfstandVanEerste(const KwstTabel& tabel, const Kwartiernummer& vanaf) {

@@ -2,6 +2,7 @@
 
 #include <optional>
 
+#include "store/Codes.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
@@ -74,7 +75,7 @@ Uitslag BouwKwst(KwstTabel& tabel, const KwstOpties& opties, PersoonLB77& persoo
   if (opties.KwProbandNr < kEerstePersoon || !persoon.Lees(opties.KwProbandNr)) {
     return Mislukt(volgers, {BestandSoort::Personen, opties.KwProbandNr});
   }
-  tabel.Begin(opties.KwProbandNr, persoon.Geslacht() == "M", opties.KwBeginNr);
+  tabel.Begin(opties.KwProbandNr, IsCode(persoon.Geslacht(), geslacht::kMan), opties.KwBeginNr);
   const int beginGeneratie = opties.KwBeginNr.Generatie();
   volgers.HuidigPersoonNr = 0;
   verloop.toon(0, 1);
