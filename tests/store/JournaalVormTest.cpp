@@ -33,6 +33,7 @@ std::string MaakProef() {
 TEST(Crc32Test, IsDieVanDeStandaard) {
   EXPECT_EQ(Crc32(std::string_view("123456789")), 0xCBF43926U);
   EXPECT_EQ(Crc32(std::string_view("")), 0U);
+  EXPECT_EQ(Crc32(std::string_view("The quick brown fox jumps over the lazy dog")), 0x414FA339U);
 }
 
 TEST(JournaalVormTest, DeKopStaatByteVoorByteVast) {
