@@ -22,8 +22,8 @@ class JournaalBestand final : public RecordBestand {
     return bestand_->Lees(nr, doel);
   }
   [[nodiscard]] SysteemFout Schrijf(std::int32_t nr, std::span<const char> bron) override;
-  // Not through the journal: the journal itself is the one that cuts.
-  [[nodiscard]] SysteemFout Kap(std::uint64_t lengte) override { return bestand_->Kap(lengte); }
+  // Undone with its action, like a write; what the journal itself cuts does not come by here.
+  [[nodiscard]] SysteemFout Kap(std::uint64_t lengte) override;
   std::uint64_t Lengte() override { return bestand_->Lengte(); }
   std::int64_t Wijzigtijd() override { return bestand_->Wijzigtijd(); }
   [[nodiscard]] SysteemFout Vergrendel() override { return bestand_->Vergrendel(); }
