@@ -7,6 +7,7 @@ import re
 # A body file that takes the whole session, and is no form and no control. With its reason.
 HOOFDMODULE_MAG = {
     "src/app/Bestandensets": "what the forms of the file sets do alike, start-up included",
+    "src/app/SetOpenen": "what a set needs of the session when it opens",
     "src/app/Start": "brings the session up",
     "src/entry/VeldToets": "the keys of a field of a form, which show forms themselves",
     "src/entry/ZoekPersoon": "the door to the forms of the search",

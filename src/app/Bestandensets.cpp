@@ -71,7 +71,7 @@ void KiesSet(Hoofdmodule& hoofd, std::string_view rij) {
   if (naam.empty()) hoofd.ActieveSetNaam = kGeenSetActief;
 }
 
-void OpenBestanden(Hoofdmodule& hoofd) {
+void OpenBestanden(Hoofdmodule& hoofd, SetGebruik gebruik) {
   hoofd.volgers = {};  // the numbers of another set mean nothing in this one
   if (!IsSetNaam(hoofd.ActieveSetNaam)) {
     hoofd.gesprek.Waarschuw(SetNaamFout(hoofd.ActieveSetNaam));
@@ -79,8 +79,12 @@ void OpenBestanden(Hoofdmodule& hoofd) {
     return;
   }
   const SetPaden paden = SetPaden::Van(hoofd.Ini.DataDir(), hoofd.ActieveSetNaam);
+  GeefJournaal(hoofd);
   if (const std::optional<OpenFout> fout = hoofd.bestanden.OpenSet(paden)) {
     hoofd.gesprek.Fout(OpenFoutTekst(*fout));
+    hoofd.ActieveSetNaam = kGeenSetActief;
+  } else if (!MagGebruiken(hoofd, gebruik)) {
+    hoofd.bestanden.SluitAlles();
     hoofd.ActieveSetNaam = kGeenSetActief;
   }
 }
@@ -91,7 +95,7 @@ bool OpenSetVanRij(Hoofdmodule& hoofd, MenuWindow& menu, std::string_view rij) {
     hoofd.gesprek.Waarschuw(kGeenSetGekozen);
     return false;
   }
-  if (hoofd.SetActief()) OpenBestanden(hoofd);
+  if (hoofd.SetActief()) OpenBestanden(hoofd, menu.Gebruik());
   const std::string omschrijving =
       hoofd.Ini.BestandenSetOms(hoofd.Ini.BestandenSetIndex(hoofd.ActieveSetNaam));
   menu.ZetStatus(omschrijving);

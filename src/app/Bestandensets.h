@@ -6,6 +6,7 @@
 
 #include "app/Hoofdmodule.h"
 #include "app/MenuWindow.h"
+#include "app/SetOpenen.h"
 #include "forms/Keuzen.h"
 
 namespace lb77 {
@@ -29,8 +30,9 @@ void LaadSetPicklist(Hoofdmodule& hoofd, MenuWindow& menu, Keuzelijst& picklist)
 // row is empty.
 void KiesSet(Hoofdmodule& hoofd, std::string_view rij);
 
-// Opens the files of the active set; a failure tells itself, and no set is active then.
-void OpenBestanden(Hoofdmodule& hoofd);
+// Opens the files of the active set; a failure tells itself, and no set is active then. Nor is one
+// when the user does not want a set that is in use elsewhere, or what a crash left can't be mended.
+void OpenBestanden(Hoofdmodule& hoofd, SetGebruik gebruik);
 
 // Chooses and opens the set of that row, keeps it in the settings, and brings status bar and menu up
 // to date. False, after a warning, when the row names no set.

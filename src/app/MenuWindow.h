@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "app/Hoofdmodule.h"
+#include "app/SetOpenen.h"
 #include "forms/Formulier.h"
 #include "forms/Weergave.h"
 
@@ -29,6 +30,10 @@ class MenuWindow final : public Formulier {
   void ZetStatus(std::string_view omschrijving = {});
   [[nodiscard]] const std::string& StatusTekst() const { return Statusbalk.Tekst(); }
 
+  // How the sets are used that this window and its dialogs open.
+  [[nodiscard]] SetGebruik Gebruik() const { return gebruik_; }
+  void ZetGebruik(SetGebruik gebruik) { gebruik_ = gebruik; }
+
   lb77::Statusbalk Statusbalk{*this, "Statusbalk"};
 
  protected:
@@ -43,6 +48,7 @@ class MenuWindow final : public Formulier {
   bool BewaarPositie();
 
   Hoofdmodule& hoofd_;
+  SetGebruik gebruik_ = SetGebruik::Schrijven;
   std::deque<MenuKeuze> keuzes_;  // as the table of entries
 };
 

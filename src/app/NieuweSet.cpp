@@ -91,7 +91,10 @@ bool NeemBestand(Hoofdmodule& hoofd, BestandSoort soort, const SetPaden& paden) 
   return false;
 }
 
+// Without a journal: the records 1 of a new set are nothing to be undone.
 bool MaakSet(Hoofdmodule& hoofd, const SetPaden& paden) {
+  hoofd.bestanden.SluitAlles();
+  NeemJournaalWeg(hoofd);
   if (!MaakMap(hoofd.gesprek, paden.map) || !MaakMap(hoofd.gesprek, paden.tekst)) return false;
   for (const BestandSoort soort : kBestandSoorten) {
     if (!NeemBestand(hoofd, soort, paden)) return false;
@@ -143,6 +146,7 @@ void NieuweSet::OKButtonKlik() {
     hoofd_.volgers = {};
     const bool gelukt = MaakSet(hoofd_, SetPaden::Van(hoofd_.Ini.DataDir(), naam));
     hoofd_.ActieveSetNaam = gelukt ? naam : std::string(kGeenSetActief);
+    if (gelukt) OpenBestanden(hoofd_, menu_.Gebruik());
     MaakActief(std::string(Trim(SetOmsch.Tekst())));
   }
   menu_.ZetMenu();

@@ -84,6 +84,7 @@ void VerwijderSetVanSchijf(Gesprek& gesprek, const std::filesystem::path& data,
   VerwijderPlaatsen(gesprek, paden.plt);
   VerwijderMap(gesprek, paden.tekst, "TEKST", naam);
   VerwijderMap(gesprek, paden.index, "INDEX", naam);
+  VerwijderMap(gesprek, paden.map / "JOURNAAL", "JOURNAAL", naam);
   VerwijderLegeMap(gesprek, paden.map, naam);
 }
 

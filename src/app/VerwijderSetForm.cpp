@@ -1,10 +1,15 @@
 #include "app/VerwijderSetForm.h"
 
-#include <string>
+#include <filesystem>
+#include <system_error>
 
 #include "app/Bestandensets.h"
 #include "app/SetVerwijderen.h"
+#include "app/Veiligheidskopie.h"
+#include "store/SetPaden.h"
 #include "text/Getallen.h"
+#include "text/Letterlijk.h"
+#include "text/Pad.h"
 
 namespace lb77 {
 
@@ -56,14 +61,29 @@ void VerwijderSetForm::Verwijder() {
     hoofd_.gesprek.Waarschuw("Bestandenset niet gevonden in LIJNBOOM.INI");
     return;
   }
+  const bool geldig = IsSetNaam(naam);
+  if (DeleteJa.Gekozen() && geldig && IsElders(SetPaden::Van(hoofd_.Ini.DataDir(), naam))) {
+    hoofd_.gesprek.Waarschuw("Deze bestandenset is al in gebruik.");
+    return;
+  }
   HaalUitLijst(index);
   // Whoever ends the program over a list that could not be written keeps his files.
   if (!DeleteJa.Gekozen() || hoofd_.Ini.EindeGevraagd()) return;
-  if (IsSetNaam(naam)) {
-    VerwijderSetVanSchijf(hoofd_.gesprek, hoofd_.Ini.DataDir(), naam);
+  if (geldig) {
+    VerwijderBestanden(naam);
   } else {
     hoofd_.gesprek.Waarschuw(SetNaamFout(naam));
   }
+}
+
+// The safety copies stay.
+void VerwijderSetForm::VerwijderBestanden(const std::string& naam) {
+  VerwijderSetVanSchijf(hoofd_.gesprek, hoofd_.Ini.DataDir(), naam);
+  const std::filesystem::path kopieen = KopieMap(hoofd_.programmaMap, naam);
+  std::error_code code;
+  if (!std::filesystem::exists(kopieen, code)) return;
+  hoofd_.gesprek.Informeer(std::string("De veiligheidskopieën van "_w) + naam +
+                           " zijn er nog: " + PadTekst(kopieen));
 }
 
 // The entries behind it move up, so that the list has no holes.

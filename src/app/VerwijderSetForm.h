@@ -1,6 +1,8 @@
 // The dialog that takes a file set from the list and, if asked, from the disk.
 #pragma once
 
+#include <string>
+
 #include "app/Hoofdmodule.h"
 #include "app/MenuWindow.h"
 #include "forms/Formulier.h"
@@ -24,6 +26,7 @@ class VerwijderSetForm final : public Formulier {
  private:
   void OKButtonKlik();
   void Verwijder();
+  void VerwijderBestanden(const std::string& naam);
   void HaalUitLijst(int index);
 
   Hoofdmodule& hoofd_;

@@ -3,15 +3,19 @@
 #include <exception>
 
 #include "ancestors/KwstTxtPrs.h"
+#include "app/Geschiedenis.h"
 #include "app/IniFunctie.h"
 #include "app/IniGebruiker.h"
 #include "app/IniGezindte.h"
 #include "app/IniSysteem.h"
 #include "app/IniVoorkeur.h"
 #include "app/IniVoorvoeg.h"
+#include "app/KopieTerugzetten.h"
 #include "app/NieuweSet.h"
+#include "app/Ongedaan.h"
 #include "app/OpenSetForm.h"
 #include "app/OverLB77Form.h"
+#include "app/SetOpenen.h"
 #include "app/Start.h"
 #include "app/VerwijderSetForm.h"
 #include "exchange/ImpGedcom.h"
@@ -52,6 +56,10 @@ void Programma::HangOp() {
   menu_.Hang("ImportGedcom", [this, &gesprek] { gesprek.Toon<ImpGedcom>(hoofd_); });
   menu_.Hang("ViewTekst", [this, &gesprek] { gesprek.Toon<BekijkTekst>(hoofd_); });
   menu_.Hang("TekstKwst", [this, &gesprek] { gesprek.Toon<KwstTxtPrs>(hoofd_); });
+  menu_.Hang("VeiligOngedaan", [this] { MaakLaatsteOngedaan(hoofd_.MaakOpslag()); });
+  menu_.Hang("VeiligGeschiedenis", [this, &gesprek] { gesprek.Toon<Geschiedenis>(hoofd_); });
+  menu_.Hang("VeiligKopie", [this, &gesprek] { MaakVeiligheidskopie(KopieVan(hoofd_), gesprek); });
+  menu_.Hang("VeiligTerugzetten", [this, &gesprek] { gesprek.Toon<KopieTerugzetten>(hoofd_); });
   menu_.Hang("AboutLB77", [&gesprek] { gesprek.Toon<OverLB77Form>(); });
 }
 

@@ -141,7 +141,7 @@ TEST_F(Sets, ZonderEigenPlaatsenWordtHetCentraleBestandGebruikt) {
   Verwacht("", Met([](Hoofdmodule& hoofd) {
              ASSERT_TRUE(hoofd.Ini.IniLees());
              hoofd.ActieveSetNaam = "EEN";
-             OpenBestanden(hoofd);
+             OpenBestanden(hoofd, SetGebruik::Schrijven);
              EXPECT_EQ(hoofd.ActieveSetNaam, "EEN");
              EXPECT_TRUE(hoofd.Plaats.LeesAdmin());
            }),

@@ -110,7 +110,7 @@ TEST_F(Hoofdvenster, WaarNietsAanHangtIsUit) {
              EXPECT_EQ(Ingeschakeld(menu),
                        "MenuBestand ZetIni ImportData ExportData Controle Corrigeer CorrigeerAdmin "
                        "Verwijzingen VerwijzingenVervolg KeuzeAfsluiten MenuInvoer MenuUitvTekst "
-                       "MenuUitvSchema Rapport MenuHelp ");
+                       "MenuUitvSchema Rapport MenuVeiligheid MenuHelp ");
            }),
            "");
 }

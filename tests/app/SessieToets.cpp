@@ -1,9 +1,13 @@
 #include "app/SessieToets.h"
 
+#include "app/Geschiedenis.h"
 #include "app/IniGebruiker.h"
+#include "app/KopieTerugzetten.h"
 #include "app/NieuweSet.h"
+#include "app/Ongedaan.h"
 #include "app/OpenSetForm.h"
 #include "app/OverLB77Form.h"
+#include "app/SetOpenen.h"
 #include "app/Start.h"
 #include "app/VerwijderSetForm.h"
 #include "store/SetPaden.h"
@@ -51,6 +55,10 @@ SpeelToets::Programma SessieToets::Sessie() {
     menu.Hang("OpenSet", [&] { Toont<OpenSetForm>(hoofd, menu)(gesprek); });
     menu.Hang("VerwijderSet", [&] { Toont<VerwijderSetForm>(hoofd, menu)(gesprek); });
     menu.Hang("SetupGebruiker", [&] { Toont<IniGebruiker>(hoofd)(gesprek); });
+    menu.Hang("VeiligOngedaan", [&] { MaakLaatsteOngedaan(hoofd.MaakOpslag()); });
+    menu.Hang("VeiligGeschiedenis", [&] { Toont<Geschiedenis>(hoofd)(gesprek); });
+    menu.Hang("VeiligKopie", [&] { MaakVeiligheidskopie(KopieVan(hoofd), gesprek); });
+    menu.Hang("VeiligTerugzetten", [&] { Toont<KopieTerugzetten>(hoofd)(gesprek); });
     menu.Hang("AboutLB77", [&] { Toont<OverLB77Form>()(gesprek); });
     gesprek.ToonModaal(menu);
   };

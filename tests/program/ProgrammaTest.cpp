@@ -191,5 +191,28 @@ TEST_F(Programmaloop, ElkeKeuzeDieTeKiezenIsToontZijnFormulier) {
     )~");
 }
 
+TEST_F(Programmaloop, HetMenuVeiligheidToontZijnVensters) {
+  MaakFamilie();
+  Verwacht(R"(
+      kies VeiligOngedaan
+      kies VeiligGeschiedenis
+      sluit
+      kies VeiligKopie
+      kies VeiligTerugzetten
+      sluit
+    )",
+           Sessie(),
+           R"~(
+      + MenuWindow "LB77 voor Windows"
+      ! info "Er is niets ongedaan te maken"
+      + Geschiedenis "Geschiedenis van de Bestandenset"
+      - Geschiedenis
+      ! info "Veiligheidskopie gemaakt: )~" +
+               (Map() / "KOPIE" / "PROEF").string() + R"~(/2026-11-21_120000"
+      + KopieTerugzetten "Veiligheidskopie Terugzetten"
+      - KopieTerugzetten
+    )~");
+}
+
 }  // namespace
 }  // namespace lb77

@@ -1,10 +1,12 @@
 // The file sets, the settings and the program itself.
+#include "app/Geschiedenis.h"
 #include "app/IniFunctie.h"
 #include "app/IniGebruiker.h"
 #include "app/IniGezindte.h"
 #include "app/IniSysteem.h"
 #include "app/IniVoorkeur.h"
 #include "app/IniVoorvoeg.h"
+#include "app/KopieTerugzetten.h"
 #include "app/NieuweSet.h"
 #include "app/OpenSetForm.h"
 #include "app/OverLB77Form.h"
@@ -24,6 +26,8 @@ constexpr FormulierRij kRijen[] = {
     {"IniVoorkeur", [](Programma& p) { return Maak<IniVoorkeur>(p.Hoofd()); }},
     {"IniFunctie", [](Programma& p) { return Maak<IniFunctie>(p.Hoofd()); }},
     {"IniSysteem", [](Programma& p) { return Maak<IniSysteem>(p.Hoofd()); }},
+    {"Geschiedenis", [](Programma& p) { return Maak<Geschiedenis>(p.Hoofd()); }},
+    {"KopieTerugzetten", [](Programma& p) { return Maak<KopieTerugzetten>(p.Hoofd()); }},
     {"OverLB77Form", [](Programma&) { return Maak<OverLB77Form>(); }},
 };
 

@@ -8,7 +8,7 @@ namespace lb77::indeling {
 std::vector<Indeling> Alle() {
   std::vector<Indeling> uit;
   for (std::vector<Indeling> (*gebied)() :
-       {Sets, Instellen, Zoeken, Bekijken, Kwartierstaat, Uitwisseling}) {
+       {Sets, Instellen, Zoeken, Bekijken, Kwartierstaat, Uitwisseling, Veiligheid}) {
     std::vector<Indeling> deel = gebied();
     uit.insert(uit.end(), std::make_move_iterator(deel.begin()),
                std::make_move_iterator(deel.end()));

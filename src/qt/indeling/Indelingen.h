@@ -13,6 +13,7 @@ namespace lb77::indeling {
 [[nodiscard]] std::vector<Indeling> Bekijken();
 [[nodiscard]] std::vector<Indeling> Kwartierstaat();
 [[nodiscard]] std::vector<Indeling> Uitwisseling();
+[[nodiscard]] std::vector<Indeling> Veiligheid();
 
 // Those of all areas.
 [[nodiscard]] std::vector<Indeling> Alle();

@@ -1,0 +1,19 @@
+// The history of a file set and its safety copies.
+#include "qt/indeling/Indelingen.h"
+
+namespace lb77::indeling {
+
+std::vector<Indeling> Veiligheid() {
+  return {
+      {"Geschiedenis", Kolom({
+                           Velden({"HandelingLijst", "InhoudLijst"}),
+                           Knoppen({"OngedaanButton"}, {"BackButton"}),
+                       })},
+      {"KopieTerugzetten", Kolom({
+                               Velden({"KopieLijst"}),
+                               Knoppen({"OKButton", "BackButton"}),
+                           })},
+  };
+}
+
+}  // namespace lb77::indeling
