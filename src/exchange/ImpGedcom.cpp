@@ -3,17 +3,23 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
+#include <optional>
 #include <system_error>
 
 #include "app/Hoofdmodule.h"
+#include "app/Ongedaan.h"
 #include "exchange/EenmaalGesprek.h"
 #include "exchange/ImpGangen.h"
+#include "exchange/ImpTelling.h"
 #include "exchange/RegelLezer.h"
 #include "output/ToonTekst.h"
+#include "store/Handeling.h"
 #include "store/Hoofdrecords.h"
 #include "store/Paden.h"
 #include "text/Dos850.h"
 #include "text/Getallen.h"
+#include "text/Pad.h"
 #include "text/Tekens.h"
 
 namespace lb77 {
@@ -23,6 +29,13 @@ namespace {
 constexpr std::string_view kFilter =
     "GEDCOM-bestanden (*.GED)|*.GED|Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt";
 constexpr std::string_view kVoltooid = "Importeren voltooid";
+
+// Moves at each write.
+std::uint64_t Schrijfstand(const Bestandenset& bestanden) {
+  std::uint64_t stand = 0;
+  for (const BestandSoort soort : kBestandSoorten) stand += bestanden.Stand(soort);
+  return stand;
+}
 
 bool IsZelfde(const std::filesystem::path& bestand, const std::filesystem::path& ander) {
   std::error_code code;
@@ -34,8 +47,11 @@ bool IsZelfde(const std::filesystem::path& bestand, const std::filesystem::path&
 // What the passes tell, on the form and in the log.
 class ImpGedcom::Scherm final : public ImpMelder {
  public:
-  Scherm(ImpGedcom& formulier, GedLog& log)
-      : formulier_(formulier), gesprek_(formulier.hoofd_.gesprek), log_(log) {}
+  Scherm(ImpGedcom& formulier, GedLog& log, RegelLezer& lezer)
+      : formulier_(formulier), gesprek_(formulier.hoofd_.gesprek), log_(log), lezer_(lezer) {}
+
+  // The user wanted no more of it.
+  [[nodiscard]] bool Afgebroken() const { return afgebroken_; }
 
   void Log(std::string_view regel) override { log_.Regel(regel); }
   void Waarschuw(std::string_view tekst) override { gesprek_.Waarschuw(tekst); }
@@ -53,12 +69,17 @@ class ImpGedcom::Scherm final : public ImpMelder {
     formulier_.AchterNm.ZetTekst(stand.achternaam);
     formulier_.BronNm.ZetTekst(stand.bron);
     gesprek_.Ververs(formulier_);
+    if (!gesprek_.StopGevraagd(formulier_)) return;
+    afgebroken_ = true;
+    lezer_.Breek({kGeenToegang, "Afgebroken"});
   }
 
  private:
   ImpGedcom& formulier_;
   Gesprek& gesprek_;
   GedLog& log_;
+  RegelLezer& lezer_;
+  bool afgebroken_ = false;
   bool nietMeer_ = false;
 };
 
@@ -117,7 +138,7 @@ void ImpGedcom::OKButtonKlik() {
   ZetBezig(false);
   WisStop();
   for (Label* label : labels_) label->ZetZichtbaar(false);
-  if (afloop.gestopt) return;
+  if ((afloop.gestopt || afloop.afgebroken) && !afloop.systeem) return;
   if (afloop.systeem) {
     MeldFout(afloop.systeem);
   } else {
@@ -129,13 +150,32 @@ void ImpGedcom::OKButtonKlik() {
 void ImpGedcom::WisVoortgang() {
   for (Teller* teller : tellers_) teller->ZetTekst("");
   for (Vinkje* vinkje : vinkjes_) vinkje->Zet(false);
+  TellingLabel.ZetBijschrift("");
   gelukt_ = opmerkingenVol_ = false;
   gelezenPersonen_ = gelezenRelaties_ = 0;
 }
 
 ImpGedcom::Afloop ImpGedcom::Importeer() {
   // A relative path is one in the program's directory.
-  return Lees(VindPad(hoofd_.programmaMap / Bestandsnaam.Pad()));
+  return LeesAlsHandeling(VindPad(hoofd_.programmaMap / Bestandsnaam.Pad()));
+}
+
+ImpGedcom::Afloop ImpGedcom::LeesAlsHandeling(const std::filesystem::path& bestand) {
+  const std::uint64_t stand = Schrijfstand(hoofd_.bestanden);
+  Handeling handeling(hoofd_.bestanden, "GEDCOM ingelezen: " + PadTekst(bestand.filename()));
+  Afloop afloop = Lees(bestand);
+  if (SysteemFout fout = handeling.Voltooi(); fout && !afloop.systeem) afloop.systeem = fout;
+  const bool geschreven = Schrijfstand(hoofd_.bestanden) != stand;
+  if (afloop.afgebroken && geschreven && !afloop.systeem) VraagBehouden();
+  return afloop;
+}
+
+// What was read is the last action.
+void ImpGedcom::VraagBehouden() {
+  const std::shared_ptr<Journaal> journaal = hoofd_.bestanden.HetJournaal();
+  const auto laatste = journaal ? journaal->LaatsteTeOngedaan() : std::nullopt;
+  if (!laatste || hoofd_.gesprek.Vraag("Wat is ingelezen behouden ?")) return;
+  static_cast<void>(MaakOngedaan(hoofd_.MaakOpslag(), laatste->nummer));
 }
 
 ImpGedcom::Afloop ImpGedcom::Lees(const std::filesystem::path& bestand) {
@@ -146,9 +186,10 @@ ImpGedcom::Afloop ImpGedcom::Lees(const std::filesystem::path& bestand) {
   const std::filesystem::path pad = LogPad();
   // Reading from the log would empty it before a line of it was read.
   if (IsZelfde(bestand, pad)) return {.systeem = FoutInGebruik()};
+  if (!Past(lezer, personen, relaties)) return {.gestopt = true};
   GedLog log;
   if (SysteemFout fout = log.Open(pad)) return {.systeem = fout};
-  Scherm scherm(*this, log);
+  Scherm scherm(*this, log, lezer);
   // A place file that is full or damaged would say so at each of thousands of lines.
   EenmaalGesprek eenmaal(hoofd_.gesprek);
   PlaatsLB77 plaats({hoofd_.bestanden, hoofd_.volgers, eenmaal, hoofd_.schrijfwijze});
@@ -157,9 +198,25 @@ ImpGedcom::Afloop ImpGedcom::Lees(const std::filesystem::path& bestand) {
                 scherm},
                personen, relaties);
   const ImpUitslag uitslag = VoerGangen(loop, lezer);
+  if (scherm.Afgebroken()) return {.afgebroken = true};
   if (uitslag.gestopt) return {.gestopt = true};
   if (lezer.Fout()) return {.systeem = lezer.Fout()};
   return {.systeem = Rond(uitslag, loop, log)};
+}
+
+bool ImpGedcom::Past(RegelLezer& lezer, std::int16_t personen, std::int16_t relaties) {
+  const ImpTelling telling = TelImport(lezer, hoofd_.bestanden.Bestand(BestandSoort::Plaatsen));
+  if (telling.fout) {
+    hoofd_.gesprek.Fout("Fout bij het tellen van de plaatsen\n" + telling.fout.tekst);
+  }
+  lezer.Begin();
+  TellingLabel.ZetBijschrift(TellingTekst(telling));
+  hoofd_.gesprek.Ververs(*this);
+  if (personen + telling.personen <= kMaxRecords && relaties + telling.relaties <= kMaxRecords) {
+    return true;
+  }
+  hoofd_.gesprek.Fout(kMaximumBereikt);
+  return false;
 }
 
 SysteemFout ImpGedcom::Rond(const ImpUitslag& uitslag, const ImpLoop& loop, GedLog& log) {

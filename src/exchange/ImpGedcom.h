@@ -9,6 +9,7 @@
 
 #include "exchange/GedLog.h"
 #include "exchange/ImpLoop.h"
+#include "exchange/RegelLezer.h"
 #include "forms/Formulier.h"
 
 namespace lb77 {
@@ -22,6 +23,7 @@ class ImpGedcom final : public Formulier {
   Padvak Bestandsnaam{*this, "Bestandsnaam", "GEDCOM-bestand:"};
   Knop BrowseButton{*this, "BrowseButton", "&Browse"};
   Label DoelLabel{*this, "DoelLabel"};
+  Label TellingLabel{*this, "TellingLabel"};
   Label Pass1Label{*this, "Pass1Label", kBezig};
   Vinkje Pass1box{*this, "Pass1box", "Eerste analyse"};
   Label Pass2Label{*this, "Pass2Label", kBezig};
@@ -51,10 +53,11 @@ class ImpGedcom final : public Formulier {
 
  private:
   class Scherm;
-  // How an import ended: by itself, quietly because a record class has told why not, or by an error
-  // of the system.
+  // How an import ended: by itself, quietly because a record class has told why not, by the user, or
+  // by an error of the system.
   struct Afloop {
     bool gestopt = false;
+    bool afgebroken = false;
     SysteemFout systeem{};
   };
   static constexpr std::string_view kBezig = "Bezig met ... ==>";
@@ -63,7 +66,11 @@ class ImpGedcom final : public Formulier {
   void OKButtonKlik();
   void WisVoortgang();
   [[nodiscard]] Afloop Importeer();
+  [[nodiscard]] Afloop LeesAlsHandeling(const std::filesystem::path& bestand);
+  void VraagBehouden();
   [[nodiscard]] Afloop Lees(const std::filesystem::path& bestand);
+  // Shows what will be added. False, told, when the set has no room for it.
+  [[nodiscard]] bool Past(RegelLezer& lezer, std::int16_t personen, std::int16_t relaties);
   [[nodiscard]] SysteemFout Rond(const ImpUitslag& uitslag, const ImpLoop& loop, GedLog& log);
   void ToonDoel();
   void ToonGang(int nummer);

@@ -5,6 +5,7 @@
 #include <cstring>
 #include <ios>
 #include <system_error>
+#include <utility>
 
 #include "exchange/StroomFout.h"
 
@@ -95,6 +96,10 @@ void RegelLezer::ZoekLineFeed() {
 bool RegelLezer::IsAanEinde() {
   SlaLineFeedOver();
   return begin_ == eind_ && !Vul();
+}
+
+void RegelLezer::Breek(SysteemFout fout) {
+  fout_ = std::move(fout);
 }
 
 bool RegelLezer::Neem(std::size_t eind, std::size_t volgende, std::string_view& regel) {

@@ -31,6 +31,9 @@ class RegelLezer {
   // The error that ended the reading; success as long as there was none.
   [[nodiscard]] const SysteemFout& Fout() const { return fout_; }
 
+  // Ends the reading as an error of the system does.
+  void Breek(SysteemFout fout);
+
   void Sluit();
 
  private:

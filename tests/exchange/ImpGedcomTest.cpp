@@ -38,6 +38,7 @@ TEST_F(ImpGedcomTest, OpentLeegEnZonderLabelVanWerk) {
       = Bestandsnaam ""
       = BrowseButton "&Browse"
       = DoelLabel "Wordt toegevoegd aan PROEF (0 personen)"
+      = TellingLabel ""
       = Pass1Label "Bezig met ... ==>" [verborgen]
       = Pass1box uit [uit]
       = Pass2Label "Bezig met ... ==>" [verborgen]
@@ -81,6 +82,7 @@ TEST_F(ImpGedcomTest, NaAfloopStaanErDeTellingenVanDeLaatsteGang) {
                                                                              R"~("
       = BrowseButton "&Browse"
       = DoelLabel "Wordt toegevoegd aan PROEF (2 personen)"
+      = TellingLabel "Erbij komen 2 personen, 1 relatie en 0 plaatsen"
       = Pass1Label "Bezig met ... ==>" [verborgen]
       = Pass1box aan [uit]
       = Pass2Label "Bezig met ... ==>" [verborgen]

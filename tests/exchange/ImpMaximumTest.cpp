@@ -29,22 +29,29 @@ class ImpMaximum : public ImportToets {
   }
 };
 
-TEST_F(ImpMaximum, PersonenDiePassenWordenGemaaktEnDeImportStopt) {
+TEST_F(ImpMaximum, PersonenDieNietPassenWordenGeweigerdVoorErIetsGeschrevenIs) {
   Bouw().Man("Jan", "Jansen");
   Vul("PRS", 128, persoonveld::GebPlaatsNr.plaats, 32766, -1);
-  ImporteerMet(Ged("0 @I1@ INDI\n1 NAME Piet //\n0 @I2@ INDI\n0 @I3@ INDI"), kMaximum, false);
-  EXPECT_EQ(Aantallen(), "32767 1 1 1");
-  EXPECT_EQ(Persoon(2), "voor Jan; achter Jansen; seks M");
-  EXPECT_EQ(Persoon(32766), "voor Jan; achter Jansen; seks M");
-  EXPECT_EQ(Persoon(32767), "");
-  EXPECT_EQ(Log(), "");
+  const std::string voor = LeesBytes(Map() / "PROEF/PROEF.PRS");
+  ImporteerMet(Ged("0 @I1@ INDI\n1 NAME Piet //\n0 @I2@ INDI"), kMaximum, false);
+  EXPECT_EQ(LeesBytes(Map() / "PROEF/PROEF.PRS"), voor);
 }
 
-TEST_F(ImpMaximum, RelatiesDiePassenWordenGemaaktEnDeImportStopt) {
+TEST_F(ImpMaximum, DeLaatstePersoonPastNog) {
+  Bouw().Man("Jan", "Jansen");
+  Vul("PRS", 128, persoonveld::GebPlaatsNr.plaats, 32766, -1);
+  Importeer(Ged("0 @I1@ INDI\n1 NAME Piet //"));
+  EXPECT_EQ(Aantallen(), "32767 1 1 1");
+  EXPECT_EQ(Persoon(32767), "voor Piet");
+}
+
+TEST_F(ImpMaximum, RelatiesDieNietPassenWordenGeweigerdVoorErIetsGeschrevenIs) {
   Bouw().Relatie(0, 0);
   Vul("RLT", 64, relatieveld::ManNr.plaats, 32766, -1);
-  ImporteerMet(Ged("0 @F1@ FAM\n0 @F2@ FAM\n0 @F3@ FAM"), kMaximum, false);
-  EXPECT_EQ(Aantallen(), "1 32767 1 1");
+  const std::string voor = LeesBytes(Map() / "PROEF/PROEF.RLT");
+  ImporteerMet(Ged("0 @I1@ INDI\n0 @F1@ FAM\n0 @F2@ FAM"), kMaximum, false);
+  EXPECT_EQ(LeesBytes(Map() / "PROEF/PROEF.RLT"), voor);
+  EXPECT_EQ(Aantallen(), "1 32766 1 1");
 }
 
 TEST_F(ImpMaximum, EenVierdeRelatieZonderRecordLaatDeDrieStaan) {

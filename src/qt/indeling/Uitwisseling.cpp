@@ -8,6 +8,7 @@ std::vector<Indeling> Uitwisseling() {
       {"ImpGedcom", Kolom({
                         Velden({Rij({"Bestandsnaam", "BrowseButton"})}),
                         "DoelLabel",
+                        "TellingLabel",
                         Groep("Voortgang", {Velden({
                                                Rij({"Pass1Label", "Pass1box"}),
                                                Rij({"Pass2Label", "Pass2box"}),

@@ -1,0 +1,75 @@
+#include "exchange/ImpTelling.h"
+#include "exchange/ImportToets.h"
+
+namespace lb77 {
+namespace {
+
+class Telling : public ImportToets {
+ protected:
+  // What an import of these bytes would add, in words.
+  std::string Tel(std::string_view bytes) {
+    SchrijfBytes(Bestand(), bytes);
+    std::string tekst;
+    InSessie([&](Hoofdmodule& hoofd) {
+      RegelLezer lezer;
+      ASSERT_FALSE(lezer.Open(Bestand()));
+      tekst = TellingTekst(TelImport(lezer, hoofd.bestanden.Bestand(BestandSoort::Plaatsen)));
+    });
+    return tekst;
+  }
+};
+
+constexpr std::string_view kFamilie = R"(
+    0 @I1@ INDI
+    1 BIRT
+    2 PLAC Delft
+    1 CHR
+    2 PLAC DELFT
+    1 DEAT
+    2 PLAC Gouda ?
+    1 RESI
+    2 PLAC Niet geteld
+    0 @I2@ INDI
+    1 BURI
+    2 PLAC Utrecht
+    0 @F1@ FAM
+    1 MARR
+    2 PLAC Gouda
+    2 DATE 1900
+  )";
+
+TEST_F(Telling, TeltPersonenRelatiesEnPlaatsenDieErNogNietZijn) {
+  EXPECT_EQ(Tel(Ged(kFamilie)), "Erbij komen 2 personen, 1 relatie en 3 plaatsen");
+  Bouw().Plaats("Gouda");
+  EXPECT_EQ(Tel(Ged(kFamilie)), "Erbij komen 2 personen, 1 relatie en 2 plaatsen");
+}
+
+TEST_F(Telling, ZegtWatDeImportDoet) {
+  const std::string telling = Tel(Ged(kFamilie));
+  Importeer(Ged(kFamilie));
+  EXPECT_EQ(Aantallen(), "3 2 4 1");
+  EXPECT_EQ(telling, "Erbij komen 2 personen, 1 relatie en 3 plaatsen");
+  EXPECT_EQ(Tel(Ged(kFamilie)), "Erbij komen 2 personen, 1 relatie en 0 plaatsen");
+}
+
+TEST_F(Telling, EindigtBijTRLREnBijEenRegelDieGeenGedcomIs) {
+  EXPECT_EQ(Tel("0 HEAD\n0 @I1@ INDI\n0 TRLR\n0 @I2@ INDI\n"),
+            "Erbij komen 1 persoon, 0 relaties en 0 plaatsen");
+  EXPECT_EQ(Tel("0 HEAD\n0 @I1@ INDI\nBeste Jan,\n0 @I2@ INDI\n"),
+            "Erbij komen 1 persoon, 0 relaties en 0 plaatsen");
+}
+
+TEST_F(Telling, LeestPlaatsenInDeTekensetVanHetBestand) {
+  Bouw().Plaats("K\xF6ln");
+  EXPECT_EQ(Tel(GedIn("ANSEL", "0 @I1@ INDI\n1 BIRT\n2 PLAC K\xE8oln")),
+            "Erbij komen 1 persoon, 0 relaties en 0 plaatsen");
+}
+
+TEST_F(Telling, TeltEenPlaatsZoalsHijWordtOpgeslagen) {
+  EXPECT_EQ(Tel(Ged("0 @I1@ INDI\n1 BIRT\n2 PLAC Een plaats met een lange naam A\n1 DEAT\n"
+                    "2 PLAC Een plaats met een lange naam B")),
+            "Erbij komen 1 persoon, 0 relaties en 1 plaats");
+}
+
+}  // namespace
+}  // namespace lb77
