@@ -39,10 +39,13 @@ int Importeer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
     // Behind a file that could not be opened the viewer has the log of another import.
     if (toon && import && import->Pass3box.Gekozen()) DrukUit(toon->UitvoerPad(), omgeving.uit);
   });
-  return sessie.Voer(argumenten.woorden[0], Omgang::Schrijven, [&](Werk& menu) {
-    menu.Kies("ImportGedcom");
-    if (!gelukt) sessie.bediener.Mislukt(reden);
-  });
+  return sessie.Voer(
+      argumenten.woorden[0], Omgang::Schrijven,
+      [&](Werk& menu) {
+        menu.Kies("ImportGedcom");
+        if (!gelukt) sessie.bediener.Mislukt(reden);
+      },
+      argumenten.toch);
 }
 
 }  // namespace lb77

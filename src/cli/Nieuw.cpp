@@ -12,6 +12,8 @@ constexpr std::size_t kSetNaam = 8;
 
 int Nieuw(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
   Sessie sessie(omgeving, Instelling::VoorLater);
+  // The set that was used last opens too, and is none of its business.
+  sessie.Menu().ZetGebruik(SetGebruik::Lezen);
   bool gemaakt = false;
   if (argumenten.woorden[0].size() > kSetNaam) {
     sessie.bediener.Mislukt("De naam van een bestandenset heeft hoogstens 8 tekens");

@@ -8,6 +8,12 @@ int Nieuw(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Importeer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Kwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Zoek(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+// In Veiligheid.cpp.
+int ToonGeschiedenis(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int MaakOngedaan(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Herstel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Kopie(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Terugzetten(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 
 namespace {
 
@@ -15,9 +21,14 @@ namespace {
 constexpr Opdracht kOpdrachten[] = {
     {"sets", "toont de bestandensets", {}, Extra::Geen, Sets},
     {"nieuw", "maakt een bestandenset", {"SET", "[OMSCHRIJVING]"}, Extra::Geen, Nieuw, true},
-    {"importeer", "leest een GEDCOM-bestand in", {"SET"}, Extra::Bestand, Importeer},
+    {"importeer", "leest een GEDCOM-bestand in", {"SET"}, Extra::Bestand, Importeer, false, true},
     {"kwartierstaat", "schrijft de Kwartierstaat van een persoon", {"SET", "PERSOON"}, Extra::Rapport, Kwartierstaat},
     {"zoek", "zoekt personen op een deel van hun naam", {"SET", "NAAM"}, Extra::Geen, Zoek},
+    {"geschiedenis", "toont de bewerkingen van een set", {"SET"}, Extra::Geen, ToonGeschiedenis},
+    {"ongedaan", "maakt de laatste bewerking ongedaan, of alle t/m nummer N", {"SET", "[N]"}, Extra::Geen, MaakOngedaan, false, true},
+    {"herstel", "maakt een niet voltooide bewerking ongedaan", {"SET"}, Extra::Behoud, Herstel, false, true},
+    {"kopie", "maakt een veiligheidskopie", {"SET"}, Extra::Geen, Kopie},
+    {"terugzetten", "zet een veiligheidskopie terug; zonder KOPIE: toont ze", {"SET", "[KOPIE]"}, Extra::Geen, Terugzetten, false, true},
 };
 // clang-format on
 

@@ -36,10 +36,12 @@ struct OpdrachtArgumenten {
   std::optional<std::filesystem::path> naar;  // --uit
   std::vector<std::string> zet;               // NAAM=WAARDE
   bool bewaar = false;                        // --bewaar: the choices hold for later runs too
+  bool toch = false;                          // --toch: also when another run has the set
+  bool behoud = false;                        // --behoud, of `herstel`
 };
 
 // What a command accepts beside its words.
-enum class Extra { Geen, Bestand, Rapport };
+enum class Extra { Geen, Bestand, Rapport, Behoud };
 
 // Gives the exit status: 0, or 1 after an error.
 using OpdrachtFunctie = int(const Omgeving&, const OpdrachtArgumenten&);
@@ -52,6 +54,7 @@ struct Opdracht {
   Extra extra;
   OpdrachtFunctie* doe;
   bool maaktMap = false;  // the program's directory need not be there
+  bool schrijft = false;  // takes a set that is there for itself
 };
 
 // All commands but `speel`, in the order of the help.

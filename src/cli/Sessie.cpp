@@ -6,6 +6,8 @@
 
 #include "app/Bestandensets.h"
 #include "app/IniBestand.h"
+#include "app/SetOpenen.h"
+#include "store/Bestandenset.h"
 #include "store/Paden.h"
 #include "store/SetPaden.h"
 #include "text/Pad.h"
@@ -35,12 +37,10 @@ bool Sessie::Start() {
   return programma_.Start();
 }
 
-// The main window opens the set that the settings name.
-bool Sessie::KiesSet(std::string_view naam, Omgang omgang) {
+bool Sessie::Kent(std::string_view naam, Omgang omgang) {
   const std::string set = Hoofdletters(naam);
   IniClass& ini = Hoofd().Ini;
-  const int index = ini.BestandenSetIndex(set);
-  if (index == 0) {
+  if (ini.BestandenSetIndex(set) == 0) {
     bediener.Mislukt("Bestandenset " + set + " staat niet in de lijst");
     return false;
   }
@@ -54,9 +54,40 @@ bool Sessie::KiesSet(std::string_view naam, Omgang omgang) {
       return false;
     }
   }
-  ini.IniZet("Systeem", "Set", set);
-  ini.IniZet("Systeem", "SetOms", ini.BestandenSetOms(index));
   return true;
+}
+
+// Nobody is there to be asked when it opens.
+bool Sessie::IsVrij(const std::string& set, Omgang omgang, bool toch) {
+  if (!IsSetNaam(set)) return true;
+  Bestandenset bestanden;
+  bestanden.ZetJournaal({.tijd = [] { return std::string(); }, .bijVreemd = {}, .map = {}});
+  // What does not open is told by the window.
+  if (bestanden.OpenSet(SetPaden::Van(Hoofd().Ini.DataDir(), set))) return true;
+  const auto onvoltooid = bestanden.HetJournaal()->Onvoltooid();
+  if (omgang == Omgang::Lezen && !onvoltooid) return true;
+  const bool bezet = !bestanden.NeemInGebruik();
+  if (bezet && !(toch && omgang == Omgang::Schrijven)) {
+    bediener.Mislukt("Bestandenset " + set + " is al in gebruik" +
+                     (omgang == Omgang::Schrijven ? "; met --toch opent hij toch" : ""));
+    return false;
+  }
+  if (onvoltooid) {
+    bediener.Mislukt(OnvoltooidTekst(*onvoltooid) + "\nlb77-cli herstel " + set +
+                     " maakt haar ongedaan, lb77-cli herstel " + set +
+                     " --behoud laat staan wat er staat");
+    return false;
+  }
+  if (bezet) bediener.HoudKlaar({}, Antwoord::Ja);
+  return true;
+}
+
+// The main window opens the set that the settings name.
+void Sessie::KiesSet(const std::string& set, Omgang omgang) {
+  IniClass& ini = Hoofd().Ini;
+  ini.IniZet("Systeem", "Set", set);
+  ini.IniZet("Systeem", "SetOms", ini.BestandenSetOms(ini.BestandenSetIndex(set)));
+  if (omgang == Omgang::Lezen) Menu().ZetGebruik(SetGebruik::Lezen);
 }
 
 int Sessie::InVenster(const InMenu& inMenu) {
@@ -75,9 +106,11 @@ int Sessie::InVenster(const InMenu& inMenu) {
   return bediener.Status();
 }
 
-int Sessie::Voer(std::string_view set, Omgang omgang, const InMenu& inMenu) {
+int Sessie::Voer(std::string_view naam, Omgang omgang, const InMenu& inMenu, bool toch) {
   if (!Start()) return 1;
-  if (!KiesSet(set, omgang)) return bediener.Status();
+  const std::string set = Hoofdletters(naam);
+  if (!Kent(set, omgang) || !IsVrij(set, omgang, toch)) return bediener.Status();
+  KiesSet(set, omgang);
   return InVenster([this, &inMenu](Werk& menu) {
     // Why the set could not be opened has been told.
     if (Hoofd().SetActief()) {

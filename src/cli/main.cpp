@@ -36,6 +36,8 @@ struct Regel {
   bool html = false;
   bool bewaar = false;
   bool echo = false;
+  bool toch = false;
+  bool behoud = false;
 };
 
 // A file or directory of the command line that cannot be used.
@@ -61,6 +63,12 @@ void VoegWoordenToe(CLI::App& sub, const Opdracht& opdracht, Regel& regel) {
   if (opdracht.extra == Extra::Bestand) {
     sub.add_option("BESTAND", regel.bestand, "het GEDCOM-bestand")->required();
   }
+  if (opdracht.schrijft) {
+    sub.add_flag("--toch", regel.toch, "ook als de bestandenset al in gebruik is");
+  }
+  if (opdracht.extra == Extra::Behoud) {
+    sub.add_flag("--behoud", regel.behoud, "laat staan wat er staat");
+  }
   if (opdracht.extra == Extra::Rapport) {
     sub.add_flag("--html", regel.html, "schrijf HTML");
     sub.add_option("--uit", regel.naar, "schrijf naar dit bestand")->type_name("BESTAND");
@@ -85,6 +93,8 @@ OpdrachtArgumenten Argumenten(const Regel& regel) {
   }
   argumenten.html = regel.html;
   argumenten.bewaar = regel.bewaar;
+  argumenten.toch = regel.toch;
+  argumenten.behoud = regel.behoud;
   if (!regel.naar.empty()) argumenten.naar = PadVanUtf8(regel.naar);
   return argumenten;
 }
