@@ -38,6 +38,7 @@ TEST_F(GeschiedenisVenster, ToontWatElkeBewerkingWijzigde) {
              #3 "    Voornaam: \"\" werd \"Jan\""
              #4 "    Geslacht: \"\" werd \"M\""
              - Geschiedenis)~");
+  NoteerGetoond(verslag_);
 }
 
 TEST_F(GeschiedenisVenster, MaaktOngedaanTotEnMetDeGekozene) {
@@ -58,6 +59,7 @@ TEST_F(GeschiedenisVenster, MaaktOngedaanTotEnMetDeGekozene) {
              ! uitroep "Deze bewerking is al ongedaan gemaakt"
              ? vraag Ja/Nee "De bewerking \"Ongedaan: Persoon toegevoegd\" (2026-01-02 03:04:05) ongedaan maken ?" -> Ja
              - Geschiedenis)~");
+  NoteerGetoond(verslag_);
   EXPECT_EQ(Voornaam(), "Piet");
 }
 
@@ -99,6 +101,7 @@ TEST(HandelingInWoorden, EenBeschadigdeZegtHet) {
   regel.label = "Import";
   regel.gaaf = false;
   EXPECT_EQ(HandelingTekst(regel), "2026-01-02 03:04:05  Import (beschadigd)");
+  NoteerGetoond(HandelingTekst(regel));
 }
 
 TEST(HandelingInWoorden, WatWegIsOfNietMeerNaTeGaanStaatErbij) {

@@ -17,6 +17,8 @@ class SetOpenen : public VeiligToets {
                  MetMap(verslag) + "\n- OpenSetForm\n= Statusbalk \"Actieve bestandenset: " +
                  std::string(actief) + "\"\n- MenuWindow");
   }
+  // The user answers the question about TWEE, and the journal can't be changed.
+  void OpentZonderRechten(const std::string& antwoord, const std::string& melding);
   [[nodiscard]] std::size_t Personen() const { return Inhoud("DATA/TWEE/TWEE.PRS").size() / 128; }
 };
 
@@ -27,6 +29,25 @@ constexpr std::string_view kBezet =
 constexpr std::string_view kVraag =
     "? vraag Ja/Nee \"De vorige bewerking (Persoon toegevoegd, 2026-01-01 10:00:00) is niet "
     "voltooid.\\nOngedaan maken ?\" -> ";
+
+void SetOpenen::OpentZonderRechten(const std::string& antwoord, const std::string& melding) {
+  LaatOnvoltooid("TWEE");
+  for (const char* naam : {"TWEE.PRS", "TWEE.RLT", "TWEE.OPM", "TWEE.PLT"}) {
+    std::filesystem::permissions(map_ / "DATA/TWEE" / naam, std::filesystem::perms(0666));
+  }
+  {
+    const ZonderRechten rechten(map_ / "DATA/TWEE/JOURNAAL");
+    Verwacht("antwoord " + antwoord, MetMenu([](Hoofdmodule& hoofd, MenuWindow&) {
+               hoofd.ActieveSetNaam = "TWEE";
+               OpenBestanden(hoofd, SetGebruik::Schrijven);
+               EXPECT_FALSE(hoofd.SetActief());
+               EXPECT_FALSE(hoofd.bestanden.IsOpen(BestandSoort::Personen));
+             }),
+             std::string(kVraag) + antwoord + "\n! stop \"" + melding + "\\nGeen toegang\"");
+  }
+  // Whoever may write nothing could not write down what appeared either.
+  NoteerGetoond(melding + "\nGeen toegang");
+}
 
 TEST_F(SetOpenen, WatNietVoltooidIsWordtMetJaOngedaanGemaakt) {
   LaatOnvoltooid("TWEE");
@@ -44,33 +65,11 @@ TEST_F(SetOpenen, WatNietVoltooidIsBlijftMetNeeStaan) {
 }
 
 TEST_F(SetOpenen, EenMislukteOplossingLaatGeenSetActief) {
-  LaatOnvoltooid("TWEE");
-  const auto opent = [](Hoofdmodule& hoofd, MenuWindow&) {
-    hoofd.ActieveSetNaam = "TWEE";
-    OpenBestanden(hoofd, SetGebruik::Schrijven);
-    EXPECT_FALSE(hoofd.SetActief());
-    EXPECT_FALSE(hoofd.bestanden.IsOpen(BestandSoort::Personen));
-  };
-  for (const char* naam : {"TWEE.PRS", "TWEE.RLT", "TWEE.OPM", "TWEE.PLT"}) {
-    std::filesystem::permissions(map_ / "DATA/TWEE" / naam, std::filesystem::perms(0666));
-  }
-  const ZonderRechten rechten(map_ / "DATA/TWEE/JOURNAAL");
-  Verwacht("antwoord Ja", MetMenu(opent),
-           std::string(kVraag) + "Ja\n! stop \"Ongedaan maken is niet gelukt\\nGeen toegang\"");
+  OpentZonderRechten("Ja", "Ongedaan maken is niet gelukt");
 }
 
 TEST_F(SetOpenen, EenMislukteBewaringLaatGeenSetActief) {
-  LaatOnvoltooid("TWEE");
-  for (const char* naam : {"TWEE.PRS", "TWEE.RLT", "TWEE.OPM", "TWEE.PLT"}) {
-    std::filesystem::permissions(map_ / "DATA/TWEE" / naam, std::filesystem::perms(0666));
-  }
-  const ZonderRechten rechten(map_ / "DATA/TWEE/JOURNAAL");
-  Verwacht("antwoord Nee", MetMenu([](Hoofdmodule& hoofd, MenuWindow&) {
-             hoofd.ActieveSetNaam = "TWEE";
-             OpenBestanden(hoofd, SetGebruik::Schrijven);
-             EXPECT_FALSE(hoofd.SetActief());
-           }),
-           std::string(kVraag) + "Nee\n! stop \"Behouden is niet gelukt\\nGeen toegang\"");
+  OpentZonderRechten("Nee", "Behouden is niet gelukt");
 }
 
 TEST_F(SetOpenen, OokEenOvergenomenSetVraagt) {

@@ -84,6 +84,7 @@ TEST_F(Kopieen, DeLijstTelt) {
              #1 "2020-01-01 00:00:00  niet te openen"
              ! uitroep "Geen veiligheidskopie gekozen"
              - KopieTerugzetten)~");
+  NoteerGetoond(verslag_);
 }
 
 TEST_F(Kopieen, TerugzettenIsEenBewerkingDieOngedaanKan) {
