@@ -1,0 +1,33 @@
+#include "entry/HuwRegels.h"
+
+#include <cstddef>
+
+#include "forms/Gesprek.h"
+#include "store/PersoonLB77.h"
+#include "store/RelatieLB77.h"
+#include "text/Getallen.h"
+
+namespace lb77 {
+
+std::vector<HuwRegel> LeesHuwRegels(PersoonLB77& persoon, RelatieLB77& relatie, Gesprek& gesprek,
+                                    std::int16_t persoonNr) {
+  if (!persoon.Lees(persoonNr)) return {};
+  const bool isMan = persoon.Geslacht() == "M";
+  const std::int32_t vervolg = -std::int32_t{persoon.relatie3()};
+  Huwtab tab{};
+  if (!persoon.VulHuwtab(persoonNr, tab).heel) {
+    gesprek.Fout("Leesfout bij persoonsrecord " + GetalTekst(vervolg));
+  }
+  std::vector<HuwRegel> regels;
+  for (std::size_t i = 1; i < tab.size() && tab[i] > 0; ++i) {
+    HuwRegel regel;
+    regel.relatie = tab[i];
+    if (relatie.Lees(tab[i])) regel.partner = isMan ? relatie.VrouwNr() : relatie.ManNr();
+    persoon.HeleNaam(regel.partner, regel.voornaam, regel.achternaam, "<onbekend>");
+    if (regel.partner == 0) regel.achternaam = "<onbekend>";
+    regels.push_back(regel);
+  }
+  return regels;
+}
+
+}  // namespace lb77
