@@ -114,6 +114,19 @@ bool Koppelingen::SchrijfHuwtab(std::int16_t persoon, Huwtab& tab) {
   return gelukt;
 }
 
+bool Koppelingen::VoegRelatieToe(std::int16_t persoon, std::int16_t relatie) {
+  Huwtab tab{};
+  if (!persoon_.VulHuwtab(persoon, tab).heel) return MeldOnleesbaar<HuwLijst>(gesprek_, persoon);
+  return WijzigHuwtab(relatie, tab, TabelActie::Voeg) && SchrijfHuwtab(persoon, tab);
+}
+
+bool Koppelingen::HaalRelatieUit(std::int16_t persoon, std::int16_t relatie) {
+  Huwtab tab{};
+  const TabUitslag uitslag = persoon_.VulHuwtab(persoon, tab);
+  if (!uitslag.heel || uitslag.aantal == 0) return false;
+  return !WijzigHuwtab(relatie, tab, TabelActie::Verwijder) || SchrijfHuwtab(persoon, tab);
+}
+
 // The children without gaps, so that none stands behind one and is lost.
 bool Koppelingen::VulVerdicht(std::int16_t relatie, Kindtab& tab) {
   if (!relatie_.VulKindtab(relatie, tab).heel) return MeldOnleesbaar<KindLijst>(gesprek_, relatie);

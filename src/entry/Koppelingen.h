@@ -26,6 +26,12 @@ class Koppelingen {
   // The same for the relations of a person, from the fourth on. HuidigPersoonNr is `persoon`.
   [[nodiscard]] bool SchrijfHuwtab(std::int16_t persoon, Huwtab& tab);
 
+  // Puts a relation into the first free place of a person's list. False when the list is full, can't
+  // be read whole, or can't be written.
+  [[nodiscard]] bool VoegRelatieToe(std::int16_t persoon, std::int16_t relatie);
+  // Takes a relation out of a person's list; one that is not in it is no failure, an empty list is.
+  [[nodiscard]] bool HaalRelatieUit(std::int16_t persoon, std::int16_t relatie);
+
   // Takes a child out of the list of relation `oud` and puts it behind that of `nieuw`; 0 is none.
   // A removal stays when the addition fails. The messages are shown here.
   [[nodiscard]] bool VerplaatsKind(std::int16_t kind, std::int16_t oud, std::int16_t nieuw);

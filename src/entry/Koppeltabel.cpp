@@ -15,13 +15,12 @@ void Ontdubbel(Plaatsen plaatsen) {
 }
 
 void Verdicht(Plaatsen plaatsen) {
-  std::stable_partition(plaatsen.begin(), plaatsen.end(),
-                        [](std::int16_t nr) { return nr != 0; });
+  std::stable_partition(plaatsen.begin(), plaatsen.end(), [](std::int16_t nr) { return nr != 0; });
 }
 
 std::int16_t AantalBezet(Plaatsen plaatsen) {
-  return static_cast<std::int16_t>(
-      std::find(plaatsen.begin(), plaatsen.end(), std::int16_t{0}) - plaatsen.begin());
+  return static_cast<std::int16_t>(std::find(plaatsen.begin(), plaatsen.end(), std::int16_t{0}) -
+                                   plaatsen.begin());
 }
 
 std::int16_t PlaatsVan(Plaatsen plaatsen, std::int16_t nr) {

@@ -94,10 +94,18 @@ bool Formulier::VerlaatVeld() {
   return true;
 }
 
+bool Formulier::VerlaatVoor(Bediening& doel) {
+  Bediening* const eerder = doel_;
+  doel_ = &doel;
+  const bool verlaten = VerlaatVeld();
+  doel_ = eerder;
+  return verlaten;
+}
+
 bool Formulier::GaNaar(Bediening& bediening) {
   if (Verstoord(bediening) || !Bereikbaar(bediening)) return false;
   if (focus_ == &bediening) return true;
-  if (!VerlaatVeld() || gesloten_) return false;
+  if (!VerlaatVoor(bediening) || gesloten_) return false;
   if (focus_) return focus_ == &bediening;  // the form's own move wins
   if (!Bereikbaar(bediening)) return false;
   Betreed(bediening);
@@ -116,7 +124,7 @@ bool Formulier::Pak(Bediening& bediening) {
   if (Verstoord(bediening) || !bediening.Bruikbaar()) return false;
   if (IsTerug(bediening) || bediening.Soort() == BedieningSoort::MenuKeuze) return true;
   if (focus_ == &bediening) return true;
-  if (!VerlaatVeld() || gesloten_ || !bediening.Bruikbaar()) return false;
+  if (!VerlaatVoor(bediening) || gesloten_ || !bediening.Bruikbaar()) return false;
   if (bediening.KanFocus()) Betreed(bediening);
   return !gesloten_;
 }

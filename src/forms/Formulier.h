@@ -117,6 +117,8 @@ class Formulier {
   void ZetFocus(Bediening& bediening);
   void ZetBezig(bool bezig) { bezig_ = bezig; }
   void WisStop() { stop_ = false; }
+  // Where the user is going, while a leave check runs because he goes there; else null.
+  [[nodiscard]] Bediening* Doel() const { return doel_; }
   // Runs what BackButton or CancelButton does, without a leave check.
   void Terug();
   // Runs the control's leave check without leaving it. True when it holds, when there is none, and
@@ -128,6 +130,7 @@ class Formulier {
   [[nodiscard]] static bool Bereikbaar(const Bediening& bediening);
   [[nodiscard]] bool Verstoord(const Bediening& bediening);
   [[nodiscard]] bool Pak(Bediening& bediening);
+  [[nodiscard]] bool VerlaatVoor(Bediening& doel);
   void Betreed(Bediening& bediening);
   void BetreedEerste();
   void ToetsIn(Bediening& bediening, ToetsGebeurtenis& toets) const;
@@ -147,6 +150,7 @@ class Formulier {
   std::vector<Bediening*> bedieningen_;
   Bediening* eersteVeld_ = nullptr;
   Bediening* focus_ = nullptr;
+  Bediening* doel_ = nullptr;
   std::optional<Plek> positie_;
   bool gesloten_ = false;
   bool verborgen_ = false;

@@ -8,8 +8,9 @@ using SchrijfHuwtabToets = KoppelingenToets;
 using VerplaatsKindToets = KoppelingenToets;
 using R = std::vector<std::string>;
 
-constexpr std::string_view kKort = "! stop \"De lijst van kinderen van relatie 2 kan niet "
-                                   "helemaal worden gelezen.\\nDe lijst is niet gewijzigd.\"";
+constexpr std::string_view kKort =
+    "! stop \"De lijst van kinderen van relatie 2 kan niet "
+    "helemaal worden gelezen.\\nDe lijst is niet gewijzigd.\"";
 
 TEST_F(SchrijfKindtabToets, DubbelenEnGatenVerdwijnen) {
   RelatieMet(0);
@@ -125,6 +126,49 @@ TEST_F(SchrijfHuwtabToets, ZonderLeesbaarVervolgBlijftDeLijst) {
   EXPECT_EQ(Boxen(), R{"! stop \"De lijst van relaties van persoon 2 kan niet helemaal worden "
                        "gelezen.\\nDe lijst is niet gewijzigd.\""});
   EXPECT_EQ(Huwelijken().front(), "2: 2 3 -77");
+}
+
+TEST_F(SchrijfHuwtabToets, EenRelatieGaatNaarDeEersteVrijePlaats) {
+  Personen(1);
+  GeefRelaties(2, 2);
+  EXPECT_TRUE(Werk().VoegRelatieToe(2, 9));
+  EXPECT_EQ(Huwelijken(), (R{"2: 2 3 9"}));
+  EXPECT_TRUE(Werk().VoegRelatieToe(2, 10));
+  EXPECT_TRUE(Werk().VoegRelatieToe(2, 11));
+  EXPECT_FALSE(Werk().VoegRelatieToe(2, 12));
+  EXPECT_EQ(Huwelijken(), (R{"2: 2 3 -3", "3 Z: 9 10 11"}));
+  EXPECT_EQ(Boxen(), R{});
+}
+
+TEST_F(SchrijfHuwtabToets, EenRelatieGaatUitDeLijst) {
+  Personen(2);
+  GeefRelaties(2, 3);
+  EXPECT_TRUE(Werk().HaalRelatieUit(2, 3));
+  EXPECT_EQ(Huwelijken(), (R{"2: 2 4"}));
+  EXPECT_TRUE(Werk().HaalRelatieUit(2, 99));
+  EXPECT_FALSE(Werk().HaalRelatieUit(3, 2));
+  EXPECT_FALSE(Werk().HaalRelatieUit(9, 2));
+  EXPECT_EQ(Huwelijken(), (R{"2: 2 4"}));
+  EXPECT_EQ(Boxen(), R{});
+}
+
+TEST_F(SchrijfHuwtabToets, EenLijstDieNietHeelTeLezenIsBlijft) {
+  Personen(1);
+  GeefRelaties(2, 4);
+  set_.bouw.WijzigPersoon(2, {{"Relatie3", "-77"}});
+  EXPECT_FALSE(Werk().VoegRelatieToe(2, 9));
+  EXPECT_EQ(Boxen().size(), 1U);
+  EXPECT_FALSE(Werk().HaalRelatieUit(2, 2));
+  EXPECT_EQ(Huwelijken(), (R{"2: 2 3 -77", "3 Z: 4 5"}));
+}
+
+TEST_F(SchrijfHuwtabToets, EenPersoonDieZichzelfAlsVervolgNoemtBlijft) {
+  Personen(1);
+  set_.bouw.WijzigPersoon(2, {{"Relatie1", "5"}, {"Relatie3", "-2"}});
+  Huwtab tab{0, 5};
+  EXPECT_FALSE(Werk().SchrijfHuwtab(2, tab));
+  EXPECT_EQ(Boxen().size(), 1U);
+  EXPECT_EQ(Huwelijken(), (R{"2: 5 0 -2"}));
 }
 
 TEST_F(VerplaatsKindToets, VanDeEneNaarDeAndere) {

@@ -1,9 +1,8 @@
-#include "entry/Koppeltabel.h"
-
 #include <gtest/gtest.h>
 
 #include <vector>
 
+#include "entry/Koppeltabel.h"
 #include "steun/ProefSet.h"
 
 namespace lb77 {
@@ -30,9 +29,12 @@ TEST(Koppeltabel, VerdichtenVerliestOokEenNegatiefNummerNiet) {
 }
 
 TEST(Koppeltabel, TeltTotHetEersteGat) {
-  EXPECT_EQ(AantalBezet(Nummers{4, 5, 0, 6}), 2);
-  EXPECT_EQ(AantalBezet(Nummers{4, 5}), 2);
-  EXPECT_EQ(AantalBezet(Nummers{}), 0);
+  Nummers metGat{4, 5, 0, 6};
+  Nummers vol{4, 5};
+  Nummers leeg;
+  EXPECT_EQ(AantalBezet(metGat), 2);
+  EXPECT_EQ(AantalBezet(vol), 2);
+  EXPECT_EQ(AantalBezet(leeg), 0);
 }
 
 TEST(Koppeltabel, EenPlaatsTeltVanafEen) {
