@@ -31,6 +31,9 @@ class SpeelToets : public ::testing::Test {
   void VerwachtFout(std::string_view draaiboek, const Programma& programma, std::string_view reden,
                     const Plek& plek = Plek::current());
 
+  // The lines of a raw literal without the blanks around them, each ended by a line feed.
+  [[nodiscard]] static std::string Regels(std::string_view tekst);
+
   // Relative paths of `bestand` are resolved against it.
   std::filesystem::path basismap_;
   bool echo_ = false;  // instructions stand in the transcript
@@ -45,9 +48,6 @@ std::function<void(Gesprek&)> Toont(Args&... args) {
     gesprek.ToonModaal(formulier);
   };
 }
-
-// The lines of a raw literal without the blanks around them, each ended by a line feed.
-[[nodiscard]] std::string Regels(std::string_view tekst);
 
 // Adds texts that appeared, in UTF-8, to getoond.txt; the script player's hook does so by itself.
 void NoteerGetoond(std::string_view utf8);
