@@ -14,6 +14,7 @@ CorrectieVak::CorrectieVak(InvoerFormulier& formulier, std::string_view naam,
 
 // The text of a function key has passed no filter.
 bool CorrectieVak::OpVerlaten() {
+  if (Tekst() == begin_) return true;
   const std::string code = Hoofdletters(Trim(Tekst()));
   ZetTekst(code);
   if (code.empty() || std::string_view("CVNT").find(code) != std::string_view::npos) return true;

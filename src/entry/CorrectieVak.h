@@ -1,13 +1,15 @@
 // The field of a correction code.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "entry/InvoerVak.h"
 
 namespace lb77 {
 
-// One letter, or nothing.
+// One letter, or nothing. What stood there when the user came is not judged: a record may hold
+// anything.
 class CorrectieVak : public InvoerVak {
  public:
   explicit CorrectieVak(InvoerFormulier& formulier, std::string_view naam,
@@ -17,7 +19,11 @@ class CorrectieVak : public InvoerVak {
   [[nodiscard]] bool IsTussen() const { return Tekst() == "T"; }
 
  protected:
+  void OpBetreden() override { begin_ = Tekst(); }
   [[nodiscard]] bool OpVerlaten() override;
+
+ private:
+  std::string begin_;
 };
 
 }  // namespace lb77

@@ -29,11 +29,13 @@ void DatumVak::OpBetreden() {
   if (IsLeeg()) ZetTekst("");
 }
 
+// A damaged date in the entry form would be another date, which nobody has typed; and nobody shall
+// have to make one up to get away.
 bool DatumVak::OpVerlaten() {
+  if (!IsLeeg() && Tekst() == getoond_) return true;
   const DatumOordeel oordeel = DatumGeldig(Tekst(), Hoofd().schrijfwijze.DatumScheider);
   for (const std::string_view melding : oordeel.meldingen) Hoofd().gesprek.Waarschuw(melding);
-  // A damaged date in the entry form would be another date, which nobody has typed.
-  if (Tekst() != getoond_) ZetTekst(oordeel.tekst);
+  ZetTekst(oordeel.tekst);
   return oordeel.geldig;
 }
 

@@ -1,14 +1,19 @@
 #include "entry/WijzigPersoon.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <utility>
+#include <vector>
+
 #include "entry/HuwRegels.h"
-#include "entry/Invoer.h"
 #include "entry/Koppelingen.h"
-#include "entry/OpmTekst.h"
+#include "entry/NietVeilig.h"
+#include "entry/PersoonInvoer.h"
 #include "entry/VolgersBewaker.h"
-#include "entry/ZoekPersoon.h"
+#include "store/Codes.h"
 #include "store/Handeling.h"
 #include "store/PersoonVelden.h"
-#include "text/Datum.h"
+#include "store/Rubrieken.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"
 
@@ -16,11 +21,7 @@ namespace lb77 {
 
 namespace {
 
-constexpr std::string_view kTussen = "T";
-constexpr std::string_view kMannelijk = "M";
-
-// What tells one parent from the other.
-constexpr PersoonVakSoort kOuderSoort{};
+constexpr std::string_view kGeslachten = "OMV";
 
 Koppelingen Koppel(Hoofdmodule& hoofd) {
   return {hoofd.Persoon, hoofd.Relatie, hoofd.volgers, hoofd.gesprek};
@@ -28,32 +29,28 @@ Koppelingen Koppel(Hoofdmodule& hoofd) {
 
 }  // namespace
 
-struct WijzigPersoon::Ouder {
-  PersoonVak& vak;
-  std::string_view geslacht;
-  std::string_view naam;  // in messages
-  std::int16_t inRelatie;
-};
+PartnerRij::PartnerRij(Formulier& formulier, int nummer)
+    : LabelP(formulier, Genummerd("LabelP", nummer), "Partner " + GetalTekst(nummer)),
+      RelNrP(formulier, Genummerd("RelNrP", nummer)),
+      RecordNrP(formulier, Genummerd("RecordNrP", nummer)),
+      VoorNmP(formulier, Genummerd("VoorNmP", nummer)),
+      AchterNmP(formulier, Genummerd("AchterNmP", nummer)) {}
 
-WijzigPersoon::Ouder WijzigPersoon::Vader() {
-  return {Pa, "M", "Vader", Hoofd().Relatie.ManNr()};
-}
-
-WijzigPersoon::Ouder WijzigPersoon::Moeder() {
-  return {Ma, "V", "Moeder", Hoofd().Relatie.VrouwNr()};
+void PartnerRij::ZetZichtbaar(bool zichtbaar) {
+  LabelP.ZetZichtbaar(zichtbaar);
+  for (Teller* deel : {&RelNrP, &RecordNrP, &VoorNmP, &AchterNmP}) deel->ZetZichtbaar(zichtbaar);
 }
 
 WijzigPersoon::WijzigPersoon(Hoofdmodule& hoofd)
-    : InvoerFormulier("WijzigPersoon", "Wijzig Persoon", hoofd),
-      RelNrOuders(*this, "RelNrOuders", "Relatie ouders:", BestandSoort::Relaties,
-                  Vervolgtest::GeenVervolg),
-      Pa(*this, "Pa", kOuderSoort),
-      Ma(*this, "Ma", kOuderSoort) {
-  ZetHulpOnderwerp("personen");
+    : InvoerFormulier("WijzigPersoon", "Wijzig Persoon", hoofd) {
   ZetEersteVeld(Geslacht);
+  ZetLeesnamen();
   BindVelden();
   Geslacht.ZetFilter(InHoofdletters);
-  Geslacht.BijBetreden([this] { OudGeslacht = Geslacht.Tekst(); });
+  Geslacht.BijBetreden([this] {
+    OudGeslacht = Geslacht.Tekst();
+    geweigerd_ = false;
+  });
   Geslacht.BijVerlaten([this] { return GeslachtVerlaten(); });
   for (CorrectieVak* corr : {&GebCorr, &OvlCorr}) {
     corr->BijVerlaten([this] {
@@ -62,14 +59,39 @@ WijzigPersoon::WijzigPersoon(Hoofdmodule& hoofd)
     });
   }
   RelNrOuders.BijVerlaten([this] { return RelNrOudersVerlaten(); });
-  AlgPersOpmTekst.ZetAlleenLezen(true);
   Opslaan.BijKlik([this] { OpslaanKlik(); });
   BackButton.BijKlik([this] { BackButtonKlik(); });
+}
+
+void WijzigPersoon::ZetLeesnamen() {
+  const std::pair<Bediening*, std::string_view> namen[] = {
+      {&GebCorr, "Correctie van de geboortedatum"},
+      {&GebDatum, "Geboortedatum"},
+      {&GebPlts.Nm, "Geboorteplaats"},
+      {&GebPlts.Nr, "Nummer van de geboorteplaats"},
+      {&DoopDatum, "Doopdatum"},
+      {&DoopPlts.Nm, "Doopplaats"},
+      {&DoopPlts.Nr, "Nummer van de doopplaats"},
+      {&Religie.Code, "Gezindte"},
+      {&OvlCorr, "Correctie van de overlijdensdatum"},
+      {&OvlDatum, "Overlijdensdatum"},
+      {&OvlPlts.Nm, "Overlijdensplaats"},
+      {&OvlPlts.Nr, "Nummer van de overlijdensplaats"},
+      {&BegrDatum, "Datum van begraven of crematie"},
+      {&BegrPlts.Nm, "Plaats van begraven of crematie"},
+      {&BegrPlts.Nr, "Nummer van de plaats van begraven of crematie"},
+      {&Pa.VoorNm, "Voornamen van de vader"},
+      {&Pa.AchterNm, "Achternaam van de vader"},
+      {&Ma.VoorNm, "Voornamen van de moeder"},
+      {&Ma.AchterNm, "Achternaam van de moeder"},
+  };
+  for (const auto& [bediening, naam] : namen) bediening->ZetLeesnaam(naam);
 }
 
 // In the order in which they are stored.
 void WijzigPersoon::BindVelden() {
   namespace veld = persoonveld;
+  Geslacht.ZetMaxLengte(veld::Geslacht.breedte);
   velden_.Bind(
       veld::Geslacht,
       [this](const std::string& waarde) { Geslacht.ZetTekst(waarde.empty() ? "O" : waarde); },
@@ -89,10 +111,7 @@ void WijzigPersoon::BindVelden() {
   velden_.Bind(veld::BegrDagMaand, BegrDatum);
   velden_.Bind(veld::BegrPlaatsNr, BegrPlts);
   velden_.Bind(veld::beroep, BeroepTekst);
-  velden_.Bind(
-      veld::RelNrOuders,
-      [this](const std::string& waarde) { RelNrOuders.ToonNr(Getal16(waarde)); },
-      [this] { return GetalTekst(RelNrOuders.Nr()); });
+  velden_.Bind(veld::RelNrOuders, RelNrOuders);
 }
 
 void WijzigPersoon::BijLaden() {
@@ -101,16 +120,18 @@ void WijzigPersoon::BijLaden() {
     Sluit();
     return;
   }
-  PersoonLB77& persoon = Hoofd().Persoon;
+  const PersoonLB77& persoon = Hoofd().Persoon;
   const std::int16_t opmCode = persoon.OpmCode();
   const std::int16_t opmRecord = persoon.OpmRecord();
   oudeOuders_ = persoon.RelNrOuders();
+  losgemaakt_ = geweigerd_ = false;
   RecordNr.ZetTekst(GetalTekst(nr_));
   velden_.Toon(persoon);
   OudGeslacht = Geslacht.Tekst();
   ToonOuders(oudeOuders_);
   ToonPartners();
-  ToonOpmerking(opmCode, opmRecord);
+  AlgPersOpmTekst.ZetTekst(
+      Hoofd().Opmerking.OpmerkingTekst(opmCode, opmRecord, persoonrubriek::kAlgemeen, 1, false));
   ToonPeriodes();
   Hoofd().volgers.HuidigPersoonNr = nr_;
 }
@@ -118,7 +139,10 @@ void WijzigPersoon::BijLaden() {
 bool WijzigPersoon::NeemRecord() {
   nr_ = Hoofd().volgers.HuidigPersoonNr;
   bestaat_ = nr_ != -1;
-  return bestaat_ ? NeemBestaand() : NeemNieuw();
+  if (bestaat_) return NeemBestaand();
+  if (!NeemVrijNummer()) return false;
+  Hoofd().Persoon.LeegPersBuffer();
+  return true;
 }
 
 bool WijzigPersoon::NeemBestaand() {
@@ -127,33 +151,31 @@ bool WijzigPersoon::NeemBestaand() {
     Hoofd().gesprek.Waarschuw("Het opgegeven Persoonsnummer komt niet voor");
     return false;
   }
-  if (!persoon.Lees(nr_)) {
-    Hoofd().gesprek.Fout("Leesfout bij persoonsrecord " + GetalTekst(nr_));
-    return false;
-  }
-  if (persoon.IsVolgRecord()) {
-    Hoofd().gesprek.Waarschuw("Het opgegeven record is een vervolgrecord");
-    return false;
-  }
-  return true;
+  if (!persoon.Lees(nr_)) return false;
+  if (!persoon.IsVolgRecord()) return true;
+  Hoofd().gesprek.Waarschuw("Het opgegeven record is een vervolgrecord");
+  return false;
 }
 
-bool WijzigPersoon::NeemNieuw() {
-  const std::int32_t nieuw = std::max<std::int32_t>(Hoofd().Persoon.AantalRecords() + 1, 2);
-  if (nieuw > kMaxRecords) {
+// The number behind the last record, for a person who has none yet.
+bool WijzigPersoon::NeemVrijNummer() {
+  const std::int32_t vrij = std::max<std::int32_t>(Hoofd().Persoon.AantalRecords() + 1, 2);
+  if (vrij > kMaxRecords) {
     Hoofd().gesprek.Fout(kMaximumBereikt);
     return false;
   }
-  nr_ = static_cast<std::int16_t>(nieuw);
-  Hoofd().Persoon.LeegPersBuffer();
+  nr_ = static_cast<std::int16_t>(vrij);
+  RecordNr.ZetTekst(GetalTekst(nr_));
   return true;
 }
 
 void WijzigPersoon::ToonOuders(std::int16_t relatie) {
   RelatieLB77& bron = Hoofd().Relatie;
   const bool bekend = relatie > 0 && bron.Lees(relatie);
-  Pa.Toon(bekend ? bron.ManNr() : std::int16_t{0});
-  Ma.Toon(bekend ? bron.VrouwNr() : std::int16_t{0});
+  const std::int16_t man = bekend ? bron.ManNr() : std::int16_t{0};
+  const std::int16_t vrouw = bekend ? bron.VrouwNr() : std::int16_t{0};
+  Pa.Toon(man);
+  Ma.Toon(vrouw);
 }
 
 void WijzigPersoon::ToonPartners() {
@@ -161,27 +183,28 @@ void WijzigPersoon::ToonPartners() {
   if (bestaat_) regels = LeesHuwRegels(Hoofd().Persoon, Hoofd().Relatie, Hoofd().gesprek, nr_);
   Partners.Elk([&](int nummer, PartnerRij& rij) {
     const auto plaats = static_cast<std::size_t>(nummer - 1);
-    rij.Toon(plaats < regels.size() ? &regels[plaats] : nullptr);
+    const bool bekend = plaats < regels.size();
+    const HuwRegel regel = bekend ? regels[plaats] : HuwRegel{};
+    rij.RelNrP.ZetTekst(NrTekst(regel.relatie));
+    rij.RecordNrP.ZetTekst(NrTekst(regel.partner));
+    rij.VoorNmP.ZetTekst(regel.voornaam);
+    rij.AchterNmP.ZetTekst(regel.achternaam);
+    rij.ZetZichtbaar(bekend);
   });
-}
-
-void WijzigPersoon::ToonOpmerking(std::int16_t opmCode, std::int16_t opmRecord) {
-  AlgPersOpmTekst.ZetTekst(
-      OpmTekst(Hoofd().Opmerking, opmCode, opmRecord, rubriek::kAlgemeenPersoon, 1));
 }
 
 // With "T" the second date ends the period, and what belongs to a second event is not there.
 void WijzigPersoon::ToonPeriodes() {
-  const bool geboren = GebCorr.Tekst() != kTussen;
-  DoopLabel.ZetZichtbaar(geboren);
-  DoopPlts.ZetZichtbaar(geboren);
-  ReligieLabel.ZetZichtbaar(geboren);
-  Religie.ZetZichtbaar(geboren);
-  BegrPlts.ZetZichtbaar(OvlCorr.Tekst() != kTussen);
+  const bool gedoopt = !GebCorr.IsTussen();
+  DoopLabel.ZetZichtbaar(gedoopt);
+  DoopPlts.ZetZichtbaar(gedoopt);
+  ReligieLabel.ZetZichtbaar(gedoopt);
+  Religie.ZetZichtbaar(gedoopt);
+  BegrPlts.ZetZichtbaar(!OvlCorr.IsTussen());
 }
 
 bool WijzigPersoon::GeslachtIsVast() const {
-  return Geslacht.Tekst() != OudGeslacht && Partners(1).HeeftRelatie();
+  return Geslacht.Tekst() != OudGeslacht && !Partners(1).RelNrP.Tekst().empty();
 }
 
 bool WijzigPersoon::Weiger(Bediening& veld, std::string_view melding) {
@@ -190,17 +213,19 @@ bool WijzigPersoon::Weiger(Bediening& veld, std::string_view melding) {
   return false;
 }
 
+// The text of a function key has passed no filter. A damaged letter that nobody touched is let go.
 bool WijzigPersoon::GeslachtVerlaten() {
-  const std::string& geslacht = Geslacht.Tekst();
-  if (geslacht != "O" && geslacht != "M" && geslacht != "V") {
-    Hoofd().gesprek.Waarschuw(
-        "Alleen O (Onbekend), M (Mannelijk) of V (Vrouwelijk) toegestaan");
+  if (Geslacht.Tekst() == OudGeslacht) return true;
+  const std::string geslacht = Hoofdletters(Geslacht.Tekst());
+  Geslacht.ZetTekst(geslacht);
+  if (geslacht.size() != 1 || kGeslachten.find(geslacht) == std::string_view::npos) {
+    Hoofd().gesprek.Waarschuw("Alleen O (Onbekend), M (Mannelijk) of V (Vrouwelijk) toegestaan");
     return false;
   }
   if (!GeslachtIsVast()) return true;
-  // Once told, Opslaan may say it once more and put it right.
-  if (geweigerd_ == geslacht && Doel() == &Opslaan) return true;
-  geweigerd_ = geslacht;
+  // Opslaan says it again, and puts the old letter back.
+  if (geweigerd_ && Doel() == &Opslaan) return true;
+  geweigerd_ = true;
   Hoofd().gesprek.Meld(BerichtSoort::Geen,
                        "Geslacht wijzigen niet toegestaan: er zijn al relaties");
   return false;
@@ -215,13 +240,24 @@ bool WijzigPersoon::RelNrOudersVerlaten() {
   return true;
 }
 
+std::string WijzigPersoon::Omschrijving() const {
+  const std::string naam(Trim(VoorNm.Tekst() + " " + AchterNm.Tekst()));
+  return "Persoon " + GetalTekst(nr_) + (bestaat_ ? " gewijzigd: " : " toegevoegd: ") +
+         (naam.empty() ? "<onbekend>" : naam);
+}
+
 void WijzigPersoon::OpslaanKlik() {
-  Handeling handeling(Hoofd().bestanden, "Persoon " + GetalTekst(nr_) + " gewijzigd: " + NaamVan());
-  const bool goed = MagGeslacht() && IsChronologisch() && ZoekOpNaam(Vader()) &&
-                    ZoekOpNaam(Moeder()) && HoortBijNaam(Vader()) && HoortBijNaam(Moeder()) &&
-                    VindRelatie() && KlopptRelatie() && MaakLos() && MaakVast() && Schrijf();
-  if (const SysteemFout fout = handeling.Voltooi()) MeldNietVeilig(Hoofd().gesprek, fout);
-  if (goed) Sluit();
+  Handeling handeling(Hoofd().bestanden, Omschrijving());
+  if (IsInOrde() && Schrijf()) Sluit();
+  MeldNietVeilig(Hoofd().gesprek, handeling.Voltooi());
+}
+
+// The checks read other records, and take the trackers along.
+bool WijzigPersoon::IsInOrde() {
+  const VolgersBewaker bewaker(Hoofd().volgers);
+  return MagGeslacht() && IsChronologisch() && ZoekOpNaam(Pa, "M") && ZoekOpNaam(Ma, "V") &&
+         HoortBijNaam(Pa, "Vader") && HoortBijNaam(Ma, "Moeder") && VindRelatie() &&
+         KloptRelatie() && MaakLos() && MaakVast();
 }
 
 bool WijzigPersoon::MagGeslacht() {
@@ -246,41 +282,23 @@ bool WijzigPersoon::IsChronologisch() {
       {DoopDatum, BegrDatum, "Doop is na het begraven !"},
       {OvlDatum, BegrDatum, "Overlijden is na het begraven !"},
   };
-  for (const Paar& paar : paren) {
-    if (!DatumIsNa(paar.eerst.Tekst(), paar.later.Tekst())) continue;
-    if (!Hoofd().gesprek.Vraag(std::string(paar.melding) + "\nCorrigeren ?")) continue;
+  for (const auto& [eerst, later, melding] : paren) {
+    if (!WilCorrigeren(Hoofd().gesprek, eerst, later, melding)) continue;
     ZetFocus(GebDatum);
     return false;
   }
   return true;
 }
 
-bool WijzigPersoon::ZoekOpNaam(const Ouder& ouder) {
-  if (!ouder.vak.RecordNr.Tekst().empty()) return true;
-  std::string voor = ouder.vak.VoorNm.Tekst();
-  std::string achter = ouder.vak.AchterNm.Tekst();
-  const VolgersBewaker bewaker(Hoofd().volgers);
-  const std::int16_t nr = ZoekPersoonOpNaam(Hoofd(), voor, achter, ouder.geslacht);
-  ouder.vak.VoorNm.ZetTekst(voor);
-  ouder.vak.AchterNm.ZetTekst(achter);
-  ouder.vak.RecordNr.ZetTekst(NrTekst(nr));
-  if (nr > 0 || (voor.empty() && achter.empty())) return true;
-  ZetFocus(ouder.vak.VoorNm);
+bool WijzigPersoon::ZoekOpNaam(PersoonVak& ouder, std::string_view geslacht) {
+  if (VulNrUitNaam(Hoofd(), ouder, geslacht)) return true;
+  ZetFocus(ouder.VoorNm);
   return false;
 }
 
-bool WijzigPersoon::HoortBijNaam(const Ouder& ouder) {
-  if (ouder.vak.RecordNr.Tekst().empty()) return true;
-  std::string voor;
-  std::string achter;
-  std::string tekst;
-  HaalNaam(Hoofd().Persoon, ouder.vak.Nr(), voor, achter, tekst);
-  if (Trim(voor) == Trim(ouder.vak.VoorNm.Tekst()) &&
-      Trim(achter) == Trim(ouder.vak.AchterNm.Tekst())) {
-    return true;
-  }
-  return Weiger(ouder.vak.VoorNm,
-                "Recordnr " + std::string(ouder.naam) + " hoort niet bij Naam");
+bool WijzigPersoon::HoortBijNaam(PersoonVak& ouder, std::string_view naam) {
+  return NrHoortBijNaam(Hoofd(), ouder) ||
+         Weiger(ouder.VoorNm, "Recordnr " + std::string(naam) + " hoort niet bij Naam");
 }
 
 bool WijzigPersoon::VindRelatie() {
@@ -292,32 +310,30 @@ bool WijzigPersoon::VindRelatie() {
   }
   RelNrOuders.ToonNr(relatie);
   // A continuation record of a parent may have taken the number that was meant for this person.
-  if (!bestaat_ && Hoofd().Persoon.Lees(nr_)) {
-    nr_ = static_cast<std::int16_t>(Hoofd().Persoon.AantalRecords() + 1);
-    RecordNr.ZetTekst(GetalTekst(nr_));
-  }
-  return true;
+  return bestaat_ || !Hoofd().Persoon.Lees(nr_) || NeemVrijNummer();
 }
 
-bool WijzigPersoon::KlopptRelatie() {
-  const std::int16_t relatie = RelNrOuders.Nr();
-  if (relatie <= 0) return true;
-  const std::string nummer = " " + GetalTekst(relatie);
-  if (!Hoofd().Relatie.Lees(relatie)) {
+bool WijzigPersoon::KloptRelatie() {
+  const std::int16_t nr = RelNrOuders.Nr();
+  if (nr <= 0) return true;
+  const std::string nummer = " " + GetalTekst(nr);
+  const RelatieLB77& relatie = Hoofd().Relatie;
+  if (!Hoofd().Relatie.Lees(nr)) {
     return Weiger(RelNrOuders, "Fout bij het lezen van Relatie" + nummer);
   }
-  for (const Ouder& ouder : {Vader(), Moeder()}) {
-    if (ouder.vak.Nr() == ouder.inRelatie) continue;
-    return Weiger(ouder.vak.RecordNr,
-                  std::string(ouder.naam) + " komt niet voor in Relatie" + nummer);
+  if (Pa.Nr() != relatie.ManNr()) {
+    return Weiger(Pa.RecordNr, "Vader komt niet voor in Relatie" + nummer);
+  }
+  if (Ma.Nr() != relatie.VrouwNr()) {
+    return Weiger(Ma.RecordNr, "Moeder komt niet voor in Relatie" + nummer);
   }
   return true;
 }
 
-// The old parents stand there again, as on the record.
+// The old parents stand there again, as behind the leave check of their relation.
 void WijzigPersoon::HerstelOuders() {
   RelNrOuders.ToonNr(oudeOuders_);
-  ToonOuders(oudeOuders_);
+  static_cast<void>(Controleer(RelNrOuders));
   ZetFocus(RelNrOuders);
 }
 
@@ -342,7 +358,8 @@ bool WijzigPersoon::MaakVast() {
   return false;
 }
 
-// The checks have read other records: this one is read again.
+// The checks have read other records: this one is read again. The dialog is done, also when it
+// can't be written.
 bool WijzigPersoon::Schrijf() {
   PersoonLB77& persoon = Hoofd().Persoon;
   Volgers& volgers = Hoofd().volgers;

@@ -10,15 +10,26 @@
 #include "entry/DatumVak.h"
 #include "entry/GezindteVak.h"
 #include "entry/InvoerVak.h"
-#include "entry/PartnerRij.h"
 #include "entry/PersoonVak.h"
 #include "entry/PlaatsVak.h"
 #include "entry/RecordNrVak.h"
 #include "entry/RecordVelden.h"
 #include "forms/Regels.h"
-#include "forms/Wissellabel.h"
+#include "forms/Weergave.h"
 
 namespace lb77 {
+
+// A relation of the person at hand, and the partner in it.
+struct PartnerRij {
+  PartnerRij(Formulier& formulier, int nummer);
+  void ZetZichtbaar(bool zichtbaar);
+
+  Label LabelP;
+  Teller RelNrP;
+  Teller RecordNrP;
+  Teller VoorNmP;
+  Teller AchterNmP;
+};
 
 // Edits HuidigPersoonNr; -1 enters a new person. Afterwards HuidigPersoonNr is the person, or -1 when
 // there is none.
@@ -47,11 +58,12 @@ class WijzigPersoon final : public InvoerFormulier {
   DatumVak BegrDatum{*this, "BegrDatum"};
   PlaatsVak BegrPlts{*this, "BegrPlts", ""};
   InvoerVak BeroepTekst{*this, "BeroepTekst", "Beroep:"};
-  RecordNrVak RelNrOuders;
-  PersoonVak Pa;
-  PersoonVak Ma;
-  Regels<PartnerRij, 5> Partners{*this};
-  Tekstblok AlgPersOpmTekst{*this, "AlgPersOpmTekst", "Algemene opmerking:"};
+  RecordNrVak RelNrOuders{*this, "RelNrOuders", "Relatie van de ouders:", BestandSoort::Relaties,
+                          Vervolgtest::GeenVervolg};
+  PersoonVak Pa{*this, "Pa", {.nrBijschrift = "Vader:"}};
+  PersoonVak Ma{*this, "Ma", {.nrBijschrift = "Moeder:"}};
+  Regels<PartnerRij, 5> Partners{*this, 1};
+  Teller AlgPersOpmTekst{*this, "AlgPersOpmTekst", "Opmerking:"};
   Knop Opslaan{*this, "Opslaan", "&Opslaan"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 
@@ -59,42 +71,44 @@ class WijzigPersoon final : public InvoerFormulier {
   void BijLaden() override;
 
  private:
-  struct Ouder;
-
+  // Loading.
   void BindVelden();
+  void ZetLeesnamen();
   [[nodiscard]] bool NeemRecord();
   [[nodiscard]] bool NeemBestaand();
-  [[nodiscard]] bool NeemNieuw();
+  [[nodiscard]] bool NeemVrijNummer();
   void ToonOuders(std::int16_t relatie);
   void ToonPartners();
-  void ToonOpmerking(std::int16_t opmCode, std::int16_t opmRecord);
   void ToonPeriodes();
+
+  // Leaving a field.
   [[nodiscard]] bool GeslachtVerlaten();
   [[nodiscard]] bool RelNrOudersVerlaten();
 
   // The chain of Opslaan, in its order; False ends it, with the focus where it is to be.
   void OpslaanKlik();
+  [[nodiscard]] bool IsInOrde();
   [[nodiscard]] bool MagGeslacht();
   [[nodiscard]] bool IsChronologisch();
-  [[nodiscard]] bool ZoekOpNaam(const Ouder& ouder);
-  [[nodiscard]] bool HoortBijNaam(const Ouder& ouder);
+  [[nodiscard]] bool ZoekOpNaam(PersoonVak& ouder, std::string_view geslacht);
+  [[nodiscard]] bool HoortBijNaam(PersoonVak& ouder, std::string_view naam);
   [[nodiscard]] bool VindRelatie();
-  [[nodiscard]] bool KlopptRelatie();
+  [[nodiscard]] bool KloptRelatie();
   [[nodiscard]] bool MaakLos();
   [[nodiscard]] bool MaakVast();
   [[nodiscard]] bool Schrijf();
 
-  [[nodiscard]] Ouder Vader();
-  [[nodiscard]] Ouder Moeder();
+  [[nodiscard]] std::string Omschrijving() const;
   [[nodiscard]] bool GeslachtIsVast() const;
   [[nodiscard]] bool Weiger(Bediening& veld, std::string_view melding);
   void HerstelOuders();
   void BackButtonKlik();
 
   RecordVelden velden_;
-  std::int16_t nr_ = -1;
-  bool bestaat_ = false;
-  std::string OudGeslacht;
+  std::int16_t nr_ = -1;    // what RecordNr shows
+  bool bestaat_ = false;    // the record is there
+  std::string OudGeslacht;  // what stood there when the field got the focus
+  bool geweigerd_ = false;  // the user knows that his partners stand in its way
   std::int16_t oudeOuders_ = 0;
   bool losgemaakt_ = false;  // an earlier try took the person out of the old list
 };
