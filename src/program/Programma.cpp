@@ -18,6 +18,8 @@
 #include "app/SetOpenen.h"
 #include "app/Start.h"
 #include "app/VerwijderSetForm.h"
+#include "entry/StartRecord.h"
+#include "entry/ToonPlaatsen.h"
 #include "exchange/ImpGedcom.h"
 #include "output/BekijkTekst.h"
 
@@ -47,12 +49,14 @@ void Programma::HangOp() {
   menu_.Hang("MaakSet", [this, &gesprek] { gesprek.Toon<NieuweSet>(hoofd_, menu_); });
   menu_.Hang("OpenSet", [this, &gesprek] { gesprek.Toon<OpenSetForm>(hoofd_, menu_); });
   menu_.Hang("VerwijderSet", [this, &gesprek] { gesprek.Toon<VerwijderSetForm>(hoofd_, menu_); });
+  menu_.Hang("InvPlaats", [this, &gesprek] { gesprek.Toon<ToonPlaatsen>(hoofd_); });
   menu_.Hang("SetupGebruiker", [this, &gesprek] { gesprek.Toon<IniGebruiker>(hoofd_); });
   menu_.Hang("SetupGezindte", [this, &gesprek] { gesprek.Toon<IniGezindte>(hoofd_); });
   menu_.Hang("SetupVoorvoeg", [this, &gesprek] { gesprek.Toon<IniVoorvoeg>(hoofd_); });
   menu_.Hang("SetupVoorkeur", [this, &gesprek] { gesprek.Toon<IniVoorkeur>(hoofd_); });
   menu_.Hang("SetupToetsen", [this, &gesprek] { gesprek.Toon<IniFunctie>(hoofd_); });
   menu_.Hang("SetupSysteem", [this, &gesprek] { gesprek.Toon<IniSysteem>(hoofd_); });
+  menu_.Hang("InvPersRel", [this] { ToonPersonenEnRelaties(hoofd_); });
   menu_.Hang("ImportGedcom", [this, &gesprek] { gesprek.Toon<ImpGedcom>(hoofd_); });
   menu_.Hang("ViewTekst", [this, &gesprek] { gesprek.Toon<BekijkTekst>(hoofd_); });
   menu_.Hang("TekstKwst", [this, &gesprek] { gesprek.Toon<KwstTxtPrs>(hoofd_); });

@@ -76,9 +76,9 @@ TEST_F(Programmaloop, GaatDeHeleWegVanEenLegeDirectoryNaarEenVerslag) {
 
 TEST_F(Programmaloop, KeuzenVanWatErNietIsZijnGrijs) {
   MaakFamilie();
-  Verwacht("toon InvPersRel\ntoon ImportDBase\ntoon TekstKwst\ntoon ExpVVF\n", Sessie(), R"(
+  Verwacht("toon TekstGen\ntoon ImportDBase\ntoon TekstKwst\ntoon ExpVVF\n", Sessie(), R"(
       + MenuWindow "LB77 voor Windows"
-      = InvPersRel "&Personen + Relaties" [uit]
+      = TekstGen "&Genealogie of Parenteel" [uit]
       = ImportDBase "&dBase" [uit]
       = TekstKwst "&Kwartierstaat"
       = ExpVVF "&VVFContact" [uit] [verborgen]
@@ -152,6 +152,10 @@ TEST_F(Programmaloop, ElkeKeuzeDieTeKiezenIsToontZijnFormulier) {
       sluit
       kies SetupSysteem
       sluit
+      kies InvPersRel
+      sluit
+      kies InvPlaats
+      sluit
       kies ImportGedcom
       sluit
       bestand
@@ -181,6 +185,10 @@ TEST_F(Programmaloop, ElkeKeuzeDieTeKiezenIsToontZijnFormulier) {
       - IniFunctie
       + IniSysteem "Systeem Instellingen - Systeem"
       - IniSysteem
+      + StartRecord "Start Persoon / Relatie"
+      - StartRecord
+      + ToonPlaatsen "Toon Plaatsen"
+      - ToonPlaatsen
       + ImpGedcom "Importeer Gegevens - Gedcom"
       - ImpGedcom
       > openen "Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt|GEDCOM-bestanden (*.GED)|*.GED" -> -

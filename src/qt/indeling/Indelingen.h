@@ -10,6 +10,10 @@ namespace lb77::indeling {
 [[nodiscard]] std::vector<Indeling> Sets();
 [[nodiscard]] std::vector<Indeling> Instellen();
 [[nodiscard]] std::vector<Indeling> Zoeken();
+[[nodiscard]] std::vector<Indeling> Kaarten();
+[[nodiscard]] std::vector<Indeling> Plaatsen();
+[[nodiscard]] std::vector<Indeling> Wijzigen();
+[[nodiscard]] std::vector<Indeling> Opmerkingen();
 [[nodiscard]] std::vector<Indeling> Bekijken();
 [[nodiscard]] std::vector<Indeling> Kwartierstaat();
 [[nodiscard]] std::vector<Indeling> Uitwisseling();
