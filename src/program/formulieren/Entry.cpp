@@ -1,6 +1,7 @@
 // The search for a person, and what entry asks on the way.
 #include <memory>
 
+#include "entry/KoppelVragen.h"
 #include "entry/MeerKinderen.h"
 #include "entry/OKPersoon.h"
 #include "entry/PersInfoForm.h"
@@ -56,6 +57,13 @@ constexpr FormulierRij kRijen[] = {
     {"ToonPlaatsen", [](Programma& p) { return Maak<ToonPlaatsen>(p.Hoofd()); }},
     {"VraagPlaatsnm", [](Programma& p) { return Maak<VraagPlaatsnm>(p.Hoofd()); }},
     {"VraagPlaatsnr", [](Programma& p) { return Maak<VraagPlaatsnr>(p.Hoofd()); }},
+    {"KindErbij", [](Programma& p) { return Maak<KindErbij>(p.Hoofd()); }},
+    {"KindEraf", [](Programma& p) { return Maak<KindEraf>(p.Hoofd()); }},
+    {"KindSchuif", [](Programma& p) { return Maak<KindSchuif>(p.Hoofd()); }},
+    {"VolgnrKind", [](Programma& p) { return Maak<VolgnrKind>(p.Hoofd()); }},
+    {"VraagPartner", [](Programma& p) { return Maak<VraagPartner>(p.Hoofd()); }},
+    {"HuwSchuif", [](Programma& p) { return Maak<HuwSchuif>(p.Hoofd()); }},
+    {"VolgNrHuw", [](Programma& p) { return Maak<VolgNrHuw>(p.Hoofd()); }},
     {"ToonPersOpm", [](Programma& p) { return Maak<ToonPersOpm>(p.Hoofd(), kVoorbeeldPersoon); }},
     {"ToonOpm", [](Programma& p) { return Maak<ToonOpm>(p.Hoofd(), Opmerking()); }},
     {"WijzigOpm",

@@ -1,0 +1,111 @@
+#include <gtest/gtest.h>
+
+#include "KaartToets.h"
+
+namespace lb77 {
+namespace {
+
+class ToonKinderenTest : public KaartToets {
+ protected:
+  void OpKinderen(std::string_view draaiboek, std::string_view verslag,
+                  const Plek& plek = Plek::current()) {
+    Verwacht(draaiboek, Loop(ToonKinderenVraag, 2),
+             "+ ToonKinderen \"Toon Kinderen\"\n" + Regels(verslag), plek);
+  }
+};
+
+TEST_F(ToonKinderenTest, ToontDeOudersEnHunKinderen) {
+  Gezin();
+  Bouw().WijzigPersoon(4, {{"GebDatum", "01.02.1880"}});
+  OpKinderen(
+      "toon RecordNr\ntoon NaarMan\ntoon VoorNmMan\ntoon NaarVrouw\ntoon AchterNmVrouw\n"
+      "toon KindLabel(1)\ntoon NaarKind(1)\ntoon VoorNmKind(1)\ntoon AchterNmKind(1)\n"
+      "toon KindPeriode(1)\ntoon NaarKind(2)\ntoon MeerButton",
+      R"(
+    = RecordNr "2"
+    = NaarMan "2"
+    = VoorNmMan "Jan"
+    = NaarVrouw "3"
+    = AchterNmVrouw "Bos"
+    = KindLabel(1) "1"
+    = NaarKind(1) "4"
+    = VoorNmKind(1) "Kees"
+    = AchterNmKind(1) "Vos"
+    = KindPeriode(1) "1880-    "
+    = NaarKind(2) "" [verborgen]
+    = MeerButton "&Meer" [verborgen]
+  )");
+}
+
+TEST_F(ToonKinderenTest, EenNaamDieOntbreektIsOnbekend) {
+  const auto anna = Bouw().Vrouw("Anna", "");
+  const auto eerste = Bouw().Man("", "Vos");
+  const auto tweede = Bouw().Man("Jan", "Vos");
+  Bouw().Relatie(0, anna, {eerste, tweede});
+  MaakGat(tweede);
+  OpKinderen(
+      "toon VoorNmMan\ntoon AchterNmVrouw\ntoon VoorNmKind(1)\ntoon VoorNmKind(2)\n"
+      "toon KindPeriode(2)",
+      R"(
+    = VoorNmMan ""
+    = AchterNmVrouw "<onbekend>"
+    = VoorNmKind(1) "<onbekend>"
+    = VoorNmKind(2) ""
+    = KindPeriode(2) "????-????"
+  )");
+}
+
+TEST_F(ToonKinderenTest, EenGatInDeLijstIsEenLegeRegel) {
+  Gezin();
+  Bouw().WijzigRelatie(2, {{"Kind3", "4"}, {"Kind2", "-7"}});
+  OpKinderen("toon NaarKind(2)\ntoon NaarKind(3)",
+             "= NaarKind(2) \"\" [verborgen]\n= NaarKind(3) \"4\"");
+}
+
+TEST_F(ToonKinderenTest, EenKindKomtInDePlaatsEnDeLijstKeertTerug) {
+  Gezin();
+  OpKinderen("druk NaarKind(1)\ntoon RecordNr\ndruk BackButton\ndruk BackButton", R"(
+    - ToonKinderen
+    + ToonPersoon "Toon Persoon"
+    = RecordNr "4"
+    - ToonPersoon
+    + ToonKinderen "Toon Kinderen"
+    - ToonKinderen
+  )");
+}
+
+TEST_F(ToonKinderenTest, ManEnVrouwZijnTeBezoeken) {
+  Gezin();
+  OpKinderen("druk NaarVrouw\ntoon RecordNr\ndruk BackButton\ndruk NaarMan", R"(
+    - ToonKinderen
+    + ToonPersoon "Toon Persoon"
+    = RecordNr "3"
+    - ToonPersoon
+    + ToonKinderen "Toon Kinderen"
+    - ToonKinderen
+    + ToonPersoon "Toon Persoon"
+  )");
+  Bouw().WijzigRelatie(2, {{"ManNr", "0"}, {"VrouwNr", "0"}});
+  OpKinderen("druk NaarMan\ndruk NaarVrouw",
+             "! uitroep \"Er is geen Man bekend\"\n! uitroep \"Er is geen Vrouw bekend\"");
+}
+
+TEST_F(ToonKinderenTest, WatGeenRelatieIsGaatNietOpen) {
+  Gezin();
+  Bouw().Relatie(0, 0);
+  const auto weigert = [this](std::int16_t nr, std::string_view melding) {
+    Verwacht("", Loop(ToonKinderenVraag, nr), melding);
+    Verwacht("", Loop(MeerKinderenVraag, nr), melding);
+  };
+  weigert(9, "! uitroep \"Het opgegeven Relatienummer komt niet voor\"");
+  Bouw().WijzigRelatie(3, {{"HuwCorr", "Z"}});
+  weigert(3, "! uitroep \"Het opgegeven record is een vervolgrecord\"");
+  MaakOnleesbaar(BestandSoort::Relaties, 2);
+  weigert(2, R"(
+    ! stop "Fout bij het lezen van Relatierecord 2\nFout van de schijf"
+    ! stop "Leesfout bij relatierecord 2"
+  )");
+}
+
+}  // namespace
+}  // namespace lb77
