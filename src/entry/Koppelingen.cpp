@@ -169,8 +169,12 @@ bool Koppelingen::VerplaatsKind(std::int16_t kind, std::int16_t oud, std::int16_
 
 // The relations of a person, as they lie in the records; of a number that is nobody's none.
 bool Koppelingen::LeesRelaties(std::int16_t persoon, Huwtab& tab) {
-  if (persoon < 2 || persoon > persoon_.AantalRecords()) return true;
-  if (persoon_.VulHuwtab(persoon, tab).heel) return true;
+  // Read first: a count that fails must not make somebody nobody, and his list empty.
+  if (persoon < 2 || persoon_.VulHuwtab(persoon, tab).heel) return true;
+  if (persoon > persoon_.AantalRecords()) {
+    tab = {};
+    return true;
+  }
   gesprek_.Waarschuw("Fout bij het lezen van Persoon " + GetalTekst(persoon));
   return false;
 }

@@ -1,6 +1,5 @@
 #include "entry/WijzigPersoon.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <utility>
 #include <vector>
@@ -159,7 +158,8 @@ bool WijzigPersoon::NeemBestaand() {
 
 // The number behind the last record, for a person who has none yet.
 bool WijzigPersoon::NeemVrijNummer() {
-  const std::int32_t vrij = std::max<std::int32_t>(Hoofd().Persoon.AantalRecords() + 1, 2);
+  const std::int32_t vrij = Hoofd().Persoon.AantalRecords() + 1;
+  if (vrij < 2) return false;  // not counted, and told
   if (vrij > kMaxRecords) {
     Hoofd().gesprek.Fout(kMaximumBereikt);
     return false;
@@ -257,7 +257,7 @@ bool WijzigPersoon::IsInOrde() {
   const VolgersBewaker bewaker(Hoofd().volgers);
   return MagGeslacht() && IsChronologisch() && ZoekOpNaam(Pa, "M") && ZoekOpNaam(Ma, "V") &&
          HoortBijNaam(Pa, "Vader") && HoortBijNaam(Ma, "Moeder") && VindRelatie() &&
-         KloptRelatie() && MaakLos() && MaakVast();
+         KloptRelatie() && HeeftNummer() && MaakLos() && MaakVast();
 }
 
 bool WijzigPersoon::MagGeslacht() {
@@ -309,8 +309,17 @@ bool WijzigPersoon::VindRelatie() {
     return false;
   }
   RelNrOuders.ToonNr(relatie);
-  // A continuation record of a parent may have taken the number that was meant for this person.
-  return bestaat_ || !Hoofd().Persoon.Lees(nr_) || NeemVrijNummer();
+  return true;
+}
+
+// A continuation record of a parent may have taken the number that was meant for this person, and
+// nobody else may become the child.
+bool WijzigPersoon::HeeftNummer() {
+  if (bestaat_ || RelNrOuders.Nr() <= 0) return true;
+  if (!NeemVrijNummer()) return false;
+  if (!Hoofd().Persoon.Lees(nr_)) return true;
+  Hoofd().gesprek.Fout("Persoonsrecord " + GetalTekst(nr_) + " bestaat al");
+  return false;
 }
 
 bool WijzigPersoon::KloptRelatie() {

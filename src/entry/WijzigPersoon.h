@@ -94,6 +94,7 @@ class WijzigPersoon final : public InvoerFormulier {
   [[nodiscard]] bool HoortBijNaam(PersoonVak& ouder, std::string_view naam);
   [[nodiscard]] bool VindRelatie();
   [[nodiscard]] bool KloptRelatie();
+  [[nodiscard]] bool HeeftNummer();
   [[nodiscard]] bool MaakLos();
   [[nodiscard]] bool MaakVast();
   [[nodiscard]] bool Schrijf();

@@ -1,6 +1,5 @@
 #include "entry/WijzigRelatie.h"
 
-#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
@@ -168,7 +167,8 @@ bool WijzigRelatie::NeemBestaand() {
 
 bool WijzigRelatie::NeemNieuw() {
   RelatieLB77& relatie = Hoofd().Relatie;
-  const std::int32_t nieuw = std::max<std::int32_t>(relatie.AantalRecords() + 1, 2);
+  const std::int32_t nieuw = relatie.AantalRecords() + 1;
+  if (nieuw < 2) return false;  // not counted, and told
   if (nieuw > kMaxRecords) {
     Hoofd().gesprek.Fout(kMaximumBereikt);
     return false;
