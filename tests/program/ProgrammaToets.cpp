@@ -1,6 +1,7 @@
 #include "program/ProgrammaToets.h"
 
 #include "steun/BouwFamilie.h"
+#include "store/Rubrieken.h"
 #include "store/SetPaden.h"
 
 namespace lb77 {
@@ -17,6 +18,8 @@ void Vul(Hoofdmodule& hoofd) {
   const auto vader = bouw.Man("Piet", "van Dam");
   const auto moeder = bouw.Vrouw("Anna", "Blom");
   bouw.Relatie(vader, moeder, {kind}, {{"WHuwDatum", "05-06-1899"}});
+  // For no output, so that only the dialogs show it.
+  bouw.OpmerkingBijPersoon(kind, persoonrubriek::kVoornaam, {"Naar zijn grootvader"}, 0);
 }
 
 }  // namespace

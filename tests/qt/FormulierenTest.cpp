@@ -12,6 +12,7 @@
 #include "qt/Vertaling.h"
 #include "steun/BouwFamilie.h"
 #include "steun/TijdelijkeMap.h"
+#include "store/Rubrieken.h"
 #include "store/SetPaden.h"
 
 namespace lb77 {
@@ -40,6 +41,7 @@ class FormulierenTest : public Formulierproef, public testing::WithParamInterfac
     const auto charlotte = bouw.Vrouw("Charlotte", "de Bourbon");
     const auto louise = bouw.Vrouw("Louise Juliana", "van Nassau", {{"GebDatum", "31-03-1576"}});
     static_cast<void>(bouw.Relatie(willem, charlotte, {louise}));
+    bouw.OpmerkingBijPersoon(willem, persoonrubriek::kVoornaam, {"Bijgenaamd de Zwijger"}, 0);
     hoofd.ActieveSetNaam = "ORANJE";
     hoofd.Ini.IniZet("Sets", "Set1", "ORANJE,De familie van Oranje");
   }
