@@ -27,23 +27,23 @@ struct HuwRij {
 
   void Toon(const HuwRegel& regel) {
     ZetZichtbaar(true, true);
-    RelNrP.ZetIngeschakeld(true);
     RelNrP.ZetNr(regel.relatie);
     RecordNrP.ZetNr(regel.partner);
     VoorNmP.ZetTekst(regel.voornaam);
     AchterNmP.ZetTekst(regel.achternaam);
   }
-  // The line behind the last relation.
+  // The line that begins a new relation.
   void ToonNieuw(std::string_view teken) {
     MaakLeeg();
     ZetZichtbaar(true, false);
     RelNrP.ZetNr(0, teken);
-    RelNrP.ZetIngeschakeld(false);
   }
   void Verberg() {
     MaakLeeg();
     ZetZichtbaar(false, false);
   }
+  // Is it the line that begins a new relation?
+  [[nodiscard]] bool IsNieuw() const { return RelNrP.Zichtbaar() && !RecordNrP.Zichtbaar(); }
 
  private:
   void MaakLeeg() { Toon({}); }

@@ -52,6 +52,11 @@ void KinderenKaart::HangOp(Knop& terug) {
   terug.BijKlik([this] { Verlaat(); });
 }
 
+void KinderenKaart::LaadOpnieuw(Bediening& bij) {
+  Herlaad();
+  if (!Gesloten()) ZetFocus(bij);
+}
+
 void KinderenKaart::BijLaden() {
   Hoofd().volgers.HuidigRelatieNr = relatie_;
   if (!MagTonen()) return Sluit();

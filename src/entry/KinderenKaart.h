@@ -43,6 +43,8 @@ class KinderenKaart : public KaartOp<InvoerFormulier> {
   void HangOp(Knop& terug);
 
   [[nodiscard]] std::int16_t RelatieNr() const { return relatie_; }
+  // Behind an action of a button; the user stays on it.
+  void LaadOpnieuw(Bediening& bij);
   void BijLaden() override;
   // Goes from the relation in the buffer to the record that holds the children of this card; False
   // after a message.

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "entry/KindActies.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
@@ -14,11 +15,24 @@ KaartVraag MeerKinderenVraag(Hoofdmodule& hoofd, std::int16_t nr) {
 
 MeerKinderen::MeerKinderen(Hoofdmodule& hoofd, std::int16_t relatie)
     : KinderenKaart("MeerKinderen", "Toon Kinderen (vervolg)", hoofd, relatie, kRijen) {
+  ErbijButton.BijKlik([this] { ErbijButtonKlik(); });
+  ErafButton.BijKlik([this] { ErafButtonKlik(); });
   HangOp(BackButton);
 }
 
 KaartVraag MeerKinderen::Opnieuw() const {
   return MeerKinderenVraag(Hoofd(), RelatieNr());
+}
+
+void MeerKinderen::ErbijButtonKlik() {
+  VoegKindToeZonderVraag(Hoofd(), RelatieNr());
+  LaadOpnieuw(ErbijButton);
+}
+
+// kept: it asks with the prompt for adding.
+void MeerKinderen::ErafButtonKlik() {
+  HaalKindWeg(Hoofd(), RelatieNr(), true);
+  LaadOpnieuw(ErafButton);
 }
 
 bool MeerKinderen::NaarLijst() {

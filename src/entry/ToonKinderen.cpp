@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "entry/KindActies.h"
 #include "entry/MeerKinderen.h"
 
 namespace lb77 {
@@ -12,6 +13,9 @@ KaartVraag ToonKinderenVraag(Hoofdmodule& hoofd, std::int16_t nr) {
 
 ToonKinderen::ToonKinderen(Hoofdmodule& hoofd, std::int16_t relatie)
     : KinderenKaart("ToonKinderen", "Toon Kinderen", hoofd, relatie, 1) {
+  ErbijButton.BijKlik([this] { ErbijButtonKlik(); });
+  ErafButton.BijKlik([this] { ErafButtonKlik(); });
+  KindVolg.BijKlik([this] { KindVolgKlik(); });
   MeerButton.BijKlik([this] { MeerButtonKlik(); });
   HangOp(BackButton);
 }
@@ -24,6 +28,21 @@ KaartVraag ToonKinderen::Opnieuw() const {
 bool ToonKinderen::NaarLijst() {
   MeerButton.ZetZichtbaar(Hoofd().Relatie.KindNr(kRijen) < 0);
   return true;
+}
+
+void ToonKinderen::ErbijButtonKlik() {
+  VoegKindToe(Hoofd(), RelatieNr());
+  LaadOpnieuw(ErbijButton);
+}
+
+void ToonKinderen::ErafButtonKlik() {
+  HaalKindWeg(Hoofd(), RelatieNr(), false);
+  LaadOpnieuw(ErafButton);
+}
+
+void ToonKinderen::KindVolgKlik() {
+  OrdenKinderen(Hoofd(), RelatieNr());
+  LaadOpnieuw(KindVolg);
 }
 
 void ToonKinderen::MeerButtonKlik() {

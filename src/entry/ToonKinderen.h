@@ -14,6 +14,9 @@ class ToonKinderen final : public KinderenKaart {
  public:
   ToonKinderen(Hoofdmodule& hoofd, std::int16_t relatie);
 
+  Knop ErbijButton{*this, "ErbijButton", "&Erbij"};
+  Knop ErafButton{*this, "ErafButton", "Er&af"};
+  Knop KindVolg{*this, "KindVolg", "Volgorde"};
   Knop MeerButton{*this, "MeerButton", "&Meer"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 
@@ -23,6 +26,9 @@ class ToonKinderen final : public KinderenKaart {
   [[nodiscard]] bool NaarLijst() override;
 
  private:
+  void ErbijButtonKlik();
+  void ErafButtonKlik();
+  void KindVolgKlik();
   void MeerButtonKlik();
 };
 

@@ -3,6 +3,7 @@
 #include <memory>
 #include <vector>
 
+#include "entry/HuwActies.h"
 #include "entry/OpmTekst.h"
 #include "entry/ToonPersOpm.h"
 #include "entry/ToonRelatie.h"
@@ -42,6 +43,7 @@ ToonPersoon::ToonPersoon(Hoofdmodule& hoofd, std::int16_t nr)
     regel.RecordNrP.BijKlik([this, rij] { RecordNrPKlik(rij); });
   });
   OpmButton.BijKlik([this] { OpmButtonKlik(); });
+  HuwVolg.BijKlik([this] { HuwVolgKlik(); });
   HangOp({VorigPersoon, VolgendPersoon, NieuwButton, WijzigButton, BackButton});
 }
 
@@ -144,6 +146,10 @@ void ToonPersoon::RelNrOudersKlik() {
 }
 
 void ToonPersoon::RelNrPKlik(int rij) {
+  if (Partners(rij).IsNieuw()) {
+    NieuweRelatieVan(Hoofd(), Nr());
+    return LaadOpnieuw(Partners(rij).RelNrP);
+  }
   NaarRelatie(Partners(rij).RelNrP.Nr(), "Er is geen Relatie bekend");
 }
 
@@ -154,6 +160,11 @@ void ToonPersoon::RecordNrPKlik(int rij) {
 void ToonPersoon::OpmButtonKlik() {
   Hoofd().gesprek.Toon<ToonPersOpm>(Hoofd(), Nr());
   LaadOpnieuw(OpmButton);
+}
+
+void ToonPersoon::HuwVolgKlik() {
+  OrdenRelaties(Hoofd(), Nr());
+  LaadOpnieuw(HuwVolg);
 }
 
 void ToonPersoon::NaarPersoon(int nr, std::string_view geen) {

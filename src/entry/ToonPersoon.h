@@ -63,6 +63,7 @@ class ToonPersoon final : public RecordKaart {
   Knop OpmButton{*this, "OpmButton", "Opmerkingen"};
   Knop NieuwButton{*this, "NieuwButton", "&Nieuw"};
   Knop WijzigButton{*this, "WijzigButton", "&Wijzig"};
+  Knop HuwVolg{*this, "HuwVolg", "Volgorde"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 
   [[nodiscard]] KaartVraag Opnieuw() const override;
@@ -85,6 +86,7 @@ class ToonPersoon final : public RecordKaart {
   void RelNrPKlik(int rij);
   void RecordNrPKlik(int rij);
   void OpmButtonKlik();
+  void HuwVolgKlik();
   void NaarRelatie(int nr, std::string_view geen);
   void NaarPersoon(int nr, std::string_view geen);
 };

@@ -79,5 +79,22 @@ TEST_F(MeerKinderenTest, EenVervolgrecordDatErGeenIsWordtGemeld) {
   Verwacht("", Loop(MeerKinderenVraag, 2), "! stop \"Leesfout bij relatierecord 3\"");
 }
 
+TEST_F(MeerKinderenTest, EenKindErbijEnErafMetHetzelfdeOpschrift) {
+  Kinderen(16);
+  Reeks(1);
+  Verwacht(
+      "druk ErbijButton\nvul RecordNr 18\ndruk OKButton\ntoon NaarKind(17)\ndruk ErafButton\n"
+      "vul RecordNr 17\ndruk OKButton\ntoon NaarKind(16)",
+      Loop(MeerKinderenVraag, 2), R"~(
+    + MeerKinderen "Toon Kinderen (vervolg)"
+    + KindErbij "Toevoegen Kind"
+    - KindErbij
+    = NaarKind(17) "18"
+    + KindErbij "Toevoegen Kind"
+    - KindErbij
+    = NaarKind(16) "18"
+  )~");
+}
+
 }  // namespace
 }  // namespace lb77

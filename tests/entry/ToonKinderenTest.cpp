@@ -107,5 +107,35 @@ TEST_F(ToonKinderenTest, WatGeenRelatieIsGaatNietOpen) {
   )");
 }
 
+TEST_F(ToonKinderenTest, EenKindErbijStaatDaarnaOpDeKaart) {
+  Gezin();
+  Reeks(1);
+  OpKinderen("druk ErbijButton\nvul RecordNr 5\ndruk OKButton\ntoon NaarKind(2)", R"(
+    + KindErbij "Toevoegen Kind"
+    - KindErbij
+    = NaarKind(2) "5"
+  )");
+}
+
+TEST_F(ToonKinderenTest, EenKindEraf) {
+  Gezin();
+  OpKinderen("druk ErafButton\nvul RecordNr 4\ndruk OKButton\ntoon NaarKind(1)", R"(
+    + KindEraf "Verwijderen Kind"
+    - KindEraf
+    = NaarKind(1) "" [verborgen]
+  )");
+}
+
+TEST_F(ToonKinderenTest, VolgordeZetDeKinderenOpDatum) {
+  const auto jong = Bouw().Man("Jong", "Vos", {{"GebDatum", "01.01.1900"}});
+  const auto oud = Bouw().Man("Oud", "Vos", {{"GebDatum", "01.01.1880"}});
+  Bouw().Relatie(0, 0, {jong, oud});
+  OpKinderen("antwoord Ja\ndruk KindVolg\ntoon VoorNmKind(1)\ntoon VoorNmKind(2)", R"(
+    ? vraag Ja/Nee "Moet de volgorde Automatisch bepaald worden ?" -> Ja
+    = VoorNmKind(1) "Oud"
+    = VoorNmKind(2) "Jong"
+  )");
+}
+
 }  // namespace
 }  // namespace lb77

@@ -164,7 +164,7 @@ TEST_F(ToonPersoonTest, DeRelatiesStaanOpHunRegels) {
     = RecordNrP(2) ""
     = AchterNmP(2) "<onbekend>"
     ! uitroep "Er is geen Partner bekend"
-    = RelNrP(3) "<+>" [uit]
+    = RelNrP(3) "<+>"
     = RecordNrP(3) "" [verborgen]
     = LabelP(4) "Partner 4" [verborgen]
   )");
@@ -182,8 +182,7 @@ TEST_F(ToonPersoonTest, VijfRelatiesLatenGeenPlaatsVoorEenZesde) {
 
 TEST_F(ToonPersoonTest, EenOnbekendGeslachtBegintGeenRelatie) {
   Bouw().Persoon('?', "Kind", "Vos");
-  OpPersoon("toon Geslacht\ntoon RelNrP(1)", 2,
-            "= Geslacht \"O\"\n= RelNrP(1) \"\" [verborgen]");
+  OpPersoon("toon Geslacht\ntoon RelNrP(1)", 2, "= Geslacht \"O\"\n= RelNrP(1) \"\" [verborgen]");
 }
 
 TEST_F(ToonPersoonTest, EenVervolgrecordDatNietTeLezenIsWordtGemeld) {
@@ -191,7 +190,7 @@ TEST_F(ToonPersoonTest, EenVervolgrecordDatNietTeLezenIsWordtGemeld) {
   Verwacht("toon RelNrP(1)", Loop(ToonPersoonVraag, 2), R"(
     ! stop "Leesfout bij persoonsrecord 99"
     + ToonPersoon "Toon Persoon"
-    = RelNrP(1) "<+>" [uit]
+    = RelNrP(1) "<+>"
   )");
 }
 
@@ -281,6 +280,32 @@ TEST_F(ToonPersoonTest, TerugMaaktDeBuffersLos) {
            kPersoonOpen + "- ToonPersoon\n");
   Verwacht("toets RecordNr F10", Daarna(Loop(ToonPersoonVraag, 2), los),
            kPersoonOpen + "- ToonPersoon\n");
+}
+
+TEST_F(ToonPersoonTest, EenNieuweRelatieStaatDaarnaOpHaarRegel) {
+  Bouw().Man("Jan", "Vos");
+  OpPersoon("antwoord Ja\ndruk RelNrP(1)\ndruk OKButton\ntoon RelNrP(1)\ntoon RelNrP(2)", 2, R"(
+    ? vraag Ja/Nee "Nieuwe Relatie voor deze Persoon toevoegen ?" -> Ja
+    + VraagPartner "Invoer Partner"
+    - VraagPartner
+    = RelNrP(1) "2"
+    = RelNrP(2) "<+>"
+  )");
+  OpPersoon("antwoord Nee\ndruk RelNrP(2)\ntoon RelNrP(2)", 2, R"(
+    ? vraag Ja/Nee "Nieuwe Relatie voor deze Persoon toevoegen ?" -> Nee
+    = RelNrP(2) "<+>"
+  )");
+}
+
+TEST_F(ToonPersoonTest, VolgordeZetDeRelatiesOpDatum) {
+  Bouw().Man("Jan", "Vos");
+  Bouw().Relatie(2, 0, {}, {{"WHuwDatum", "01.01.1900"}});
+  Bouw().Relatie(2, 0, {}, {{"WHuwDatum", "01.01.1880"}});
+  OpPersoon("antwoord Ja\ndruk HuwVolg\ntoon RelNrP(1)\ntoon RelNrP(2)", 2, R"(
+    ? vraag Ja/Nee "Moet de volgorde Automatisch bepaald worden ?" -> Ja
+    = RelNrP(1) "3"
+    = RelNrP(2) "2"
+  )");
 }
 
 }  // namespace

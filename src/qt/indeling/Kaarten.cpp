@@ -33,7 +33,7 @@ Blok Persoon() {
                             Veld("AchterNmP(*)", "Achternaam", 22),
                         })}),
       Groep("Algemene opmerking", {Rij({"AlgPersOpmTekst", "AlgPersOpm"})}),
-      Knoppen({"VorigPersoon", "VolgendPersoon", "OpmButton"},
+      Knoppen({"VorigPersoon", "VolgendPersoon", "OpmButton", "HuwVolg"},
               {"NieuwButton", "WijzigButton", "BackButton"}),
   });
 }
@@ -88,8 +88,9 @@ std::vector<Indeling> Kaarten() {
        })},
       {"ToonPersoon", Persoon()},
       {"ToonRelatie", Relatie()},
-      {"ToonKinderen", Kinderen(Knoppen({"MeerButton"}, {"BackButton"}))},
-      {"MeerKinderen", Kinderen(Knoppen({"BackButton"}))},
+      {"ToonKinderen",
+       Kinderen(Knoppen({"ErbijButton", "ErafButton", "KindVolg"}, {"MeerButton", "BackButton"}))},
+      {"MeerKinderen", Kinderen(Knoppen({"ErbijButton", "ErafButton"}, {"BackButton"}))},
   };
 }
 
