@@ -16,6 +16,7 @@ class OpmFalenTest : public OpmToets {
     const SpeelUitslag uitslag = Speel(draaiboek, [&](Gesprek& gesprek) {
       Hoofdmodule hoofd(gesprek, klok_, Map());
       hoofd.bestanden = Bestandenset(FalendeOpener(storing));
+      hoofd.bestanden.ZetJournaal({[] { return std::string("2000-01-01 00:00:00"); }, {}, {}});
       ASSERT_FALSE(hoofd.bestanden.OpenSet(SetPaden::Van(Map(), "PROEF")));
       WijzigOpm form(hoofd, Voornaam(), 1);
       form.OpmTekst.BijWijziging([&] {
@@ -34,6 +35,7 @@ class OpmFalenTest : public OpmToets {
     const std::string prs = LeesBytes(paden.prs);
     const std::string rlt = LeesBytes(paden.rlt);
     bool gefaald = true;
+    bool nietVeilig = false;
     int bij = 1;
     for (; gefaald && bij < 200; ++bij) {
       gefaald = Speelt(draaiboek, bij);
@@ -41,12 +43,16 @@ class OpmFalenTest : public OpmToets {
       EXPECT_EQ(gemeld, gefaald) << bij << "\n" << verslag_;
       EXPECT_NE(verslag_.find("- WijzigOpm"), std::string::npos) << bij;
       EXPECT_EQ(LeesBytes(paden.rlt), rlt);
+      nietVeilig |= verslag_.find("De wijziging is nog niet veilig opgeslagen\\nSchijf vol") !=
+                    std::string::npos;
       const std::string na = LeesBytes(paden.opm);
       // The remark on another field stands as it was.
       EXPECT_EQ(na.substr(96 + 10, 80), opm.substr(96 + 10, 80)) << bij;
       SchrijfBytes(paden.opm, opm);
       SchrijfBytes(paden.prs, prs);
+      std::filesystem::remove_all(paden.opm.parent_path() / "JOURNAAL");
     }
+    EXPECT_TRUE(nietVeilig);
     EXPECT_GT(bij, 8);
     EXPECT_LT(bij, 200);
   }
