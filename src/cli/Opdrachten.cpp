@@ -14,6 +14,7 @@ int MaakOngedaan(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten)
 int Herstel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Kopie(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Terugzetten(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Toon(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 
 namespace {
 
@@ -29,6 +30,7 @@ constexpr Opdracht kOpdrachten[] = {
     {"herstel", "maakt een niet voltooide bewerking ongedaan", {"SET"}, Extra::Behoud, Herstel, false, true},
     {"kopie", "maakt een veiligheidskopie", {"SET"}, Extra::Geen, Kopie},
     {"terugzetten", "zet een veiligheidskopie terug; zonder KOPIE: toont ze", {"SET", "[KOPIE]"}, Extra::Geen, Terugzetten, false, true},
+    {"toon", "toont de kaart van een persoon", {"SET", "PERSOON"}, Extra::Geen, Toon},
 };
 // clang-format on
 

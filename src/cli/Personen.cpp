@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "text/Accenten.h"
+#include "text/Getallen.h"
 #include "text/Letterlijk.h"
 #include "text/Tekens.h"
 #include "text/Unicode.h"
@@ -89,6 +90,23 @@ std::vector<std::int16_t> ZoekPersonen(PersoonLB77& persoon, const Voorvoegsels&
     if (zoeker.Past(Trim(naam))) uit.push_back(recordNr);
   }
   return uit;
+}
+
+bool VindPersoon(Hoofdmodule& hoofd, Bediener& bediener, std::string& woord) {
+  if (!std::ranges::any_of(woord, IsLetter)) return true;
+  const auto gevonden = ZoekPersonen(hoofd.Persoon, hoofd.schrijfwijze.voorvoegsels, woord);
+  if (gevonden.size() == 1) {
+    woord = GetalTekst(gevonden.front());
+    return true;
+  }
+  if (gevonden.empty()) {
+    bediener.Mislukt("Niemand gevonden met \"" + woord + "\" in de naam");
+    return false;
+  }
+  bediener.Mislukt(GetalTekst(static_cast<std::int64_t>(gevonden.size())) + " personen hebben \"" +
+                   woord + "\" in hun naam; geef een nummer:");
+  for (const std::int16_t nr : gevonden) bediener.MisluktUtf8(PersoonRegel(hoofd.Persoon, nr));
+  return false;
 }
 
 std::string PersoonRegel(PersoonLB77& persoon, std::int16_t nr) {

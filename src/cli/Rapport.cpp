@@ -51,7 +51,6 @@ class Maker {
 
   [[nodiscard]] bool MagNaar();
   [[nodiscard]] bool VindPersonen();
-  [[nodiscard]] bool VindPersoon(std::string& woord);
   void VulIn(const RapportVorm& vorm, Formulier& form);
   [[nodiscard]] bool Vul(Werk& werk, const VeldVulling& vulling);
   void NeemVerslag(Formulier& form);
@@ -78,31 +77,12 @@ bool Maker::VindPersonen() {
   for (const RapportVorm& vorm : rapport_.vormen) {
     for (const VeldVulling& vulling : vorm.velden) {
       if (vulling.wat != Vulling::Persoon) continue;
-      if (!VindPersoon(argumenten_.woorden[vulling.woord])) return false;
+      if (!VindPersoon(sessie_.Hoofd(), sessie_.bediener, argumenten_.woorden[vulling.woord])) {
+        return false;
+      }
     }
   }
   return true;
-}
-
-// A number is left to the form.
-bool Maker::VindPersoon(std::string& woord) {
-  if (!std::ranges::any_of(woord, IsLetter)) return true;
-  Hoofdmodule& hoofd = sessie_.Hoofd();
-  const auto gevonden = ZoekPersonen(hoofd.Persoon, hoofd.schrijfwijze.voorvoegsels, woord);
-  if (gevonden.size() == 1) {
-    woord = GetalTekst(gevonden.front());
-    return true;
-  }
-  if (gevonden.empty()) {
-    sessie_.bediener.Mislukt("Niemand gevonden met \"" + woord + "\" in de naam");
-    return false;
-  }
-  sessie_.bediener.Mislukt(GetalTekst(static_cast<std::int64_t>(gevonden.size())) +
-                           " personen hebben \"" + woord + "\" in hun naam; geef een nummer:");
-  for (const std::int16_t nr : gevonden) {
-    sessie_.bediener.MisluktUtf8(PersoonRegel(hoofd.Persoon, nr));
-  }
-  return false;
 }
 
 void Maker::VulIn(const RapportVorm& vorm, Formulier& form) {

@@ -152,10 +152,6 @@ TEST_F(Programmaloop, ElkeKeuzeDieTeKiezenIsToontZijnFormulier) {
       sluit
       kies SetupSysteem
       sluit
-      kies InvPersRel
-      sluit
-      kies InvPlaats
-      sluit
       kies ImportGedcom
       sluit
       bestand
@@ -185,10 +181,6 @@ TEST_F(Programmaloop, ElkeKeuzeDieTeKiezenIsToontZijnFormulier) {
       - IniFunctie
       + IniSysteem "Systeem Instellingen - Systeem"
       - IniSysteem
-      + StartRecord "Start Persoon / Relatie"
-      - StartRecord
-      + ToonPlaatsen "Toon Plaatsen"
-      - ToonPlaatsen
       + ImpGedcom "Importeer Gegevens - Gedcom"
       - ImpGedcom
       > openen "Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt|GEDCOM-bestanden (*.GED)|*.GED" -> -
@@ -220,6 +212,17 @@ TEST_F(Programmaloop, HetMenuVeiligheidToontZijnVensters) {
       + KopieTerugzetten "Veiligheidskopie Terugzetten"
       - KopieTerugzetten
     )~");
+}
+
+TEST_F(Programmaloop, TonenBegintBijPersonenOfBijPlaatsen) {
+  MaakFamilie();
+  Verwacht("kies InvPersRel\nsluit\nkies InvPlaats\nsluit\n", Sessie(), R"(
+      + MenuWindow "LB77 voor Windows"
+      + StartRecord "Start Persoon / Relatie"
+      - StartRecord
+      + ToonPlaatsen "Toon Plaatsen"
+      - ToonPlaatsen
+    )");
 }
 
 }  // namespace
