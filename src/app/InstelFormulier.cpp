@@ -19,7 +19,7 @@ void InstelFormulier::Koppel(Padvak& veld, std::string_view sectie, std::string_
 }
 
 void InstelFormulier::Koppel(Lijst& vak, std::string_view sectie, std::string_view sleutel,
-                             std::vector<std::string> waarden, int anders) {
+                             const std::vector<std::string>& waarden, int anders) {
   IniClass& ini = Hoofd().Ini;
   koppelingen_.push_back(
       {[=, &ini, &vak] {

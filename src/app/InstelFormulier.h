@@ -21,7 +21,7 @@ class InstelFormulier : public InvoerFormulier {
   // The setting holds the value that stands at the position of the choice; `anders` is the position
   // that any other value shows.
   void Koppel(Lijst& vak, std::string_view sectie, std::string_view sleutel,
-              std::vector<std::string> waarden, int anders = 0);
+              const std::vector<std::string>& waarden, int anders = 0);
   // What OK and Terug do.
   void KoppelKnoppen(Knop& OKButton, Knop& BackButton);
 

@@ -6,8 +6,8 @@
 #include "app/Hoofdmodule.h"
 #include "entry/KoppelVragen.h"
 #include "entry/Koppelingen.h"
-#include "entry/Ordenen.h"
 #include "entry/NietVeilig.h"
+#include "entry/Ordenen.h"
 #include "store/Handeling.h"
 #include "store/PersoonVelden.h"
 #include "text/Getallen.h"
@@ -41,7 +41,7 @@ void Verplaats(Hoofdmodule& hoofd, std::int16_t kind, std::int16_t oud, std::int
   MeldNietVeilig(hoofd.gesprek, handeling.Voltooi());
 }
 
-std::string Label(std::string_view wat, std::int16_t kind, std::int16_t relatie) {
+std::string Omschrijving(std::string_view wat, std::int16_t kind, std::int16_t relatie) {
   return "Kind " + GetalTekst(kind) + std::string(wat) + GetalTekst(relatie);
 }
 
@@ -67,7 +67,8 @@ std::optional<std::int16_t> OudeOuders(Hoofdmodule& hoofd, std::int16_t kind,
 void VoegKindToe(Hoofdmodule& hoofd, std::int16_t relatie) {
   if (const std::int16_t kind = VraagKind(hoofd, kKindErbij); kind > 0) {
     if (const auto oud = OudeOuders(hoofd, kind, relatie)) {
-      Verplaats(hoofd, kind, *oud, relatie, Label(" toegevoegd aan relatie ", kind, relatie));
+      Verplaats(hoofd, kind, *oud, relatie,
+                Omschrijving(" toegevoegd aan relatie ", kind, relatie));
     }
   }
   hoofd.volgers.HuidigRelatieNr = relatie;
@@ -75,14 +76,14 @@ void VoegKindToe(Hoofdmodule& hoofd, std::int16_t relatie) {
 
 void VoegKindToeZonderVraag(Hoofdmodule& hoofd, std::int16_t relatie) {
   if (const std::int16_t kind = VraagKind(hoofd, kKindErbij); kind > 0) {
-    Verplaats(hoofd, kind, 0, relatie, Label(" toegevoegd aan relatie ", kind, relatie));
+    Verplaats(hoofd, kind, 0, relatie, Omschrijving(" toegevoegd aan relatie ", kind, relatie));
   }
   hoofd.volgers.HuidigRelatieNr = relatie;
 }
 
 void HaalKindWeg(Hoofdmodule& hoofd, std::int16_t relatie, bool metKindErbij) {
   if (const std::int16_t kind = VraagKind(hoofd, metKindErbij ? kKindErbij : kKindEraf); kind > 0) {
-    Verplaats(hoofd, kind, relatie, 0, Label(" verwijderd uit relatie ", kind, relatie));
+    Verplaats(hoofd, kind, relatie, 0, Omschrijving(" verwijderd uit relatie ", kind, relatie));
   }
   hoofd.volgers.HuidigRelatieNr = relatie;
 }

@@ -83,7 +83,7 @@ void PersoonVak::ToonNamen(std::int16_t nr) {
   if (Periode) Periode->ZetTekst(bekend ? persoon.Periode(nr) : std::string());
 }
 
-std::string PersoonVak::OfOnbekend(std::string naam) const {
+std::string PersoonVak::OfOnbekend(const std::string& naam) const {
   return naam.empty() ? std::string(soort_.onbekend) : naam;
 }
 

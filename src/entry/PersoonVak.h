@@ -72,7 +72,7 @@ class PersoonVak {
 
  private:
   [[nodiscard]] bool NrVerlaten();
-  [[nodiscard]] std::string OfOnbekend(std::string naam) const;
+  [[nodiscard]] std::string OfOnbekend(const std::string& naam) const;
 
   InvoerFormulier& formulier_;
   PersoonVakSoort soort_;

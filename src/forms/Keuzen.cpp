@@ -12,7 +12,7 @@ void Verwijzing::ZetNr(int nr, std::string_view bijNul) {
 
 // Without a prompt and a name of its own the base says what the button shows already.
 std::string Verwijzing::Leesnaam() const {
-  const std::string naam = Knop::Leesnaam();
+  std::string naam = Knop::Leesnaam();
   if (Bijschrift().empty() || naam == Bijschrift()) return naam;
   return naam + " " + Bijschrift();
 }

@@ -10,7 +10,7 @@ std::string Genummerd(std::string_view naam, int nummer) {
 
 std::optional<Rijlid> OntleedRijnaam(std::string_view naam) {
   const std::size_t haak = naam.find('(');
-  if (haak == naam.npos || haak == 0 || naam.back() != ')') return std::nullopt;
+  if (haak == std::string_view::npos || haak == 0 || naam.back() != ')') return std::nullopt;
   const std::string_view cijfers = naam.substr(haak + 1, naam.size() - haak - 2);
   const int nummer = Getalwaarde(cijfers);
   if (cijfers != GetalTekst(nummer)) return std::nullopt;

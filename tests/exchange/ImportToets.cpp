@@ -102,11 +102,11 @@ std::string Remarks(Hoofdmodule& hoofd, std::int16_t begin) {
 }  // namespace
 
 std::string Ged(std::string_view regels) {
-  return "0 HEAD\n" + Regels(regels) + "0 TRLR\n";
+  return "0 HEAD\n" + TranscriptRegels(regels) + "0 TRLR\n";
 }
 
 std::string GedIn(std::string_view tekenset, std::string_view regels) {
-  return "0 HEAD\n1 CHAR " + std::string(tekenset) + "\n" + Regels(regels) + "0 TRLR\n";
+  return "0 HEAD\n1 CHAR " + std::string(tekenset) + "\n" + TranscriptRegels(regels) + "0 TRLR\n";
 }
 
 ImportToets::ImportToets() {

@@ -44,7 +44,7 @@ Keten& Keten::Tot(std::string_view naam) {
 std::string Keten::Draaiboek() const {
   std::string uit;
   for (const Schakel& schakel : schakels_) {
-    if (schakel.vorm.opDeWeg) uit += Regels(schakel.vorm.doet);
+    if (schakel.vorm.opDeWeg) uit += TranscriptRegels(schakel.vorm.doet);
   }
   return uit;
 }
@@ -56,7 +56,7 @@ std::string Keten::Verslag() const {
     const KetenVorm& vorm = schakel.vorm;
     if (!vorm.opDeWeg) continue;
     const std::string dicht = "- " + vorm.naam + "\n";
-    uit += "+ " + vorm.naam + " \"" + vorm.titel + "\"\n" + Regels(schakel.verslag);
+    uit += "+ " + vorm.naam + " \"" + vorm.titel + "\"\n" + TranscriptRegels(schakel.verslag);
     if (&schakel == &schakels_.front()) {
       slot = dicht;
     } else {

@@ -9,7 +9,7 @@
 
 namespace lb77 {
 
-std::string SpeelToets::Regels(std::string_view tekst) {
+std::string TranscriptRegels(std::string_view tekst) {
   std::string uit;
   while (!tekst.empty()) {
     const std::size_t eind = std::min(tekst.find('\n'), tekst.size());

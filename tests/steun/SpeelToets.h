@@ -13,6 +13,9 @@
 
 namespace lb77 {
 
+// The lines of a raw literal without the blanks around them, each ended by a line feed.
+[[nodiscard]] std::string TranscriptRegels(std::string_view tekst);
+
 // Scripts and transcripts are written as raw literals: blanks around a line and blank lines do not
 // count. Each text that appears is added to getoond.txt in the build folder.
 class SpeelToets : public ::testing::Test {
@@ -32,7 +35,9 @@ class SpeelToets : public ::testing::Test {
                     const Plek& plek = Plek::current());
 
   // The lines of a raw literal without the blanks around them, each ended by a line feed.
-  [[nodiscard]] static std::string Regels(std::string_view tekst);
+  [[nodiscard]] static std::string Regels(std::string_view tekst) {
+    return TranscriptRegels(tekst);
+  }
 
   // Relative paths of `bestand` are resolved against it.
   std::filesystem::path basismap_;
