@@ -138,10 +138,7 @@ void WijzigPersoon::BijLaden() {
 bool WijzigPersoon::NeemRecord() {
   nr_ = Hoofd().volgers.HuidigPersoonNr;
   bestaat_ = nr_ != -1;
-  if (bestaat_) return NeemBestaand();
-  if (!NeemVrijNummer()) return false;
-  Hoofd().Persoon.LeegPersBuffer();
-  return true;
+  return bestaat_ ? NeemBestaand() : NeemVrijNummer();
 }
 
 bool WijzigPersoon::NeemBestaand() {
@@ -156,7 +153,7 @@ bool WijzigPersoon::NeemBestaand() {
   return false;
 }
 
-// The number behind the last record, for a person who has none yet.
+// The number behind the last record, and an empty buffer, for a person who has none yet.
 bool WijzigPersoon::NeemVrijNummer() {
   const std::int32_t vrij = Hoofd().Persoon.AantalRecords() + 1;
   if (vrij < 2) return false;  // not counted, and told
@@ -165,6 +162,7 @@ bool WijzigPersoon::NeemVrijNummer() {
     return false;
   }
   nr_ = static_cast<std::int16_t>(vrij);
+  Hoofd().Persoon.LeegPersBuffer();
   RecordNr.ZetTekst(GetalTekst(nr_));
   return true;
 }
@@ -379,8 +377,10 @@ bool WijzigPersoon::Schrijf() {
   if (!persoon.Lees(nr_)) return true;
   if (nieuw) {
     velden_.ZetAlle(persoon);
-  } else {
+  } else if (velden_.Gewijzigd()) {
     velden_.ZetGewijzigde(persoon);
+  } else {
+    return true;
   }
   if (!persoon.Schrijf(nr_)) {
     Hoofd().gesprek.Meld(BerichtSoort::Geen, "Fout bij het schrijven van het Persoonsrecord");

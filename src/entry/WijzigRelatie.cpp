@@ -341,6 +341,8 @@ bool WijzigRelatie::Schrijf() {
     velden_.ZetGewijzigde(relatie);
     // kept: a record that is changed gets a mark of the three that there are.
     relatie.Zet(relatieveld::HuwSwPs.naam, GetalTekst(WetHuwLabel.Index()));
+  } else {
+    return true;
   }
   if (!relatie.Schrijf(nr_)) {
     Hoofd().gesprek.Meld(BerichtSoort::Geen, "Fout bij het schrijven van het Relatierecord");

@@ -20,12 +20,12 @@ Blok Persoon() {
               Rij({"BegrLabel", "", "BegrDatum", "BegrPltsNm", "BegrPltsNr"}),
           },
           {"", "Corr", "Datum", "Plaats", "Nummer"}),
-      Velden({"BeroepTekst"}),
-      Groep("Ouders", {Velden({
-                          "RelNrOuders",
-                          Rij({"RecordNrPa", "VoorNmPa", "AchterNmPa"}),
-                          Rij({"RecordNrMa", "VoorNmMa", "AchterNmMa"}),
-                      })}),
+      Velden({
+          "BeroepTekst",
+          "RelNrOuders",
+          Rij({"RecordNrPa", "VoorNmPa", "AchterNmPa"}),
+          Rij({"RecordNrMa", "VoorNmMa", "AchterNmMa"}),
+      }),
       Groep("Relaties", {Tabel({
                             Veld("LabelP(*)"),
                             Veld("RelNrP(*)", "Relatie", 7),
