@@ -7,8 +7,9 @@ namespace lb77::indeling {
 
 std::vector<Indeling> Alle() {
   std::vector<Indeling> uit;
-  for (std::vector<Indeling> (*gebied)() : {Sets, Instellen, Zoeken, Kaarten, Plaatsen, Wijzigen,
-                                            Opmerkingen, Bekijken, Kwartierstaat, Uitwisseling}) {
+  for (std::vector<Indeling> (*gebied)() :
+       {Sets, Instellen, Zoeken, Kaarten, Plaatsen, Wijzigen, Koppelen, Opmerkingen, Bekijken,
+        Kwartierstaat, Uitwisseling}) {
     std::vector<Indeling> deel = gebied();
     uit.insert(uit.end(), std::make_move_iterator(deel.begin()),
                std::make_move_iterator(deel.end()));

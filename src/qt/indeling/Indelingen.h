@@ -13,6 +13,7 @@ namespace lb77::indeling {
 [[nodiscard]] std::vector<Indeling> Kaarten();
 [[nodiscard]] std::vector<Indeling> Plaatsen();
 [[nodiscard]] std::vector<Indeling> Wijzigen();
+[[nodiscard]] std::vector<Indeling> Koppelen();
 [[nodiscard]] std::vector<Indeling> Opmerkingen();
 [[nodiscard]] std::vector<Indeling> Bekijken();
 [[nodiscard]] std::vector<Indeling> Kwartierstaat();

@@ -1,4 +1,7 @@
 // The remarks on the fields of a person or relation.
+#include <utility>
+
+#include "forms/Rijnaam.h"
 #include "qt/indeling/Indelingen.h"
 
 namespace lb77::indeling {
@@ -6,7 +9,18 @@ namespace lb77::indeling {
 namespace {
 
 Blok Kop() {
-  return Velden({"RecordNr", "Naam", "NaamPartner", Rij({"VeldLabel", "VeldWaarde"})});
+  return Velden({"RecordNr", Rij({"Naam", "NaamPartner"}), Rij({"VeldLabel", "VeldWaarde"})});
+}
+
+// A button for each rubric of a person, and what it leads to.
+Blok Rubrieken() {
+  constexpr int kRubrieken = 13;
+  std::vector<Blok> regels;
+  for (int nummer = 1; nummer <= kRubrieken; ++nummer) {
+    regels.push_back(
+        Rij({Veld(Genummerd("Rubriek", nummer)), Veld(Genummerd("EersteRegel", nummer))}));
+  }
+  return Rooster(std::move(regels));
 }
 
 Blok Uitvoer() {
@@ -19,10 +33,7 @@ std::vector<Indeling> Opmerkingen() {
   return {
       {"ToonPersOpm", Kolom({
                           Velden({"RecordNr", "Naam"}),
-                          Tabel({
-                              Veld("Rubriek(*)", "Rubriek"),
-                              Veld("EersteRegel(*)", "Eerste regel", 80),
-                          }),
+                          Rubrieken(),
                           Knoppen({"BackButton"}),
                       })},
       {"ToonOpm", Kolom({
