@@ -75,7 +75,7 @@ std::optional<OpmEigenaar> LeesOpmEigenaar(Hoofdmodule& hoofd, const OpmVraag& v
 OpmKop::OpmKop(Formulier& formulier)
     : RecordNr(formulier, "RecordNr"),
       Naam(formulier, "Naam"),
-      NaamPartner(formulier, "NaamPartner"),
+      NaamPartner(formulier, "NaamPartner", "en"),
       VeldLabel(formulier, "VeldLabel"),
       VeldWaarde(formulier, "VeldWaarde") {
   VeldWaarde.ZetLeesnaam("Waarde van het veld");

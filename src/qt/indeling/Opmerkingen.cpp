@@ -1,7 +1,4 @@
 // The remarks on the fields of a person or relation.
-#include <utility>
-
-#include "forms/Rijnaam.h"
 #include "qt/indeling/Indelingen.h"
 
 namespace lb77::indeling {
@@ -10,17 +7,6 @@ namespace {
 
 Blok Kop() {
   return Velden({"RecordNr", Rij({"Naam", "NaamPartner"}), Rij({"VeldLabel", "VeldWaarde"})});
-}
-
-// A button for each rubric of a person, and what it leads to.
-Blok Rubrieken() {
-  constexpr int kRubrieken = 13;
-  std::vector<Blok> regels;
-  for (int nummer = 1; nummer <= kRubrieken; ++nummer) {
-    regels.push_back(
-        Rij({Veld(Genummerd("Rubriek", nummer)), Veld(Genummerd("EersteRegel", nummer))}));
-  }
-  return Rooster(std::move(regels));
 }
 
 Blok Uitvoer() {
@@ -33,7 +19,10 @@ std::vector<Indeling> Opmerkingen() {
   return {
       {"ToonPersOpm", Kolom({
                           Velden({"RecordNr", "Naam"}),
-                          Rubrieken(),
+                          Tabel({
+                              Veld("Rubriek(*)", "Rubriek"),
+                              Veld("EersteRegel(*)", "Eerste regel", 66),
+                          }),
                           Knoppen({"BackButton"}),
                       })},
       {"ToonOpm", Kolom({
