@@ -39,6 +39,8 @@ class ToonPersoon final : public RecordKaart {
   Label ReligieLabel{*this, "ReligieLabel", "Gezindte"};
   GezindteToon Religie{*this, "Religie"};
   OpmKnop ReligieOpm{*this, "ReligieOpm", persoonrubriek::kReligie, Religie.Tekst};
+  Teller BeroepTekst{*this, "BeroepTekst", "Beroep:"};
+  OpmKnop BeroepOpm{*this, "BeroepOpm", persoonrubriek::kBeroep, BeroepTekst};
   Label OvlLabel{*this, "OvlLabel", "Overleden"};
   Teller OvlCorr{*this, "OvlCorr"};
   Teller OvlDatum{*this, "OvlDatum"};
@@ -50,20 +52,18 @@ class ToonPersoon final : public RecordKaart {
   OpmKnop BegrDatumOpm{*this, "BegrDatumOpm", persoonrubriek::kBegrDatum, BegrDatum};
   PlaatsToon BegrPlts{*this, "BegrPlts"};
   OpmKnop BegrPltsOpm{*this, "BegrPltsOpm", persoonrubriek::kBegrPlaats, BegrPlts.Nm};
-  Teller BeroepTekst{*this, "BeroepTekst", "Beroep:"};
-  OpmKnop BeroepOpm{*this, "BeroepOpm", persoonrubriek::kBeroep, BeroepTekst};
   PersoonToon Pa{*this, "RecordNrPa", "Pa", "Vader:", "Vader"};
-  PersoonToon Ma{*this, "RecordNrMa", "Ma", "Moeder:", "Moeder"};
   Verwijzing RelNrOuders{*this, "RelNrOuders", "Relatie:", "Relatie van de ouders"};
+  PersoonToon Ma{*this, "RecordNrMa", "Ma", "Moeder:", "Moeder"};
   Regels<HuwRij, 5> Partners{*this, 1};
-  Tekstblok AlgPersOpmTekst{*this, "AlgPersOpmTekst"};
+  Tekstblok AlgPersOpmTekst{*this, "AlgPersOpmTekst", "Opmerking:"};
   OpmKnop AlgPersOpm{*this, "AlgPersOpm", persoonrubriek::kAlgemeen, AlgPersOpmTekst};
   Knop VorigPersoon{*this, "VorigPersoon", "Vorige"};
   Knop VolgendPersoon{*this, "VolgendPersoon", "Volgende"};
   Knop OpmButton{*this, "OpmButton", "Opmerkingen"};
+  Knop HuwVolg{*this, "HuwVolg", "Volgorde"};
   Knop NieuwButton{*this, "NieuwButton", "&Nieuw"};
   Knop WijzigButton{*this, "WijzigButton", "&Wijzig"};
-  Knop HuwVolg{*this, "HuwVolg", "Volgorde"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 
   [[nodiscard]] KaartVraag Opnieuw() const override;

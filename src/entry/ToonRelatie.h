@@ -18,6 +18,8 @@ class ToonRelatie final : public RecordKaart {
  public:
   ToonRelatie(Hoofdmodule& hoofd, std::int16_t nr);
 
+  Teller Kindertal{*this, "Kindertal", "Kinderen:"};
+  Knop NaarKind{*this, "NaarKind", "&Kinderen"};
   Label ManLabel{*this, "ManLabel", "Man"};
   PersoonToon Man{*this, "NaarMan", "Man", "", "Man"};
   Label VrouwLabel{*this, "VrouwLabel", "Vrouw"};
@@ -44,9 +46,7 @@ class ToonRelatie final : public RecordKaart {
   Label ReligieLabel{*this, "ReligieLabel", "Gezindte"};
   GezindteToon Religie{*this, "Religie"};
   OpmKnop ReligieOpm{*this, "ReligieOpm", relatierubriek::kReligie, Religie.Tekst};
-  Teller Kindertal{*this, "Kindertal", "Kinderen:"};
-  Knop NaarKind{*this, "NaarKind", "&Kinderen"};
-  Tekstblok AlgRelOpmTekst{*this, "AlgRelOpmTekst"};
+  Tekstblok AlgRelOpmTekst{*this, "AlgRelOpmTekst", "Opmerking:"};
   OpmKnop AlgRelOpm{*this, "AlgRelOpm", relatierubriek::kAlgemeen, AlgRelOpmTekst};
   Knop VorigeRelatie{*this, "VorigeRelatie", "Vorige"};
   Knop VolgendeRelatie{*this, "VolgendeRelatie", "Volgende"};

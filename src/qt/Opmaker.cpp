@@ -314,6 +314,15 @@ void Opmaker::Rooster(const Blok& blok, QBoxLayout& in) {
   }
 }
 
+// A button with a mark is as small as it can be, beside the field that it belongs to.
+static void MaakSmal(Element& element) {
+  constexpr int kTeken = 2;
+  const std::string_view tekst = element.Bron().Bijschrift();
+  const bool teken = element.Bron().Soort() == BedieningSoort::Knop && tekst.size() == 1 &&
+                     !IsCijfer(tekst.front());
+  if (teken) ZetTekenBreedte(element.Widget(), kTeken, true);
+}
+
 void Opmaker::Cel(const Blok& blok, QGridLayout& rooster, int regel, int kolom) {
   std::vector<Element*> elementen = Elementen(blok);
   if (elementen.empty()) return;
@@ -330,6 +339,7 @@ void Opmaker::Cel(const Blok& blok, QGridLayout& rooster, int regel, int kolom) 
   QHBoxLayout* rij = NieuweRij();
   rooster.addLayout(rij, regel, 2 * kolom + 1, 1, breedte - 1);
   for (Element* element : elementen) {
+    MaakSmal(*element);
     if (element == &eerste) {
       rij->addWidget(&element->Widget());
     } else {

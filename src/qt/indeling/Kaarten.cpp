@@ -1,38 +1,47 @@
 // The cards of persons and relations, and the question where to begin.
+#include <utility>
+
 #include "qt/indeling/Indelingen.h"
 
 namespace lb77::indeling {
 
 namespace {
 
+// With Corr, Datum, Plaats, Nummer above the columns; each field has the button of its remarks behind it.
+Blok Gebeurtenissen(std::vector<Blok> regels) {
+  return Rooster(std::move(regels), {"", "Corr", "Datum", "Plaats", "Nummer"});
+}
+
 Blok Persoon() {
   return Kolom({
       Rooster({
           Rij({"RecordNr", "Geslacht"}),
           Rij({Rij({"VoorNm", "VoorNmOpm"}), Rij({"AchterNm", "AchterNmOpm"})}),
-          Rij({Rij({"GebLabel", "GebCorr", "GebDatum", "GebDatumOpm"}),
-               Rij({"GebPltsNm", "GebPltsNr", "GebPltsOpm"})}),
-          Rij({Rij({"DoopLabel", "DoopDatum", "DoopDatumOpm"}),
-               Rij({"DoopPltsNm", "DoopPltsNr", "DoopPltsOpm"})}),
-          Rij({Rij({"OvlLabel", "OvlCorr", "OvlDatum", "OvlDatumOpm"}),
-               Rij({"OvlPltsNm", "OvlPltsNr", "OvlPltsOpm"})}),
-          Rij({Rij({"BegrLabel", "BegrDatum", "BegrDatumOpm"}),
-               Rij({"BegrPltsNm", "BegrPltsNr", "BegrPltsOpm"})}),
-          Rij({Rij({"BeroepTekst", "BeroepOpm"}),
-               Rij({"ReligieLabel", "ReligieCode", "ReligieTekst", "ReligieOpm"})}),
       }),
-      Groep("Ouders", {Rooster({
-                          Rij({Rij({"RecordNrPa", "VoorNmPa", "AchterNmPa"}), "RelNrOuders"}),
-                          Rij({Rij({"RecordNrMa", "VoorNmMa", "AchterNmMa"})}),
-                      })}),
-      Groep("Relaties", {Tabel({
-                            Veld("LabelP(*)"),
-                            Veld("RelNrP(*)", "Relatie", 6),
-                            Veld("RecordNrP(*)", "Partner", 6),
-                            Veld("VoorNmP(*)", "Voornamen", 25),
-                            Veld("AchterNmP(*)", "Achternaam", 22),
-                        })}),
-      Groep("Algemene opmerking", {Rij({"AlgPersOpmTekst", "AlgPersOpm"})}),
+      Gebeurtenissen({
+          Rij({"GebLabel", "GebCorr", Rij({"GebDatum", "GebDatumOpm"}), "GebPltsNm",
+               Rij({"GebPltsNr", "GebPltsOpm"})}),
+          Rij({"DoopLabel", "", Rij({"DoopDatum", "DoopDatumOpm"}), "DoopPltsNm",
+               Rij({"DoopPltsNr", "DoopPltsOpm"})}),
+          Rij({"ReligieLabel", "ReligieCode", Rij({"ReligieTekst", "ReligieOpm"}),
+               Over(2, Rij({"BeroepTekst", "BeroepOpm"}))}),
+          Rij({"OvlLabel", "OvlCorr", Rij({"OvlDatum", "OvlDatumOpm"}), "OvlPltsNm",
+               Rij({"OvlPltsNr", "OvlPltsOpm"})}),
+          Rij({"BegrLabel", "", Rij({"BegrDatum", "BegrDatumOpm"}), "BegrPltsNm",
+               Rij({"BegrPltsNr", "BegrPltsOpm"})}),
+      }),
+      Rooster({
+          Rij({Over(2, Rij({"RecordNrPa", "VoorNmPa", "AchterNmPa"})), "RelNrOuders"}),
+          Rij({Over(2, Rij({"RecordNrMa", "VoorNmMa", "AchterNmMa"}))}),
+      }),
+      Tabel({
+          Veld("LabelP(*)"),
+          Veld("RelNrP(*)", "Relatie", 6),
+          Veld("RecordNrP(*)", "Partner", 6),
+          Veld("VoorNmP(*)", "Voornamen", 25),
+          Veld("AchterNmP(*)", "Achternaam", 22),
+      }),
+      Rooster({Rij({Rij({"AlgPersOpmTekst", "AlgPersOpm"})})}),
       Knoppen({"VorigPersoon", "VolgendPersoon", "OpmButton", "HuwVolg"},
               {"NieuwButton", "WijzigButton", "BackButton"}),
   });
@@ -44,16 +53,18 @@ Blok Relatie() {
           Rij({"RecordNr", Rij({"Kindertal", "NaarKind"})}),
           Rij({Over(2, Rij({"ManLabel", "NaarMan", "VoorNmMan", "AchterNmMan"}))}),
           Rij({Over(2, Rij({"VrouwLabel", "NaarVrouw", "VoorNmVrouw", "AchterNmVrouw"}))}),
-          Rij({Rij({"OtrLabel", "OtrDatum", "OtrDatumOpm"}),
-               Rij({"OtrPltsNm", "OtrPltsNr", "OtrPltsOpm"})}),
-          Rij({Rij({"WetHuwLabel", "HuwCorr", "WetHuwDatum", "WetHuwDatumOpm"}),
-               Rij({"WHuwPltsNm", "WHuwPltsNr", "WHuwPltsOpm"})}),
-          Rij({Rij({"HuwSoortLabel", "HuwSoortCode", "HuwSoortTekst", "HuwSoortOpm"})}),
-          Rij({Rij({"KHuwLabel", "KHuwDatum", "KHuwDatumOpm"}),
-               Rij({"KHuwPltsNm", "KHuwPltsNr", "KHuwPltsOpm"})}),
-          Rij({Rij({"ReligieLabel", "ReligieCode", "ReligieTekst", "ReligieOpm"})}),
       }),
-      Groep("Algemene opmerking", {Rij({"AlgRelOpmTekst", "AlgRelOpm"})}),
+      Gebeurtenissen({
+          Rij({"OtrLabel", "", Rij({"OtrDatum", "OtrDatumOpm"}), "OtrPltsNm",
+               Rij({"OtrPltsNr", "OtrPltsOpm"})}),
+          Rij({"WetHuwLabel", "HuwCorr", Rij({"WetHuwDatum", "WetHuwDatumOpm"}), "WHuwPltsNm",
+               Rij({"WHuwPltsNr", "WHuwPltsOpm"})}),
+          Rij({"HuwSoortLabel", "HuwSoortCode", Rij({"HuwSoortTekst", "HuwSoortOpm"})}),
+          Rij({"KHuwLabel", "", Rij({"KHuwDatum", "KHuwDatumOpm"}), "KHuwPltsNm",
+               Rij({"KHuwPltsNr", "KHuwPltsOpm"})}),
+          Rij({"ReligieLabel", "ReligieCode", Rij({"ReligieTekst", "ReligieOpm"})}),
+      }),
+      Rooster({Rij({Rij({"AlgRelOpmTekst", "AlgRelOpm"})})}),
       Knoppen({"VorigeRelatie", "VolgendeRelatie"}, {"NieuwButton", "WijzigButton", "BackButton"}),
   });
 }
