@@ -1,6 +1,7 @@
 #include "entry/DatumVak.h"
 
 #include <cstddef>
+#include <string>
 
 #include "text/Datum.h"
 
@@ -37,6 +38,12 @@ bool DatumVak::OpVerlaten() {
   for (const std::string_view melding : oordeel.meldingen) Hoofd().gesprek.Waarschuw(melding);
   ZetTekst(oordeel.tekst);
   return oordeel.geldig;
+}
+
+bool WilCorrigeren(Gesprek& gesprek, const DatumVak& eerst, const DatumVak& later,
+                   std::string_view melding) {
+  return DatumIsNa(eerst.Tekst(), later.Tekst()) &&
+         gesprek.Vraag(std::string(melding) + "\nCorrigeren ?");
 }
 
 }  // namespace lb77

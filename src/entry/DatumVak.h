@@ -28,4 +28,9 @@ class DatumVak : public InvoerVak {
   std::string getoond_;
 };
 
+// True when the first date lies behind the second and the user, asked with `melding`, wants to mend
+// that.
+[[nodiscard]] bool WilCorrigeren(Gesprek& gesprek, const DatumVak& eerst, const DatumVak& later,
+                                 std::string_view melding);
+
 }  // namespace lb77

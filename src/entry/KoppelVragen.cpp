@@ -1,6 +1,5 @@
 #include "entry/KoppelVragen.h"
 
-#include "entry/PersoonInvoer.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
@@ -27,7 +26,7 @@ PersoonKeuze::PersoonKeuze(const PersoonKeuzeSoort& soort, Hoofdmodule& hoofd)
 }
 
 void PersoonKeuze::OKButtonKlik() {
-  if (!VulNrUitNaam(Hoofd(), Persoon, "*")) {
+  if (!Persoon.VulNrUitNaam("*")) {
     ZetFocus(Persoon.VoorNm);
     return;
   }

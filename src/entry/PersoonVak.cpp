@@ -120,6 +120,28 @@ bool PersoonVak::Zoek() {
   return true;
 }
 
+bool PersoonVak::VulNrUitNaam(std::string_view geslacht) {
+  if (!RecordNr.Tekst().empty()) return true;
+  Hoofdmodule& hoofd = formulier_.Hoofd();
+  std::string voor = VoorNm.Tekst();
+  std::string achter = AchterNm.Tekst();
+  const VolgersBewaker bewaker(hoofd.volgers);
+  const std::int16_t nr = ZoekPersoonOpNaam(hoofd, voor, achter, geslacht);
+  VoorNm.ZetTekst(voor);
+  AchterNm.ZetTekst(achter);
+  RecordNr.ZetTekst(nr > 0 ? GetalTekst(nr) : std::string());
+  return nr > 0 || (voor.empty() && achter.empty());
+}
+
+bool PersoonVak::NrHoortBijNaam() const {
+  if (RecordNr.Tekst().empty()) return true;
+  std::string voor;
+  std::string achter;
+  std::string nummer;
+  HaalNaam(formulier_.Hoofd().Persoon, Nr(), voor, achter, nummer);
+  return Trim(voor) == Trim(VoorNm.Tekst()) && Trim(achter) == Trim(AchterNm.Tekst());
+}
+
 void PersoonVak::ZetZichtbaar(bool zichtbaar) {
   RecordNr.ZetZichtbaar(zichtbaar);
   VoorNm.ZetZichtbaar(zichtbaar);

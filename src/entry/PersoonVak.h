@@ -66,6 +66,12 @@ class PersoonVak {
   // Shows the names and years of a person, and leaves the number.
   void ToonNamen(std::int16_t nr);
   void MaakLeeg() { Toon(0); }
+  // Searches the person by his names when no number stands there; `geslacht` is "M", "V", or "*" for
+  // anybody. False when a name stands there and nobody was chosen. The trackers stay.
+  [[nodiscard]] bool VulNrUitNaam(std::string_view geslacht);
+  // Are the names that stand there those of the number? Without a number they are. The buffer of
+  // persons changes.
+  [[nodiscard]] bool NrHoortBijNaam() const;
   // Has the user choose a person, and shows him. False when he chose nobody.
   [[nodiscard]] bool Zoek();
   void ZetZichtbaar(bool zichtbaar);

@@ -7,7 +7,6 @@
 #include "entry/HuwRegels.h"
 #include "entry/Koppelingen.h"
 #include "entry/NietVeilig.h"
-#include "entry/PersoonInvoer.h"
 #include "entry/VolgersBewaker.h"
 #include "store/Codes.h"
 #include "store/Handeling.h"
@@ -289,13 +288,13 @@ bool WijzigPersoon::IsChronologisch() {
 }
 
 bool WijzigPersoon::ZoekOpNaam(PersoonVak& ouder, std::string_view geslacht) {
-  if (VulNrUitNaam(Hoofd(), ouder, geslacht)) return true;
+  if (ouder.VulNrUitNaam(geslacht)) return true;
   ZetFocus(ouder.VoorNm);
   return false;
 }
 
 bool WijzigPersoon::HoortBijNaam(PersoonVak& ouder, std::string_view naam) {
-  return NrHoortBijNaam(Hoofd(), ouder) ||
+  return ouder.NrHoortBijNaam() ||
          Weiger(ouder.VoorNm, "Recordnr " + std::string(naam) + " hoort niet bij Naam");
 }
 

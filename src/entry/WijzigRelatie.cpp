@@ -6,7 +6,6 @@
 #include "entry/Invoer.h"
 #include "entry/Koppelingen.h"
 #include "entry/NietVeilig.h"
-#include "entry/PersoonInvoer.h"
 #include "entry/VolgersBewaker.h"
 #include "store/Handeling.h"
 #include "store/RelatieVelden.h"
@@ -68,8 +67,8 @@ WijzigRelatie::WijzigRelatie(Hoofdmodule& hoofd)
   for (PersoonVak* partner : {&Man, &Vrouw}) {
     partner->RecordNr.BijBetreden([this, partner] { OudeTekst = partner->RecordNr.Tekst(); });
   }
-  Man.RecordNr.BijVerlaten([this] { return NrVerlaten(DeMan()); });
-  Vrouw.RecordNr.BijVerlaten([this] { return NrVerlaten(DeVrouw()); });
+  Man.RecordNr.BijVerlaten([this] { return RecordNrVerlaten(DeMan()); });
+  Vrouw.RecordNr.BijVerlaten([this] { return RecordNrVerlaten(DeVrouw()); });
   HuwCorr.BijVerlaten([this] {
     KHuwPlts.ZetZichtbaar(!HuwCorr.IsTussen());
     return true;
@@ -214,7 +213,7 @@ bool WijzigRelatie::Weiger(Bediening& veld, std::string_view melding) {
 }
 
 // What was accepted counts as what stood there: the focus may come back without an event.
-bool WijzigRelatie::NrVerlaten(const Partner& partner) {
+bool WijzigRelatie::RecordNrVerlaten(const Partner& partner) {
   const std::string tekst = partner.vak.RecordNr.Tekst();
   if (tekst == OudeTekst) return true;
   ToonPartnerLabels(kMan, kVrouw);
@@ -295,13 +294,13 @@ bool WijzigRelatie::IsChronologisch() {
 }
 
 bool WijzigRelatie::ZoekOpNaam(PersoonVak& partner) {
-  if (VulNrUitNaam(Hoofd(), partner, "*")) return true;
+  if (partner.VulNrUitNaam("*")) return true;
   ZetFocus(partner.VoorNm);
   return false;
 }
 
 bool WijzigRelatie::HoortBijNaam(const Partner& partner) {
-  return NrHoortBijNaam(Hoofd(), partner.vak) ||
+  return partner.vak.NrHoortBijNaam() ||
          Weiger(partner.vak.VoorNm,
                 "Recordnr " + std::string(partner.naam) + " hoort niet bij Naam");
 }

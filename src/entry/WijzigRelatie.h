@@ -76,7 +76,7 @@ class WijzigRelatie final : public InvoerFormulier {
   void ToonKindertal();
 
   // Leaving a field.
-  [[nodiscard]] bool NrVerlaten(const Partner& partner);
+  [[nodiscard]] bool RecordNrVerlaten(const Partner& partner);
   [[nodiscard]] bool MagSekse(const Partner& partner);
 
   // The chain of Opslaan, in its order; False ends it, with the focus where it is to be.
