@@ -54,6 +54,13 @@ constexpr FormulierRij kRijen[] = {
        p.Hoofd().volgers.HuidigRelatieNr = 2;
        return Maak<WijzigRelatie>(p.Hoofd());
      }},
+    {"KindErbij", [](Programma& p) { return Maak<PersoonKeuze>(kKindErbij, p.Hoofd()); }},
+    {"KindEraf", [](Programma& p) { return Maak<PersoonKeuze>(kKindEraf, p.Hoofd()); }},
+    {"KindSchuif", [](Programma& p) { return Maak<PersoonKeuze>(kKindSchuif, p.Hoofd()); }},
+    {"VraagPartner", [](Programma& p) { return Maak<PersoonKeuze>(kVraagPartner, p.Hoofd()); }},
+    {"HuwSchuif", [](Programma& p) { return Maak<HuwSchuif>(p.Hoofd()); }},
+    {"VolgnrKind", [](Programma& p) { return Maak<VolgnummerVraag>(kVolgnrKind, p.Hoofd()); }},
+    {"VolgNrHuw", [](Programma& p) { return Maak<VolgnummerVraag>(kVolgNrHuw, p.Hoofd()); }},
     {"ToonPlaatsen", [](Programma& p) { return Maak<ToonPlaatsen>(p.Hoofd()); }},
     {"VraagPlaatsnm", [](Programma& p) { return Maak<VraagPlaatsnm>(p.Hoofd()); }},
     {"VraagPlaatsnr", [](Programma& p) { return Maak<VraagPlaatsnr>(p.Hoofd()); }},
