@@ -57,6 +57,7 @@ class Sterf(unittest.TestCase):
             "STERF_MAP": str(werk / "DATA" / "FAM")})
         aantal = int(telling.read_text())
         self.assertGreater(aantal, 40, "the library did not see the operations")
+        self.aantal, self.heel = aantal, inhoud(werk)
         return sorted(set(range(1, 13)) | set(range(13, aantal - 12, aantal // 12)) |
                       set(range(aantal - 12, aantal + 1)))
 
@@ -64,9 +65,11 @@ class Sterf(unittest.TestCase):
         for bij in self.operaties():
             werk, gestorven = self.sterf(bij, "ongedaan")
             self.assertTrue(gestorven, f"operation {bij}")
-            uit = lb77(werk, "herstel", "FAM")
-            if uit.returncode == 0 and b"Niets" not in uit.stderr + uit.stdout:
-                self.assertEqual(inhoud(werk), self.voor, f"operation {bij}")
+            lb77(werk, "herstel", "FAM")
+            na = inhoud(werk)
+            # Behind the end of the action only its name in the journal was still to change.
+            if na != self.heel or bij < self.aantal - 2:
+                self.assertEqual(na, self.voor, f"operation {bij}")
             self.assertEqual(lb77(werk, "zoek", "FAM", "*").returncode, 0, f"operation {bij}")
 
     def test_behouden_laat_een_set_die_opent(self):
