@@ -1,10 +1,12 @@
 #include "qt/Hoofdvenster.h"
 
 #include <QGuiApplication>
+#include <QKeySequence>
 #include <QMenuBar>
 #include <QScreen>
 #include <QStatusBar>
 #include <algorithm>
+#include <string_view>
 
 #include "qt/Vertaling.h"
 #include "qt/Voorblad.h"
@@ -14,6 +16,15 @@ namespace lb77 {
 namespace {
 
 constexpr QSize kBeginmaat{900, 560};
+
+// The entries that have a key of their own.
+struct Sneltoets {
+  std::string_view keuze;
+  QKeySequence::StandardKey toets;
+};
+constexpr Sneltoets kSneltoetsen[] = {
+    {"VeiligOngedaan", QKeySequence::Undo},
+};
 
 std::vector<MenuKeuze*> Keuzes(const Formulier& formulier) {
   std::vector<MenuKeuze*> uit;
@@ -88,6 +99,9 @@ void Hoofdvenster::MaakKeuze(MenuKeuze& keuze, Bezorger& bezorger) {
     connect(actie, &QAction::triggered, this, [&keuze, &bezorger] { bezorger.Klik(keuze); });
   }
   actie->setObjectName(NaarQt(keuze.Naam()));
+  for (const Sneltoets& sneltoets : kSneltoetsen) {
+    if (sneltoets.keuze == keuze.Naam()) actie->setShortcut(sneltoets.toets);
+  }
   actie->setMenuRole(QAction::NoRole);
   keuzes_.push_back({&keuze, actie});
 }

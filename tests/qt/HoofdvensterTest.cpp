@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QMenuBar>
+#include <QTest>
 
 #include "Vensterproef.h"
 #include "qt/Hoofdvenster.h"
@@ -15,6 +16,7 @@ class Menuvorm final : public Formulier {
   Menuvorm() : Formulier("MenuWindow", "LB77 voor Windows") {
     Open.BijKlik([this] { log.emplace_back("open"); });
     Einde.BijKlik([this] { Sluit(); });
+    Ongedaan.BijKlik([this] { log.emplace_back("ongedaan"); });
   }
 
   MenuKeuze Bestand{*this, "MenuBestand", "&Bestand", ""};
@@ -23,6 +25,7 @@ class Menuvorm final : public Formulier {
   MenuKeuze Gebruiker{*this, "SetupGebruiker", "&Gebruiker", "ZetIni"};
   MenuKeuze Einde{*this, "KeuzeAfsluiten", "&Afsluiten", "MenuBestand"};
   MenuKeuze Help{*this, "MenuHelp", "&Help", ""};
+  MenuKeuze Ongedaan{*this, "VeiligOngedaan", "&Ongedaan", "MenuHelp"};
   Statusbalk Status{*this, "Statusbalk"};
 
   using Formulier::Sluit;
@@ -52,6 +55,16 @@ TEST_F(HoofdvensterTest, DeMenusStaanZoalsHetFormulierZegt) {
          Actie("KeuzeAfsluiten").trigger();
        }});
   EXPECT_TRUE(vorm.Gesloten());
+}
+
+TEST_F(HoofdvensterTest, OngedaanHeeftEenToetsVanZichzelf) {
+  Voer(vorm, {[&] {
+                EXPECT_EQ(Actie("VeiligOngedaan").shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Z));
+                EXPECT_TRUE(Actie("OpenSet").shortcut().isEmpty());
+                QTest::keyClick(&Hoofd(), Qt::Key_Z, Qt::ControlModifier);
+              },
+              [&] { Actie("KeuzeAfsluiten").trigger(); }});
+  EXPECT_THAT(vorm.log, testing::ElementsAre("ongedaan"));
 }
 
 TEST_F(HoofdvensterTest, EenKeuzeVoertHaarHandelingUit) {
