@@ -14,6 +14,9 @@
 namespace lb77 {
 namespace {
 
+// What the settings leave beside their file: the one being written, and one that was cut.
+constexpr std::string_view kResten[] = {"LIJNBOOM.TMP", "LIJNBOOM.OUD"};
+
 // The same file, or the same place where none is yet.
 bool IsZelfde(const std::filesystem::path& bestand, const std::filesystem::path& ander) {
   const std::filesystem::path gevonden = VindPad(ander);
@@ -22,6 +25,16 @@ bool IsZelfde(const std::filesystem::path& bestand, const std::filesystem::path&
   const std::filesystem::path a = std::filesystem::weakly_canonical(bestand, code);
   const std::filesystem::path b = std::filesystem::weakly_canonical(gevonden, code);
   return !a.empty() && a == b;
+}
+
+// Is it that directory, or does it lie anywhere below it?
+bool LigtIn(const std::filesystem::path& bestand, const std::filesystem::path& map) {
+  std::error_code code;
+  std::filesystem::path plek = std::filesystem::weakly_canonical(bestand, code);
+  for (; plek.has_relative_path(); plek = plek.parent_path()) {
+    if (IsZelfde(plek, map)) return true;
+  }
+  return false;
 }
 
 }  // namespace
@@ -52,6 +65,10 @@ std::string BeschermdeRol(const std::filesystem::path& bestand,
   for (const std::string_view naam : {kIniBestand, kIniReserve}) {
     if (IsZelfde(bestand, programmaMap / naam)) return "het bestand met instellingen";
   }
+  for (const std::string_view naam : kResten) {
+    if (IsZelfde(bestand, programmaMap / naam)) return "een reserve van de instellingen";
+  }
+  if (LigtIn(bestand, programmaMap / "KOPIE")) return "van een veiligheidskopie";
   const int aantal = ini.AantalBestandenSets();
   for (int i = 1; i <= aantal; ++i) {
     const std::string set = ini.bestandenset(i);
@@ -60,6 +77,7 @@ std::string BeschermdeRol(const std::filesystem::path& bestand,
     for (const auto& pad : {paden.prs, paden.rlt, paden.plt, paden.opm, paden.centraal}) {
       if (IsZelfde(bestand, pad)) return "een bestand van bestandenset " + set;
     }
+    if (LigtIn(bestand, paden.map / "JOURNAAL")) return "van het journaal van bestandenset " + set;
   }
   return {};
 }

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "entry/InvoerVak.h"
+#include "store/Codes.h"
 
 namespace lb77 {
 
@@ -16,7 +17,7 @@ class CorrectieVak : public InvoerVak {
                         std::string_view bijschrift = {});
 
   // "T": the date beside it is the end of a period.
-  [[nodiscard]] bool IsTussen() const { return Tekst() == "T"; }
+  [[nodiscard]] bool IsTussen() const { return IsCode(Tekst(), correctie::kTussen); }
 
  protected:
   void OpBetreden() override { begin_ = Tekst(); }

@@ -3,6 +3,7 @@
 #include <cstddef>
 
 #include "forms/Gesprek.h"
+#include "store/Codes.h"
 #include "store/PersoonLB77.h"
 #include "store/RelatieLB77.h"
 #include "text/Getallen.h"
@@ -12,7 +13,7 @@ namespace lb77 {
 std::vector<HuwRegel> LeesHuwRegels(PersoonLB77& persoon, RelatieLB77& relatie, Gesprek& gesprek,
                                     std::int16_t persoonNr) {
   if (!persoon.Lees(persoonNr)) return {};
-  const bool isMan = persoon.Geslacht() == "M";
+  const bool isMan = IsCode(persoon.Geslacht(), geslacht::kMan);
   const std::int32_t vervolg = -std::int32_t{persoon.relatie3()};
   Huwtab tab{};
   if (!persoon.VulHuwtab(persoonNr, tab).heel) {

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "store/Codes.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
@@ -81,7 +82,7 @@ class LijstSchrijver {
     } else if (!klasse_.Lees(vervolg_)) {
       return false;
     }
-    klasse_.Zet(Lijst::kMerk, "Z");
+    klasse_.Zet(Lijst::kMerk, std::string(1, correctie::kVervolg));
     for (std::size_t i = 0; i < Lijst::kInRecord; ++i) ZetPlaats(i, rest[i]);
     return klasse_.Schrijf(vervolg_);
   }

@@ -92,7 +92,9 @@ void WijzigPersoon::BindVelden() {
   Geslacht.ZetMaxLengte(veld::Geslacht.breedte);
   velden_.Bind(
       veld::Geslacht,
-      [this](const std::string& waarde) { Geslacht.ZetTekst(waarde.empty() ? "O" : waarde); },
+      [this](const std::string& waarde) {
+        Geslacht.ZetTekst(waarde.empty() ? std::string(1, geslacht::kOnbekend) : waarde);
+      },
       [this] { return Geslacht.Tekst(); });
   velden_.Bind(veld::Voornaam, VoorNm);
   velden_.Bind(veld::Achternaam, AchterNm);

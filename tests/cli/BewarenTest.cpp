@@ -87,7 +87,11 @@ TEST_F(BewarenToets, UitWeigertWatVanHetProgrammaIs) {
       {map_ / "LIJNBOOM.INI", "het bestand met instellingen"},
       {map_ / "lb77_ini.bak", "het bestand met instellingen"},
       {map_ / "DATA" / "." / "FAMILIE" / "FAMILIE.PRS", "een bestand van bestandenset FAMILIE"},
-      {map_ / "DATA" / "ANDER" / "ANDER.OPM", "een bestand van bestandenset ANDER"}};
+      {map_ / "DATA" / "ANDER" / "ANDER.OPM", "een bestand van bestandenset ANDER"},
+      {map_ / "LIJNBOOM.OUD", "een reserve van de instellingen"},
+      {map_ / "KOPIE" / "ANDER" / "x", "van een veiligheidskopie"},
+      {map_ / "DATA" / "ANDER" / "JOURNAAL" / "00000001.HND",
+       "van het journaal van bestandenset ANDER"}};
   for (const auto& [pad, rol] : gevallen) {
     OpdrachtArgumenten argumenten = Verslag();
     argumenten.naar = pad;
