@@ -1,5 +1,6 @@
 // lb77-cli: the same program without a screen.
 #include <CLI/CLI.hpp>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <iterator>
@@ -7,6 +8,7 @@
 #include "app/Start.h"
 #include "cli/Gebruik.h"
 #include "cli/Opdrachten.h"
+#include "store/SysteemFout.h"
 #include "text/Unicode.h"
 
 namespace lb77 {
@@ -181,6 +183,9 @@ int Hoofd(int argc, char** argv) {
     return MeldGebruik(GebruiksFout(app, fout));
   } catch (const PadFout& fout) {
     return MeldGebruik(fout.tekst);
+  } catch (const std::filesystem::filesystem_error& fout) {
+    std::cerr << "lb77-cli: " << WindowsNaarUtf8(FoutVan(fout.code()).tekst) << '\n';
+    return 1;
   } catch (const std::exception& fout) {
     std::cerr << "lb77-cli: " << fout.what() << '\n';
     return 1;

@@ -1,7 +1,8 @@
 #include "entry/OpmDelen.h"
 
-#include "app/Hoofdmodule.h"
+#include "forms/Gesprek.h"
 #include "store/Codes.h"
+#include "store/Gegevens.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"
 
@@ -41,23 +42,25 @@ bool KomtVoor(Gesprek& gesprek, Klasse& klasse, std::int16_t nr, std::string_vie
   return true;
 }
 
-std::optional<OpmEigenaar> LeesPersoon(Hoofdmodule& hoofd, std::int16_t nr) {
-  PersoonLB77& persoon = hoofd.Persoon;
-  if (!KomtVoor(hoofd.gesprek, persoon, nr, "Persoonsnummer", "persoonsrecord")) {
-    hoofd.volgers.HuidigPersoonNr = -1;
+std::optional<OpmEigenaar> LeesPersoon(const Gegevens& gegevens, Gesprek& gesprek,
+                                       std::int16_t nr) {
+  PersoonLB77& persoon = gegevens.persoon;
+  if (!KomtVoor(gesprek, persoon, nr, "Persoonsnummer", "persoonsrecord")) {
+    gegevens.volgers.HuidigPersoonNr = -1;
     return std::nullopt;
   }
   return OpmEigenaar{persoon.NaamVoluit(), {}, persoon.OpmCode(), persoon.OpmRecord()};
 }
 
-std::optional<OpmEigenaar> LeesRelatie(Hoofdmodule& hoofd, std::int16_t nr) {
-  RelatieLB77& relatie = hoofd.Relatie;
-  if (!KomtVoor(hoofd.gesprek, relatie, nr, "Relatienummer", "relatierecord")) {
-    hoofd.volgers.HuidigRelatieNr = -1;
+std::optional<OpmEigenaar> LeesRelatie(const Gegevens& gegevens, Gesprek& gesprek,
+                                       std::int16_t nr) {
+  RelatieLB77& relatie = gegevens.relatie;
+  if (!KomtVoor(gesprek, relatie, nr, "Relatienummer", "relatierecord")) {
+    gegevens.volgers.HuidigRelatieNr = -1;
     return std::nullopt;
   }
-  return OpmEigenaar{PartnerNaam(hoofd.Persoon, relatie.ManNr()),
-                     PartnerNaam(hoofd.Persoon, relatie.VrouwNr()), relatie.OpmCode(),
+  return OpmEigenaar{PartnerNaam(gegevens.persoon, relatie.ManNr()),
+                     PartnerNaam(gegevens.persoon, relatie.VrouwNr()), relatie.OpmCode(),
                      relatie.OpmRecord()};
 }
 
@@ -67,9 +70,10 @@ bool IsAlgemeen(std::int16_t rubriek) {
 
 }  // namespace
 
-std::optional<OpmEigenaar> LeesOpmEigenaar(Hoofdmodule& hoofd, const OpmVraag& vraag) {
-  return vraag.BijPersoon() ? LeesPersoon(hoofd, vraag.eigenaar)
-                            : LeesRelatie(hoofd, vraag.eigenaar);
+std::optional<OpmEigenaar> LeesOpmEigenaar(const Gegevens& gegevens, Gesprek& gesprek,
+                                           const OpmVraag& vraag) {
+  return vraag.BijPersoon() ? LeesPersoon(gegevens, gesprek, vraag.eigenaar)
+                            : LeesRelatie(gegevens, gesprek, vraag.eigenaar);
 }
 
 OpmKop::OpmKop(Formulier& formulier)

@@ -13,7 +13,8 @@
 
 namespace lb77 {
 
-class Hoofdmodule;
+class Gesprek;
+struct Gegevens;
 
 // The owner of a remark, as far as a dialog shows and needs him.
 struct OpmEigenaar {
@@ -25,7 +26,8 @@ struct OpmEigenaar {
 
 // Reads the person or relation that the question is about. When there is none that is told, and
 // HuidigPersoonNr or HuidigRelatieNr is -1.
-[[nodiscard]] std::optional<OpmEigenaar> LeesOpmEigenaar(Hoofdmodule& hoofd, const OpmVraag& vraag);
+[[nodiscard]] std::optional<OpmEigenaar> LeesOpmEigenaar(const Gegevens& gegevens, Gesprek& gesprek,
+                                                         const OpmVraag& vraag);
 
 // The lines above a remark: its owner and the field.
 struct OpmKop {

@@ -49,7 +49,8 @@ bool ToonOpm::Bestaat(std::int16_t regel) {
 }
 
 void ToonOpm::Toon() {
-  std::optional<OpmEigenaar> eigenaar = LeesOpmEigenaar(Hoofd(), vraag_);
+  std::optional<OpmEigenaar> eigenaar =
+      LeesOpmEigenaar(Hoofd().MaakGegevens(), Hoofd().gesprek, vraag_);
   if (!eigenaar) {
     Sluit();
     return;

@@ -80,8 +80,8 @@ void ToonPersOpm::BijLaden() {
     Sluit();
     return;
   }
-  const std::optional<OpmEigenaar> eigenaar =
-      LeesOpmEigenaar(Hoofd(), MaakOpmVraag(nr_, persoonrubriek::kAlgemeen, {}));
+  const std::optional<OpmEigenaar> eigenaar = LeesOpmEigenaar(
+      Hoofd().MaakGegevens(), Hoofd().gesprek, MaakOpmVraag(nr_, persoonrubriek::kAlgemeen, {}));
   if (!eigenaar) {
     Sluit();
     return;

@@ -21,7 +21,8 @@ WijzigOpm::WijzigOpm(Hoofdmodule& hoofd, OpmVraag vraag, std::int16_t regel)
 }
 
 void WijzigOpm::BijLaden() {
-  const std::optional<OpmEigenaar> eigenaar = LeesOpmEigenaar(Hoofd(), vraag_);
+  const std::optional<OpmEigenaar> eigenaar =
+      LeesOpmEigenaar(Hoofd().MaakGegevens(), Hoofd().gesprek, vraag_);
   if (!eigenaar) {
     Sluit();
     return;
