@@ -44,7 +44,7 @@ SysteemFout VervangAlle(Bestandenset& bestanden,
 
 // Half a replacement is none.
 void DraaiTerug(Bestandenset& bestanden, std::string_view label) {
-  const std::shared_ptr<Journaal> journaal = bestanden.HetJournaal();
+  const std::shared_ptr<Journaal>& journaal = bestanden.HetJournaal();
   const auto laatste = journaal ? journaal->LaatsteTeOngedaan() : std::nullopt;
   if (laatste && laatste->label == label) {
     static_cast<void>(journaal->MaakOngedaan(laatste->nummer));

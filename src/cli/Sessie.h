@@ -26,7 +26,7 @@ class Sessie {
   // Starts up, opens the set, and does in the main window what `inMenu` does. The exit status: 1
   // when any of it failed, which has been told. A set that is only read must be complete, one that
   // is written not in use elsewhere, unless `toch`; and its last action has come to its end.
-  [[nodiscard]] int Voer(std::string_view set, Omgang omgang, const InMenu& inMenu,
+  [[nodiscard]] int Voer(std::string_view naam, Omgang omgang, const InMenu& inMenu,
                          bool toch = false);
   // The same with the set that happens to be in use.
   [[nodiscard]] int Voer(const InMenu& inMenu);
@@ -34,7 +34,7 @@ class Sessie {
   [[nodiscard]] int VoerZonderVenster(const std::function<void()>& doe);
 
   // Is the set in the list, and when it is only read complete? Told when it is not.
-  [[nodiscard]] bool Kent(std::string_view set, Omgang omgang);
+  [[nodiscard]] bool Kent(std::string_view naam, Omgang omgang);
 
   [[nodiscard]] MenuWindow& Menu() { return programma_.Menu(); }
   [[nodiscard]] Hoofdmodule& Hoofd() { return programma_.Hoofd(); }
