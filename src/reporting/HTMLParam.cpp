@@ -9,8 +9,8 @@ namespace lb77 {
 namespace {
 
 // The society's page; without an address its line is left out.
-constexpr std::string_view kHSKHome = "";
-constexpr std::string_view kHSKHomeTekst = "";
+constexpr std::string_view kHSKHome{};
+constexpr std::string_view kHSKHomeTekst{};
 
 std::string Voorbeeld(std::string_view sjabloon, const std::string& adres) {
   std::string uit(sjabloon);
