@@ -8,7 +8,7 @@ KwstTxtParam::KwstTxtParam(Hoofdmodule& hoofd, KwstOpties& opties)
     : KetenFormulier("KwstTxtParam", "Kwartierstaat Uitvoeropties", hoofd),
       Proband(*this, "Proband"),
       Nummers(*this, hoofd.gesprek),
-      Titels(*this),
+      Titels(*this, kSectie),
       opties_(opties) {
   ZetHulpOnderwerp("kwartierstaat");
   ZetEersteVeld(Nummers.KwNrProband);
@@ -20,7 +20,7 @@ void KwstTxtParam::BijLaden() {
   Proband.Toon(Hoofd().Persoon, opties_.KwProbandNr);
   Nummers.Laad();
   keuzen_.Laad(Hoofd().Ini);
-  Titels.Laad(Hoofd().Ini, keuzen_.Sectie(), "Kwartierstaat van " + Proband.Naam());
+  Titels.Laad(Hoofd().Ini, "Kwartierstaat van " + Proband.Naam());
 }
 
 void KwstTxtParam::OKButtonKlik() {
@@ -30,7 +30,7 @@ void KwstTxtParam::OKButtonKlik() {
   opties_.teksten = Titels.Teksten(ini, Hoofd().klok.Nu().jaar);
   if (BewaartVelden(ini)) {
     keuzen_.Bewaar(ini);
-    Titels.Bewaar(ini, keuzen_.Sectie());
+    Titels.Bewaar(ini);
     ini.IniSchrijf();
   }
   Sluit();

@@ -38,10 +38,12 @@ class KwstTxtParam final : public KetenFormulier {
   void BijLaden() override;
 
  private:
+  static constexpr std::string_view kSectie = "KWST";
+
   void OKButtonKlik();
 
   KwstOpties& opties_;
-  OptieTabel keuzen_{"KWST",
+  OptieTabel keuzen_{kSectie,
                      {{BroerZusBox, "SoortUitv", 1, opties_.KwBroerZus},
                       {OokNrsBox, "OokNummers", true, opties_.KwOokNrs},
                       {OokOpmBox, "OokOpm", true, opties_.KwOokOpm},

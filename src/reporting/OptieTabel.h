@@ -9,6 +9,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/IniClass.h"
 #include "app/JaNeeVak.h"
 #include "forms/Velden.h"
 #include "text/Getallen.h"

@@ -11,36 +11,37 @@ constexpr std::string_view kProgrammaRegel = "Gemaakt met LB77 voor Windows";
 
 }  // namespace
 
-TitelVelden::TitelVelden(Formulier& formulier)
+TitelVelden::TitelVelden(Formulier& formulier, std::string_view sectie)
     : CopyrightBox(formulier, "CopyrightBox", "Copyright vermelden ?"),
       OokLB77Box(formulier, "OokLB77Box", "Ook LB77 voor Windows vermelden ?"),
       TitelTekst(formulier, "TitelTekst", "Titel:", kPaginaTekst),
       Inleiding1(formulier, "Inleiding1", "Inleiding:", kPaginaTekst),
       Inleiding2(formulier, "Inleiding2", {}, kPaginaTekst),
-      Inleiding3(formulier, "Inleiding3", {}, kPaginaTekst) {}
+      Inleiding3(formulier, "Inleiding3", {}, kPaginaTekst),
+      keuzen_(sectie, {{CopyrightBox, "OokCopyRt", true, copyright_},
+                       {OokLB77Box, "OokLB77", true, programma_}}) {}
 
-void TitelVelden::Laad(IniClass& ini, std::string_view sectie, std::string_view titel) {
+void TitelVelden::Laad(const IniClass& ini, std::string_view titel) {
   TitelTekst.ZetTekst(titel);
   Inleiding1.ZetTekst("");
   Inleiding2.ZetTekst("");
   Inleiding3.ZetTekst("");
-  LeesKeuze(ini, sectie, {CopyrightBox, "OokCopyRt", true});
-  LeesKeuze(ini, sectie, {OokLB77Box, "OokLB77", true});
+  keuzen_.Laad(ini);
 }
 
 PaginaTeksten TitelVelden::Teksten(IniClass& ini, int jaar) const {
+  keuzen_.Neem();
   PaginaTeksten teksten;
   teksten.titel = PaginaTekst(TitelTekst.Tekst());
   teksten.inleiding = {PaginaTekst(Inleiding1.Tekst()), PaginaTekst(Inleiding2.Tekst()),
                        PaginaTekst(Inleiding3.Tekst())};
-  if (CopyrightBox.Ja()) teksten.copyrightRegel = PaginaTekst(CopyrightRegel(ini, jaar));
-  if (OokLB77Box.Ja()) teksten.programmaRegel = kProgrammaRegel;
+  if (copyright_) teksten.copyrightRegel = PaginaTekst(CopyrightRegel(ini, jaar));
+  if (programma_) teksten.programmaRegel = kProgrammaRegel;
   return teksten;
 }
 
-void TitelVelden::Bewaar(IniClass& ini, std::string_view sectie) {
-  BewaarKeuze(ini, sectie, {CopyrightBox, "OokCopyRt", true});
-  BewaarKeuze(ini, sectie, {OokLB77Box, "OokLB77", true});
+void TitelVelden::Bewaar(IniClass& ini) const {
+  keuzen_.Bewaar(ini);
 }
 
 std::string PaginaTekst(std::string_view tekst) {

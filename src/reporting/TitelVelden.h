@@ -7,19 +7,22 @@
 #include "forms/Rij.h"
 #include "forms/Velden.h"
 #include "reporting/HTMLPagina.h"
+#include "reporting/OptieTabel.h"
 
 namespace lb77 {
 
 class Hoofdmodule;
 
-struct TitelVelden {
-  explicit TitelVelden(Formulier& formulier);
+class TitelVelden {
+ public:
+  // `sectie` of the settings keeps the two boxes.
+  TitelVelden(Formulier& formulier, std::string_view sectie);
 
   // Title as given, no introduction, the two boxes from the settings.
-  void Laad(IniClass& ini, std::string_view sectie, std::string_view titel);
+  void Laad(const IniClass& ini, std::string_view titel);
   // The texts that the fields ask for; `jaar` goes into the copyright line.
   [[nodiscard]] PaginaTeksten Teksten(IniClass& ini, int jaar) const;
-  void Bewaar(IniClass& ini, std::string_view sectie);
+  void Bewaar(IniClass& ini) const;
 
   JaNeeVak CopyrightBox;
   JaNeeVak OokLB77Box;
@@ -27,6 +30,11 @@ struct TitelVelden {
   Tekstvak Inleiding1;
   Tekstvak Inleiding2;
   Tekstvak Inleiding3;
+
+ private:
+  bool copyright_ = false;
+  bool programma_ = false;
+  OptieTabel keuzen_;
 };
 
 // The text cut to the 81 characters that a report keeps of it.

@@ -10,7 +10,7 @@ namespace {
 class Titelvorm final : public Formulier {
  public:
   Titelvorm() : Formulier("Titelvorm", "Titels") {}
-  TitelVelden Velden{*this};
+  TitelVelden Velden{*this, "KWST"};
 };
 
 class TitelVeldenToets : public FamilieToets {
@@ -23,7 +23,7 @@ TEST_F(TitelVeldenToets, LaadtDeTitelEnDeBewaardeKeuzen) {
     hoofd.Ini.IniZet("KWST", "OokCopyRt", "N");
     hoofd.Ini.IniZet("KWST", "OokLB77", "");
     vorm_.Velden.Inleiding2.ZetTekst("van de vorige keer");
-    vorm_.Velden.Laad(hoofd.Ini, "KWST", "Kwartierstaat van Jan");
+    vorm_.Velden.Laad(hoofd.Ini, "Kwartierstaat van Jan");
     EXPECT_EQ(vorm_.Velden.TitelTekst.Tekst(), "Kwartierstaat van Jan");
     EXPECT_EQ(vorm_.Velden.Inleiding2.Tekst(), "");
     EXPECT_FALSE(vorm_.Velden.CopyrightBox.Ja());
@@ -33,7 +33,7 @@ TEST_F(TitelVeldenToets, LaadtDeTitelEnDeBewaardeKeuzen) {
 
 TEST_F(TitelVeldenToets, NoemtDeGebruikerInDeCopyrightregel) {
   Stil([this](Hoofdmodule& hoofd) {
-    vorm_.Velden.Laad(hoofd.Ini, "KWST", "Titel");
+    vorm_.Velden.Laad(hoofd.Ini, "Titel");
     vorm_.Velden.CopyrightBox.ZetJa(true);
     hoofd.Ini.IniZet("Gebruiker", "Voornaam", "");
     hoofd.Ini.IniZet("Gebruiker", "Naam", "van Dam");
@@ -55,7 +55,8 @@ TEST_F(TitelVeldenToets, EenKeuzeWeetWatEenOnbekendeWaardeBetekent) {
     JaNeeVak& vak = vorm_.Velden.CopyrightBox;
     const auto lees = [&](std::string_view waarde, bool anders) {
       hoofd.Ini.IniZet("KWST", "HTML", waarde);
-      LeesKeuze(hoofd.Ini, "KWST", {vak, "HTML", anders});
+      bool doel = false;
+      OptieTabel("KWST", {{vak, "HTML", anders, doel}}).Laad(hoofd.Ini);
       return vak.Ja();
     };
     EXPECT_TRUE(lees("J", true));
@@ -64,8 +65,16 @@ TEST_F(TitelVeldenToets, EenKeuzeWeetWatEenOnbekendeWaardeBetekent) {
     EXPECT_TRUE(lees("J", false));
     EXPECT_FALSE(lees("N", false));
     EXPECT_FALSE(lees("?", false));
-    BewaarKeuze(hoofd.Ini, "KWST", {vak, "HTML", false});
-    EXPECT_EQ(hoofd.Ini.IniWaarde("KWST", "HTML"), "N");
+  });
+}
+
+TEST_F(TitelVeldenToets, BewaartDeTweeKeuzenOnderHunSleutels) {
+  Stil([this](Hoofdmodule& hoofd) {
+    vorm_.Velden.Laad(hoofd.Ini, "Titel");
+    vorm_.Velden.CopyrightBox.ZetJa(false);
+    vorm_.Velden.Bewaar(hoofd.Ini);
+    EXPECT_EQ(hoofd.Ini.IniWaarde("KWST", "OokCopyRt"), "N");
+    EXPECT_EQ(hoofd.Ini.IniWaarde("KWST", "OokLB77"), "J");
   });
 }
 
