@@ -9,7 +9,7 @@ namespace {
 constexpr Rapport kKwartierstaat{"TekstKwst",
                                  {{{"KwstTxtPrs", {{{"RecordNr", Vulling::Persoon, 1}}}},
                                    {"KwstTxtParam", {{{"InHTMLBox", Vulling::Html}}}, true},
-                                   {"KwHTMLParam", kLinkVelden}}}};
+                                   {"KwHTMLParam", {{{"", Vulling::Links}}}}}}};
 
 }  // namespace
 

@@ -10,6 +10,7 @@
 #include "cli/Sessie.h"
 #include "cli/Werkmap.h"
 #include "output/ToonTekst.h"
+#include "reporting/HTMLParam.h"
 #include "text/Getallen.h"
 #include "text/Pad.h"
 #include "text/Tekens.h"
@@ -52,7 +53,8 @@ class Maker {
   [[nodiscard]] bool MagNaar();
   [[nodiscard]] bool VindPersonen();
   void VulIn(const RapportVorm& vorm, Formulier& form);
-  [[nodiscard]] bool Vul(Werk& werk, const VeldVulling& vulling);
+  [[nodiscard]] bool Vul(Werk& werk, const Formulier& form, const VeldVulling& vulling);
+  [[nodiscard]] bool VulLinks(Werk& werk, const Formulier& form);
   void NeemVerslag(Formulier& form);
 
   const Rapport& rapport_;
@@ -90,7 +92,7 @@ void Maker::VulIn(const RapportVorm& vorm, Formulier& form) {
   bool goed = true;
   for (const VeldVulling& vulling : vorm.velden) {
     if (vulling.wat == Vulling::Niets) break;
-    if (!Vul(werk, vulling)) goed = false;
+    if (!Vul(werk, form, vulling)) goed = false;
   }
   for (const std::string& zet : argumenten_.zet) {
     if (!vorm.metZet) break;
@@ -101,7 +103,7 @@ void Maker::VulIn(const RapportVorm& vorm, Formulier& form) {
   if (goed) werk.Druk("OKButton");
 }
 
-bool Maker::Vul(Werk& werk, const VeldVulling& vulling) {
+bool Maker::Vul(Werk& werk, const Formulier& form, const VeldVulling& vulling) {
   switch (vulling.wat) {
     case Vulling::Niets:
       break;
@@ -110,11 +112,21 @@ bool Maker::Vul(Werk& werk, const VeldVulling& vulling) {
       return werk.Zet(vulling.veld, argumenten_.woorden[vulling.woord]);
     case Vulling::Html:
       return werk.Zet(vulling.veld, argumenten_.html ? "Ja" : "Nee");
-    case Vulling::AlleenIngesteld:
-      return !sessie_.Hoofd().Ini.IniWaarde("INTERNET", vulling.sleutel).empty() ||
-             werk.Zet(vulling.veld, "");
+    case Vulling::Links:
+      return VulLinks(werk, form);
   }
   return true;
+}
+
+bool Maker::VulLinks(Werk& werk, const Formulier& form) {
+  const auto* links = dynamic_cast<const HTMLParam*>(&form);
+  if (!links) return false;
+  bool goed = true;
+  for (const HTMLParam::Link& link : links->Links()) {
+    const bool ingesteld = !sessie_.Hoofd().Ini.IniWaarde("INTERNET", link.tag).empty();
+    if (!ingesteld && !werk.Zet(link.veld.Naam(), "")) goed = false;
+  }
+  return goed;
 }
 
 void Maker::NeemVerslag(Formulier& form) {

@@ -11,25 +11,25 @@ namespace lb77 {
 
 // What goes into a field.
 enum class Vulling {
-  Niets,           // no field: the row ends here
-  Woord,           // a word of the command line, by its index
-  Persoon,         // the same, where a name stands for the number of the only person who has it
-  Html,            // "Ja" with --html, else "Nee"
-  AlleenIngesteld  // nothing when the setting of [INTERNET] is empty: a sample is for who sees it
+  Niets,    // no field: the row ends here
+  Woord,    // a word of the command line, by its index
+  Persoon,  // the same, where a name stands for the number of the only person who has it
+  Html,     // "Ja" with --html, else "Nee"
+  Links     // of a dialog of links: nothing where the settings have none, since the sample
+            // that such a field shows is for who sees it
 };
 
 struct VeldVulling {
   std::string_view veld;
   Vulling wat = Vulling::Niets;
   std::size_t woord = 0;
-  std::string_view sleutel = {};
 };
 
 // The fields of a form in the order in which they are filled; OK goes behind them. The choices of
 // --zet are made on the form that says so.
 struct RapportVorm {
   std::string_view formulier;
-  std::array<VeldVulling, 5> velden = {};
+  std::array<VeldVulling, 3> velden = {};
   bool metZet = false;
 };
 
@@ -37,14 +37,6 @@ struct Rapport {
   std::string_view menuKeuze;
   std::array<RapportVorm, 4> vormen;  // an empty name ends them
 };
-
-// The fields of every dialog of links.
-inline constexpr std::array<VeldVulling, 5> kLinkVelden{
-    {{"EmailAdres", Vulling::AlleenIngesteld, 0, "Email"},
-     {"EmailTekst", Vulling::AlleenIngesteld, 0, "EmailLabel"},
-     {"HomePageURL", Vulling::AlleenIngesteld, 0, "HomePage"},
-     {"URLTekstTekst", Vulling::AlleenIngesteld, 0, "HomePageLink"},
-     {"URLLabelTekst", Vulling::AlleenIngesteld, 0, "HomePageLabel"}}};
 
 // Works the forms; what the viewer would show goes where the command line says. The exit status.
 [[nodiscard]] int MaakRapport(const Rapport& rapport, const Omgeving& omgeving,

@@ -31,18 +31,18 @@ HTMLParam::HTMLParam(const HTMLParamSoort& soort, Hoofdmodule& hoofd, PaginaTeks
 }
 
 void HTMLParam::BijLaden() {
-  for (const LinkRij& rij : rijen_) {  // the address comes first: a sample tells it
-    const std::string waarde = Hoofd().Ini.IniWaarde("INTERNET", rij.tag);
-    rij.veld.ZetTekst(waarde.empty() ? Voorbeeld(rij.voorbeeld, EmailAdres.Tekst()) : waarde);
+  for (const Link& link : links_) {  // the address comes first: a sample tells it
+    const std::string waarde = Hoofd().Ini.IniWaarde("INTERNET", link.tag);
+    link.veld.ZetTekst(waarde.empty() ? Voorbeeld(link.voorbeeld, EmailAdres.Tekst()) : waarde);
   }
 }
 
 void HTMLParam::OKButtonKlik() {
   IniClass& ini = Hoofd().Ini;
   const bool bewaar = BewaartVelden(ini);
-  for (const LinkRij& rij : rijen_) {
-    rij.tekst = PaginaTekst(rij.veld.Tekst());
-    if (bewaar && !rij.tekst.empty()) ini.IniZet("INTERNET", rij.tag, rij.tekst);
+  for (const Link& link : links_) {
+    link.tekst = PaginaTekst(link.veld.Tekst());
+    if (bewaar && !link.tekst.empty()) ini.IniZet("INTERNET", link.tag, link.tekst);
   }
   teksten_.hskHome = kHSKHome;
   teksten_.hskHomeTekst = kHSKHomeTekst;

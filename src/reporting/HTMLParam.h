@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -33,19 +34,20 @@ class HTMLParam final : public KetenFormulier {
   Knop OKButton{*this, "OKButton", "&OK"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 
- protected:
-  void BijLaden() override;
-
- private:
   // One link text: its field, its key in section INTERNET, where it goes, and the sample that the
   // field shows when there is none. The address stands in a sample as '*'.
-  struct LinkRij {
+  struct Link {
     Tekstvak& veld;
     std::string_view tag;
     std::string& tekst;
     std::string_view voorbeeld;
   };
+  [[nodiscard]] std::span<const Link> Links() const { return links_; }
 
+ protected:
+  void BijLaden() override;
+
+ private:
   static const std::string_view kLabelVoor;
 
   void OKButtonKlik();
@@ -53,13 +55,12 @@ class HTMLParam final : public KetenFormulier {
 
   HTMLParamSoort soort_;
   PaginaTeksten& teksten_;
-  std::array<LinkRij, 5> rijen_{
-      {{EmailAdres, "Email", teksten_.email, "naam@example.org"},
-       {EmailTekst, "EmailLabel", teksten_.emailTekst, "Schrijf me... (*)"},
-       {HomePageURL, "HomePage", teksten_.homePage, "index.htm"},
-       {URLTekstTekst, "HomePageLink", teksten_.homePageTekst,
-        "mijn home page (http://www.example.org)"},
-       {URLLabelTekst, "HomePageLabel", teksten_.homePageLabel, "Naar"}}};
+  std::array<Link, 5> links_{{{EmailAdres, "Email", teksten_.email, "naam@example.org"},
+                              {EmailTekst, "EmailLabel", teksten_.emailTekst, "Schrijf me... (*)"},
+                              {HomePageURL, "HomePage", teksten_.homePage, "index.htm"},
+                              {URLTekstTekst, "HomePageLink", teksten_.homePageTekst,
+                               "mijn home page (http://www.example.org)"},
+                              {URLLabelTekst, "HomePageLabel", teksten_.homePageLabel, "Naar"}}};
 };
 
 }  // namespace lb77
