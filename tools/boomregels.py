@@ -17,10 +17,13 @@ HOOFDMODULE_MAG = {
 # The main window is made by the program alone.
 ZONDER_RIJ = {"MenuWindow"}
 KLASSE = re.compile(r"\b(?:class|struct)\s+(\w+)(\s+final)?\s*(?::\s*([^;{()]+))?\{")
-GEBEURTENIS = re.compile(
-    r"\b(\w+)(?:\([^()]*\))?\.Bij(Klik|Dubbelklik|Verlaten|Wijziging|Keuze|Betreden)\("
-    r"\s*\[[^\]]*\]\s*(?:\([^()]*\)\s*)?\{\s*(?:return\s+)?"
-    r"(\w+?)(Klik|Dubbelklik|Verlaten|Wijziging|Keuze|Betreden)\(")
+# What is hung on an event and has another name: where it is declared, and the reason.
+BEHANDELAAR_MAG = {
+    "Sluit": ("src/forms/Formulier", "closes the form, and nothing more"),
+    "VeldToetsIn": ("src/entry/VeldToets", "the keys that every entry field has"),
+    "Geldig": ("src/ancestors/KwstVelden", "the form asks the same of the field"),
+}
+GEBEURTENIS = re.compile(r"\bBij(Klik|Dubbelklik|Verlaten|Wijziging|Betreden|Toets)\(")
 
 
 class Klasse:
@@ -123,7 +126,7 @@ def regel_indeling(boom):
 
 def met_bedieningen(boom):
     """The classes that are controls, hold controls, or are forms."""
-    soorten = boom.erft("Bediening") | {"Rij"}
+    soorten = boom.erft("Bediening") | {"Rij", "Regels"}
     groepen = set()
     vorige = -1
     while vorige != len(groepen):
@@ -154,12 +157,79 @@ def regel_hoofdmodule(boom):
             yield stam + ".h", 1, "staat in HOOFDMODULE_MAG van tools/boomregels.py: niet meer nodig"
 
 
+def sluithaak(code, begin):
+    """Where the bracket closes that was opened before `begin`."""
+    diepte = 1
+    for m in re.compile(r"[][(){}]").finditer(code, begin):
+        diepte += 1 if m.group() in "[({" else -1
+        if diepte == 0:
+            return m.start()
+    return len(code)
+
+
+def ontvanger(code, plaats):
+    """The names before the event that begins there: of Partners(rij).RelNrP. these two."""
+    namen = []
+    while m := re.search(r"(?:\.|->)$", code[max(0, plaats - 2):plaats]):
+        plaats -= len(m.group())
+        while plaats and code[plaats - 1] in ")]":
+            diepte = 1
+            while diepte and plaats > 1:
+                plaats -= 1
+                diepte += (code[plaats - 1] in ")]") - (code[plaats - 1] in "([")
+            plaats -= 1
+        m = re.search(r"\w*$", code[max(0, plaats - 99):plaats])
+        plaats -= len(m.group())
+        naam = m.group().strip("_")
+        if naam and naam != "this":
+            namen.insert(0, naam[0].upper() + naam[1:])
+    return namen
+
+
+def lambdalijf(tekst):
+    """The statements of a lambda; None for anything else."""
+    if not tekst.startswith("["):
+        return None
+    kop = sluithaak(tekst, 1) + 1
+    open_ = tekst.find("{", kop)
+    return tekst[open_ + 1:sluithaak(tekst, open_ + 1)].strip() if open_ > 0 else None
+
+
 def regel_behandelaars(boom):
     """A handler is named after the control that it hangs on, and the event."""
+    gebruikt = set()
     for pad, bron in sorted(boom.bronnen.items()):
         for m in GEBEURTENIS.finditer(bron.code) if bron.is_lijf else ():
-            if m[3] + m[4] != m[1] + m[2]:
-                yield pad, bron.regel(m.start()), f"{m[3]}{m[4]} hoort {m[1]}{m[2]} te heten"
+            namen = ontvanger(bron.code, m.start())
+            hangt = bron.code[m.end():sluithaak(bron.code, m.end())].strip()
+            if not namen and not hangt.startswith("["):
+                continue  # where the event is declared, or a form's own override
+            goed = {"".join(namen[i:]) + m[1] for i in range(len(namen))} or {m[1]}
+            fout = behandelaar_fout(lambdalijf(hangt), goed, gebruikt)
+            if fout:
+                yield pad, bron.regel(m.start()), fout
+    for sleutel in sorted(set(BEHANDELAAR_MAG) - gebruikt):
+        kop = BEHANDELAAR_MAG[sleutel][0] + ".h"
+        if kop in boom.bronnen:
+            yield kop, 1, f"{sleutel} in BEHANDELAAR_MAG van tools/boomregels.py: niet meer nodig"
+
+
+def behandelaar_fout(lijf, goed, gebruikt):
+    """What is wrong with the body of a handler; None when nothing is. One call on a part is fine."""
+    naam_hoort = f"hoort {sorted(goed, key=len)[-1]} te heten"
+    if lijf is None:
+        return f"deze behandelaar is geen lambda; een functie {naam_hoort}"
+    zin = re.sub(r"\bthis\s*->\s*", "", lijf.rstrip("; \n"))
+    if ";" in zin or re.match(r"(if|for|while|switch)\b", zin):
+        return f"meer dan een opdracht: de behandelaar {naam_hoort}"
+    m = re.match(r"(?:return\s+)?(?:\w+::)*(\w+)\(", zin)
+    naam = m[1][0].upper() + m[1][1:] if m else None
+    if naam is None or naam in goed:
+        return None
+    if naam in BEHANDELAAR_MAG:
+        gebruikt.add(naam)
+        return None
+    return f"{m[1]} {naam_hoort}"
 
 
 def regel_leesmij(boom):

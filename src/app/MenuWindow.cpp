@@ -149,11 +149,13 @@ MenuWindow::MenuWindow(Hoofdmodule& hoofd)
 void MenuWindow::Hang(std::string_view naam, std::function<void()> start) {
   const std::optional<std::size_t> rij = VindRij(naam);
   if (!rij || kMenu[*rij].werking != Werking::Start) return;
-  keuzes_[*rij].BijKlik([this, start = std::move(start)] {
-    start();
-    ZetMenu();
-    if (hoofd_.Ini.EindeGevraagd()) Sluit();
-  });
+  keuzes_[*rij].BijKlik([this, start = std::move(start)] { KeuzesKlik(start); });
+}
+
+void MenuWindow::KeuzesKlik(const std::function<void()>& start) {
+  start();
+  ZetMenu();
+  if (hoofd_.Ini.EindeGevraagd()) Sluit();
 }
 
 void MenuWindow::ZetMenu() {

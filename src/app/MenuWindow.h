@@ -42,6 +42,7 @@ class MenuWindow final : public Formulier {
   [[nodiscard]] bool MagSluiten() override;
 
  private:
+  void KeuzesKlik(const std::function<void()>& start);
   void OpenLaatsteSet();
   void Afsluiten();
   // Puts the position in the settings; True when it was another one.

@@ -27,34 +27,16 @@ Koppelingen Koppel(Hoofdmodule& hoofd) {
 
 }  // namespace
 
-PartnerRij::PartnerRij(Formulier& formulier, int nummer)
-    : LabelP(formulier, Genummerd("LabelP", nummer), "Partner " + GetalTekst(nummer)),
-      RelNrP(formulier, Genummerd("RelNrP", nummer)),
-      RecordNrP(formulier, Genummerd("RecordNrP", nummer)),
-      VoorNmP(formulier, Genummerd("VoorNmP", nummer)),
-      AchterNmP(formulier, Genummerd("AchterNmP", nummer)) {}
-
-void PartnerRij::ZetZichtbaar(bool zichtbaar) {
-  LabelP.ZetZichtbaar(zichtbaar);
-  for (Teller* deel : {&RelNrP, &RecordNrP, &VoorNmP, &AchterNmP}) deel->ZetZichtbaar(zichtbaar);
-}
-
 WijzigPersoon::WijzigPersoon(Hoofdmodule& hoofd)
     : InvoerFormulier("WijzigPersoon", "Wijzig Persoon", hoofd) {
   ZetEersteVeld(Geslacht);
   ZetLeesnamen();
   BindVelden();
   Geslacht.ZetFilter(InHoofdletters);
-  Geslacht.BijBetreden([this] {
-    OudGeslacht = Geslacht.Tekst();
-    geweigerd_ = false;
-  });
+  Geslacht.BijBetreden([this] { GeslachtBetreden(); });
   Geslacht.BijVerlaten([this] { return GeslachtVerlaten(); });
   for (CorrectieVak* corr : {&GebCorr, &OvlCorr}) {
-    corr->BijVerlaten([this] {
-      ToonPeriodes();
-      return true;
-    });
+    corr->BijVerlaten([this] { return CorrVerlaten(); });
   }
   RelNrOuders.BijVerlaten([this] { return RelNrOudersVerlaten(); });
   Opslaan.BijKlik([this] { OpslaanKlik(); });
@@ -213,6 +195,11 @@ bool WijzigPersoon::Weiger(Bediening& veld, std::string_view melding) {
 }
 
 // The text of a function key has passed no filter. A damaged letter that nobody touched is let go.
+void WijzigPersoon::GeslachtBetreden() {
+  OudGeslacht = Geslacht.Tekst();
+  geweigerd_ = false;
+}
+
 bool WijzigPersoon::GeslachtVerlaten() {
   if (Geslacht.Tekst() == OudGeslacht) return true;
   const std::string geslacht = Hoofdletters(Geslacht.Tekst());
@@ -231,6 +218,11 @@ bool WijzigPersoon::GeslachtVerlaten() {
 }
 
 // The focus goes to the button that leads back: the parents are known now.
+bool WijzigPersoon::CorrVerlaten() {
+  ToonPeriodes();
+  return true;
+}
+
 bool WijzigPersoon::RelNrOudersVerlaten() {
   const std::int16_t relatie = RelNrOuders.Nr();
   if (relatie != 0 && !Hoofd().Relatie.Lees(relatie)) return false;

@@ -24,6 +24,9 @@ class KetenFormulier : public InvoerFormulier {
   void Stap(Formulier&& formulier);
   // Shows a finished report in the viewer.
   void ToonTekstbestand(const std::filesystem::path& pad, std::string_view titel, bool inHTML);
+
+ private:
+  void TerugKlik();
 };
 
 }  // namespace lb77

@@ -136,14 +136,41 @@ class Behandelaars(Boomregel):
         for regel in ("OKButton.BijKlik([this] { OKButtonKlik(); });",
                       "Naar(rij).BijKlik([this, rij] { NaarKlik(rij); });",
                       "Nr.BijVerlaten([this] { return NrVerlaten(); });",
+                      "Partners(rij).Nr.BijKlik([this] { PartnersNrKlik(); });",
+                      "vorige_->BijKlik([this] { VorigeKlik(); });",
+                      "keuzes_[*rij].BijKlik([this, doe = std::move(doe)] { KeuzesKlik(doe); });",
+                      "Nr.BijVerlaten([this, nrVerlaten] { return nrVerlaten(Nr.Tekst()); });",
+                      "Naam.BijWijziging([this] { OKButton.ZetIngeschakeld(true); });",
+                      "Naam.BijBetreden([this, naam] { oud_ = naam->Tekst(); });",
+                      "BijVerlaten([this] { return Verlaten(); });",
+                      "} void X::BijToets(ToetsGebeurtenis& toets) { Ga(1); Ga(2);",
                       "BackButton.BijKlik([this] { Sluit(); });"):
             self.schoon(boomregels.regel_behandelaars, self.met(regel))
 
     def test_een_andere_naam(self):
         for regel, goed in (("OKButton.BijKlik([this] { KlaarKlik(); });", "OKButtonKlik"),
                             ("Naar(rij).BijKlik([this, rij] { GaKlik(rij); });", "NaarKlik"),
-                            ("Nr.BijVerlaten([this] { return NrKlik(); });", "NrVerlaten")):
+                            ("Nr.BijVerlaten([this] { return NrKlik(); });", "NrVerlaten"),
+                            ("Vorige.BijKlik([this] { Stap(-1, Vorige); });", "VorigeKlik"),
+                            ("Pa.Nr.BijKlik([this] { this->Naar(Pa.Nr.Nr(), {}); });", "PaNrKlik"),
+                            ("Nr.BijVerlaten([this] { Zoek(); return true; });", "NrVerlaten"),
+                            ("Nr.BijBetreden([this] { if (leeg_) Nr.Wis(); });", "NrBetreden"),
+                            ("Nr.BijToets([this](ToetsGebeurtenis& t) { Kijk(t); });", "NrToets"),
+                            ("Nr.BijKlik(std::bind(&X::Ga, this));", "NrKlik"),
+                            ("BijVerlaten([this] { return Geldt(); });", "Verlaten"),
+                            ("knop->BijDubbelklik([this, knop] { Ga(*knop); });",
+                             "KnopDubbelklik")):
             self.verwacht(boomregels.regel_behandelaars, self.met(regel), "src/app/X.cpp", 2, goed)
+
+
+    def test_een_uitzondering_die_niet_meer_nodig_is(self):
+        oud = boomregels.BEHANDELAAR_MAG
+        boomregels.BEHANDELAAR_MAG = {"Ga": ("src/app/Y", "reason")}
+        self.addCleanup(setattr, boomregels, "BEHANDELAAR_MAG", oud)
+        hangt = self.met("Nr.BijKlik([this] { Ga(); });")
+        self.schoon(boomregels.regel_behandelaars, hangt | {"src/app/Y.h": ""})
+        self.verwacht(boomregels.regel_behandelaars, {"src/app/Y.h": ""}, "src/app/Y.h", 1,
+                      "niet meer nodig")
 
 
 class Leesmij(Boomregel):
