@@ -2,11 +2,15 @@
 
 #include <cstddef>
 #include <iterator>
+#include <memory>
 #include <optional>
 #include <utility>
 
 #include "app/Bestandensets.h"
+#include "store/Bestandenset.h"
+#include "store/Journaal.h"
 #include "text/Getallen.h"
+#include "text/Letterlijk.h"
 
 namespace lb77 {
 
@@ -109,6 +113,7 @@ constexpr MenuRij kMenu[] = {
     {"VeiligGeschiedenis", "&Geschiedenis", "MenuVeiligheid"},
     {"VeiligKopie", "Veiligheidskopie &maken", "MenuVeiligheid"},
     {"VeiligTerugzetten", "Veiligheidskopie &terugzetten", "MenuVeiligheid"},
+    {"VeiligPlaats", "&Plaats van de kopieën"_w, "MenuVeiligheid"},
     {"MenuHelp", "&Help", "", Menu},
     {"Handleid", "&Handleiding", "MenuHelp", Geen},
     {"AboutLB77", "&Over LB77 voor Windows", "MenuHelp"},
@@ -133,6 +138,13 @@ bool Toegestaan(Stand stand, const Hoofdmodule& hoofd) {
       return hoofd.ActieveSetNaam != kGeenSetAanwezig;
   }
   return true;
+}
+
+// The action that would be undone, for the status line.
+std::string TeOngedaan(const Bestandenset& bestanden) {
+  const std::shared_ptr<Journaal>& journaal = bestanden.HetJournaal();
+  const auto laatste = journaal ? journaal->LaatsteTeOngedaan() : std::nullopt;
+  return laatste ? "Maakt ongedaan: " + laatste->label + " (" + laatste->tijd + ")" : std::string();
 }
 
 }  // namespace
@@ -162,6 +174,7 @@ void MenuWindow::ZetMenu() {
   for (std::size_t i = 0; i < std::size(kMenu); ++i) {
     const bool werkt = kMenu[i].werking == Menu || keuzes_[i].HeeftKlik();
     keuzes_[i].ZetIngeschakeld(werkt && Toegestaan(kMenu[i].stand, hoofd_));
+    if (kMenu[i].naam == "VeiligOngedaan") keuzes_[i].ZetToelichting(TeOngedaan(hoofd_.bestanden));
   }
 }
 

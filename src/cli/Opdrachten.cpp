@@ -25,11 +25,11 @@ constexpr Opdracht kOpdrachten[] = {
     {"importeer", "leest een GEDCOM-bestand in", {"SET"}, Extra::Bestand, Importeer, false, true},
     {"kwartierstaat", "schrijft de Kwartierstaat van een persoon", {"SET", "PERSOON"}, Extra::Rapport, Kwartierstaat},
     {"zoek", "zoekt personen op een deel van hun naam", {"SET", "NAAM"}, Extra::Geen, Zoek},
-    {"geschiedenis", "toont de bewerkingen van een set", {"SET"}, Extra::Geen, ToonGeschiedenis},
+    {"geschiedenis", "toont de bewerkingen van een set, of wat nummer N wijzigde", {"SET", "[N]"}, Extra::Geen, ToonGeschiedenis},
     {"ongedaan", "maakt de laatste bewerking ongedaan, of alle t/m nummer N", {"SET", "[N]"}, Extra::Geen, MaakOngedaan, false, true},
     {"herstel", "maakt een niet voltooide bewerking ongedaan", {"SET"}, Extra::Behoud, Herstel, false, true},
-    {"kopie", "maakt een veiligheidskopie", {"SET"}, Extra::Geen, Kopie},
-    {"terugzetten", "zet een veiligheidskopie terug; zonder KOPIE: toont ze", {"SET", "[KOPIE]"}, Extra::Geen, Terugzetten, false, true},
+    {"kopie", "maakt een veiligheidskopie", {"SET"}, Extra::Kopie, Kopie},
+    {"terugzetten", "zet een veiligheidskopie terug; zonder KOPIE: toont ze", {"SET", "[KOPIE]"}, Extra::Terug, Terugzetten, false, true},
     {"toon", "toont de kaart van een persoon", {"SET", "PERSOON"}, Extra::Geen, Toon},
 };
 // clang-format on

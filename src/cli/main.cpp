@@ -71,6 +71,13 @@ void VoegWoordenToe(CLI::App& sub, const Opdracht& opdracht, Regel& regel) {
   if (opdracht.extra == Extra::Behoud) {
     sub.add_flag("--behoud", regel.behoud, "laat staan wat er staat");
   }
+  if (opdracht.extra == Extra::Kopie) {
+    sub.add_option("--naar", regel.naar, "maak de kopie in deze map")->type_name("MAP");
+    sub.add_flag("--bewaar", regel.bewaar, "ook de volgende kopieën");
+  }
+  if (opdracht.extra == Extra::Terug) {
+    sub.add_option("--van", regel.naar, "ook uit deze map")->type_name("MAP");
+  }
   if (opdracht.extra == Extra::Rapport) {
     sub.add_flag("--html", regel.html, "schrijf HTML");
     sub.add_option("--uit", regel.naar, "schrijf naar dit bestand")->type_name("BESTAND");

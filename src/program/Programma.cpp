@@ -10,6 +10,7 @@
 #include "app/IniSysteem.h"
 #include "app/IniVoorkeur.h"
 #include "app/IniVoorvoeg.h"
+#include "app/KopiePlaats.h"
 #include "app/KopieTerugzetten.h"
 #include "app/NieuweSet.h"
 #include "app/Ongedaan.h"
@@ -64,6 +65,7 @@ void Programma::HangOp() {
   menu_.Hang("VeiligGeschiedenis", [this, &gesprek] { gesprek.Toon<Geschiedenis>(hoofd_); });
   menu_.Hang("VeiligKopie", [this, &gesprek] { MaakVeiligheidskopie(KopieVan(hoofd_), gesprek); });
   menu_.Hang("VeiligTerugzetten", [this, &gesprek] { gesprek.Toon<KopieTerugzetten>(hoofd_); });
+  menu_.Hang("VeiligPlaats", [this, &gesprek] { gesprek.Toon<KopiePlaats>(hoofd_); });
   menu_.Hang("AboutLB77", [&gesprek] { gesprek.Toon<OverLB77Form>(); });
 }
 
