@@ -4,6 +4,8 @@ A rule takes a Boom and yields (path, line, text).
 """
 import re
 
+import toetsnamen
+
 # A body file that takes the whole session, and is no form and no control. With its reason.
 HOOFDMODULE_MAG = {
     "src/app/Bestandensets": "what the forms of the file sets do alike, start-up included",
@@ -47,11 +49,6 @@ class Boom:
             vorige = len(uit)
             uit |= {k.naam for k in self.klassen if uit.intersection(k.ouders)}
         return uit
-
-    def letterlijk(self, begin):
-        """All literals of the sources below a path, without their quotes."""
-        return {tekst.strip('"') for pad, bron in self.bronnen.items() if pad.startswith(begin)
-                for _, tekst, _ in bron.letterlijk}
 
 
 def lees_klassen(bron):
@@ -112,16 +109,28 @@ def regel_alle_formulieren(boom):
             yield k.bron.pad, k.regel, f"{k.naam} ontbreekt in de lijst van alle formulieren"
 
 
+def rijnamen(bron, patroon):
+    """Yields (line, name) of the rows of a table: what `patroon` finds in the source, comments and
+    literals apart, when it stands in no argument of something else."""
+    ruw = "\n".join(bron.regels)
+    for m in re.finditer(patroon, ruw):
+        voor = bron.code[:m.start()]
+        if bron.code[m.start()] == "{" and voor.count("(") == voor.count(")"):
+            yield bron.regel(m.start()), m[1]
+
+
 def regel_indeling(boom):
     """Every row of the list has a layout, or else the window looks like nobody thought about it."""
-    indelingen = boom.letterlijk("src/qt/indeling/")
+    indelingen = {naam for pad, bron in boom.bronnen.items() if pad.startswith("src/qt/indeling/")
+                  for _, naam in rijnamen(bron, r'\{\s*"(\w+)",\s*\w+\(')}
     for pad, bron in sorted(boom.bronnen.items()):
         if not re.match(r"src/program/formulieren/\w+\.cpp$", pad):
             continue
-        for nr, regel in enumerate(bron.regels, 1):
-            m = re.match(r'\s*\{"(\w+)",', regel)
-            if m and m[1] not in indelingen:
-                yield pad, nr, f"{m[1]} heeft geen indeling in src/qt/indeling"
+        for nr, naam in rijnamen(bron, r"\{\s*([^\s,{}]+),\s*\["):
+            if not re.fullmatch(r'"\w+"', naam):
+                yield pad, nr, f"{naam}: de naam van een formulier staat hier letterlijk"
+            elif naam.strip('"') not in indelingen:
+                yield pad, nr, f"{naam.strip(chr(34))} heeft geen indeling in src/qt/indeling"
 
 
 def met_bedieningen(boom):
@@ -238,10 +247,13 @@ def regel_leesmij(boom):
     for pad, bron in boom.bronnen.items():
         if bron.is_bron:
             woorden.update(re.findall(r"\w+", bron.code))
-            woorden.update(w for _, tekst, _ in bron.letterlijk for w in re.findall(r"\w+", tekst))
+            # A literal is a name when it is one word; the words of a sentence name nothing.
+            woorden.update(naam[1] for _, tekst, _ in bron.letterlijk
+                           if (naam := re.fullmatch(r'"(\w+)"', tekst)))
             woorden.add(pad.split("/")[-1].split(".")[0])
     for lijst in (boom.wortel / "src").rglob("CMakeLists.txt"):
-        woorden.update(re.findall(r"\w+", lijst.read_text(encoding="utf-8")))
+        tekst = re.sub(r"#[^\n]*", "", lijst.read_text(encoding="utf-8"))
+        woorden.update(re.findall(r"\w+", tekst))
     for leesmij in sorted((boom.wortel / "src").rglob("README.md")):
         naam = leesmij.relative_to(boom.wortel).as_posix()
         for nr, regel in enumerate(leesmij.read_text(encoding="utf-8").split("\n"), 1):
@@ -255,14 +267,32 @@ def bestaat(boom, map_, stuk, woorden):
     if re.fullmatch(r"[\w/]+/", stuk):
         return any((van / stuk).is_dir() for van in (map_, boom.wortel / "src", boom.wortel))
     if re.search(r"\.(h|cpp|md|txt)$", stuk):
-        return any(True for van in (map_, boom.wortel / "src") for _ in van.rglob(stuk.strip("/")))
-    deel = re.search(r"\.\.\.|…|\*", stuk) is not None
-    return all(any(w in woord for woord in woorden) if deel else w in woorden
-               for w in re.findall(r"\w+", stuk))
+        # A bare name lies beside the README or below it; another's is named by its path.
+        van = map_.rglob(stuk) if "/" not in stuk else (boom.wortel / "src").glob(stuk.strip("/"))
+        return any(True for _ in van)
+    rest = r"(?:\.\.\.|…|\*)"
+    return all(past(re.sub(rest, "…", w), woorden)
+               for w in re.findall(rf"\w*(?:{rest}\w*)+|\w+", stuk))
+
+
+def past(woord, woorden):
+    """Is it one of the words, "…" standing for the rest of one?"""
+    if "…" not in woord:
+        return woord in woorden
+    vorm = re.compile(re.escape(woord).replace("…", r"\w*"))
+    return woord == "…" or any(vorm.fullmatch(een) for een in woorden)
+
+
+def regel_toetsnaam_python(boom):
+    """The tests of the tools are named like the others."""
+    for pad in sorted((boom.wortel / "tests").rglob("*Test.py")):
+        tekst = pad.read_text(encoding="utf-8")
+        for plaats, fout in toetsnamen.fouten(tekst, toetsnamen.PYTHON_TOETS):
+            yield (pad.relative_to(boom.wortel).as_posix(), tekst.count("\n", 0, plaats) + 1, fout)
 
 
 REGELS = [regel_in_cmake, regel_alle_formulieren, regel_indeling, regel_hoofdmodule,
-          regel_behandelaars, regel_leesmij]
+          regel_behandelaars, regel_leesmij, regel_toetsnaam_python]
 
 
 def controleer(wortel, bronnen):
