@@ -38,7 +38,7 @@ class Verhaal : public ProgrammaToets {
 
 TEST_F(Verhaal, VanNietsNaarVierGeneraties) {
   ASSERT_NO_FATAL_FAILURE(SpeelHeel());
-  for (const VerhaalBestand& bestand : VerwachteBestanden(MetOpmerkingen::Ja)) {
+  for (const VerhaalBestand& bestand : VerwachteBestanden()) {
     EXPECT_EQ(EersteVerschil(bestand, Bestand(bestand.soort)), "");
   }
 }

@@ -144,26 +144,25 @@ std::string LeesVerhaal(std::string_view naam) {
 }
 
 // "2 | Voornaam=Jan | Geslacht=M"; the records stand in the order of their numbers.
-std::string VulRecord(const Bestandsvorm& vorm, std::string_view regel, MetOpmerkingen met) {
+std::string VulRecord(const Bestandsvorm& vorm, std::string_view regel) {
   Record record(vorm);
   while (regel.find('|') != std::string_view::npos) {
     regel.remove_prefix(regel.find('|') + 1);
     const std::string_view veld = Kaal(regel.substr(0, regel.find('|')));
-    if (met == MetOpmerkingen::Nee && veld.starts_with("Opm")) continue;
     const std::size_t is = veld.find('=');
     record.Zet(veld.substr(0, is), veld.substr(is + 1));
   }
   return record.Tekst();
 }
 
-std::string UitTabel(std::string_view soort, MetOpmerkingen met) {
+std::string UitTabel(std::string_view soort) {
   std::istringstream tabel(LeesVerhaal("familie-records.txt"));
   const std::string kop = "[" + std::string(soort) + "]";
   std::string uit;
   bool hier = false;
   for (std::string regel; std::getline(tabel, regel);) {
     if (regel.starts_with('[')) hier = regel == kop;
-    if (hier && regel.find('|') != std::string::npos) uit += VulRecord(VormVan(soort), regel, met);
+    if (hier && regel.find('|') != std::string::npos) uit += VulRecord(VormVan(soort), regel);
   }
   return uit;
 }
@@ -281,11 +280,11 @@ std::string VerhaalVanDeOpmerkingen() {
          std::string(kKorteRegel) + "\ndruk Opslaan\ndruk BackButton\ndruk BackButton\n";
 }
 
-std::array<VerhaalBestand, 4> VerwachteBestanden(MetOpmerkingen met) {
-  return {{{"PRS", UitTabel("PRS", met)},
-           {"RLT", UitTabel("RLT", met)},
-           {"OPM", met == MetOpmerkingen::Ja ? OpmBytes() : OpmAdmin(0)},
-           {"PLT", UitTabel("PLT", met)}}};
+std::array<VerhaalBestand, 4> VerwachteBestanden() {
+  return {{{"PRS", UitTabel("PRS")},
+           {"RLT", UitTabel("RLT")},
+           {"OPM", OpmBytes()},
+           {"PLT", UitTabel("PLT")}}};
 }
 
 std::string EersteVerschil(const VerhaalBestand& verwacht, std::string_view gevonden) {

@@ -18,13 +18,12 @@ namespace lb77 {
 // rubric of the person, and one line for person 4.
 [[nodiscard]] std::string VerhaalVanDeOpmerkingen();
 
-// The four files behind the family, or behind both, by their extension.
+// The four files behind both, by their extension.
 struct VerhaalBestand {
   std::string_view soort;
   std::string bytes;
 };
-enum class MetOpmerkingen { Nee, Ja };
-[[nodiscard]] std::array<VerhaalBestand, 4> VerwachteBestanden(MetOpmerkingen met);
+[[nodiscard]] std::array<VerhaalBestand, 4> VerwachteBestanden();
 
 // The first record that differs, with the first byte that does; empty when all are equal.
 [[nodiscard]] std::string EersteVerschil(const VerhaalBestand& verwacht, std::string_view gevonden);
