@@ -4,17 +4,12 @@
 #include <memory>
 #include <ostream>
 
-#include "Vensterproef.h"
-#include "app/Klok.h"
+#include "Gezinsproef.h"
 #include "entry/KoppelVragen.h"
 #include "entry/StartRecord.h"
 #include "entry/VraagPlaatsnr.h"
 #include "entry/WijzigPersoon.h"
 #include "entry/WijzigRelatie.h"
-#include "program/Programma.h"
-#include "steun/BouwFamilie.h"
-#include "steun/TijdelijkeMap.h"
-#include "store/SetPaden.h"
 
 namespace lb77 {
 namespace {
@@ -46,32 +41,13 @@ std::unique_ptr<Formulier> VormVolgnr(Hoofdmodule& hoofd) {
   return std::make_unique<VolgnummerVraag>(kVolgnrKind, hoofd);
 }
 
-class Veldcontrole : public Vensterproef, public testing::WithParamInterface<Weigering> {
+class Veldcontrole : public Gezinsproef, public testing::WithParamInterface<Weigering> {
  protected:
-  void SetUp() override {
-    Antwoord({"OK"});
-    ASSERT_TRUE(programma_.Start());
-    boxen.clear();
-    const SetPaden paden = SetPaden::Van(map_ / "DATA", "PROEF");
-    std::filesystem::create_directories(paden.tekst);
-    ASSERT_FALSE(Hoofd().bestanden.OpenSet(paden));
-    ASSERT_TRUE(Hoofd().Persoon.NieuwAdm() && Hoofd().Relatie.NieuwAdm() &&
-                Hoofd().Opmerking.NieuwAdm() && Hoofd().Plaats.NieuwAdm());
-    BouwFamilie bouw(Hoofd().Persoon, Hoofd().Relatie, Hoofd().Plaats, Hoofd().Opmerking);
-    const auto jan = bouw.Man("Jan", "Vos");
-    const auto anna = bouw.Vrouw("Anna", "Bos");
-    static_cast<void>(bouw.Relatie(jan, anna, {bouw.Man("Kees", "Vos", {{"Geslacht", "O"}})}));
-  }
-  Hoofdmodule& Hoofd() { return programma_.Hoofd(); }
   // As a user who never touches the mouse.
   void GaNaar(const std::string& veld) {
     for (int i = 0; i < 100 && Focus() != veld; ++i) Toets(Qt::Key_Tab);
     ASSERT_EQ(Focus(), veld);
   }
-
-  TijdelijkeMap map_;
-  VasteKlok klok_{{2026, 1, 2, 3, 4, 5}};
-  Programma programma_{gesprek, klok_, map_.Pad()};
 };
 
 TEST_P(Veldcontrole, HoudtHetVeldEnMeldtElkePogingEenmaal) {
