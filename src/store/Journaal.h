@@ -183,7 +183,7 @@ class Journaal {
   // Those from `vanaf` on, oldest first.
   [[nodiscard]] SysteemFout LeesVanaf(std::uint32_t vanaf, std::vector<Gelezen>& gelezen);
   [[nodiscard]] std::optional<OngedaanUitslag> MaakPlan(const std::vector<Gelezen>& gelezen,
-                                                        OngedaanPlan& plan);
+                                                        OngedaanPlan& plan) const;
   [[nodiscard]] SysteemFout Voer(const OngedaanPlan& plan, std::uint32_t vanaf);
   void DraaiTerug();
   [[nodiscard]] SysteemFout NoteerPlan(const OngedaanPlan& plan);

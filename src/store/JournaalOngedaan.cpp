@@ -77,6 +77,7 @@ std::vector<HandelingRegel> Journaal::Geschiedenis() {
   std::vector<Gelezen> gelezen;
   static_cast<void>(LeesVanaf(1, gelezen));
   std::vector<HandelingRegel> regels;
+  regels.reserve(gelezen.size());
   for (const Gelezen& deze : gelezen) regels.push_back(RegelVan(deze.nummer, deze.inhoud));
   // From the end: behind an undo everything from its first action on is undone.
   std::uint32_t vanaf = 0;
@@ -142,7 +143,7 @@ std::vector<RecordWijziging> Journaal::Wijzigingen(std::uint32_t nummer) {
 }
 
 std::optional<OngedaanUitslag> Journaal::MaakPlan(const std::vector<Gelezen>& gelezen,
-                                                  OngedaanPlan& plan) {
+                                                  OngedaanPlan& plan) const {
   for (auto deze = gelezen.rbegin(); deze != gelezen.rend(); ++deze) {
     const JournaalInhoud& inhoud = deze->inhoud;
     if (!inhoud.IsCompleet()) return Geweigerd(Soort::Beschadigd, deze->nummer);
