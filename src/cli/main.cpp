@@ -8,6 +8,7 @@
 #include "app/Start.h"
 #include "cli/Gebruik.h"
 #include "cli/Opdrachten.h"
+#include "store/PlatformUitvoer.h"
 #include "store/SysteemFout.h"
 #include "text/Unicode.h"
 
@@ -174,6 +175,7 @@ void BeschrijfRegel(CLI::App& app, Regel& regel) {
 }
 
 int Hoofd(int argc, char** argv) {
+  OverleefVertrokkenLezer();
   CLI::App app("LB77: stamboomprogramma, op de opdrachtregel");
   Regel regel;
   BeschrijfRegel(app, regel);
@@ -181,7 +183,8 @@ int Hoofd(int argc, char** argv) {
     app.parse(argc, argv);
     const int status = Voer(app, regel);
     std::cout.flush();
-    if (std::cout) return status;
+    // Whoever has read enough hears nothing more.
+    if (std::cout || LezerIsVertrokken()) return status;
     std::cerr << "lb77-cli: de uitvoer kon niet worden geschreven\n";
     return 1;
   } catch (const CLI::Success& hulp) {
