@@ -20,6 +20,8 @@ namespace lb77 {
 namespace {
 
 constexpr std::string_view kGeslachten = "OMV";
+constexpr std::string_view kVader(&geslacht::kMan, 1);
+constexpr std::string_view kMoeder(&geslacht::kVrouw, 1);
 
 Koppelingen Koppel(Hoofdmodule& hoofd) {
   return {hoofd.Persoon, hoofd.Relatie, hoofd.volgers, hoofd.gesprek};
@@ -246,7 +248,7 @@ void WijzigPersoon::OpslaanKlik() {
 // The checks read other records, and take the trackers along.
 bool WijzigPersoon::IsInOrde() {
   const VolgersBewaker bewaker(Hoofd().volgers);
-  return MagGeslacht() && IsChronologisch() && ZoekOpNaam(Pa, "M") && ZoekOpNaam(Ma, "V") &&
+  return MagGeslacht() && IsChronologisch() && ZoekOpNaam(Pa, kVader) && ZoekOpNaam(Ma, kMoeder) &&
          HoortBijNaam(Pa, "Vader") && HoortBijNaam(Ma, "Moeder") && VindRelatie() &&
          KloptRelatie() && HeeftNummer() && MaakLos() && MaakVast();
 }
