@@ -1,3 +1,4 @@
+#include "entry/VreemdeSet.h"
 #include "entry/WijzigToets.h"
 #include "steun/FaalBestand.h"
 
@@ -132,29 +133,13 @@ TEST_F(RelatieStoringTest, EenAnderePartnerKostNiemandEenAndereRelatie) {
             std::string::npos);
 }
 
-// Bytes that no dialog would write, different in each record; the probe stays readable.
-std::string VreemdRecord(std::size_t lengte, unsigned zaad, std::size_t sonde, char teken) {
-  std::string bytes;
-  for (unsigned i = 0; i < lengte; ++i) {
-    bytes += static_cast<char>((zaad * 37U + i * (2 * zaad + 1U)) & 0xFFU);
-  }
-  bytes[sonde] = teken;
-  return bytes;
-}
-
-constexpr int kVreemden = 48;
-
 // Opens and saves; whatever is asked or refused, nothing may change.
 template <class Basis>
 class OngemoeidToets : public Basis {
  protected:
   void Vreemden(const std::filesystem::path& pad, std::size_t lengte, std::size_t sonde,
                 char teken) {
-    std::string bytes = LeesBytes(pad);
-    for (unsigned zaad = 0; zaad < kVreemden; ++zaad) {
-      bytes += VreemdRecord(lengte, zaad, sonde, teken);
-    }
-    SchrijfBytes(pad, bytes);
+    SchrijfBytes(pad, LeesBytes(pad) + VreemdeRecords(lengte, sonde, teken));
   }
   // How many came to their end: nobody answers more than No.
   int SlaElkOp() {
