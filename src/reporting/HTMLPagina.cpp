@@ -39,14 +39,6 @@ void SlotInHTML(TekstSchrijver& uit, const PaginaTeksten& t) {
   uit.VolleRegel("</HTML>");
 }
 
-void SlotInTekst(TekstSchrijver& uit, const PaginaTeksten& t) {
-  const std::string inspringing(10, ' ');
-  uit.LegeRegel();
-  uit.LegeRegel();
-  if (!t.copyrightRegel.empty()) uit.VolleRegel(inspringing + t.copyrightRegel);
-  if (!t.programmaRegel.empty()) uit.VolleRegel(inspringing + t.programmaRegel);
-}
-
 }  // namespace
 
 std::string TussenQuotes(std::string_view tekst) {
@@ -81,6 +73,18 @@ void SchrijfHTMLKop(TekstSchrijver& uit, const PaginaTeksten& teksten, std::stri
   }
 }
 
+void SchrijfTekstKop(TekstSchrijver& uit, const PaginaTeksten& teksten) {
+  bool iets = false;
+  const auto schrijf = [&](const std::string& regel) {
+    if (regel.empty()) return;
+    uit.VolleRegel(regel);
+    iets = true;
+  };
+  schrijf(teksten.titel);
+  for (const std::string& regel : teksten.inleiding) schrijf(regel);
+  if (iets) uit.LegeRegel();
+}
+
 void SchrijfGeneratie(TekstSchrijver& uit, int generatie, int eerste, int laatste) {
   uit.Vast("Generatie " + Romeins(generatie));
   if (!uit.InHTML()) {
@@ -102,9 +106,18 @@ void SchrijfSlot(TekstSchrijver& uit, const PaginaTeksten& teksten) {
   if (uit.InHTML()) {
     SlotInHTML(uit, teksten);
   } else {
-    SlotInTekst(uit, teksten);
+    uit.LegeRegel();
+    uit.LegeRegel();
+    SchrijfSlotRegels(uit, teksten);
   }
   uit.LegeRegel();
+}
+
+void SchrijfSlotRegels(TekstSchrijver& uit, const PaginaTeksten& teksten) {
+  const std::string inspringing(10, ' ');
+  for (const std::string& regel : {teksten.copyrightRegel, teksten.programmaRegel}) {
+    if (!regel.empty()) uit.VolleRegel(inspringing + regel);
+  }
 }
 
 }  // namespace lb77
