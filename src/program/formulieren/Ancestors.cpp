@@ -3,9 +3,9 @@
 #include <memory>
 
 #include "ancestors/KwstBereken.h"
-#include "ancestors/KwstMaakTemp.h"
-#include "ancestors/KwstTxtParam.h"
-#include "ancestors/KwstTxtPrs.h"
+#include "ancestors/KwstPrs.h"
+#include "ancestors/KwstTekstParam.h"
+#include "ancestors/KwstTemp.h"
 #include "program/formulieren/Gebieden.h"
 #include "reporting/HTMLParam.h"
 
@@ -26,11 +26,12 @@ std::shared_ptr<KwstVoorbeeld> MaakKwst() {
 }
 
 constexpr FormulierRij kRijen[] = {
-    {"KwstTxtPrs", [](Programma& p) { return Maak<KwstTxtPrs>(p.Hoofd()); }},
+    {"KwstTxtPrs", [](Programma& p) { return Maak<KwstPrs>(kKwstTxtPrs, p.Hoofd()); }},
     {"KwstTxtParam",
      [](Programma& p) {
        auto kwst = MaakKwst();
-       return GemaaktFormulier{kwst, std::make_unique<KwstTxtParam>(p.Hoofd(), kwst->opties)};
+       return GemaaktFormulier{
+           kwst, std::make_unique<KwstTekstParam>(kKwstTxtParam, p.Hoofd(), kwst->opties)};
      }},
     {"KwHTMLParam",
      [](Programma& p) {
@@ -48,8 +49,8 @@ constexpr FormulierRij kRijen[] = {
      [](Programma& p) {
        auto kwst = MaakKwst();
        const std::filesystem::path pad = p.Hoofd().Ini.TempDir() / "KWSTDATA.TMP";
-       return GemaaktFormulier{
-           kwst, std::make_unique<KwstMaakTemp>(p.Hoofd(), kwst->opties, kwst->tabel, pad)};
+       return GemaaktFormulier{kwst, std::make_unique<KwstTemp>(kKwstMaakTemp, p.Hoofd(),
+                                                                kwst->opties, kwst->tabel, pad)};
      }},
 };
 

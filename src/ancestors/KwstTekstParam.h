@@ -1,33 +1,42 @@
-// The options of the ancestor report.
+// The options of the ancestor reports in words: the text and its index.
 #pragma once
 
-#include "ancestors/KwstOpties.h"
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "ancestors/KwstParam.h"
 #include "ancestors/KwstVelden.h"
 #include "app/JaNeeVak.h"
-#include "reporting/KetenFormulier.h"
-#include "reporting/OptieTabel.h"
-#include "reporting/PersoonKop.h"
-#include "reporting/TitelVelden.h"
 
 namespace lb77 {
 
-class Hoofdmodule;
+// What tells one dialog from another.
+struct KwstTekstParamSoort {
+  std::string_view naam;
+  std::string_view titel;
+  std::string_view nummers;  // the question of OokNrsBox
+  bool metOpm;               // asks for remarks
+};
+
+inline constexpr KwstTekstParamSoort kKwstTxtParam{"KwstTxtParam", "Kwartierstaat Uitvoeropties",
+                                                   "Ook Persoons- en Relatienummers uitvoeren ?",
+                                                   true};
 
 // OK puts the choices into `opties` and, when the user wants them kept, into the settings.
 // BackButton stops the chain.
-class KwstTxtParam final : public KetenFormulier {
+class KwstTekstParam final : public KwstParam {
  public:
-  KwstTxtParam(Hoofdmodule& hoofd, KwstOpties& opties);
+  KwstTekstParam(const KwstTekstParamSoort& soort, Hoofdmodule& hoofd, KwstOpties& opties);
 
-  PersoonKop Proband;
   KwstNummerVelden Nummers;
   Keuzevak BroerZusBox{*this,
                        "BroerZusBox",
                        "Broers en Zussen:",
                        {"Zonder Broers en Zussen", "Met Broers en Zussen van de Proband",
                         "Met Alle Broers en Zussen"}};
-  JaNeeVak OokNrsBox{*this, "OokNrsBox", "Ook Persoons- en Relatienummers uitvoeren ?"};
-  JaNeeVak OokOpmBox{*this, "OokOpmBox", "Ook Opmerkingen uitvoeren ?"};
+  JaNeeVak OokNrsBox;
+  std::optional<JaNeeVak> OokOpmBox;
   JaNeeVak KwHerhaalBox{*this, "KwHerhaalBox", "Kwartierherhaling blijven volgen ?"};
   JaNeeVak InHTMLBox{*this, "InHTMLBox", "Uitvoer voor Internet (HTML) ?"};
   TitelVelden Titels;
@@ -40,15 +49,10 @@ class KwstTxtParam final : public KetenFormulier {
  private:
   static constexpr std::string_view kSectie = "KWST";
 
+  [[nodiscard]] std::vector<OptieRij> Rijen();
   void OKButtonKlik();
 
-  KwstOpties& opties_;
-  OptieTabel keuzen_{kSectie,
-                     {{BroerZusBox, "SoortUitv", 1, opties_.KwBroerZus},
-                      {OokNrsBox, "OokNummers", true, opties_.KwOokNrs},
-                      {OokOpmBox, "OokOpm", true, opties_.KwOokOpm},
-                      {KwHerhaalBox, "VolgHerh", true, opties_.KwVolgHerh},
-                      {InHTMLBox, "HTML", false, opties_.KwInHTML}}};
+  OptieTabel keuzen_;
 };
 
 }  // namespace lb77
