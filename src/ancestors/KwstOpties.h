@@ -25,6 +25,7 @@ struct KwstOpties {
   bool KwOokOpm = false;
   bool KwVolgHerh = false;
   bool KwInHTML = false;
+  std::string KwHTMLFile;    // of the index: the file of the text, to which its numbers lead
   int KwBreedte = 8;         // of the chart: columns a generation, 2 to 10
   bool KwOokJaren = false;   // of the chart
   bool KwUitlijnen = false;  // of the chart: all names start in one column

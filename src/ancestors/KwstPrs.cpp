@@ -26,6 +26,9 @@ std::unique_ptr<Formulier> Schrijf(Hoofdmodule& hoofd, const KwstOpties& opties,
 const KwstPrsSoort kKwstTxtPrs{"KwstTxtPrs",   VraagOpties<kKwstTxtParam>,
                                &kKwHTMLParam,  Schrijf<kKwstMaakTemp>,
                                "KWSTDATA.TMP", "Kwartierstaat in Tekstvorm"};
+const KwstPrsSoort kKwstIdxPrs{"KwstIdxPrs",     VraagOpties<kKwstIdxParam>,
+                               &kKwidxHTMLParam, Schrijf<kKwstIdxTemp>,
+                               "KWSTINDX.TMP",   "Index op Kwartierstaat in Tekstvorm"};
 
 KwstPrs::KwstPrs(const KwstPrsSoort& soort, Hoofdmodule& hoofd)
     : PersoonPrompt({soort.naam, "Nummer Proband", "Geef het Persoonsnummer van de Proband"},

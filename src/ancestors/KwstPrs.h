@@ -26,6 +26,7 @@ struct KwstPrsSoort {
 };
 
 extern const KwstPrsSoort kKwstTxtPrs;
+extern const KwstPrsSoort kKwstIdxPrs;
 
 // Asks for the proband and runs the chain. A run owns its options and its table.
 class KwstPrs final : public PersoonPrompt {

@@ -12,6 +12,9 @@ KwstTekstParam::KwstTekstParam(const KwstTekstParamSoort& soort, Hoofdmodule& ho
       OokOpmBox(soort.metOpm ? std::optional<JaNeeVak>(std::in_place, *this, "OokOpmBox",
                                                        "Ook Opmerkingen uitvoeren ?")
                              : std::nullopt),
+      HTMLfileTekst(soort.metHTMLfile ? std::optional<Tekstvak>(std::in_place, *this,
+                                                                "HTMLfileTekst", "HTML-file:", 81)
+                                      : std::nullopt),
       Titels(*this, kSectie),
       keuzen_(kSectie, Rijen()) {
   ZetEersteVeld(Nummers.KwNrProband);
@@ -31,10 +34,12 @@ std::vector<OptieRij> KwstTekstParam::Rijen() {
 void KwstTekstParam::BijLaden() {
   KwstParam::BijLaden();
   Nummers.Laad();
+  if (HTMLfileTekst) HTMLfileTekst->ZetTekst("KWSTDATA.HTM");
 }
 
 void KwstTekstParam::OKButtonKlik() {
   Nummers.Bewaar(Opties());
+  if (HTMLfileTekst) Opties().KwHTMLFile = PaginaTekst(HTMLfileTekst->Tekst());
   Bewaar();
   Sluit();
 }

@@ -17,11 +17,15 @@ struct KwstTekstParamSoort {
   std::string_view titel;
   std::string_view nummers;  // the question of OokNrsBox
   bool metOpm;               // asks for remarks
+  bool metHTMLfile;          // asks for the file to which the numbers lead
 };
 
 inline constexpr KwstTekstParamSoort kKwstTxtParam{"KwstTxtParam", "Kwartierstaat Uitvoeropties",
                                                    "Ook Persoons- en Relatienummers uitvoeren ?",
-                                                   true};
+                                                   true, false};
+inline constexpr KwstTekstParamSoort kKwstIdxParam{
+    "KwstIdxParam", "Uitvoeropties voor Index op Kwartierstaat in Tekstvorm",
+    "Ook Persoonsnummers uitvoeren ?", false, true};
 
 // OK puts the choices into `opties` and, when the user wants them kept, into the settings.
 // BackButton stops the chain.
@@ -39,6 +43,7 @@ class KwstTekstParam final : public KwstParam {
   std::optional<JaNeeVak> OokOpmBox;
   JaNeeVak KwHerhaalBox{*this, "KwHerhaalBox", "Kwartierherhaling blijven volgen ?"};
   JaNeeVak InHTMLBox{*this, "InHTMLBox", "Uitvoer voor Internet (HTML) ?"};
+  std::optional<Tekstvak> HTMLfileTekst;
   TitelVelden Titels;
   Knop OKButton{*this, "OKButton", "&OK"};
   Knop BackButton{*this, "BackButton", "&Terug"};

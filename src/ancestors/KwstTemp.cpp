@@ -1,5 +1,6 @@
 #include "ancestors/KwstTemp.h"
 
+#include "ancestors/KwstIdxSchrijver.h"
 #include "ancestors/KwstSchrijver.h"
 #include "app/Hoofdmodule.h"
 #include "store/Codes.h"
@@ -18,6 +19,11 @@ Uitslag SchrijfTekst(Hoofdmodule& hoofd, const KwstOpties& opties, const KwstTab
   return KwstSchrijver(tabel, opties, hoofd.MaakGegevens(), zin, uit, verloop).Schrijf();
 }
 
+Uitslag SchrijfIndex(Hoofdmodule& hoofd, const KwstOpties& opties, const KwstTabel& tabel,
+                     TekstSchrijver& uit, const Verloop& verloop) {
+  return KwstIdxSchrijver(tabel, opties, hoofd.MaakGegevens(), uit, verloop).Schrijf();
+}
+
 VerslagBestand BestandVan(const KwstTempSoort& soort, const KwstOpties& opties,
                           const Instellingen& instellingen, const std::filesystem::path& pad) {
   const bool doorlopend = soort.doorlopend || opties.KwInHTML;
@@ -30,6 +36,10 @@ const KwstTempSoort kKwstMaakTemp{
     {"KwstMaakTemp", "Kwartierstaat Schrijven", "Schrijven van de kwartierstaat.", kKwartieren},
     false,
     SchrijfTekst};
+const KwstTempSoort kKwstIdxTemp{
+    {"KwstIdxTemp", kKwstMaakTemp.vorm.titel, kKwstMaakTemp.vorm.schrijven, kKwartieren},
+    true,
+    SchrijfIndex};
 
 KwstTemp::KwstTemp(const KwstTempSoort& soort, Hoofdmodule& hoofd, const KwstOpties& opties,
                    const KwstTabel& tabel, const std::filesystem::path& pad)

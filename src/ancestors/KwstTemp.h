@@ -17,6 +17,7 @@ struct KwstTempSoort {
 };
 
 extern const KwstTempSoort kKwstMaakTemp;
+extern const KwstTempSoort kKwstIdxTemp;
 
 // Writes `pad`. HuidigPersoonNr is -1 afterwards when there is no whole report to show.
 class KwstTemp final : public SchrijfForm {

@@ -60,6 +60,7 @@ void Programma::HangOp() {
   menu_.Hang("ImportGedcom", [this, &gesprek] { gesprek.Toon<ImpGedcom>(hoofd_); });
   menu_.Hang("ViewTekst", [this, &gesprek] { gesprek.Toon<BekijkTekst>(hoofd_); });
   menu_.Hang("TekstKwst", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstTxtPrs, hoofd_); });
+  menu_.Hang("IndexKwst", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstIdxPrs, hoofd_); });
   menu_.Hang("VeiligOngedaan", [this] { MaakLaatsteOngedaan(hoofd_.MaakOpslag()); });
   menu_.Hang("VeiligGeschiedenis", [this, &gesprek] { gesprek.Toon<Geschiedenis>(hoofd_); });
   menu_.Hang("VeiligKopie", [this, &gesprek] { MaakVeiligheidskopie(KopieVan(hoofd_), gesprek); });

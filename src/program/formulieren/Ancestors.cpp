@@ -25,33 +25,40 @@ std::shared_ptr<KwstVoorbeeld> MaakKwst() {
   return voorbeeld;
 }
 
+template <const KwstTekstParamSoort& kSoort>
+GemaaktFormulier Opties(Programma& p) {
+  auto kwst = MaakKwst();
+  return {kwst, std::make_unique<KwstTekstParam>(kSoort, p.Hoofd(), kwst->opties)};
+}
+
+template <const HTMLParamSoort& kSoort>
+GemaaktFormulier Links(Programma& p) {
+  auto kwst = MaakKwst();
+  return {kwst, std::make_unique<HTMLParam>(kSoort, p.Hoofd(), kwst->opties.teksten)};
+}
+
+template <const KwstTempSoort& kSoort>
+GemaaktFormulier Schrijven(Programma& p) {
+  auto kwst = MaakKwst();
+  const std::filesystem::path pad = p.Hoofd().Ini.TempDir() / "KWST.TMP";
+  return {kwst, std::make_unique<KwstTemp>(kSoort, p.Hoofd(), kwst->opties, kwst->tabel, pad)};
+}
+
+GemaaktFormulier Berekenen(Programma& p) {
+  auto kwst = MaakKwst();
+  return {kwst, std::make_unique<KwstBereken>(p.Hoofd(), kwst->opties, kwst->tabel)};
+}
+
 constexpr FormulierRij kRijen[] = {
     {"KwstTxtPrs", [](Programma& p) { return Maak<KwstPrs>(kKwstTxtPrs, p.Hoofd()); }},
-    {"KwstTxtParam",
-     [](Programma& p) {
-       auto kwst = MaakKwst();
-       return GemaaktFormulier{
-           kwst, std::make_unique<KwstTekstParam>(kKwstTxtParam, p.Hoofd(), kwst->opties)};
-     }},
-    {"KwHTMLParam",
-     [](Programma& p) {
-       auto kwst = MaakKwst();
-       return GemaaktFormulier{
-           kwst, std::make_unique<HTMLParam>(kKwHTMLParam, p.Hoofd(), kwst->opties.teksten)};
-     }},
-    {"KwstBereken",
-     [](Programma& p) {
-       auto kwst = MaakKwst();
-       return GemaaktFormulier{kwst,
-                               std::make_unique<KwstBereken>(p.Hoofd(), kwst->opties, kwst->tabel)};
-     }},
-    {"KwstMaakTemp",
-     [](Programma& p) {
-       auto kwst = MaakKwst();
-       const std::filesystem::path pad = p.Hoofd().Ini.TempDir() / "KWSTDATA.TMP";
-       return GemaaktFormulier{kwst, std::make_unique<KwstTemp>(kKwstMaakTemp, p.Hoofd(),
-                                                                kwst->opties, kwst->tabel, pad)};
-     }},
+    {"KwstTxtParam", Opties<kKwstTxtParam>},
+    {"KwHTMLParam", Links<kKwHTMLParam>},
+    {"KwstBereken", Berekenen},
+    {"KwstMaakTemp", Schrijven<kKwstMaakTemp>},
+    {"KwstIdxPrs", [](Programma& p) { return Maak<KwstPrs>(kKwstIdxPrs, p.Hoofd()); }},
+    {"KwstIdxParam", Opties<kKwstIdxParam>},
+    {"KwidxHTMLParam", Links<kKwidxHTMLParam>},
+    {"KwstIdxTemp", Schrijven<kKwstIdxTemp>},
 };
 
 }  // namespace

@@ -1,4 +1,4 @@
-// The chain of forms of the ancestor report.
+// The chains of forms of the ancestor reports.
 #include "qt/indeling/Indelingen.h"
 
 namespace lb77::indeling {
@@ -13,7 +13,7 @@ Blok PersoonPrompt() {
   });
 }
 
-Blok Opties() {
+Blok Opties(const std::vector<Blok>& uitvoer) {
   return Kolom({
       Groep("Proband", {Velden({
                            Rij({"NrProband", "Periode"}),
@@ -24,11 +24,7 @@ Blok Opties() {
                               Rij({"MaxGen", "KwHerhaalBox"}),
                               "BroerZusBox",
                           })}),
-      Groep("Uitvoer", {Velden({
-                           Rij({"OokNrsBox", "OokOpmBox"}),
-                           Rij({"InHTMLBox", "CopyrightBox"}),
-                           "OokLB77Box",
-                       })}),
+      Groep("Uitvoer", {Velden(uitvoer)}),
       Groep("Titel en inleiding",
             {Velden({"TitelTekst", "Inleiding1", "Inleiding2", "Inleiding3"})}),
       Knoppen({"OKButton", "BackButton"}),
@@ -43,12 +39,22 @@ Blok InternetOpties() {
   });
 }
 
+Blok Schrijven() {
+  return Kolom({
+      "SchrijfLabel",
+      Velden({Rij({"KwartierenLabel", "Kwartieren"})}),
+      "GeduldLabel",
+      Knoppen({"OKButton", "BackButton"}),
+  });
+}
+
 }  // namespace
 
 std::vector<Indeling> Kwartierstaat() {
   return {
       {"KwstTxtPrs", PersoonPrompt()},
-      {"KwstTxtParam", Opties()},
+      {"KwstTxtParam",
+       Opties({Rij({"OokNrsBox", "OokOpmBox"}), Rij({"InHTMLBox", "CopyrightBox"}), "OokLB77Box"})},
       {"KwHTMLParam", InternetOpties()},
       {"KwstBereken",
        Kolom({
@@ -57,12 +63,12 @@ std::vector<Indeling> Kwartierstaat() {
            Velden({"GeduldLabel", "MaximumLabel"}),
            Knoppen({"OKButton", "BackButton"}),
        })},
-      {"KwstMaakTemp", Kolom({
-                           "SchrijfLabel",
-                           Velden({Rij({"KwartierenLabel", "Kwartieren"})}),
-                           "GeduldLabel",
-                           Knoppen({"OKButton", "BackButton"}),
-                       })},
+      {"KwstMaakTemp", Schrijven()},
+      {"KwstIdxPrs", PersoonPrompt()},
+      {"KwstIdxParam", Opties({Rij({"OokNrsBox", "InHTMLBox"}), "HTMLfileTekst",
+                               Rij({"CopyrightBox", "OokLB77Box"})})},
+      {"KwidxHTMLParam", InternetOpties()},
+      {"KwstIdxTemp", Schrijven()},
   };
 }
 
