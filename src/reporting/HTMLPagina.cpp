@@ -1,6 +1,7 @@
 #include "reporting/HTMLPagina.h"
 
 #include <cstdint>
+#include <vector>
 
 #include "output/TekstSchrijver.h"
 #include "text/HTML.h"
@@ -15,6 +16,14 @@ std::string Romeins(int generatie) {
 
 std::string Link(std::string_view adres, std::string_view tekst) {
   return "<A HREF=" + TussenQuotes(adres) + ">" + std::string(tekst) + "</A><BR>";
+}
+
+// Title and introduction without what is empty.
+std::vector<std::string> TitelRegels(const PaginaTeksten& t) {
+  std::vector<std::string> uit{t.titel};
+  uit.insert(uit.end(), t.inleiding.begin(), t.inleiding.end());
+  std::erase(uit, std::string());
+  return uit;
 }
 
 void SlotRegel(TekstSchrijver& uit, std::string_view waarde, const std::string& regel) {
@@ -37,6 +46,12 @@ void SlotInHTML(TekstSchrijver& uit, const PaginaTeksten& t) {
   uit.VolleRegel("<HR>");
   uit.VolleRegel("</BODY>");
   uit.VolleRegel("</HTML>");
+}
+
+void SlotInTekst(TekstSchrijver& uit, const PaginaTeksten& t) {
+  const std::string inspringing(10, ' ');
+  if (!t.copyrightRegel.empty()) uit.VolleRegel(inspringing + t.copyrightRegel);
+  if (!t.programmaRegel.empty()) uit.VolleRegel(inspringing + t.programmaRegel);
 }
 
 }  // namespace
@@ -73,18 +88,6 @@ void SchrijfHTMLKop(TekstSchrijver& uit, const PaginaTeksten& teksten, std::stri
   }
 }
 
-void SchrijfTekstKop(TekstSchrijver& uit, const PaginaTeksten& teksten) {
-  bool iets = false;
-  const auto schrijf = [&](const std::string& regel) {
-    if (regel.empty()) return;
-    uit.VolleRegel(regel);
-    iets = true;
-  };
-  schrijf(teksten.titel);
-  for (const std::string& regel : teksten.inleiding) schrijf(regel);
-  if (iets) uit.LegeRegel();
-}
-
 void SchrijfGeneratie(TekstSchrijver& uit, int generatie, int eerste, int laatste) {
   uit.Vast("Generatie " + Romeins(generatie));
   if (!uit.InHTML()) {
@@ -108,15 +111,33 @@ void SchrijfSlot(TekstSchrijver& uit, const PaginaTeksten& teksten) {
   } else {
     uit.LegeRegel();
     uit.LegeRegel();
-    SchrijfSlotRegels(uit, teksten);
+    SlotInTekst(uit, teksten);
   }
   uit.LegeRegel();
 }
 
-void SchrijfSlotRegels(TekstSchrijver& uit, const PaginaTeksten& teksten) {
-  const std::string inspringing(10, ' ');
-  for (const std::string& regel : {teksten.copyrightRegel, teksten.programmaRegel}) {
-    if (!regel.empty()) uit.VolleRegel(inspringing + regel);
+void SchrijfTitelInTekst(TekstSchrijver& uit, const PaginaTeksten& teksten) {
+  if (uit.InHTML()) return;
+  for (const std::string& regel : TitelRegels(teksten)) uit.VolleRegel(regel);
+}
+
+void SchrijfSchemaKop(TekstSchrijver& uit, const PaginaTeksten& teksten, std::string_view kop,
+                      std::string_view voornaam, std::string_view achternaam) {
+  uit.ZetMarge(true, 0);
+  if (uit.InHTML()) SchrijfHTMLKop(uit, teksten, kop, voornaam, achternaam);
+  SchrijfTitelInTekst(uit, teksten);
+  if (!uit.InHTML() && !TitelRegels(teksten).empty()) uit.LegeRegel();
+  uit.TagRegel("<BR>");
+  uit.TagRegel("<PRE>");
+}
+
+void SchrijfSchemaSlot(TekstSchrijver& uit, const PaginaTeksten& teksten) {
+  uit.LegeRegel();
+  uit.TagRegel("</PRE>");
+  if (uit.InHTML()) {
+    SchrijfSlot(uit, teksten);
+  } else {
+    SlotInTekst(uit, teksten);
   }
 }
 

@@ -35,9 +35,6 @@ struct PaginaTeksten {
 void SchrijfHTMLKop(TekstSchrijver& uit, const PaginaTeksten& teksten, std::string_view kop,
                     std::string_view voornaam, std::string_view achternaam);
 
-// The title and the introduction as lines of text, with an empty line behind them when there is any.
-void SchrijfTekstKop(TekstSchrijver& uit, const PaginaTeksten& teksten);
-
 // "Generatie " and its number in Roman. In HTML with its anchor and with links to the generations
 // beside it that lie in `eerste` to `laatste`; the heading ends with its line, in HTML with an empty
 // one besides.
@@ -45,7 +42,15 @@ void SchrijfGeneratie(TekstSchrijver& uit, int generatie, int eerste, int laatst
 
 // The closing lines of a report, in HTML or in text, and the empty line behind them.
 void SchrijfSlot(TekstSchrijver& uit, const PaginaTeksten& teksten);
-// Only the lines themselves, as text.
-void SchrijfSlotRegels(TekstSchrijver& uit, const PaginaTeksten& teksten);
+
+// Title and introduction as lines of their own, in text only.
+void SchrijfTitelInTekst(TekstSchrijver& uit, const PaginaTeksten& teksten);
+
+// What stands around a chart: title and introduction with an empty line behind them, in HTML the head
+// of the page; then, behind an empty line, the closing lines, in text with nothing behind them. In
+// HTML the chart stands between "<PRE>" and "</PRE>".
+void SchrijfSchemaKop(TekstSchrijver& uit, const PaginaTeksten& teksten, std::string_view kop,
+                      std::string_view voornaam, std::string_view achternaam);
+void SchrijfSchemaSlot(TekstSchrijver& uit, const PaginaTeksten& teksten);
 
 }  // namespace lb77
