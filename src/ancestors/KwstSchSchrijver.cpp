@@ -1,7 +1,7 @@
 #include "ancestors/KwstSchSchrijver.h"
 
 #include "output/TekstSchrijver.h"
-#include "reporting/SchemaPagina.h"
+#include "reporting/HTMLPagina.h"
 #include "text/Getallen.h"
 #include "text/HTML.h"
 
@@ -40,7 +40,6 @@ Uitslag KwstSchSchrijver::Schrijf() {
   if (!persoon.Lees(opties_.KwProbandNr)) {
     return Leesfout{BestandSoort::Personen, opties_.KwProbandNr};
   }
-  uit_.ZetMarge(true, 0);
   SchrijfSchemaKop(uit_, opties_.teksten, "Kwartierstaat", persoon.VoorNaamTrue(),
                    persoon.AchterNaamTrue());
   for (int rij = 1; rij <= schema_.Aantal(); ++rij) {
