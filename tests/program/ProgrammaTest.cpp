@@ -156,10 +156,6 @@ TEST_F(Programmaloop, ElkeKeuzeDieTeKiezenIsToontZijnFormulier) {
       sluit
       bestand
       kies ViewTekst
-      kies TekstKwst
-      sluit
-      kies IndexKwst
-      sluit
       kies AboutLB77
       sluit
     )",
@@ -186,13 +182,20 @@ TEST_F(Programmaloop, ElkeKeuzeDieTeKiezenIsToontZijnFormulier) {
       + ImpGedcom "Importeer Gegevens - Gedcom"
       - ImpGedcom
       > openen "Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt|GEDCOM-bestanden (*.GED)|*.GED" -> -
+      + OverLB77Form "Over LB77 voor Windows"
+      - OverLB77Form
+    )~");
+}
+
+TEST_F(Programmaloop, ElkVerslagOverEenPersoonVraagtWieHetIs) {
+  MaakFamilie();
+  Verwacht("kies TekstKwst\nsluit\nkies IndexKwst\nsluit\n", Sessie(), R"(
+      + MenuWindow "LB77 voor Windows"
       + KwstTxtPrs "Nummer Proband"
       - KwstTxtPrs
       + KwstIdxPrs "Nummer Proband"
       - KwstIdxPrs
-      + OverLB77Form "Over LB77 voor Windows"
-      - OverLB77Form
-    )~");
+    )");
 }
 
 TEST_F(Programmaloop, HetMenuVeiligheidToontZijnVensters) {
