@@ -1,7 +1,7 @@
 // The rows of the ancestor index: who has one, under which number, with which code.
 #include <gtest/gtest.h>
 
-#include "ancestors/KwstIdxFamilies.h"
+#include "ancestors/KwstFamilies.h"
 #include "ancestors/KwstIdxToets.h"
 
 namespace lb77 {

@@ -1,7 +1,7 @@
 // The ancestor index on damaged records, and when it is stopped.
 #include <gtest/gtest.h>
 
-#include "ancestors/KwstIdxFamilies.h"
+#include "ancestors/KwstFamilies.h"
 #include "ancestors/KwstIdxToets.h"
 #include "text/Getallen.h"
 

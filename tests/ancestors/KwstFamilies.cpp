@@ -1,4 +1,4 @@
-#include "ancestors/KwstIdxFamilies.h"
+#include "ancestors/KwstFamilies.h"
 
 #include <vector>
 

@@ -1,4 +1,4 @@
-// Small families, each drawn for one rule of the ancestor index.
+// Small families, each drawn for one rule of the ancestor reports.
 #pragma once
 
 #include <cstdint>
