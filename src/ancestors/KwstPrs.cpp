@@ -3,6 +3,8 @@
 #include <utility>
 
 #include "ancestors/KwstBereken.h"
+#include "ancestors/KwstBladen.h"
+#include "ancestors/KwstSchParam.h"
 #include "ancestors/KwstTekstParam.h"
 #include "ancestors/KwstTemp.h"
 #include "app/Hoofdmodule.h"
@@ -21,6 +23,15 @@ std::unique_ptr<Formulier> Schrijf(Hoofdmodule& hoofd, const KwstOpties& opties,
   return std::make_unique<KwstTemp>(kSoort, hoofd, opties, tabel, pad);
 }
 
+std::unique_ptr<Formulier> VraagSchema(Hoofdmodule& hoofd, KwstOpties& opties) {
+  return std::make_unique<KwstSchParam>(hoofd, opties);
+}
+
+std::unique_ptr<Formulier> ToonBladen(Hoofdmodule& hoofd, const KwstOpties& opties,
+                                      const KwstTabel& tabel, const std::filesystem::path&) {
+  return std::make_unique<KwstBladen>(hoofd, opties, tabel);
+}
+
 }  // namespace
 
 const KwstPrsSoort kKwstTxtPrs{"KwstTxtPrs",   VraagOpties<kKwstTxtParam>,
@@ -29,6 +40,11 @@ const KwstPrsSoort kKwstTxtPrs{"KwstTxtPrs",   VraagOpties<kKwstTxtParam>,
 const KwstPrsSoort kKwstIdxPrs{"KwstIdxPrs",     VraagOpties<kKwstIdxParam>,
                                &kKwidxHTMLParam, Schrijf<kKwstIdxTemp>,
                                "KWSTINDX.TMP",   "Index op Kwartierstaat in Tekstvorm"};
+
+const KwstPrsSoort kKwstSchPrs{"KwstSchPrs",          VraagSchema,    &kKwHTMLParam,
+                               Schrijf<kKwstSchTemp>, "KWSTDATA.TMP", "Schema Kwartierstaat"};
+const KwstPrsSoort kKwstBldPrs{"KwstBldPrs",   nullptr, nullptr, ToonBladen,
+                               "KWSTBLAD.TMP", "",      true};
 
 KwstPrs::KwstPrs(const KwstPrsSoort& soort, Hoofdmodule& hoofd)
     : PersoonPrompt({soort.naam, "Nummer Proband", "Geef het Persoonsnummer van de Proband"},
@@ -41,6 +57,7 @@ void KwstPrs::Keten(std::int16_t persoonNr) {
   Hoofdmodule& hoofd = Hoofd();
   KwstOpties opties;
   opties.KwProbandNr = persoonNr;
+  opties.KwVolgHerh = soort_.volgHerh;
   KwstTabel tabel;
   const std::filesystem::path pad = hoofd.Ini.TempDir() / soort_.bestand;
 

@@ -23,10 +23,13 @@ struct KwstPrsSoort {
                                      const std::filesystem::path&);
   std::string_view bestand;  // in the directory of temporary files
   std::string_view verslag;  // title of the viewer; without one nothing is viewed
+  bool volgHerh = false;     // repeats are followed where no options are asked
 };
 
 extern const KwstPrsSoort kKwstTxtPrs;
 extern const KwstPrsSoort kKwstIdxPrs;
+extern const KwstPrsSoort kKwstSchPrs;
+extern const KwstPrsSoort kKwstBldPrs;
 
 // Asks for the proband and runs the chain. A run owns its options and its table.
 class KwstPrs final : public PersoonPrompt {

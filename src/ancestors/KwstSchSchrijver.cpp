@@ -1,5 +1,7 @@
 #include "ancestors/KwstSchSchrijver.h"
 
+#include <algorithm>
+
 #include "output/TekstSchrijver.h"
 #include "reporting/HTMLPagina.h"
 #include "text/Getallen.h"
@@ -28,7 +30,7 @@ KwstSchSchrijver::KwstSchSchrijver(const KwstOpties& opties, const Gegevens& bro
       bronnen_(bronnen),
       uit_(uit),
       verloop_(verloop),
-      schema_(opties.KwMaxGen),
+      schema_(std::clamp(opties.KwMaxGen, kMinSchemaGen, kMaxSchemaGen)),
       langste_(SchemaNummer(opties.KwBeginNr, schema_.Aantal()).Lengte()) {
   uit_.ZetHTML(opties.KwInHTML);
 }

@@ -1,6 +1,7 @@
 #include "ancestors/KwstTemp.h"
 
 #include "ancestors/KwstIdxSchrijver.h"
+#include "ancestors/KwstSchSchrijver.h"
 #include "ancestors/KwstSchrijver.h"
 #include "app/Hoofdmodule.h"
 #include "store/Codes.h"
@@ -24,6 +25,12 @@ Uitslag SchrijfIndex(Hoofdmodule& hoofd, const KwstOpties& opties, const KwstTab
   return KwstIdxSchrijver(tabel, opties, hoofd.MaakGegevens(), uit, verloop).Schrijf();
 }
 
+// The chart makes a tree of its own.
+Uitslag SchrijfSchema(Hoofdmodule& hoofd, const KwstOpties& opties, const KwstTabel&,
+                      TekstSchrijver& uit, const Verloop& verloop) {
+  return KwstSchSchrijver(opties, hoofd.MaakGegevens(), uit, verloop).Schrijf();
+}
+
 VerslagBestand BestandVan(const KwstTempSoort& soort, const KwstOpties& opties,
                           const Instellingen& instellingen, const std::filesystem::path& pad) {
   const bool doorlopend = soort.doorlopend || opties.KwInHTML;
@@ -40,6 +47,14 @@ const KwstTempSoort kKwstIdxTemp{
     {"KwstIdxTemp", kKwstMaakTemp.vorm.titel, kKwstMaakTemp.vorm.schrijven, kKwartieren},
     true,
     SchrijfIndex};
+
+const KwstTempSoort kKwstSchTemp{{"KwstSchTemp",
+                                  "Schema Kwartierstaat Schrijven",
+                                  "Schrijven van het schema van de kwartierstaat.",
+                                  {"Personen", "PersonenLabel", "Aantal personen:"},
+                                  true},
+                                 true,
+                                 SchrijfSchema};
 
 KwstTemp::KwstTemp(const KwstTempSoort& soort, Hoofdmodule& hoofd, const KwstOpties& opties,
                    const KwstTabel& tabel, const std::filesystem::path& pad)

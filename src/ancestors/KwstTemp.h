@@ -18,6 +18,7 @@ struct KwstTempSoort {
 
 extern const KwstTempSoort kKwstMaakTemp;
 extern const KwstTempSoort kKwstIdxTemp;
+extern const KwstTempSoort kKwstSchTemp;
 
 // Writes `pad`. HuidigPersoonNr is -1 afterwards when there is no whole report to show.
 class KwstTemp final : public SchrijfForm {

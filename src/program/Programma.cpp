@@ -61,6 +61,8 @@ void Programma::HangOp() {
   menu_.Hang("ViewTekst", [this, &gesprek] { gesprek.Toon<BekijkTekst>(hoofd_); });
   menu_.Hang("TekstKwst", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstTxtPrs, hoofd_); });
   menu_.Hang("IndexKwst", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstIdxPrs, hoofd_); });
+  menu_.Hang("SchemaKwst", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstSchPrs, hoofd_); });
+  menu_.Hang("SchemaKwBlad", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstBldPrs, hoofd_); });
   menu_.Hang("VeiligOngedaan", [this] { MaakLaatsteOngedaan(hoofd_.MaakOpslag()); });
   menu_.Hang("VeiligGeschiedenis", [this, &gesprek] { gesprek.Toon<Geschiedenis>(hoofd_); });
   menu_.Hang("VeiligKopie", [this, &gesprek] { MaakVeiligheidskopie(KopieVan(hoofd_), gesprek); });

@@ -189,12 +189,26 @@ TEST_F(Programmaloop, ElkeKeuzeDieTeKiezenIsToontZijnFormulier) {
 
 TEST_F(Programmaloop, ElkVerslagOverEenPersoonVraagtWieHetIs) {
   MaakFamilie();
-  Verwacht("kies TekstKwst\nsluit\nkies IndexKwst\nsluit\n", Sessie(), R"(
+  Verwacht(R"(
+      kies TekstKwst
+      sluit
+      kies IndexKwst
+      sluit
+      kies SchemaKwst
+      sluit
+      kies SchemaKwBlad
+      sluit
+    )",
+           Sessie(), R"(
       + MenuWindow "LB77 voor Windows"
       + KwstTxtPrs "Nummer Proband"
       - KwstTxtPrs
       + KwstIdxPrs "Nummer Proband"
       - KwstIdxPrs
+      + KwstSchPrs "Nummer Proband"
+      - KwstSchPrs
+      + KwstBldPrs "Nummer Proband"
+      - KwstBldPrs
     )");
 }
 

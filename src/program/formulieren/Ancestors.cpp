@@ -3,7 +3,10 @@
 #include <memory>
 
 #include "ancestors/KwstBereken.h"
+#include "ancestors/KwstBladen.h"
+#include "ancestors/KwstBldParam.h"
 #include "ancestors/KwstPrs.h"
+#include "ancestors/KwstSchParam.h"
 #include "ancestors/KwstTekstParam.h"
 #include "ancestors/KwstTemp.h"
 #include "program/formulieren/Gebieden.h"
@@ -59,6 +62,30 @@ constexpr FormulierRij kRijen[] = {
     {"KwstIdxParam", Opties<kKwstIdxParam>},
     {"KwidxHTMLParam", Links<kKwidxHTMLParam>},
     {"KwstIdxTemp", Schrijven<kKwstIdxTemp>},
+    {"KwstSchPrs", [](Programma& p) { return Maak<KwstPrs>(kKwstSchPrs, p.Hoofd()); }},
+    {"KwstSchParam",
+     [](Programma& p) {
+       auto kwst = MaakKwst();
+       return GemaaktFormulier{kwst, std::make_unique<KwstSchParam>(p.Hoofd(), kwst->opties)};
+     }},
+    {"KwstSchTemp", Schrijven<kKwstSchTemp>},
+    {"KwstBldPrs", [](Programma& p) { return Maak<KwstPrs>(kKwstBldPrs, p.Hoofd()); }},
+    {"KwstBladen",
+     [](Programma& p) {
+       auto kwst = MaakKwst();
+       Hoofdmodule& hoofd = p.Hoofd();
+       kwst->opties.KwVolgHerh = true;
+       static_cast<void>(BouwKwst(kwst->tabel, kwst->opties, hoofd.Persoon, hoofd.Relatie,
+                                  hoofd.volgers, {[] { return false; }, [](int, int) {}}));
+       return GemaaktFormulier{kwst,
+                               std::make_unique<KwstBladen>(p.Hoofd(), kwst->opties, kwst->tabel)};
+     }},
+    {"KwstBldParam",
+     [](Programma& p) {
+       auto kwst = MaakKwst();
+       return GemaaktFormulier{
+           kwst, std::make_unique<KwstBldParam>(p.Hoofd(), kwst->opties, kwst->tabel, 0)};
+     }},
 };
 
 }  // namespace
