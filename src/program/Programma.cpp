@@ -2,7 +2,7 @@
 
 #include <exception>
 
-#include "ancestors/KwstTxtPrs.h"
+#include "ancestors/KwstPrs.h"
 #include "app/Geschiedenis.h"
 #include "app/IniFunctie.h"
 #include "app/IniGebruiker.h"
@@ -60,7 +60,10 @@ void Programma::HangOp() {
   menu_.Hang("InvPersRel", [this] { ToonPersonenEnRelaties(hoofd_); });
   menu_.Hang("ImportGedcom", [this, &gesprek] { gesprek.Toon<ImpGedcom>(hoofd_); });
   menu_.Hang("ViewTekst", [this, &gesprek] { gesprek.Toon<BekijkTekst>(hoofd_); });
-  menu_.Hang("TekstKwst", [this, &gesprek] { gesprek.Toon<KwstTxtPrs>(hoofd_); });
+  menu_.Hang("TekstKwst", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstTxtPrs, hoofd_); });
+  menu_.Hang("IndexKwst", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstIdxPrs, hoofd_); });
+  menu_.Hang("SchemaKwst", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstSchPrs, hoofd_); });
+  menu_.Hang("SchemaKwBlad", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstBldPrs, hoofd_); });
   menu_.Hang("VeiligOngedaan", [this] { MaakLaatsteOngedaan(hoofd_.MaakOpslag()); });
   menu_.Hang("VeiligGeschiedenis", [this, &gesprek] { gesprek.Toon<Geschiedenis>(hoofd_); });
   menu_.Hang("VeiligKopie", [this, &gesprek] { MaakVeiligheidskopie(KopieVan(hoofd_), gesprek); });
