@@ -36,7 +36,7 @@ class Optievorm final : public Formulier {
                     {PerTakBox, "PerGeneratie", false, keuzen_.perGeneratie},
                     {ZonenBox, "VolgZonen", 1, keuzen_.volgorde},
                     {DatumsBox, "VolgDochters", 0, keuzen_.datums},
-                    {Leeftijd, "Leeftijd", 11, 15, keuzen_.leeftijd}}};
+                    {Leeftijd, "Leeftijd", {11, 50}, 15, keuzen_.leeftijd}}};
 };
 
 class OptieTabelToets : public FamilieToets {
@@ -74,12 +74,23 @@ TEST_F(OptieTabelToets, ToontWatBewaardIsEnVultDeOpties) {
 TEST_F(OptieTabelToets, NeemtVoorEenWaardeDieGeenIsDeStandaard) {
   Stil([this](Hoofdmodule& hoofd) {
     for (const std::string_view waarde : {"", "?", "-3", "99999999999"}) {
-      Laad(hoofd, {waarde, waarde, waarde, waarde, waarde == "99999999999" ? "10" : waarde});
+      Laad(hoofd, {waarde, waarde, waarde, waarde, waarde});
       EXPECT_TRUE(vorm_.OokNrsBox.Ja()) << waarde;
       EXPECT_EQ(vorm_.PerTakBox.Tekst(), "Per tak") << waarde;
       EXPECT_EQ(vorm_.ZonenBox.Tekst(), "Een") << waarde;
       EXPECT_EQ(vorm_.DatumsBox.Tekst(), "Nee") << waarde;
       EXPECT_EQ(vorm_.Leeftijd.Tekst(), "15") << waarde;
+    }
+  });
+}
+
+TEST_F(OptieTabelToets, NeemtEenGetalBinnenZijnBereikAlleen) {
+  Stil([this](Hoofdmodule& hoofd) {
+    const std::pair<std::string_view, std::string_view> gevallen[] = {
+        {"10", "15"}, {"11", "11"}, {"50", "50"}, {"51", "15"}};
+    for (const auto& [bewaard, getoond] : gevallen) {
+      Laad(hoofd, {"", "", "", "", bewaard});
+      EXPECT_EQ(vorm_.Leeftijd.Tekst(), getoond) << bewaard;
     }
   });
 }
