@@ -35,7 +35,7 @@ class GenToets : public ::testing::Test {
   ProefSet set_;
   BouwFamilie& bouw_ = set_.bouw;
   GenTabel tabel_;
-  GenTxtOpties opties_;
+  GenOpties opties_;
   Verloop verloop_{[] { return false; }, [](int, int) {}};
 };
 
