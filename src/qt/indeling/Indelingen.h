@@ -20,6 +20,9 @@ namespace lb77::indeling {
 [[nodiscard]] std::vector<Indeling> Uitwisseling();
 [[nodiscard]] std::vector<Indeling> Veiligheid();
 
+// What every form has that asks for a person.
+[[nodiscard]] Blok PersoonPrompt();
+
 // Those of all areas.
 [[nodiscard]] std::vector<Indeling> Alle();
 

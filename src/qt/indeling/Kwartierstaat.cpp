@@ -5,14 +5,6 @@ namespace lb77::indeling {
 
 namespace {
 
-Blok PersoonPrompt() {
-  return Kolom({
-      "VraagLabel",
-      Velden({"RecordNr", "VoorNm", "AchterNm"}),
-      Knoppen({"ZoekButton"}, {"OKButton", "BackButton"}),
-  });
-}
-
 Blok Opties() {
   return Kolom({
       Groep("Proband", {Velden({
