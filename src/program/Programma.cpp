@@ -18,6 +18,7 @@
 #include "app/SetOpenen.h"
 #include "app/Start.h"
 #include "app/VerwijderSetForm.h"
+#include "descendants/GenPrs.h"
 #include "entry/StartRecord.h"
 #include "entry/ToonPlaatsen.h"
 #include "exchange/ImpGedcom.h"
@@ -60,6 +61,7 @@ void Programma::HangOp() {
   menu_.Hang("ImportGedcom", [this, &gesprek] { gesprek.Toon<ImpGedcom>(hoofd_); });
   menu_.Hang("ViewTekst", [this, &gesprek] { gesprek.Toon<BekijkTekst>(hoofd_); });
   menu_.Hang("TekstKwst", [this, &gesprek] { gesprek.Toon<KwstTxtPrs>(hoofd_); });
+  menu_.Hang("TekstGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenTxtPrs, hoofd_); });
   menu_.Hang("VeiligOngedaan", [this] { MaakLaatsteOngedaan(hoofd_.MaakOpslag()); });
   menu_.Hang("VeiligGeschiedenis", [this, &gesprek] { gesprek.Toon<Geschiedenis>(hoofd_); });
   menu_.Hang("VeiligKopie", [this, &gesprek] { MaakVeiligheidskopie(KopieVan(hoofd_), gesprek); });

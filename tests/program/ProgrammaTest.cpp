@@ -78,7 +78,7 @@ TEST_F(Programmaloop, KeuzenVanWatErNietIsZijnGrijs) {
   MaakFamilie();
   Verwacht("toon TekstGen\ntoon ImportDBase\ntoon TekstKwst\ntoon ExpVVF\n", Sessie(), R"(
       + MenuWindow "LB77 voor Windows"
-      = TekstGen "&Genealogie of Parenteel" [uit]
+      = TekstGen "&Genealogie of Parenteel"
       = ImportDBase "&dBase" [uit]
       = TekstKwst "&Kwartierstaat"
       = ExpVVF "&VVFContact" [uit] [verborgen]

@@ -27,14 +27,6 @@ Blok Opties() {
   });
 }
 
-Blok InternetOpties() {
-  return Kolom({
-      Groep("E-mail", {Velden({"EmailAdres", "EmailTekst"})}),
-      Groep("Home Page", {Velden({"HomePageURL", "URLLabelTekst", "URLTekstTekst"})}),
-      Knoppen({"OKButton", "BackButton"}),
-  });
-}
-
 }  // namespace
 
 std::vector<Indeling> Kwartierstaat() {

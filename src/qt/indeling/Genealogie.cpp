@@ -1,0 +1,85 @@
+// The chains of forms of the descendant reports.
+#include "qt/indeling/Indelingen.h"
+
+namespace lb77::indeling {
+
+namespace {
+
+Blok Stamouder() {
+  return Groep("Stamouder", {Velden({
+                                Rij({"NrStamouder", "Periode"}),
+                                Rij({"VoorNmStamouder", "AchterNmStamouder"}),
+                            })});
+}
+
+Blok WieVolgt() {
+  return Groep("Wie gevolgd wordt", {Velden({
+                                        Rij({"ZonenBox", "DochtersBox"}),
+                                        Rij({"GrensLeeftijd", "MaxGen"}),
+                                        Rij({"PrsHerhaalBox", "UitsluitBox"}),
+                                    })});
+}
+
+Blok TitelEnInleiding() {
+  return Groep("Titel en inleiding",
+               {Velden({"TitelTekst", "Inleiding1", "Inleiding2", "Inleiding3"})});
+}
+
+Blok TekstOpties() {
+  return Kolom({
+      Stamouder(),
+      WieVolgt(),
+      Groep("Uitvoer", {Velden({
+                           Rij({"PerTakBox", "VerwijsBox"}),
+                           Rij({"OokNrsBox", "OokOpmBox"}),
+                           Rij({"InHTMLBox", "CopyrightBox"}),
+                           "OokLB77Box",
+                       })}),
+      TitelEnInleiding(),
+      Knoppen({"OKButton", "BackButton"}),
+  });
+}
+
+Blok Takken() {
+  return Kolom({
+      "VraagLabel",
+      Tabel({
+          Veld("RecordNrVolgNiet(*)", "Nummer", 6),
+          Veld("VoorNmVolgNiet(*)", "Voornamen", 24),
+          Veld("AchterNmVolgNiet(*)", "Achternaam", 20),
+          Veld("PeriodeVolgNiet(*)", "Periode"),
+          Veld("ZoekButton(*)"),
+      }),
+      Knoppen({"OKButton", "BackButton"}),
+  });
+}
+
+Blok Opbouw() {
+  return Kolom({
+      "OpbouwLabel",
+      Velden({Rij({"PersNrLabel", "PersoonsNr"}), Rij({"HoofdpersonenLabel", "Hoofdpersonen"})}),
+      Velden({"GeduldLabel", "MaximumLabel"}),
+      Knoppen({"OKButton", "BackButton"}),
+  });
+}
+
+Blok Schrijven() {
+  return Kolom({
+      "SchrijfLabel",
+      Velden({Rij({"HoofdpersonenLabel", "Hoofdpersonen"}), Rij({"PersNrLabel", "PersoonsNr"})}),
+      "GeduldLabel",
+      Knoppen({"OKButton", "BackButton"}),
+  });
+}
+
+}  // namespace
+
+std::vector<Indeling> Genealogie() {
+  return {
+      {"GenTxtPrs", PersoonPrompt()}, {"GenTxtParam", TekstOpties()},
+      {"GenTxtUitsluit", Takken()},   {"GenHTMLParam", InternetOpties()},
+      {"GenBereken", Opbouw()},       {"GenMaakTemp", Schrijven()},
+  };
+}
+
+}  // namespace lb77::indeling
