@@ -4,6 +4,8 @@
 
 #include "app/Hoofdmodule.h"
 #include "descendants/GenBereken.h"
+#include "descendants/GenSchBlok.h"
+#include "descendants/GenSchParam.h"
 #include "descendants/GenTekstParam.h"
 #include "descendants/GenTemp.h"
 
@@ -22,6 +24,16 @@ std::unique_ptr<Formulier> Schrijf(Hoofdmodule& hoofd, GenRun& run,
   return std::make_unique<GenTemp>(kSoort, hoofd, run, pad);
 }
 
+std::unique_ptr<Formulier> VraagSchemaOpties(Hoofdmodule& hoofd, GenRun& run,
+                                             const std::filesystem::path&) {
+  return std::make_unique<GenSchParam>(hoofd, run.opties);
+}
+
+std::unique_ptr<Formulier> PlaatsSchema(Hoofdmodule& hoofd, GenRun& run,
+                                        const std::filesystem::path&) {
+  return std::make_unique<GenSchBlok>(hoofd, run.tabel, run.opties.GenCentreren, run.rijen);
+}
+
 }  // namespace
 
 const GenPrsSoort kGenTxtPrs{"GenTxtPrs",
@@ -31,6 +43,22 @@ const GenPrsSoort kGenTxtPrs{"GenTxtPrs",
                              {Schrijf<kGenMaakTemp>, nullptr},
                              "GEN_DATA.TMP",
                              "Genealogie / Parenteel in Tekstvorm"};
+
+const GenPrsSoort kGenIdxPrs{"GenIdxPrs",
+                             VraagOpties<kGenIdxParam>,
+                             kGenIdxUitsluit,
+                             kGenHTMLParam,
+                             {Schrijf<kGenMaakIdxTemp>, nullptr},
+                             "GEN_INDX.TMP",
+                             "Index op Genealogie / Parenteel in Tekstvorm"};
+
+const GenPrsSoort kGenSchPrs{"GenSchPrs",
+                             VraagSchemaOpties,
+                             kGenSchUitsluit,
+                             kGenSchHTMLParam,
+                             {PlaatsSchema, Schrijf<kGenSchTemp>},
+                             "GEN_DATA.TMP",
+                             "Schema Genealogie / Parenteel"};
 
 GenPrs::GenPrs(const GenPrsSoort& soort, Hoofdmodule& hoofd)
     : PersoonPrompt({soort.naam, "Nummer Stamouder", "Geef het Persoonsnummer van de Stamouder"},

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "descendants/GenOpties.h"
+#include "descendants/GenRij.h"
 #include "descendants/GenTabel.h"
 #include "descendants/GenUitsluit.h"
 #include "reporting/HTMLParam.h"
@@ -18,6 +19,7 @@ namespace lb77 {
 struct GenRun {
   GenOpties opties;
   GenTabel tabel;
+  GenRij rijen;  // of a chart
 };
 
 // Makes a form of the chain; the run and the path of the report outlive it.
@@ -35,6 +37,8 @@ struct GenPrsSoort {
 };
 
 extern const GenPrsSoort kGenTxtPrs;
+extern const GenPrsSoort kGenIdxPrs;
+extern const GenPrsSoort kGenSchPrs;
 
 // Asks for the stamouder and runs the chain.
 class GenPrs final : public PersoonPrompt {

@@ -1,6 +1,8 @@
 #include "descendants/GenTemp.h"
 
 #include "app/Hoofdmodule.h"
+#include "descendants/GenIdxSchrijver.h"
+#include "descendants/GenSchSchrijver.h"
 #include "descendants/GenSchrijver.h"
 #include "store/Codes.h"
 
@@ -18,6 +20,16 @@ Uitslag SchrijfTekst(Hoofdmodule& hoofd, const GenRun& run, TekstSchrijver& uit,
   return GenSchrijver(run.tabel, run.opties, hoofd.MaakGegevens(), zin, uit, verloop).Schrijf();
 }
 
+Uitslag SchrijfIndex(Hoofdmodule& hoofd, const GenRun& run, TekstSchrijver& uit,
+                     const Verloop& verloop) {
+  return GenIdxSchrijver(run.tabel, run.opties, hoofd.MaakGegevens(), uit, verloop).Schrijf();
+}
+
+Uitslag SchrijfSchema(Hoofdmodule& hoofd, const GenRun& run, TekstSchrijver& uit,
+                      const Verloop& verloop) {
+  return SchrijfGenSchema(run.tabel, run.rijen, run.opties, hoofd.MaakGegevens(), uit, verloop);
+}
+
 VerslagBestand BestandVan(const GenTempSoort& soort, const GenOpties& opties,
                           const Instellingen& instellingen, const std::filesystem::path& pad) {
   const bool doorlopend = soort.doorlopend || opties.GenInHTML;
@@ -30,6 +42,21 @@ const GenTempSoort kGenMaakTemp{{"GenMaakTemp", "Genealogie / Parenteel Schrijve
                                  "Schrijven van de genealogie / parenteel.", kHoofdpersonen, true},
                                 false,
                                 SchrijfTekst};
+
+const GenTempSoort kGenMaakIdxTemp{
+    {"GenMaakIdxTemp", "Genealogie / Parenteel Schrijven",
+     "Schrijven van de genealogie / parenteel.", kHoofdpersonen, true},
+    true,
+    SchrijfIndex};
+
+// Counts the lines of a drawing that runs to the right, the persons of one that runs downward.
+const GenTempSoort kGenSchTemp{{"GenSchTemp",
+                                "Schema Genealogie / Parenteel Schrijven",
+                                "Schrijven van het schema.",
+                                {"Personen", "PersonenLabel", "Aantal personen:"},
+                                true},
+                               true,
+                               SchrijfSchema};
 
 GenTemp::GenTemp(const GenTempSoort& soort, Hoofdmodule& hoofd, const GenRun& run,
                  const std::filesystem::path& pad)

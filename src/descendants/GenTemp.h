@@ -16,6 +16,8 @@ struct GenTempSoort {
 };
 
 extern const GenTempSoort kGenMaakTemp;
+extern const GenTempSoort kGenMaakIdxTemp;
+extern const GenTempSoort kGenSchTemp;
 
 // Writes `pad`. HuidigPersoonNr is -1 afterwards when there is no whole report to show.
 class GenTemp final : public SchrijfForm {

@@ -16,6 +16,8 @@ struct GenUitsluitSoort {
 };
 
 inline constexpr GenUitsluitSoort kGenTxtUitsluit{"GenTxtUitsluit"};
+inline constexpr GenUitsluitSoort kGenIdxUitsluit{"GenIdxUitsluit"};
+inline constexpr GenUitsluitSoort kGenSchUitsluit{"GenSchUitsluit"};
 
 // Asks for up to fifteen persons who are told but not followed. The rows begin empty. OK puts the
 // numbers into `opties`; BackButton stops the chain.

@@ -62,6 +62,8 @@ void Programma::HangOp() {
   menu_.Hang("ViewTekst", [this, &gesprek] { gesprek.Toon<BekijkTekst>(hoofd_); });
   menu_.Hang("TekstKwst", [this, &gesprek] { gesprek.Toon<KwstTxtPrs>(hoofd_); });
   menu_.Hang("TekstGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenTxtPrs, hoofd_); });
+  menu_.Hang("IndexGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenIdxPrs, hoofd_); });
+  menu_.Hang("SchemaGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenSchPrs, hoofd_); });
   menu_.Hang("VeiligOngedaan", [this] { MaakLaatsteOngedaan(hoofd_.MaakOpslag()); });
   menu_.Hang("VeiligGeschiedenis", [this, &gesprek] { gesprek.Toon<Geschiedenis>(hoofd_); });
   menu_.Hang("VeiligKopie", [this, &gesprek] { MaakVeiligheidskopie(KopieVan(hoofd_), gesprek); });

@@ -40,6 +40,40 @@ Blok TekstOpties() {
   });
 }
 
+Blok IndexOpties() {
+  return Kolom({
+      Stamouder(),
+      WieVolgt(),
+      Groep("Uitvoer", {Velden({
+                           Rij({"PerTakBox", "OokNrsBox"}),
+                           Rij({"InHTMLBox", "HTMLfileTekst"}),
+                           Rij({"CopyrightBox", "OokLB77Box"}),
+                       })}),
+      TitelEnInleiding(),
+      Knoppen({"OKButton", "BackButton"}),
+  });
+}
+
+Blok SchemaOpties() {
+  return Kolom({
+      Stamouder(),
+      WieVolgt(),
+      Groep("Schema", {Velden({
+                          Rij({"HorVerBox", "CentreerBox"}),
+                          Rij({"OokVNamenBox", "OokDatumsBox"}),
+                          Rij({"PosVNamen", "PosANamen"}),
+                          Rij({"OokPartnersBox", "OokVNrsBox"}),
+                          Rij({"OokPNrsBox", "OokRNrsBox"}),
+                      })}),
+      Groep("Uitvoer", {Velden({
+                           Rij({"InHTMLBox", "CopyrightBox"}),
+                           "OokLB77Box",
+                       })}),
+      TitelEnInleiding(),
+      Knoppen({"OKButton", "BackButton"}),
+  });
+}
+
 Blok Takken() {
   return Kolom({
       "VraagLabel",
@@ -63,10 +97,19 @@ Blok Opbouw() {
   });
 }
 
-Blok Schrijven() {
+Blok Plaatsen() {
+  return Kolom({
+      "OpbouwLabel",
+      Velden({Rij({"PersNrLabel", "PersoonsNr"})}),
+      "GeduldLabel",
+      Knoppen({"OKButton", "BackButton"}),
+  });
+}
+
+Blok Schrijven(const std::string& label, const std::string& teller) {
   return Kolom({
       "SchrijfLabel",
-      Velden({Rij({"HoofdpersonenLabel", "Hoofdpersonen"}), Rij({"PersNrLabel", "PersoonsNr"})}),
+      Velden({Rij({label, teller}), Rij({"PersNrLabel", "PersoonsNr"})}),
       "GeduldLabel",
       Knoppen({"OKButton", "BackButton"}),
   });
@@ -76,9 +119,21 @@ Blok Schrijven() {
 
 std::vector<Indeling> Genealogie() {
   return {
-      {"GenTxtPrs", PersoonPrompt()}, {"GenTxtParam", TekstOpties()},
-      {"GenTxtUitsluit", Takken()},   {"GenHTMLParam", InternetOpties()},
-      {"GenBereken", Opbouw()},       {"GenMaakTemp", Schrijven()},
+      {"GenTxtPrs", PersoonPrompt()},
+      {"GenTxtParam", TekstOpties()},
+      {"GenTxtUitsluit", Takken()},
+      {"GenHTMLParam", InternetOpties()},
+      {"GenBereken", Opbouw()},
+      {"GenMaakTemp", Schrijven("HoofdpersonenLabel", "Hoofdpersonen")},
+      {"GenIdxPrs", PersoonPrompt()},
+      {"GenIdxParam", IndexOpties()},
+      {"GenIdxUitsluit", Takken()},
+      {"GenMaakIdxTemp", Schrijven("HoofdpersonenLabel", "Hoofdpersonen")},
+      {"GenSchPrs", PersoonPrompt()},
+      {"GenSchParam", SchemaOpties()},
+      {"GenSchUitsluit", Takken()},
+      {"GenSchBlok", Plaatsen()},
+      {"GenSchTemp", Schrijven("PersonenLabel", "Personen")},
   };
 }
 
