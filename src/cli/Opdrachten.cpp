@@ -7,6 +7,7 @@ int Sets(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Nieuw(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Importeer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Kwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Gezinsblad(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Zoek(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 // In Veiligheid.cpp.
 int ToonGeschiedenis(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
@@ -24,6 +25,7 @@ constexpr Opdracht kOpdrachten[] = {
     {"nieuw", "maakt een bestandenset", {"SET", "[OMSCHRIJVING]"}, Extra::Geen, Nieuw, true},
     {"importeer", "leest een GEDCOM-bestand in", {"SET"}, Extra::Bestand, Importeer, false, true},
     {"kwartierstaat", "schrijft de Kwartierstaat van een persoon", {"SET", "PERSOON"}, Extra::Rapport, Kwartierstaat},
+    {"gezinsblad", "schrijft het gezinsblad van een persoon", {"SET", "PERSOON"}, Extra::Tekstrapport, Gezinsblad},
     {"zoek", "zoekt personen op een deel van hun naam", {"SET", "NAAM"}, Extra::Geen, Zoek},
     {"geschiedenis", "toont de bewerkingen van een set", {"SET"}, Extra::Geen, ToonGeschiedenis},
     {"ongedaan", "maakt de laatste bewerking ongedaan, of alle t/m nummer N", {"SET", "[N]"}, Extra::Geen, MaakOngedaan, false, true},

@@ -19,6 +19,7 @@
 #include "app/Start.h"
 #include "app/VerwijderSetForm.h"
 #include "descendants/GenPrs.h"
+#include "descendants/GezinSchPrs.h"
 #include "entry/StartRecord.h"
 #include "entry/ToonPlaatsen.h"
 #include "exchange/ImpGedcom.h"
@@ -64,6 +65,7 @@ void Programma::HangOp() {
   menu_.Hang("TekstGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenTxtPrs, hoofd_); });
   menu_.Hang("IndexGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenIdxPrs, hoofd_); });
   menu_.Hang("SchemaGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenSchPrs, hoofd_); });
+  menu_.Hang("SchemaGezin", [this, &gesprek] { gesprek.Toon<GezinSchPrs>(hoofd_); });
   menu_.Hang("VeiligOngedaan", [this] { MaakLaatsteOngedaan(hoofd_.MaakOpslag()); });
   menu_.Hang("VeiligGeschiedenis", [this, &gesprek] { gesprek.Toon<Geschiedenis>(hoofd_); });
   menu_.Hang("VeiligKopie", [this, &gesprek] { MaakVeiligheidskopie(KopieVan(hoofd_), gesprek); });

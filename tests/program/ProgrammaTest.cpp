@@ -158,6 +158,8 @@ TEST_F(Programmaloop, ElkeKeuzeDieTeKiezenIsToontZijnFormulier) {
       kies ViewTekst
       kies TekstKwst
       sluit
+      kies SchemaGezin
+      sluit
       kies AboutLB77
       sluit
     )",
@@ -186,6 +188,8 @@ TEST_F(Programmaloop, ElkeKeuzeDieTeKiezenIsToontZijnFormulier) {
       > openen "Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt|GEDCOM-bestanden (*.GED)|*.GED" -> -
       + KwstTxtPrs "Nummer Proband"
       - KwstTxtPrs
+      + GezinSchPrs "Nummer Gezinshoofd"
+      - GezinSchPrs
       + OverLB77Form "Over LB77 voor Windows"
       - OverLB77Form
     )~");

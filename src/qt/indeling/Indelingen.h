@@ -17,6 +17,7 @@ namespace lb77::indeling {
 [[nodiscard]] std::vector<Indeling> Opmerkingen();
 [[nodiscard]] std::vector<Indeling> Bekijken();
 [[nodiscard]] std::vector<Indeling> Kwartierstaat();
+[[nodiscard]] std::vector<Indeling> Gezinsblad();
 [[nodiscard]] std::vector<Indeling> Genealogie();
 [[nodiscard]] std::vector<Indeling> Uitwisseling();
 [[nodiscard]] std::vector<Indeling> Veiligheid();
