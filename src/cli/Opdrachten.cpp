@@ -8,6 +8,9 @@ int Nieuw(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Importeer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Kwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Gezinsblad(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+// In Genealogie.cpp.
+int Genealogie(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Parenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Zoek(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 // In Veiligheid.cpp.
 int ToonGeschiedenis(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
@@ -26,6 +29,8 @@ constexpr Opdracht kOpdrachten[] = {
     {"importeer", "leest een GEDCOM-bestand in", {"SET"}, Extra::Bestand, Importeer, false, true},
     {"kwartierstaat", "schrijft de Kwartierstaat van een persoon", {"SET", "PERSOON"}, Extra::Rapport, Kwartierstaat},
     {"gezinsblad", "schrijft het gezinsblad van een persoon", {"SET", "PERSOON"}, Extra::Tekstrapport, Gezinsblad},
+    {"genealogie", "schrijft de nakomelingen van een persoon in de lijn van de zonen", {"SET", "PERSOON"}, Extra::Rapport, Genealogie},
+    {"parenteel", "schrijft alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, Parenteel},
     {"zoek", "zoekt personen op een deel van hun naam", {"SET", "NAAM"}, Extra::Geen, Zoek},
     {"geschiedenis", "toont de bewerkingen van een set", {"SET"}, Extra::Geen, ToonGeschiedenis},
     {"ongedaan", "maakt de laatste bewerking ongedaan, of alle t/m nummer N", {"SET", "[N]"}, Extra::Geen, MaakOngedaan, false, true},
