@@ -158,8 +158,6 @@ TEST_F(Programmaloop, ElkeKeuzeDieTeKiezenIsToontZijnFormulier) {
       kies ViewTekst
       kies TekstKwst
       sluit
-      kies SchemaGezin
-      sluit
       kies AboutLB77
       sluit
     )",
@@ -188,10 +186,33 @@ TEST_F(Programmaloop, ElkeKeuzeDieTeKiezenIsToontZijnFormulier) {
       > openen "Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt|GEDCOM-bestanden (*.GED)|*.GED" -> -
       + KwstTxtPrs "Nummer Proband"
       - KwstTxtPrs
-      + GezinSchPrs "Nummer Gezinshoofd"
-      - GezinSchPrs
       + OverLB77Form "Over LB77 voor Windows"
       - OverLB77Form
+    )~");
+}
+
+TEST_F(Programmaloop, VerslagenVanNakomelingenVragenOmEenPersoon) {
+  MaakFamilie();
+  Verwacht(R"(
+      kies TekstGen
+      sluit
+      kies IndexGen
+      sluit
+      kies SchemaGen
+      sluit
+      kies SchemaGezin
+      sluit
+    )",
+           Sessie(), R"~(
+      + MenuWindow "LB77 voor Windows"
+      + GenTxtPrs "Nummer Stamouder"
+      - GenTxtPrs
+      + GenIdxPrs "Nummer Stamouder"
+      - GenIdxPrs
+      + GenSchPrs "Nummer Stamouder"
+      - GenSchPrs
+      + GezinSchPrs "Nummer Gezinshoofd"
+      - GezinSchPrs
     )~");
 }
 
