@@ -124,7 +124,8 @@ GezinF6::Kolom GezinF6::KolomVan(const std::optional<PersoonBlik>& persoon) {
   const Levensloop& leven = persoon->leven;
   PlaatsLB77& plaats = bronnen_.plaats;
   const Ouders ouders = LeesOuders(*persoon);
-  Kolom uit = {persoon->achternaam + delen_.Nummer(persoon->nr),
+  const std::string achternaam = persoon->achternaam + delen_.Nummer(persoon->nr);
+  Kolom uit = {std::string(TrimLinks(achternaam)),
                persoon->voornaam,
                plaats.Naam2(leven.geboorte.plaatsNr),
                DatumVan(leven.geboorte),

@@ -76,6 +76,16 @@ TEST_F(GezinF6Toets, EenManAlleenStaatLinks) {
             "        geb. plaats/datum                      ovl. plaats/datum\n");
 }
 
+TEST_F(GezinF6Toets, EenNummerZonderAchternaamStaatAchterHetOpschrift) {
+  opties_.GezinOokNrs = true;
+  const auto man = bouw_.Man("Jan", "");
+  const auto relatie = bouw_.Relatie(man, bouw_.Vrouw("Els", "Vos"));
+  EXPECT_TRUE(Blad(man, relatie)
+                  .starts_with("GEZINSBLAD Vos [rel.nr. 2]\n\n" +
+                               Regel("Achternaam   : [2]", "Achternaam   : Vos [3]")))
+      << uit_;
+}
+
 TEST_F(GezinF6Toets, ZonderRelatieStaatErDatZijErNietIs) {
   opties_.GezinOokNrs = true;
   const auto man = bouw_.Man("Jan", "Bos");
