@@ -8,6 +8,7 @@
 #include "store/Codes.h"
 #include "text/Getallen.h"
 #include "text/Namen.h"
+#include "text/Tekens.h"
 
 namespace lb77 {
 namespace {
@@ -156,7 +157,7 @@ void GenSchrijver::BreekAf(int regels) {
 // Whoever has several relations has his name again at the head of each.
 bool GenSchrijver::SchrijfGezinnen(std::int16_t nr, Van van) {
   if (!verteller_.LeesPersoon(nr)) return false;
-  const std::string naam = verteller_.Gecodeerd(bronnen_.persoon.NaamVoluit());
+  const std::string naam = verteller_.Gecodeerd(Trim(bronnen_.persoon.NaamVoluit()));
   const auto gezinnen = LeesGezinnen(bronnen_.persoon, bronnen_.relatie, nr);
   if (!gezinnen) return verteller_.LeesPersoon(nr);
   bool eerste = true;
