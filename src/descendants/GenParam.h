@@ -1,17 +1,13 @@
 // What the parameter dialogs of the descendant reports share.
 #pragma once
 
-#include <array>
 #include <string_view>
 
 #include "app/JaNeeVak.h"
 #include "descendants/GenOpties.h"
 #include "reporting/GeneratiesVak.h"
 #include "reporting/GrensVak.h"
-#include "reporting/KetenFormulier.h"
-#include "reporting/OptieTabel.h"
-#include "reporting/PersoonKop.h"
-#include "reporting/TitelVelden.h"
+#include "reporting/VerslagParam.h"
 
 namespace lb77 {
 
@@ -26,11 +22,10 @@ struct GenParamSoort {
 
 inline constexpr std::string_view kGenSectie = "GEN";
 
-// Shows the stamouder and the rules by which his descendants are followed. A derived form declares its
-// other fields, the texts around the report and its buttons, and hands them to Koppel.
-class GenParam : public KetenFormulier {
+// Asks the rules by which descendants are followed. A derived form declares its other fields, the
+// texts around the report and its buttons, and hands them to Koppel.
+class GenParam : public VerslagParam {
  public:
-  PersoonKop Stamouder;
   GeneratiesVak MaxGen;
   Keuzevak ZonenBox{*this,
                     "ZonenBox",
@@ -54,18 +49,14 @@ class GenParam : public KetenFormulier {
   // stops the chain.
   void Koppel(const OptieTabel& keuzen, TitelVelden& titels, Knop& ok, Knop& terug);
   void BijLaden() override;
-  // The choices and the texts into the options, and into the settings when the user wants them kept.
+  // What OK does before it closes.
   virtual void Bewaar();
   [[nodiscard]] GenOpties& Opties() { return opties_; }
 
  private:
-  [[nodiscard]] std::array<const OptieTabel*, 3> Keuzen() const;
-
   GenOpties& opties_;
   OptieTabel regels_;
   OptieTabel leeftijd_;
-  const OptieTabel* keuzen_ = nullptr;
-  TitelVelden* titels_ = nullptr;
 };
 
 }  // namespace lb77
