@@ -17,7 +17,6 @@ GezinMaakTemp::GezinMaakTemp(Hoofdmodule& hoofd, const GezinOpties& opties,
 }
 
 void GezinMaakTemp::Werk() {
-  Hoofd().volgers.HuidigPersoonNr = opties_.GezinHoofdNr;
   const int breedte = opties_.GezinSoort == BladSoort::F6 ? TekstSchrijver::kGeenRechterMarge
                                                           : Hoofd().instellingen.Tekstbr();
   const auto schrijf = [this](TekstSchrijver& uit) { return Schrijf(uit); };

@@ -142,6 +142,16 @@ TEST_F(GezinKeten, DeBreedteGeldtNietVoorHetF6Blad) {
   EXPECT_TRUE(Bevat("\r\nVoornamen    : Jan Pieter                       Voornamen    : Cornelia"));
 }
 
+TEST_F(GezinKeten, DeFamilienaamVanKinderenIsEenInstelling) {
+  for (const auto& [waarde, kind] : {std::pair("0", " 3. Kee [9]\r\n"),
+                                     {"", " 3. Kee [9]\r\n"},
+                                     {"1", " 3. Kee van Dam [9]\r\n"}}) {
+    ZetIni("FamNaamWeerg=1", std::string("FamNaamWeerg=") + waarde);
+    Speel(Weg());
+    EXPECT_TRUE(Bevat(kind)) << waarde;
+  }
+}
+
 TEST_F(GezinKeten, KeuzenBlijvenInDeInstellingen) {
   Speel(Weg().In("GezinSchParam",
                  "stel SoortBladBox #2\nstel OokNrsBox Nee\nstel OokOpmBox Ja\ndruk OKButton"));

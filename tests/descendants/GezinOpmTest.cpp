@@ -75,6 +75,28 @@ TEST_F(GezinOpm, EenKindHeeftAlleenDeRubriekenVanZijnDatums) {
       << uit_;
 }
 
+TEST_F(GezinOpm, VanEenSpanGaatGeenOpmerkingVerloren) {
+  bouw_.Plaats("Delft");
+  const VeldWaarden velden = {{"GebCorr", "T"},
+                              {"GebPlaats", "2"},
+                              {"GebDatum", "01-01-1800"},
+                              {"DoopDatum", "02-02-1801"}};
+  const auto man = bouw_.Man("Jan", "Bos", velden);
+  const auto kind = bouw_.Man("Piet", "Bos", velden);
+  const auto relatie = bouw_.Relatie(man, 0, {kind});
+  for (const std::int16_t wie : {man, kind}) {
+    for (const int rubriek : {4, 8, 16, 32, 64}) {
+      bouw_.OpmerkingBijPersoon(wie, static_cast<std::int16_t>(rubriek), {Merk(rubriek)}, 8);
+    }
+  }
+  const std::string span = "geb. Delft <4> tussen 1-1-1800 <8> en 2-2-1801";
+  Blad(man, relatie);
+  EXPECT_TRUE(uit_.starts_with("Jan Bos\n" + span + " <64> <16> <32>\n\n")) << uit_;
+  EXPECT_TRUE(uit_.ends_with("\n 1. Piet\n      " + span + " <16> <32>\n")) << uit_;
+  bouw_.WijzigPersoon(kind, {{"DoopDatum", "00-00-0000"}});
+  EXPECT_TRUE(Blad(man, relatie).ends_with("\n      geb. Delft <4> 1-1-1800 <8>\n")) << uit_;
+}
+
 TEST_F(GezinOpm, EenRelatieHeeftElkeRubriekAchterHaarElement) {
   bouw_.Plaats("Delft");
   const auto man = bouw_.Man("Jan", "Bos");
