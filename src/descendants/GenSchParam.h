@@ -23,19 +23,16 @@ class GenSchParam final : public GenParam {
 
   Keuzevak HorVerBox{*this, "HorVerBox", "Richting:", {"Horizontaal", "Verticaal"}};
   JaNeeVak CentreerBox{*this, "CentreerBox", "Ouders centreren ?"};
-  Keuzevak OokVNamenBox{*this,
-                        "OokVNamenBox",
-                        "Ook Voornamen uitvoeren ?",
-                        {"Nee", "Alleen 1e", "Voorletters", "Volledig"}};
+  Keuzevak OokDatumsBox{*this, "OokDatumsBox", "Datums:", {"Nee", "Jaartallen", "Volledig"}};
+  Keuzevak OokVNamenBox{
+      *this, "OokVNamenBox", "Voornamen:", {"Nee", "Alleen 1e", "Voorletters", "Volledig"}};
   GrensVak PosVNamen;
   GrensVak PosANamen;
-  Keuzevak OokDatumsBox{
-      *this, "OokDatumsBox", "Ook Datums uitvoeren ?", {"Nee", "Jaartallen", "Volledig"}};
   Keuzevak OokPartnersBox{
-      *this, "OokPartnersBox", "Ook Partners uitvoeren ?", {"Nee", "Onder elkaar", "Naast elkaar"}};
-  JaNeeVak OokVNrsBox{*this, "OokVNrsBox", "Ook Volgnummers uitvoeren ?"};
-  JaNeeVak OokPNrsBox{*this, "OokPNrsBox", "Ook Persoonsnummers uitvoeren ?"};
-  JaNeeVak OokRNrsBox{*this, "OokRNrsBox", "Ook Relatienummers uitvoeren ?"};
+      *this, "OokPartnersBox", "Partners:", {"Nee", "Onder elkaar", "Naast elkaar"}};
+  JaNeeVak OokVNrsBox{*this, "OokVNrsBox", "Ook Volgnummers ?"};
+  JaNeeVak OokPNrsBox{*this, "OokPNrsBox", "Ook Persoonsnummers ?"};
+  JaNeeVak OokRNrsBox{*this, "OokRNrsBox", "Ook Relatienummers ?"};
   TitelVelden Titels;
   Knop OKButton{*this, "OKButton", "&OK"};
   Knop BackButton{*this, "BackButton", "&Terug"};

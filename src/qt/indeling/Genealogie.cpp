@@ -59,15 +59,13 @@ Blok SchemaOpties() {
       Stamouder(),
       WieVolgt(),
       Groep("Schema", {Velden({
-                          Rij({"HorVerBox", "CentreerBox"}),
-                          Rij({"OokVNamenBox", "OokDatumsBox"}),
-                          Rij({"PosVNamen", "PosANamen"}),
-                          Rij({"OokPartnersBox", "OokVNrsBox"}),
-                          Rij({"OokPNrsBox", "OokRNrsBox"}),
-                      })}),
-      Groep("Uitvoer", {Velden({
-                           Rij({"InHTMLBox", "CopyrightBox"}),
-                           "OokLB77Box",
+                           Rij({"HorVerBox", "CentreerBox", "OokDatumsBox"}),
+                           Rij({"OokVNamenBox", "PosVNamen", "PosANamen"}),
+                           Rij({"OokPartnersBox", "OokVNrsBox", "OokPNrsBox"}),
+                       }),
+                       Velden({
+                           Rij({"OokRNrsBox", "InHTMLBox"}),
+                           Rij({"CopyrightBox", "OokLB77Box"}),
                        })}),
       TitelEnInleiding(),
       Knoppen({"OKButton", "BackButton"}),
@@ -97,7 +95,7 @@ Blok Opbouw() {
   });
 }
 
-Blok Plaatsen() {
+Blok Posities() {
   return Kolom({
       "OpbouwLabel",
       Velden({Rij({"PersNrLabel", "PersoonsNr"})}),
@@ -106,10 +104,10 @@ Blok Plaatsen() {
   });
 }
 
-Blok Schrijven(const std::string& label, const std::string& teller) {
+Blok Schrijven(const Blok& teller) {
   return Kolom({
       "SchrijfLabel",
-      Velden({Rij({label, teller}), Rij({"PersNrLabel", "PersoonsNr"})}),
+      Velden({teller, Rij({"PersNrLabel", "PersoonsNr"})}),
       "GeduldLabel",
       Knoppen({"OKButton", "BackButton"}),
   });
@@ -124,16 +122,16 @@ std::vector<Indeling> Genealogie() {
       {"GenTxtUitsluit", Takken()},
       {"GenHTMLParam", InternetOpties()},
       {"GenBereken", Opbouw()},
-      {"GenMaakTemp", Schrijven("HoofdpersonenLabel", "Hoofdpersonen")},
+      {"GenMaakTemp", Schrijven(Rij({"HoofdpersonenLabel", "Hoofdpersonen"}))},
       {"GenIdxPrs", PersoonPrompt()},
       {"GenIdxParam", IndexOpties()},
       {"GenIdxUitsluit", Takken()},
-      {"GenMaakIdxTemp", Schrijven("HoofdpersonenLabel", "Hoofdpersonen")},
+      {"GenMaakIdxTemp", Schrijven(Rij({"HoofdpersonenLabel", "Hoofdpersonen"}))},
       {"GenSchPrs", PersoonPrompt()},
       {"GenSchParam", SchemaOpties()},
       {"GenSchUitsluit", Takken()},
-      {"GenSchBlok", Plaatsen()},
-      {"GenSchTemp", Schrijven("PersonenLabel", "Personen")},
+      {"GenSchBlok", Posities()},
+      {"GenSchTemp", Schrijven(Rij({"PersonenLabel", "Personen"}))},
   };
 }
 
