@@ -1,7 +1,6 @@
 #include "descendants/GenKeten.h"
 
 #include "app/Start.h"
-#include "descendants/GenPrs.h"
 
 namespace lb77 {
 
@@ -19,7 +18,7 @@ void GenKeten::Speel(std::string_view draaiboek, std::string_view verslag, const
   const Taak taak = [this](Hoofdmodule& hoofd) {
     ASSERT_TRUE(Start(hoofd));
     hoofd.schrijfwijze.DatumScheider = '-';
-    GenPrs prompt(kGenTxtPrs, hoofd);
+    GenPrs prompt(*soort_, hoofd);
     hoofd.gesprek.ToonModaal(prompt);
     gebleven_ = hoofd.volgers.HuidigPersoonNr;
   };

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "descendants/GenFamilie.h"
+#include "descendants/GenPrs.h"
 #include "steun/FamilieToets.h"
 #include "steun/Keten.h"
 
@@ -29,12 +30,15 @@ class GenKeten : public FamilieToets {
   void ZetIni(std::string_view van, std::string_view naar);
   [[nodiscard]] std::string Ini() const { return LeesBytes(Map() / "LIJNBOOM.INI"); }
   [[nodiscard]] bool IniHeeft(std::string_view regels) const;
-  [[nodiscard]] std::string Verslag() const { return LeesBytes(Map() / "TEMP" / "GEN_DATA.TMP"); }
+  [[nodiscard]] std::string Verslag() const {
+    return LeesBytes(Map() / "TEMP" / soort_->bestand);
+  }
   [[nodiscard]] bool VerslagHeeft(std::string_view tekst) const {
     return Verslag().find(tekst) != std::string::npos;
   }
 
   GenFamilie familie_;
+  const GenPrsSoort* soort_ = &kGenTxtPrs;  // the report that is asked for
   std::int16_t gebleven_ = 0;  // HuidigPersoonNr behind the chain
 };
 
