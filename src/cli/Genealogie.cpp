@@ -1,4 +1,5 @@
-// `genealogie` and `parenteel`: the descendant reports, of the sons' lines and of all lines.
+// The descendant reports: `genealogie` of the sons' lines, `parenteel` and its index and chart of all
+// lines.
 #include "cli/Opdrachten.h"
 #include "cli/Rapport.h"
 
@@ -27,10 +28,14 @@ constexpr Rapport Nakomelingen(const Keten& keten, std::string_view dochters) {
 }
 
 constexpr Keten kTekst{"TekstGen", "GenTxtPrs", "GenTxtParam", "GenTxtUitsluit"};
+constexpr Keten kIndex{"IndexGen", "GenIdxPrs", "GenIdxParam", "GenIdxUitsluit"};
+constexpr Keten kSchema{"SchemaGen", "GenSchPrs", "GenSchParam", "GenSchUitsluit"};
 constexpr std::string_view kAlleDochters = "Alle Dochters";
 
 constexpr Rapport kGenealogie = Nakomelingen(kTekst, "Geen Dochters");
 constexpr Rapport kParenteel = Nakomelingen(kTekst, kAlleDochters);
+constexpr Rapport kIndexParenteel = Nakomelingen(kIndex, kAlleDochters);
+constexpr Rapport kSchemaParenteel = Nakomelingen(kSchema, kAlleDochters);
 
 }  // namespace
 
@@ -40,6 +45,14 @@ int Genealogie(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
 
 int Parenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
   return MaakRapport(kParenteel, omgeving, argumenten);
+}
+
+int IndexParenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
+  return MaakRapport(kIndexParenteel, omgeving, argumenten);
+}
+
+int SchemaParenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
+  return MaakRapport(kSchemaParenteel, omgeving, argumenten);
 }
 
 }  // namespace lb77

@@ -11,6 +11,8 @@ int Gezinsblad(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 // In Genealogie.cpp.
 int Genealogie(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Parenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int IndexParenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int SchemaParenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Zoek(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 // In Veiligheid.cpp.
 int ToonGeschiedenis(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
@@ -31,6 +33,8 @@ constexpr Opdracht kOpdrachten[] = {
     {"gezinsblad", "schrijft het gezinsblad van een persoon", {"SET", "PERSOON"}, Extra::Tekstrapport, Gezinsblad},
     {"genealogie", "schrijft de nakomelingen van een persoon in de lijn van de zonen", {"SET", "PERSOON"}, Extra::Rapport, Genealogie},
     {"parenteel", "schrijft alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, Parenteel},
+    {"index-parenteel", "schrijft de index op alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, IndexParenteel},
+    {"schema-parenteel", "tekent alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, SchemaParenteel},
     {"zoek", "zoekt personen op een deel van hun naam", {"SET", "NAAM"}, Extra::Geen, Zoek},
     {"geschiedenis", "toont de bewerkingen van een set", {"SET"}, Extra::Geen, ToonGeschiedenis},
     {"ongedaan", "maakt de laatste bewerking ongedaan, of alle t/m nummer N", {"SET", "[N]"}, Extra::Geen, MaakOngedaan, false, true},
