@@ -67,7 +67,7 @@ Blok SchemaOpties() {
                            Rij({"OokRNrsBox", "InHTMLBox"}),
                            Rij({"CopyrightBox", "OokLB77Box"}),
                        })}),
-      TitelEnInleiding(),
+      Velden({"TitelTekst", "Inleiding1", "Inleiding2", "Inleiding3"}),  // as low as a screen is
       Knoppen({"OKButton", "BackButton"}),
   });
 }
