@@ -8,6 +8,12 @@ int Nieuw(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Importeer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Kwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int IndexKwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Gezinsblad(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+// In Genealogie.cpp.
+int Genealogie(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Parenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int IndexParenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int SchemaParenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Zoek(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 // In Veiligheid.cpp.
 int ToonGeschiedenis(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
@@ -26,6 +32,11 @@ constexpr Opdracht kOpdrachten[] = {
     {"importeer", "leest een GEDCOM-bestand in", {"SET"}, Extra::Bestand, Importeer, false, true},
     {"kwartierstaat", "schrijft de Kwartierstaat van een persoon", {"SET", "PERSOON"}, Extra::Rapport, Kwartierstaat},
     {"index-kwartierstaat", "schrijft de index op een Kwartierstaat", {"SET", "PERSOON"}, Extra::Rapport, IndexKwartierstaat},
+    {"gezinsblad", "schrijft het gezinsblad van een persoon", {"SET", "PERSOON"}, Extra::Tekstrapport, Gezinsblad},
+    {"genealogie", "schrijft de nakomelingen van een persoon in de lijn van de zonen", {"SET", "PERSOON"}, Extra::Rapport, Genealogie},
+    {"parenteel", "schrijft alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, Parenteel},
+    {"index-parenteel", "schrijft de index op alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, IndexParenteel},
+    {"schema-parenteel", "tekent alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, SchemaParenteel},
     {"zoek", "zoekt personen op een deel van hun naam", {"SET", "NAAM"}, Extra::Geen, Zoek},
     {"geschiedenis", "toont de bewerkingen van een set, of wat nummer N wijzigde", {"SET", "[N]"}, Extra::Geen, ToonGeschiedenis},
     {"ongedaan", "maakt de laatste bewerking ongedaan, of alle t/m nummer N", {"SET", "[N]"}, Extra::Geen, MaakOngedaan, false, true},

@@ -10,14 +10,6 @@ namespace lb77::indeling {
 
 namespace {
 
-Blok PersoonPrompt() {
-  return Kolom({
-      "VraagLabel",
-      Velden({"RecordNr", "VoorNm", "AchterNm"}),
-      Knoppen({"ZoekButton"}, {"OKButton", "BackButton"}),
-  });
-}
-
 Blok Titels() {
   return Groep("Titel en inleiding",
                {Velden({"TitelTekst", "Inleiding1", "Inleiding2", "Inleiding3"})});
@@ -40,14 +32,6 @@ Blok Opties(const std::vector<Blok>& uitvoer) {
                           })}),
       Groep("Uitvoer", {Velden(uitvoer)}),
       Titels(),
-      Knoppen({"OKButton", "BackButton"}),
-  });
-}
-
-Blok InternetOpties() {
-  return Kolom({
-      Groep("E-mail", {Velden({"EmailAdres", "EmailTekst"})}),
-      Groep("Home Page", {Velden({"HomePageURL", "URLLabelTekst", "URLTekstTekst"})}),
       Knoppen({"OKButton", "BackButton"}),
   });
 }
