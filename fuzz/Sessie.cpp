@@ -3,7 +3,7 @@
 #include <memory>
 #include <stdexcept>
 
-#include "ancestors/KwstTxtPrs.h"
+#include "ancestors/KwstPrs.h"
 #include "app/Start.h"
 #include "cli/Werk.h"
 #include "exchange/ImpGedcom.h"
@@ -75,7 +75,7 @@ void Sessie::Kwartierstaat(int persoon, unsigned keuzen) {
   bediener_.Bij("KwstTxtParam", [&](Formulier& formulier) { VulParam(formulier, keuzen); });
   bediener_.Bij("KwHTMLParam",
                 [&](Formulier& formulier) { Werk(bediener_, formulier).Druk("OKButton"); });
-  KwstTxtPrs formulier(hoofd);
+  KwstPrs formulier(kKwstTxtPrs, hoofd);
   hoofd.gesprek.ToonModaal(formulier);
 }
 
