@@ -11,8 +11,8 @@ HOOFDMODULE_MAG = {
     "src/app/Bestandensets": "what the forms of the file sets do alike, start-up included",
     "src/app/SetOpenen": "what a set needs of the session when it opens",
     "src/app/Start": "brings the session up",
-    "src/entry/HuwActies": "the chains of forms behind the buttons of the card of a person",
-    "src/entry/KindActies": "the chains of forms behind the buttons of the cards of children",
+    "src/entry/HuwActies": "shows the forms behind the buttons of the card of a person",
+    "src/entry/KindActies": "shows the forms behind the buttons of the cards of children",
     "src/entry/VeldToets": "the keys of a field of a form, which show forms themselves",
     "src/entry/ZoekPersoon": "the door to the forms of the search",
 }

@@ -70,6 +70,14 @@ bool IsAfwezig(const fs::path& pad) {
   return fs::symlink_status(pad, code).type() == fs::file_type::not_found;
 }
 
+// Is it that directory, or below it, whatever links lead there?
+bool LigtIn(const fs::path& pad, const fs::path& map) {
+  std::error_code code;
+  const fs::path weg =
+      fs::weakly_canonical(pad, code).lexically_relative(fs::weakly_canonical(map, code));
+  return !weg.empty() && *weg.begin() != "..";
+}
+
 // Does the file hold all places of the copy under their numbers? Record 1 counts them.
 bool IsVoortzetting(std::string_view nu, std::string_view toen) {
   const std::size_t begin = RecordLengteVan(BestandSoort::Plaatsen);
@@ -164,6 +172,10 @@ fs::path Veiligheidskopie::NieuwPad() const {
 }
 
 SysteemFout Veiligheidskopie::MaakIn(const fs::path& doel) {
+  // A copy that holds itself would have no end.
+  if (LigtIn(doel, VindPad(paden_.tekst))) {
+    return {kGeenToegang, "Een kopie kan niet in de map TEKST liggen"};
+  }
   std::error_code code;
   fs::remove_all(doel, code);
   fs::create_directories(doel, code);

@@ -40,6 +40,7 @@ void KindRij::Toon(PersoonLB77& persoon, std::int16_t nr) {
 KinderenKaart::KinderenKaart(std::string_view naam, std::string_view titel, Hoofdmodule& hoofd,
                              std::int16_t relatie, int eerste)
     : KaartOp(naam, titel, hoofd), Kinderen(*this, eerste), relatie_(relatie) {
+  ZetHulpOnderwerp("relaties");
   Man.Nr.BijKlik([this] { ManNrKlik(); });
   Vrouw.Nr.BijKlik([this] { VrouwNrKlik(); });
   Kinderen.Elk(

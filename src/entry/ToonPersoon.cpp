@@ -34,6 +34,7 @@ KaartVraag ToonPersoonVraag(Hoofdmodule& hoofd, std::int16_t nr) {
 ToonPersoon::ToonPersoon(Hoofdmodule& hoofd, std::int16_t nr)
     : RecordKaartVan("ToonPersoon", "Toon Persoon", hoofd, nr, kWoorden,
                      {hoofd.Persoon, hoofd.volgers.HuidigPersoonNr}) {
+  ZetHulpOnderwerp("personen");
   AlgPersOpmTekst.ZetAlleenLezen(true);
   AlgPersOpmTekst.ZetLeesnaam("Algemene opmerking");
   Pa.Nr.BijKlik([this] { PaNrKlik(); });

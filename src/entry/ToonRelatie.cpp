@@ -37,6 +37,7 @@ KaartVraag ToonRelatieVraag(Hoofdmodule& hoofd, std::int16_t nr) {
 ToonRelatie::ToonRelatie(Hoofdmodule& hoofd, std::int16_t nr)
     : RecordKaartVan("ToonRelatie", "Toon Relatie", hoofd, nr, kWoorden,
                      {hoofd.Relatie, hoofd.volgers.HuidigRelatieNr}) {
+  ZetHulpOnderwerp("relaties");
   AlgRelOpmTekst.ZetAlleenLezen(true);
   AlgRelOpmTekst.ZetLeesnaam("Algemene opmerking");
   Man.Nr.BijKlik([this] { ManNrKlik(); });

@@ -18,6 +18,7 @@ constexpr std::int16_t kNooitToevoegen = -1;
 VraagPlaatsnm::VraagPlaatsnm(Hoofdmodule& hoofd)
     : InvoerFormulier("VraagPlaatsnm", "Ga naar een Plaatsnaam", hoofd),
       PlaatsnaamTekst(*this, "PlaatsnaamTekst", "Plaatsnaam:", plaatsveld::Naam.breedte) {
+  ZetHulpOnderwerp("plaatsen");
   PlaatsnaamTekst.BijVerlaten([this] { return PlaatsnaamTekstVerlaten(); });
   OKButton.BijKlik([this] { OKButtonKlik(); });
   BackButton.BijKlik([this] { Sluit(); });

@@ -5,6 +5,7 @@ namespace lb77 {
 VraagPlaatsnr::VraagPlaatsnr(Hoofdmodule& hoofd)
     : InvoerFormulier("VraagPlaatsnr", "Ga naar een Plaatscode", hoofd),
       RecordNr(*this, "RecordNr", "Plaatscode:", BestandSoort::Plaatsen, Vervolgtest::Geen) {
+  ZetHulpOnderwerp("plaatsen");
   RecordNr.ZetEnter(EnterSoort::OK);
   RecordNr.BijVerlaten([this] { return RecordNrVerlaten(); });
   OKButton.BijKlik([this] { OKButtonKlik(); });

@@ -31,6 +31,7 @@ Koppelingen Koppel(Hoofdmodule& hoofd) {
 
 WijzigPersoon::WijzigPersoon(Hoofdmodule& hoofd)
     : InvoerFormulier("WijzigPersoon", "Wijzig Persoon", hoofd) {
+  ZetHulpOnderwerp("personen");
   ZetEersteVeld(Geslacht);
   ZetLeesnamen();
   BindVelden();

@@ -61,6 +61,7 @@ RelatieOpmRij::RelatieOpmRij(Formulier& formulier, int nummer)
 
 WijzigRelatie::WijzigRelatie(Hoofdmodule& hoofd)
     : InvoerFormulier("WijzigRelatie", "Wijzig Relatie", hoofd) {
+  ZetHulpOnderwerp("relaties");
   ZetEersteVeld(Man.RecordNr);
   ZetLeesnamen();
   BindVelden();

@@ -57,6 +57,7 @@ void ZoekRij::ZetZichtbaar(bool zichtbaar) {
 }
 
 ZoekPrs::ZoekPrs(Hoofdmodule& hoofd) : Formulier("ZoekPrs", "Zoek Persoon"), hoofd_(hoofd) {
+  ZetHulpOnderwerp("zoeken");
   Personen.Elk([this](int, ZoekRij& rij) {
     rij.RecordNrPrs.BijKlik([this, &rij] { RecordNrPrsKlik(rij); });
     rij.InfoPersoon.BijKlik([this, &rij] { InfoPersoonKlik(rij); });

@@ -1,6 +1,11 @@
+#include <atomic>
+#include <string>
+#include <thread>
+
 #include "app/KopiePlaats.h"
 #include "app/KopiePlek.h"
 #include "app/VeiligToets.h"
+#include "text/Unicode.h"
 
 namespace lb77 {
 namespace {
@@ -95,6 +100,37 @@ TEST_F(KopiePlaatsVenster, DeLijstNoemtDeKopieenVanBeidePlaatsen) {
                MetMap("! info \"De veiligheidskopie\xC3\xABn van EEN zijn er nog: <map>/stick/EEN, "
                       "<map>/KOPIE/EEN\"\n") +
                "- VerwijderSetForm\n- MenuWindow");
+}
+
+TEST_F(KopiePlaatsVenster, InDeMapDieGekopieerdWordtKomtGeenKopie) {
+  std::filesystem::create_directory_symlink(map_ / "DATA/EEN/TEKST", map_ / "koppeling");
+  for (const char* plek : {"DATA/EEN/TEKST", "koppeling"}) {
+    Schrijf("KOPIE.PAD", plek);
+    Schrijf1(
+        "! uitroep \"De veiligheidskopie is niet gemaakt\\n"
+        "Een kopie kan niet in de map TEKST liggen\"");
+    EXPECT_FALSE(Bestaat("DATA/EEN/TEKST/EEN"));
+  }
+}
+
+// Written while it is copied, by whoever has it open too.
+TEST_F(KopiePlaatsVenster, WatTijdensHetKopierenVerandertIsGeenKopie) {
+  std::atomic<bool> klaar = false;
+  std::thread schrijver([&] {
+    for (int i = 0; !klaar; ++i) Schrijf("DATA/EEN/TEKST/verslag.txt", std::to_string(i));
+  });
+  std::string reden;
+  Verwacht("", MetMenu([&](Hoofdmodule& hoofd, MenuWindow& menu) {
+             ASSERT_TRUE(menu.Laad());
+             Veiligheidskopie kopie = KopieVan(hoofd);
+             for (int i = 0; i < 100 && reden.empty(); ++i) reden = kopie.Maak().tekst;
+           }),
+           "");
+  klaar = true;
+  schrijver.join();
+  EXPECT_EQ(reden, "De bestandenset is tijdens het kopiëren gewijzigd"_w);
+  NoteerGetoond(WindowsNaarUtf8(reden));
+  EXPECT_FALSE(Bestaat("KOPIE/EEN/BEZIG"));
 }
 
 TEST_F(KopiePlaatsVenster, DezelfdeMapTeltEenmaal) {

@@ -1,7 +1,7 @@
 // Windows over a set of one family.
 #pragma once
 
-#include "Vensterproef.h"
+#include "Formulierproef.h"
 #include "app/Klok.h"
 #include "program/Programma.h"
 #include "steun/BouwFamilie.h"
@@ -11,7 +11,7 @@
 namespace lb77 {
 
 // Jan (2) and Anna (3) are relation 2; of their child Kees (4) the sex is not known.
-class Gezinsproef : public Vensterproef {
+class Gezinsproef : public Formulierproef {
  protected:
   void SetUp() override {
     Antwoord({"OK"});
