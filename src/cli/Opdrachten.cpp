@@ -8,6 +8,8 @@ int Nieuw(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Importeer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Kwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int IndexKwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int SchemaKwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Bladen(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Zoek(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 // In Veiligheid.cpp.
 int ToonGeschiedenis(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
@@ -26,6 +28,8 @@ constexpr Opdracht kOpdrachten[] = {
     {"importeer", "leest een GEDCOM-bestand in", {"SET"}, Extra::Bestand, Importeer, false, true},
     {"kwartierstaat", "schrijft de Kwartierstaat van een persoon", {"SET", "PERSOON"}, Extra::Rapport, Kwartierstaat},
     {"index-kwartierstaat", "schrijft de index op een Kwartierstaat", {"SET", "PERSOON"}, Extra::Rapport, IndexKwartierstaat},
+    {"schema-kwartierstaat", "tekent de Kwartierstaat van een persoon", {"SET", "PERSOON"}, Extra::Rapport, SchemaKwartierstaat},
+    {"bladen", "schrijft alle kwartierbladen van een persoon", {"SET", "PERSOON"}, Extra::Tekstrapport, Bladen},
     {"zoek", "zoekt personen op een deel van hun naam", {"SET", "NAAM"}, Extra::Geen, Zoek},
     {"geschiedenis", "toont de bewerkingen van een set", {"SET"}, Extra::Geen, ToonGeschiedenis},
     {"ongedaan", "maakt de laatste bewerking ongedaan, of alle t/m nummer N", {"SET", "[N]"}, Extra::Geen, MaakOngedaan, false, true},
