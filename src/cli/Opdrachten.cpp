@@ -6,11 +6,12 @@ namespace lb77 {
 int Sets(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Nieuw(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Importeer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Bladen(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Zoek(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+// In Kwartierstaat.cpp.
 int Kwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int IndexKwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int SchemaKwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
-int Bladen(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
-int Zoek(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 // In Veiligheid.cpp.
 int ToonGeschiedenis(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int MaakOngedaan(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
