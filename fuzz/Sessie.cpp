@@ -68,15 +68,24 @@ void Sessie::Importeer(const std::filesystem::path& gedcom) {
 }
 
 void Sessie::Kwartierstaat(int persoon, unsigned keuzen) {
-  bediener_.Bij("KwstTxtPrs", [&](Formulier& formulier) {
+  const auto persoonIn = [&](Formulier& formulier) {
     Werk werk(bediener_, formulier);
     if (werk.Zet("RecordNr", GetalTekst(persoon))) werk.Druk("OKButton");
-  });
-  bediener_.Bij("KwstTxtParam", [&](Formulier& formulier) { VulParam(formulier, keuzen); });
-  bediener_.Bij("KwHTMLParam",
-                [&](Formulier& formulier) { Werk(bediener_, formulier).Druk("OKButton"); });
-  KwstPrs formulier(kKwstTxtPrs, hoofd);
-  hoofd.gesprek.ToonModaal(formulier);
+  };
+  const auto keuzenIn = [&](Formulier& formulier) { VulParam(formulier, keuzen); };
+  const auto oke = [&](Formulier& formulier) { Werk(bediener_, formulier).Druk("OKButton"); };
+  struct Verslag {
+    const KwstPrsSoort& soort;
+    std::string_view opties;
+  };
+  for (const Verslag& verslag :
+       {Verslag{kKwstTxtPrs, "KwstTxtParam"}, Verslag{kKwstIdxPrs, "KwstIdxParam"}}) {
+    bediener_.Bij(verslag.soort.naam, persoonIn);
+    bediener_.Bij(verslag.opties, keuzenIn);
+    bediener_.Bij(verslag.soort.links->naam, oke);
+    KwstPrs formulier(verslag.soort, hoofd);
+    hoofd.gesprek.ToonModaal(formulier);
+  }
 }
 
 void Sessie::VulParam(Formulier& formulier, unsigned keuzen) {
@@ -89,7 +98,7 @@ void Sessie::VulParam(Formulier& formulier, unsigned keuzen) {
     zet(naam, (keuzen & keuze) != 0 ? "Ja" : "Nee");
   };
   jaNee("InHTMLBox", kHTML);
-  jaNee("OokOpmBox", kOpmerkingen);
+  if (formulier.Zoek("OokOpmBox")) jaNee("OokOpmBox", kOpmerkingen);
   jaNee("OokNrsBox", kNummers);
   jaNee("KwHerhaalBox", kVolgHerhaling);
   // Ancestors in a circle fill the whole table when repeats are followed.
@@ -98,7 +107,7 @@ void Sessie::VulParam(Formulier& formulier, unsigned keuzen) {
   if ((keuzen & kBroersZussenProband) != 0) {
     zet("BroerZusBox", "Met Broers en Zussen van de Proband");
   }
-  if (!goed) throw std::logic_error("een keuze van KwstTxtParam is er niet");
+  if (!goed) throw std::logic_error("een keuze van " + formulier.Naam() + " is er niet");
   werk.Druk("OKButton");
 }
 

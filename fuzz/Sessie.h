@@ -42,7 +42,7 @@ class Sessie {
     kBroersZussen = 16,
     kBroersZussenProband = 32
   };
-  // Writes it from the prompt to the viewer.
+  // Writes it and its index, each from the prompt to the viewer.
   void Kwartierstaat(int persoon, unsigned keuzen);
 
  private:

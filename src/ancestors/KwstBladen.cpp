@@ -35,6 +35,11 @@ KwstBladen::KwstBladen(Hoofdmodule& hoofd, const KwstOpties& opties, const KwstT
   BackButton.BijKlik([this] { Sluit(); });
 }
 
+std::int16_t KwstBladen::Persoon(int p) const {
+  const BladPlaats& plaats = blad_.Plaats(p);
+  return plaats.bezet ? tabel_.Persoon(plaats.KW_Index) : std::int16_t{0};
+}
+
 void KwstBladen::BijLaden() {
   ToonBlad();
 }
@@ -51,7 +56,7 @@ void KwstBladen::ToonBlad() {
 // Somebody who can't be read leaves his place blank.
 void KwstBladen::ToonPlaats(int p) {
   const BladPlaats& plaats = blad_.Plaats(p);
-  const std::int16_t nr = plaats.bezet ? tabel_.Persoon(plaats.KW_Index) : std::int16_t{0};
+  const std::int16_t nr = Persoon(p);
   const bool leesbaar = nr > 0 && Hoofd().Persoon.Lees(nr);
   const std::string& nummer = plaats.KW_Nr.Tekst();
   std::string voor;
@@ -76,7 +81,7 @@ void KwstBladen::ProbandKlik(int p) {
 
 void KwstBladen::InfoPersoonKlik(int p) {
   if (!blad_.Plaats(p).bezet) return;
-  ToonPersoonskaart(tabel_.Persoon(blad_.Plaats(p).KW_Index));
+  ToonPersoonskaart(Persoon(p));
   ToonBlad();
 }
 

@@ -1,6 +1,8 @@
 // The sheets of an ancestor table on the screen: one person with three generations of his ancestors.
 #pragma once
 
+#include <cstdint>
+
 #include "ancestors/KwstBlad.h"
 #include "ancestors/KwstOpties.h"
 #include "forms/Regels.h"
@@ -32,6 +34,9 @@ class KwstBladen final : public KetenFormulier {
   Knop UitvoerButton{*this, "UitvoerButton", "Opslaan / &Afdrukken"};
   Knop OKButton{*this, "OKButton", "&OK"};
   Knop BackButton{*this, "BackButton", "&Terug"};
+
+  // Who stands on a place; 0 for nobody.
+  [[nodiscard]] std::int16_t Persoon(int p) const;
 
  protected:
   void BijLaden() override;

@@ -6,15 +6,18 @@ namespace lb77 {
 int Sets(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Nieuw(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Importeer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Bladen(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Zoek(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+// In Kwartierstaat.cpp.
 int Kwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int IndexKwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int SchemaKwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Gezinsblad(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 // In Genealogie.cpp.
 int Genealogie(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Parenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int IndexParenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int SchemaParenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
-int Zoek(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 // In Veiligheid.cpp.
 int ToonGeschiedenis(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int MaakOngedaan(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
@@ -32,6 +35,8 @@ constexpr Opdracht kOpdrachten[] = {
     {"importeer", "leest een GEDCOM-bestand in", {"SET"}, Extra::Bestand, Importeer, false, true},
     {"kwartierstaat", "schrijft de Kwartierstaat van een persoon", {"SET", "PERSOON"}, Extra::Rapport, Kwartierstaat},
     {"index-kwartierstaat", "schrijft de index op een Kwartierstaat", {"SET", "PERSOON"}, Extra::Rapport, IndexKwartierstaat},
+    {"schema-kwartierstaat", "tekent de Kwartierstaat van een persoon", {"SET", "PERSOON"}, Extra::Rapport, SchemaKwartierstaat},
+    {"bladen", "schrijft alle kwartierbladen van een persoon", {"SET", "PERSOON"}, Extra::Tekstrapport, Bladen},
     {"gezinsblad", "schrijft het gezinsblad van een persoon", {"SET", "PERSOON"}, Extra::Tekstrapport, Gezinsblad},
     {"genealogie", "schrijft de nakomelingen van een persoon in de lijn van de zonen", {"SET", "PERSOON"}, Extra::Rapport, Genealogie},
     {"parenteel", "schrijft alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, Parenteel},
