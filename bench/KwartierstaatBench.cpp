@@ -32,7 +32,7 @@ void BM_Kwartierstaat(benchmark::State& state, const char* const (&zet)[N]) {
   Meetset set;
   set.Importeer(gedcom);
   const std::vector<std::string> keuzen(std::begin(zet), std::end(zet));
-  for (auto _ : state) set.Kwartierstaat(kProband, map / "KWST.TXT", keuzen);
+  for (auto _ : state) set.Rapport("kwartierstaat", kProband, map / "KWST.TXT", keuzen);
   state.counters["KiB"] = static_cast<double>(std::filesystem::file_size(map / "KWST.TXT")) / 1024;
 }
 

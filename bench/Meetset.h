@@ -21,9 +21,9 @@ class Meetset {
   Meetset();
 
   void Importeer(const std::filesystem::path& gedcom);
-  // Writes the Kwartierstaat of a person to `naar`; `zet` are choices of its dialog.
-  void Kwartierstaat(int persoon, const std::filesystem::path& naar,
-                     const std::vector<std::string>& zet = {});
+  // Has the command of a report write that of a person to `naar`; `zet` are choices of its dialog.
+  void Rapport(std::string_view opdracht, int persoon, const std::filesystem::path& naar,
+               const std::vector<std::string>& zet = {});
 
   // The set's file of persons.
   [[nodiscard]] std::filesystem::path Personen() const;
