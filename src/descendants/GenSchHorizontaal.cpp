@@ -39,7 +39,11 @@ class Regelvuller {
     regels_.emplace_back(inspringing_, ' ');
     vers_ = true;
   }
-  [[nodiscard]] std::vector<std::string> Neem() { return std::move(regels_); }
+  // Without blanks at their ends: a line may begin there.
+  [[nodiscard]] std::vector<std::string> Neem() {
+    for (std::string& regel : regels_) regel.resize(TrimRechts(regel).size());
+    return std::move(regels_);
+  }
 
  private:
   // What is longer than a whole line goes on on the next, from a blank where it has one.

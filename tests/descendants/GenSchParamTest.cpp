@@ -140,66 +140,38 @@ constexpr std::string_view kAnders =
 
 TEST_F(GenSchParamToets, LaadtDeBewaardeKeuzen) {
   SchrijfGenb(kAnders);
-  SpeelParam(R"(
-      toon ZonenBox
-      toon DochtersBox
-      toon GrensLeeftijd
-      toon PrsHerhaalBox
-      toon UitsluitBox
-      toon InHTMLBox
-      toon CentreerBox
-      toon PosVNamen
-      toon PosANamen
-      toon OokVNrsBox
-      toon OokPNrsBox
-      toon OokRNrsBox
-      toon CopyrightBox
-      toon OokLB77Box
-    )",
-             R"~(
+  SpeelParam("toon", R"~(
+      : GenSchParam "Genealogie / Parenteel Schema Uitvoeropties"
+      = NrStamouder "4"
+      = VoorNmStamouder "Jan"
+      = AchterNmStamouder "Kok"
+      = Periode "1700-1770"
+      = MaxGen "80"
       = ZonenBox "Zonen ouder dan .. jaar"
-      #0 "Geen Zonen"
-      #1 "Zonen met nageslacht"
-      #2 "Zonen met Relatie(s)"
-      #3 "Zonen ouder dan .. jaar"
-      #4 "Alle Zonen"
       = DochtersBox "Dochters met nageslacht"
-      #0 "Geen Dochters"
-      #1 "Dochters met nageslacht"
-      #2 "Dochters met Relatie(s)"
-      #3 "Ongehuwde Moeders"
-      #4 "Dochters ouder dan .. jaar"
-      #5 "Alle Dochters"
       = GrensLeeftijd "21"
       = PrsHerhaalBox "Ja"
-      #0 "Ja"
-      #1 "Nee"
       = UitsluitBox "Ja"
-      #0 "Ja"
-      #1 "Nee"
       = InHTMLBox "Ja"
-      #0 "Ja"
-      #1 "Nee"
+      = HorVerBox "Verticaal"
       = CentreerBox "Nee"
-      #0 "Ja"
-      #1 "Nee"
+      = OokDatumsBox "Jaartallen"
+      = OokVNamenBox "Volledig"
       = PosVNamen "12"
       = PosANamen "0"
+      = OokPartnersBox "Naast elkaar"
       = OokVNrsBox "Ja"
-      #0 "Ja"
-      #1 "Nee"
       = OokPNrsBox "Ja"
-      #0 "Ja"
-      #1 "Nee"
       = OokRNrsBox "Ja"
-      #0 "Ja"
-      #1 "Nee"
       = CopyrightBox "Nee"
-      #0 "Ja"
-      #1 "Nee"
       = OokLB77Box "Nee"
-      #0 "Ja"
-      #1 "Nee"
+      = TitelTekst "Genealogie van Jan Kok"
+      = Inleiding1 ""
+      = Inleiding2 ""
+      = Inleiding3 ""
+      = OKButton "&OK"
+      = BackButton "&Terug"
+      * MaxGen
     )~");
 }
 

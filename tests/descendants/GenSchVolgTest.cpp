@@ -62,19 +62,26 @@ class GenSchVolgToets : public GenSchToets {
   [[nodiscard]] static bool Is(std::string_view tekens, char teken) {
     return tekens.find(teken) != std::string_view::npos;
   }
-  // The only place of a text in the drawing.
-  [[nodiscard]] Plek Vind(const std::string& tekst) const {
+  // The only place of a word in the drawing: no letter stands beside it.
+  [[nodiscard]] Plek Vind(const std::string& woord) const {
     Plek uit;
     for (int rij = 0; rij < static_cast<int>(regels_.size()); ++rij) {
-      const std::size_t kolom = regels_[static_cast<std::size_t>(rij)].find(tekst);
-      if (kolom == std::string::npos) continue;
-      EXPECT_EQ(uit.rij, -1) << tekst << " stands there twice";
-      uit = {rij, static_cast<int>(kolom)};
+      const std::string& regel = regels_[static_cast<std::size_t>(rij)];
+      for (std::size_t plek = regel.find(woord); plek != std::string::npos;
+           plek = regel.find(woord, plek + 1)) {
+        const int kolom = static_cast<int>(plek);
+        if (!Is("-= ", Teken(rij, kolom - 1))) continue;
+        if (!Is("- ", Teken(rij, kolom + static_cast<int>(woord.size())))) continue;
+        EXPECT_EQ(uit.rij, -1) << woord << " stands there twice";
+        uit = {rij, kolom};
+      }
     }
-    EXPECT_NE(uit.rij, -1) << tekst << " is not to be found";
+    EXPECT_NE(uit.rij, -1) << woord << " is not to be found";
     return uit;
   }
+  // By his label when there is one, else by his name.
   [[nodiscard]] Plek VindPersoon(int i) {
+    if (opties_.GenOokVolgNrs) return Vind(tabel_.Label(i));
     EXPECT_TRUE(set_.Persoon.Lees(tabel_.Persoon(i)));
     return Vind(set_.Persoon.VoorNaamTrue());
   }
@@ -156,6 +163,30 @@ TEST_F(GenSchVolgToets, OokWatNietPastLaatDeLijnenHeel) {
   }
   // A column has room for seven characters of the text of somebody with children.
   EXPECT_NE(uit_.find("Partne"), std::string::npos);
+}
+
+TEST_F(GenSchVolgToets, ElkeKeuzeLaatDeLijnenHeel) {
+  const auto stamouder = MaakBoom(14, 3, 3);
+  opties_.GenOokVolgNrs = opties_.GenCentreren = true;
+  for (int keuze = 0; keuze < 864 && !HasFailure(); keuze += 5) {
+    int rest = keuze;
+    const auto een = [&rest](int van) {
+      const int uit = rest % van;
+      rest /= van;
+      return uit;
+    };
+    opties_.GenVertikaal = een(2) == 1;
+    opties_.GenOokPrsNrs = een(2) == 1;
+    opties_.GenOokRelNrs = een(2) == 1;
+    opties_.GenToonDatums = static_cast<GenDatums>(een(3));
+    opties_.GenPartners = static_cast<GenPartnerWijze>(een(3));
+    opties_.GenVoorNamen = static_cast<GenVoornaamWijze>(een(4));
+    opties_.GenPosVNamen = 5;
+    opties_.GenPosANamen = een(3) * 12;
+    Lees(stamouder);
+    VerwachtTeVolgen();
+    if (HasFailure()) ADD_FAILURE() << "keuze " << keuze << "\n" << uit_;
+  }
 }
 
 TEST_F(GenSchVolgToets, GeenTekstLooptInDeKolomVanDeVolgendeGeneratie) {
