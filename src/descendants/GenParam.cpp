@@ -33,10 +33,12 @@ void GenParam::Koppel(const OptieTabel& keuzen, TitelVelden& titels, Knop& ok, K
   VerslagParam::Koppel(regels_);
   VerslagParam::Koppel(leeftijd_);
   VerslagParam::Koppel(keuzen, titels, terug);
-  ok.BijKlik([this] {
-    Bewaar();
-    Sluit();
-  });
+  ok.BijKlik([this] { OkKlik(); });
+}
+
+void GenParam::OkKlik() {
+  Bewaar();
+  Sluit();
 }
 
 void GenParam::BijLaden() {

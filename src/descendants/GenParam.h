@@ -54,6 +54,8 @@ class GenParam : public VerslagParam {
   [[nodiscard]] GenOpties& Opties() { return opties_; }
 
  private:
+  void OkKlik();
+
   GenOpties& opties_;
   OptieTabel regels_;
   OptieTabel leeftijd_;
