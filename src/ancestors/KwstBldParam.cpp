@@ -60,7 +60,9 @@ bool KwstBldParam::MaakBlad() {
   return uitslag == Einde::Klaar;
 }
 
-void KwstBldParam::OKButtonKlik(int nummer) { nummer == 1 ? DrukAf() : SlaOp(); }
+void KwstBldParam::OKButtonKlik(int nummer) {
+  nummer == 1 ? DrukAf() : SlaOp();
+}
 
 // A printer that fails is told by the printing itself.
 void KwstBldParam::DrukAf() {
