@@ -29,13 +29,13 @@ void Meetset::Importeer(const std::filesystem::path& gedcom) {
   Doe("importeer", argumenten);
 }
 
-void Meetset::Kwartierstaat(int persoon, const std::filesystem::path& naar,
-                            const std::vector<std::string>& zet) {
+void Meetset::Rapport(std::string_view opdracht, int persoon, const std::filesystem::path& naar,
+                      const std::vector<std::string>& zet) {
   OpdrachtArgumenten argumenten;
   argumenten.woorden = {kSet, std::to_string(persoon)};
   argumenten.naar = naar;
   argumenten.zet = zet;
-  Doe("kwartierstaat", argumenten);
+  Doe(opdracht, argumenten);
 }
 
 SetPaden Meetset::Paden() const {

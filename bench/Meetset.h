@@ -22,9 +22,9 @@ class Meetset {
   Meetset();
 
   void Importeer(const std::filesystem::path& gedcom);
-  // Writes the Kwartierstaat of a person to `naar`; `zet` are choices of its dialog.
-  void Kwartierstaat(int persoon, const std::filesystem::path& naar,
-                     const std::vector<std::string>& zet = {});
+  // Writes a report on a person by its command to `naar`; `zet` are choices of its dialog.
+  void Rapport(std::string_view opdracht, int persoon, const std::filesystem::path& naar,
+               const std::vector<std::string>& zet = {});
 
   // Where its files lie.
   [[nodiscard]] SetPaden Paden() const;

@@ -40,8 +40,8 @@ struct OpdrachtArgumenten {
   bool behoud = false;                        // --behoud, of `herstel`
 };
 
-// What a command accepts beside its words.
-enum class Extra { Geen, Bestand, Rapport, Behoud, Kopie, Terug };
+// What a command accepts beside its words. A Tekstrapport has no form in HTML.
+enum class Extra { Geen, Bestand, Rapport, Tekstrapport, Behoud, Kopie, Terug };
 
 // Gives the exit status: 0, or 1 after an error.
 using OpdrachtFunctie = int(const Omgeving&, const OpdrachtArgumenten&);

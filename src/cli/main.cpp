@@ -79,8 +79,8 @@ void VoegWoordenToe(CLI::App& sub, const Opdracht& opdracht, Regel& regel) {
   if (opdracht.extra == Extra::Terug) {
     sub.add_option("--van", regel.naar, "ook uit deze map")->type_name("MAP");
   }
-  if (opdracht.extra == Extra::Rapport) {
-    sub.add_flag("--html", regel.html, "schrijf HTML");
+  if (opdracht.extra == Extra::Rapport) sub.add_flag("--html", regel.html, "schrijf HTML");
+  if (opdracht.extra == Extra::Rapport || opdracht.extra == Extra::Tekstrapport) {
     sub.add_option("--uit", regel.naar, "schrijf naar dit bestand")->type_name("BESTAND");
     sub.add_flag("--bewaar", regel.bewaar, "bewaar de keuzes voor volgende keren");
     sub.add_option("--zet", regel.zet, "zet een keuze van het verslag")

@@ -2,7 +2,7 @@
 
 #include <exception>
 
-#include "ancestors/KwstTxtPrs.h"
+#include "ancestors/KwstPrs.h"
 #include "app/Geschiedenis.h"
 #include "app/IniFunctie.h"
 #include "app/IniGebruiker.h"
@@ -19,6 +19,8 @@
 #include "app/SetOpenen.h"
 #include "app/Start.h"
 #include "app/VerwijderSetForm.h"
+#include "descendants/GenPrs.h"
+#include "descendants/GezinSchPrs.h"
 #include "entry/StartRecord.h"
 #include "entry/ToonPlaatsen.h"
 #include "exchange/ImpGedcom.h"
@@ -60,7 +62,14 @@ void Programma::HangOp() {
   menu_.Hang("InvPersRel", [this] { ToonPersonenEnRelaties(hoofd_); });
   menu_.Hang("ImportGedcom", [this, &gesprek] { gesprek.Toon<ImpGedcom>(hoofd_); });
   menu_.Hang("ViewTekst", [this, &gesprek] { gesprek.Toon<BekijkTekst>(hoofd_); });
-  menu_.Hang("TekstKwst", [this, &gesprek] { gesprek.Toon<KwstTxtPrs>(hoofd_); });
+  menu_.Hang("TekstKwst", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstTxtPrs, hoofd_); });
+  menu_.Hang("IndexKwst", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstIdxPrs, hoofd_); });
+  menu_.Hang("SchemaKwst", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstSchPrs, hoofd_); });
+  menu_.Hang("SchemaKwBlad", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstBldPrs, hoofd_); });
+  menu_.Hang("TekstGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenTxtPrs, hoofd_); });
+  menu_.Hang("IndexGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenIdxPrs, hoofd_); });
+  menu_.Hang("SchemaGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenSchPrs, hoofd_); });
+  menu_.Hang("SchemaGezin", [this, &gesprek] { gesprek.Toon<GezinSchPrs>(hoofd_); });
   menu_.Hang("VeiligOngedaan", [this] { MaakLaatsteOngedaan(hoofd_.MaakOpslag()); });
   menu_.Hang("VeiligGeschiedenis", [this, &gesprek] { gesprek.Toon<Geschiedenis>(hoofd_); });
   menu_.Hang("VeiligKopie", [this, &gesprek] { MaakVeiligheidskopie(KopieVan(hoofd_), gesprek); });

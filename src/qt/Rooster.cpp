@@ -78,13 +78,18 @@ void Opmaker::Rooster(const Blok& blok, QBoxLayout& in) {
   }
 }
 
-// A button with a mark is as small as it can be, beside the field that it belongs to.
+// A button with a mark is as small as it can be, beside the field that it belongs to; one with a
+// number is no wider than the number asks.
 static void MaakSmal(Element& element) {
   constexpr int kTeken = 2;
+  if (element.Bron().Soort() != BedieningSoort::Knop) return;
   const std::string_view tekst = element.Bron().Bijschrift();
-  const bool teken = element.Bron().Soort() == BedieningSoort::Knop && tekst.size() == 1 &&
-                     !IsCijfer(tekst.front());
-  if (teken) ZetTekenBreedte(element.Widget(), kTeken, true);
+  QWidget& knop = element.Widget();
+  if (std::all_of(tekst.begin(), tekst.end(), IsCijfer)) {
+    knop.setSizePolicy(QSizePolicy::Fixed, knop.sizePolicy().verticalPolicy());
+  } else if (tekst.size() == 1) {
+    ZetTekenBreedte(knop, kTeken, true);
+  }
 }
 
 void Opmaker::Cel(const Blok& blok, QGridLayout& rooster, int regel, int kolom) {

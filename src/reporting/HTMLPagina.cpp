@@ -1,6 +1,7 @@
 #include "reporting/HTMLPagina.h"
 
 #include <cstdint>
+#include <vector>
 
 #include "output/TekstSchrijver.h"
 #include "text/HTML.h"
@@ -15,6 +16,14 @@ std::string Romeins(int generatie) {
 
 std::string Link(std::string_view adres, std::string_view tekst) {
   return "<A HREF=" + TussenQuotes(adres) + ">" + std::string(tekst) + "</A><BR>";
+}
+
+// Title and introduction without what is empty.
+std::vector<std::string> TitelRegels(const PaginaTeksten& t) {
+  std::vector<std::string> uit{t.titel};
+  uit.insert(uit.end(), t.inleiding.begin(), t.inleiding.end());
+  std::erase(uit, std::string());
+  return uit;
 }
 
 void SlotRegel(TekstSchrijver& uit, std::string_view waarde, const std::string& regel) {
@@ -41,8 +50,6 @@ void SlotInHTML(TekstSchrijver& uit, const PaginaTeksten& t) {
 
 void SlotInTekst(TekstSchrijver& uit, const PaginaTeksten& t) {
   const std::string inspringing(10, ' ');
-  uit.LegeRegel();
-  uit.LegeRegel();
   if (!t.copyrightRegel.empty()) uit.VolleRegel(inspringing + t.copyrightRegel);
   if (!t.programmaRegel.empty()) uit.VolleRegel(inspringing + t.programmaRegel);
 }
@@ -102,9 +109,36 @@ void SchrijfSlot(TekstSchrijver& uit, const PaginaTeksten& teksten) {
   if (uit.InHTML()) {
     SlotInHTML(uit, teksten);
   } else {
+    uit.LegeRegel();
+    uit.LegeRegel();
     SlotInTekst(uit, teksten);
   }
   uit.LegeRegel();
+}
+
+void SchrijfTitelInTekst(TekstSchrijver& uit, const PaginaTeksten& teksten) {
+  if (uit.InHTML()) return;
+  for (const std::string& regel : TitelRegels(teksten)) uit.VolleRegel(regel);
+}
+
+void SchrijfSchemaKop(TekstSchrijver& uit, const PaginaTeksten& teksten, std::string_view kop,
+                      std::string_view voornaam, std::string_view achternaam) {
+  uit.ZetMarge(true, 0);
+  if (uit.InHTML()) SchrijfHTMLKop(uit, teksten, kop, voornaam, achternaam);
+  SchrijfTitelInTekst(uit, teksten);
+  if (!uit.InHTML() && !TitelRegels(teksten).empty()) uit.LegeRegel();
+  uit.TagRegel("<BR>");
+  uit.TagRegel("<PRE>");
+}
+
+void SchrijfSchemaSlot(TekstSchrijver& uit, const PaginaTeksten& teksten) {
+  uit.LegeRegel();
+  uit.TagRegel("</PRE>");
+  if (uit.InHTML()) {
+    SchrijfSlot(uit, teksten);
+  } else {
+    SlotInTekst(uit, teksten);
+  }
 }
 
 }  // namespace lb77

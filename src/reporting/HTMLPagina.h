@@ -43,4 +43,14 @@ void SchrijfGeneratie(TekstSchrijver& uit, int generatie, int eerste, int laatst
 // The closing lines of a report, in HTML or in text, and the empty line behind them.
 void SchrijfSlot(TekstSchrijver& uit, const PaginaTeksten& teksten);
 
+// Title and introduction as lines of their own, in text only.
+void SchrijfTitelInTekst(TekstSchrijver& uit, const PaginaTeksten& teksten);
+
+// What stands around a chart: title and introduction with an empty line behind them, in HTML the head
+// of the page; then, behind an empty line, the closing lines, in text with nothing behind them. In
+// HTML the chart stands between "<PRE>" and "</PRE>".
+void SchrijfSchemaKop(TekstSchrijver& uit, const PaginaTeksten& teksten, std::string_view kop,
+                      std::string_view voornaam, std::string_view achternaam);
+void SchrijfSchemaSlot(TekstSchrijver& uit, const PaginaTeksten& teksten);
+
 }  // namespace lb77

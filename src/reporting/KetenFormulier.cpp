@@ -1,5 +1,6 @@
 #include "reporting/KetenFormulier.h"
 
+#include "entry/ToonPersoon.h"
 #include "output/ToonTekst.h"
 
 namespace lb77 {
@@ -23,6 +24,10 @@ bool KetenFormulier::GaatDoor() const {
 
 void KetenFormulier::Stap(Formulier&& formulier) {
   if (GaatDoor()) Hoofd().gesprek.ToonModaal(formulier);
+}
+
+void KetenFormulier::ToonPersoonskaart(std::int16_t nr) {
+  LoopKaarten(Hoofd().gesprek, ToonPersoonVraag(Hoofd(), nr));
 }
 
 void KetenFormulier::ToonTekstbestand(const std::filesystem::path& pad, std::string_view titel,

@@ -20,6 +20,12 @@ namespace lb77 {
 template <class T>
 concept Keuzewaarde = std::is_enum_v<T> ||(std::integral<T> && !std::same_as<T, bool>);
 
+// The numbers that an option takes.
+struct Getalbereik {
+  int laagste;
+  int hoogste;
+};
+
 // A control, the key that remembers it, its default, and the member of the options that it fills.
 class OptieRij {
  public:
@@ -49,12 +55,21 @@ class OptieRij {
         bewaar_([&vak, eerste] { return GetalTekst(vak.Index() + eerste); }),
         neem_([&vak, eerste, &doel] { doel = static_cast<T>(vak.Index() + eerste); }) {}
 
-  // A number. One that is kept below `laagste` gives `anders`.
-  OptieRij(Tekstvak& vak, std::string_view tag, int laagste, int anders, int& doel)
+  // One of a list, kept as its text; the first one is the default.
+  template <class T>
+  requires std::is_enum_v<T> OptieRij(Keuzevak& vak, std::string_view tag, T& doel)
       : tag_(tag),
-        toon_([&vak, laagste, anders](std::string_view waarde) {
+        toon_([&vak](std::string_view waarde) { ToonTekst(vak, waarde); }),
+        bewaar_([&vak] { return vak.Tekst(); }),
+        neem_([&vak, &doel] { doel = static_cast<T>(vak.Index()); }) {}
+
+  // A number. One that is kept outside `bereik` gives `anders`.
+  OptieRij(Tekstvak& vak, std::string_view tag, Getalbereik bereik, int anders, int& doel)
+      : tag_(tag),
+        toon_([&vak, bereik, anders](std::string_view waarde) {
           const int getal = Getalwaarde(waarde);
-          vak.ZetTekst(GetalTekst(getal < laagste ? anders : getal));
+          const bool binnen = getal >= bereik.laagste && getal <= bereik.hoogste;
+          vak.ZetTekst(GetalTekst(binnen ? getal : anders));
         }),
         bewaar_([&vak] { return GetalTekst(Getalwaarde(vak.Tekst())); }),
         neem_([&vak, &doel] { doel = Getalwaarde(vak.Tekst()); }) {}
@@ -69,6 +84,7 @@ class OptieRij {
 
  private:
   static void ToonKeuze(Keuzevak& vak, int eerste, std::string_view waarde);
+  static void ToonTekst(Keuzevak& vak, std::string_view waarde);
 
   std::string tag_;
   std::function<void(std::string_view)> toon_;

@@ -15,6 +15,7 @@ endfunction()
 
 verwacht(0 "Gebruik: .*KEUZES.* OPDRACHT.*Opdrachten:.*kwartierstaat" --help)
 verwacht(0 "Gebruik: .*SET PERSOON.*Woorden:.*Keuzes:.*--bewaar" kwartierstaat --help)
+verwacht(2 "Onverwacht: --html" --map ${MAP} bladen A 2 --html)
 verwacht(0 "^LB77 [0-9.]+" --version)
 verwacht(2 "Geef een opdracht" )
 verwacht(2 "Onbekende opdracht of keuze: dans" dans)

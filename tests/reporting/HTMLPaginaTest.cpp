@@ -92,5 +92,44 @@ TEST_F(HTMLPaginaToets, HetSlotBegintAanDeMargeWatDeTekstOokDeed) {
             "        Slot.\n\n\n");
 }
 
+TEST_F(HTMLPaginaToets, TitelEnInleidingZijnInTekstGewoneRegels) {
+  const auto titel = [&](TekstSchrijver& uit) { SchrijfTitelInTekst(uit, teksten_); };
+  EXPECT_EQ(Geschreven(titel), "");
+  teksten_.titel = "Vader & zoon";
+  teksten_.inleiding = {"", "Regel 2", ""};
+  EXPECT_EQ(Geschreven(titel), "Vader & zoon\nRegel 2\n");
+  EXPECT_EQ(Geschreven(titel, true), "");
+}
+
+class SchemaPagina : public HTMLPaginaToets {
+ protected:
+  std::string Pagina(bool inHTML) {
+    return Geschreven(
+        [this](TekstSchrijver& uit) {
+          SchrijfSchemaKop(uit, teksten_, "Genealogie", "Jan", "Bos");
+          uit.VolleRegel("I");
+          SchrijfSchemaSlot(uit, teksten_);
+        },
+        inHTML);
+  }
+};
+
+TEST_F(SchemaPagina, HeeftInTekstEenLegeRegelAchterDeTitelEnVoorHetSlot) {
+  EXPECT_EQ(Pagina(false), "I\n\n");
+  teksten_.inleiding = {"Inleiding", "", ""};
+  teksten_.copyrightRegel = "Copyright (2026) Jan";
+  EXPECT_EQ(Pagina(false), "Inleiding\n\nI\n\n          Copyright (2026) Jan\n");
+}
+
+TEST_F(SchemaPagina, StaatInHTMLTussenPre) {
+  teksten_.titel = "Bos";
+  const std::string pagina = Pagina(true);
+  EXPECT_NE(pagina.find("Genealogie Jan Bos\n</TITLE>"), std::string::npos);
+  EXPECT_NE(
+      pagina.find("<CENTER><H1>Bos</H1></CENTER>\n<BR>\n<PRE>\nI\n\n</PRE>\n\n<HR>\n\n<CENTER>"),
+      std::string::npos);
+  EXPECT_TRUE(pagina.ends_with("</HTML>\n\n"));
+}
+
 }  // namespace
 }  // namespace lb77

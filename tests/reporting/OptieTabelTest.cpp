@@ -1,6 +1,8 @@
 // The kinds of option rows, each through the settings and back.
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "forms/Formulier.h"
 #include "reporting/OptieTabel.h"
 #include "steun/FamilieToets.h"
@@ -36,7 +38,7 @@ class Optievorm final : public Formulier {
                     {PerTakBox, "PerGeneratie", false, keuzen_.perGeneratie},
                     {ZonenBox, "VolgZonen", 1, keuzen_.volgorde},
                     {DatumsBox, "VolgDochters", 0, keuzen_.datums},
-                    {Leeftijd, "Leeftijd", 11, 15, keuzen_.leeftijd}}};
+                    {Leeftijd, "Leeftijd", {11, 50}, 15, keuzen_.leeftijd}}};
 };
 
 class OptieTabelToets : public FamilieToets {
@@ -74,12 +76,23 @@ TEST_F(OptieTabelToets, ToontWatBewaardIsEnVultDeOpties) {
 TEST_F(OptieTabelToets, NeemtVoorEenWaardeDieGeenIsDeStandaard) {
   Stil([this](Hoofdmodule& hoofd) {
     for (const std::string_view waarde : {"", "?", "-3", "99999999999"}) {
-      Laad(hoofd, {waarde, waarde, waarde, waarde, waarde == "99999999999" ? "10" : waarde});
+      Laad(hoofd, {waarde, waarde, waarde, waarde, waarde});
       EXPECT_TRUE(vorm_.OokNrsBox.Ja()) << waarde;
       EXPECT_EQ(vorm_.PerTakBox.Tekst(), "Per tak") << waarde;
       EXPECT_EQ(vorm_.ZonenBox.Tekst(), "Een") << waarde;
       EXPECT_EQ(vorm_.DatumsBox.Tekst(), "Nee") << waarde;
       EXPECT_EQ(vorm_.Leeftijd.Tekst(), "15") << waarde;
+    }
+  });
+}
+
+TEST_F(OptieTabelToets, NeemtEenGetalBinnenZijnBereikAlleen) {
+  Stil([this](Hoofdmodule& hoofd) {
+    const std::pair<std::string_view, std::string_view> gevallen[] = {
+        {"10", "15"}, {"11", "11"}, {"50", "50"}, {"51", "15"}};
+    for (const auto& [bewaard, getoond] : gevallen) {
+      Laad(hoofd, {"", "", "", "", bewaard});
+      EXPECT_EQ(vorm_.Leeftijd.Tekst(), getoond) << bewaard;
     }
   });
 }
@@ -97,6 +110,31 @@ TEST_F(OptieTabelToets, BewaartWatGekozenIs) {
     for (std::size_t i = 0; i < kTags.size(); ++i) {
       EXPECT_EQ(hoofd.Ini.IniWaarde("GEN", kTags[i]), verwacht[i]) << kTags[i];
     }
+  });
+}
+
+class Bladvorm final : public Formulier {
+ public:
+  Bladvorm() : Formulier("Bladvorm", "Opties") {}
+  Keuzevak Box{*this, "Box", "Layout ?", {"CBG", "HSK"}};
+  Volgorde keuze = Volgorde::Eerste;
+  OptieTabel tabel{"KWBLD", {{Box, "HSK_CBG", keuze}}};
+};
+
+TEST_F(OptieTabelToets, EenKeuzeKanOnderHaarTekstBewaardWorden) {
+  Stil([](Hoofdmodule& hoofd) {
+    Bladvorm vorm;
+    for (const auto& [waarde, getoond] :
+         {std::pair{"HSK", "HSK"}, {"CBG", "CBG"}, {"", "CBG"}, {"hsk", "CBG"}, {"1", "CBG"}}) {
+      hoofd.Ini.IniZet("KWBLD", "HSK_CBG", waarde);
+      vorm.tabel.Laad(hoofd.Ini);
+      EXPECT_EQ(vorm.Box.Tekst(), getoond) << waarde;
+    }
+    vorm.Box.ZetIndex(1);
+    vorm.tabel.Neem();
+    EXPECT_EQ(static_cast<int>(vorm.keuze), 1);
+    vorm.tabel.Bewaar(hoofd.Ini);
+    EXPECT_EQ(hoofd.Ini.IniWaarde("KWBLD", "HSK_CBG"), "HSK");
   });
 }
 
