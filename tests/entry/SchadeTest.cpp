@@ -144,7 +144,9 @@ TEST_F(Schade, ElkeKnopKomtTenEindeEnNeeSchrijftNiets) {
 
 TEST_F(Schade, JaOpElkeVraagKomtOokTenEinde) {
   const auto voor = Bytes();
-  const auto terug = [&] { ZetTerug(voor); };
+  const auto terug = [&] {
+    if (Bytes() != voor) ZetTerug(voor);
+  };
   DrukAlles(ToonPersoonVraag, Antwoord::Ja, terug);
   DrukAlles(ToonKinderenVraag, Antwoord::Ja, terug);
 }
