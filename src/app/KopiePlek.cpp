@@ -14,7 +14,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* kBestand = "KOPIE.PAD";
 constexpr const char* kInWording = "KOPIE.TMP";
 constexpr const char* kEigen = "KOPIE";
 
@@ -22,7 +21,7 @@ constexpr const char* kEigen = "KOPIE";
 
 fs::path KopiePlek(const fs::path& programmaMap) {
   std::string inhoud;
-  if (LeesHeelBestand(VindPad(programmaMap / kBestand), inhoud)) return {};
+  if (LeesHeelBestand(VindPad(programmaMap / kKopiePad), inhoud)) return {};
   const std::string_view regel(inhoud.data(),
                                std::min(inhoud.find_first_of("\r\n"), inhoud.size()));
   const std::string_view plek = Trim(regel);
@@ -31,7 +30,7 @@ fs::path KopiePlek(const fs::path& programmaMap) {
 
 SysteemFout BewaarKopiePlek(const fs::path& programmaMap, const fs::path& plek) {
   Bestandswerk werk;
-  const fs::path bestand = VindPad(programmaMap / kBestand);
+  const fs::path bestand = VindPad(programmaMap / kKopiePad);
   if (plek.empty()) return werk.Verwijder(bestand);
   const std::string tekst = PadTekst(plek);
   if (PadVan(tekst) != plek) return FoutVan(std::make_error_code(std::errc::invalid_argument));

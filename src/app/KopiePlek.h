@@ -9,14 +9,16 @@
 
 namespace lb77 {
 
+// In the program's directory: the place that the user chose.
+inline constexpr std::string_view kKopiePad = "KOPIE.PAD";
+
 // The directories with the copies of a set; none of them need be there.
 struct KopieMappen {
   std::vector<std::filesystem::path> mappen;  // new copies come in the first
   std::filesystem::path weg;  // the chosen place when it is not there now; else empty
 };
 
-// The place that the user chose, a stick for instance, from the file KOPIE.PAD in the program's
-// directory; empty when there is none.
+// The place that the user chose, a stick for instance; empty when there is none.
 [[nodiscard]] std::filesystem::path KopiePlek(const std::filesystem::path& programmaMap);
 
 // Stores it; an empty one is no choice. A path that cannot be stored is a failure. After a failure

@@ -6,6 +6,7 @@
 
 #include "app/Bestandensets.h"
 #include "app/IniBestand.h"
+#include "app/KopiePlek.h"
 #include "output/Tekstpaginas.h"
 #include "store/Paden.h"
 #include "store/SetPaden.h"
@@ -62,7 +63,7 @@ SysteemFout BewaarAls(const std::filesystem::path& bron, const std::filesystem::
 
 std::string BeschermdeRol(const std::filesystem::path& bestand,
                           const std::filesystem::path& programmaMap, const IniClass& ini) {
-  for (const std::string_view naam : {kIniBestand, kIniReserve}) {
+  for (const std::string_view naam : {kIniBestand, kIniReserve, kKopiePad}) {
     if (IsZelfde(bestand, programmaMap / naam)) return "het bestand met instellingen";
   }
   for (const std::string_view naam : kResten) {
@@ -76,6 +77,9 @@ std::string BeschermdeRol(const std::filesystem::path& bestand,
     const SetPaden paden = SetPaden::Van(ini.DataDir(), set);
     for (const auto& pad : {paden.prs, paden.rlt, paden.plt, paden.opm, paden.centraal}) {
       if (IsZelfde(bestand, pad)) return "een bestand van bestandenset " + set;
+    }
+    for (const auto& map : KopieMappenIn(programmaMap, KopiePlek(programmaMap), set).mappen) {
+      if (LigtIn(bestand, map)) return "van een veiligheidskopie";
     }
     if (LigtIn(bestand, paden.map / "JOURNAAL")) return "van het journaal van bestandenset " + set;
   }

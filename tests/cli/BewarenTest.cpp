@@ -82,6 +82,8 @@ TEST_F(BewarenToets, InstellingenDieNietBewaardWordenMakenDeUitkomstEen) {
 
 TEST_F(BewarenToets, UitWeigertWatVanHetProgrammaIs) {
   ASSERT_EQ(Doe("nieuw", {"ander"}), 0);
+  SchrijfBytes(map_ / "KOPIE.PAD", "stick");
+  std::filesystem::create_directories(map_ / "stick/ANDER");
   const auto voor = Inhoud();
   const std::pair<std::filesystem::path, std::string> gevallen[] = {
       {map_ / "LIJNBOOM.INI", "het bestand met instellingen"},
@@ -90,6 +92,8 @@ TEST_F(BewarenToets, UitWeigertWatVanHetProgrammaIs) {
       {map_ / "DATA" / "ANDER" / "ANDER.OPM", "een bestand van bestandenset ANDER"},
       {map_ / "LIJNBOOM.OUD", "een reserve van de instellingen"},
       {map_ / "KOPIE" / "ANDER" / "x", "van een veiligheidskopie"},
+      {map_ / "KOPIE.PAD", "het bestand met instellingen"},
+      {map_ / "stick" / "ANDER" / "x", "van een veiligheidskopie"},
       {map_ / "DATA" / "ANDER" / "JOURNAAL" / "00000001.HND",
        "van het journaal van bestandenset ANDER"}};
   for (const auto& [pad, rol] : gevallen) {
