@@ -179,8 +179,8 @@ std::int16_t PlaatsLB77::VoegToe(const Zoekvraag& zoek, std::int32_t nr) {
   const auto bij = [&] { return DeOpslag().bestanden.Stand(BestandSoort::Plaatsen); };
   const bool actueel = indexStand_ == bij();
   // One action, also where a field asks for it by itself.
-  const Handeling handeling(DeOpslag().bestanden,
-                            "Plaats " + GetalTekst(nr) + " toegevoegd: " + std::string(zoek.naam));
+  Handeling handeling(DeOpslag().bestanden,
+                      "Plaats " + GetalTekst(nr) + " toegevoegd: " + std::string(zoek.naam));
   // The file's state tells whether a failure has left anything that the index does not know.
   if (!Nieuw(nr)) return kGeenPlaats;
   std::string prov(zoek.prov);
@@ -189,6 +189,9 @@ std::int16_t PlaatsLB77::VoegToe(const Zoekvraag& zoek, std::int32_t nr) {
   Zet(veld::Prov.naam, prov);
   const auto nieuw = static_cast<std::int16_t>(nr);
   if (!Schrijf(nieuw)) return kGeenPlaats;
+  if (const SysteemFout fout = handeling.Voltooi()) {
+    MeldFout("De wijziging is nog niet veilig opgeslagen", fout);
+  }
   if (actueel && index_.Hoogste() == nr - 1) {
     index_.Voeg(zoek.sleutel);
     indexStand_ = bij();

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "steun/FaalBestand.h"
+#include "steun/ProefSchijf.h"
 #include "steun/ProefSet.h"
 #include "store/NepPlaatsVraag.h"
 #include "store/PlaatsLB77.h"
@@ -336,4 +337,25 @@ TEST(PlaatsHandelingTest, EenNieuwePlaatsIsEenHandeling) {
   EXPECT_EQ(journaal.Geschiedenis()[0].label, "Plaats 2 toegevoegd: Delft");
   EXPECT_TRUE(journaal.MaakOngedaan(1));
   EXPECT_EQ(LeesBytes(set.paden.plt), voor);
+}
+
+TEST(PlaatsHandelingTest, EenHandelingDieNietAfKomtWordtGemeld) {
+  ProefSchijf schijf;
+  ProefSet set{schijf.Opener()};
+  const ProefSchijf::Beeld begin = schijf.Neem();
+  set.bestanden.ZetJournaal(schijf.Bron());
+  schijf.lezenTelt = false;
+  std::string gemeld;
+  for (int k = 1; k < 40; ++k) {
+    set.bestanden.SluitAlles();
+    schijf.Zet(begin);
+    set.Heropen();
+    schijf.bij = schijf.teller + k;
+    static_cast<void>(set.Plaats.NrOfNieuw("Delft", ""));
+    schijf.bij = 0;
+    for (const std::string& regel : set.Getoond()) gemeld += regel;
+  }
+  EXPECT_NE(gemeld.find(R"("De wijziging is nog niet veilig opgeslagen\nFout van de schijf")"),
+            std::string::npos)
+      << gemeld;
 }
