@@ -287,6 +287,17 @@ std::array<VerhaalBestand, 4> VerwachteBestanden() {
            {"PLT", UitTabel("PLT")}}};
 }
 
+std::array<VerhaalBestand, 4> LegeBestanden() {
+  const auto admin = [](std::string_view soort, std::string_view regel) {
+    return VerhaalBestand{soort, VulRecord(VormVan(soort), regel)};
+  };
+  return {{admin("PRS",
+                 R"(1 | Achternaam=Pers.bestand Lijnboom\x00 | Voornaam=Versie 1.60 | Geb=87 0 0)"),
+           admin("RLT", "1 | Otr=87 0 0"),
+           {"OPM", OpmAdmin(0)},
+           admin("PLT", R"(1 | Provcode=\x00\x00 | Plaatsnaam=87)")}};
+}
+
 std::string EersteVerschil(const VerhaalBestand& verwacht, std::string_view gevonden) {
   if (verwacht.bytes == gevonden) return {};
   const auto verschil =

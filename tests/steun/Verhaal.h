@@ -24,6 +24,8 @@ struct VerhaalBestand {
   std::string bytes;
 };
 [[nodiscard]] std::array<VerhaalBestand, 4> VerwachteBestanden();
+// Those of a set in which nothing was entered yet.
+[[nodiscard]] std::array<VerhaalBestand, 4> LegeBestanden();
 
 // The first record that differs, with the first byte that does; empty when all are equal.
 [[nodiscard]] std::string EersteVerschil(const VerhaalBestand& verwacht, std::string_view gevonden);
