@@ -1,5 +1,7 @@
 #include "entry/Ordenen.h"
 
+#include <vector>
+
 #include "forms/Gesprek.h"
 
 namespace lb77 {
@@ -9,13 +11,27 @@ namespace {
 constexpr std::string_view kMislukt = "Het sorteren is mislukt.";
 constexpr std::string_view kNietGelezen = "Het sorteren is mislukt";
 
+using Nummers = std::vector<std::int16_t>;
+
+Nummers ZoalsHijStaat(const OrdenTaak& taak) {
+  return {taak.plaatsen.begin(), taak.plaatsen.end()};
+}
+
+// A list that would stand as it was read is not written, and so no action.
+bool SchrijfAnders(const OrdenTaak& taak, const Nummers& gelezen) {
+  Ontdubbel(taak.plaatsen);
+  Verdicht(taak.plaatsen);
+  return ZoalsHijStaat(taak) == gelezen || taak.schrijf();
+}
+
 // Without its record there is nothing to sort; the card tells, when it shows itself again.
 bool OrdenOpDatum(Gesprek& gesprek, const OrdenTaak& taak) {
   const Lijststaat staat = taak.lees();
   if (staat == Lijststaat::Geen) return false;
+  const Nummers gelezen = ZoalsHijStaat(taak);
   Verdicht(taak.plaatsen);
-  const bool gelukt =
-      staat == Lijststaat::Heel && taak.sorteer(AantalBezet(taak.plaatsen)) && taak.schrijf();
+  const bool gelukt = staat == Lijststaat::Heel && taak.sorteer(AantalBezet(taak.plaatsen)) &&
+                      SchrijfAnders(taak, gelezen);
   if (!gelukt) gesprek.Waarschuw(kMislukt);
   return true;
 }
@@ -24,13 +40,14 @@ void OrdenMetDeHand(Gesprek& gesprek, const OrdenTaak& taak) {
   const auto wie = taak.vraagWie();
   if (!wie || *wie <= 0) return;
   if (taak.lees() != Lijststaat::Heel) return gesprek.Waarschuw(kNietGelezen);
+  const Nummers gelezen = ZoalsHijStaat(taak);
   Verdicht(taak.plaatsen);
   const std::int16_t van = PlaatsVan(taak.plaatsen, *wie);
   if (van == 0) return gesprek.Waarschuw(taak.nietErin);
   const std::int16_t naar = taak.vraagPlaats();
   if (naar < 1) return;
   Verzet(taak.plaatsen, van, naar);
-  if (!taak.schrijf()) gesprek.Waarschuw(kMislukt);
+  if (!SchrijfAnders(taak, gelezen)) gesprek.Waarschuw(kMislukt);
 }
 
 }  // namespace

@@ -214,6 +214,35 @@ TEST_F(KindActiesTest, TerugVerandertDeVolgordeNiet) {
   EXPECT_EQ(Kinderen(2), "4 5 ");
 }
 
+TEST_F(KindActiesTest, WieAlOpZijnPlaatsStaatMaaktGeenHandeling) {
+  Verwacht(
+      "antwoord Nee\nvul RecordNr 5\ndruk OKButton\nvul VolgNum 29\ndruk OKButton",
+      [](Hoofdmodule& hoofd) {
+        const auto stand = hoofd.bestanden.Stand(BestandSoort::Relaties);
+        OrdenKinderen(hoofd, 2);
+        EXPECT_EQ(hoofd.bestanden.Stand(BestandSoort::Relaties), stand);
+      },
+      std::string(kAutomatisch) + R"(Nee
+    + KindSchuif "Volgnummer Kind Wijzigen"
+    - KindSchuif
+    + VolgnrKind "Volgnummer Kind"
+    - VolgnrKind
+  )");
+  EXPECT_EQ(Kinderen(2), "4 5 ");
+}
+
+TEST_F(KindActiesTest, EenDubbelKindGaatWegOokAlBlijftDeVolgorde) {
+  Bouw().WijzigRelatie(2, {{"Kind3", "4"}});
+  Orden("antwoord Nee\nvul RecordNr 4\ndruk OKButton\nvul VolgNum 1\ndruk OKButton",
+        std::string(kAutomatisch) + R"(Nee
+    + KindSchuif "Volgnummer Kind Wijzigen"
+    - KindSchuif
+    + VolgnrKind "Volgnummer Kind"
+    - VolgnrKind
+  )");
+  EXPECT_EQ(Kinderen(2), "4 5 ");
+}
+
 TEST_F(KindActiesTest, EenGatInDeLijstVerliestNiemand) {
   Bouw().WijzigRelatie(2, {{"Kind2", "0"}, {"Kind4", "5"}});
   Orden("antwoord Ja", std::string(kAutomatisch) + "Ja");
