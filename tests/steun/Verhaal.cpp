@@ -20,7 +20,6 @@ struct Plek {
   Vorm vorm;
 };
 constexpr std::size_t kGetal = 2;
-constexpr std::size_t kGebeurtenis = 6;
 
 const std::vector<Plek> kPersoon = {
     {"Achternaam", 0, 25, Vorm::Tekst},  {"Voornaam", 25, 30, Vorm::Tekst},
