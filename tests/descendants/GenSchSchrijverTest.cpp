@@ -125,6 +125,7 @@ TEST_F(GenSchSchrijverToets, TachtigGeneratiesStaanOpEenRegelHoeLangOok) {
   const auto kolom = static_cast<std::size_t>(79 * SchemaKolom(opties_));
   EXPECT_GT(kolom, 9999U);
   EXPECT_EQ(regels[0].substr(kolom - 2), "-</-LXXXa   Laatste [81]");
+  EXPECT_TRUE(Bevat("=-LXXVIIIa Kind [79] x N.N.----"));  // its label fills the eight positions
   EXPECT_EQ(regels[1].substr(kolom - 2), "  \\-LXXXb   Laatste [82]");
 }
 
