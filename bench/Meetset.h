@@ -10,6 +10,7 @@
 #include "app/Klok.h"
 #include "cli/Opdrachten.h"
 #include "steun/TijdelijkeMap.h"
+#include "store/SetPaden.h"
 
 namespace lb77::bench {
 
@@ -21,12 +22,12 @@ class Meetset {
   Meetset();
 
   void Importeer(const std::filesystem::path& gedcom);
-  // Has the command of a report write that of a person to `naar`; `zet` are choices of its dialog.
+  // Writes a report on a person by its command to `naar`; `zet` are choices of its dialog.
   void Rapport(std::string_view opdracht, int persoon, const std::filesystem::path& naar,
                const std::vector<std::string>& zet = {});
 
-  // The set's file of persons.
-  [[nodiscard]] std::filesystem::path Personen() const;
+  // Where its files lie.
+  [[nodiscard]] SetPaden Paden() const;
 
  private:
   void Doe(std::string_view naam, const OpdrachtArgumenten& argumenten);

@@ -3,7 +3,7 @@
 #include <memory>
 #include <stdexcept>
 
-#include "ancestors/KwstTxtPrs.h"
+#include "ancestors/KwstPrs.h"
 #include "app/Start.h"
 #include "cli/Werk.h"
 #include "descendants/GenPrs.h"
@@ -84,11 +84,19 @@ void Sessie::Kwartierstaat(int persoon, unsigned keuzen) {
                                       ? "Met Broers en Zussen van de Proband"
                                   : (keuzen & kBroersZussen) != 0 ? "Met Alle Broers en Zussen"
                                                                   : "Zonder Broers en Zussen";
-  Verslag(persoon, "KwstTxtPrs", "KwstTxtParam", "KwHTMLParam", [&](Formulier& formulier) {
-    VulParam(formulier, keuzen, "KwHerhaalBox", {{"BroerZusBox", broers}});
-  });
-  KwstTxtPrs formulier(hoofd);
-  hoofd.gesprek.ToonModaal(formulier);
+  struct Soort {
+    const KwstPrsSoort& prompt;
+    std::string_view opties;
+  };
+  for (const Soort& soort :
+       {Soort{kKwstTxtPrs, "KwstTxtParam"}, Soort{kKwstIdxPrs, "KwstIdxParam"}}) {
+    Verslag(persoon, soort.prompt.naam, soort.opties, soort.prompt.links->naam,
+            [&](Formulier& formulier) {
+              VulParam(formulier, keuzen, "KwHerhaalBox", {{"BroerZusBox", broers}});
+            });
+    KwstPrs formulier(soort.prompt, hoofd);
+    hoofd.gesprek.ToonModaal(formulier);
+  }
 }
 
 void Sessie::Parenteel(int persoon, unsigned keuzen) {
@@ -113,7 +121,7 @@ void Sessie::VulParam(Formulier& formulier, unsigned keuzen, std::string_view he
     zet(naam, (keuzen & keuze) != 0 ? "Ja" : "Nee");
   };
   jaNee("InHTMLBox", kHTML);
-  jaNee("OokOpmBox", kOpmerkingen);
+  if (formulier.Zoek("OokOpmBox")) jaNee("OokOpmBox", kOpmerkingen);
   jaNee("OokNrsBox", kNummers);
   jaNee(herhaling, kVolgHerhaling);
   // Persons in a circle fill the whole table when repeats are followed.

@@ -47,7 +47,7 @@ class Sessie {
     kBroersZussen = 16,
     kBroersZussenProband = 32
   };
-  // Each writes its report from the prompt to the viewer.
+  // Each writes its report, that of the ancestors with its index, from the prompt to the viewer.
   void Kwartierstaat(int persoon, unsigned keuzen);
   void Parenteel(int persoon, unsigned keuzen);
 

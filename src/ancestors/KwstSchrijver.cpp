@@ -35,23 +35,22 @@ KwstSchrijver::KwstSchrijver(const KwstTabel& tabel, const KwstOpties& opties,
       bronnen_(bronnen),
       verteller_(bronnen, uit, zinOpties),
       uit_(uit),
-      verloop_(verloop),
+      gang_(tabel, opties, bronnen, verloop),
       beginGen_(opties.KwBeginNr.Generatie()),
       eersteGen_(beginGen_ + AfstandVanEerste(tabel, opties.KwVanafNr)),
       maxGen_(std::min(opties.KwMaxGen, tabel.KwNummer(tabel.KwstAantal() - 1).Generatie())),
       huidigeGen_(beginGen_) {}
 
 Uitslag KwstSchrijver::Schrijf() {
-  if (!verteller_.LeesPersoon(opties_.KwProbandNr)) return verteller_.Fout();
-  uit_.ZetMarge(true, 0);
-  if (opties_.KwInHTML) {
-    SchrijfHTMLKop(uit_, opties_.teksten, "Kwartierstaat", bronnen_.persoon.VoorNaamTrue(),
-                   bronnen_.persoon.AchterNaamTrue());
+  if (const Uitslag kop = BeginKwst(opties_, bronnen_.persoon, uit_); kop.einde != Einde::Klaar) {
+    return kop;
   }
-  if (opties_.KwBeginNr.Vanaf(opties_.KwVanafNr) && !SchrijfProband()) {
-    return verteller_.Fout();
-  }
-  const Uitslag uitslag = SchrijfVoorouders();
+  if (gang_.Ouder(0).geschreven && !SchrijfProband()) return verteller_.Fout();
+  const Uitslag uitslag = gang_.Loop([this](const KwstStel& stel) -> Uitslag {
+    Paar paar{{stel.vader}, {stel.moeder}, stel.relatie};
+    if (!SchrijfPaar(paar)) return verteller_.Fout();
+    return Einde::Klaar;
+  });
   if (uitslag == Einde::Klaar) SchrijfSlot(uit_, opties_.teksten);
   return uitslag;
 }
@@ -91,7 +90,7 @@ void KwstSchrijver::SchrijfLinks(int index) {
 }
 
 bool KwstSchrijver::SchrijfProband() {
-  Ouder proband = MaakOuder(0);
+  Ouder proband{gang_.Ouder(0)};
   if (!LeesOuder(proband)) return false;
   SchrijfGeneratieKop(beginGen_);
   if (opties_.KwBroerZus == BroerZus::Zonder || proband.relNrOuders <= 0) {
@@ -121,20 +120,17 @@ bool KwstSchrijver::SchrijfProbandAlleen(const Ouder& proband) {
 // The children of the parents of `van`, lettered by slot: the letter is right-aligned in six columns, the text hangs at column 8,
 // in the proband's own list further by the letter's length.
 bool KwstSchrijver::SchrijfKinderen(const Ouder& van, bool vanProband) {
-  const Kindtab kinderen = LeesKinderen(bronnen_.relatie, van.relNrOuders).plaatsen;
-  for (int plaats = 1; plaats < static_cast<int>(kinderen.size()); ++plaats) {
-    const std::int16_t kind = kinderen[static_cast<std::size_t>(plaats)];
-    if (kind <= 0 || (kind == van.nr && kind != opties_.KwProbandNr)) continue;
-    if (!bronnen_.persoon.Lees(kind)) return true;  // ends the list, not the report
-    if (!SchrijfKind(plaats, kind, vanProband)) return false;
+  for (const KwstKind& kind : gang_.Kinderen(van.relNrOuders, van.nr)) {
+    if (!bronnen_.persoon.Lees(kind.nr)) return true;  // ends the list, not the report
+    if (!SchrijfKind(kind, vanProband)) return false;
   }
   return true;
 }
 
-bool KwstSchrijver::SchrijfKind(int plaats, std::int16_t kind, bool vanProband) {
+bool KwstSchrijver::SchrijfKind(const KwstKind& kind, bool vanProband) {
   const std::int16_t opmRecord = bronnen_.persoon.OpmRecord();
   const std::int16_t opmCode = bronnen_.persoon.OpmCode();
-  const std::string letter = KindLetter(plaats);
+  const std::string letter = KindLetter(kind.plaats);
   const int lengte = static_cast<int>(letter.size());
   int volgNr = 1;
   uit_.EindeRegel();
@@ -143,8 +139,8 @@ bool KwstSchrijver::SchrijfKind(int plaats, std::int16_t kind, bool vanProband) 
   uit_.ZetMarge(true, 6 - lengte);
   uit_.Vast(letter + ".");
   uit_.ZetMarge(true, vanProband ? 8 + lengte : 8);
-  if (!verteller_.SchrijfPersoon(kind)) return false;
-  if (!SchrijfAndereRelaties(kind, 0, false, volgNr)) return false;
+  if (!verteller_.SchrijfPersoon(kind.nr)) return false;
+  if (!SchrijfAndereRelaties(kind.nr, 0, false, volgNr)) return false;
   uit_.Vast(".");
   verteller_.SchrijfAlgemeneOpm(opmRecord, opmCode, kRubriekPersoon);
   return true;
@@ -170,39 +166,12 @@ bool KwstSchrijver::ZegtIets(const RelatieLB77& relatie) const {
   return VerbintenisVan(relatie).HeeftGegevens() || (opmCode & kHuwelijksRubrieken) != 0;
 }
 
-KwstSchrijver::Ouder KwstSchrijver::MaakOuder(int index) const {
-  Ouder ouder;
-  ouder.index = index;
-  ouder.nr = tabel_.Persoon(index);
-  ouder.herhaling = tabel_.IsHerhaling(index);
-  ouder.geschreven = tabel_.KwNummer(index).Vanaf(opties_.KwVanafNr);
-  return ouder;
-}
-
 bool KwstSchrijver::LeesOuder(Ouder& ouder) {
   if (!verteller_.LeesPersoon(ouder.nr)) return false;
   ouder.opmRecord = bronnen_.persoon.OpmRecord();
   ouder.opmCode = bronnen_.persoon.OpmCode();
   ouder.relNrOuders = bronnen_.persoon.RelNrOuders();
   return true;
-}
-
-Uitslag KwstSchrijver::SchrijfVoorouders() {
-  const int aantal = tabel_.KwstAantal();
-  for (int i = 1; i < aantal;) {
-    if (verloop_.afbreken()) return Einde::Afgebroken;
-    verloop_.toon(0, i);
-    const KwstPaar plaatsen = tabel_.Paar(i);
-    Paar paar;
-    if (plaatsen.vader > 0) paar.vader = MaakOuder(plaatsen.vader);
-    if (plaatsen.moeder > 0) paar.moeder = MaakOuder(plaatsen.moeder);
-    const std::int16_t kind = tabel_.Persoon(tabel_.KwKindIndex(i) - 1);
-    i = plaatsen.volgende;
-    if (!verteller_.LeesPersoon(kind)) return verteller_.Fout();
-    paar.relatie = bronnen_.persoon.RelNrOuders();
-    if (!SchrijfPaar(paar)) return verteller_.Fout();
-  }
-  return Einde::Klaar;
 }
 
 bool KwstSchrijver::SchrijfPaar(Paar& paar) {
@@ -255,7 +224,7 @@ bool KwstSchrijver::SchrijfHuwelijk(Paar& paar) {
 
 void KwstSchrijver::SchrijfOpmerkingen(const Paar& paar) {
   for (const Ouder& ouder : {paar.vader, paar.moeder}) {
-    if (ouder.geschreven && !ouder.herhaling) {
+    if (ouder.Verteld()) {
       verteller_.SchrijfAlgemeneOpm(ouder.opmRecord, ouder.opmCode, kRubriekPersoon);
     }
   }

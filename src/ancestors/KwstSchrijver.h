@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "ancestors/KwstGang.h"
 #include "ancestors/KwstOpties.h"
 #include "ancestors/KwstTabel.h"
 #include "output/Verteller.h"
@@ -24,12 +25,8 @@ class KwstSchrijver {
   [[nodiscard]] Uitslag Schrijf();
 
  private:
-  // One side of a couple; index -1 for an unknown parent.
-  struct Ouder {
-    int index = -1;
-    std::int16_t nr = 0;
-    bool herhaling = false;
-    bool geschreven = false;
+  // What the text tells of a parent besides.
+  struct Ouder : KwstOuder {
     std::int16_t opmRecord = 0;
     std::int16_t opmCode = 0;
     std::int16_t relNrOuders = 0;
@@ -42,16 +39,12 @@ class KwstSchrijver {
     std::int16_t opmRecord = 0;
     std::int16_t opmCode = 0;
 
-    [[nodiscard]] bool Beiden() const {
-      return vader.geschreven && moeder.geschreven && !vader.herhaling && !moeder.herhaling;
-    }
+    [[nodiscard]] bool Beiden() const { return vader.Verteld() && moeder.Verteld(); }
   };
 
   [[nodiscard]] bool SchrijfProband();
   [[nodiscard]] bool SchrijfProbandAlleen(const Ouder& proband);
-  [[nodiscard]] Uitslag SchrijfVoorouders();
 
-  [[nodiscard]] Ouder MaakOuder(int index) const;
   [[nodiscard]] bool LeesOuder(Ouder& ouder);
   [[nodiscard]] bool SchrijfPaar(Paar& paar);
   [[nodiscard]] bool SchrijfOuder(Ouder& ouder, Paar& paar);
@@ -61,7 +54,7 @@ class KwstSchrijver {
   [[nodiscard]] bool SchrijfBroersZussenVan(const Ouder& ouder);
 
   [[nodiscard]] bool SchrijfKinderen(const Ouder& van, bool vanProband);
-  [[nodiscard]] bool SchrijfKind(int plaats, std::int16_t kind, bool vanProband);
+  [[nodiscard]] bool SchrijfKind(const KwstKind& kind, bool vanProband);
   [[nodiscard]] bool SchrijfAndereRelaties(std::int16_t nr, std::int16_t hoofdRel,
                                            bool eenOverslaan, int& volgNr);
   [[nodiscard]] bool ZegtIets(const RelatieLB77& relatie) const;
@@ -75,7 +68,7 @@ class KwstSchrijver {
   Gegevens bronnen_;
   Verteller verteller_;
   TekstSchrijver& uit_;
-  const Verloop& verloop_;
+  KwstGang gang_;
   int beginGen_;
   int eersteGen_;  // of the first entry that is written; a heading links no further back
   int maxGen_;

@@ -29,6 +29,10 @@ inline constexpr KwartierVakSoort kVanafVak{"VanafKwartier", "Eerst uit te voere
 inline constexpr HTMLParamSoort kKwHTMLParam{
     "KwHTMLParam", "Kwartierstaat Uitvoeropties voor Internet", "KWST", "kwartierstaat"};
 
+// The links of its index.
+inline constexpr HTMLParamSoort kKwidxHTMLParam{"KwidxHTMLParam", kKwHTMLParam.titel,
+                                                kKwHTMLParam.sectie, kKwHTMLParam.hulp};
+
 // A field for a kwartier number. Its leave check is Geldig().
 class KwartierVak final : public Tekstvak {
  public:

@@ -60,8 +60,10 @@ std::optional<std::filesystem::path> Bediener::VraagBestand(const BestandsVraag&
   return std::nullopt;
 }
 
-bool Bediener::DrukAf(const Afdruk&) {
-  return false;
+bool Bediener::DrukAf(const Afdruk& afdruk) {
+  if (!neem_) return false;
+  neem_(afdruk);
+  return true;
 }
 
 void Bediener::Ververs(Formulier&) {}

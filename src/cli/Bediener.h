@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "forms/Formulier.h"
@@ -13,8 +14,8 @@
 
 namespace lb77 {
 
-// Each form that opens is worked by the action that was set for its name, once, and left by its
-// Terug when it is still open then. Boxes are told on standard error; questions are answered with
+// Each form that opens is worked by the action that was set for its name, once each time, and left by
+// its Terug when it is still open then. Boxes are told on standard error; questions are answered with
 // No or Cancel, unless an answer is held ready for them.
 class Bediener final : public Gesprek {
  public:
@@ -25,6 +26,8 @@ class Bediener final : public Gesprek {
   explicit Bediener(Meld meld) : meld_(std::move(meld)) {}
 
   void Bij(std::string_view formulier, Handeling handeling);
+  // There is a printer, which gives its pages to `neem`.
+  void BijAfdruk(std::function<void(const Afdruk&)> neem) { neem_ = std::move(neem); }
   // The first question that offers this answer while that form is on top gets it; "" is no form at
   // all, as during the start-up. One answer a form.
   void HoudKlaar(std::string_view formulier, Antwoord antwoord);
@@ -51,6 +54,7 @@ class Bediener final : public Gesprek {
 
   Meld meld_;
   std::map<std::string, Handeling, std::less<>> handelingen_;
+  std::function<void(const Afdruk&)> neem_;
   std::map<std::string, Antwoord, std::less<>> klaar_;
   std::vector<std::string> open_;  // the names of the open forms, the one on top last
   bool vinkjeGemeld_ = false;

@@ -1,14 +1,17 @@
 #include "cli/Rapport.h"
 
 #include <algorithm>
+#include <fstream>
 #include <optional>
 #include <ostream>
 #include <string>
+#include <vector>
 
 #include "cli/Afdrukken.h"
 #include "cli/Personen.h"
 #include "cli/Sessie.h"
 #include "cli/Werkmap.h"
+#include "output/Tekstpaginas.h"
 #include "output/ToonTekst.h"
 #include "reporting/HTMLParam.h"
 #include "text/Getallen.h"
@@ -17,6 +20,8 @@
 
 namespace lb77 {
 namespace {
+
+using Bladstapel = std::vector<std::vector<std::string>>;  // pages of lines
 
 // One report on its way through its forms.
 class Maker {
@@ -35,6 +40,7 @@ class Maker {
       sessie_.bediener.Bij(vorm.formulier, [this, &vorm](Formulier& form) { VulIn(vorm, form); });
     }
     sessie_.bediener.Bij("ToonTekst", [this](Formulier& form) { NeemVerslag(form); });
+    if (rapport_.wandeling.loop) BereidWandelingVoor();
     return sessie_.Voer(argumenten_.woorden[0], Omgang::Lezen,
                         [this](Werk& menu) { InMenu(menu); });
   }
@@ -45,6 +51,7 @@ class Maker {
     const Werkmap werkmap(sessie_.Hoofd().Ini.TempDir());
     sessie_.Hoofd().instellingen.tijdelijk = werkmap.Pad();
     menu.Kies(rapport_.menuKeuze);
+    if (!afdruk_.empty()) NeemAfdruk(werkmap.Pad() / "AFDRUK.TMP");
     if (!getoond_ && sessie_.bediener.Status() == 0) {
       sessie_.bediener.Mislukt("Er is geen verslag gemaakt");
     }
@@ -55,12 +62,16 @@ class Maker {
   void VulIn(const RapportVorm& vorm, Formulier& form);
   [[nodiscard]] bool Vul(Werk& werk, const Formulier& form, const VeldVulling& vulling);
   [[nodiscard]] bool VulLinks(Werk& werk, const Formulier& form);
+  void BereidWandelingVoor();
   void NeemVerslag(Formulier& form);
+  void NeemAfdruk(const std::filesystem::path& pad);
+  void Lever(const std::filesystem::path& pad);
 
   const Rapport& rapport_;
   const Omgeving& omgeving_;
   OpdrachtArgumenten argumenten_;  // with numbers for the names of persons
   Sessie sessie_;
+  Bladstapel afdruk_;
   bool getoond_ = false;
 };
 
@@ -100,7 +111,7 @@ void Maker::VulIn(const RapportVorm& vorm, Formulier& form) {
     const std::size_t achter = std::min(teken + 1, zet.size());
     if (!werk.Zet(zet.substr(0, teken), zet.substr(achter))) goed = false;
   }
-  if (goed) werk.Druk("OKButton");
+  if (goed) werk.Druk(vorm.knop);
 }
 
 bool Maker::Vul(Werk& werk, const Formulier& form, const VeldVulling& vulling) {
@@ -134,9 +145,39 @@ bool Maker::VulLinks(Werk& werk, const Formulier& form) {
 void Maker::NeemVerslag(Formulier& form) {
   const auto* toon = dynamic_cast<ToonTekst*>(&form);
   if (!toon) return;
+  Lever(toon->UitvoerPad());
+}
+
+void Maker::BereidWandelingVoor() {
+  const Wandeling& wandeling = rapport_.wandeling;
+  sessie_.bediener.Bij(wandeling.formulier, [this, &wandeling](Formulier& form) {
+    wandeling.loop(sessie_.bediener, form);
+  });
+  sessie_.bediener.BijAfdruk([this](const Afdruk& afdruk) {
+    afdruk_.insert(afdruk_.end(), afdruk.paginas.begin(), afdruk.paginas.end());
+  });
+}
+
+// Each page has the lines of a sheet of paper, but for the last one.
+void Maker::NeemAfdruk(const std::filesystem::path& pad) {
+  std::ofstream uit(pad, std::ios::binary);
+  for (std::vector<std::string>& pagina : afdruk_) {
+    if (&pagina != &afdruk_.back()) pagina.resize(Tekstpaginas::kRegels);
+    for (const std::string& regel : pagina) uit << regel << "\r\n";
+  }
+  uit.close();
+  if (uit) {
+    Lever(pad);
+  } else {
+    sessie_.bediener.Mislukt("Fout bij het schrijven van " + PadTekst(pad) + "\n" +
+                             FoutVanStroom().tekst);
+  }
+}
+
+void Maker::Lever(const std::filesystem::path& pad) {
   getoond_ = true;
-  if (!argumenten_.naar) return DrukUit(toon->UitvoerPad(), omgeving_.uit);
-  if (const SysteemFout fout = BewaarAls(toon->UitvoerPad(), *argumenten_.naar)) {
+  if (!argumenten_.naar) return DrukUit(pad, omgeving_.uit);
+  if (const SysteemFout fout = BewaarAls(pad, *argumenten_.naar)) {
     sessie_.bediener.Mislukt("Fout bij het schrijven van " + PadTekst(*argumenten_.naar) + "\n" +
                              fout.tekst);
   }

@@ -9,6 +9,9 @@
 
 namespace lb77 {
 
+class Bediener;
+class Formulier;
+
 // What goes into a field.
 enum class Vulling {
   Niets,    // no field: the row ends here
@@ -33,14 +36,23 @@ struct RapportVorm {
   std::string_view formulier;
   std::array<VeldVulling, 3> velden = {};
   bool metZet = false;
+  std::string_view knop = "OKButton";
+};
+
+// A form that the user walks over, and how he does it.
+struct Wandeling {
+  std::string_view formulier;
+  void (*loop)(Bediener&, Formulier&) = nullptr;
 };
 
 struct Rapport {
   std::string_view menuKeuze;
   std::array<RapportVorm, 4> vormen;  // an empty name ends them
+  // With one nothing is viewed: what is printed on the way is the report.
+  Wandeling wandeling = {};
 };
 
-// Works the forms; what the viewer would show goes where the command line says. The exit status.
+// Works the forms; what the viewer or the printer would show goes where the command line says. The exit status.
 [[nodiscard]] int MaakRapport(const Rapport& rapport, const Omgeving& omgeving,
                               const OpdrachtArgumenten& argumenten);
 

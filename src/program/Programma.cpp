@@ -2,7 +2,7 @@
 
 #include <exception>
 
-#include "ancestors/KwstTxtPrs.h"
+#include "ancestors/KwstPrs.h"
 #include "app/Geschiedenis.h"
 #include "app/IniFunctie.h"
 #include "app/IniGebruiker.h"
@@ -10,6 +10,7 @@
 #include "app/IniSysteem.h"
 #include "app/IniVoorkeur.h"
 #include "app/IniVoorvoeg.h"
+#include "app/KopiePlaats.h"
 #include "app/KopieTerugzetten.h"
 #include "app/NieuweSet.h"
 #include "app/Ongedaan.h"
@@ -61,7 +62,10 @@ void Programma::HangOp() {
   menu_.Hang("InvPersRel", [this] { ToonPersonenEnRelaties(hoofd_); });
   menu_.Hang("ImportGedcom", [this, &gesprek] { gesprek.Toon<ImpGedcom>(hoofd_); });
   menu_.Hang("ViewTekst", [this, &gesprek] { gesprek.Toon<BekijkTekst>(hoofd_); });
-  menu_.Hang("TekstKwst", [this, &gesprek] { gesprek.Toon<KwstTxtPrs>(hoofd_); });
+  menu_.Hang("TekstKwst", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstTxtPrs, hoofd_); });
+  menu_.Hang("IndexKwst", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstIdxPrs, hoofd_); });
+  menu_.Hang("SchemaKwst", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstSchPrs, hoofd_); });
+  menu_.Hang("SchemaKwBlad", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstBldPrs, hoofd_); });
   menu_.Hang("TekstGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenTxtPrs, hoofd_); });
   menu_.Hang("IndexGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenIdxPrs, hoofd_); });
   menu_.Hang("SchemaGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenSchPrs, hoofd_); });
@@ -70,6 +74,7 @@ void Programma::HangOp() {
   menu_.Hang("VeiligGeschiedenis", [this, &gesprek] { gesprek.Toon<Geschiedenis>(hoofd_); });
   menu_.Hang("VeiligKopie", [this, &gesprek] { MaakVeiligheidskopie(KopieVan(hoofd_), gesprek); });
   menu_.Hang("VeiligTerugzetten", [this, &gesprek] { gesprek.Toon<KopieTerugzetten>(hoofd_); });
+  menu_.Hang("VeiligPlaats", [this, &gesprek] { gesprek.Toon<KopiePlaats>(hoofd_); });
   menu_.Hang("AboutLB77", [&gesprek] { gesprek.Toon<OverLB77Form>(); });
 }
 

@@ -1,14 +1,17 @@
 #include "reporting/KetenFormulier.h"
 
+#include "entry/ToonPersoon.h"
 #include "output/ToonTekst.h"
 
 namespace lb77 {
 
 void KetenFormulier::KoppelTerug(Knop& terug) {
-  terug.BijKlik([this] {
-    StopKeten();
-    Sluit();
-  });
+  terug.BijKlik([this] { TerugKlik(); });
+}
+
+void KetenFormulier::TerugKlik() {
+  StopKeten();
+  Sluit();
 }
 
 void KetenFormulier::StopKeten() {
@@ -21,6 +24,10 @@ bool KetenFormulier::GaatDoor() const {
 
 void KetenFormulier::Stap(Formulier&& formulier) {
   if (GaatDoor()) Hoofd().gesprek.ToonModaal(formulier);
+}
+
+void KetenFormulier::ToonPersoonskaart(std::int16_t nr) {
+  LoopKaarten(Hoofd().gesprek, ToonPersoonVraag(Hoofd(), nr));
 }
 
 void KetenFormulier::ToonTekstbestand(const std::filesystem::path& pad, std::string_view titel,

@@ -1,6 +1,7 @@
 // A form in a chain of forms: each goes on where the one before it was not left by Terug.
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <string_view>
 
@@ -22,8 +23,13 @@ class KetenFormulier : public InvoerFormulier {
   [[nodiscard]] bool GaatDoor() const;
   // Shows the next form of the chain, unless it was stopped.
   void Stap(Formulier&& formulier);
+  // Shows the card of a person, and whatever the user goes to from there.
+  void ToonPersoonskaart(std::int16_t nr);
   // Shows a finished report in the viewer.
   void ToonTekstbestand(const std::filesystem::path& pad, std::string_view titel, bool inHTML);
+
+ private:
+  void TerugKlik();
 };
 
 }  // namespace lb77

@@ -1,5 +1,6 @@
 #include "reporting/OptieTabel.h"
 
+#include <algorithm>
 #include <cstdint>
 
 namespace lb77 {
@@ -8,6 +9,12 @@ void OptieRij::ToonKeuze(Keuzevak& vak, int eerste, std::string_view waarde) {
   const std::int32_t getal = Getalwaarde(waarde);
   vak.ZetIndex(getal >= eerste ? getal - eerste : 0);
   if (vak.Index() < 0) vak.ZetIndex(0);
+}
+
+void OptieRij::ToonTekst(Keuzevak& vak, std::string_view waarde) {
+  const std::vector<std::string>& rijen = vak.Rijen();
+  const auto rij = std::find(rijen.begin(), rijen.end(), waarde);
+  vak.ZetIndex(rij == rijen.end() ? 0 : static_cast<int>(rij - rijen.begin()));
 }
 
 void OptieTabel::Laad(const IniClass& ini) const {

@@ -55,6 +55,14 @@ class OptieRij {
         bewaar_([&vak, eerste] { return GetalTekst(vak.Index() + eerste); }),
         neem_([&vak, eerste, &doel] { doel = static_cast<T>(vak.Index() + eerste); }) {}
 
+  // One of a list, kept as its text; the first one is the default.
+  template <class T>
+  requires std::is_enum_v<T> OptieRij(Keuzevak& vak, std::string_view tag, T& doel)
+      : tag_(tag),
+        toon_([&vak](std::string_view waarde) { ToonTekst(vak, waarde); }),
+        bewaar_([&vak] { return vak.Tekst(); }),
+        neem_([&vak, &doel] { doel = static_cast<T>(vak.Index()); }) {}
+
   // A number. One that is kept outside `bereik` gives `anders`.
   OptieRij(Tekstvak& vak, std::string_view tag, Getalbereik bereik, int anders, int& doel)
       : tag_(tag),
@@ -76,6 +84,7 @@ class OptieRij {
 
  private:
   static void ToonKeuze(Keuzevak& vak, int eerste, std::string_view waarde);
+  static void ToonTekst(Keuzevak& vak, std::string_view waarde);
 
   std::string tag_;
   std::function<void(std::string_view)> toon_;

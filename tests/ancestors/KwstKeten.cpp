@@ -1,6 +1,5 @@
 #include "ancestors/KwstKeten.h"
 
-#include "ancestors/KwstTxtPrs.h"
 #include "app/Start.h"
 
 namespace lb77 {
@@ -18,7 +17,7 @@ void KwstKeten::Speel(std::string_view draaiboek, std::string_view verslag, cons
   const Taak taak = [this](Hoofdmodule& hoofd) {
     ASSERT_TRUE(Start(hoofd));
     hoofd.schrijfwijze.DatumScheider = '-';
-    KwstTxtPrs prompt(hoofd);
+    KwstPrs prompt(*soort_, hoofd);
     hoofd.gesprek.ToonModaal(prompt);
     gebleven_ = hoofd.volgers.HuidigPersoonNr;
   };

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "ancestors/KwstFamilie.h"
+#include "ancestors/KwstPrs.h"
 #include "steun/FamilieToets.h"
 #include "steun/Keten.h"
 
@@ -27,8 +28,9 @@ class KwstKeten : public FamilieToets {
   [[nodiscard]] static Keten Weg();
   [[nodiscard]] std::string Ini() const { return LeesBytes(Map() / "LIJNBOOM.INI"); }
   [[nodiscard]] bool IniHeeft(std::string_view regel) const;
-  [[nodiscard]] std::string Verslag() const { return LeesBytes(Map() / "TEMP" / "KWSTDATA.TMP"); }
+  [[nodiscard]] std::string Verslag() const { return LeesBytes(Map() / "TEMP" / soort_->bestand); }
 
+  const KwstPrsSoort* soort_ = &kKwstTxtPrs;  // the report whose chain is played
   KwstFamilie familie_;
   std::int16_t gebleven_ = 0;  // HuidigPersoonNr behind the chain
 };

@@ -27,20 +27,23 @@ class KwstSchrijverToets : public ::testing::Test {
     return SchrijfTabel();
   }
   Uitslag SchrijfTabel() {
+    TekstSchrijver schrijver;
+    EXPECT_TRUE(schrijver.Open(set_.map / "uit.txt"));
+    const Gegevens bronnen{set_.Persoon,   set_.Relatie, set_.Plaats,
+                           set_.Opmerking, set_.volgers, set_.schrijfwijze};
+    const Uitslag uitslag = SchrijfMet(schrijver, bronnen);
+    EXPECT_TRUE(schrijver.Sluit());
+    uit_ = LeesBytes(set_.map / "uit.txt");
+    return uitslag;
+  }
+  // The report that is written: here the text.
+  virtual Uitslag SchrijfMet(TekstSchrijver& schrijver, const Gegevens& bronnen) {
     ZinOpties zin;
     zin.ookOpm = opties_.KwOokOpm;
     zin.ookNrs = opties_.KwOokNrs;
     zin.inHTML = opties_.KwInHTML;
-    TekstSchrijver schrijver;
-    EXPECT_TRUE(schrijver.Open(set_.map / "uit.txt"));
     schrijver.ZetRechterMarge(opties_.KwInHTML ? TekstSchrijver::kGeenRechterMarge : 78);
-    const Gegevens bronnen{set_.Persoon,   set_.Relatie, set_.Plaats,
-                           set_.Opmerking, set_.volgers, set_.schrijfwijze};
-    const Uitslag uitslag =
-        KwstSchrijver(tabel_, opties_, bronnen, zin, schrijver, verloop_).Schrijf();
-    EXPECT_TRUE(schrijver.Sluit());
-    uit_ = LeesBytes(set_.map / "uit.txt");
-    return uitslag;
+    return KwstSchrijver(tabel_, opties_, bronnen, zin, schrijver, verloop_).Schrijf();
   }
   KwstFamilie Familie() { return BouwKwstFamilie(set_.bouw); }
   [[nodiscard]] bool Bevat(std::string_view tekst) const {

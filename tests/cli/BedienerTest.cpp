@@ -105,6 +105,13 @@ TEST_F(BedienerToets, BestandenPrintersEnOnderbrekingenZijnErNiet) {
   EXPECT_FALSE(bediener_.StopGevraagd(vorm_));
 }
 
+TEST_F(BedienerToets, EenPrinterGeeftZijnBladzijdenDoor) {
+  std::string titel;
+  bediener_.BijAfdruk([&titel](const Afdruk& afdruk) { titel = afdruk.titel; });
+  EXPECT_TRUE(bediener_.DrukAf({"Blad", {}}));
+  EXPECT_EQ(titel, "Blad");
+}
+
 TEST_F(BedienerToets, EenFormulierWordtBediendEnVerlaten) {
   int keer = 0;
   bediener_.Bij("Keuzevorm", [&keer](Formulier&) { ++keer; });

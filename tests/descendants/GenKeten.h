@@ -30,16 +30,14 @@ class GenKeten : public FamilieToets {
   void ZetIni(std::string_view van, std::string_view naar);
   [[nodiscard]] std::string Ini() const { return LeesBytes(Map() / "LIJNBOOM.INI"); }
   [[nodiscard]] bool IniHeeft(std::string_view regels) const;
-  [[nodiscard]] std::string Verslag() const {
-    return LeesBytes(Map() / "TEMP" / soort_->bestand);
-  }
+  [[nodiscard]] std::string Verslag() const { return LeesBytes(Map() / "TEMP" / soort_->bestand); }
   [[nodiscard]] bool VerslagHeeft(std::string_view tekst) const {
     return Verslag().find(tekst) != std::string::npos;
   }
 
   GenFamilie familie_;
   const GenPrsSoort* soort_ = &kGenTxtPrs;  // the report that is asked for
-  std::int16_t gebleven_ = 0;  // HuidigPersoonNr behind the chain
+  std::int16_t gebleven_ = 0;               // HuidigPersoonNr behind the chain
 };
 
 }  // namespace lb77

@@ -156,8 +156,6 @@ TEST_F(Programmaloop, ElkeKeuzeDieTeKiezenIsToontZijnFormulier) {
       sluit
       bestand
       kies ViewTekst
-      kies TekstKwst
-      sluit
       kies AboutLB77
       sluit
     )",
@@ -184,11 +182,34 @@ TEST_F(Programmaloop, ElkeKeuzeDieTeKiezenIsToontZijnFormulier) {
       + ImpGedcom "Importeer Gegevens - Gedcom"
       - ImpGedcom
       > openen "Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt|GEDCOM-bestanden (*.GED)|*.GED" -> -
-      + KwstTxtPrs "Nummer Proband"
-      - KwstTxtPrs
       + OverLB77Form "Over LB77 voor Windows"
       - OverLB77Form
     )~");
+}
+
+TEST_F(Programmaloop, ElkVerslagOverEenPersoonVraagtWieHetIs) {
+  MaakFamilie();
+  Verwacht(R"(
+      kies TekstKwst
+      sluit
+      kies IndexKwst
+      sluit
+      kies SchemaKwst
+      sluit
+      kies SchemaKwBlad
+      sluit
+    )",
+           Sessie(), R"(
+      + MenuWindow "LB77 voor Windows"
+      + KwstTxtPrs "Nummer Proband"
+      - KwstTxtPrs
+      + KwstIdxPrs "Nummer Proband"
+      - KwstIdxPrs
+      + KwstSchPrs "Nummer Proband"
+      - KwstSchPrs
+      + KwstBldPrs "Nummer Proband"
+      - KwstBldPrs
+    )");
 }
 
 TEST_F(Programmaloop, VerslagenVanNakomelingenVragenOmEenPersoon) {

@@ -1,6 +1,8 @@
 // The kinds of option rows, each through the settings and back.
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "forms/Formulier.h"
 #include "reporting/OptieTabel.h"
 #include "steun/FamilieToets.h"
@@ -108,6 +110,31 @@ TEST_F(OptieTabelToets, BewaartWatGekozenIs) {
     for (std::size_t i = 0; i < kTags.size(); ++i) {
       EXPECT_EQ(hoofd.Ini.IniWaarde("GEN", kTags[i]), verwacht[i]) << kTags[i];
     }
+  });
+}
+
+class Bladvorm final : public Formulier {
+ public:
+  Bladvorm() : Formulier("Bladvorm", "Opties") {}
+  Keuzevak Box{*this, "Box", "Layout ?", {"CBG", "HSK"}};
+  Volgorde keuze = Volgorde::Eerste;
+  OptieTabel tabel{"KWBLD", {{Box, "HSK_CBG", keuze}}};
+};
+
+TEST_F(OptieTabelToets, EenKeuzeKanOnderHaarTekstBewaardWorden) {
+  Stil([](Hoofdmodule& hoofd) {
+    Bladvorm vorm;
+    for (const auto& [waarde, getoond] :
+         {std::pair{"HSK", "HSK"}, {"CBG", "CBG"}, {"", "CBG"}, {"hsk", "CBG"}, {"1", "CBG"}}) {
+      hoofd.Ini.IniZet("KWBLD", "HSK_CBG", waarde);
+      vorm.tabel.Laad(hoofd.Ini);
+      EXPECT_EQ(vorm.Box.Tekst(), getoond) << waarde;
+    }
+    vorm.Box.ZetIndex(1);
+    vorm.tabel.Neem();
+    EXPECT_EQ(static_cast<int>(vorm.keuze), 1);
+    vorm.tabel.Bewaar(hoofd.Ini);
+    EXPECT_EQ(hoofd.Ini.IniWaarde("KWBLD", "HSK_CBG"), "HSK");
   });
 }
 

@@ -1,28 +1,97 @@
-// The chain of forms of the ancestor report.
+// The chains of forms of the ancestor reports.
+#include <cstddef>
+#include <string>
+#include <utility>
+
 #include "qt/indeling/Indelingen.h"
+#include "text/Getallen.h"
 
 namespace lb77::indeling {
 
 namespace {
 
-Blok Opties() {
+Blok Titels() {
+  return Groep("Titel en inleiding",
+               {Velden({"TitelTekst", "Inleiding1", "Inleiding2", "Inleiding3"})});
+}
+
+Blok Proband() {
+  return Groep("Proband", {Velden({
+                              Rij({"NrProband", "Periode"}),
+                              Rij({"VoorNmProband", "AchterNmProband"}),
+                          })});
+}
+
+Blok Opties(const std::vector<Blok>& uitvoer) {
   return Kolom({
-      Groep("Proband", {Velden({
-                           Rij({"NrProband", "Periode"}),
-                           Rij({"VoorNmProband", "AchterNmProband"}),
-                       })}),
+      Proband(),
       Groep("Kwartieren", {Velden({
                               Rij({"KwNrProband", "VanafKwartier"}),
                               Rij({"MaxGen", "KwHerhaalBox"}),
                               "BroerZusBox",
                           })}),
-      Groep("Uitvoer", {Velden({
-                           Rij({"OokNrsBox", "OokOpmBox"}),
-                           Rij({"InHTMLBox", "CopyrightBox"}),
-                           "OokLB77Box",
-                       })}),
-      Groep("Titel en inleiding",
-            {Velden({"TitelTekst", "Inleiding1", "Inleiding2", "Inleiding3"})}),
+      Groep("Uitvoer", {Velden(uitvoer)}),
+      Titels(),
+      Knoppen({"OKButton", "BackButton"}),
+  });
+}
+
+Blok SchemaOpties() {
+  return Kolom({
+      Proband(),
+      Groep("Schema", {Velden({
+                          "KwNrProband",
+                          Rij({"MaxGen", "BreedteGen"}),
+                          Rij({"UitlijnBox", "OokJaarBox"}),
+                      })}),
+      Groep("Uitvoer",
+            {Velden({Rij({"OokNrsBox", "InHTMLBox"}), Rij({"CopyrightBox", "OokLB77Box"})})}),
+      Titels(),
+      Knoppen({"OKButton", "BackButton"}),
+  });
+}
+
+Blok BladOpties() {
+  return Kolom({
+      Proband(),
+      Groep("Blad",
+            {Velden({Rij({"HSK_CBG_Box", "OokNrsBox"}), Rij({"CopyrightBox", "OokLB77Box"})})}),
+      Titels(),
+      Knoppen({"OKButton(*)", "BackButton"}),
+  });
+}
+
+// Fathers above and mothers below their child, each generation further to the right; a name may take
+// what the columns behind it leave.
+void Stamlijn(int plaats, int generatie, std::vector<Blok>& regels) {
+  constexpr int kGeneraties = 4;
+  constexpr int kCellen = 5;  // that a generation moves to the right
+  if (generatie < kGeneraties) Stamlijn(2 * plaats, generatie + 1, regels);
+  const auto veld = [plaats](const std::string& naam) {
+    return Veld(naam + "(" + GetalTekst(plaats) + ")");
+  };
+  std::vector<Blok> regel(static_cast<std::size_t>((generatie - 1) * kCellen), "");
+  regel.push_back(Over((kGeneraties - generatie + 1) * kCellen,
+                       Rij({veld("Proband"), veld("InfoPersoon"), veld("Kwartier"), veld("Periode"),
+                            veld("Kwartier_A"), veld("KW_Index"), veld("KW_Nr")})));
+  regels.push_back(Rij(std::move(regel)));
+  if (generatie < kGeneraties) Stamlijn(2 * plaats + 1, generatie + 1, regels);
+}
+
+Blok Blad() {
+  std::vector<Blok> regels;
+  Stamlijn(1, 1, regels);
+  return Kolom({
+      Rooster(std::move(regels)),
+      Knoppen({"NaarKind", "UitvoerButton"}, {"OKButton", "BackButton"}),
+  });
+}
+
+Blok Schrijven() {
+  return Kolom({
+      "SchrijfLabel",
+      Velden({Rij({"KwartierenLabel", "Kwartieren"})}),
+      "GeduldLabel",
       Knoppen({"OKButton", "BackButton"}),
   });
 }
@@ -32,7 +101,8 @@ Blok Opties() {
 std::vector<Indeling> Kwartierstaat() {
   return {
       {"KwstTxtPrs", PersoonPrompt()},
-      {"KwstTxtParam", Opties()},
+      {"KwstTxtParam",
+       Opties({Rij({"OokNrsBox", "OokOpmBox"}), Rij({"InHTMLBox", "CopyrightBox"}), "OokLB77Box"})},
       {"KwHTMLParam", InternetOpties()},
       {"KwstBereken",
        Kolom({
@@ -41,12 +111,24 @@ std::vector<Indeling> Kwartierstaat() {
            Velden({"GeduldLabel", "MaximumLabel"}),
            Knoppen({"OKButton", "BackButton"}),
        })},
-      {"KwstMaakTemp", Kolom({
-                           "SchrijfLabel",
-                           Velden({Rij({"KwartierenLabel", "Kwartieren"})}),
-                           "GeduldLabel",
-                           Knoppen({"OKButton", "BackButton"}),
-                       })},
+      {"KwstMaakTemp", Schrijven()},
+      {"KwstIdxPrs", PersoonPrompt()},
+      {"KwstIdxParam", Opties({Rij({"OokNrsBox", "InHTMLBox"}), "HTMLfileTekst",
+                               Rij({"CopyrightBox", "OokLB77Box"})})},
+      {"KwidxHTMLParam", InternetOpties()},
+      {"KwstIdxTemp", Schrijven()},
+      {"KwstSchPrs", PersoonPrompt()},
+      {"KwstSchParam", SchemaOpties()},
+      {"KwstSchTemp",
+       Kolom({
+           "SchrijfLabel",
+           Velden({Rij({"PersonenLabel", "Personen"}), Rij({"PersNrLabel", "PersoonsNr"})}),
+           "GeduldLabel",
+           Knoppen({"OKButton", "BackButton"}),
+       })},
+      {"KwstBldPrs", PersoonPrompt()},
+      {"KwstBladen", Blad()},
+      {"KwstBldParam", BladOpties()},
   };
 }
 
