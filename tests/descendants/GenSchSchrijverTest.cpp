@@ -95,6 +95,23 @@ TEST_F(GenSchSchrijverToets, InHTMLVerticaalStaanDoelEnVerwijzingOpDeEersteRegel
             "<A HREF=\"#IIa\">IIa</A>\r\nPiet       Piet\r\n"));
 }
 
+// The narrowest column there is holds nine characters; the label behind "=" goes on the next line.
+TEST_F(GenSchSchrijverToets, EenVerwijzingDieNietPastIsGeenKoppeling) {
+  opties_.GenInHTML = opties_.GenOokVolgNrs = opties_.GenVolgHerh = true;
+  opties_.GenVoorNamen = GenVoornaamWijze::Nee;
+  opties_.GenPosANamen = 0;
+  const auto jan = Kind("Jan");
+  const auto piet = Kind("Piet");
+  Gezin(jan, {piet});
+  Gezin(jan, {piet});
+  Gezin(piet, {Kind("Ad")});
+  Teken(jan);
+  EXPECT_TRUE(
+      Bevat("<A NAME=\"IIb\">IIb</A>     =--=-<A NAME=\"IIIb\">IIIb</A>    = "
+            "<A HREF=\"#IIIa\">IIIa</A>\r\n"));
+  EXPECT_FALSE(Bevat("HREF=\"#IIa\""));
+}
+
 TEST_F(GenSchSchrijverToets, ZonderVolgnummersHeeftHetSchemaGeenDoelen) {
   opties_.GenInHTML = true;
   Teken(TweeKinderen());
