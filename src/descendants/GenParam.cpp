@@ -12,8 +12,8 @@ constexpr int kLaagsteLeeftijd = 11;  // that is taken from the settings
 GenParam::GenParam(const GenParamSoort& soort, Hoofdmodule& hoofd, GenOpties& opties)
     : VerslagParam({soort.naam, soort.titel, "genealogie", "Stamouder", "Genealogie van "}, hoofd,
                    opties.GenStamouderNr, opties.teksten),
-      MaxGen(*this, hoofd.gesprek, soort.generaties),
       GrensLeeftijd(*this, hoofd.gesprek, soort.leeftijd),
+      MaxGen(*this, hoofd.gesprek, soort.generaties),
       opties_(opties),
       regels_(soort.sectie, {{UitsluitBox, "Uitsluiten", true, opties.GenUitsluiten},
                              {ZonenBox, "VolgZonen", 1, opties.GenVolgZonen},
@@ -25,18 +25,19 @@ GenParam::GenParam(const GenParamSoort& soort, Hoofdmodule& hoofd, GenOpties& op
                               {kLaagsteLeeftijd, soort.leeftijd.hoogste},
                               kGrensLeeftijd,
                               opties.GenGrensLeeftijd}}) {
-  ZetEersteVeld(MaxGen);
+  ZetEersteVeld(ZonenBox);
   GrensLeeftijd.ZetFilter(AlleenCijfers);
 }
 
-void GenParam::Koppel(const OptieTabel& keuzen, TitelVelden& titels, Knop& ok, Knop& terug) {
+void GenParam::Koppel(const OptieTabel& keuzen, TitelVelden& titels, Knop& OKButton,
+                      Knop& BackButton) {
   VerslagParam::Koppel(regels_);
   VerslagParam::Koppel(leeftijd_);
-  VerslagParam::Koppel(keuzen, titels, terug);
-  ok.BijKlik([this] { OkKlik(); });
+  VerslagParam::Koppel(keuzen, titels, BackButton);
+  OKButton.BijKlik([this] { OKButtonKlik(); });
 }
 
-void GenParam::OkKlik() {
+void GenParam::OKButtonKlik() {
   Bewaar();
   Sluit();
 }

@@ -26,7 +26,6 @@ inline constexpr std::string_view kGenSectie = "GEN";
 // texts around the report and its buttons, and hands them to Koppel.
 class GenParam : public VerslagParam {
  public:
-  GeneratiesVak MaxGen;
   Keuzevak ZonenBox{*this,
                     "ZonenBox",
                     "Zonen:",
@@ -38,6 +37,7 @@ class GenParam : public VerslagParam {
                        {"Geen Dochters", "Dochters met nageslacht", "Dochters met Relatie(s)",
                         "Ongehuwde Moeders", "Dochters ouder dan .. jaar", "Alle Dochters"}};
   GrensVak GrensLeeftijd;
+  GeneratiesVak MaxGen;
   JaNeeVak PrsHerhaalBox{*this, "PrsHerhaalBox", "Persoonsherhaling blijven volgen ?"};
   JaNeeVak UitsluitBox{*this, "UitsluitBox", "Takken uitsluiten ?"};
   JaNeeVak InHTMLBox{*this, "InHTMLBox", "Uitvoer voor Internet (HTML) ?"};
@@ -45,16 +45,16 @@ class GenParam : public VerslagParam {
  protected:
   GenParam(const GenParamSoort& soort, Hoofdmodule& hoofd, GenOpties& opties);
 
-  // Parts of the derived form, which outlive this call. `ok` keeps the choices and closes, `terug`
-  // stops the chain.
-  void Koppel(const OptieTabel& keuzen, TitelVelden& titels, Knop& ok, Knop& terug);
+  // Parts of the derived form, which outlive this call. OKButton keeps the choices and closes,
+  // BackButton stops the chain.
+  void Koppel(const OptieTabel& keuzen, TitelVelden& titels, Knop& OKButton, Knop& BackButton);
   void BijLaden() override;
   // What OK does before it closes.
   virtual void Bewaar();
   [[nodiscard]] GenOpties& Opties() { return opties_; }
 
  private:
-  void OkKlik();
+  void OKButtonKlik();
 
   GenOpties& opties_;
   OptieTabel regels_;

@@ -6,6 +6,7 @@
 
 #include "descendants/GenSchTekening.h"
 #include "output/Tekenvel.h"
+#include "text/Tekens.h"
 
 namespace lb77 {
 namespace {
@@ -53,8 +54,17 @@ void ZetNaast(Regels& regels, std::size_t vanaf, const Regels& rechts) {
   }
 }
 
-Regels RegelsVan(const SchemaPersoon& persoon, GenDatums datums, GenPartnerWijze wijze) {
-  Regels uit;
+// One entry. The line to his children begins below his own lines; a partner beside him may have more.
+struct Blok {
+  std::string label;
+  std::string elders;
+  Regels regels;
+  int eigen = 0;
+};
+
+Blok BlokVan(const SchemaPersoon& persoon, GenDatums datums, GenPartnerWijze wijze) {
+  Blok blok{persoon.label, persoon.elders.value_or(""), {}};
+  Regels& uit = blok.regels;
   Voeg(uit, KopRegel(persoon));
   const std::size_t vanaf = uit.size();
   Voeg(uit, persoon.naam.voornamen);
@@ -63,15 +73,18 @@ Regels RegelsVan(const SchemaPersoon& persoon, GenDatums datums, GenPartnerWijze
   for (const std::string& datum : persoon.datums) {
     Voeg(uit, datums == GenDatums::Jaartallen ? "(" + datum + ")" : datum);
   }
+  const bool ernaast = wijze == GenPartnerWijze::NaastElkaar;
+  if (ernaast) blok.eigen = static_cast<int>(uit.size());
   for (const SchemaPartner& partner : persoon.partners) {
     const Regels regels = PartnerRegels(partner);
-    if (wijze == GenPartnerWijze::NaastElkaar) {
+    if (ernaast) {
       ZetNaast(uit, vanaf, regels);
     } else {
       uit.insert(uit.end(), regels.begin(), regels.end());
     }
   }
-  return uit;
+  if (!ernaast) blok.eigen = static_cast<int>(uit.size());
+  return blok;
 }
 
 class Verticaal {
@@ -90,22 +103,15 @@ class Verticaal {
   }
 
  private:
-  struct Blok {
-    std::string label;
-    std::string elders;
-    Regels regels;
-  };
-
   [[nodiscard]] bool LeesBlok(int i) {
     const auto persoon = bron_.lezer.Lees(i);
     if (!persoon) return false;
     const GenOpties& opties = bron_.opties;
-    blokken_.push_back({persoon->label, persoon->elders.value_or(""),
-                        RegelsVan(*persoon, opties.GenToonDatums, opties.GenPartners)});
+    blokken_.push_back(BlokVan(*persoon, opties.GenToonDatums, opties.GenPartners));
     breedte_ = std::max(breedte_, Breedte(blokken_.back().regels) + kTussenruimte);
     return true;
   }
-  [[nodiscard]] const Blok& BlokVan(int i) const { return blokken_[static_cast<std::size_t>(i)]; }
+  [[nodiscard]] const Blok& Van(int i) const { return blokken_[static_cast<std::size_t>(i)]; }
   [[nodiscard]] int Kolom(int i) const { return bron_.rijen.Rij(i) * breedte_; }
 
   // Draws the generation that begins at this entry, and gives the first entry of the next.
@@ -115,7 +121,7 @@ class Verticaal {
     int hoogte = 0;
     int tot = eerste;
     for (; tot < bron_.tabel.GenAantal() && bron_.tabel.Generatie(tot) == generatie; ++tot) {
-      hoogte = std::max(hoogte, static_cast<int>(BlokVan(tot).regels.size()));
+      hoogte = std::max(hoogte, static_cast<int>(Van(tot).regels.size()));
     }
     Tekenvel vel;
     for (int i = eerste; i < tot; ++i) {
@@ -140,15 +146,16 @@ class Verticaal {
   }
 
   void TekenBlok(Tekenvel& vel, int i, int top, int onder) const {
-    const Blok& blok = BlokVan(i);
+    const Blok& blok = Van(i);
     const int kolom = Kolom(i);
     int rij = top;
-    for (const std::string& regel : blok.regels) vel.Zet(rij++, kolom, regel);
-    if (bron_.tabel.EersteKind(i) > 0) vel.LijnNeer(kolom, rij, onder);
-    MerkDoel(vel, top, kolom, blok.label);
-    if (!blok.label.empty()) {
-      MerkLink(vel, top, kolom + static_cast<int>(blok.label.size()) + 3, blok.elders);
+    for (const std::string& regel : blok.regels) {
+      const std::string_view tekst = TrimLinks(regel);  // blanks would cover the line
+      vel.Zet(rij++, kolom + static_cast<int>(regel.size() - tekst.size()), tekst);
     }
+    if (bron_.tabel.EersteKind(i) > 0) vel.LijnNeer(kolom, top + blok.eigen, onder);
+    MerkDoel(vel, top, kolom, blok.label);
+    MerkLink(vel, top, kolom + static_cast<int>(blok.label.size()) + 3, blok.elders);
   }
 
   const SchemaBron& bron_;

@@ -156,6 +156,56 @@ TEST_F(GenGouden, EenRelatieBuitenHuwelijkHeetEenRelatie) {
   Verwacht("relaties.txt", jan);
 }
 
+// Who is followed by which rule: a line a child, a column a rule.
+class GenRegelGouden : public GenGouden {
+ protected:
+  GenRegelGouden() {
+    const std::vector<std::string> levens{"jong", "gehuwd", "ouder", "buitenechtelijk"};
+    for (const char geslacht : std::string_view("MV?")) {
+      for (const std::string& leven : levens) {
+        kinderen_.push_back(
+            bouw_.Persoon(geslacht, std::string(1, geslacht) + " " + leven, "Kok",
+                          {{"GebDatum", "00-00-1800"}, {"OvlDatum", "00-00-1810"}}));
+      }
+      kinderen_.push_back(bouw_.Persoon(geslacht, std::string(1, geslacht) + " oud", "Kok",
+                                        {{"GebDatum", "00-00-1800"}, {"OvlDatum", "00-00-1880"}}));
+      const auto begin = kinderen_.size() - 5;
+      bouw_.Relatie(kinderen_[begin + 1], bouw_.Vrouw("Anna", "Vis"));
+      bouw_.Relatie(bouw_.Man("Piet", "Pot"), kinderen_[begin + 2], {bouw_.Man("Kind", "Pot")});
+      bouw_.Relatie(0, kinderen_[begin + 3], {bouw_.Man("Kind", "Kok")});
+    }
+    bouw_.Relatie(stamouder_, 0, kinderen_);
+    opties_.GenMaxGen = 2;
+  }
+  // A column: an x for each child that has an entry.
+  void Kolom(int zonen, int dochters) {
+    opties_.GenVolgZonen = static_cast<GenZonen>(zonen);
+    opties_.GenVolgDochters = static_cast<GenDochters>(dochters);
+    EXPECT_EQ(Bouw(stamouder_), Einde::Klaar);
+    for (std::size_t i = 0; i < kinderen_.size(); ++i) {
+      const bool volgt = tabel_.Vind(kinderen_[i]) > 0;
+      regels_[i] += volgt ? " x" : " .";
+    }
+  }
+
+  const std::int16_t stamouder_ = bouw_.Man("Jan", "Kok");
+  std::vector<std::int16_t> kinderen_;
+  std::vector<std::string> regels_ = std::vector<std::string>(15);
+};
+
+TEST_F(GenRegelGouden, ElkeRegelVolgtZijnKinderen) {
+  for (int zonen = 1; zonen <= 5; ++zonen) Kolom(zonen, 1);
+  for (int dochters = 1; dochters <= 6; ++dochters) Kolom(1, dochters);
+  Kolom(4, 5);
+  Kolom(5, 6);
+  std::string uit = "zonen 1-5, dochters 1-6, zonen 4 met dochters 5, zonen 5 met dochters 6\r\n";
+  for (std::size_t i = 0; i < kinderen_.size(); ++i) {
+    ASSERT_TRUE(set_.Persoon.Lees(kinderen_[i]));
+    uit += regels_[i] + "  " + set_.Persoon.VoorNaamTrue() + "\r\n";
+  }
+  VerwachtGouden("gen/regels.txt", uit);
+}
+
 // One remark a bit, and one for each rubric.
 class GenOpmGouden : public GenGouden {
  protected:

@@ -30,10 +30,10 @@ TEST_F(GenSchParamToets, OpentMetZijnStandaard) {
       = VoorNmStamouder "Jan"
       = AchterNmStamouder "Kok"
       = Periode "1700-1770"
-      = MaxGen "80"
       = ZonenBox "Alle Zonen"
       = DochtersBox "Ongehuwde Moeders"
       = GrensLeeftijd "15"
+      = MaxGen "80"
       = PrsHerhaalBox "Nee"
       = UitsluitBox "Nee"
       = InHTMLBox "Nee"
@@ -55,7 +55,7 @@ TEST_F(GenSchParamToets, OpentMetZijnStandaard) {
       = Inleiding3 ""
       = OKButton "&OK"
       = BackButton "&Terug"
-      * MaxGen
+      * ZonenBox
     )");
 }
 
@@ -146,10 +146,10 @@ TEST_F(GenSchParamToets, LaadtDeBewaardeKeuzen) {
       = VoorNmStamouder "Jan"
       = AchterNmStamouder "Kok"
       = Periode "1700-1770"
-      = MaxGen "80"
       = ZonenBox "Zonen ouder dan .. jaar"
       = DochtersBox "Dochters met nageslacht"
       = GrensLeeftijd "21"
+      = MaxGen "80"
       = PrsHerhaalBox "Ja"
       = UitsluitBox "Ja"
       = InHTMLBox "Ja"
@@ -171,7 +171,7 @@ TEST_F(GenSchParamToets, LaadtDeBewaardeKeuzen) {
       = Inleiding3 ""
       = OKButton "&OK"
       = BackButton "&Terug"
-      * MaxGen
+      * ZonenBox
     )~");
 }
 
@@ -183,6 +183,31 @@ TEST_F(GenSchParamToets, WatEenVeldZouWeigerenWordtNietOvergenomen) {
     SpeelParam("toon PosVNamen\ntoon PosANamen\ntoon GrensLeeftijd",
                "= PosVNamen \"30\"\n= PosANamen \"25\"\n= GrensLeeftijd \"15\"\n");
   }
+}
+
+TEST_F(GenSchParamToets, EenOnbekendeWaardeIsDeGewoneKeuze) {
+  SchrijfGenb("Vertikaal=X\r\nHTML=X\r\nCentreren=X\r\nPartners=3\r\nToonDatums=-1\r\n");
+  SpeelParam("toon InHTMLBox\ntoon HorVerBox\ntoon CentreerBox", R"(
+      = InHTMLBox "Nee"
+      #0 "Ja"
+      #1 "Nee"
+      = HorVerBox "Horizontaal"
+      #0 "Horizontaal"
+      #1 "Verticaal"
+      = CentreerBox "Ja"
+      #0 "Ja"
+      #1 "Nee"
+  )");
+  SpeelParam("toon OokDatumsBox\ntoon OokPartnersBox", R"(
+      = OokDatumsBox "Nee"
+      #0 "Nee"
+      #1 "Jaartallen"
+      #2 "Volledig"
+      = OokPartnersBox "Nee"
+      #0 "Nee"
+      #1 "Onder elkaar"
+      #2 "Naast elkaar"
+  )");
 }
 
 constexpr std::string_view kStelAnders = R"(

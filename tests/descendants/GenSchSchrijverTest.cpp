@@ -95,6 +95,23 @@ TEST_F(GenSchSchrijverToets, InHTMLVerticaalStaanDoelEnVerwijzingOpDeEersteRegel
             "<A HREF=\"#IIa\">IIa</A>\r\nPiet       Piet\r\n"));
 }
 
+// The narrowest column there is holds nine characters; the label behind "=" goes on the next line.
+TEST_F(GenSchSchrijverToets, EenVerwijzingDieNietPastIsGeenKoppeling) {
+  opties_.GenInHTML = opties_.GenOokVolgNrs = opties_.GenVolgHerh = true;
+  opties_.GenVoorNamen = GenVoornaamWijze::Nee;
+  opties_.GenPosANamen = 0;
+  const auto jan = Kind("Jan");
+  const auto piet = Kind("Piet");
+  Gezin(jan, {piet});
+  Gezin(jan, {piet});
+  Gezin(piet, {Kind("Ad")});
+  Teken(jan);
+  EXPECT_TRUE(
+      Bevat("<A NAME=\"IIb\">IIb</A>     =--=-<A NAME=\"IIIb\">IIIb</A>    = "
+            "<A HREF=\"#IIIa\">IIIa</A>\r\n"));
+  EXPECT_FALSE(Bevat("HREF=\"#IIa\""));
+}
+
 TEST_F(GenSchSchrijverToets, ZonderVolgnummersHeeftHetSchemaGeenDoelen) {
   opties_.GenInHTML = true;
   Teken(TweeKinderen());
@@ -125,6 +142,7 @@ TEST_F(GenSchSchrijverToets, TachtigGeneratiesStaanOpEenRegelHoeLangOok) {
   const auto kolom = static_cast<std::size_t>(79 * SchemaKolom(opties_));
   EXPECT_GT(kolom, 9999U);
   EXPECT_EQ(regels[0].substr(kolom - 2), "-</-LXXXa   Laatste [81]");
+  EXPECT_TRUE(Bevat("=-LXXVIIIa Kind [79] x N.N.----"));  // its label fills the eight positions
   EXPECT_EQ(regels[1].substr(kolom - 2), "  \\-LXXXb   Laatste [82]");
 }
 

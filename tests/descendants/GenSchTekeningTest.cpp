@@ -170,6 +170,50 @@ TEST_F(GenSchTekeningToets, EenHerhalingHeeftHaarMerk) {
   EXPECT_EQ(Tekening(jan), "Jan\n|\n/-----\\\n|     |\nPiet  =\n      Piet\n");
 }
 
+// A text of somebody with children has all of his column but the joint, a dash, and two places.
+TEST_F(GenSchTekeningToets, EenVolleKolomHoudtTweeTekensLijn) {
+  opties_.GenPosANamen = 5;
+  const auto jan = Kind("Jan");
+  const auto piet = bouw_.Man("Pieter", "Visser");
+  Gezin(jan, {piet});
+  Gezin(piet, {Kind("Ad"), Kind("Bep")});
+  EXPECT_EQ(Tekening(jan),
+            "Jan-------------=-Pieter Visse-</-Ad\n"
+            "                                \\-Bep\n");
+}
+
+TEST_F(GenSchTekeningToets, WatNietPastGaatOpEenBlancoVerderOpDeVolgendeRegel) {
+  opties_.GenPosANamen = 5;
+  opties_.GenPartners = GenPartnerWijze::NaastElkaar;
+  opties_.GenOokRelNrs = true;
+  const auto jan = Kind("Jan");
+  const auto piet = Kind("Piet");
+  bouw_.Relatie(jan, bouw_.Vrouw("Anna", "Visser"), {piet});
+  bouw_.Relatie(piet, bouw_.Vrouw("Anna", "Visser"), {Kind("Ad")});
+  EXPECT_EQ(Tekening(jan),
+            "Jan-------------=-Piet----------=-Ad\n"
+            "x[2] Anna         x[3] Anna\n"
+            "Visse             Visse\n");
+}
+
+TEST_F(GenSchTekeningToets, EenWoordDatNergensPastWordtGebroken) {
+  opties_.GenPosANamen = 0;
+  opties_.GenPosVNamen = 30;
+  opties_.GenVoorNamen = GenVoornaamWijze::AlleenEerste;  // of which a column counts ten
+  const auto jan = Kind("Wilhelminadina");
+  Gezin(jan, {Kind("Wilhelminadina")});
+  EXPECT_EQ(Tekening(jan), "Wilhelminadin--=-Wilhelminadina\na\n");
+}
+
+TEST_F(GenSchTekeningToets, PartnersNaastIemandMogenHogerZijnDanHijzelf) {
+  opties_.GenVertikaal = true;
+  opties_.GenPosANamen = 5;
+  opties_.GenPartners = GenPartnerWijze::NaastElkaar;
+  const auto jan = Kind("Jan");
+  bouw_.Relatie(jan, bouw_.Vrouw("Anna", "Vis"), {Kind("Piet")});
+  EXPECT_EQ(Tekening(jan), "Jan  x Anna\n|      Vis\n|\n|\n|\nPiet\n");
+}
+
 // The widths of the options, one by one.
 TEST(SchemaKolom, TeltWatErGevraagdIs) {
   GenOpties opties;

@@ -27,10 +27,10 @@ TEST_F(GenTekstParamToets, OpentMetZijnStandaardEnDeBewaardeKeuzen) {
       = VoorNmStamouder "Jan"
       = AchterNmStamouder "Kok"
       = Periode "1700-1770"
-      = MaxGen "80"
       = ZonenBox "Alle Zonen"
       = DochtersBox "Alle Dochters"
       = GrensLeeftijd "15"
+      = MaxGen "80"
       = PrsHerhaalBox "Nee"
       = UitsluitBox "Nee"
       = InHTMLBox "Nee"
@@ -46,7 +46,7 @@ TEST_F(GenTekstParamToets, OpentMetZijnStandaardEnDeBewaardeKeuzen) {
       = Inleiding3 ""
       = OKButton "&OK"
       = BackButton "&Terug"
-      * MaxGen
+      * ZonenBox
     )")
             .Tot("GenTxtParam"));
 }
@@ -137,10 +137,10 @@ TEST_F(GenTekstParamToets, KeuzenBlijvenInDeInstellingen) {
       = VoorNmStamouder "Jan"
       = AchterNmStamouder "Kok"
       = Periode "1700-1770"
-      = MaxGen "80"
       = ZonenBox "Zonen ouder dan .. jaar"
       = DochtersBox "Dochters met nageslacht"
       = GrensLeeftijd "21"
+      = MaxGen "80"
       = PrsHerhaalBox "Ja"
       = UitsluitBox "Ja"
       = InHTMLBox "Nee"
@@ -156,7 +156,7 @@ TEST_F(GenTekstParamToets, KeuzenBlijvenInDeInstellingen) {
       = Inleiding3 ""
       = OKButton "&OK"
       = BackButton "&Terug"
-      * MaxGen
+      * ZonenBox
     )")
             .Tot("GenTxtParam"));
 }

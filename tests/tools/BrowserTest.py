@@ -20,11 +20,17 @@ PROGRAMMA = pathlib.Path(sys.argv.pop(1)).resolve()
 CHROMIUM = shutil.which("chromium")
 OVERGESLAGEN = 77
 
-# A report, its index, the file that the index leads to, and the choices of both.
+PROBAND = "2"
+STAMOUDER = "137"
+
+# A report, its index, whom they are about, the file that the index leads to, and the choices of both.
 VERSLAGEN = [
-    ("kwartierstaat", "index-kwartierstaat", "KWSTDATA.HTM", []),
-    ("kwartierstaat", "index-kwartierstaat", "KWSTDATA.HTM",
+    ("kwartierstaat", "index-kwartierstaat", PROBAND, "KWSTDATA.HTM", []),
+    ("kwartierstaat", "index-kwartierstaat", PROBAND, "KWSTDATA.HTM",
      ["BroerZusBox=Met Alle Broers en Zussen", "KwHerhaalBox=Ja", "OokNrsBox=Ja"]),
+    ("parenteel", "index-parenteel", STAMOUDER, "GEN_DATA.HTM", []),
+    ("parenteel", "index-parenteel", STAMOUDER, "GEN_DATA.HTM",
+     ["PerTakBox=Per generatie", "PrsHerhaalBox=Ja", "OokNrsBox=Ja"]),
 ]
 
 # Opens a page in a frame and clicks every link to a place in this set of pages, those to another page
@@ -130,14 +136,28 @@ class Browser(unittest.TestCase):
                 chromium.terminate()
 
     def test_alle_verwijzingen_komen_uit(self):
-        for verslag, index, bestand, keuzen in VERSLAGEN:
+        for verslag, index, persoon, bestand, keuzen in VERSLAGEN:
             zet = [deel for keuze in keuzen for deel in ("--zet", keuze)]
             for opdracht, naam in ((verslag, bestand), (index, "index.htm")):
-                self.lb77(opdracht, "ORANJE", "2", "--html", *zet,
+                self.lb77(opdracht, "ORANJE", persoon, "--html", *zet,
                           "--uit", self.map / "bladen" / naam)
             for naam in (bestand, "index.htm"):
                 with self.subTest(verslag=verslag, blad=naam, keuzen=keuzen):
                     self.keur(naam, self.bekijk(naam))
+
+    def test_een_schema_toont_zijn_regels(self):
+        for richting in ("Horizontaal", "Verticaal"):
+            zet = ("--zet", "OokVNrsBox=Ja", "--zet", f"HorVerBox={richting}")
+            self.lb77("schema-parenteel", "ORANJE", STAMOUDER, *zet, "--uit", self.map / "schema.txt")
+            self.lb77("schema-parenteel", "ORANJE", STAMOUDER, *zet, "--html",
+                      "--uit", self.map / "bladen" / "schema.htm")
+            tekst = (self.map / "schema.txt").read_text("cp1252").splitlines()
+            # kept: an apostrophe goes to a page as a double quote
+            tekening = [regel.replace("'", '"') for regel in tekst[2:tekst.index("", 2)]]
+            self.assertGreater(len(tekening), 3)
+            getoond = self.bekijk("schema.htm")["tekst"].splitlines()
+            begin = getoond.index(tekening[0])
+            self.assertEqual(getoond[begin:begin + len(tekening)], tekening)
 
     def keur(self, naam, uitslag):
         self.assertNotIn("fout", uitslag)

@@ -30,9 +30,9 @@ Blok TekstOpties() {
       Stamouder(),
       WieVolgt(),
       Groep("Uitvoer", {Velden({
-                           Rij({"PerTakBox", "VerwijsBox"}),
+                           Rij({"InHTMLBox", "PerTakBox"}),
                            Rij({"OokNrsBox", "OokOpmBox"}),
-                           Rij({"InHTMLBox", "CopyrightBox"}),
+                           Rij({"VerwijsBox", "CopyrightBox"}),
                            "OokLB77Box",
                        })}),
       TitelEnInleiding(),
@@ -45,8 +45,8 @@ Blok IndexOpties() {
       Stamouder(),
       WieVolgt(),
       Groep("Uitvoer", {Velden({
-                           Rij({"PerTakBox", "OokNrsBox"}),
-                           Rij({"InHTMLBox", "HTMLfileTekst"}),
+                           Rij({"InHTMLBox", "PerTakBox"}),
+                           Rij({"OokNrsBox", "HTMLfileTekst"}),
                            Rij({"CopyrightBox", "OokLB77Box"}),
                        })}),
       TitelEnInleiding(),
