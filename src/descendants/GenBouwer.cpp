@@ -72,6 +72,7 @@ bool Bouwer::NeemKinderenVan(int i) {
   const std::int16_t nr = tabel_.Persoon(i);
   if (!LeesPersoon(nr)) return false;
   Huwtab huwtab{};
+  // kept: a list that can't be read whole gives what could be read of it; the checks tell.
   static_cast<void>(persoon_.VulHuwtab(nr, huwtab));
   for (std::size_t plaats = 1; plaats < huwtab.size(); ++plaats) {
     if (huwtab[plaats] > 0 && !NeemKinderenUit(huwtab[plaats], i)) return false;

@@ -21,6 +21,7 @@ enum class Partner { Iedereen, GeenMan };
 // Has the person a child in one of his relations? A relation that can't be read ends the search.
 bool HeeftKind(std::int16_t nr, Partner partner, PersoonLB77& persoon, RelatieLB77& relatie) {
   Huwtab huwtab{};
+  // kept: the rules go by the relations that can be read.
   static_cast<void>(persoon.VulHuwtab(nr, huwtab));
   for (std::size_t plaats = 1; plaats < huwtab.size(); ++plaats) {
     const std::int16_t relNr = huwtab[plaats];
