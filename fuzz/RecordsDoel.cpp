@@ -1,5 +1,6 @@
 // Any bytes as the four record files: everything is read that record classes and phrases can read,
-// written to as a user would, and told in the Kwartierstaat and the Parenteel of person 2.
+// written to as a user would, and told in the Kwartierstaat and the Parenteel of person 2, with index
+// and chart.
 //
 // An input is a byte of choices (see Sessie::Keuze; 64 and 128 leave the writing or the telling
 // out), three lengths of two bytes (low byte first) of the files of persons, relations and places,

@@ -101,17 +101,38 @@ void Sessie::Kwartierstaat(int persoon, unsigned keuzen) {
 
 void Sessie::Parenteel(int persoon, unsigned keuzen) {
   const std::string_view volgorde = (keuzen & kBroersZussen) != 0 ? "Per generatie" : "Per tak";
-  Verslag(persoon, "GenTxtPrs", "GenTxtParam", "GenHTMLParam", [&](Formulier& formulier) {
-    VulParam(
-        formulier, keuzen, "PrsHerhaalBox",
-        {{"ZonenBox", "Alle Zonen"}, {"DochtersBox", "Alle Dochters"}, {"PerTakBox", volgorde}});
-  });
-  GenPrs formulier(kGenTxtPrs, hoofd);
-  hoofd.gesprek.ToonModaal(formulier);
+  const std::string_view richting = (keuzen & kBroersZussen) != 0 ? "Verticaal" : "Horizontaal";
+  const std::string_view partners =
+      (keuzen & kBroersZussenProband) != 0 ? "Naast elkaar" : "Onder elkaar";
+  const std::string_view nummers = (keuzen & kNummers) != 0 ? "Ja" : "Nee";
+  struct Soort {
+    const GenPrsSoort& prompt;
+    std::string_view opties;
+    Keuzen eigen;
+  };
+  for (const Soort& soort : {Soort{kGenTxtPrs, "GenTxtParam", {{"PerTakBox", volgorde}}},
+                             Soort{kGenIdxPrs, "GenIdxParam", {{"PerTakBox", volgorde}}},
+                             Soort{kGenSchPrs,
+                                   "GenSchParam",
+                                   {{"HorVerBox", richting},
+                                    {"OokPartnersBox", partners},
+                                    {"OokVNrsBox", nummers},
+                                    {"OokRNrsBox", nummers},
+                                    {"OokDatumsBox", "Volledig"},
+                                    {"OokVNamenBox", "Volledig"},
+                                    {"PosVNamen", "5"}}}}) {
+    Verslag(persoon, soort.prompt.naam, soort.opties, "GenHTMLParam", [&](Formulier& formulier) {
+      Keuzen eigen{{"ZonenBox", "Alle Zonen"}, {"DochtersBox", "Alle Dochters"}};
+      eigen.insert(eigen.end(), soort.eigen.begin(), soort.eigen.end());
+      VulParam(formulier, keuzen, "PrsHerhaalBox", eigen);
+    });
+    GenPrs formulier(soort.prompt, hoofd);
+    hoofd.gesprek.ToonModaal(formulier);
+  }
 }
 
 void Sessie::VulParam(Formulier& formulier, unsigned keuzen, std::string_view herhaling,
-                      const std::vector<std::pair<std::string_view, std::string_view>>& eigen) {
+                      const Keuzen& eigen) {
   Werk werk(bediener_, formulier);
   bool goed = true;
   const auto zet = [&](std::string_view naam, std::string_view waarde) {
@@ -122,7 +143,7 @@ void Sessie::VulParam(Formulier& formulier, unsigned keuzen, std::string_view he
   };
   jaNee("InHTMLBox", kHTML);
   if (formulier.Zoek("OokOpmBox")) jaNee("OokOpmBox", kOpmerkingen);
-  jaNee("OokNrsBox", kNummers);
+  if (formulier.Zoek("OokNrsBox")) jaNee("OokNrsBox", kNummers);
   jaNee(herhaling, kVolgHerhaling);
   // Persons in a circle fill the whole table when repeats are followed.
   if ((keuzen & kVolgHerhaling) != 0) zet("MaxGen", "9");

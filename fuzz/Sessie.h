@@ -47,17 +47,20 @@ class Sessie {
     kBroersZussen = 16,
     kBroersZussenProband = 32
   };
-  // Each writes its report, that of the ancestors with its index, from the prompt to the viewer.
+  // Each writes its report and the index on it, from the prompt to the viewer; that of the descendants
+  // also its chart, by kBroersZussen downward.
   void Kwartierstaat(int persoon, unsigned keuzen);
   void Parenteel(int persoon, unsigned keuzen);
 
  private:
+  using Keuzen = std::vector<std::pair<std::string_view, std::string_view>>;
+
   // What the report does with its prompt, its options and its links.
   void Verslag(int persoon, std::string_view prompt, std::string_view opties,
                std::string_view links, const std::function<void(Formulier&)>& vul);
   // The choices that all reports have.
   void VulParam(Formulier& formulier, unsigned keuzen, std::string_view herhaling,
-                const std::vector<std::pair<std::string_view, std::string_view>>& eigen);
+                const Keuzen& eigen);
 
   VasteKlok klok_{{.jaar = 2000, .maand = 1, .dag = 1}};
   Bediener bediener_;

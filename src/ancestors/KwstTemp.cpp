@@ -31,12 +31,6 @@ Uitslag SchrijfSchema(Hoofdmodule& hoofd, const KwstOpties& opties, const KwstTa
   return KwstSchSchrijver(opties, hoofd.MaakGegevens(), uit, verloop).Schrijf();
 }
 
-VerslagBestand BestandVan(const KwstTempSoort& soort, const KwstOpties& opties,
-                          const Instellingen& instellingen, const std::filesystem::path& pad) {
-  const bool doorlopend = soort.doorlopend || opties.KwInHTML;
-  return {pad, doorlopend ? TekstSchrijver::kGeenRechterMarge : instellingen.Tekstbr()};
-}
-
 }  // namespace
 
 const KwstTempSoort kKwstMaakTemp{
@@ -58,9 +52,8 @@ const KwstTempSoort kKwstSchTemp{{"KwstSchTemp",
 
 KwstTemp::KwstTemp(const KwstTempSoort& soort, Hoofdmodule& hoofd, const KwstOpties& opties,
                    const KwstTabel& tabel, const std::filesystem::path& pad)
-    : SchrijfForm(soort.vorm, hoofd, BestandVan(soort, opties, hoofd.instellingen, pad),
+    : SchrijfForm(soort.vorm, hoofd, {pad, soort.doorlopend || opties.KwInHTML, opties.KwProbandNr},
                   [&](TekstSchrijver& uit, const Verloop& verloop) {
-                    hoofd.volgers.HuidigPersoonNr = opties.KwProbandNr;
                     return soort.schrijf(hoofd, opties, tabel, uit, verloop);
                   }) {}
 

@@ -45,11 +45,11 @@ Regels PartnerRegels(const SchemaPartner& partner) {
 
 // Puts lines to the right of others, from line `vanaf` on.
 void ZetNaast(Regels& regels, std::size_t vanaf, const Regels& rechts) {
-  const auto kolom = static_cast<std::size_t>(Breedte(regels) + kTussenruimte);
+  const int kolom = Breedte(regels) + kTussenruimte;
   regels.resize(std::max(regels.size(), vanaf + rechts.size()));
   for (std::size_t k = 0; k < rechts.size(); ++k) {
     std::string& regel = regels[vanaf + k];
-    regel.resize(kolom, ' ');
+    regel.resize(static_cast<std::size_t>(kolom), ' ');
     regel += rechts[k];
   }
 }

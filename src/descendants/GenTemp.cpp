@@ -30,12 +30,6 @@ Uitslag SchrijfSchema(Hoofdmodule& hoofd, const GenRun& run, TekstSchrijver& uit
   return SchrijfGenSchema(run.tabel, run.rijen, run.opties, hoofd.MaakGegevens(), uit, verloop);
 }
 
-VerslagBestand BestandVan(const GenTempSoort& soort, const GenOpties& opties,
-                          const Instellingen& instellingen, const std::filesystem::path& pad) {
-  const bool doorlopend = soort.doorlopend || opties.GenInHTML;
-  return {pad, doorlopend ? TekstSchrijver::kGeenRechterMarge : instellingen.Tekstbr()};
-}
-
 }  // namespace
 
 const GenTempSoort kGenMaakTemp{{"GenMaakTemp", "Genealogie / Parenteel Schrijven",
@@ -60,9 +54,9 @@ const GenTempSoort kGenSchTemp{{"GenSchTemp",
 
 GenTemp::GenTemp(const GenTempSoort& soort, Hoofdmodule& hoofd, const GenRun& run,
                  const std::filesystem::path& pad)
-    : SchrijfForm(soort.vorm, hoofd, BestandVan(soort, run.opties, hoofd.instellingen, pad),
+    : SchrijfForm(soort.vorm, hoofd,
+                  {pad, soort.doorlopend || run.opties.GenInHTML, run.opties.GenStamouderNr},
                   [&](TekstSchrijver& uit, const Verloop& verloop) {
-                    hoofd.volgers.HuidigPersoonNr = run.opties.GenStamouderNr;
                     return soort.schrijf(hoofd, run, uit, verloop);
                   }) {}
 

@@ -6,14 +6,14 @@
 
 namespace lb77 {
 
-SchrijfForm::SchrijfForm(const SchrijfSoort& soort, Hoofdmodule& hoofd, VerslagBestand bestand,
+SchrijfForm::SchrijfForm(const SchrijfSoort& soort, Hoofdmodule& hoofd, PersoonVerslag verslag,
                          Schrijf schrijf)
     : WerkFormulier(soort.naam, soort.titel, hoofd),
       SchrijfLabel(*this, "SchrijfLabel", soort.schrijven),
       Aantal(*this, soort.aantal),
       Persoon(soort.metPersoon ? std::optional<TellerRegel>(std::in_place, *this, kPersoonsNr)
                                : std::nullopt),
-      bestand_(std::move(bestand)),
+      verslag_(std::move(verslag)),
       schrijf_(std::move(schrijf)) {
   Koppel(OKButton, BackButton);
 }
@@ -26,7 +26,10 @@ void SchrijfForm::Werk() {
                           Ververs();
                         }};
   const auto schrijf = [&](TekstSchrijver& uit) { return schrijf_(uit, verloop); };
-  if (MaakVerslag(bestand_, schrijf)) Sluit();
+  const int breedte =
+      verslag_.doorlopend ? TekstSchrijver::kGeenRechterMarge : Hoofd().instellingen.Tekstbr();
+  Hoofd().volgers.HuidigPersoonNr = verslag_.persoonNr;
+  if (MaakVerslag({verslag_.pad, breedte}, schrijf)) Sluit();
 }
 
 }  // namespace lb77

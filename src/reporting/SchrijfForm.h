@@ -1,6 +1,8 @@
 // The form that writes a report to its file and shows how far it is.
 #pragma once
 
+#include <cstdint>
+#include <filesystem>
 #include <functional>
 #include <optional>
 #include <string_view>
@@ -19,12 +21,20 @@ struct SchrijfSoort {
   bool metPersoon = false;  // shows the person being written too
 };
 
+// A report on a person: its file, whether its lines are never wrapped (else they are as wide as the
+// settings say), and the person on whom the session stands meanwhile.
+struct PersoonVerslag {
+  std::filesystem::path pad;
+  bool doorlopend = false;
+  std::int16_t persoonNr = 0;
+};
+
 // Runs `schrijf` on the open file. The chain is stopped behind it when there is no whole report.
 class SchrijfForm : public WerkFormulier {
  public:
   using Schrijf = std::function<Uitslag(TekstSchrijver&, const Verloop&)>;
 
-  SchrijfForm(const SchrijfSoort& soort, Hoofdmodule& hoofd, VerslagBestand bestand,
+  SchrijfForm(const SchrijfSoort& soort, Hoofdmodule& hoofd, PersoonVerslag verslag,
               Schrijf schrijf);
 
   Label SchrijfLabel;
@@ -38,7 +48,7 @@ class SchrijfForm : public WerkFormulier {
   void Werk() override;
 
  private:
-  VerslagBestand bestand_;
+  PersoonVerslag verslag_;
   Schrijf schrijf_;
 };
 

@@ -6,10 +6,7 @@ namespace lb77::indeling {
 namespace {
 
 Blok Stamouder() {
-  return Groep("Stamouder", {Velden({
-                                Rij({"NrStamouder", "Periode"}),
-                                Rij({"VoorNmStamouder", "AchterNmStamouder"}),
-                            })});
+  return Persoonshoofd("Stamouder", "Stamouder");
 }
 
 Blok WieVolgt() {
@@ -18,11 +15,6 @@ Blok WieVolgt() {
                                         Rij({"GrensLeeftijd", "MaxGen"}),
                                         Rij({"PrsHerhaalBox", "UitsluitBox"}),
                                     })});
-}
-
-Blok TitelEnInleiding() {
-  return Groep("Titel en inleiding",
-               {Velden({"TitelTekst", "Inleiding1", "Inleiding2", "Inleiding3"})});
 }
 
 Blok TekstOpties() {
@@ -35,7 +27,7 @@ Blok TekstOpties() {
                            Rij({"VerwijsBox", "CopyrightBox"}),
                            "OokLB77Box",
                        })}),
-      TitelEnInleiding(),
+      Titels(),
       Knoppen({"OKButton", "BackButton"}),
   });
 }
@@ -49,7 +41,7 @@ Blok IndexOpties() {
                            Rij({"OokNrsBox", "HTMLfileTekst"}),
                            Rij({"CopyrightBox", "OokLB77Box"}),
                        })}),
-      TitelEnInleiding(),
+      Titels(),
       Knoppen({"OKButton", "BackButton"}),
   });
 }

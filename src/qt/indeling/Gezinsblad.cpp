@@ -7,10 +7,7 @@ namespace {
 
 Blok Opties() {
   return Kolom({
-      Groep("Gezinshoofd", {Velden({
-                               Rij({"NrHoofd", "Periode"}),
-                               Rij({"VoorNmHoofd", "AchterNmHoofd"}),
-                           })}),
+      Persoonshoofd("Gezinshoofd", "Hoofd"),
       Groep("Relatie", {Tabel({
                            Veld("KiesPartner(*)"),
                            Veld("RelNrPartner(*)", "Relatie", 6),

@@ -1,6 +1,7 @@
 // All layouts, one function an area.
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "qt/Indeling.h"
@@ -26,6 +27,10 @@ namespace lb77::indeling {
 [[nodiscard]] Blok PersoonPrompt();
 // The links of a page, which all reports for the Internet ask.
 [[nodiscard]] Blok InternetOpties();
+// Whom a report is about: his number, names and years, in controls that end in `wie`.
+[[nodiscard]] Blok Persoonshoofd(const std::string& titel, const std::string& wie);
+// The title and the introduction of a report.
+[[nodiscard]] Blok Titels();
 
 // Those of all areas.
 [[nodiscard]] std::vector<Indeling> Alle();

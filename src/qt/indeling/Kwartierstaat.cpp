@@ -10,16 +10,8 @@ namespace lb77::indeling {
 
 namespace {
 
-Blok Titels() {
-  return Groep("Titel en inleiding",
-               {Velden({"TitelTekst", "Inleiding1", "Inleiding2", "Inleiding3"})});
-}
-
 Blok Proband() {
-  return Groep("Proband", {Velden({
-                              Rij({"NrProband", "Periode"}),
-                              Rij({"VoorNmProband", "AchterNmProband"}),
-                          })});
+  return Persoonshoofd("Proband", "Proband");
 }
 
 Blok Opties(const std::vector<Blok>& uitvoer) {
