@@ -6,6 +6,7 @@
 #include <QLayoutItem>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <set>
 #include <string_view>
 #include <utility>
 
@@ -303,12 +304,14 @@ void Opmaker::Rooster(const Blok& blok, QBoxLayout& in) {
     rooster->addWidget(titel, 0, 2 * kolom++, 1, 2);
   }
   int nummer = 1;
+  std::set<int> smal;
   for (const Blok& regel : blok.delen) {
     kolom = 0;
     for (const Blok& cel : regel.delen) {
       Cel(cel, *rooster, nummer, kolom);
       kolom += cel.kolommen;
-      rooster->setColumnStretch(2 * kolom - 1, 1);
+      if (cel.breedte > 0) smal.insert(kolom);
+      rooster->setColumnStretch(2 * kolom - 1, smal.contains(kolom) ? 0 : 1);
     }
     ++nummer;
   }
@@ -331,6 +334,9 @@ static void MaakSmal(Element& element) {
 void Opmaker::Cel(const Blok& blok, QGridLayout& rooster, int regel, int kolom) {
   std::vector<Element*> elementen = Elementen(blok);
   if (elementen.empty()) return;
+  for (Element* element : elementen) {
+    if (blok.breedte > 0) ZetTekenBreedte(element->Widget(), blok.breedte, false);
+  }
   Element& eerste = *elementen.front();
   const int breedte = 2 * blok.kolommen;
   if (IsOpschrift(eerste.Bron())) {

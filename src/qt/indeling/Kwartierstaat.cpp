@@ -81,15 +81,18 @@ Blok BladOpties() {
 // what the columns behind it leave.
 void Stamlijn(int plaats, int generatie, std::vector<Blok>& regels) {
   constexpr int kGeneraties = 4;
-  constexpr int kCellen = 5;  // that a generation moves to the right
+  constexpr int kCellen = 3;  // that a generation moves to the right
   if (generatie < kGeneraties) Stamlijn(2 * plaats, generatie + 1, regels);
   const auto veld = [plaats](const std::string& naam) {
     return Veld(naam + "(" + GetalTekst(plaats) + ")");
   };
-  std::vector<Blok> regel(static_cast<std::size_t>((generatie - 1) * kCellen), "");
+  std::vector<Blok> regel(static_cast<std::size_t>((generatie - 1) * kCellen), Veld("", {}, 1));
   regel.push_back(Over((kGeneraties - generatie + 1) * kCellen,
                        Rij({veld("Proband"), veld("InfoPersoon"), veld("Kwartier"), veld("Periode"),
-                            veld("Kwartier_A"), veld("KW_Index"), veld("KW_Nr")})));
+                            veld("Kwartier_A")})));
+  Blok onzichtbaar = Rij({veld("KW_Index"), veld("KW_Nr")});
+  onzichtbaar.breedte = 1;
+  regel.push_back(std::move(onzichtbaar));
   regels.push_back(Rij(std::move(regel)));
   if (generatie < kGeneraties) Stamlijn(2 * plaats + 1, generatie + 1, regels);
 }
