@@ -58,10 +58,9 @@ Blok SchemaOpties() {
       Groep("Schema", {Velden({
                           "KwNrProband",
                           Rij({"MaxGen", "BreedteGen"}),
-                          Rij({"UitlijnBox", "OokJaarBox"}),
                       })}),
-      Groep("Uitvoer",
-            {Velden({Rij({"OokNrsBox", "InHTMLBox"}), Rij({"CopyrightBox", "OokLB77Box"})})}),
+      Groep("Uitvoer", {Velden({Rij({"OokNrsBox", "OokJaarBox"}), Rij({"UitlijnBox", "InHTMLBox"}),
+                                Rij({"CopyrightBox", "OokLB77Box"})})}),
       Titels(),
       Knoppen({"OKButton", "BackButton"}),
   });
