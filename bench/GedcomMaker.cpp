@@ -253,4 +253,10 @@ void MaakKwartieren(const std::filesystem::path& pad, int generaties, std::uint6
   Schrijver(pad, boom, toeval).Alles();
 }
 
+void MaakParenteel(const std::filesystem::path& pad, int aantal, std::uint64_t zaad) {
+  Toeval toeval(zaad);
+  const Stamboom boom = MaakNakomelingen(aantal, toeval);
+  Schrijver(pad, boom, toeval).Alles();
+}
+
 }  // namespace lb77::bench

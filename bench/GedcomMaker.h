@@ -14,4 +14,7 @@ void MaakGedcom(const std::filesystem::path& pad, int personen, int gezinnen, st
 // One person, the first of the file, with all his ancestors of so many generations.
 void MaakKwartieren(const std::filesystem::path& pad, int generaties, std::uint64_t zaad);
 
+// One person, the first of the file, with so many descendants, himself counted, and their partners.
+void MaakParenteel(const std::filesystem::path& pad, int aantal, std::uint64_t zaad);
+
 }  // namespace lb77::bench

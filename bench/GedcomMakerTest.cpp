@@ -88,6 +88,22 @@ TEST(StamboomTest, HeeftGezinnenDieKunnenBestaan) {
   }
 }
 
+TEST(StamboomTest, HeeftZoveelNakomelingenAlsGevraagd) {
+  Toeval toeval(1);
+  const Stamboom boom = MaakNakomelingen(500, toeval);
+  // Whoever has no parents is the first or a partner.
+  EXPECT_EQ(std::count_if(boom.mensen.begin(), boom.mensen.end(),
+                          [](const Mens& mens) { return mens.ouders != kGeen; }),
+            499);
+  EXPECT_EQ(boom.mensen.size(), 500U + boom.gezinnen.size());
+  for (const Gezin& gezin : boom.gezinnen) {
+    EXPECT_TRUE(boom.mensen[static_cast<std::size_t>(gezin.man)].man);
+    EXPECT_FALSE(boom.mensen[static_cast<std::size_t>(gezin.vrouw)].man);
+    EXPECT_FALSE(gezin.kinderen.empty());
+    EXPECT_LE(gezin.kinderen.size(), 5U);
+  }
+}
+
 TEST(StamboomTest, HeeftAlleVooroudersVanEenPersoon) {
   Toeval toeval(1);
   const Stamboom boom = MaakVoorouders(5, toeval);

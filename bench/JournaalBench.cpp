@@ -86,10 +86,20 @@ void BM_Geschiedenis(benchmark::State& state) {
   }
 }
 
+// What the menu asks after each action, behind 500 of them.
+void BM_LaatsteHandeling(benchmark::State& state) {
+  Proef proef(true);
+  for (int i = 0; i < 500; ++i) proef.Schrijf(BestandSoort::Personen, 1, static_cast<char>(i % 9));
+  for (auto _ : state) {
+    if (!proef.Set().HetJournaal()->LaatsteTeOngedaan()) state.SkipWithError("geen handeling");
+  }
+}
+
 BENCHMARK(BM_Opslaan)->ArgName("journaal")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Toevoegen)->ArgName("journaal")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Openen)->ArgName("journaal")->Arg(0)->Arg(1)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Geschiedenis)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_LaatsteHandeling)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace lb77::bench

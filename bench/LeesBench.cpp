@@ -39,7 +39,7 @@ class Proef {
   }
 
   [[nodiscard]] const std::vector<std::int16_t>& Nummers() const { return nummers_; }
-  [[nodiscard]] std::filesystem::path Bestand() const { return set_.Personen(); }
+  [[nodiscard]] std::filesystem::path Bestand() const { return set_.Paden().prs; }
 
  private:
   Meetset set_;

@@ -38,11 +38,8 @@ void Meetset::Rapport(std::string_view opdracht, int persoon, const std::filesys
   Doe(opdracht, argumenten);
 }
 
-std::filesystem::path Meetset::Personen() const {
-  for (const auto& plek : std::filesystem::recursive_directory_iterator(map_.Pad())) {
-    if (plek.path().extension() == ".PRS") return plek.path();
-  }
-  throw std::runtime_error("er is geen persoonsbestand");
+SetPaden Meetset::Paden() const {
+  return SetPaden::Van(map_ / "DATA", kSet);
 }
 
 void Meetset::Doe(std::string_view naam, const OpdrachtArgumenten& argumenten) {

@@ -10,6 +10,7 @@
 #include "app/Klok.h"
 #include "cli/Opdrachten.h"
 #include "steun/TijdelijkeMap.h"
+#include "store/SetPaden.h"
 
 namespace lb77::bench {
 
@@ -25,8 +26,8 @@ class Meetset {
   void Rapport(std::string_view opdracht, int persoon, const std::filesystem::path& naar,
                const std::vector<std::string>& zet = {});
 
-  // The set's file of persons.
-  [[nodiscard]] std::filesystem::path Personen() const;
+  // Where its files lie.
+  [[nodiscard]] SetPaden Paden() const;
 
  private:
   void Doe(std::string_view naam, const OpdrachtArgumenten& argumenten);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 namespace lb77::bench {
 namespace {
@@ -136,6 +137,30 @@ Stamboom MaakVoorouders(int generaties, Toeval& toeval) {
                                   {gezin}};
     boom.mensen[Plaats(vader + 1)] = {
         false, jaar - toeval.Tussen(22, 30), jaar + 35, toeval.Onder(kFamilies), kGeen, {gezin}};
+  }
+  return boom;
+}
+
+Stamboom MaakNakomelingen(int aantal, Toeval& toeval) {
+  Stamboom boom;
+  boom.mensen.push_back({true, 1600, 1670, 0, kGeen, {}});
+  std::vector<int> rij{0};  // the descendants, in the order of their birth
+  for (std::size_t ouder = 0; static_cast<int>(rij.size()) < aantal; ++ouder) {
+    const auto gezin = static_cast<int>(boom.gezinnen.size());
+    const auto partner = static_cast<int>(boom.mensen.size());
+    Mens& mens = boom.mensen[Plaats(rij[ouder])];
+    const bool man = mens.man;
+    const int jaar = mens.jaar;
+    mens.gezinnen.push_back(gezin);
+    boom.mensen.push_back({!man, jaar, jaar + 60, toeval.Onder(kFamilies), kGeen, {gezin}});
+    Gezin nieuw{man ? rij[ouder] : partner, man ? partner : rij[ouder], jaar + 25, {}};
+    const int familie = boom.mensen[Plaats(nieuw.man)].familie;
+    for (int n = toeval.Tussen(1, 5); n > 0 && static_cast<int>(rij.size()) < aantal; --n) {
+      rij.push_back(static_cast<int>(boom.mensen.size()));
+      nieuw.kinderen.push_back(rij.back());
+      boom.mensen.push_back({toeval.Kans(51), jaar + toeval.Tussen(26, 40), 0, familie, gezin, {}});
+    }
+    boom.gezinnen.push_back(std::move(nieuw));
   }
   return boom;
 }

@@ -39,4 +39,8 @@ struct Stamboom {
 // One person, number 0, with all his ancestors of so many generations, himself counted.
 [[nodiscard]] Stamboom MaakVoorouders(int generaties, Toeval& toeval);
 
+// One person, number 0, with his descendants, so many together, and the partners of those who have
+// children: one to five each, the eldest generation first.
+[[nodiscard]] Stamboom MaakNakomelingen(int aantal, Toeval& toeval);
+
 }  // namespace lb77::bench

@@ -6,6 +6,7 @@
 #include "ancestors/KwstPrs.h"
 #include "app/Start.h"
 #include "cli/Werk.h"
+#include "descendants/GenPrs.h"
 #include "exchange/ImpGedcom.h"
 #include "steun/FaalBestand.h"
 #include "text/Getallen.h"
@@ -67,28 +68,50 @@ void Sessie::Importeer(const std::filesystem::path& gedcom) {
   hoofd.gesprek.ToonModaal(formulier);
 }
 
-void Sessie::Kwartierstaat(int persoon, unsigned keuzen) {
-  const auto persoonIn = [&](Formulier& formulier) {
+void Sessie::Verslag(int persoon, std::string_view prompt, std::string_view opties,
+                     std::string_view links, const std::function<void(Formulier&)>& vul) {
+  bediener_.Bij(prompt, [this, persoon](Formulier& formulier) {
     Werk werk(bediener_, formulier);
     if (werk.Zet("RecordNr", GetalTekst(persoon))) werk.Druk("OKButton");
-  };
-  const auto keuzenIn = [&](Formulier& formulier) { VulParam(formulier, keuzen); };
-  const auto oke = [&](Formulier& formulier) { Werk(bediener_, formulier).Druk("OKButton"); };
-  struct Verslag {
-    const KwstPrsSoort& soort;
+  });
+  bediener_.Bij(opties, vul);
+  bediener_.Bij(links,
+                [this](Formulier& formulier) { Werk(bediener_, formulier).Druk("OKButton"); });
+}
+
+void Sessie::Kwartierstaat(int persoon, unsigned keuzen) {
+  const std::string_view broers = (keuzen & kBroersZussenProband) != 0
+                                      ? "Met Broers en Zussen van de Proband"
+                                  : (keuzen & kBroersZussen) != 0 ? "Met Alle Broers en Zussen"
+                                                                  : "Zonder Broers en Zussen";
+  struct Soort {
+    const KwstPrsSoort& prompt;
     std::string_view opties;
   };
-  for (const Verslag& verslag :
-       {Verslag{kKwstTxtPrs, "KwstTxtParam"}, Verslag{kKwstIdxPrs, "KwstIdxParam"}}) {
-    bediener_.Bij(verslag.soort.naam, persoonIn);
-    bediener_.Bij(verslag.opties, keuzenIn);
-    bediener_.Bij(verslag.soort.links->naam, oke);
-    KwstPrs formulier(verslag.soort, hoofd);
+  for (const Soort& soort :
+       {Soort{kKwstTxtPrs, "KwstTxtParam"}, Soort{kKwstIdxPrs, "KwstIdxParam"}}) {
+    Verslag(persoon, soort.prompt.naam, soort.opties, soort.prompt.links->naam,
+            [&](Formulier& formulier) {
+              VulParam(formulier, keuzen, "KwHerhaalBox", {{"BroerZusBox", broers}});
+            });
+    KwstPrs formulier(soort.prompt, hoofd);
     hoofd.gesprek.ToonModaal(formulier);
   }
 }
 
-void Sessie::VulParam(Formulier& formulier, unsigned keuzen) {
+void Sessie::Parenteel(int persoon, unsigned keuzen) {
+  const std::string_view volgorde = (keuzen & kBroersZussen) != 0 ? "Per generatie" : "Per tak";
+  Verslag(persoon, "GenTxtPrs", "GenTxtParam", "GenHTMLParam", [&](Formulier& formulier) {
+    VulParam(
+        formulier, keuzen, "PrsHerhaalBox",
+        {{"ZonenBox", "Alle Zonen"}, {"DochtersBox", "Alle Dochters"}, {"PerTakBox", volgorde}});
+  });
+  GenPrs formulier(kGenTxtPrs, hoofd);
+  hoofd.gesprek.ToonModaal(formulier);
+}
+
+void Sessie::VulParam(Formulier& formulier, unsigned keuzen, std::string_view herhaling,
+                      const std::vector<std::pair<std::string_view, std::string_view>>& eigen) {
   Werk werk(bediener_, formulier);
   bool goed = true;
   const auto zet = [&](std::string_view naam, std::string_view waarde) {
@@ -100,13 +123,10 @@ void Sessie::VulParam(Formulier& formulier, unsigned keuzen) {
   jaNee("InHTMLBox", kHTML);
   if (formulier.Zoek("OokOpmBox")) jaNee("OokOpmBox", kOpmerkingen);
   jaNee("OokNrsBox", kNummers);
-  jaNee("KwHerhaalBox", kVolgHerhaling);
-  // Ancestors in a circle fill the whole table when repeats are followed.
+  jaNee(herhaling, kVolgHerhaling);
+  // Persons in a circle fill the whole table when repeats are followed.
   if ((keuzen & kVolgHerhaling) != 0) zet("MaxGen", "9");
-  if ((keuzen & kBroersZussen) != 0) zet("BroerZusBox", "Met Alle Broers en Zussen");
-  if ((keuzen & kBroersZussenProband) != 0) {
-    zet("BroerZusBox", "Met Broers en Zussen van de Proband");
-  }
+  for (const auto& [naam, waarde] : eigen) zet(naam, waarde);
   if (!goed) throw std::logic_error("een keuze van " + formulier.Naam() + " is er niet");
   werk.Druk("OKButton");
 }

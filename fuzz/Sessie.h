@@ -2,7 +2,11 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 #include "app/Hoofdmodule.h"
 #include "app/Klok.h"
@@ -33,7 +37,8 @@ class Sessie {
   // Reads a GEDCOM file by the form of the program.
   void Importeer(const std::filesystem::path& gedcom);
 
-  // How a Kwartierstaat is asked; each bit is a choice of its dialog.
+  // How a report is asked; each bit is a choice of its dialog. A Parenteel by kBroersZussen is one by
+  // generations.
   enum Keuze : unsigned {
     kHTML = 1,
     kOpmerkingen = 2,
@@ -42,11 +47,17 @@ class Sessie {
     kBroersZussen = 16,
     kBroersZussenProband = 32
   };
-  // Writes it and its index, each from the prompt to the viewer.
+  // Each writes its report, that of the ancestors with its index, from the prompt to the viewer.
   void Kwartierstaat(int persoon, unsigned keuzen);
+  void Parenteel(int persoon, unsigned keuzen);
 
  private:
-  void VulParam(Formulier& formulier, unsigned keuzen);
+  // What the report does with its prompt, its options and its links.
+  void Verslag(int persoon, std::string_view prompt, std::string_view opties,
+               std::string_view links, const std::function<void(Formulier&)>& vul);
+  // The choices that all reports have.
+  void VulParam(Formulier& formulier, unsigned keuzen, std::string_view herhaling,
+                const std::vector<std::pair<std::string_view, std::string_view>>& eigen);
 
   VasteKlok klok_{{.jaar = 2000, .maand = 1, .dag = 1}};
   Bediener bediener_;

@@ -4,23 +4,28 @@ A rule takes a Boom and yields (path, line, text).
 """
 import re
 
+import toetsnamen
+
 # A body file that takes the whole session, and is no form and no control. With its reason.
 HOOFDMODULE_MAG = {
     "src/app/Bestandensets": "what the forms of the file sets do alike, start-up included",
     "src/app/SetOpenen": "what a set needs of the session when it opens",
     "src/app/Start": "brings the session up",
-    "src/entry/HuwActies": "the chains of forms behind the buttons of the card of a person",
-    "src/entry/KindActies": "the chains of forms behind the buttons of the cards of children",
+    "src/entry/HuwActies": "shows the forms behind the buttons of the card of a person",
+    "src/entry/KindActies": "shows the forms behind the buttons of the cards of children",
     "src/entry/VeldToets": "the keys of a field of a form, which show forms themselves",
     "src/entry/ZoekPersoon": "the door to the forms of the search",
 }
 # The main window is made by the program alone.
 ZONDER_RIJ = {"MenuWindow"}
 KLASSE = re.compile(r"\b(?:class|struct)\s+(\w+)(\s+final)?\s*(?::\s*([^;{()]+))?\{")
-GEBEURTENIS = re.compile(
-    r"\b(\w+)(?:\([^()]*\))?\.Bij(Klik|Dubbelklik|Verlaten|Wijziging|Keuze|Betreden)\("
-    r"\s*\[[^\]]*\]\s*(?:\([^()]*\)\s*)?\{\s*(?:return\s+)?"
-    r"(\w+?)(Klik|Dubbelklik|Verlaten|Wijziging|Keuze|Betreden)\(")
+# What is hung on an event and has another name: where it is declared, and the reason.
+BEHANDELAAR_MAG = {
+    "Sluit": ("src/forms/Formulier", "closes the form, and nothing more"),
+    "VeldToetsIn": ("src/entry/VeldToets", "the keys that every entry field has"),
+    "Geldig": ("src/ancestors/KwstVelden", "the form asks the same of the field"),
+}
+GEBEURTENIS = re.compile(r"\bBij(Klik|Dubbelklik|Verlaten|Wijziging|Betreden|Toets)\(")
 
 
 class Klasse:
@@ -44,11 +49,6 @@ class Boom:
             vorige = len(uit)
             uit |= {k.naam for k in self.klassen if uit.intersection(k.ouders)}
         return uit
-
-    def letterlijk(self, begin):
-        """All literals of the sources below a path, without their quotes."""
-        return {tekst.strip('"') for pad, bron in self.bronnen.items() if pad.startswith(begin)
-                for _, tekst, _ in bron.letterlijk}
 
 
 def lees_klassen(bron):
@@ -109,21 +109,33 @@ def regel_alle_formulieren(boom):
             yield k.bron.pad, k.regel, f"{k.naam} ontbreekt in de lijst van alle formulieren"
 
 
+def rijnamen(bron, patroon):
+    """Yields (line, name) of the rows of a table: what `patroon` finds in the source, comments and
+    literals apart, when it stands in no argument of something else."""
+    ruw = "\n".join(bron.regels)
+    for m in re.finditer(patroon, ruw):
+        voor = bron.code[:m.start()]
+        if bron.code[m.start()] == "{" and voor.count("(") == voor.count(")"):
+            yield bron.regel(m.start()), m[1]
+
+
 def regel_indeling(boom):
     """Every row of the list has a layout, or else the window looks like nobody thought about it."""
-    indelingen = boom.letterlijk("src/qt/indeling/")
+    indelingen = {naam for pad, bron in boom.bronnen.items() if pad.startswith("src/qt/indeling/")
+                  for _, naam in rijnamen(bron, r'\{\s*"(\w+)",\s*\w+\(')}
     for pad, bron in sorted(boom.bronnen.items()):
         if not re.match(r"src/program/formulieren/\w+\.cpp$", pad):
             continue
-        for nr, regel in enumerate(bron.regels, 1):
-            m = re.match(r'\s*\{"(\w+)",', regel)
-            if m and m[1] not in indelingen:
-                yield pad, nr, f"{m[1]} heeft geen indeling in src/qt/indeling"
+        for nr, naam in rijnamen(bron, r"\{\s*([^\s,{}]+),\s*\["):
+            if not re.fullmatch(r'"\w+"', naam):
+                yield pad, nr, f"{naam}: de naam van een formulier staat hier letterlijk"
+            elif naam.strip('"') not in indelingen:
+                yield pad, nr, f"{naam.strip(chr(34))} heeft geen indeling in src/qt/indeling"
 
 
 def met_bedieningen(boom):
     """The classes that are controls, hold controls, or are forms."""
-    soorten = boom.erft("Bediening") | {"Rij"}
+    soorten = boom.erft("Bediening") | {"Rij", "Regels"}
     groepen = set()
     vorige = -1
     while vorige != len(groepen):
@@ -154,12 +166,79 @@ def regel_hoofdmodule(boom):
             yield stam + ".h", 1, "staat in HOOFDMODULE_MAG van tools/boomregels.py: niet meer nodig"
 
 
+def sluithaak(code, begin):
+    """Where the bracket closes that was opened before `begin`."""
+    diepte = 1
+    for m in re.compile(r"[][(){}]").finditer(code, begin):
+        diepte += 1 if m.group() in "[({" else -1
+        if diepte == 0:
+            return m.start()
+    return len(code)
+
+
+def ontvanger(code, plaats):
+    """The names before the event that begins there: of Partners(rij).RelNrP. these two."""
+    namen = []
+    while m := re.search(r"(?:\.|->)$", code[max(0, plaats - 2):plaats]):
+        plaats -= len(m.group())
+        while plaats and code[plaats - 1] in ")]":
+            diepte = 1
+            while diepte and plaats > 1:
+                plaats -= 1
+                diepte += (code[plaats - 1] in ")]") - (code[plaats - 1] in "([")
+            plaats -= 1
+        m = re.search(r"\w*$", code[max(0, plaats - 99):plaats])
+        plaats -= len(m.group())
+        naam = m.group().strip("_")
+        if naam and naam != "this":
+            namen.insert(0, naam[0].upper() + naam[1:])
+    return namen
+
+
+def lambdalijf(tekst):
+    """The statements of a lambda; None for anything else."""
+    if not tekst.startswith("["):
+        return None
+    kop = sluithaak(tekst, 1) + 1
+    open_ = tekst.find("{", kop)
+    return tekst[open_ + 1:sluithaak(tekst, open_ + 1)].strip() if open_ > 0 else None
+
+
 def regel_behandelaars(boom):
     """A handler is named after the control that it hangs on, and the event."""
+    gebruikt = set()
     for pad, bron in sorted(boom.bronnen.items()):
         for m in GEBEURTENIS.finditer(bron.code) if bron.is_lijf else ():
-            if m[3] + m[4] != m[1] + m[2]:
-                yield pad, bron.regel(m.start()), f"{m[3]}{m[4]} hoort {m[1]}{m[2]} te heten"
+            namen = ontvanger(bron.code, m.start())
+            hangt = bron.code[m.end():sluithaak(bron.code, m.end())].strip()
+            if not namen and not hangt.startswith("["):
+                continue  # where the event is declared, or a form's own override
+            goed = {"".join(namen[i:]) + m[1] for i in range(len(namen))} or {m[1]}
+            fout = behandelaar_fout(lambdalijf(hangt), goed, gebruikt)
+            if fout:
+                yield pad, bron.regel(m.start()), fout
+    for sleutel in sorted(set(BEHANDELAAR_MAG) - gebruikt):
+        kop = BEHANDELAAR_MAG[sleutel][0] + ".h"
+        if kop in boom.bronnen:
+            yield kop, 1, f"{sleutel} in BEHANDELAAR_MAG van tools/boomregels.py: niet meer nodig"
+
+
+def behandelaar_fout(lijf, goed, gebruikt):
+    """What is wrong with the body of a handler; None when nothing is. One call on a part is fine."""
+    naam_hoort = f"hoort {sorted(goed, key=len)[-1]} te heten"
+    if lijf is None:
+        return f"deze behandelaar is geen lambda; een functie {naam_hoort}"
+    zin = re.sub(r"\bthis\s*->\s*", "", lijf.rstrip("; \n"))
+    if ";" in zin or re.match(r"(if|for|while|switch)\b", zin):
+        return f"meer dan een opdracht: de behandelaar {naam_hoort}"
+    m = re.match(r"(?:return\s+)?(?:\w+::)*(\w+)\(", zin)
+    naam = m[1][0].upper() + m[1][1:] if m else None
+    if naam is None or naam in goed:
+        return None
+    if naam in BEHANDELAAR_MAG:
+        gebruikt.add(naam)
+        return None
+    return f"{m[1]} {naam_hoort}"
 
 
 def regel_leesmij(boom):
@@ -168,10 +247,13 @@ def regel_leesmij(boom):
     for pad, bron in boom.bronnen.items():
         if bron.is_bron:
             woorden.update(re.findall(r"\w+", bron.code))
-            woorden.update(w for _, tekst, _ in bron.letterlijk for w in re.findall(r"\w+", tekst))
+            # A literal is a name when it is one word; the words of a sentence name nothing.
+            woorden.update(naam[1] for _, tekst, _ in bron.letterlijk
+                           if (naam := re.fullmatch(r'"(\w+)"', tekst)))
             woorden.add(pad.split("/")[-1].split(".")[0])
     for lijst in (boom.wortel / "src").rglob("CMakeLists.txt"):
-        woorden.update(re.findall(r"\w+", lijst.read_text(encoding="utf-8")))
+        tekst = re.sub(r"#[^\n]*", "", lijst.read_text(encoding="utf-8"))
+        woorden.update(re.findall(r"\w+", tekst))
     for leesmij in sorted((boom.wortel / "src").rglob("README.md")):
         naam = leesmij.relative_to(boom.wortel).as_posix()
         for nr, regel in enumerate(leesmij.read_text(encoding="utf-8").split("\n"), 1):
@@ -185,14 +267,32 @@ def bestaat(boom, map_, stuk, woorden):
     if re.fullmatch(r"[\w/]+/", stuk):
         return any((van / stuk).is_dir() for van in (map_, boom.wortel / "src", boom.wortel))
     if re.search(r"\.(h|cpp|md|txt)$", stuk):
-        return any(True for van in (map_, boom.wortel / "src") for _ in van.rglob(stuk.strip("/")))
-    deel = re.search(r"\.\.\.|…|\*", stuk) is not None
-    return all(any(w in woord for woord in woorden) if deel else w in woorden
-               for w in re.findall(r"\w+", stuk))
+        # A bare name lies beside the README or below it; another's is named by its path.
+        van = map_.rglob(stuk) if "/" not in stuk else (boom.wortel / "src").glob(stuk.strip("/"))
+        return any(True for _ in van)
+    rest = r"(?:\.\.\.|…|\*)"
+    return all(past(re.sub(rest, "…", w), woorden)
+               for w in re.findall(rf"\w*(?:{rest}\w*)+|\w+", stuk))
+
+
+def past(woord, woorden):
+    """Is it one of the words, "…" standing for the rest of one?"""
+    if "…" not in woord:
+        return woord in woorden
+    vorm = re.compile(re.escape(woord).replace("…", r"\w*"))
+    return woord == "…" or any(vorm.fullmatch(een) for een in woorden)
+
+
+def regel_toetsnaam_python(boom):
+    """The tests of the tools are named like the others."""
+    for pad in sorted((boom.wortel / "tests").rglob("*Test.py")):
+        tekst = pad.read_text(encoding="utf-8")
+        for plaats, fout in toetsnamen.fouten(tekst, toetsnamen.PYTHON_TOETS):
+            yield (pad.relative_to(boom.wortel).as_posix(), tekst.count("\n", 0, plaats) + 1, fout)
 
 
 REGELS = [regel_in_cmake, regel_alle_formulieren, regel_indeling, regel_hoofdmodule,
-          regel_behandelaars, regel_leesmij]
+          regel_behandelaars, regel_leesmij, regel_toetsnaam_python]
 
 
 def controleer(wortel, bronnen):

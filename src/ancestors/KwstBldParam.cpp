@@ -38,9 +38,9 @@ KwstBldParam::KwstBldParam(Hoofdmodule& hoofd, KwstOpties& opties, const KwstTab
   ZetHulpOnderwerp("kwartierbladen");
   ZetEersteVeld(HSK_CBG_Box);
   OKButton(1).ZetBijschrift("&Afdrukken");
-  OKButton(1).BijKlik([this] { DrukAf(); });
+  OKButton(1).BijKlik([this] { OKButtonKlik(1); });
   OKButton(2).ZetBijschrift("&Opslaan");
-  OKButton(2).BijKlik([this] { SlaOp(); });
+  OKButton(2).BijKlik([this] { OKButtonKlik(2); });
   Koppel(keuzen_, Titels, BackButton);
 }
 
@@ -58,6 +58,10 @@ bool KwstBldParam::MaakBlad() {
         return Einde::Klaar;
       });
   return uitslag == Einde::Klaar;
+}
+
+void KwstBldParam::OKButtonKlik(int nummer) {
+  nummer == 1 ? DrukAf() : SlaOp();
 }
 
 // A printer that fails is told by the printing itself.

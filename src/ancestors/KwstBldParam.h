@@ -25,6 +25,7 @@ class KwstBldParam final : public KwstParam {
  private:
   static constexpr std::string_view kSectie = "KWBLD";
 
+  void OKButtonKlik(int nummer);
   void DrukAf();
   void SlaOp();
   // Keeps the choices and writes the sheet. False after a message.

@@ -20,18 +20,18 @@ std::string SleutelVan(int nummer) {
 
 }  // namespace
 
-GezindteRegel::GezindteRegel(Formulier& formulier, std::string_view nummer)
-    : GezAfkTekst(formulier, "GezAfkTekst" + std::string(nummer), "", kCodeBreedte),
-      GezTekst(formulier, "GezTekst" + std::string(nummer)) {}
+GezindteRegel::GezindteRegel(Formulier& formulier, int nummer)
+    : GezAfkTekst(formulier, Genummerd("GezAfkTekst", nummer), "", kCodeBreedte),
+      GezTekst(formulier, Genummerd("GezTekst", nummer)) {}
 
 IniGezindte::IniGezindte(Hoofdmodule& hoofd)
     : InstelFormulier("IniGezindte", "Systeem Instellingen - Gezindten", hoofd) {
-  ZetEersteVeld(Regels(0).GezAfkTekst);
+  ZetEersteVeld(Gezindten(0).GezAfkTekst);
   KoppelKnoppen(OKButton, BackButton);
 }
 
 void IniGezindte::BijLaden() {
-  Regels.Elk([this](int nummer, GezindteRegel& regel) {
+  Gezindten.Elk([this](int nummer, GezindteRegel& regel) {
     const std::string gezindte = Hoofd().Ini.IniWaarde(kSectie, SleutelVan(nummer));
     const std::string_view tekst = gezindte;
     regel.GezAfkTekst.ZetTekst(Trim(tekst.substr(0, kCodeBreedte)));
@@ -42,7 +42,7 @@ void IniGezindte::BijLaden() {
 
 // An empty row is two blanks.
 void IniGezindte::Bewaar() {
-  Regels.Elk([this](int nummer, const GezindteRegel& regel) {
+  Gezindten.Elk([this](int nummer, const GezindteRegel& regel) {
     Hoofd().Ini.IniZet(
         kSectie, SleutelVan(nummer),
         Links(regel.GezAfkTekst.Tekst(), kCodeBreedte) + std::string(Trim(regel.GezTekst.Tekst())));

@@ -1,16 +1,14 @@
 // The settings dialog of the denominations.
 #pragma once
 
-#include <string_view>
-
 #include "app/InstelFormulier.h"
-#include "forms/Rij.h"
+#include "forms/Regels.h"
 
 namespace lb77 {
 
 // One denomination: "GezAfkTekst(0)" and "GezTekst(0)".
 struct GezindteRegel {
-  GezindteRegel(Formulier& formulier, std::string_view nummer);
+  GezindteRegel(Formulier& formulier, int nummer);
 
   Tekstvak GezAfkTekst;
   Tekstvak GezTekst;
@@ -22,7 +20,7 @@ class IniGezindte final : public InstelFormulier {
   explicit IniGezindte(Hoofdmodule& hoofd);
 
   Label GezindtenLabel{*this, "GezindtenLabel", "Gezindten:"};
-  Rij<GezindteRegel, 20> Regels{*this, "", 0};
+  Regels<GezindteRegel, 20> Gezindten{*this, 0};
   Knop OKButton{*this, "OKButton", "&OK"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 

@@ -20,10 +20,22 @@ IniSysteem::IniSysteem(Hoofdmodule& hoofd)
   Koppel(GCIDirTekst, "GCI", "Data");
   Koppel(LB77EditorTekst, "Systeem", "Editor");
   Koppel(OpslaanParamsBox, "Systeem", "OpslaanVelden", {"J", "N"}, kJa);
-  BrowseDataDir.BijKlik([this] { KiesMap(DataDirTekst); });
-  BrowseTempDir.BijKlik([this] { KiesMap(TempDirTekst); });
-  BrowseGCIDir.BijKlik([this] { KiesMap(GCIDirTekst); });
+  BrowseDataDir.BijKlik([this] { BrowseDataDirKlik(); });
+  BrowseTempDir.BijKlik([this] { BrowseTempDirKlik(); });
+  BrowseGCIDir.BijKlik([this] { BrowseGCIDirKlik(); });
   KoppelKnoppen(OKButton, BackButton);
+}
+
+void IniSysteem::BrowseDataDirKlik() {
+  KiesMap(DataDirTekst);
+}
+
+void IniSysteem::BrowseTempDirKlik() {
+  KiesMap(TempDirTekst);
+}
+
+void IniSysteem::BrowseGCIDirKlik() {
+  KiesMap(GCIDirTekst);
 }
 
 void IniSysteem::KiesMap(Padvak& veld) {

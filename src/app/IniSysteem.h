@@ -29,6 +29,9 @@ class IniSysteem final : public InstelFormulier {
   Knop BackButton{*this, "BackButton", "&Terug"};
 
  private:
+  void BrowseDataDirKlik();
+  void BrowseTempDirKlik();
+  void BrowseGCIDirKlik();
   void KiesMap(Padvak& veld);
 };
 

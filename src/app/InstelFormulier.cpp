@@ -6,6 +6,11 @@
 
 namespace lb77 {
 
+InstelFormulier::InstelFormulier(std::string_view naam, std::string_view titel, Hoofdmodule& hoofd)
+    : InvoerFormulier(naam, titel, hoofd) {
+  ZetHulpOnderwerp("instellingen");
+}
+
 void InstelFormulier::Koppel(Invoerveld& veld, std::string_view sectie, std::string_view sleutel) {
   IniClass& ini = Hoofd().Ini;
   koppelingen_.push_back({[=, &ini, &veld] { veld.ZetTekst(ini.IniWaarde(sectie, sleutel)); },

@@ -14,7 +14,7 @@ namespace lb77 {
 // tied, writes the settings file and closes. Terug closes without storing. Values are not judged.
 class InstelFormulier : public InvoerFormulier {
  protected:
-  using InvoerFormulier::InvoerFormulier;
+  InstelFormulier(std::string_view naam, std::string_view titel, Hoofdmodule& hoofd);
 
   void Koppel(Invoerveld& veld, std::string_view sectie, std::string_view sleutel);
   void Koppel(Padvak& veld, std::string_view sectie, std::string_view sleutel);

@@ -7,6 +7,7 @@
 #include <system_error>
 #include <utility>
 
+#include "app/HeelBestand.h"
 #include "store/Handeling.h"
 #include "store/Platform.h"
 
@@ -42,13 +43,41 @@ SysteemFout VervangAlle(Bestandenset& bestanden,
   return {};
 }
 
-// Half a replacement is none.
-void DraaiTerug(Bestandenset& bestanden, std::string_view label) {
-  const std::shared_ptr<Journaal>& journaal = bestanden.HetJournaal();
-  const auto laatste = journaal ? journaal->LaatsteTeOngedaan() : std::nullopt;
-  if (laatste && laatste->label == label) {
-    static_cast<void>(journaal->MaakOngedaan(laatste->nummer));
+// The action that would be undone next; 0 for none.
+std::uint32_t LaatsteNummer(Journaal& journaal) {
+  const auto laatste = journaal.LaatsteTeOngedaan();
+  return laatste ? laatste->nummer : 0;
+}
+
+SysteemFout Verzamel(const fs::path& map, const fs::path& onder, MapInhoud& inhoud) {
+  std::error_code code;
+  if (!fs::is_directory(map / onder, code)) return {};
+  for (fs::directory_iterator i(map / onder, code), einde; !code && i != einde; i.increment(code)) {
+    const fs::file_status soort = i->symlink_status(code);
+    if (code) break;
+    const fs::path naam = onder / i->path().filename();
+    SysteemFout fout;
+    if (fs::is_directory(soort)) fout = Verzamel(map, naam, inhoud);
+    if (fs::is_regular_file(soort)) fout = LeesAlles(map / naam, inhoud[naam]);
+    if (fout) return fout;
   }
+  return FoutVan(code);
+}
+
+// Beside it first: there is no moment without a whole file.
+SysteemFout Verwissel(const fs::path& doel, const std::string& bytes) {
+  std::error_code code;
+  fs::create_directories(doel.parent_path(), code);
+  if (code) return FoutVan(code);
+  fs::path naast = doel;
+  naast += ".TMP";
+  Bestandswerk werk;
+  SysteemFout fout = werk.Maak(naast, bytes).fout;
+  if (!fout) fout = werk.Veiligstellen(naast);
+  if (!fout) fout = werk.Hernoem(naast, doel);
+  if (!fout) return werk.VeiligstellenMap(doel.parent_path());
+  static_cast<void>(werk.Verwijder(naast));
+  return fout;
 }
 
 }  // namespace
@@ -76,6 +105,33 @@ SysteemFout KopieerBestand(const fs::path& bron, const fs::path& doel) {
   return terug == bytes ? SysteemFout{} : FoutVan(std::make_error_code(std::errc::io_error));
 }
 
+bool ZelfdeBytes(const fs::path& een, const fs::path& ander) {
+  std::string bytes;
+  std::string andere;
+  return !LeesAlles(een, bytes) && !LeesAlles(ander, andere) && bytes == andere;
+}
+
+SysteemFout LeesMap(const fs::path& map, MapInhoud& inhoud) {
+  inhoud.clear();
+  return Verzamel(map, {}, inhoud);
+}
+
+bool ZelfdeMap(const fs::path& een, const fs::path& ander) {
+  MapInhoud inhoud;
+  MapInhoud andere;
+  return !LeesMap(een, inhoud) && !LeesMap(ander, andere) && inhoud == andere;
+}
+
+SysteemFout SchrijfMap(const fs::path& map, const MapInhoud& inhoud, bool& gewijzigd) {
+  for (const auto& [naam, bytes] : inhoud) {
+    std::string nu;
+    if (!LeesAlles(map / naam, nu) && nu == bytes) continue;
+    if (SysteemFout fout = Verwissel(map / naam, bytes)) return fout;
+    gewijzigd = true;
+  }
+  return {};
+}
+
 SysteemFout KopieerMap(const fs::path& bron, const fs::path& doel) {
   std::error_code code;
   if (!fs::is_directory(bron, code)) return {};
@@ -95,11 +151,15 @@ SysteemFout KopieerMap(const fs::path& bron, const fs::path& doel) {
 SysteemFout VervangInhoud(Bestandenset& bestanden,
                           const std::map<BestandSoort, std::string>& inhoud,
                           std::string_view label) {
+  const std::shared_ptr<Journaal> journaal = bestanden.HetJournaal();
+  const std::uint32_t eerder = journaal ? LaatsteNummer(*journaal) : 0;
   Handeling handeling(bestanden, label);
   SysteemFout fout = VervangAlle(bestanden, inhoud);
   SysteemFout einde = handeling.Voltooi();
   if (!fout) return einde;
-  DraaiTerug(bestanden, label);
+  // Half a replacement is none. One that wrote nothing has left no action.
+  const std::uint32_t half = journaal ? LaatsteNummer(*journaal) : 0;
+  if (half != eerder) static_cast<void>(journaal->MaakOngedaan(half));
   return fout;
 }
 

@@ -1,6 +1,7 @@
 #include "app/KopieTerugzetten.h"
 
 #include <cstddef>
+#include <string>
 
 #include "app/SetOpenen.h"
 
@@ -32,13 +33,18 @@ void KopieTerugzetten::OKButtonKlik() {
                             " ?\nVan wat er nu staat wordt eerst een veiligheidskopie gemaakt.")) {
     return;
   }
-  const SysteemFout fout = KopieVan(hoofd_).ZetTerug(rij.naam);
+  const TerugUitslag uitslag = KopieVan(hoofd_).ZetTerug(rij.naam);
   hoofd_.volgers = {};  // a record that they name may be gone
-  if (fout) {
-    hoofd_.gesprek.Fout("De veiligheidskopie is niet teruggezet\n" + fout.tekst);
+  if (uitslag.fout) {
+    hoofd_.gesprek.Fout("De veiligheidskopie is niet teruggezet\n" + uitslag.fout.tekst);
     return;
   }
-  hoofd_.gesprek.Informeer("De veiligheidskopie is teruggezet");
+  const std::string uitleg = TekstUitleg(uitslag);
+  hoofd_.gesprek.Informeer("De veiligheidskopie is teruggezet" +
+                           (uitleg.empty() ? "" : "\n" + uitleg));
+  if (uitslag.tekstFout) {
+    hoofd_.gesprek.Fout("De map TEKST is niet geheel teruggezet\n" + uitslag.tekstFout.tekst);
+  }
   Sluit();
 }
 

@@ -2,11 +2,15 @@
 
 #include <cstddef>
 #include <iterator>
+#include <memory>
 #include <optional>
 #include <utility>
 
 #include "app/Bestandensets.h"
+#include "store/Bestandenset.h"
+#include "store/Journaal.h"
 #include "text/Getallen.h"
+#include "text/Letterlijk.h"
 
 namespace lb77 {
 
@@ -109,6 +113,7 @@ constexpr MenuRij kMenu[] = {
     {"VeiligGeschiedenis", "&Geschiedenis", "MenuVeiligheid"},
     {"VeiligKopie", "Veiligheidskopie &maken", "MenuVeiligheid"},
     {"VeiligTerugzetten", "Veiligheidskopie &terugzetten", "MenuVeiligheid"},
+    {"VeiligPlaats", "&Plaats van de kopieën"_w, "MenuVeiligheid"},
     {"MenuHelp", "&Help", "", Menu},
     {"Handleid", "&Handleiding", "MenuHelp", Geen},
     {"AboutLB77", "&Over LB77 voor Windows", "MenuHelp"},
@@ -135,6 +140,13 @@ bool Toegestaan(Stand stand, const Hoofdmodule& hoofd) {
   return true;
 }
 
+// The action that would be undone, for the status line.
+std::string TeOngedaan(const Bestandenset& bestanden) {
+  const std::shared_ptr<Journaal>& journaal = bestanden.HetJournaal();
+  const auto laatste = journaal ? journaal->LaatsteTeOngedaan() : std::nullopt;
+  return laatste ? "Maakt ongedaan: " + laatste->label + " (" + laatste->tijd + ")" : std::string();
+}
+
 }  // namespace
 
 MenuWindow::MenuWindow(Hoofdmodule& hoofd)
@@ -149,17 +161,20 @@ MenuWindow::MenuWindow(Hoofdmodule& hoofd)
 void MenuWindow::Hang(std::string_view naam, std::function<void()> start) {
   const std::optional<std::size_t> rij = VindRij(naam);
   if (!rij || kMenu[*rij].werking != Werking::Start) return;
-  keuzes_[*rij].BijKlik([this, start = std::move(start)] {
-    start();
-    ZetMenu();
-    if (hoofd_.Ini.EindeGevraagd()) Sluit();
-  });
+  keuzes_[*rij].BijKlik([this, start = std::move(start)] { KeuzesKlik(start); });
+}
+
+void MenuWindow::KeuzesKlik(const std::function<void()>& start) {
+  start();
+  ZetMenu();
+  if (hoofd_.Ini.EindeGevraagd()) Sluit();
 }
 
 void MenuWindow::ZetMenu() {
   for (std::size_t i = 0; i < std::size(kMenu); ++i) {
     const bool werkt = kMenu[i].werking == Menu || keuzes_[i].HeeftKlik();
     keuzes_[i].ZetIngeschakeld(werkt && Toegestaan(kMenu[i].stand, hoofd_));
+    if (kMenu[i].naam == "VeiligOngedaan") keuzes_[i].ZetToelichting(TeOngedaan(hoofd_.bestanden));
   }
 }
 

@@ -24,7 +24,7 @@ class MenuWindow final : public Formulier {
   // that is greyed for good. An entry that was chosen brings the menu up to date behind its action.
   void Hang(std::string_view naam, std::function<void()> start);
 
-  // Enables what the state of the session allows.
+  // Enables what the state of the session allows, and names the action that would be undone.
   void ZetMenu();
   // Shows the active set in the status bar, with its description, if any, behind a comma.
   void ZetStatus(std::string_view omschrijving = {});
@@ -42,6 +42,7 @@ class MenuWindow final : public Formulier {
   [[nodiscard]] bool MagSluiten() override;
 
  private:
+  void KeuzesKlik(const std::function<void()>& start);
   void OpenLaatsteSet();
   void Afsluiten();
   // Puts the position in the settings; True when it was another one.

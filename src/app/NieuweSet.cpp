@@ -91,6 +91,17 @@ bool NeemBestand(Hoofdmodule& hoofd, BestandSoort soort, const SetPaden& paden) 
   return false;
 }
 
+// On the disk before the set is in the list: of one that is listed no file may be empty. False after
+// a message.
+bool LegVast(Hoofdmodule& hoofd, const SetPaden& paden) {
+  SysteemFout fout = hoofd.bestanden.Veiligstellen();
+  for (const auto& map : {paden.map, paden.map.parent_path()}) {
+    if (!fout) fout = MapVeiligstellen(VindPad(map));
+  }
+  if (fout) hoofd.gesprek.Fout("Fout bij het veiligstellen van de bestanden\n" + fout.tekst);
+  return !fout;
+}
+
 // Without a journal: the records 1 of a new set are nothing to be undone.
 bool MaakSet(Hoofdmodule& hoofd, const SetPaden& paden) {
   hoofd.bestanden.SluitAlles();
@@ -99,7 +110,7 @@ bool MaakSet(Hoofdmodule& hoofd, const SetPaden& paden) {
   for (const BestandSoort soort : kBestandSoorten) {
     if (!NeemBestand(hoofd, soort, paden)) return false;
   }
-  return true;
+  return LegVast(hoofd, paden);
 }
 
 }  // namespace

@@ -1,10 +1,12 @@
 #include "app/Ongedaan.h"
 
 #include <memory>
+#include <string>
 
 #include "store/Bestandenset.h"
 #include "store/Journaal.h"
 #include "store/Volgers.h"
+#include "text/Letterlijk.h"
 #include "text/Pad.h"
 
 namespace lb77 {
@@ -38,11 +40,22 @@ void MaakLaatsteOngedaan(const Opslag& opslag) {
   }
 }
 
+std::string PlekWegTekst(const Veiligheidskopie& kopie) {
+  if (kopie.Weg().empty()) return {};
+  return std::string("De plaats voor de veiligheidskopieën ("_w) + PadTekst(kopie.Weg()) +
+         ") is er niet.\nEen kopie komt nu in " + PadTekst(kopie.Map());
+}
+
+void MeldPlekWeg(const Veiligheidskopie& kopie, Gesprek& gesprek) {
+  if (!kopie.Weg().empty()) gesprek.Waarschuw(PlekWegTekst(kopie));
+}
+
 void MaakVeiligheidskopie(Veiligheidskopie kopie, Gesprek& gesprek) {
+  MeldPlekWeg(kopie, gesprek);
   if (const SysteemFout fout = kopie.Maak()) {
     gesprek.Fout("De veiligheidskopie is niet gemaakt\n" + fout.tekst);
   } else {
-    gesprek.Informeer("Veiligheidskopie gemaakt: " + PadTekst(kopie.Map() / kopie.Laatste()));
+    gesprek.Informeer("Veiligheidskopie gemaakt: " + PadTekst(kopie.Laatste()));
   }
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "app/Veiligheidskopie.h"
@@ -18,6 +19,10 @@ inline constexpr std::string_view kNietsOngedaan = "Er is niets ongedaan te make
 
 // Asks about the last action that is not undone yet, by its label, and undoes it.
 void MaakLaatsteOngedaan(const Opslag& opslag);
+
+// That the place for safety copies is not there, and where they are made instead; empty when it is.
+[[nodiscard]] std::string PlekWegTekst(const Veiligheidskopie& kopie);
+void MeldPlekWeg(const Veiligheidskopie& kopie, Gesprek& gesprek);
 
 // Makes a safety copy, and tells where it lies.
 void MaakVeiligheidskopie(Veiligheidskopie kopie, Gesprek& gesprek);

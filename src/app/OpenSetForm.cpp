@@ -9,14 +9,16 @@ OpenSetForm::OpenSetForm(Hoofdmodule& hoofd, MenuWindow& menu)
     : Formulier("OpenSetForm", "Open Bestandendset"), hoofd_(hoofd), menu_(menu) {
   ZetEersteVeld(SetPicklist);
   OKButton.BijKlik([this] { OKButtonKlik(); });
-  CancelButton.BijKlik([this] {
-    menu_.ZetMenu();
-    Sluit();
-  });
+  CancelButton.BijKlik([this] { CancelButtonKlik(); });
 }
 
 void OpenSetForm::BijLaden() {
   LaadSetPicklist(hoofd_, menu_, SetPicklist);
+}
+
+void OpenSetForm::CancelButtonKlik() {
+  menu_.ZetMenu();
+  Sluit();
 }
 
 void OpenSetForm::OKButtonKlik() {

@@ -20,6 +20,7 @@ class OpenSetForm final : public Formulier {
 
  private:
   void OKButtonKlik();
+  void CancelButtonKlik();
 
   Hoofdmodule& hoofd_;
   MenuWindow& menu_;

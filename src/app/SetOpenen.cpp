@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "app/KopieBijSchrijven.h"
+#include "app/KopiePlek.h"
+#include "app/Ongedaan.h"
 #include "store/Bestandenset.h"
 #include "store/Paden.h"
 #include "store/Platform.h"
@@ -18,7 +20,9 @@ constexpr std::string_view kInGebruik = "Deze bestandenset is al in gebruik.";
 // The work goes on without it: the journal has what is replaced.
 void MaakEersteKopie(Hoofdmodule& hoofd) {
   if (!hoofd.SetActief()) return;
-  if (const SysteemFout fout = KopieVan(hoofd).MaakZonodig()) {
+  Veiligheidskopie kopie = KopieVan(hoofd);
+  MeldPlekWeg(kopie, hoofd.gesprek);
+  if (const SysteemFout fout = kopie.MaakZonodig()) {
     hoofd.gesprek.Waarschuw("De veiligheidskopie is niet gemaakt\n" + fout.tekst);
   }
 }
@@ -35,8 +39,12 @@ bool VraagHerstel(Hoofdmodule& hoofd, Journaal& journaal, const OnvoltooideHande
 }  // namespace
 
 Veiligheidskopie KopieVan(Hoofdmodule& hoofd) {
+  return KopieVan(hoofd, KopiePlek(hoofd.programmaMap));
+}
+
+Veiligheidskopie KopieVan(Hoofdmodule& hoofd, const std::filesystem::path& plek) {
   return {hoofd.MaakOpslag(), hoofd.klok, SetPaden::Van(hoofd.Ini.DataDir(), hoofd.ActieveSetNaam),
-          KopieMap(hoofd.programmaMap, hoofd.ActieveSetNaam)};
+          KopieMappenIn(hoofd.programmaMap, plek, hoofd.ActieveSetNaam)};
 }
 
 void GeefJournaal(Hoofdmodule& hoofd) {

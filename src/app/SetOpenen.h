@@ -2,6 +2,7 @@
 // somebody else has it or the last action in it came to no end.
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 #include "app/Hoofdmodule.h"
@@ -17,8 +18,10 @@ enum class SetGebruik {
   Lezen       // only looks: takes nothing and asks nothing
 };
 
-// The safety copies of the active set.
+// The safety copies of the active set, made in the place of the user's choice.
 [[nodiscard]] Veiligheidskopie KopieVan(Hoofdmodule& hoofd);
+// The same, made in that directory when it is there.
+[[nodiscard]] Veiligheidskopie KopieVan(Hoofdmodule& hoofd, const std::filesystem::path& plek);
 
 // Sets that are opened from here on have a journal, which tells what somebody else has changed,
 // and a safety copy at their first write. `hoofd` outlives its files.

@@ -16,6 +16,7 @@
 #include "store/RelatieLB77.h"
 #include "store/Volgers.h"
 #include "text/Getallen.h"
+#include "text/Letterlijk.h"
 #include "text/Pad.h"
 #include "text/Tekens.h"
 
@@ -29,6 +30,7 @@ constexpr std::size_t kLaatste = 10;
 constexpr int kMaanden = 24;
 constexpr int kMeestePerSeconde = 99;
 constexpr const char* kOnderhanden = "BEZIG";
+constexpr const char* kTekst = "TEKST";
 constexpr std::string_view kNaamVorm = "jjjj-mm-dd_uummss";
 
 // What follows the time in the name of a second copy: "_02".
@@ -51,6 +53,36 @@ std::string TijdVan(std::string_view naam) {
 int MaandVan(std::string_view naam) {
   return static_cast<int>(Getalwaarde(naam.substr(0, 4))) * 12 +
          static_cast<int>(Getalwaarde(naam.substr(5, 2)));
+}
+
+std::string Naam(const fs::path& kopie) {
+  return PadTekst(kopie.filename());
+}
+
+// The last one first.
+bool OpNaam(const fs::path& een, const fs::path& ander) {
+  return een.filename() > ander.filename();
+}
+
+// One that cannot be looked at is no absent one.
+bool IsAfwezig(const fs::path& pad) {
+  std::error_code code;
+  return fs::symlink_status(pad, code).type() == fs::file_type::not_found;
+}
+
+// Is it that directory, or below it, whatever links lead there?
+bool LigtIn(const fs::path& pad, const fs::path& map) {
+  std::error_code code;
+  const fs::path weg =
+      fs::weakly_canonical(pad, code).lexically_relative(fs::weakly_canonical(map, code));
+  return !weg.empty() && *weg.begin() != "..";
+}
+
+// Does the file hold all places of the copy under their numbers? Record 1 counts them.
+bool IsVoortzetting(std::string_view nu, std::string_view toen) {
+  const std::size_t begin = RecordLengteVan(BestandSoort::Plaatsen);
+  return nu.size() >= toen.size() && toen.size() >= begin &&
+         nu.substr(begin, toen.size() - begin) == toen.substr(begin);
 }
 
 int Achter(const fs::path& pad, BestandSoort soort) {
@@ -89,53 +121,61 @@ std::string KopieTekst(const KopieRij& rij) {
          Aantal(rij.telling->opmerkingen, "opmerkingregel", "opmerkingregels");
 }
 
-fs::path KopieMap(const fs::path& programmaMap, std::string_view set) {
-  return VindPad(programmaMap / "KOPIE" / PadVan(set));
-}
-
 Veiligheidskopie::Veiligheidskopie(const Opslag& opslag, const Klok& klok, SetPaden paden,
-                                   fs::path map)
-    : opslag_(opslag), klok_(klok), paden_(std::move(paden)), map_(std::move(map)) {
+                                   KopieMappen plekken)
+    : opslag_(opslag), klok_(klok), paden_(std::move(paden)), plekken_(std::move(plekken)) {
   for (const BestandSoort soort : kBestandSoorten) {
     const fs::path& eigen = PadVanSoort(paden_, soort);
     fs::path pad = VindPad(eigen);
-    std::error_code code;
-    const bool centraal = soort == BestandSoort::Plaatsen && !fs::exists(pad, code);
+    const bool centraal = soort == BestandSoort::Plaatsen && IsAfwezig(pad);
     if (centraal) pad = VindPad(paden_.centraal);
-    bestanden_.push_back({soort, pad, (centraal ? paden_.centraal : eigen).filename()});
+    bestanden_.push_back({soort, pad, (centraal ? paden_.centraal : eigen).filename(), centraal});
   }
 }
 
-std::vector<std::string> Veiligheidskopie::Namen() const {
-  std::vector<std::string> namen;
+std::vector<fs::path> Veiligheidskopie::KopieenIn(const fs::path& map) {
+  std::vector<fs::path> kopieen;
   std::error_code code;
-  for (fs::directory_iterator i(map_, code), einde; !code && i != einde; i.increment(code)) {
-    std::string naam = PadTekst(i->path().filename());
-    if (!TijdVan(naam).empty()) namen.push_back(std::move(naam));
+  for (fs::directory_iterator i(map, code), einde; !code && i != einde; i.increment(code)) {
+    if (!TijdVan(Naam(i->path())).empty()) kopieen.push_back(i->path());
   }
-  std::ranges::sort(namen, std::ranges::greater());
-  return namen;
+  std::ranges::sort(kopieen, OpNaam);
+  return kopieen;
 }
 
-std::string Veiligheidskopie::Laatste() const {
-  const std::vector<std::string> namen = Namen();
-  return namen.empty() ? std::string() : namen.front();
+std::vector<fs::path> Veiligheidskopie::Kopieen() const {
+  std::vector<fs::path> alle;
+  for (const fs::path& map : plekken_.mappen) {
+    const std::vector<fs::path> deze = KopieenIn(map);
+    alle.insert(alle.end(), deze.begin(), deze.end());
+  }
+  std::ranges::stable_sort(alle, OpNaam);
+  return alle;
+}
+
+fs::path Veiligheidskopie::Laatste() const {
+  const std::vector<fs::path> kopieen = Kopieen();
+  return kopieen.empty() ? fs::path() : kopieen.front();
 }
 
 // A second one within a second gets a number.
-std::string Veiligheidskopie::NieuweNaam() const {
+fs::path Veiligheidskopie::NieuwPad() const {
   std::string tijd = TijdTekst(klok_);
   tijd[10] = '_';
   std::erase(tijd, ':');
-  std::string naam = tijd;
+  fs::path pad = Map() / tijd;
   std::error_code code;
-  for (int i = 2; fs::exists(map_ / naam, code) && i <= kMeestePerSeconde; ++i) {
-    naam = tijd + (i < 10 ? "_0" : "_") + GetalTekst(i);
+  for (int i = 2; fs::exists(pad, code) && i <= kMeestePerSeconde; ++i) {
+    pad = Map() / (tijd + (i < 10 ? "_0" : "_") + GetalTekst(i));
   }
-  return naam;
+  return pad;
 }
 
 SysteemFout Veiligheidskopie::MaakIn(const fs::path& doel) {
+  // A copy that holds itself would have no end.
+  if (LigtIn(doel, VindPad(paden_.tekst))) {
+    return {kGeenToegang, "Een kopie kan niet in de map TEKST liggen"};
+  }
   std::error_code code;
   fs::remove_all(doel, code);
   fs::create_directories(doel, code);
@@ -143,7 +183,11 @@ SysteemFout Veiligheidskopie::MaakIn(const fs::path& doel) {
   for (const Bestand& bestand : bestanden_) {
     if (SysteemFout fout = KopieerBestand(bestand.pad, doel / bestand.naam)) return fout;
   }
-  if (SysteemFout fout = KopieerMap(VindPad(paden_.tekst), doel / "TEKST")) return fout;
+  if (SysteemFout fout = KopieerMap(VindPad(paden_.tekst), doel / kTekst)) return fout;
+  // Each file is what was read of it; together they are one moment only when nobody wrote meanwhile.
+  if (!IsGelijk(doel)) {
+    return {kGeenToegang, std::string("De bestandenset is tijdens het kopiëren gewijzigd"_w)};
+  }
   if (!Tel(doel)) return {kGeenToegang, "De kopie gaat niet open"};
   return MapVeiligstellen(doel);
 }
@@ -151,46 +195,49 @@ SysteemFout Veiligheidskopie::MaakIn(const fs::path& doel) {
 SysteemFout Veiligheidskopie::Maak() {
   // What a form has written may still be on its way.
   if (SysteemFout fout = opslag_.bestanden.Veiligstellen()) return fout;
-  const fs::path bezig = map_ / kOnderhanden;
+  const fs::path bezig = Map() / kOnderhanden;
   SysteemFout fout = MaakIn(bezig);
+  const fs::path nieuw = NieuwPad();
   std::error_code code;
   if (!fout) {
-    fs::rename(bezig, map_ / NieuweNaam(), code);
-    fout = code ? FoutVan(code) : MapVeiligstellen(map_);
+    fs::rename(bezig, nieuw, code);
+    fout = code ? FoutVan(code) : MapVeiligstellen(Map());
   }
+  if (!fout) fout = MapVeiligstellen(Map().parent_path());
   if (fout) {
     fs::remove_all(bezig, code);
     return fout;
   }
-  Ruim();
+  Ruim(nieuw);
   return {};
 }
 
 SysteemFout Veiligheidskopie::MaakZonodig() {
-  const std::string laatste = Laatste();
+  const fs::path laatste = Laatste();
   return !laatste.empty() && IsGelijk(laatste) ? SysteemFout{} : Maak();
 }
 
-bool Veiligheidskopie::IsGelijk(const std::string& naam) const {
-  return std::ranges::all_of(bestanden_, [&](const Bestand& bestand) {
-    std::string een;
-    std::string ander;
-    return !LeesAlles(bestand.pad, een) && !LeesAlles(map_ / naam / bestand.naam, ander) &&
-           een == ander;
-  });
+bool Veiligheidskopie::IsGelijk(const fs::path& kopie) const {
+  return std::ranges::all_of(bestanden_,
+                             [&](const Bestand& bestand) {
+                               return ZelfdeBytes(bestand.pad, kopie / bestand.naam);
+                             }) &&
+         ZelfdeMap(VindPad(paden_.tekst), kopie / kTekst);
 }
 
-void Veiligheidskopie::Ruim() const {
-  const std::vector<std::string> namen = Namen();
-  const int nu = namen.empty() ? 0 : MaandVan(namen.front());
-  int maand = 0;
-  for (std::size_t i = kLaatste; i < namen.size(); ++i) {
+void Veiligheidskopie::Ruim(const fs::path& nieuw) const {
+  const std::vector<fs::path> kopieen = KopieenIn(Map());
+  if (kopieen.size() <= kLaatste) return;
+  const int nu = MaandVan(Naam(kopieen.front()));
+  // A month of which one of the last ten is left has that one.
+  int maand = MaandVan(Naam(kopieen[kLaatste - 1]));
+  for (std::size_t i = kLaatste; i < kopieen.size(); ++i) {
     // The last of its month stands first.
-    const int deze = MaandVan(namen[i]);
-    const bool blijft = deze != maand && deze + kMaanden > nu;
+    const int deze = MaandVan(Naam(kopieen[i]));
+    const bool blijft = (deze != maand && deze + kMaanden > nu) || kopieen[i] == nieuw;
     maand = deze;
     std::error_code code;  // what does not go away now goes a next time
-    if (!blijft) fs::remove_all(map_ / namen[i], code);
+    if (!blijft) fs::remove_all(kopieen[i], code);
   }
 }
 
@@ -220,24 +267,51 @@ std::optional<KopieTelling> Veiligheidskopie::Tel(const fs::path& kopie) {
 
 std::vector<KopieRij> Veiligheidskopie::Lijst() {
   std::vector<KopieRij> rijen;
-  for (std::string& naam : Namen()) {
+  for (const fs::path& kopie : Kopieen()) {
+    std::string naam = Naam(kopie);
     std::string tijd = TijdVan(naam);
-    auto telling = Tel(map_ / naam);
-    rijen.push_back({std::move(naam), std::move(tijd), telling});
+    rijen.push_back({std::move(naam), std::move(tijd), Tel(kopie)});
   }
   return rijen;
 }
 
-SysteemFout Veiligheidskopie::ZetTerug(const std::string& naam) {
-  if (TijdVan(naam).empty()) return {kBestandNietGevonden, "Deze veiligheidskopie is er niet"};
+SysteemFout Veiligheidskopie::LeesKopie(const fs::path& kopie,
+                                        std::map<BestandSoort, std::string>& inhoud) const {
+  for (const Bestand& bestand : bestanden_) {
+    std::string& bytes = inhoud[bestand.soort];
+    if (SysteemFout fout = LeesAlles(kopie / bestand.naam, bytes)) return fout;
+    std::string nu;
+    if (!bestand.centraal || LeesAlles(bestand.pad, nu)) continue;
+    if (IsVoortzetting(nu, bytes)) inhoud.erase(bestand.soort);
+  }
+  return {};
+}
+
+std::string TekstUitleg(const TerugUitslag& uitslag) {
+  if (!uitslag.tekst) return {};
+  return "Ook in de map TEKST; wat daar stond ligt in " + PadTekst(uitslag.vorige / kTekst);
+}
+
+TerugUitslag Veiligheidskopie::ZetTerug(const std::string& naam) {
+  const std::vector<fs::path> kopieen = Kopieen();
+  const auto kopie = std::ranges::find(kopieen, naam, Naam);
+  TerugUitslag uitslag;
+  if (kopie == kopieen.end()) {
+    uitslag.fout = {kBestandNietGevonden, "Deze veiligheidskopie is er niet"};
+    return uitslag;
+  }
   // Read before the copy of what is there, which may let this one go.
   std::map<BestandSoort, std::string> inhoud;
-  for (const Bestand& bestand : bestanden_) {
-    SysteemFout fout = LeesAlles(map_ / naam / bestand.naam, inhoud[bestand.soort]);
-    if (fout) return fout;
-  }
-  if (SysteemFout fout = MaakZonodig()) return fout;
-  return VervangInhoud(opslag_.bestanden, inhoud, "Veiligheidskopie teruggezet: " + TijdVan(naam));
+  MapInhoud teksten;
+  uitslag.fout = LeesKopie(*kopie, inhoud);
+  if (!uitslag.fout) uitslag.fout = LeesMap(*kopie / kTekst, teksten);
+  if (!uitslag.fout) uitslag.fout = MaakZonodig();
+  if (uitslag.fout) return uitslag;
+  uitslag.vorige = Laatste();
+  uitslag.fout =
+      VervangInhoud(opslag_.bestanden, inhoud, "Veiligheidskopie teruggezet: " + TijdVan(naam));
+  if (!uitslag.fout) uitslag.tekstFout = SchrijfMap(VindPad(paden_.tekst), teksten, uitslag.tekst);
+  return uitslag;
 }
 
 }  // namespace lb77

@@ -2,12 +2,14 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "app/Klok.h"
+#include "app/KopiePlek.h"
 #include "store/BestandSoort.h"
 #include "store/Opslag.h"
 #include "store/SetPaden.h"
@@ -35,51 +37,68 @@ struct KopieRij {
 // The row for the user: the time and the counts.
 [[nodiscard]] std::string KopieTekst(const KopieRij& rij);
 
-// Where the copies of a set lie, under the program's directory; nothing is made.
-[[nodiscard]] std::filesystem::path KopieMap(const std::filesystem::path& programmaMap,
-                                             std::string_view set);
+// What came of putting a copy back.
+struct TerugUitslag {
+  SysteemFout fout;              // then the four files are as they were, and TEKST too
+  bool tekst = false;            // something in TEKST was replaced
+  SysteemFout tekstFout;         // then not all of TEKST is back
+  std::filesystem::path vorige;  // the copy of what was there
+};
+
+// That TEKST was touched, and where it lies as it was; empty when it was not.
+[[nodiscard]] std::string TekstUitleg(const TerugUitslag& uitslag);
 
 // A copy holds the four files and TEKST. It has its name only when all of it is on the disk, has
 // been compared byte for byte, and opens.
 class Veiligheidskopie {
  public:
-  // Of the set with these paths, whose files are open; `map` holds its copies. References are kept.
-  Veiligheidskopie(const Opslag& opslag, const Klok& klok, SetPaden paden,
-                   std::filesystem::path map);
+  // Of the set with these paths, whose files are open; `plekken` has at least one directory.
+  // References are kept.
+  Veiligheidskopie(const Opslag& opslag, const Klok& klok, SetPaden paden, KopieMappen plekken);
 
-  // Where the copies lie.
-  [[nodiscard]] const std::filesystem::path& Map() const { return map_; }
+  // Where new copies come.
+  [[nodiscard]] const std::filesystem::path& Map() const { return plekken_.mappen.front(); }
+  // The place that the user chose for them when it is not there now; else empty.
+  [[nodiscard]] const std::filesystem::path& Weg() const { return plekken_.weg; }
 
-  // Makes one, and lets go of the old ones: the last ten stay, and the last of each month for two
-  // years.
+  // Makes one, and lets go of the old ones beside it: the last ten stay, and the last of each month
+  // for two years; and the new one, whatever the clock says.
   [[nodiscard]] SysteemFout Maak();
   // The same, unless the last one holds these very bytes.
   [[nodiscard]] SysteemFout MaakZonodig();
-  // All of them, the last one first.
+  // All of them, in all places, the last one first.
   [[nodiscard]] std::vector<KopieRij> Lijst();
-  // The name of the last one; empty when there is none.
-  [[nodiscard]] std::string Laatste() const;
+  // The last one; empty when there is none.
+  [[nodiscard]] std::filesystem::path Laatste() const;
   // Makes the four files what they are in that copy, as one action, after a copy of what is there.
-  // After a failure they are as they were.
-  [[nodiscard]] SysteemFout ZetTerug(const std::string& naam);
+  // In TEKST, which the journal does not know, its files come back then; what else is there stays.
+  // Central places that have only grown since stay too: other sets have numbers in them.
+  [[nodiscard]] TerugUitslag ZetTerug(const std::string& naam);
 
  private:
   struct Bestand {
     BestandSoort soort;
     std::filesystem::path pad;  // of the set
     std::filesystem::path naam;
+    bool centraal = false;
   };
-  [[nodiscard]] std::vector<std::string> Namen() const;
+  // The copies in a directory, the last one first.
+  [[nodiscard]] static std::vector<std::filesystem::path> KopieenIn(
+      const std::filesystem::path& map);
+  // Those of all places, the last one first.
+  [[nodiscard]] std::vector<std::filesystem::path> Kopieen() const;
   [[nodiscard]] SysteemFout MaakIn(const std::filesystem::path& doel);
-  [[nodiscard]] std::string NieuweNaam() const;
-  [[nodiscard]] bool IsGelijk(const std::string& naam) const;
+  [[nodiscard]] std::filesystem::path NieuwPad() const;
+  [[nodiscard]] bool IsGelijk(const std::filesystem::path& kopie) const;
   [[nodiscard]] std::optional<KopieTelling> Tel(const std::filesystem::path& kopie);
-  void Ruim() const;
+  void Ruim(const std::filesystem::path& nieuw) const;
+  [[nodiscard]] SysteemFout LeesKopie(const std::filesystem::path& kopie,
+                                      std::map<BestandSoort, std::string>& inhoud) const;
 
   Opslag opslag_;
   const Klok& klok_;
   SetPaden paden_;
-  std::filesystem::path map_;
+  KopieMappen plekken_;
   std::vector<Bestand> bestanden_;
 };
 

@@ -4,8 +4,8 @@
 #include <system_error>
 
 #include "app/Bestandensets.h"
+#include "app/KopiePlek.h"
 #include "app/SetVerwijderen.h"
-#include "app/Veiligheidskopie.h"
 #include "store/SetPaden.h"
 #include "text/Getallen.h"
 #include "text/Letterlijk.h"
@@ -26,15 +26,17 @@ VerwijderSetForm::VerwijderSetForm(Hoofdmodule& hoofd, MenuWindow& menu)
     : Formulier("VerwijderSetForm", "Verwijder Bestandendset"), hoofd_(hoofd), menu_(menu) {
   ZetEersteVeld(SetPicklist);
   OKButton.BijKlik([this] { OKButtonKlik(); });
-  CancelButton.BijKlik([this] {
-    menu_.ZetMenu();
-    Sluit();
-  });
+  CancelButton.BijKlik([this] { CancelButtonKlik(); });
 }
 
 void VerwijderSetForm::BijLaden() {
   LaadSetPicklist(hoofd_, menu_, SetPicklist);
   DeleteNee.Zet(true);
+}
+
+void VerwijderSetForm::CancelButtonKlik() {
+  menu_.ZetMenu();
+  Sluit();
 }
 
 void VerwijderSetForm::OKButtonKlik() {
@@ -79,11 +81,15 @@ void VerwijderSetForm::Verwijder() {
 // The safety copies stay.
 void VerwijderSetForm::VerwijderBestanden(const std::string& naam) {
   VerwijderSetVanSchijf(hoofd_.gesprek, hoofd_.Ini.DataDir(), naam);
-  const std::filesystem::path kopieen = KopieMap(hoofd_.programmaMap, naam);
-  std::error_code code;
-  if (!std::filesystem::exists(kopieen, code)) return;
+  const std::filesystem::path& programma = hoofd_.programmaMap;
+  std::string waar;
+  for (const auto& map : KopieMappenIn(programma, KopiePlek(programma), naam).mappen) {
+    std::error_code code;
+    if (std::filesystem::exists(map, code)) waar += (waar.empty() ? "" : ", ") + PadTekst(map);
+  }
+  if (waar.empty()) return;
   hoofd_.gesprek.Informeer(std::string("De veiligheidskopieën van "_w) + naam +
-                           " zijn er nog: " + PadTekst(kopieen));
+                           " zijn er nog: " + waar);
 }
 
 // The entries behind it move up, so that the list has no holes.

@@ -25,6 +25,7 @@ class VerwijderSetForm final : public Formulier {
 
  private:
   void OKButtonKlik();
+  void CancelButtonKlik();
   void Verwijder();
   void VerwijderBestanden(const std::string& naam);
   void HaalUitLijst(int index);

@@ -12,6 +12,12 @@ int Zoek(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Kwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int IndexKwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int SchemaKwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Gezinsblad(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+// In Genealogie.cpp.
+int Genealogie(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Parenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int IndexParenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int SchemaParenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 // In Veiligheid.cpp.
 int ToonGeschiedenis(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int MaakOngedaan(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
@@ -31,12 +37,17 @@ constexpr Opdracht kOpdrachten[] = {
     {"index-kwartierstaat", "schrijft de index op een Kwartierstaat", {"SET", "PERSOON"}, Extra::Rapport, IndexKwartierstaat},
     {"schema-kwartierstaat", "tekent de Kwartierstaat van een persoon", {"SET", "PERSOON"}, Extra::Rapport, SchemaKwartierstaat},
     {"bladen", "schrijft alle kwartierbladen van een persoon", {"SET", "PERSOON"}, Extra::Tekstrapport, Bladen},
+    {"gezinsblad", "schrijft het gezinsblad van een persoon", {"SET", "PERSOON"}, Extra::Tekstrapport, Gezinsblad},
+    {"genealogie", "schrijft de nakomelingen van een persoon in de lijn van de zonen", {"SET", "PERSOON"}, Extra::Rapport, Genealogie},
+    {"parenteel", "schrijft alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, Parenteel},
+    {"index-parenteel", "schrijft de index op alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, IndexParenteel},
+    {"schema-parenteel", "tekent alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, SchemaParenteel},
     {"zoek", "zoekt personen op een deel van hun naam", {"SET", "NAAM"}, Extra::Geen, Zoek},
-    {"geschiedenis", "toont de bewerkingen van een set", {"SET"}, Extra::Geen, ToonGeschiedenis},
+    {"geschiedenis", "toont de bewerkingen van een set, of wat nummer N wijzigde", {"SET", "[N]"}, Extra::Geen, ToonGeschiedenis},
     {"ongedaan", "maakt de laatste bewerking ongedaan, of alle t/m nummer N", {"SET", "[N]"}, Extra::Geen, MaakOngedaan, false, true},
     {"herstel", "maakt een niet voltooide bewerking ongedaan", {"SET"}, Extra::Behoud, Herstel, false, true},
-    {"kopie", "maakt een veiligheidskopie", {"SET"}, Extra::Geen, Kopie},
-    {"terugzetten", "zet een veiligheidskopie terug; zonder KOPIE: toont ze", {"SET", "[KOPIE]"}, Extra::Geen, Terugzetten, false, true},
+    {"kopie", "maakt een veiligheidskopie", {"SET"}, Extra::Kopie, Kopie},
+    {"terugzetten", "zet een veiligheidskopie terug; zonder KOPIE: toont ze", {"SET", "[KOPIE]"}, Extra::Terug, Terugzetten, false, true},
     {"toon", "toont de kaart van een persoon", {"SET", "PERSOON"}, Extra::Geen, Toon},
 };
 // clang-format on

@@ -33,7 +33,7 @@ struct OpdrachtArgumenten {
   std::vector<std::string> woorden = std::vector<std::string>(kMeesteWoorden);
   std::filesystem::path bestand;  // of `importeer`
   bool html = false;
-  std::optional<std::filesystem::path> naar;  // --uit
+  std::optional<std::filesystem::path> naar;  // --uit, --naar or --van
   std::vector<std::string> zet;               // NAAM=WAARDE
   bool bewaar = false;                        // --bewaar: the choices hold for later runs too
   bool toch = false;                          // --toch: also when another run has the set
@@ -41,7 +41,7 @@ struct OpdrachtArgumenten {
 };
 
 // What a command accepts beside its words. A Tekstrapport has no form in HTML.
-enum class Extra { Geen, Bestand, Rapport, Tekstrapport, Behoud };
+enum class Extra { Geen, Bestand, Rapport, Tekstrapport, Behoud, Kopie, Terug };
 
 // Gives the exit status: 0, or 1 after an error.
 using OpdrachtFunctie = int(const Omgeving&, const OpdrachtArgumenten&);

@@ -121,6 +121,8 @@ bool Maker::Vul(Werk& werk, const Formulier& form, const VeldVulling& vulling) {
     case Vulling::Woord:
     case Vulling::Persoon:
       return werk.Zet(vulling.veld, argumenten_.woorden[vulling.woord]);
+    case Vulling::Waarde:
+      return werk.Zet(vulling.veld, vulling.waarde);
     case Vulling::Html:
       return werk.Zet(vulling.veld, argumenten_.html ? "Ja" : "Nee");
     case Vulling::Links:

@@ -17,6 +17,7 @@ enum class Vulling {
   Niets,    // no field: the row ends here
   Woord,    // a word of the command line, by its index
   Persoon,  // the same, where a name stands for the number of the only person who has it
+  Waarde,   // that of the row
   Html,     // "Ja" with --html, else "Nee"
   Links     // of a dialog of links: nothing where the settings have none, since the sample
             // that such a field shows is for who sees it
@@ -26,6 +27,7 @@ struct VeldVulling {
   std::string_view veld;
   Vulling wat = Vulling::Niets;
   std::size_t woord = 0;
+  std::string_view waarde = {};
 };
 
 // The fields of a form in the order in which they are filled; OK goes behind them. The choices of

@@ -1,11 +1,15 @@
 // `geschiedenis`, `ongedaan`, `herstel`, `kopie` and `terugzetten`: what keeps a set safe.
 #include <algorithm>
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 #include <ostream>
 #include <string>
+#include <system_error>
+#include <utility>
 
 #include "app/HandelingTekst.h"
+#include "app/KopiePlek.h"
 #include "app/Ongedaan.h"
 #include "app/SetOpenen.h"
 #include "app/Veiligheidskopie.h"
@@ -39,9 +43,28 @@ void Schrijf(std::ostream& uit, const std::string& windows) {
   uit << WindowsNaarUtf8(windows) << '\n';
 }
 
-void ToonKopieen(Hoofdmodule& hoofd, std::ostream& uit) {
-  for (const KopieRij& rij : KopieVan(hoofd).Lijst()) {
-    Schrijf(uit, rij.naam + "  " + KopieTekst(rij));
+void ToonKopieen(Veiligheidskopie kopie, std::ostream& uit) {
+  for (const KopieRij& rij : kopie.Lijst()) Schrijf(uit, rij.naam + "  " + KopieTekst(rij));
+}
+
+// The place of --naar or --van; the one of the settings without. A mistyped one is told.
+std::optional<std::filesystem::path> Plek(Sessie& sessie, const OpdrachtArgumenten& argumenten) {
+  if (!argumenten.naar) return KopiePlek(sessie.Hoofd().programmaMap);
+  std::error_code code;
+  std::filesystem::path plek = std::filesystem::absolute(*argumenten.naar, code);
+  if (std::filesystem::is_directory(plek, code)) return plek;
+  sessie.bediener.Mislukt("De directory " + PadTekst(plek) + " is er niet");
+  return std::nullopt;
+}
+
+void ToonWijzigingen(Sessie& sessie, const std::string& nummer, std::ostream& uit) {
+  Journaal& journaal = *sessie.Hoofd().bestanden.HetJournaal();
+  const auto regel = Kies(journaal, nummer);
+  if (!regel) return sessie.bediener.Mislukt("Er is geen bewerking " + nummer);
+  Schrijf(uit, Nummer(regel->nummer) + "  " + HandelingTekst(*regel));
+  const char scheider = sessie.Hoofd().schrijfwijze.DatumScheider;
+  for (const std::string& tekst : WijzigingTekst(journaal.Wijzigingen(regel->nummer), scheider)) {
+    Schrijf(uit, tekst);
   }
 }
 
@@ -63,6 +86,8 @@ Journaal* NeemSet(Sessie& sessie, const std::string& set, bool toch) {
 int ToonGeschiedenis(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
   Sessie sessie(omgeving, Instelling::VoorNu);
   return sessie.Voer(argumenten.woorden[0], Omgang::Lezen, [&](Werk&) {
+    const std::string& nummer = argumenten.woorden[1];
+    if (!nummer.empty()) return ToonWijzigingen(sessie, nummer, omgeving.uit);
     for (const HandelingRegel& regel : sessie.Hoofd().bestanden.HetJournaal()->Geschiedenis()) {
       Schrijf(omgeving.uit, Nummer(regel.nummer) + "  " + HandelingTekst(regel));
     }
@@ -110,11 +135,18 @@ int Herstel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
 int Kopie(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
   Sessie sessie(omgeving, Instelling::VoorNu);
   return sessie.Voer(argumenten.woorden[0], Omgang::Lezen, [&](Werk&) {
-    Veiligheidskopie kopie = KopieVan(sessie.Hoofd());
+    const auto plek = Plek(sessie, argumenten);
+    if (!plek) return;
+    Veiligheidskopie kopie = KopieVan(sessie.Hoofd(), *plek);
+    if (!kopie.Weg().empty()) sessie.bediener.Mislukt(PlekWegTekst(kopie));
     if (const SysteemFout fout = kopie.Maak()) {
       sessie.bediener.Mislukt("De veiligheidskopie is niet gemaakt\n" + fout.tekst);
     } else {
-      Schrijf(omgeving.uit, kopie.Laatste());
+      Schrijf(omgeving.uit, PadTekst(kopie.Laatste().filename()));
+    }
+    if (!argumenten.bewaar || !argumenten.naar) return;
+    if (const SysteemFout fout = BewaarKopiePlek(sessie.Hoofd().programmaMap, *plek)) {
+      sessie.bediener.Mislukt("De plaats is niet bewaard\n" + fout.tekst);
     }
   });
 }
@@ -123,11 +155,19 @@ int Terugzetten(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) 
   Sessie sessie(omgeving, Instelling::VoorNu);
   const std::string& naam = argumenten.woorden[1];
   const auto doe = [&](Werk&) {
-    if (naam.empty()) return ToonKopieen(sessie.Hoofd(), omgeving.uit);
-    if (const SysteemFout fout = KopieVan(sessie.Hoofd()).ZetTerug(naam)) {
-      sessie.bediener.Mislukt("De veiligheidskopie is niet teruggezet\n" + fout.tekst);
-    } else {
-      Schrijf(omgeving.uit, "Teruggezet: " + naam);
+    const auto plek = Plek(sessie, argumenten);
+    if (!plek) return;
+    Veiligheidskopie kopie = KopieVan(sessie.Hoofd(), *plek);
+    if (naam.empty()) return ToonKopieen(std::move(kopie), omgeving.uit);
+    const TerugUitslag uitslag = kopie.ZetTerug(naam);
+    if (uitslag.fout) {
+      sessie.bediener.Mislukt("De veiligheidskopie is niet teruggezet\n" + uitslag.fout.tekst);
+      return;
+    }
+    Schrijf(omgeving.uit, "Teruggezet: " + naam);
+    if (uitslag.tekst) Schrijf(omgeving.uit, TekstUitleg(uitslag));
+    if (uitslag.tekstFout) {
+      sessie.bediener.Mislukt("De map TEKST is niet geheel teruggezet\n" + uitslag.tekstFout.tekst);
     }
   };
   const Omgang omgang = naam.empty() ? Omgang::Lezen : Omgang::Schrijven;

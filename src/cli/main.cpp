@@ -8,6 +8,7 @@
 #include "app/Start.h"
 #include "cli/Gebruik.h"
 #include "cli/Opdrachten.h"
+#include "store/PlatformUitvoer.h"
 #include "store/SysteemFout.h"
 #include "text/Unicode.h"
 
@@ -70,6 +71,13 @@ void VoegWoordenToe(CLI::App& sub, const Opdracht& opdracht, Regel& regel) {
   }
   if (opdracht.extra == Extra::Behoud) {
     sub.add_flag("--behoud", regel.behoud, "laat staan wat er staat");
+  }
+  if (opdracht.extra == Extra::Kopie) {
+    sub.add_option("--naar", regel.naar, "maak de kopie in deze map")->type_name("MAP");
+    sub.add_flag("--bewaar", regel.bewaar, "ook de volgende kopieën");
+  }
+  if (opdracht.extra == Extra::Terug) {
+    sub.add_option("--van", regel.naar, "ook uit deze map")->type_name("MAP");
   }
   if (opdracht.extra == Extra::Rapport) sub.add_flag("--html", regel.html, "schrijf HTML");
   if (opdracht.extra == Extra::Rapport || opdracht.extra == Extra::Tekstrapport) {
@@ -167,6 +175,7 @@ void BeschrijfRegel(CLI::App& app, Regel& regel) {
 }
 
 int Hoofd(int argc, char** argv) {
+  OverleefVertrokkenLezer();
   CLI::App app("LB77: stamboomprogramma, op de opdrachtregel");
   Regel regel;
   BeschrijfRegel(app, regel);
@@ -174,7 +183,8 @@ int Hoofd(int argc, char** argv) {
     app.parse(argc, argv);
     const int status = Voer(app, regel);
     std::cout.flush();
-    if (std::cout) return status;
+    // Whoever has read enough hears nothing more.
+    if (std::cout || LezerIsVertrokken()) return status;
     std::cerr << "lb77-cli: de uitvoer kon niet worden geschreven\n";
     return 1;
   } catch (const CLI::Success& hulp) {

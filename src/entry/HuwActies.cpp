@@ -86,7 +86,7 @@ void OrdenRelaties(Hoofdmodule& hoofd, std::int16_t persoon) {
   Huwtab tab{};
   const OrdenTaak taak{
       .plaatsen = PlaatsenVan(tab),
-      .lees = [&] { return hoofd.Persoon.VulHuwtab(persoon, tab).heel; },
+      .lees = [&] { return StaatVan(hoofd.Persoon.VulHuwtab(persoon, tab)); },
       .sorteer = [&](std::int16_t aantal) { return SorteerHuwtab(hoofd.Relatie, tab, aantal); },
       .schrijf = [&] { return Werk(hoofd).SchrijfHuwtab(persoon, tab); },
       .vraagWie =
@@ -103,8 +103,8 @@ void OrdenRelaties(Hoofdmodule& hoofd, std::int16_t persoon) {
           },
       .nietErin = "Deze Relatie is niet van deze Persoon",
   };
-  Orden(hoofd.gesprek, taak);
-  hoofd.volgers.HuidigPersoonNr = persoon;
+  const bool gelezen = Orden(hoofd.gesprek, taak);
+  hoofd.volgers.HuidigPersoonNr = gelezen ? persoon : std::int16_t{-1};
   MeldNietVeilig(hoofd.gesprek, handeling.Voltooi());
 }
 

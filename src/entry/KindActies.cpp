@@ -93,7 +93,7 @@ void OrdenKinderen(Hoofdmodule& hoofd, std::int16_t relatie) {
   Kindtab tab{};
   const OrdenTaak taak{
       .plaatsen = PlaatsenVan(tab),
-      .lees = [&] { return hoofd.Relatie.VulKindtab(relatie, tab).heel; },
+      .lees = [&] { return StaatVan(hoofd.Relatie.VulKindtab(relatie, tab)); },
       .sorteer = [&](std::int16_t aantal) { return SorteerKindtab(hoofd.Persoon, tab, aantal); },
       .schrijf = [&] { return Werk(hoofd).SchrijfKindtab(relatie, tab); },
       .vraagWie = [&]() -> std::optional<std::int16_t> { return VraagKind(hoofd, kKindSchuif); },
@@ -105,8 +105,8 @@ void OrdenKinderen(Hoofdmodule& hoofd, std::int16_t relatie) {
           },
       .nietErin = "Deze Persoon is geen Kind in deze Relatie",
   };
-  Orden(hoofd.gesprek, taak);
-  hoofd.volgers.HuidigRelatieNr = relatie;
+  const bool gelezen = Orden(hoofd.gesprek, taak);
+  hoofd.volgers.HuidigRelatieNr = gelezen ? relatie : std::int16_t{-1};
   MeldNietVeilig(hoofd.gesprek, handeling.Voltooi());
 }
 

@@ -40,16 +40,18 @@ void KindRij::Toon(PersoonLB77& persoon, std::int16_t nr) {
 KinderenKaart::KinderenKaart(std::string_view naam, std::string_view titel, Hoofdmodule& hoofd,
                              std::int16_t relatie, int eerste)
     : KaartOp(naam, titel, hoofd), Kinderen(*this, eerste), relatie_(relatie) {
-  Man.Nr.BijKlik([this] { NaarPersoon(Man.Nr.Nr(), "Er is geen Man bekend"); });
-  Vrouw.Nr.BijKlik([this] { NaarPersoon(Vrouw.Nr.Nr(), "Er is geen Vrouw bekend"); });
-  Kinderen.Elk([this](int, KindRij& rij) {
-    rij.NaarKind.BijKlik([this, &rij] { NaarPersoon(rij.NaarKind.Nr(), {}); });
-  });
+  ZetHulpOnderwerp("relaties");
+  Man.Nr.BijKlik([this] { ManNrKlik(); });
+  Vrouw.Nr.BijKlik([this] { VrouwNrKlik(); });
+  Kinderen.Elk(
+      [this](int, KindRij& rij) { rij.NaarKind.BijKlik([this, &rij] { NaarKindKlik(rij); }); });
+  ErbijButton.BijKlik([this] { ErbijButtonKlik(); });
+  ErafButton.BijKlik([this] { ErafButtonKlik(); });
 }
 
 void KinderenKaart::HangOp(Knop& terug) {
   terug_ = &terug;
-  terug.BijKlik([this] { Verlaat(); });
+  terug.BijKlik([this] { TerugKlik(); });
 }
 
 void KinderenKaart::LaadOpnieuw(Bediening& bij) {
@@ -94,13 +96,35 @@ void KinderenKaart::ToonKinderen() {
   });
 }
 
+void KinderenKaart::ManNrKlik() {
+  NaarPersoon(Man.Nr.Nr(), "Er is geen Man bekend");
+}
+
+void KinderenKaart::VrouwNrKlik() {
+  NaarPersoon(Vrouw.Nr.Nr(), "Er is geen Vrouw bekend");
+}
+
+void KinderenKaart::NaarKindKlik(const KindRij& rij) {
+  NaarPersoon(rij.NaarKind.Nr(), {});
+}
+
+void KinderenKaart::ErbijButtonKlik() {
+  VoegToe();
+  LaadOpnieuw(ErbijButton);
+}
+
+void KinderenKaart::ErafButtonKlik() {
+  HaalWeg();
+  LaadOpnieuw(ErafButton);
+}
+
 void KinderenKaart::NaarPersoon(int nr, std::string_view geen) {
   if (MagErheen(Hoofd().gesprek, nr, geen, kPersoonKomtNietVoor)) {
     Ga(ToonPersoonVraag(Hoofd(), static_cast<std::int16_t>(nr)));
   }
 }
 
-void KinderenKaart::Verlaat() {
+void KinderenKaart::TerugKlik() {
   Volgers& volgers = Hoofd().volgers;
   volgers.PersBufNr = volgers.RelBufNr = volgers.PlaatsBufNr = -1;
   Sluit();

@@ -35,6 +35,8 @@ class KinderenKaart : public KaartOp<InvoerFormulier> {
   PersoonToon Man{*this, "NaarMan", "Man", "Man:", "Man"};
   PersoonToon Vrouw{*this, "NaarVrouw", "Vrouw", "Vrouw:", "Vrouw"};
   Regels<KindRij, kRijen> Kinderen;
+  Knop ErbijButton{*this, "ErbijButton", "&Erbij"};
+  Knop ErafButton{*this, "ErafButton", "Er&af"};
 
  protected:
   KinderenKaart(std::string_view naam, std::string_view titel, Hoofdmodule& hoofd,
@@ -48,13 +50,21 @@ class KinderenKaart : public KaartOp<InvoerFormulier> {
   void BijLaden() override;
   // Goes from the relation in the buffer to the record that holds the children of this card; False
   // after a message.
-  [[nodiscard]] virtual bool NaarLijst() { return true; }
+  [[nodiscard]] virtual bool NaarLijst() = 0;
+  // What adds a child here, and what takes one away.
+  virtual void VoegToe() = 0;
+  virtual void HaalWeg() = 0;
 
  private:
   [[nodiscard]] bool MagTonen();
   void ToonKinderen();
+  void ManNrKlik();
+  void VrouwNrKlik();
+  void NaarKindKlik(const KindRij& rij);
+  void ErbijButtonKlik();
+  void ErafButtonKlik();
+  void TerugKlik();
   void NaarPersoon(int nr, std::string_view geen);
-  void Verlaat();
 
   std::int16_t relatie_;
   Knop* terug_ = nullptr;

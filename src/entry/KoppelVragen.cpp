@@ -8,16 +8,19 @@ namespace {
 
 constexpr std::size_t kCijfersVolgnummer = 2;
 
-constexpr PersoonVakSoort kPersoon{.nrBijschrift = "Persoonsnummer:",
-                                   .voorBijschrift = "Voornamen:",
-                                   .achterBijschrift = "Achternaam:"};
+constexpr PersoonVakSoort SoortVan(const PersoonKeuzeSoort& keuze) {
+  return {.alleenAnders = keuze.alleenAnders,
+          .nrBijschrift = "Persoonsnummer:",
+          .voorBijschrift = "Voornamen:",
+          .achterBijschrift = "Achternaam:"};
+}
 
 }  // namespace
 
 PersoonKeuze::PersoonKeuze(const PersoonKeuzeSoort& soort, Hoofdmodule& hoofd)
     : InvoerFormulier(soort.naam, soort.titel, hoofd),
       VraagLabel(*this, "VraagLabel", soort.vraag),
-      Persoon(*this, "", kPersoon) {
+      Persoon(*this, "", SoortVan(soort)) {
   ZetHulpOnderwerp("relaties");
   ZetEersteVeld(Persoon.RecordNr);
   OKButton.BijKlik([this] { OKButtonKlik(); });

@@ -16,13 +16,14 @@ struct PersoonKeuzeSoort {
   std::string_view naam;
   std::string_view titel;
   std::string_view vraag;
+  bool alleenAnders = false;  // the names stay when the number was not changed
 };
 
 inline constexpr std::string_view kVraagKind = "Geef het Persoonsnummer van het Kind";
 inline constexpr PersoonKeuzeSoort kKindErbij{"KindErbij", "Toevoegen Kind", kVraagKind};
 inline constexpr PersoonKeuzeSoort kKindEraf{"KindEraf", "Verwijderen Kind", kVraagKind};
-inline constexpr PersoonKeuzeSoort kKindSchuif{"KindSchuif", "Volgnummer Kind Wijzigen",
-                                               kVraagKind};
+inline constexpr PersoonKeuzeSoort kKindSchuif{"KindSchuif", "Volgnummer Kind Wijzigen", kVraagKind,
+                                               true};
 inline constexpr PersoonKeuzeSoort kVraagPartner{"VraagPartner", "Invoer Partner",
                                                  "Geef het Persoonsnummer van de Partner"};
 

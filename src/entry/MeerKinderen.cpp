@@ -15,8 +15,6 @@ KaartVraag MeerKinderenVraag(Hoofdmodule& hoofd, std::int16_t nr) {
 
 MeerKinderen::MeerKinderen(Hoofdmodule& hoofd, std::int16_t relatie)
     : KinderenKaart("MeerKinderen", "Toon Kinderen (vervolg)", hoofd, relatie, kRijen) {
-  ErbijButton.BijKlik([this] { ErbijButtonKlik(); });
-  ErafButton.BijKlik([this] { ErafButtonKlik(); });
   HangOp(BackButton);
 }
 
@@ -24,15 +22,13 @@ KaartVraag MeerKinderen::Opnieuw() const {
   return MeerKinderenVraag(Hoofd(), RelatieNr());
 }
 
-void MeerKinderen::ErbijButtonKlik() {
+void MeerKinderen::VoegToe() {
   VoegKindToeZonderVraag(Hoofd(), RelatieNr());
-  LaadOpnieuw(ErbijButton);
 }
 
 // kept: it asks with the prompt for adding.
-void MeerKinderen::ErafButtonKlik() {
+void MeerKinderen::HaalWeg() {
   HaalKindWeg(Hoofd(), RelatieNr(), true);
-  LaadOpnieuw(ErafButton);
 }
 
 bool MeerKinderen::NaarLijst() {

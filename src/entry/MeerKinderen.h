@@ -15,18 +15,14 @@ class MeerKinderen final : public KinderenKaart {
  public:
   MeerKinderen(Hoofdmodule& hoofd, std::int16_t relatie);
 
-  Knop ErbijButton{*this, "ErbijButton", "&Erbij"};
-  Knop ErafButton{*this, "ErafButton", "Er&af"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 
   [[nodiscard]] KaartVraag Opnieuw() const override;
 
  protected:
   [[nodiscard]] bool NaarLijst() override;
-
- private:
-  void ErbijButtonKlik();
-  void ErafButtonKlik();
+  void VoegToe() override;
+  void HaalWeg() override;
 };
 
 }  // namespace lb77

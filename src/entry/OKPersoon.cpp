@@ -9,6 +9,7 @@ namespace lb77 {
 
 OKPersoon::OKPersoon(Hoofdmodule& hoofd, std::string_view voornaam, std::string_view achternaam)
     : Formulier("OKPersoon", "Zoek Persoon op Naam"), hoofd_(hoofd) {
+  ZetHulpOnderwerp("zoeken");
   const std::string naam = std::string(Trim(voornaam)) + " " + std::string(Trim(achternaam));
   naam_ = Trim(naam);
   InfoTekst.ZetAlleenLezen(true);

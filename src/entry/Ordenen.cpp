@@ -9,16 +9,21 @@ namespace {
 constexpr std::string_view kMislukt = "Het sorteren is mislukt.";
 constexpr std::string_view kNietGelezen = "Het sorteren is mislukt";
 
-void OrdenOpDatum(Gesprek& gesprek, const OrdenTaak& taak) {
-  if (!taak.lees()) return gesprek.Waarschuw(kNietGelezen);
+// Without its record there is nothing to sort; the card tells, when it shows itself again.
+bool OrdenOpDatum(Gesprek& gesprek, const OrdenTaak& taak) {
+  const Lijststaat staat = taak.lees();
+  if (staat == Lijststaat::Geen) return false;
   Verdicht(taak.plaatsen);
-  if (!taak.sorteer(AantalBezet(taak.plaatsen)) || !taak.schrijf()) gesprek.Waarschuw(kMislukt);
+  const bool gelukt =
+      staat == Lijststaat::Heel && taak.sorteer(AantalBezet(taak.plaatsen)) && taak.schrijf();
+  if (!gelukt) gesprek.Waarschuw(kMislukt);
+  return true;
 }
 
 void OrdenMetDeHand(Gesprek& gesprek, const OrdenTaak& taak) {
   const auto wie = taak.vraagWie();
   if (!wie || *wie <= 0) return;
-  if (!taak.lees()) return gesprek.Waarschuw(kNietGelezen);
+  if (taak.lees() != Lijststaat::Heel) return gesprek.Waarschuw(kNietGelezen);
   Verdicht(taak.plaatsen);
   const std::int16_t van = PlaatsVan(taak.plaatsen, *wie);
   if (van == 0) return gesprek.Waarschuw(taak.nietErin);
@@ -30,12 +35,17 @@ void OrdenMetDeHand(Gesprek& gesprek, const OrdenTaak& taak) {
 
 }  // namespace
 
-void Orden(Gesprek& gesprek, const OrdenTaak& taak) {
+Lijststaat StaatVan(const TabUitslag& uitslag) {
+  if (uitslag.heel) return Lijststaat::Heel;
+  return uitslag.aantal > 0 ? Lijststaat::NietHeel : Lijststaat::Geen;
+}
+
+bool Orden(Gesprek& gesprek, const OrdenTaak& taak) {
   if (gesprek.Vraag("Moet de volgorde Automatisch bepaald worden ?")) {
-    OrdenOpDatum(gesprek, taak);
-  } else {
-    OrdenMetDeHand(gesprek, taak);
+    return OrdenOpDatum(gesprek, taak);
   }
+  OrdenMetDeHand(gesprek, taak);
+  return true;
 }
 
 }  // namespace lb77

@@ -8,6 +8,7 @@ namespace lb77 {
 
 PersInfoForm::PersInfoForm(Hoofdmodule& hoofd)
     : Formulier("PersInfoForm", "Info Persoon"), hoofd_(hoofd) {
+  ZetHulpOnderwerp("zoeken");
   InfoTekst.ZetAlleenLezen(true);
   OKButton.BijKlik([this] { Sluit(); });
   ZetEersteVeld(OKButton);

@@ -30,7 +30,8 @@ PersoonVak::NrVak::NrVak(PersoonVak& geheel, InvoerFormulier& formulier, std::st
 }
 
 bool PersoonVak::NrVak::OpVerlaten() {
-  return InvoerVak::OpVerlaten() && geheel_.NrVerlaten();
+  if (!InvoerVak::OpVerlaten()) return false;
+  return (geheel_.soort_.alleenAnders && Tekst() == begin_) || geheel_.NrVerlaten();
 }
 
 // The search brings the names along with the number.

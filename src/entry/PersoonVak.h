@@ -22,6 +22,7 @@ enum class PersoonControle {
 struct PersoonVakSoort {
   PersoonControle controle = PersoonControle::Geldig;
   bool leegWist = true;            // an empty number empties the names
+  bool alleenAnders = false;       // a number that is as it was when it got the focus is let be
   bool naamInvoer = true;          // the names can be typed
   std::string_view onbekend = {};  // for a name that is not known; without it only an unreadable
                                    // person has a text in its place
@@ -47,11 +48,13 @@ class PersoonVak {
           std::string_view bijschrift);
 
    protected:
+    void OpBetreden() override { begin_ = Tekst(); }
     [[nodiscard]] bool OpVerlaten() override;
     void OpToets(ToetsGebeurtenis& toets) override;
 
    private:
     PersoonVak& geheel_;
+    std::string begin_;  // what stood there when it got the focus
   };
 
   NrVak RecordNr;

@@ -25,23 +25,21 @@ RecordKaart::RecordKaart(std::string_view naam, std::string_view titel, Hoofdmod
       gevraagd_(nr) {
   RecordNr.ZetFilter(AlleenCijfers);
   RecordNr.BijVerlaten([this] { return RecordNrVerlaten(); });
-  RecordNr.BijBetreden([this] {
-    if (nr_ == kGeen) Verlaat();
-  });
+  RecordNr.BijBetreden([this] { RecordNrBetreden(); });
   ZetEersteVeld(RecordNr);
 }
 
 void RecordKaart::HangOp(const Knoppenrij& knoppen) {
   vorige_ = &knoppen.vorige;
   volgende_ = &knoppen.volgende;
-  vorige_->BijKlik([this] { Stap(-1, *vorige_); });
-  volgende_->BijKlik([this] { Stap(1, *volgende_); });
-  knoppen.nieuw.BijKlik([this] { ToonNieuw(); });
-  knoppen.wijzig.BijKlik([this, &knop = knoppen.wijzig] { Wijzig(knop); });
-  knoppen.terug.BijKlik([this] { Verlaat(); });
+  vorige_->BijKlik([this] { VorigeKlik(); });
+  volgende_->BijKlik([this] { VolgendeKlik(); });
+  knoppen.nieuw.BijKlik([this] { NieuwKlik(); });
+  knoppen.wijzig.BijKlik([this, &knop = knoppen.wijzig] { WijzigKlik(knop); });
+  knoppen.terug.BijKlik([this] { TerugKlik(); });
   for (Bediening* bediening : Bedieningen()) {
-    if (auto* const knop = dynamic_cast<OpmKnop*>(bediening)) {
-      knop->BijKlik([this, knop] { ToonOpmerking(*knop); });
+    if (auto* const opmKnop = dynamic_cast<OpmKnop*>(bediening)) {
+      opmKnop->BijKlik([this, opmKnop] { OpmKnopKlik(*opmKnop); });
     }
   }
 }
@@ -108,6 +106,11 @@ void RecordKaart::ToonOpmKnoppen(std::int16_t opmCode) {
   }
 }
 
+// A card without a record has nothing to go on from.
+void RecordKaart::RecordNrBetreden() {
+  if (nr_ == kGeen) TerugKlik();
+}
+
 bool RecordKaart::RecordNrVerlaten() {
   const std::int32_t getal = Getalwaarde(RecordNr.Tekst());
   Gesprek& gesprek = Hoofd().gesprek;
@@ -128,6 +131,14 @@ bool RecordKaart::RecordNrVerlaten() {
   }
   ToonNummer();
   return false;
+}
+
+void RecordKaart::VorigeKlik() {
+  Stap(-1, *vorige_);
+}
+
+void RecordKaart::VolgendeKlik() {
+  Stap(1, *volgende_);
 }
 
 // To the nearest record in that direction that is one of its own.
@@ -151,12 +162,12 @@ void RecordKaart::BijToets(ToetsGebeurtenis& toets) {
   Klik(toets.code == toets::kPageUp ? *vorige_ : *volgende_);
 }
 
-void RecordKaart::ToonNieuw() {
+void RecordKaart::NieuwKlik() {
   Verplaats(kGeen);
 }
 
 // A dialog that could not store leaves no number, and the card what it shows.
-void RecordKaart::Wijzig(Knop& knop) {
+void RecordKaart::WijzigKlik(Knop& knop) {
   Huidig() = nr_;
   ToonWijzig();
   if (Huidig() == kGeen) {
@@ -166,12 +177,12 @@ void RecordKaart::Wijzig(Knop& knop) {
   }
 }
 
-void RecordKaart::ToonOpmerking(OpmKnop& knop) {
+void RecordKaart::OpmKnopKlik(OpmKnop& knop) {
   Hoofd().gesprek.Toon<ToonOpm>(Hoofd(), OpmVraagOpKaart(nr_, knop.Rubriek(), knop.VeldWaarde()));
   LaadOpnieuw(knop);
 }
 
-void RecordKaart::Verlaat() {
+void RecordKaart::TerugKlik() {
   Volgers& volgers = Hoofd().volgers;
   volgers.PersBufNr = volgers.RelBufNr = volgers.PlaatsBufNr = -1;
   Sluit();

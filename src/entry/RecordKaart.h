@@ -72,19 +72,45 @@ class RecordKaart : public KaartOp<InvoerFormulier> {
   [[nodiscard]] bool VraagNieuw();
   [[nodiscard]] bool MagTonen(std::int16_t laatste);
   void MeldLeesfout(std::int32_t nr);
+  void RecordNrBetreden();
   [[nodiscard]] bool RecordNrVerlaten();
   void ToonNummer();
+  void VorigeKlik();
+  void VolgendeKlik();
   void Stap(int stap, Knop& knop);
-  void ToonNieuw();
-  void Wijzig(Knop& knop);
-  void ToonOpmerking(OpmKnop& knop);
-  void Verlaat();
+  void NieuwKlik();
+  void WijzigKlik(Knop& knop);
+  void OpmKnopKlik(OpmKnop& knop);
+  void TerugKlik();
 
   const KaartWoorden& woorden_;
   std::int16_t nr_ = -1;
   std::int16_t gevraagd_;  // what the next load is to show
   Knop* vorige_ = nullptr;
   Knop* volgende_ = nullptr;
+};
+
+// Such a card of one class of records.
+template <class Record>
+class RecordKaartVan : public RecordKaart {
+ protected:
+  // What the card shows: the record class, and the tracker of its dialog.
+  struct Bron {
+    Record& record;
+    std::int16_t& huidig;
+  };
+
+  RecordKaartVan(std::string_view naam, std::string_view titel, Hoofdmodule& hoofd, std::int16_t nr,
+                 const KaartWoorden& woorden, const Bron& bron)
+      : RecordKaart(naam, titel, hoofd, nr, woorden), bron_(bron) {}
+
+  [[nodiscard]] std::int16_t Aantal() final { return bron_.record.AantalRecords(); }
+  [[nodiscard]] bool Lees(std::int16_t nr) final { return bron_.record.Lees(nr); }
+  [[nodiscard]] bool IsVervolg() const final { return bron_.record.IsVolgRecord(); }
+  [[nodiscard]] std::int16_t& Huidig() final { return bron_.huidig; }
+
+ private:
+  Bron bron_;
 };
 
 }  // namespace lb77

@@ -75,6 +75,7 @@ StartRecord::StartRecord(Hoofdmodule& hoofd)
     : InvoerFormulier("StartRecord", "Start Persoon / Relatie", hoofd),
       PersNr(*this, "PersNr", "Persoonsnr.", kCijfers, InvoerSoort::Persoon),
       RelNr(*this, "RelNr", "Relatienr.", kCijfers) {
+  ZetHulpOnderwerp("personen");
   for (InvoerVak* vak : {&PersNr, &RelNr}) {
     vak->ZetFilter(CijferOfN);
     vak->ZetEnter(EnterSoort::OK);

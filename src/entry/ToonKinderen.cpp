@@ -13,8 +13,6 @@ KaartVraag ToonKinderenVraag(Hoofdmodule& hoofd, std::int16_t nr) {
 
 ToonKinderen::ToonKinderen(Hoofdmodule& hoofd, std::int16_t relatie)
     : KinderenKaart("ToonKinderen", "Toon Kinderen", hoofd, relatie, 1) {
-  ErbijButton.BijKlik([this] { ErbijButtonKlik(); });
-  ErafButton.BijKlik([this] { ErafButtonKlik(); });
   KindVolg.BijKlik([this] { KindVolgKlik(); });
   MeerButton.BijKlik([this] { MeerButtonKlik(); });
   HangOp(BackButton);
@@ -30,14 +28,12 @@ bool ToonKinderen::NaarLijst() {
   return true;
 }
 
-void ToonKinderen::ErbijButtonKlik() {
+void ToonKinderen::VoegToe() {
   VoegKindToe(Hoofd(), RelatieNr());
-  LaadOpnieuw(ErbijButton);
 }
 
-void ToonKinderen::ErafButtonKlik() {
+void ToonKinderen::HaalWeg() {
   HaalKindWeg(Hoofd(), RelatieNr(), false);
-  LaadOpnieuw(ErafButton);
 }
 
 void ToonKinderen::KindVolgKlik() {

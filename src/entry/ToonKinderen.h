@@ -14,8 +14,6 @@ class ToonKinderen final : public KinderenKaart {
  public:
   ToonKinderen(Hoofdmodule& hoofd, std::int16_t relatie);
 
-  Knop ErbijButton{*this, "ErbijButton", "&Erbij"};
-  Knop ErafButton{*this, "ErafButton", "Er&af"};
   Knop KindVolg{*this, "KindVolg", "Volgorde"};
   Knop MeerButton{*this, "MeerButton", "&Meer"};
   Knop BackButton{*this, "BackButton", "&Terug"};
@@ -24,10 +22,10 @@ class ToonKinderen final : public KinderenKaart {
 
  protected:
   [[nodiscard]] bool NaarLijst() override;
+  void VoegToe() override;
+  void HaalWeg() override;
 
  private:
-  void ErbijButtonKlik();
-  void ErafButtonKlik();
   void KindVolgKlik();
   void MeerButtonKlik();
 };

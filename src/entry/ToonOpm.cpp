@@ -25,6 +25,7 @@ ToonOpm::ToonOpm(Hoofdmodule& hoofd, OpmVraag vraag, std::int16_t regel)
     : InvoerFormulier("ToonOpm", "Toon Opmerking", hoofd),
       vraag_(std::move(vraag)),
       opmRegel_(regel) {
+  ZetHulpOnderwerp("opmerkingen");
   OpmTekst.ZetAlleenLezen(true);
   Bij.ZetUit();
   MeerOpm.BijKlik([this] { MeerOpmKlik(); });

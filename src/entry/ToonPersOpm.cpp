@@ -66,6 +66,7 @@ ToonPersOpm::RubriekRegel::RubriekRegel(Formulier& formulier, int nummer)
 
 ToonPersOpm::ToonPersOpm(Hoofdmodule& hoofd, std::int16_t persoon)
     : InvoerFormulier("ToonPersOpm", "Toon Opmerkingen Persoon", hoofd), nr_(persoon) {
+  ZetHulpOnderwerp("opmerkingen");
   Rubrieken.Elk([this](int nummer, RubriekRegel& regel) {
     regel.Rubriek.BijKlik([this, nummer] { RubriekKlik(RubriekVan(nummer).rubriek); });
   });

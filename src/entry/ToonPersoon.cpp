@@ -32,11 +32,13 @@ KaartVraag ToonPersoonVraag(Hoofdmodule& hoofd, std::int16_t nr) {
 }
 
 ToonPersoon::ToonPersoon(Hoofdmodule& hoofd, std::int16_t nr)
-    : RecordKaart("ToonPersoon", "Toon Persoon", hoofd, nr, kWoorden) {
+    : RecordKaartVan("ToonPersoon", "Toon Persoon", hoofd, nr, kWoorden,
+                     {hoofd.Persoon, hoofd.volgers.HuidigPersoonNr}) {
+  ZetHulpOnderwerp("personen");
   AlgPersOpmTekst.ZetAlleenLezen(true);
   AlgPersOpmTekst.ZetLeesnaam("Algemene opmerking");
-  Pa.Nr.BijKlik([this] { NaarPersoon(Pa.Nr.Nr(), "Er is geen Vader bekend"); });
-  Ma.Nr.BijKlik([this] { NaarPersoon(Ma.Nr.Nr(), "Er is geen Moeder bekend"); });
+  Pa.Nr.BijKlik([this] { PaNrKlik(); });
+  Ma.Nr.BijKlik([this] { MaNrKlik(); });
   RelNrOuders.BijKlik([this] { RelNrOudersKlik(); });
   Partners.Elk([this](int rij, HuwRij& regel) {
     regel.RelNrP.BijKlik([this, rij] { RelNrPKlik(rij); });
@@ -51,18 +53,6 @@ KaartVraag ToonPersoon::Opnieuw() const {
   return ToonPersoonVraag(Hoofd(), Nr());
 }
 
-std::int16_t ToonPersoon::Aantal() {
-  return Hoofd().Persoon.AantalRecords();
-}
-bool ToonPersoon::Lees(std::int16_t nr) {
-  return Hoofd().Persoon.Lees(nr);
-}
-bool ToonPersoon::IsVervolg() const {
-  return Hoofd().Persoon.IsVolgRecord();
-}
-std::int16_t& ToonPersoon::Huidig() {
-  return Hoofd().volgers.HuidigPersoonNr;
-}
 void ToonPersoon::ToonWijzig() {
   Hoofd().gesprek.Toon<WijzigPersoon>(Hoofd());
 }
@@ -139,6 +129,14 @@ void ToonPersoon::ToonPartners(bool magNieuw) {
       rij.Verberg();
     }
   });
+}
+
+void ToonPersoon::PaNrKlik() {
+  NaarPersoon(Pa.Nr.Nr(), "Er is geen Vader bekend");
+}
+
+void ToonPersoon::MaNrKlik() {
+  NaarPersoon(Ma.Nr.Nr(), "Er is geen Moeder bekend");
 }
 
 void ToonPersoon::RelNrOudersKlik() {

@@ -8,6 +8,7 @@
 #include "entry/RecordKaart.h"
 #include "forms/Regels.h"
 #include "forms/Velden.h"
+#include "store/PersoonLB77.h"
 #include "store/Rubrieken.h"
 
 namespace lb77 {
@@ -16,7 +17,7 @@ namespace lb77 {
 [[nodiscard]] KaartVraag ToonPersoonVraag(Hoofdmodule& hoofd, std::int16_t nr);
 
 // HuidigPersoonNr is the person shown, -1 for none.
-class ToonPersoon final : public RecordKaart {
+class ToonPersoon final : public RecordKaartVan<PersoonLB77> {
  public:
   ToonPersoon(Hoofdmodule& hoofd, std::int16_t nr);
 
@@ -69,10 +70,6 @@ class ToonPersoon final : public RecordKaart {
   [[nodiscard]] KaartVraag Opnieuw() const override;
 
  protected:
-  [[nodiscard]] std::int16_t Aantal() override;
-  [[nodiscard]] bool Lees(std::int16_t nr) override;
-  [[nodiscard]] bool IsVervolg() const override;
-  [[nodiscard]] std::int16_t& Huidig() override;
   void ToonWijzig() override;
   void ToonRecord() override;
 
@@ -82,6 +79,8 @@ class ToonPersoon final : public RecordKaart {
   void ToonOpmerkingen();
   void ToonOuders(std::int16_t relatie);
   void ToonPartners(bool magNieuw);
+  void PaNrKlik();
+  void MaNrKlik();
   void RelNrOudersKlik();
   void RelNrPKlik(int rij);
   void RecordNrPKlik(int rij);

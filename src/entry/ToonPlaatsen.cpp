@@ -53,6 +53,7 @@ bool ToonPlaatsen::PlaatsRegel::IsGewijzigd() const {
 
 ToonPlaatsen::ToonPlaatsen(Hoofdmodule& hoofd)
     : InvoerFormulier("ToonPlaatsen", "Toon Plaatsen", hoofd) {
+  ZetHulpOnderwerp("plaatsen");
   VorigeButton.BijKlik([this] { VorigeButtonKlik(); });
   VolgendeButton.BijKlik([this] { VolgendeButtonKlik(); });
   NaarNaamButton.BijKlik([this] { NaarNaamButtonKlik(); });

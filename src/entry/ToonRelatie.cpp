@@ -35,11 +35,13 @@ KaartVraag ToonRelatieVraag(Hoofdmodule& hoofd, std::int16_t nr) {
 }
 
 ToonRelatie::ToonRelatie(Hoofdmodule& hoofd, std::int16_t nr)
-    : RecordKaart("ToonRelatie", "Toon Relatie", hoofd, nr, kWoorden) {
+    : RecordKaartVan("ToonRelatie", "Toon Relatie", hoofd, nr, kWoorden,
+                     {hoofd.Relatie, hoofd.volgers.HuidigRelatieNr}) {
+  ZetHulpOnderwerp("relaties");
   AlgRelOpmTekst.ZetAlleenLezen(true);
   AlgRelOpmTekst.ZetLeesnaam("Algemene opmerking");
-  Man.Nr.BijKlik([this] { NaarPersoon(Man.Nr.Nr(), "Er is geen Man bekend"); });
-  Vrouw.Nr.BijKlik([this] { NaarPersoon(Vrouw.Nr.Nr(), "Er is geen Vrouw bekend"); });
+  Man.Nr.BijKlik([this] { ManNrKlik(); });
+  Vrouw.Nr.BijKlik([this] { VrouwNrKlik(); });
   NaarKind.BijKlik([this] { NaarKindKlik(); });
   HangOp({VorigeRelatie, VolgendeRelatie, NieuwButton, WijzigButton, BackButton});
 }
@@ -48,18 +50,6 @@ KaartVraag ToonRelatie::Opnieuw() const {
   return ToonRelatieVraag(Hoofd(), Nr());
 }
 
-std::int16_t ToonRelatie::Aantal() {
-  return Hoofd().Relatie.AantalRecords();
-}
-bool ToonRelatie::Lees(std::int16_t nr) {
-  return Hoofd().Relatie.Lees(nr);
-}
-bool ToonRelatie::IsVervolg() const {
-  return Hoofd().Relatie.IsVolgRecord();
-}
-std::int16_t& ToonRelatie::Huidig() {
-  return Hoofd().volgers.HuidigRelatieNr;
-}
 void ToonRelatie::ToonWijzig() {
   Hoofd().gesprek.Toon<WijzigRelatie>(Hoofd());
 }
@@ -121,6 +111,14 @@ void ToonRelatie::ToonKindertal() {
   int aantal = 0;
   for (std::size_t i = 1; i < tab.size() && tab[i] > 0; ++i) ++aantal;
   Kindertal.ZetTekst(aantal > 0 ? GetalTekst(aantal) : "geen");
+}
+
+void ToonRelatie::ManNrKlik() {
+  NaarPersoon(Man.Nr.Nr(), "Er is geen Man bekend");
+}
+
+void ToonRelatie::VrouwNrKlik() {
+  NaarPersoon(Vrouw.Nr.Nr(), "Er is geen Vrouw bekend");
 }
 
 void ToonRelatie::NaarPersoon(int nr, std::string_view geen) {

@@ -6,6 +6,7 @@
 #include "entry/KaartVelden.h"
 #include "entry/RecordKaart.h"
 #include "forms/Velden.h"
+#include "store/RelatieLB77.h"
 #include "store/Rubrieken.h"
 
 namespace lb77 {
@@ -14,7 +15,7 @@ namespace lb77 {
 [[nodiscard]] KaartVraag ToonRelatieVraag(Hoofdmodule& hoofd, std::int16_t nr);
 
 // HuidigRelatieNr is the relation shown, -1 for none.
-class ToonRelatie final : public RecordKaart {
+class ToonRelatie final : public RecordKaartVan<RelatieLB77> {
  public:
   ToonRelatie(Hoofdmodule& hoofd, std::int16_t nr);
 
@@ -57,10 +58,6 @@ class ToonRelatie final : public RecordKaart {
   [[nodiscard]] KaartVraag Opnieuw() const override;
 
  protected:
-  [[nodiscard]] std::int16_t Aantal() override;
-  [[nodiscard]] bool Lees(std::int16_t nr) override;
-  [[nodiscard]] bool IsVervolg() const override;
-  [[nodiscard]] std::int16_t& Huidig() override;
   void ToonWijzig() override;
   void ToonRecord() override;
 
@@ -69,6 +66,8 @@ class ToonRelatie final : public RecordKaart {
   void ToonOpmerkingen();
   void ToonPartners();
   void ToonKindertal();
+  void ManNrKlik();
+  void VrouwNrKlik();
   void NaarKindKlik();
   void NaarPersoon(int nr, std::string_view geen);
 };

@@ -6,6 +6,7 @@ namespace lb77 {
 
 VraagFilter::VraagFilter(NaamFilter& filter)
     : Formulier("VraagFilter", "Zoek Persoon - Filter op Naam"), filter_(filter) {
+  ZetHulpOnderwerp("zoeken");
   OKButton.BijKlik([this] { OKButtonKlik(); });
   BackButton.BijKlik([this] { Sluit(); });
   AchterNm.ZetEnter(EnterSoort::OK);

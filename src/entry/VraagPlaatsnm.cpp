@@ -18,19 +18,17 @@ constexpr std::int16_t kNooitToevoegen = -1;
 VraagPlaatsnm::VraagPlaatsnm(Hoofdmodule& hoofd)
     : InvoerFormulier("VraagPlaatsnm", "Ga naar een Plaatsnaam", hoofd),
       PlaatsnaamTekst(*this, "PlaatsnaamTekst", "Plaatsnaam:", plaatsveld::Naam.breedte) {
-  PlaatsnaamTekst.BijVerlaten([this] {
-    Zoek();
-    return true;
-  });
+  ZetHulpOnderwerp("plaatsen");
+  PlaatsnaamTekst.BijVerlaten([this] { return PlaatsnaamTekstVerlaten(); });
   OKButton.BijKlik([this] { OKButtonKlik(); });
   BackButton.BijKlik([this] { Sluit(); });
   ZetEersteVeld(PlaatsnaamTekst);
 }
 
 // A name that was found is not asked about again.
-void VraagPlaatsnm::Zoek() {
+bool VraagPlaatsnm::PlaatsnaamTekstVerlaten() {
   const std::string& naam = PlaatsnaamTekst.Tekst();
-  if (gevonden_ > 0 && naam == gezocht_) return;
+  if (gevonden_ > 0 && naam == gezocht_) return true;
   gezocht_ = naam;
   gevonden_ = 0;
   PlaatsLB77& plaats = Hoofd().Plaats;
@@ -41,6 +39,7 @@ void VraagPlaatsnm::Zoek() {
   }
   PlaatsnrTekst.ZetTekst(NrTekst(gevonden_));
   ProvcodeTekst.ZetTekst(gevonden_ > 0 ? plaats.Prov(gevonden_) : std::string());
+  return true;
 }
 
 void VraagPlaatsnm::OKButtonKlik() {

@@ -26,7 +26,7 @@ class VraagPlaatsnm final : public InvoerFormulier {
   [[nodiscard]] std::int16_t Nr() const { return nr_; }
 
  private:
-  void Zoek();
+  [[nodiscard]] bool PlaatsnaamTekstVerlaten();
   void OKButtonKlik();
 
   std::int16_t gevonden_ = 0;

@@ -23,6 +23,7 @@ class VraagPlaatsnr final : public InvoerFormulier {
   [[nodiscard]] std::int16_t Nr() const { return nr_; }
 
  private:
+  [[nodiscard]] bool RecordNrVerlaten();
   void OKButtonKlik();
 
   std::int16_t nr_ = 0;

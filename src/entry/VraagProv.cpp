@@ -19,6 +19,7 @@ std::string TweeTekens(std::string_view prov) {
 
 VraagProv::VraagProv(std::string_view naam, std::string_view prov)
     : Formulier("VraagProv", "Invoer Plaats - Provinciecode"), plaatsProv_(TweeTekens(prov)) {
+  ZetHulpOnderwerp("plaatsen");
   PltsLabel.ZetTekst(naam);
   ProvCode.ZetFilter(InHoofdletters);
   ProvCode.ZetEnter(EnterSoort::OK);

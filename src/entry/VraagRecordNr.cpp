@@ -11,7 +11,9 @@ VraagRecordNr::VraagRecordNr(std::string_view titel, Controle controle)
   RecordNr.ZetFilter(AlleenCijfers);
   RecordNr.ZetEnter(EnterSoort::OK);
   if (controle) {
-    RecordNr.BijVerlaten([this, toets = std::move(controle)] { return toets(RecordNr.Tekst()); });
+    RecordNr.BijVerlaten([this, recordNrVerlaten = std::move(controle)] {
+      return recordNrVerlaten(RecordNr.Tekst());
+    });
   }
   OKButton.BijKlik([this] { OKButtonKlik(); });
   BackButton.BijKlik([this] { Sluit(); });

@@ -14,6 +14,7 @@ WijzigOpm::WijzigOpm(Hoofdmodule& hoofd, OpmVraag vraag, std::int16_t regel)
     : InvoerFormulier("WijzigOpm", "Wijzig Opmerking", hoofd),
       vraag_(std::move(vraag)),
       opmRegel_(regel) {
+  ZetHulpOnderwerp("opmerkingen");
   KoppelVeldToets(*this, OpmTekst, InvoerSoort::Tekst, hoofd);
   Opslaan.BijKlik([this] { OpslaanKlik(); });
   BackButton.BijKlik([this] { BackButtonKlik(); });

@@ -20,6 +20,8 @@ namespace lb77 {
 namespace {
 
 constexpr std::string_view kGeslachten = "OMV";
+constexpr std::string_view kVader(&geslacht::kMan, 1);
+constexpr std::string_view kMoeder(&geslacht::kVrouw, 1);
 
 Koppelingen Koppel(Hoofdmodule& hoofd) {
   return {hoofd.Persoon, hoofd.Relatie, hoofd.volgers, hoofd.gesprek};
@@ -27,34 +29,17 @@ Koppelingen Koppel(Hoofdmodule& hoofd) {
 
 }  // namespace
 
-PartnerRij::PartnerRij(Formulier& formulier, int nummer)
-    : LabelP(formulier, Genummerd("LabelP", nummer), "Partner " + GetalTekst(nummer)),
-      RelNrP(formulier, Genummerd("RelNrP", nummer)),
-      RecordNrP(formulier, Genummerd("RecordNrP", nummer)),
-      VoorNmP(formulier, Genummerd("VoorNmP", nummer)),
-      AchterNmP(formulier, Genummerd("AchterNmP", nummer)) {}
-
-void PartnerRij::ZetZichtbaar(bool zichtbaar) {
-  LabelP.ZetZichtbaar(zichtbaar);
-  for (Teller* deel : {&RelNrP, &RecordNrP, &VoorNmP, &AchterNmP}) deel->ZetZichtbaar(zichtbaar);
-}
-
 WijzigPersoon::WijzigPersoon(Hoofdmodule& hoofd)
     : InvoerFormulier("WijzigPersoon", "Wijzig Persoon", hoofd) {
+  ZetHulpOnderwerp("personen");
   ZetEersteVeld(Geslacht);
   ZetLeesnamen();
   BindVelden();
   Geslacht.ZetFilter(InHoofdletters);
-  Geslacht.BijBetreden([this] {
-    OudGeslacht = Geslacht.Tekst();
-    geweigerd_ = false;
-  });
+  Geslacht.BijBetreden([this] { GeslachtBetreden(); });
   Geslacht.BijVerlaten([this] { return GeslachtVerlaten(); });
   for (CorrectieVak* corr : {&GebCorr, &OvlCorr}) {
-    corr->BijVerlaten([this] {
-      ToonPeriodes();
-      return true;
-    });
+    corr->BijVerlaten([this] { return CorrVerlaten(); });
   }
   RelNrOuders.BijVerlaten([this] { return RelNrOudersVerlaten(); });
   Opslaan.BijKlik([this] { OpslaanKlik(); });
@@ -213,6 +198,11 @@ bool WijzigPersoon::Weiger(Bediening& veld, std::string_view melding) {
 }
 
 // The text of a function key has passed no filter. A damaged letter that nobody touched is let go.
+void WijzigPersoon::GeslachtBetreden() {
+  OudGeslacht = Geslacht.Tekst();
+  geweigerd_ = false;
+}
+
 bool WijzigPersoon::GeslachtVerlaten() {
   if (Geslacht.Tekst() == OudGeslacht) return true;
   const std::string geslacht = Hoofdletters(Geslacht.Tekst());
@@ -231,6 +221,11 @@ bool WijzigPersoon::GeslachtVerlaten() {
 }
 
 // The focus goes to the button that leads back: the parents are known now.
+bool WijzigPersoon::CorrVerlaten() {
+  ToonPeriodes();
+  return true;
+}
+
 bool WijzigPersoon::RelNrOudersVerlaten() {
   const std::int16_t relatie = RelNrOuders.Nr();
   if (relatie != 0 && !Hoofd().Relatie.Lees(relatie)) return false;
@@ -254,7 +249,7 @@ void WijzigPersoon::OpslaanKlik() {
 // The checks read other records, and take the trackers along.
 bool WijzigPersoon::IsInOrde() {
   const VolgersBewaker bewaker(Hoofd().volgers);
-  return MagGeslacht() && IsChronologisch() && ZoekOpNaam(Pa, "M") && ZoekOpNaam(Ma, "V") &&
+  return MagGeslacht() && IsChronologisch() && ZoekOpNaam(Pa, kVader) && ZoekOpNaam(Ma, kMoeder) &&
          HoortBijNaam(Pa, "Vader") && HoortBijNaam(Ma, "Moeder") && VindRelatie() &&
          KloptRelatie() && HeeftNummer() && MaakLos() && MaakVast();
 }

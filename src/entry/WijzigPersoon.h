@@ -10,6 +10,7 @@
 #include "entry/DatumVak.h"
 #include "entry/GezindteVak.h"
 #include "entry/InvoerVak.h"
+#include "entry/PartnerRij.h"
 #include "entry/PersoonVak.h"
 #include "entry/PlaatsVak.h"
 #include "entry/RecordNrVak.h"
@@ -18,18 +19,6 @@
 #include "forms/Weergave.h"
 
 namespace lb77 {
-
-// A relation of the person at hand, and the partner in it.
-struct PartnerRij {
-  PartnerRij(Formulier& formulier, int nummer);
-  void ZetZichtbaar(bool zichtbaar);
-
-  Label LabelP;
-  Teller RelNrP;
-  Teller RecordNrP;
-  Teller VoorNmP;
-  Teller AchterNmP;
-};
 
 // Edits HuidigPersoonNr; -1 enters a new person. Afterwards HuidigPersoonNr is the person, or -1 when
 // there is none.
@@ -81,8 +70,10 @@ class WijzigPersoon final : public InvoerFormulier {
   void ToonPartners();
   void ToonPeriodes();
 
-  // Leaving a field.
+  // Entering and leaving a field.
+  void GeslachtBetreden();
   [[nodiscard]] bool GeslachtVerlaten();
+  [[nodiscard]] bool CorrVerlaten();
   [[nodiscard]] bool RelNrOudersVerlaten();
 
   // The chain of Opslaan, in its order; False ends it, with the focus where it is to be.

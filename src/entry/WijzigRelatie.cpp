@@ -61,6 +61,7 @@ RelatieOpmRij::RelatieOpmRij(Formulier& formulier, int nummer)
 
 WijzigRelatie::WijzigRelatie(Hoofdmodule& hoofd)
     : InvoerFormulier("WijzigRelatie", "Wijzig Relatie", hoofd) {
+  ZetHulpOnderwerp("relaties");
   ZetEersteVeld(Man.RecordNr);
   ZetLeesnamen();
   BindVelden();
@@ -69,10 +70,7 @@ WijzigRelatie::WijzigRelatie(Hoofdmodule& hoofd)
   }
   Man.RecordNr.BijVerlaten([this] { return RecordNrVerlaten(DeMan()); });
   Vrouw.RecordNr.BijVerlaten([this] { return RecordNrVerlaten(DeVrouw()); });
-  HuwCorr.BijVerlaten([this] {
-    KHuwPlts.ZetZichtbaar(!HuwCorr.IsTussen());
-    return true;
-  });
+  HuwCorr.BijVerlaten([this] { return HuwCorrVerlaten(); });
   Opslaan.BijKlik([this] { OpslaanKlik(); });
   BackButton.BijKlik([this] { BackButtonKlik(); });
 }
@@ -213,6 +211,11 @@ bool WijzigRelatie::Weiger(Bediening& veld, std::string_view melding) {
 }
 
 // What was accepted counts as what stood there: the focus may come back without an event.
+bool WijzigRelatie::HuwCorrVerlaten() {
+  KHuwPlts.ZetZichtbaar(!HuwCorr.IsTussen());
+  return true;
+}
+
 bool WijzigRelatie::RecordNrVerlaten(const Partner& partner) {
   const std::string tekst = partner.vak.RecordNr.Tekst();
   if (tekst == OudeTekst) return true;

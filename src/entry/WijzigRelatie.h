@@ -76,6 +76,7 @@ class WijzigRelatie final : public InvoerFormulier {
   void ToonKindertal();
 
   // Leaving a field.
+  [[nodiscard]] bool HuwCorrVerlaten();
   [[nodiscard]] bool RecordNrVerlaten(const Partner& partner);
   [[nodiscard]] bool MagSekse(const Partner& partner);
 

@@ -1,6 +1,7 @@
 #include "entry/ZoekPrs.h"
 
 #include <algorithm>
+#include <initializer_list>
 
 #include "app/Hoofdmodule.h"
 #include "entry/PersInfoForm.h"
@@ -19,15 +20,50 @@ constexpr std::int32_t kTerug = 2 * ZoekPrs::kRijen - 1;
 constexpr std::string_view kStartFilter = "Start Filter";
 constexpr std::string_view kFilterUit = "Filter Uit";
 
+void ToonOuder(Knop& knop, std::int16_t nr) {
+  knop.ZetBijschrift(NrTekst(nr));
+  knop.ZetZichtbaar(nr > 0);
+}
+
 }  // namespace
 
-ZoekPrs::ZoekPrs(Hoofdmodule& hoofd) : Formulier("ZoekPrs", "Zoek Persoon"), hoofd_(hoofd) {
-  for (int rij = 1; rij <= kRijen; ++rij) {
-    RecordNrPrs(rij).BijKlik([this, rij] { RecordNrPrsKlik(rij); });
-    InfoPersoon(rij).BijKlik([this, rij] { InfoPersoonKlik(rij); });
-    NaarPa(rij).BijKlik([this, rij] { GaNaarRecord(Getalwaarde(NaarPa(rij).Bijschrift())); });
-    NaarMa(rij).BijKlik([this, rij] { GaNaarRecord(Getalwaarde(NaarMa(rij).Bijschrift())); });
+ZoekRij::ZoekRij(Formulier& formulier, int nummer)
+    : RecordNrPrs(formulier, Genummerd("RecordNrPrs", nummer), ""),
+      VoorNmPrs(formulier, Genummerd("VoorNmPrs", nummer)),
+      AchterNmPrs(formulier, Genummerd("AchterNmPrs", nummer)),
+      Periode(formulier, Genummerd("Periode", nummer)),
+      InfoPersoon(formulier, Genummerd("InfoPersoon", nummer), "i"),
+      NaarPa(formulier, Genummerd("NaarPa", nummer), ""),
+      NaarMa(formulier, Genummerd("NaarMa", nummer), "") {}
+
+void ZoekRij::Toon(PersoonLB77& persoon, std::int16_t nr) {
+  ZetZichtbaar(true);
+  RecordNrPrs.ZetBijschrift(NrTekst(nr));
+  VoorNmPrs.ZetTekst(persoon.VoorNaamTrue());
+  AchterNmPrs.ZetTekst(persoon.AchterNaamTrue());
+  Periode.ZetTekst(persoon.Periode(nr));
+}
+
+void ZoekRij::ToonOuders(std::int16_t pa, std::int16_t ma) {
+  ToonOuder(NaarPa, pa);
+  ToonOuder(NaarMa, ma);
+}
+
+void ZoekRij::ZetZichtbaar(bool zichtbaar) {
+  for (Bediening* deel : std::initializer_list<Bediening*>{
+           &RecordNrPrs, &VoorNmPrs, &AchterNmPrs, &Periode, &InfoPersoon, &NaarPa, &NaarMa}) {
+    deel->ZetZichtbaar(zichtbaar);
   }
+}
+
+ZoekPrs::ZoekPrs(Hoofdmodule& hoofd) : Formulier("ZoekPrs", "Zoek Persoon"), hoofd_(hoofd) {
+  ZetHulpOnderwerp("zoeken");
+  Personen.Elk([this](int, ZoekRij& rij) {
+    rij.RecordNrPrs.BijKlik([this, &rij] { RecordNrPrsKlik(rij); });
+    rij.InfoPersoon.BijKlik([this, &rij] { InfoPersoonKlik(rij); });
+    rij.NaarPa.BijKlik([this, &rij] { NaarPaKlik(rij); });
+    rij.NaarMa.BijKlik([this, &rij] { NaarMaKlik(rij); });
+  });
   Vorige.BijKlik([this] { VorigeKlik(); });
   Volgende.BijKlik([this] { VolgendeKlik(); });
   NaarNr.BijKlik([this] { NaarNrKlik(); });
@@ -49,10 +85,10 @@ void ZoekPrs::LaadPagina() {
     const auto kandidaat = static_cast<std::int16_t>(nr);
     if (!hoofd_.Persoon.Lees(kandidaat)) break;
     if (!IsToonbaar()) continue;
-    VulRij(++rij, kandidaat);
+    VulRij(Personen(++rij), kandidaat);
     huidig = kandidaat;
   }
-  while (rij < kRijen) ToonRij(++rij, false);
+  while (rij < kRijen) Personen(++rij).Verberg();
 }
 
 // Does the person in the buffer belong in the list?
@@ -62,33 +98,12 @@ bool ZoekPrs::IsToonbaar() const {
          filter_.LaatDoor(persoon.VoorNaamTrue(), persoon.AchterNaamTrue());
 }
 
-void ZoekPrs::VulRij(int rij, std::int16_t nr) {
-  PersoonLB77& persoon = hoofd_.Persoon;
-  ToonRij(rij, true);
-  RecordNrPrs(rij).ZetBijschrift(NrTekst(nr));
-  VoorNmPrs(rij).ZetTekst(persoon.VoorNaamTrue());
-  AchterNmPrs(rij).ZetTekst(persoon.AchterNaamTrue());
-  Periode(rij).ZetTekst(persoon.Periode(nr));
-  const std::int16_t ouders = persoon.RelNrOuders();
+void ZoekPrs::VulRij(ZoekRij& rij, std::int16_t nr) {
+  const std::int16_t ouders = hoofd_.Persoon.RelNrOuders();
+  rij.Toon(hoofd_.Persoon, nr);
   const bool bekend = ouders > 0 && hoofd_.Relatie.Lees(ouders);
-  ToonOuder(NaarPa(rij), bekend ? hoofd_.Relatie.ManNr() : std::int16_t{0});
-  ToonOuder(NaarMa(rij), bekend ? hoofd_.Relatie.VrouwNr() : std::int16_t{0});
-}
-
-// A parent who is not known has no button.
-void ZoekPrs::ToonOuder(Knop& knop, std::int16_t nr) {
-  knop.ZetBijschrift(NrTekst(nr));
-  knop.ZetZichtbaar(nr > 0);
-}
-
-void ZoekPrs::ToonRij(int rij, bool zichtbaar) {
-  RecordNrPrs(rij).ZetZichtbaar(zichtbaar);
-  VoorNmPrs(rij).ZetZichtbaar(zichtbaar);
-  AchterNmPrs(rij).ZetZichtbaar(zichtbaar);
-  Periode(rij).ZetZichtbaar(zichtbaar);
-  InfoPersoon(rij).ZetZichtbaar(zichtbaar);
-  NaarPa(rij).ZetZichtbaar(zichtbaar);
-  NaarMa(rij).ZetZichtbaar(zichtbaar);
+  rij.ToonOuders(bekend ? hoofd_.Relatie.ManNr() : std::int16_t{0},
+                 bekend ? hoofd_.Relatie.VrouwNr() : std::int16_t{0});
 }
 
 // Starts the page at `nr`; one past the end shows the last records instead.
@@ -142,19 +157,27 @@ void ZoekPrs::FilterButtonKlik() {
   LaadPagina();
 }
 
-// kept: a step to the next or the previous page starts from this person afterwards.
-void ZoekPrs::InfoPersoonKlik(int rij) {
-  ZetHuidig(rij);
-  hoofd_.gesprek.Toon<PersInfoForm>(hoofd_);
-}
-
-void ZoekPrs::RecordNrPrsKlik(int rij) {
+void ZoekPrs::RecordNrPrsKlik(const ZoekRij& rij) {
   ZetHuidig(rij);
   Sluit();
 }
 
-void ZoekPrs::ZetHuidig(int rij) {
-  const auto nr = NaarInt16(Getalwaarde(RecordNrPrs(rij).Bijschrift()));
+// kept: a step to the next or the previous page starts from this person afterwards.
+void ZoekPrs::InfoPersoonKlik(const ZoekRij& rij) {
+  ZetHuidig(rij);
+  hoofd_.gesprek.Toon<PersInfoForm>(hoofd_);
+}
+
+void ZoekPrs::NaarPaKlik(const ZoekRij& rij) {
+  GaNaarRecord(Getalwaarde(rij.NaarPa.Bijschrift()));
+}
+
+void ZoekPrs::NaarMaKlik(const ZoekRij& rij) {
+  GaNaarRecord(Getalwaarde(rij.NaarMa.Bijschrift()));
+}
+
+void ZoekPrs::ZetHuidig(const ZoekRij& rij) {
+  const auto nr = NaarInt16(Getalwaarde(rij.RecordNrPrs.Bijschrift()));
   hoofd_.volgers.HuidigPersoonNr = nr.value_or(std::int16_t{0});
 }
 

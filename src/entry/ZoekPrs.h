@@ -5,11 +5,36 @@
 
 #include "entry/NaamFilter.h"
 #include "forms/Formulier.h"
-#include "forms/Rij.h"
+#include "forms/Keuzen.h"
+#include "forms/Regels.h"
+#include "forms/Weergave.h"
 
 namespace lb77 {
 
 class Hoofdmodule;
+class PersoonLB77;
+
+// One person of the list.
+struct ZoekRij {
+  ZoekRij(Formulier& formulier, int nummer);
+
+  Knop RecordNrPrs;
+  Teller VoorNmPrs;
+  Teller AchterNmPrs;
+  Teller Periode;
+  Knop InfoPersoon;
+  Knop NaarPa;
+  Knop NaarMa;
+
+  // The person in the buffer, who is record `nr`.
+  void Toon(PersoonLB77& persoon, std::int16_t nr);
+  // A parent who is not known (0) has no button.
+  void ToonOuders(std::int16_t pa, std::int16_t ma);
+  void Verberg() { ZetZichtbaar(false); }
+
+ private:
+  void ZetZichtbaar(bool zichtbaar);
+};
 
 // HuidigPersoonNr says where a page starts, and holds the last number shown once it is built; a
 // page that shows nobody leaves it at its start. Closed, it is the person chosen, or 0.
@@ -19,13 +44,7 @@ class ZoekPrs final : public Formulier {
 
   explicit ZoekPrs(Hoofdmodule& hoofd);
 
-  Rij<Knop, kRijen> RecordNrPrs{*this, "RecordNrPrs", 1, ""};
-  Rij<Teller, kRijen> VoorNmPrs{*this, "VoorNmPrs", 1};
-  Rij<Teller, kRijen> AchterNmPrs{*this, "AchterNmPrs", 1};
-  Rij<Teller, kRijen> Periode{*this, "Periode", 1};
-  Rij<Knop, kRijen> InfoPersoon{*this, "InfoPersoon", 1, "i"};
-  Rij<Knop, kRijen> NaarPa{*this, "NaarPa", 1, ""};
-  Rij<Knop, kRijen> NaarMa{*this, "NaarMa", 1, ""};
+  Regels<ZoekRij, kRijen> Personen{*this, 1};
   Knop Vorige{*this, "Vorige", "V&orige"};
   Knop Volgende{*this, "Volgende", "&Volgende"};
   Knop NaarNr{*this, "NaarNr", "&Naar Nummer"};
@@ -38,9 +57,7 @@ class ZoekPrs final : public Formulier {
  private:
   void LaadPagina();
   [[nodiscard]] bool IsToonbaar() const;
-  void VulRij(int rij, std::int16_t nr);
-  static void ToonOuder(Knop& knop, std::int16_t nr);
-  void ToonRij(int rij, bool zichtbaar);
+  void VulRij(ZoekRij& rij, std::int16_t nr);
   void BeginBij(std::int32_t nr);
   void GaNaarRecord(std::int32_t nr);
   void VolgendeKlik();
@@ -48,9 +65,11 @@ class ZoekPrs final : public Formulier {
   [[nodiscard]] std::int32_t VorigeMetFilter();
   void NaarNrKlik();
   void FilterButtonKlik();
-  void InfoPersoonKlik(int rij);
-  void RecordNrPrsKlik(int rij);
-  void ZetHuidig(int rij);
+  void RecordNrPrsKlik(const ZoekRij& rij);
+  void InfoPersoonKlik(const ZoekRij& rij);
+  void NaarPaKlik(const ZoekRij& rij);
+  void NaarMaKlik(const ZoekRij& rij);
+  void ZetHuidig(const ZoekRij& rij);
   void BackButtonKlik();
 
   Hoofdmodule& hoofd_;

@@ -6,7 +6,10 @@
 #include "exchange/GedNaam.h"
 #include "exchange/GedRegel.h"
 #include "exchange/OpmAfbreken.h"
+#include "exchange/OpmTags.h"
+#include "store/Codes.h"
 #include "text/Getallen.h"
+#include "text/Tekens.h"
 
 namespace lb77 {
 
@@ -30,13 +33,10 @@ constexpr std::array kTagwissels = {
 };
 constexpr std::string_view kNote = "NOTE";
 // In which kinds of output an imported remark appears.
-// kept: the bits of Kwartierstaat, Stamreeks and Genealogie, and one without a meaning; not that of
-// the Gezinsblad.
-constexpr std::int16_t kBijProg = 23;
-
-bool IsVervolg(std::string_view tag) {
-  return tag == "CONC" || tag == "CONT";
-}
+// kept: a bit without a meaning is among them, and that of the Gezinsblad is not.
+constexpr std::int16_t kZonderBetekenis = 16;
+constexpr std::int16_t kBijProg =
+    uitvoer::kKwartierstaat | uitvoer::kStamreeks | uitvoer::kGenealogie | kZonderBetekenis;
 
 }  // namespace
 
@@ -47,6 +47,7 @@ struct ImpOpmerkingen::Regel {
   std::string_view bron;   // its tag in the file
   std::string_view tag;
   std::string waarde;
+  std::string_view eigen;  // its value in the file
 };
 
 ImpOpmerkingen::ImpOpmerkingen(ImpLoop& loop) : loop_(loop), rubrieken_(AlleOpmRubrieken()) {}
@@ -61,19 +62,28 @@ ImpUitslag ImpOpmerkingen::Voer(RegelLezer& lezer) {
     ImpUitslag uitslag = delen.level == 0 ? NeemKop(delen) : NeemRegel(delen);
     if (!uitslag.Gelukt()) return uitslag;
   }
+  if (einde_) TelAchterSlot(lezer);
   return {};
+}
+
+void ImpOpmerkingen::TelAchterSlot(RegelLezer& lezer) {
+  std::string_view regel;
+  for (std::int32_t nr = loop_.stand.regels + 1; lezer.Volgende(regel); ++nr) {
+    if (!Trim(regel).empty()) loop_.verliezen.Tel(Verlies::AchterSlot, nr);
+  }
 }
 
 ImpUitslag ImpOpmerkingen::NeemKop(const GedDelen& delen) {
   ImpUitslag uitslag = Bewaar();
   pad_.Zet(0, delen.tag);
-  if (delen.tag == kNote) loop_.TelVerlies(Verlies::NietOvergenomen);
+  kwijt_ = delen.tag == kNote;
+  if (kwijt_) loop_.TelVerlies(Verlies::NietOvergenomen);
   einde_ = loop_.Kop(delen) == GedSoort::Einde;
   return uitslag;
 }
 
 ImpUitslag ImpOpmerkingen::NeemRegel(const GedDelen& delen) {
-  if (IsVervolg(delen.tag)) {
+  if (IsVervolgTag(delen.tag)) {
     NeemVervolg(delen);
     return {};
   }
@@ -85,16 +95,25 @@ ImpUitslag ImpOpmerkingen::NeemRegel(const GedDelen& delen) {
   if (pad == "INDI-NAME") ToonNaam(delen.waarde);
   ImpUitslag uitslag = Bewaar();
   if (!uitslag.Gelukt()) return uitslag;
-  Regel regel{pad_.Ouder(delen.level), pad, delen.tag, tag, {}};
+  Regel regel{pad_.Ouder(delen.level), pad, delen.tag, tag, {}, delen.waarde};
   if (gewisseld) regel.waarde = wissel->voor;
   regel.waarde += delen.waarde;
-  if (IsVreemd(regel.ouder)) {
-    if (delen.tag == kNote) loop_.TelVerlies(Verlies::NietOvergenomen);
-    return {};
+  if (!IsVreemd(regel.ouder)) {
+    MaakOpmerking(regel);
+    if (regel.tag == kNote) Wacht(regel);
   }
-  WordtOpmerking(regel);
-  if (regel.tag == kNote) Wacht(regel);
+  kwijt_ = rubriek_ == 0 && regel.tag == kNote;
+  if (rubriek_ == 0) TelKwijt(regel.bron, regel.eigen);
   return {};
+}
+
+// Of a line that made no remark. What the second pass did not leave to this one it has dealt with.
+void ImpOpmerkingen::TelKwijt(std::string_view bron, std::string_view waarde) {
+  if (bron == kNote) {
+    loop_.TelVerlies(Verlies::NietOvergenomen);
+  } else if (WordtOpmerking(bron) && !Trim(waarde).empty() && pad_.Van(0) != "HEAD") {
+    loop_.TelVerlies(Verlies::Tekst);
+  }
 }
 
 // A level that was skipped may have a path that another kind of record left there.
@@ -105,8 +124,11 @@ bool ImpOpmerkingen::IsVreemd(std::string_view pad) const {
 void ImpOpmerkingen::NeemVervolg(const GedDelen& delen) {
   const std::string& ouder = pad_.Ouder(delen.level);
   if (ouder.ends_with(kNote)) {
-    // Without a rubric the text goes nowhere.
-    if (rubriek_ == 0) return;
+    // Without a rubric the text goes nowhere; that of a note went with it.
+    if (rubriek_ == 0) {
+      if (!kwijt_ && !Trim(delen.waarde).empty()) loop_.TelVerlies(Verlies::Vervolg);
+      return;
+    }
     if (delen.tag == "CONT") tekst_ += ' ';
     tekst_ += delen.waarde;
   } else if (ouder != "SUBM" && ouder != "SUBM-ADDR") {
@@ -124,7 +146,7 @@ void ImpOpmerkingen::ToonNaam(std::string_view waarde) {
 }
 
 // What stands below an event, an address or an adoption is told as a note.
-void ImpOpmerkingen::WordtOpmerking(Regel& regel) {
+void ImpOpmerkingen::MaakOpmerking(Regel& regel) {
   if (regel.ouder.ends_with("EVEN")) {
     const std::string_view wat = regel.bron == "TYPE" ? regel.ouder : regel.pad;
     regel.waarde = std::string(wat) + " : " + regel.waarde;
@@ -149,7 +171,6 @@ void ImpOpmerkingen::Wacht(const Regel& regel) {
   tekst_ = rij != nullptr ? rij->voor : std::string_view();
   tekst_ += regel.waarde;
   regel_ = loop_.stand.regels;
-  if (rubriek_ == 0 && regel.bron == kNote) loop_.TelVerlies(Verlies::NietOvergenomen);
 }
 
 ImpUitslag ImpOpmerkingen::Bewaar() {

@@ -27,11 +27,13 @@ class ImpOpmerkingen {
   [[nodiscard]] ImpUitslag NeemKop(const GedDelen& delen);
   [[nodiscard]] ImpUitslag NeemRegel(const GedDelen& delen);
   void NeemVervolg(const GedDelen& delen);
-  void WordtOpmerking(Regel& regel);
+  void MaakOpmerking(Regel& regel);
   void ToonNaam(std::string_view waarde);
   [[nodiscard]] std::string AdoptieDatum(std::string_view waarde);
   [[nodiscard]] bool IsVreemd(std::string_view pad) const;
   void Wacht(const Regel& regel);
+  void TelKwijt(std::string_view bron, std::string_view waarde);
+  void TelAchterSlot(RegelLezer& lezer);
   [[nodiscard]] ImpUitslag Bewaar();
   [[nodiscard]] ImpUitslag Schrijf(std::int16_t begin, std::int16_t persoon, std::int16_t relatie);
 
@@ -41,6 +43,7 @@ class ImpOpmerkingen {
   std::string tekst_;         // of the note that waits, as the file has it
   std::int32_t regel_ = 0;    // in which that note begins
   std::int16_t rubriek_ = 0;  // of that note; 0 when none waits
+  bool kwijt_ = false;        // the line at hand is a note that was not taken over
   bool einde_ = false;
 };
 

@@ -4,21 +4,20 @@
 #include <array>
 
 #include "exchange/GedRegel.h"
+#include "exchange/OpmTags.h"
 #include "text/Letterlijk.h"
+#include "text/Tekens.h"
 
 namespace lb77 {
 
 namespace {
 
 constexpr std::string_view kSchema = "SUBM-SCHEMA";
-// Lines that the third pass takes as remarks.
-constexpr std::array<std::string_view, 8> kWordtOpmerking = {"_COMM", "_ALIA", "RFN",  "AFN",
-                                                             "SOUR",  "CAUS",  "TYPE", "ADOP"};
-constexpr std::array<std::string_view, 3> kOpmerking = {"CONT", "CONC", "NOTE"};
+// Whose value is no loss: the third pass has it, the name holds it too, or it tells of the file.
+constexpr std::array<std::string_view, 3> kZonderVerlies = {"ADDR", "SPFX", "DATE"};
 
 bool IsVoorOpmerkingen(std::string_view tag) {
-  return std::ranges::find(kOpmerking, tag) != kOpmerking.end() ||
-         std::ranges::find(kWordtOpmerking, tag) != kWordtOpmerking.end();
+  return tag == "NOTE" || IsVervolgTag(tag) || WordtOpmerking(tag);
 }
 
 }  // namespace
@@ -79,9 +78,13 @@ bool ImpRecords::NeemRegel(GedDelen delen) {
   const Groep groep = GroepVan(ouder);
   // A level that was skipped may leave a path of a record that is not being built any more.
   if (groep == Groep::Persoon && InPersoon()) {
-    if (const auto* rij = persoonPaden_.Zoek(pad)) return persoon_.Neem(*rij, delen.waarde);
+    if (const auto* rij = persoonPaden_.Zoek(pad)) {
+      if (rij->actie == PersoonActie::Niets) TelTekst(delen);
+      return persoon_.Neem(*rij, delen.waarde);
+    }
   } else if (groep == Groep::Relatie && InRelatie()) {
     if (const auto* rij = relatiePaden_.Zoek(pad)) {
+      if (rij->actie == RelatieActie::Niets) TelTekst(delen);
       return relatie_.Neem(*rij, delen.waarde, persoon_.LaatsteOvlCorr());
     }
   } else if (const auto* rij = overigePaden_.Zoek(pad)) {
@@ -90,6 +93,14 @@ bool ImpRecords::NeemRegel(GedDelen delen) {
   }
   LogOnbekend(groep, delen);
   return true;
+}
+
+// A line that is there for those below it has no value but Y: the event took place.
+void ImpRecords::TelTekst(const GedDelen& delen) {
+  const std::string_view waarde = Trim(delen.waarde);
+  if (waarde.empty() || waarde == "Y") return;
+  if (std::ranges::find(kZonderVerlies, delen.tag) != kZonderVerlies.end()) return;
+  loop_.TelVerlies(Verlies::Tekst);
 }
 
 void ImpRecords::NeemOverig(OverigeActie actie, std::string_view waarde) {

@@ -30,6 +30,7 @@ class ImpRecords {
   [[nodiscard]] bool BewaarRecord();
   [[nodiscard]] bool BeginRecord(GedSoort soort);
   [[nodiscard]] bool NeemRegel(GedDelen delen);
+  void TelTekst(const GedDelen& delen);
   void NeemOverig(OverigeActie actie, std::string_view waarde);
   [[nodiscard]] bool InPersoon() const { return loop_.Context().starts_with("P-"); }
   [[nodiscard]] bool InRelatie() const { return loop_.Context().starts_with("R-"); }

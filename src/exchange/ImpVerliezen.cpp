@@ -16,13 +16,17 @@ constexpr std::array<std::string_view, kVerliezen> kTeksten = {
     "verwijzing naar een record dat er niet is",
     "opmerking afgekapt na tien regels",
     "NOTE niet overgenomen",
+    "vervolg van een NOTE niet overgenomen",
+    "tekst niet overgenomen",
+    "regel achter TRLR niet gelezen",
 };
 
 }  // namespace
 
 void ImpVerliezen::Tel(Verlies verlies, std::int32_t regel) {
   Telling& telling = tellingen_[static_cast<std::size_t>(verlies)];
-  if (telling.keer++ == 0) telling.eerste = regel;
+  // A later pass may count an earlier line.
+  if (telling.keer++ == 0 || regel < telling.eerste) telling.eerste = regel;
 }
 
 void ImpVerliezen::Noteer(const std::function<void(std::string_view)>& log) const {

@@ -11,15 +11,18 @@
 namespace lb77 {
 
 enum class Verlies {
-  Plaatsnaam,      // a place name longer than its field
-  Naam,            // the same of a first name or surname
-  Beroep,          // the same of an occupation
-  Overschreven,    // a name that a later line replaced by another
-  Verwijzing,      // a link to a record that is not there
-  OpmAfgekapt,     // a remark with more text than its ten lines
-  NietOvergenomen  // a note that belongs to nobody
+  Plaatsnaam,       // a place name longer than its field
+  Naam,             // the same of a first name or surname
+  Beroep,           // the same of an occupation
+  Overschreven,     // a name that a later line replaced by another
+  Verwijzing,       // a link to a record that is not there
+  OpmAfgekapt,      // a remark with more text than its ten lines
+  NietOvergenomen,  // a note that belongs to nobody
+  Vervolg,          // a line that continues a note which has ended
+  Tekst,            // a value for which no field and no remark has room
+  AchterSlot        // a line behind the end of the file's records
 };
-inline constexpr std::size_t kVerliezen = 7;
+inline constexpr std::size_t kVerliezen = 10;
 
 // The losses that no log line of their own tells of. They are told together at the end.
 class ImpVerliezen {

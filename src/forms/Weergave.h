@@ -84,8 +84,13 @@ class MenuKeuze : public Bediening {
       : Bediening(formulier, BedieningSoort::MenuKeuze, naam, bijschrift), menu_(menu) {}
   [[nodiscard]] const std::string& Menu() const { return menu_; }
 
+  // What it would do now, for the status line; empty when its caption says it all.
+  [[nodiscard]] const std::string& Toelichting() const { return toelichting_; }
+  void ZetToelichting(std::string_view toelichting) { toelichting_ = toelichting; }
+
  private:
   std::string menu_;
+  std::string toelichting_;
 };
 
 }  // namespace lb77

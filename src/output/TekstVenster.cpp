@@ -43,15 +43,15 @@ std::string MetFout(std::string_view tekst, const SysteemFout& fout) {
 TekstVenster::TekstVenster(Hoofdmodule& hoofd, std::string_view naam, std::string_view titel)
     : Formulier(naam, titel), hoofd_(hoofd) {
   MoveButton.Elk([this](int nummer, Knop& knop) {
-    const Stap& stap = StapVan(nummer);
-    knop.ZetBijschrift(stap.bijschrift);
-    knop.BijKlik([this, &stap] { Ga(stap.kolommen, stap.rijen); });
+    knop.ZetBijschrift(StapVan(nummer).bijschrift);
+    MoveButton(nummer).BijKlik([this, nummer] { MoveButtonKlik(nummer); });
   });
   PrintButton(1).ZetBijschrift("&Print deze");
-  PrintButton(1).BijKlik([this] { DrukPaginaAf(); });
   PrintButton(2).ZetBijschrift("Print &Alles");
-  PrintButton(2).BijKlik([this] { DrukAllesAf(); });
-  SaveButton.BijKlik([this] { SlaOp(); });
+  for (const int nummer : {1, 2}) {
+    PrintButton(nummer).BijKlik([this, nummer] { PrintButtonKlik(nummer); });
+  }
+  SaveButton.BijKlik([this] { SaveButtonKlik(); });
   BackButton.BijKlik([this] { Sluit(); });
 }
 
@@ -86,6 +86,11 @@ void TekstVenster::ToonPagina() {
   MoveButton(4).ZetIngeschakeld(rij_ < paginas_.Rijen());
 }
 
+void TekstVenster::MoveButtonKlik(int nummer) {
+  const Stap& stap = StapVan(nummer);
+  Ga(stap.kolommen, stap.rijen);
+}
+
 void TekstVenster::Ga(int kolommen, int rijen) {
   const int kolom = kolom_ + kolommen;
   const int rij = rij_ + rijen;
@@ -117,6 +122,10 @@ void TekstVenster::BijToets(ToetsGebeurtenis& toets) {
   }
 }
 
+void TekstVenster::PrintButtonKlik(int nummer) {
+  nummer == 1 ? DrukPaginaAf() : DrukAllesAf();
+}
+
 void TekstVenster::DrukPaginaAf() {
   Afdruk afdruk{Titel(), {}};
   if (VoegPaginaToe(afdruk, kolom_, rij_)) DrukAf(afdruk);
@@ -145,7 +154,7 @@ void TekstVenster::DrukAf(const Afdruk& afdruk) {
   }
 }
 
-void TekstVenster::SlaOp() {
+void TekstVenster::SaveButtonKlik() {
   const std::string_view filter = HTMLUitvoer_ ? kHTMLFilter : kTekstFilter;
   const auto pad = hoofd_.gesprek.VraagBestand(
       {BestandsWijze::Opslaan, std::string(filter), hoofd_.Ini.TekstDir()});

@@ -40,6 +40,9 @@ class TekstVenster : public Formulier {
   Hoofdmodule& hoofd_;
 
  private:
+  void MoveButtonKlik(int nummer);
+  void PrintButtonKlik(int nummer);
+  void SaveButtonKlik();
   void Ga(int kolommen, int rijen);
   void ToonPagina();
   [[nodiscard]] bool LeesPagina(int kolom, int rij, std::vector<std::string>& regels);
@@ -47,7 +50,6 @@ class TekstVenster : public Formulier {
   void DrukAllesAf();
   [[nodiscard]] bool VoegPaginaToe(Afdruk& afdruk, int kolom, int rij);
   void DrukAf(const Afdruk& afdruk);
-  void SlaOp();
 
   Tekstpaginas paginas_;
   bool HTMLUitvoer_ = false;

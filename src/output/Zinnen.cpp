@@ -52,6 +52,8 @@ std::string Zinnen::RelatieZin(std::int16_t relNr, int volgNr, bool nummerIsEen)
 std::string Zinnen::PartnersZin(std::int16_t nr, bool isVrouwKant) {
   Huwtab huwtab{};
   if (!bronnen_.persoon.Lees(nr)) return {};
+  // kept: of relations that can't be read the sentence has no word, whether their own record fails or
+  // the one that lists them; the card of the person tells.
   static_cast<void>(bronnen_.persoon.VulHuwtab(nr, huwtab));
   std::string uit;
   for (std::size_t i = 1; i < huwtab.size(); ++i) {

@@ -10,6 +10,7 @@
 #include "app/IniSysteem.h"
 #include "app/IniVoorkeur.h"
 #include "app/IniVoorvoeg.h"
+#include "app/KopiePlaats.h"
 #include "app/KopieTerugzetten.h"
 #include "app/NieuweSet.h"
 #include "app/Ongedaan.h"
@@ -18,6 +19,8 @@
 #include "app/SetOpenen.h"
 #include "app/Start.h"
 #include "app/VerwijderSetForm.h"
+#include "descendants/GenPrs.h"
+#include "descendants/GezinSchPrs.h"
 #include "entry/StartRecord.h"
 #include "entry/ToonPlaatsen.h"
 #include "exchange/ImpGedcom.h"
@@ -63,10 +66,15 @@ void Programma::HangOp() {
   menu_.Hang("IndexKwst", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstIdxPrs, hoofd_); });
   menu_.Hang("SchemaKwst", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstSchPrs, hoofd_); });
   menu_.Hang("SchemaKwBlad", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstBldPrs, hoofd_); });
+  menu_.Hang("TekstGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenTxtPrs, hoofd_); });
+  menu_.Hang("IndexGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenIdxPrs, hoofd_); });
+  menu_.Hang("SchemaGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenSchPrs, hoofd_); });
+  menu_.Hang("SchemaGezin", [this, &gesprek] { gesprek.Toon<GezinSchPrs>(hoofd_); });
   menu_.Hang("VeiligOngedaan", [this] { MaakLaatsteOngedaan(hoofd_.MaakOpslag()); });
   menu_.Hang("VeiligGeschiedenis", [this, &gesprek] { gesprek.Toon<Geschiedenis>(hoofd_); });
   menu_.Hang("VeiligKopie", [this, &gesprek] { MaakVeiligheidskopie(KopieVan(hoofd_), gesprek); });
   menu_.Hang("VeiligTerugzetten", [this, &gesprek] { gesprek.Toon<KopieTerugzetten>(hoofd_); });
+  menu_.Hang("VeiligPlaats", [this, &gesprek] { gesprek.Toon<KopiePlaats>(hoofd_); });
   menu_.Hang("AboutLB77", [&gesprek] { gesprek.Toon<OverLB77Form>(); });
 }
 

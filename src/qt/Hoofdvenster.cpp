@@ -111,6 +111,7 @@ void Hoofdvenster::Bijwerken() {
     keuze.actie->setText(NaarQt(keuze.bron->Bijschrift()));
     keuze.actie->setEnabled(keuze.bron->Ingeschakeld());
     keuze.actie->setVisible(keuze.bron->Zichtbaar());
+    keuze.actie->setStatusTip(NaarQt(keuze.bron->Toelichting()));
   }
   const Statusbalk* balk = ZoekStatus(formulier_);
   const QString tekst = balk ? NaarQt(balk->Tekst()) : QString();

@@ -23,10 +23,8 @@ struct Blok {
   Soort soort = Soort::Veld;
   std::string naam;  // Veld: the control; Groep: the title (UTF-8)
   std::string kop;   // above a column of a Tabel (UTF-8)
-  // Of a column of a Tabel, or of each control in a cell of a Rooster, in characters; 0 leaves it to
-  // the controls. A column of a Rooster with such a cell takes nothing of the room that is left.
-  int breedte = 0;
-  int kolommen = 1;                 // that a cell of a Rooster takes
+  int breedte = 0;   // in a Tabel or Rooster, in characters; 0 leaves it to its controls
+  int kolommen = 1;  // that a cell of a Rooster takes
   std::vector<std::string> koppen;  // above the columns of a Rooster (UTF-8)
   std::vector<Blok> delen;
 

@@ -6,45 +6,30 @@
 #include <QLayoutItem>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <set>
 #include <string_view>
 #include <utility>
 
 #include "qt/Indelingskeuze.h"
+#include "qt/Opmaakdelen.h"
 #include "qt/Stijl.h"
 #include "text/Tekens.h"
 
 namespace lb77 {
 
+using namespace opmaak;
+
 namespace {
 
-constexpr int kTussen = 8;  // pixels between neighbours
 constexpr int kTussenBlokken = 14;
 constexpr int kKnopBreedte = 9;  // characters
 constexpr int kKnopRuimte = 14;  // pixels more than a button asks
 constexpr int kNummer = 6;       // characters of a button for a number
-
-bool HeeftPrompt(const Bediening& bediening) {
-  return !bediening.Prompt().empty();
-}
-
-// Stands where the prompts of other lines stand.
-bool IsOpschrift(const Bediening& bediening) {
-  return bediening.Soort() == BedieningSoort::Label ||
-         bediening.Soort() == BedieningSoort::Wissellabel;
-}
 
 // Needs the full width, with its prompt above it.
 bool IsHoog(const Bediening& bediening) {
   return bediening.Soort() == BedieningSoort::Keuzelijst ||
          bediening.Soort() == BedieningSoort::Tekstblok ||
          bediening.Soort() == BedieningSoort::Tekstpagina;
-}
-
-bool IsSmal(const Element& element) {
-  const BedieningSoort soort = element.Bron().Soort();
-  return soort == BedieningSoort::Knop || soort == BedieningSoort::Keuzevak ||
-         element.Widget().maximumWidth() < QWIDGETSIZE_MAX;
 }
 
 Qt::Alignment Plek(const Element& element) {
@@ -55,12 +40,6 @@ QVBoxLayout* NieuweKolom() {
   auto* kolom = new QVBoxLayout;
   kolom->setSpacing(kTussenBlokken);
   return kolom;
-}
-
-QHBoxLayout* NieuweRij() {
-  auto* rij = new QHBoxLayout;
-  rij->setSpacing(kTussen);
-  return rij;
 }
 
 }  // namespace
@@ -250,17 +229,26 @@ void Opmaker::Tabel(const Blok& blok, QBoxLayout& in) {
   for (const Blok& deel : blok.delen) Tabelkolom(deel, kolom++, *rooster);
 }
 
+// How wide the buttons of a column are, in characters: all as the widest of them.
+static int KnopTekens(const std::vector<Element*>& elementen) {
+  std::size_t tekens = 2;
+  for (const Element* een : elementen) {
+    const std::string_view tekst = een->Bron().Bijschrift();
+    const bool nummer = std::all_of(tekst.begin(), tekst.end(), IsCijfer);
+    tekens = std::max<std::size_t>(tekens, nummer ? kNummer : tekst.size());
+  }
+  return static_cast<int>(tekens);
+}
+
 // In a table values are plain, and take what buttons leave; a button is as small as it can be.
-static void MaakCel(Element& element, int kolom, QGridLayout& rooster) {
+static void MaakCel(Element& element, const Blok& blok, int knop) {
   QWidget& widget = element.Widget();
   if (element.Bron().Soort() == BedieningSoort::Teller) {
     widget.setFont(widget.parentWidget()->font());
-    rooster.setColumnStretch(kolom, 1);
   } else if (element.Bron().Soort() == BedieningSoort::Knop) {
-    const std::string_view tekst = element.Bron().Bijschrift();
-    const bool nummer = std::all_of(tekst.begin(), tekst.end(), IsCijfer);
-    ZetTekenBreedte(widget, nummer ? kNummer : std::max(static_cast<int>(tekst.size()), 2), true);
+    ZetTekenBreedte(widget, knop, true);
   }
+  if (blok.breedte) ZetTekenBreedte(widget, blok.breedte, false);
 }
 
 // A heading: the one of the layout, else the prompt that all controls of the column share.
@@ -287,78 +275,11 @@ void Opmaker::Tabelkolom(const Blok& blok, int kolom, QGridLayout& rooster) {
     rooster.addLayout(cel, regel++, kolom);
     if (kop.isEmpty() && HeeftPrompt(element->Bron())) cel->addWidget(&element->MaakPrompt(ouder_));
     cel->addWidget(&element->Widget());
-    MaakCel(*element, kolom, rooster);
-    if (blok.breedte) ZetTekenBreedte(element->Widget(), blok.breedte, false);
-  }
-}
-
-void Opmaker::Rooster(const Blok& blok, QBoxLayout& in) {
-  auto* rooster = new QGridLayout;
-  in.addLayout(rooster);
-  rooster->setHorizontalSpacing(kTussen);
-  rooster->setVerticalSpacing(kTussen);
-  int kolom = 0;
-  for (const std::string& kop : blok.koppen) {
-    auto* titel = new QLabel(QString::fromStdString(kop), &ouder_);
-    titel->setFont(Vet(titel->font()));
-    rooster->addWidget(titel, 0, 2 * kolom++, 1, 2);
-  }
-  int nummer = 1;
-  std::set<int> smal;
-  for (const Blok& regel : blok.delen) {
-    kolom = 0;
-    for (const Blok& cel : regel.delen) {
-      Cel(cel, *rooster, nummer, kolom);
-      kolom += cel.kolommen;
-      if (cel.breedte > 0) smal.insert(kolom);
-      rooster->setColumnStretch(2 * kolom - 1, smal.contains(kolom) ? 0 : 1);
+    MaakCel(*element, blok, KnopTekens(elementen));
+    const bool smal = blok.breedte > 0 && blok.breedte <= kSmalleKolom;
+    if (element->Bron().Soort() == BedieningSoort::Teller && !smal) {
+      rooster.setColumnStretch(kolom, 1);
     }
-    ++nummer;
-  }
-}
-
-// A button with a mark is as small as it can be, beside the field that it belongs to; one with a
-// number is no wider than the number asks.
-static void MaakSmal(Element& element) {
-  constexpr int kTeken = 2;
-  if (element.Bron().Soort() != BedieningSoort::Knop) return;
-  const std::string_view tekst = element.Bron().Bijschrift();
-  QWidget& knop = element.Widget();
-  if (std::all_of(tekst.begin(), tekst.end(), IsCijfer)) {
-    knop.setSizePolicy(QSizePolicy::Fixed, knop.sizePolicy().verticalPolicy());
-  } else if (tekst.size() == 1) {
-    ZetTekenBreedte(knop, kTeken, true);
-  }
-}
-
-void Opmaker::Cel(const Blok& blok, QGridLayout& rooster, int regel, int kolom) {
-  std::vector<Element*> elementen = Elementen(blok);
-  if (elementen.empty()) return;
-  for (Element* element : elementen) {
-    if (blok.breedte > 0) ZetTekenBreedte(element->Widget(), blok.breedte, false);
-  }
-  Element& eerste = *elementen.front();
-  const int breedte = 2 * blok.kolommen;
-  if (IsOpschrift(eerste.Bron())) {
-    const int eigen = elementen.size() == 1 ? breedte : 1;
-    rooster.addWidget(&eerste.Widget(), regel, 2 * kolom, 1, eigen);
-    elementen.erase(elementen.begin());
-  } else if (HeeftPrompt(eerste.Bron())) {
-    rooster.addWidget(&eerste.MaakPrompt(ouder_), regel, 2 * kolom);
-  }
-  if (elementen.empty()) return;
-  QHBoxLayout* rij = NieuweRij();
-  rooster.addLayout(rij, regel, 2 * kolom + 1, 1, breedte - 1);
-  for (Element* element : elementen) {
-    MaakSmal(*element);
-    if (element == &eerste) {
-      rij->addWidget(&element->Widget());
-    } else {
-      Naast(*element, *rij);
-    }
-  }
-  if (std::all_of(elementen.begin(), elementen.end(), [](Element* e) { return IsSmal(*e); })) {
-    rij->addStretch(1);
   }
 }
 

@@ -49,6 +49,14 @@ class Opmaker {
   void EnkelVeld(Element& element, Roosterregel regel);
   // The line of a table that stands under its heading.
   void Tabelkolom(const Blok& blok, int kolom, QGridLayout& rooster);
+  // What lies in the cells of a grid that are one column wide.
+  struct Roosterkolom {
+    bool breed = false;   // something that takes what room there is
+    bool prompt = false;  // a prompt or a caption before the fields
+  };
+  [[nodiscard]] std::vector<Roosterkolom> Roosterkolommen(const Blok& blok) const;
+  // Has the cell something that takes what room there is?
+  [[nodiscard]] bool IsBreed(const Blok& cel) const;
   // A cell of a grid: the prompt in the left one of its two columns.
   void Cel(const Blok& blok, QGridLayout& rooster, int regel, int kolom);
   // A widget with its prompt, if it has one, before it.

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "qt/QtGesprek.h"
 #include "qt/Stijl.h"
@@ -14,11 +15,14 @@ namespace lb77 {
 
 namespace {
 
+// As a constant: clang 14 ends on its own error where the literal stands within a function.
+constexpr std::string_view kOnverwacht =
+    "Er is een onverwachte fout opgetreden. Het programma wordt beëindigd."_w;
+
 // Without a conversation the failure lies before the first window.
 void Meld(std::optional<QtGesprek>& gesprek, const char* wat) {
   if (!gesprek) gesprek.emplace();
-  std::string tekst("Er is een onverwachte fout opgetreden. Het programma wordt beëindigd."_w);
-  gesprek->Fout(tekst + "\n(" + wat + ")");
+  gesprek->Fout(std::string(kOnverwacht) + "\n(" + wat + ")");
 }
 
 }  // namespace

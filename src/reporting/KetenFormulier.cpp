@@ -6,10 +6,12 @@
 namespace lb77 {
 
 void KetenFormulier::KoppelTerug(Knop& terug) {
-  terug.BijKlik([this] {
-    StopKeten();
-    Sluit();
-  });
+  terug.BijKlik([this] { TerugKlik(); });
+}
+
+void KetenFormulier::TerugKlik() {
+  StopKeten();
+  Sluit();
 }
 
 void KetenFormulier::StopKeten() {

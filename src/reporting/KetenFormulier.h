@@ -27,6 +27,9 @@ class KetenFormulier : public InvoerFormulier {
   void ToonPersoonskaart(std::int16_t nr);
   // Shows a finished report in the viewer.
   void ToonTekstbestand(const std::filesystem::path& pad, std::string_view titel, bool inHTML);
+
+ private:
+  void TerugKlik();
 };
 
 }  // namespace lb77

@@ -20,12 +20,14 @@ void WerkFormulier::Koppel(Knop& ok, Knop& terug) {
     KoppelTerug(terug);
     return;
   }
-  ok.BijKlik([this, &ok] {
-    ok.ZetIngeschakeld(false);
-    Begin();
-    ok.ZetIngeschakeld(true);
-  });
+  ok.BijKlik([this, &ok] { OkKlik(ok); });
   terug.BijKlik([this] { Sluit(); });
+}
+
+void WerkFormulier::OkKlik(Knop& ok) {
+  ok.ZetIngeschakeld(false);
+  Begin();
+  ok.ZetIngeschakeld(true);
 }
 
 void WerkFormulier::BijActiveren() {

@@ -42,6 +42,7 @@ class WerkFormulier : public KetenFormulier {
   [[nodiscard]] bool GaatVerder(const Uitslag& uitslag);
 
  private:
+  void OkKlik(Knop& ok);
   void Begin();
   void Stop();
 

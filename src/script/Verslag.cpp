@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "forms/Keuzen.h"
+#include "forms/Weergave.h"
 #include "script/Rijtabel.h"
 #include "text/Getallen.h"
 #include "text/Unicode.h"
@@ -108,6 +109,10 @@ std::string WaardeTekst(const Bediening& bediening) {
 
 std::string BedieningRegel(const Bediening& bediening) {
   std::string uit = "= " + WindowsNaarUtf8(bediening.Naam()) + " " + WaardeTekst(bediening);
+  const auto* keuze = dynamic_cast<const MenuKeuze*>(&bediening);
+  if (keuze && !keuze->Toelichting().empty()) {
+    uit += " [status " + Aangehaald(keuze->Toelichting()) + "]";
+  }
   if (!bediening.Ingeschakeld()) uit += " [uit]";
   if (!bediening.Zichtbaar()) uit += " [verborgen]";
   return uit;

@@ -31,6 +31,7 @@ struct RecordPlek {
   BestandSoort soort = BestandSoort::Personen;
   std::int32_t nr = 0;
 
+  // NOLINTNEXTLINE(modernize-use-nullptr): the 0 that it sees is the compiler's own
   [[nodiscard]] auto operator<=>(const RecordPlek&) const = default;
 };
 

@@ -123,7 +123,7 @@ SysteemFout Journaal::MaakLopend() {
   if (SysteemFout fout = RuimOnvoltooid(posten)) return fout;
   MeldVreemd();
   const auto laatste = posten.empty() ? std::nullopt : LeesJournaalNaam(posten.back().naam);
-  lopend_.emplace();
+  lopend_ = Lopend{};
   lopend_->kop.nummer = laatste ? laatste->nummer + 1 : 1;
   lopend_->kop.tijd = tijd_();
   lopend_->kop.label = diepte_ > 0 ? label_ : std::string(kLosseHandeling);
@@ -225,7 +225,9 @@ SysteemFout Journaal::RondAf(BestandSoort soort) {
     if (!merk.geschreven || merk.aantal != kAantalOnbekend) continue;
     const RecordPlek plek{soort, static_cast<std::int32_t>(i)};
     std::string bytes;
-    if (LeesNu(plek, bytes)) continue;
+    // What the disk refuses once it may give the next time; an action that is not known can't be
+    // undone.
+    if (LeesNu(plek, bytes) && LeesNu(plek, bytes)) continue;
     const JournaalStand stand = StandVan(plek, bytes);
     merk.aantal = stand.aantal;
     merk.som = stand.som;

@@ -177,10 +177,13 @@ class Journaal {
   [[nodiscard]] SysteemFout BehoudDeze(const Gelezen& gelezen);
   [[nodiscard]] SysteemFout StandNu(const JournaalInhoud& inhoud, JournaalEinde& einde);
 
+  // A file, when it is of an action from `vanaf` on that has ended.
+  [[nodiscard]] SysteemFout LeesVoltooid(const JournaalPost& post, std::uint32_t vanaf,
+                                         std::optional<Gelezen>& gelezen);
   // Those from `vanaf` on, oldest first.
   [[nodiscard]] SysteemFout LeesVanaf(std::uint32_t vanaf, std::vector<Gelezen>& gelezen);
   [[nodiscard]] std::optional<OngedaanUitslag> MaakPlan(const std::vector<Gelezen>& gelezen,
-                                                        OngedaanPlan& plan);
+                                                        OngedaanPlan& plan) const;
   [[nodiscard]] SysteemFout Voer(const OngedaanPlan& plan, std::uint32_t vanaf);
   void DraaiTerug();
   [[nodiscard]] SysteemFout NoteerPlan(const OngedaanPlan& plan);

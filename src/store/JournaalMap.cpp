@@ -54,8 +54,8 @@ SysteemFout SchijfJournaalMap::Maak(const std::string& naam) {
   std::error_code code;
   if (fs::create_directory(map_, code)) nieuweMap_ = true;
   if (code) return FoutVan(code);
-  if (SysteemFout fout = greep_.Open(map_ / naam)) return fout;
-  return greep_.Lengte() == 0 ? SysteemFout{} : greep_.Kap(0);
+  // What somebody else has made meanwhile is his.
+  return greep_.Open(map_ / naam, Openwijze::Nieuw);
 }
 
 SysteemFout SchijfJournaalMap::Open(const std::string& naam) {

@@ -34,7 +34,8 @@ class JournaalMap {
   // All bytes of a file.
   [[nodiscard]] virtual SysteemFout Lees(const std::string& naam, std::string& bytes) = 0;
 
-  // Makes an empty file the one that is written, and the directory when it is not there.
+  // Makes an empty file the one that is written, and the directory when it is not there. One that is
+  // there already is a failure.
   [[nodiscard]] virtual SysteemFout Maak(const std::string& naam) = 0;
 
   // Makes a file that is there the one that is written.

@@ -1,5 +1,6 @@
 // The history of a journal, and undoing back to any of its actions.
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 #include "store/Journaal.h"
@@ -31,20 +32,42 @@ OngedaanUitslag Mislukt(SysteemFout fout) {
   return {.soort = Soort::Mislukt, .nummer = 0, .plek = {}, .fout = std::move(fout)};
 }
 
+// The row of an action of which nobody has looked yet whether it is undone.
+HandelingRegel RegelVan(std::uint32_t nummer, const JournaalInhoud& inhoud) {
+  HandelingRegel regel;
+  regel.nummer = nummer;
+  regel.gaaf = inhoud.IsCompleet();
+  if (inhoud.einde) regel.records = inhoud.einde->standen.size();
+  if (!inhoud.kop) return regel;
+  regel.tijd = inhoud.kop->tijd;
+  regel.label = inhoud.kop->label;
+  regel.ongedaanVanaf = inhoud.kop->ongedaanVanaf;
+  return regel;
+}
+
 }  // namespace
+
+SysteemFout Journaal::LeesVoltooid(const JournaalPost& post, std::uint32_t vanaf,
+                                   std::optional<Gelezen>& gelezen) {
+  gelezen.reset();
+  const auto naam = LeesJournaalNaam(post.naam);
+  if (!naam || naam->nummer < vanaf) return {};
+  std::string bytes;
+  if (SysteemFout fout = map_->Lees(post.naam, bytes)) return fout;
+  JournaalInhoud inhoud = OntleedJournaal(bytes);
+  if (!naam->bezig || inhoud.einde) {
+    gelezen = Gelezen{naam->nummer, post.naam, std::move(inhoud)};
+  }
+  return {};
+}
 
 SysteemFout Journaal::LeesVanaf(std::uint32_t vanaf, std::vector<Gelezen>& gelezen) {
   std::vector<JournaalPost> posten;
   if (SysteemFout fout = map_->Lijst(posten)) return fout;
   for (const JournaalPost& post : posten) {
-    const auto naam = LeesJournaalNaam(post.naam);
-    if (!naam || naam->nummer < vanaf) continue;
-    std::string bytes;
-    if (SysteemFout fout = map_->Lees(post.naam, bytes)) return fout;
-    JournaalInhoud inhoud = OntleedJournaal(bytes);
-    if (!naam->bezig || inhoud.einde) {
-      gelezen.push_back({naam->nummer, post.naam, std::move(inhoud)});
-    }
+    std::optional<Gelezen> deze;
+    if (SysteemFout fout = LeesVoltooid(post, vanaf, deze)) return fout;
+    if (deze) gelezen.push_back(std::move(*deze));
   }
   std::ranges::sort(gelezen, {}, &Gelezen::nummer);
   return {};
@@ -54,16 +77,8 @@ std::vector<HandelingRegel> Journaal::Geschiedenis() {
   std::vector<Gelezen> gelezen;
   static_cast<void>(LeesVanaf(1, gelezen));
   std::vector<HandelingRegel> regels;
-  for (const Gelezen& deze : gelezen) {
-    HandelingRegel& regel = regels.emplace_back();
-    regel.nummer = deze.nummer;
-    regel.gaaf = deze.inhoud.IsCompleet();
-    if (deze.inhoud.einde) regel.records = deze.inhoud.einde->standen.size();
-    if (!deze.inhoud.kop) continue;
-    regel.tijd = deze.inhoud.kop->tijd;
-    regel.label = deze.inhoud.kop->label;
-    regel.ongedaanVanaf = deze.inhoud.kop->ongedaanVanaf;
-  }
+  regels.reserve(gelezen.size());
+  for (const Gelezen& deze : gelezen) regels.push_back(RegelVan(deze.nummer, deze.inhoud));
   // From the end: behind an undo everything from its first action on is undone.
   std::uint32_t vanaf = 0;
   for (auto regel = regels.rbegin(); regel != regels.rend(); ++regel) {
@@ -73,12 +88,23 @@ std::vector<HandelingRegel> Journaal::Geschiedenis() {
   return regels;
 }
 
+// Reads no further back than it must: a menu asks it after each action.
 std::optional<HandelingRegel> Journaal::LaatsteTeOngedaan() {
-  const std::vector<HandelingRegel> regels = Geschiedenis();
-  const auto regel = std::ranges::find_if(regels.rbegin(), regels.rend(), [](const auto& deze) {
-    return !deze.ongedaan && deze.ongedaanVanaf == 0;
-  });
-  return regel == regels.rend() ? std::nullopt : std::optional(*regel);
+  std::vector<JournaalPost> posten;
+  static_cast<void>(map_->Lijst(posten));
+  std::ranges::sort(posten, std::ranges::greater(), &JournaalPost::naam);
+  std::uint32_t vanaf = 0;
+  for (const JournaalPost& post : posten) {
+    const auto naam = LeesJournaalNaam(post.naam);
+    if (naam && vanaf != 0 && naam->nummer >= vanaf) continue;
+    std::optional<Gelezen> deze;
+    if (LeesVoltooid(post, 1, deze)) return std::nullopt;
+    if (!deze) continue;
+    HandelingRegel regel = RegelVan(deze->nummer, deze->inhoud);
+    if (regel.ongedaanVanaf == 0) return regel;
+    vanaf = regel.ongedaanVanaf;
+  }
+  return std::nullopt;
 }
 
 std::vector<RecordWijziging> Journaal::Wijzigingen(std::uint32_t nummer) {
@@ -117,7 +143,7 @@ std::vector<RecordWijziging> Journaal::Wijzigingen(std::uint32_t nummer) {
 }
 
 std::optional<OngedaanUitslag> Journaal::MaakPlan(const std::vector<Gelezen>& gelezen,
-                                                  OngedaanPlan& plan) {
+                                                  OngedaanPlan& plan) const {
   for (auto deze = gelezen.rbegin(); deze != gelezen.rend(); ++deze) {
     const JournaalInhoud& inhoud = deze->inhoud;
     if (!inhoud.IsCompleet()) return Geweigerd(Soort::Beschadigd, deze->nummer);

@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "store/Handeling.h"
 #include "store/PlaatsVelden.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"
@@ -177,6 +178,9 @@ std::optional<std::int16_t> PlaatsLB77::Doorzoek(const Zoekvraag& zoek) {
 std::int16_t PlaatsLB77::VoegToe(const Zoekvraag& zoek, std::int32_t nr) {
   const auto bij = [&] { return DeOpslag().bestanden.Stand(BestandSoort::Plaatsen); };
   const bool actueel = indexStand_ == bij();
+  // One action, also where a field asks for it by itself.
+  const Handeling handeling(DeOpslag().bestanden,
+                            "Plaats " + GetalTekst(nr) + " toegevoegd: " + std::string(zoek.naam));
   // The file's state tells whether a failure has left anything that the index does not know.
   if (!Nieuw(nr)) return kGeenPlaats;
   std::string prov(zoek.prov);

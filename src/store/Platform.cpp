@@ -233,6 +233,7 @@ std::uint64_t Bestandsgreep::Lengte() const {
   return static_cast<std::uint64_t>(gegevens.st_size);
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): it changes the file
 SysteemFout Bestandsgreep::Veiligstellen() {
   if (!IsOpen()) return FoutNietOpen();
   return NaarSchijf(Systeem(greep_));
@@ -246,6 +247,7 @@ SysteemFout MapVeiligstellen(const std::filesystem::path& map) {
   return fout;
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): it changes the file
 SysteemFout Bestandsgreep::Kap(std::uint64_t lengte) {
   if (!IsOpen()) return FoutNietOpen();
   while (::ftruncate(Systeem(greep_), static_cast<off_t>(lengte)) != 0) {
@@ -266,6 +268,7 @@ std::int64_t Bestandsgreep::Wijzigtijd() const {
   return static_cast<std::int64_t>(tijd.tv_sec) * kPerSeconde + tijd.tv_nsec;
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): it changes the file
 SysteemFout Bestandsgreep::Vergrendel() {
   if (!IsOpen()) return FoutNietOpen();
   while (::flock(Systeem(greep_), LOCK_EX | LOCK_NB) != 0) {

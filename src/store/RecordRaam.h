@@ -162,7 +162,7 @@ class RecordRaam {
   // The field of this name; none after a warning.
   const Veld* VindVeld(std::string_view naam) const;
   // Stores a value; False after a message.
-  [[nodiscard]] bool Verwerk(const Veld& veld, std::string_view waarde);
+  [[nodiscard]] bool Verwerk(const Veld& veld, std::string_view tekst);
   [[nodiscard]] bool ZetGetalTekst(const Veld& veld, std::string_view waarde);
 
   static constexpr std::size_t kGrootste = 128;

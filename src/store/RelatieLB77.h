@@ -93,7 +93,7 @@ class RelatieLB77 final : public RecordRaam {
   bool IsGat(Soort soort) const override;
   void HerstelSonde(Soort soort) override;
   // For "HuwSwPs" Zet also takes the words "Sw" and "Ps" beside 1 and 2.
-  std::string_view WaardeVoor(const Veld& veld, std::string_view waarde) const override;
+  std::string_view WaardeVoor(const Veld& deze, std::string_view waarde) const override;
   std::string Entree(const Veld& dagMaand, const Veld& jaar) const;
 };
 

@@ -131,7 +131,8 @@ TEST_F(KwstBldParamToets, EenBestandDatNietKanLaatHetSchermStaan) {
   InOpties("bestand " + Doel().string() + "\ndruk OKButton(2)\ndruk BackButton",
            "> opslaan \"Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt\" -> \"" +
                Doel().string() +
-               "\"\n! stop \"Fout bij het opslaan van de tekst.\\nPad is een directory\"\n- KwstBldParam");
+               "\"\n! stop \"Fout bij het opslaan van de tekst.\\nPad is een directory\"\n- "
+               "KwstBldParam");
 }
 
 TEST_F(KwstBldParamToets, EenTijdelijkBestandDatNietKanLaatHetSchermStaan) {

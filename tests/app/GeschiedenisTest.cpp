@@ -120,5 +120,27 @@ TEST(HandelingInWoorden, VanEenGroteStaatErHoeveelErNogZijn) {
   EXPECT_EQ(WijzigingTekst(vele, '-').back(), "... en nog 7 records");
 }
 
+// The status line of the entry names what Ctrl+Z would undo, after each action anew.
+TEST_F(GeschiedenisVenster, DeStatusregelNoemtWatOngedaanWordtGemaakt) {
+  Verwacht("toon VeiligOngedaan\nsluit", Sessie(),
+           R"~(+ MenuWindow "LB77 voor Windows"
+               = VeiligOngedaan "Laatste bewerking &ongedaan maken"
+               - MenuWindow)~");
+  MaakGeschiedenis();
+  Verwacht(
+      "toon VeiligOngedaan\nantwoord Ja Ja\nkies VeiligOngedaan\ntoon VeiligOngedaan\n"
+      "kies VeiligOngedaan\ntoon VeiligOngedaan\nsluit",
+      Sessie(),
+      R"~(+ MenuWindow "LB77 voor Windows"
+          = VeiligOngedaan "Laatste bewerking &ongedaan maken" [status "Maakt ongedaan: Persoon 2 gewijzigd (2026-01-02 03:04:05)"]
+          ? vraag Ja/Nee "De bewerking \"Persoon 2 gewijzigd\" (2026-01-02 03:04:05) ongedaan maken ?" -> Ja
+          ! info "Ongedaan gemaakt: Persoon 2 gewijzigd"
+          = VeiligOngedaan "Laatste bewerking &ongedaan maken" [status "Maakt ongedaan: Persoon toegevoegd (2026-01-02 03:04:05)"]
+          ? vraag Ja/Nee "De bewerking \"Persoon toegevoegd\" (2026-01-02 03:04:05) ongedaan maken ?" -> Ja
+          ! info "Ongedaan gemaakt: Persoon toegevoegd"
+          = VeiligOngedaan "Laatste bewerking &ongedaan maken"
+          - MenuWindow)~");
+}
+
 }  // namespace
 }  // namespace lb77

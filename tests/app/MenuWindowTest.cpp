@@ -2,6 +2,7 @@
 #include "app/SessieToets.h"
 #include "app/ZonderRechten.h"
 #include "steun/Gouden.h"
+#include "text/Unicode.h"
 
 namespace lb77 {
 namespace {
@@ -43,7 +44,7 @@ TEST_F(Hoofdvenster, HetHeleMenuStaatErInDeVolgordeVanDeTabel) {
              }
            }),
            "");
-  VerwachtGouden("MENU.TXT", menu);
+  VerwachtGouden("MENU.TXT", WindowsNaarUtf8(menu));
 }
 
 TEST_F(Hoofdvenster, ElkMenuIsEenEntryDieErVoorStaat) {

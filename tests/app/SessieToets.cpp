@@ -2,6 +2,7 @@
 
 #include "app/Geschiedenis.h"
 #include "app/IniGebruiker.h"
+#include "app/KopiePlaats.h"
 #include "app/KopieTerugzetten.h"
 #include "app/NieuweSet.h"
 #include "app/Ongedaan.h"
@@ -59,6 +60,7 @@ SpeelToets::Programma SessieToets::Sessie() {
     menu.Hang("VeiligGeschiedenis", [&] { Toont<Geschiedenis>(hoofd)(gesprek); });
     menu.Hang("VeiligKopie", [&] { MaakVeiligheidskopie(KopieVan(hoofd), gesprek); });
     menu.Hang("VeiligTerugzetten", [&] { Toont<KopieTerugzetten>(hoofd)(gesprek); });
+    menu.Hang("VeiligPlaats", [&] { Toont<KopiePlaats>(hoofd)(gesprek); });
     menu.Hang("AboutLB77", [&] { Toont<OverLB77Form>()(gesprek); });
     gesprek.ToonModaal(menu);
   };

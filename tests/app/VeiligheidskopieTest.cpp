@@ -2,6 +2,7 @@
 #include "app/KopieTerugzetten.h"
 #include "app/VeiligToets.h"
 #include "app/Veiligheidskopie.h"
+#include "steun/NepGesprek.h"
 
 namespace lb77 {
 namespace {
@@ -50,7 +51,7 @@ TEST_F(Kopieen, TweeInEenSecondeStaanNaastElkaar) {
   Doe([](Hoofdmodule&, Veiligheidskopie& kopie) {
     ASSERT_FALSE(kopie.Maak());
     ASSERT_FALSE(kopie.Maak());
-    EXPECT_EQ(kopie.Laatste(), "2026-01-02_030405_02");
+    EXPECT_EQ(kopie.Laatste().filename(), "2026-01-02_030405_02");
     ASSERT_FALSE(kopie.MaakZonodig());
     EXPECT_EQ(kopie.Lijst().size(), 2U);
   });
@@ -107,6 +108,108 @@ TEST_F(Kopieen, TerugzettenIsEenBewerkingDieOngedaanKan) {
   EXPECT_EQ(Inhoud("DATA/EEN/EEN.PRS"), voor);
 }
 
+TEST_F(Kopieen, OokDeTekstenKomenTerugEnWatErStondBlijftInDeKopie) {
+  Schrijf("DATA/EEN/TEKST/verslag.txt", "eerst");
+  Schrijf("DATA/EEN/TEKST/onder/weg.txt", "weg");
+  Speelt("kies VeiligKopie",
+         R"~(! info "Veiligheidskopie gemaakt: <map>/KOPIE/EEN/2026-01-02_030405")~");
+  Schrijf("DATA/EEN/TEKST/verslag.txt", "later");
+  Schrijf("DATA/EEN/TEKST/nieuw.txt", "blijft");
+  std::filesystem::remove_all(map_ / "DATA/EEN/TEKST/onder");
+  Speelt("antwoord Ja\nkies VeiligTerugzetten\nstel KopieLijst #0\ndruk OKButton",
+         R"~(+ KopieTerugzetten "Veiligheidskopie Terugzetten"
+          ? vraag Ja/Nee "De gegevens van EEN vervangen door de veiligheidskopie van 2026-01-02 03:04:05 ?\nVan wat er nu staat wordt eerst een veiligheidskopie gemaakt." -> Ja
+          ! info "De veiligheidskopie is teruggezet\nOok in de map TEKST; wat daar stond ligt in <map>/KOPIE/EEN/2026-01-02_030405_02/TEKST"
+          - KopieTerugzetten)~");
+  EXPECT_EQ(Inhoud("DATA/EEN/TEKST/verslag.txt"), "eerst");
+  EXPECT_EQ(Inhoud("DATA/EEN/TEKST/onder/weg.txt"), "weg");
+  EXPECT_EQ(Inhoud("DATA/EEN/TEKST/nieuw.txt"), "blijft");
+  EXPECT_EQ(Inhoud("KOPIE/EEN/2026-01-02_030405_02/TEKST/verslag.txt"), "later");
+}
+
+TEST_F(Kopieen, TekstenDieNietTerugKunnenWordenGemeld) {
+  Schrijf("DATA/EEN/TEKST/verslag.txt", "eerst");
+  Doe([](Hoofdmodule&, Veiligheidskopie& kopie) { ASSERT_FALSE(kopie.Maak()); });
+  std::filesystem::remove(map_ / "DATA/EEN/TEKST/verslag.txt");
+  Schrijf("DATA/EEN/TEKST/verslag.txt/in de weg", "vol");
+  Speelt("antwoord Ja\nkies VeiligTerugzetten\nstel KopieLijst #0\ndruk OKButton",
+         R"~(+ KopieTerugzetten "Veiligheidskopie Terugzetten"
+          ? vraag Ja/Nee "De gegevens van EEN vervangen door de veiligheidskopie van 2026-01-02 03:04:05 ?\nVan wat er nu staat wordt eerst een veiligheidskopie gemaakt." -> Ja
+          ! info "De veiligheidskopie is teruggezet"
+          ! stop "De map TEKST is niet geheel teruggezet\nPad is een directory"
+          - KopieTerugzetten)~");
+  EXPECT_EQ(Inhoud("DATA/EEN/TEKST/verslag.txt/in de weg"), "vol");
+  EXPECT_FALSE(Bestaat("DATA/EEN/TEKST/verslag.txt.TMP"));
+}
+
+// The clock of a computer with an empty battery stands in the past.
+TEST_F(Kopieen, DeNieuweBlijftOokMetEenKlokDieAchterLoopt) {
+  for (int dag = 10; dag < 22; ++dag) MaakLeeg("2029-05-" + std::to_string(dag) + "_010101");
+  Doe([](Hoofdmodule&, Veiligheidskopie& kopie) {
+    ASSERT_FALSE(kopie.Maak());
+    EXPECT_EQ(kopie.Lijst().size(), 11U);
+    EXPECT_EQ(kopie.Lijst().back().naam, "2026-01-02_030405");
+  });
+}
+
+TEST_F(Kopieen, WieNietsGeschrevenHeeftMaaktNietsOngedaan) {
+  MaakGeschiedenis();
+  Doe([this](Hoofdmodule& hoofd, Veiligheidskopie& kopie) {
+    ASSERT_FALSE(kopie.ZetTerug("2026-01-02_030405").fout);
+    VoegToe(hoofd, "Kees");
+    Journaal& journaal = *hoofd.bestanden.HetJournaal();
+    ASSERT_TRUE(journaal.MaakOngedaan(4));
+    // What is in the way of the next journal file keeps the copy from being put back.
+    Schrijf("DATA/EEN/JOURNAAL/00000006.BEZ/vol", "");
+    std::string anders = Inhoud("DATA/EEN/EEN.PRS");
+    anders[1] = 'q';
+    const std::string voor = Inhoud("DATA/EEN/EEN.PRS");
+    EXPECT_TRUE(VervangInhoud(hoofd.bestanden, {{BestandSoort::Personen, anders}},
+                              "Veiligheidskopie teruggezet: 2026-01-02 03:04:05"));
+    EXPECT_EQ(Inhoud("DATA/EEN/EEN.PRS"), voor);
+    EXPECT_EQ(journaal.LaatsteTeOngedaan()->nummer, 3U);
+  });
+}
+
+// Other sets have numbers in them.
+TEST_F(Kopieen, CentralePlaatsenDieAlleenGroeidenBlijven) {
+  std::filesystem::rename(map_ / "DATA/EEN/EEN.PLT", map_ / "DATA/PLAATS.PLT");
+  const auto maak = [this](bool andere) {
+    const std::string eerst = Inhoud("DATA/PLAATS.PLT");
+    const std::string plaats(27, 'p');
+    const SetPaden paden = SetPaden::Van(map_ / "DATA", "EEN");
+    NepGesprek gesprek;
+    Schrijfwijze schrijfwijze;
+    Volgers volgers;
+    Bestandenset bestanden;
+    const auto open = [&](BestandSoort soort) {
+      return bestanden.Open(soort, PadVanSoort(paden, soort));
+    };
+    bestanden.ZetJournaal(
+        {.tijd = [] { return std::string(19, '0'); }, .bijVreemd = {}, .map = {}});
+    for (const BestandSoort soort :
+         {BestandSoort::Personen, BestandSoort::Relaties, BestandSoort::Opmerkingen}) {
+      ASSERT_FALSE(open(soort));
+    }
+    ASSERT_FALSE(bestanden.Open(BestandSoort::Plaatsen, paden.centraal));
+    const Opslag opslag{bestanden, volgers, gesprek, schrijfwijze};
+    Veiligheidskopie kopie(opslag, klok_, paden, KopieMappenIn(map_, {}, "EEN"));
+    RecordBestand& plaatsen = bestanden.Bestand(BestandSoort::Plaatsen);
+    ASSERT_FALSE(plaatsen.Schrijf(2, plaats));
+    ASSERT_FALSE(kopie.Maak());
+    const std::string naam = kopie.Laatste().filename().string();
+    ASSERT_FALSE(plaatsen.Schrijf(3, plaats));
+    if (andere) {
+      ASSERT_FALSE(plaatsen.Schrijf(2, std::string(27, 'q')));
+    }
+    ASSERT_FALSE(kopie.ZetTerug(naam).fout);
+    EXPECT_EQ(Inhoud("DATA/PLAATS.PLT"), eerst.substr(0, 27) + plaats + (andere ? "" : plaats));
+  };
+  maak(false);
+  Schrijf("DATA/PLAATS.PLT", Inhoud("DATA/PLAATS.PLT").substr(0, 27));
+  maak(true);
+}
+
 TEST_F(Kopieen, EenLangereEnEenAfgekapteKopieKomenByteVoorByteTerug) {
   std::string lang = Inhoud("DATA/EEN/EEN.RLT");
   for (int i = 0; i < 200; ++i) lang += std::string(64, static_cast<char>('a' + i % 26));
@@ -139,7 +242,7 @@ TEST_F(Kopieen, EenKopieDieNietHeelIsWordtNietTeruggezet) {
 TEST_F(Kopieen, EenNaamDieErgensAndersHeenWijstIsErNiet) {
   Doe([](Hoofdmodule&, Veiligheidskopie& kopie) {
     for (const char* naam : {"../TWEE/2026-01-02_030405", "..", "", "2026-01-02_030405x/.."}) {
-      EXPECT_EQ(kopie.ZetTerug(naam).tekst, "Deze veiligheidskopie is er niet") << naam;
+      EXPECT_EQ(kopie.ZetTerug(naam).fout.tekst, "Deze veiligheidskopie is er niet") << naam;
     }
   });
 }

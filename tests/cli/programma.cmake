@@ -51,6 +51,27 @@ execute_process(COMMAND ${PROGRAMMA} --map ${NAAM} sets WORKING_DIRECTORY ${BOVE
 if(uitslag OR NOT uit MATCHES "PROEF")
   message(SEND_ERROR "lb77-cli --map ${NAAM} sets: status ${uitslag}\n${uit}")
 endif()
+# A reader that leaves before anything is written: the command ends as ever, and cleans up.
+file(WRITE ${MAP}/een.ged "0 HEAD\n1 CHAR ANSI\n0 @I1@ INDI\n1 NAME Jan /Dam/\n0 TRLR\n")
+verwacht(0 "" --map ${MAP} importeer PROEF ${MAP}/een.ged)
+find_program(SH sh)
+if(SH)
+  file(MAKE_DIRECTORY ${MAP}/tmp)
+  foreach(opdracht "zoek PROEF Dam" "kwartierstaat PROEF 2")
+    execute_process(WORKING_DIRECTORY ${MAP} ERROR_VARIABLE fout
+      COMMAND ${CMAKE_COMMAND} -E env TMPDIR=${MAP}/tmp ${SH} -c
+        "(sleep 0.5; '${PROGRAMMA}' --map '${MAP}' ${opdracht}; echo $? >status.txt) | :")
+    file(READ ${MAP}/status.txt uitslag)
+    if(NOT uitslag EQUAL 0 OR fout)
+      message(SEND_ERROR "lb77-cli ${opdracht} | : gives status ${uitslag}\n${fout}")
+    endif()
+  endforeach()
+  file(GLOB_RECURSE resten LIST_DIRECTORIES true ${MAP}/*)
+  list(FILTER resten INCLUDE REGEX "/LB77-[0-9]+$")
+  if(resten)
+    message(SEND_ERROR "lb77-cli leaves ${resten}")
+  endif()
+endif()
 if(EXISTS /dev/full)
   execute_process(COMMAND ${PROGRAMMA} --map ${MAP} sets OUTPUT_FILE /dev/full
     RESULT_VARIABLE uitslag ERROR_VARIABLE fout)

@@ -66,6 +66,20 @@ TEST_F(HuwActiesTest, ZonderRelatieGebeurtErNiets) {
   )");
 }
 
+TEST_F(HuwActiesTest, VanEenOnleesbarePersoonWordtNietsGesorteerd) {
+  MaakOnleesbaar(BestandSoort::Personen, 2);
+  Verwacht(
+      "antwoord Ja",
+      [](Hoofdmodule& hoofd) {
+        OrdenRelaties(hoofd, 2);
+        EXPECT_EQ(hoofd.volgers.HuidigPersoonNr, -1);
+      },
+      R"(
+    ? vraag Ja/Nee "Moet de volgorde Automatisch bepaald worden ?" -> Ja
+    ! stop "Fout bij het lezen van Persoonsrecord 2\nFout van de schijf"
+  )");
+}
+
 TEST_F(HuwActiesTest, NeeMaaktGeenRelatie) {
   Verwacht(
       "antwoord Nee", [](Hoofdmodule& hoofd) { NieuweRelatieVan(hoofd, 2); },

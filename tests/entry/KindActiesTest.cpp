@@ -133,7 +133,35 @@ TEST_F(KindActiesTest, EenOnleesbaarKindWordtNietGesorteerd) {
 
 TEST_F(KindActiesTest, EenLijstDieNietHeelIsBlijft) {
   Bouw().WijzigRelatie(2, {{"Kind15", "-99"}});
-  Orden("antwoord Ja", std::string(kAutomatisch) + "Ja\n! uitroep \"Het sorteren is mislukt\"");
+  Orden("antwoord Ja", std::string(kAutomatisch) + "Ja\n! uitroep \"Het sorteren is mislukt.\"");
+}
+
+TEST_F(KindActiesTest, VanEenOnleesbareRelatieWordtNietsGesorteerd) {
+  MaakOnleesbaar(BestandSoort::Relaties, 2);
+  const std::string leesfout =
+      "! stop \"Fout bij het lezen van Relatierecord 2\\nFout van de schijf\"\n";
+  Verwacht(
+      "antwoord Ja",
+      [](Hoofdmodule& hoofd) {
+        OrdenKinderen(hoofd, 2);
+        EXPECT_EQ(hoofd.volgers.HuidigRelatieNr, -1);
+      },
+      std::string(kAutomatisch) + "Ja\n" + leesfout);
+  Orden("antwoord Nee\nvul RecordNr 4\ndruk OKButton", std::string(kAutomatisch) + "Nee\n" + R"(
+    + KindSchuif "Volgnummer Kind Wijzigen"
+    - KindSchuif
+  )" + leesfout + "! uitroep \"Het sorteren is mislukt\"");
+}
+
+TEST_F(KindActiesTest, EenNummerDatNietVeranderdeLaatDeNamenStaan) {
+  constexpr std::string_view kNaam =
+      "vul VoorNm trui*\nvul AchterNm dam\ntoets RecordNr Tab\ntoon VoorNm\ndruk BackButton";
+  Orden("antwoord Nee\n" + std::string(kNaam), std::string(kAutomatisch) + R"(Nee
+    + KindSchuif "Volgnummer Kind Wijzigen"
+    = VoorNm "trui*"
+    - KindSchuif
+  )");
+  Erbij(kNaam, "= VoorNm \"\"\n- KindErbij");
 }
 
 TEST_F(KindActiesTest, MetDeHandKrijgtEenKindZijnPlaats) {

@@ -80,6 +80,29 @@ TEST_F(ZoekPrsTest, DeLaatsteRijWerktAlsDeAndere) {
   )");
 }
 
+TEST_F(ZoekPrsTest, TabGaatOverDeRijEnDanNaarDeVolgende) {
+  Reeks(3);
+  Speelt(R"(
+    toets RecordNrPrs(1) Tab
+    toets Space
+    toon PNr
+    druk OKButton
+    toets Tab
+    toets Tab
+    toets Space
+    toon PNr
+    druk OKButton
+  )",
+         R"(
+    + PersInfoForm "Info Persoon"
+    = PNr "2"
+    - PersInfoForm
+    + PersInfoForm "Info Persoon"
+    = PNr "3"
+    - PersInfoForm
+  )");
+}
+
 TEST_F(ZoekPrsTest, DeEerstePaginaHeeftVijftienPersonenEnEnterIsVolgende) {
   Reeks(40);
   EXPECT_EQ(Pagina(""), Nummers(2, 16));

@@ -86,7 +86,7 @@ TEST(GedRegelTest, NiveausLopenTotNegenennegentig) {
   EXPECT_EQ(Gesplitst("99999999999999999999 DIEP"), kFoutLevel);
 }
 
-TEST(GedRegelTest, CharsetIsChar) {
+TEST(GedRegelTest, CharsetGeldtAlsChar) {
   EXPECT_EQ(Gesplitst("1 CHARSET ANSEL"), "1||CHAR|ANSEL");
   EXPECT_EQ(Gesplitst("0 @C@ CHARSET"), "0|C|CHAR|");
 }

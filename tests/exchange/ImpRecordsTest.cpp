@@ -128,7 +128,7 @@ TEST_F(ImpRecordsTest, OpmerkingenInElkeVormBlijvenVoorDeDerdeGang) {
       1 TYPE j
       1 ADOP k
     )"),
-            "");
+            "LET OP: tekst niet overgenomen: 1 keer, voor het eerst in regel 13\n");
 }
 
 TEST_F(ImpRecordsTest, SchemalabelsWordenEenmaalPerImportGemeld) {

@@ -94,6 +94,57 @@ TEST_F(ImpVerliezenTest, OpmerkingenDieNietPassenOfNergensHorenWordenGeteld) {
             "LET OP: NOTE niet overgenomen: 2 keer, voor het eerst in regel 7\n");
 }
 
+// HEAD is line 1; what stands behind a line tells what becomes of it.
+TEST_F(ImpVerliezenTest, ElkeRegelDieNergensBlijftStaatErEenKeerIn) {
+  const std::string bytes = Ged(R"(
+      0 @I1@ INDI
+      1 NAME Jan /Dam/
+      2 SPFX van
+      1 ADOP door een oom
+      2 DATE 1860
+      1 EVEN sluitsteen
+      2 PLAC Delft
+      1 BIRT Y
+      1 DEAT op zee
+      1 ADDR Markt 1
+      1 CHAN
+      2 DATE 1 JAN 2000
+      1 NOTE kort
+      2 XYZ iets
+      2 CONT vervolg
+      1 _EIGEN a
+      1 _EIGEN b
+      0 @F1@ FAM
+      3 RFN 12
+      1 MARB
+      2 AGNC stad
+      0 @S1@ SOUR
+      1 TYPE boek
+      1 NOTE van een bron
+      2 CONT meer
+      0 @O1@ OBJE
+      1 FILE x.jpg
+      0 @N1@ NOTE los
+      1 CONT meer
+    )") + "0 @I9@ INDI\n\n1 NAME Piet /Dam/\n";
+  Importeer(bytes);
+  EXPECT_EQ(LogRegels(),
+            "P-I1 - Onbekende tag: INDI-ADOP-DATE : 1860\n"
+            "P-I1 - Onbekende tag: INDI-EVEN-PLAC : Delft\n"
+            "P-I1 - Onbekende tag: INDI-NOTE-XYZ : iets\n"
+            "P-I1 - Eigen tags van externe programma's worden niet ondersteund: INDI-_EIGEN\n"
+            "?-O1 - Onbekende tag: OBJE-FILE : x.jpg\n"
+            "LET OP: NOTE niet overgenomen: 2 keer, voor het eerst in regel 25\n"
+            "LET OP: vervolg van een NOTE niet overgenomen: 1 keer, voor het eerst in regel 16\n"
+            "LET OP: tekst niet overgenomen: 6 keer, voor het eerst in regel 5\n"
+            "LET OP: regel achter TRLR niet gelezen: 2 keer, voor het eerst in regel 32\n");
+}
+
+TEST_F(ImpVerliezenTest, DeKopVanHetBestandTeltNietMee) {
+  Importeer("0 HEAD\n1 SOUR ANDER\n2 TYPE x\n0 @I1@ INDI\n1 NAME Jan /Dam/\n0 TRLR\n");
+  EXPECT_EQ(LogRegels(), "");
+}
+
 TEST_F(ImpVerliezenTest, DeRegelsStaanVoorHetSlotEnAchterDeAndere) {
   Importeer(Ged("0 @I1@ INDI\n1 XYZ iets\n1 FAMS @F9@\n1 NOTE a\n2 SOUR b\n3 PAGE c"));
   EXPECT_EQ(Log(),

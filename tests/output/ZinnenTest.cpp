@@ -149,6 +149,14 @@ TEST_F(ZinnenTest, VerwijzingenNaarRecordEenOfNergensWordenOvergeslagen) {
   EXPECT_EQ(Zinnen(bronnen_).PartnersZin(jan, false), "");
 }
 
+TEST_F(ZinnenTest, VanEenOnleesbareLijstStaatErWatErIs) {
+  const std::int16_t jan = bouw_.Man("Jan", "Bos");
+  const std::int16_t relatie = bouw_.Relatie(jan, bouw_.Vrouw("Anna", "Eik"));
+  bouw_.WijzigPersoon(jan, {{"Relatie3", "-99"}});
+  ASSERT_EQ(relatie, 2);
+  EXPECT_EQ(Zinnen(bronnen_).PersoonInfoTekst(jan), "Jan Bos(2), tr. Anna Eik(3) ");
+}
+
 TEST_F(ZinnenTest, EenOnleesbarePartnerZegtHet) {
   const std::int16_t jan = bouw_.Man("Jan", "Bos");
   const std::int16_t relatie = bouw_.Relatie(jan, 0, {});

@@ -1,6 +1,7 @@
 // What holds for every form of the list.
 #include <gtest/gtest.h>
 
+#include <map>
 #include <set>
 
 #include "forms/Bijschrift.h"
@@ -103,6 +104,32 @@ TEST_P(ElkFormulier, SluitMetEscape) {
     formulier.Toets(nullptr, escape);
     EXPECT_TRUE(formulier.Gesloten());
   });
+}
+
+// The chapters of the manual on entering; the other areas name theirs in their own tests.
+const std::map<std::string_view, std::string_view> kHulpOnderwerpen = {
+    {"StartRecord", "personen"},     {"ToonPersoon", "personen"},
+    {"WijzigPersoon", "personen"},   {"ToonRelatie", "relaties"},
+    {"WijzigRelatie", "relaties"},   {"ToonKinderen", "relaties"},
+    {"MeerKinderen", "relaties"},    {"KindErbij", "relaties"},
+    {"KindEraf", "relaties"},        {"KindSchuif", "relaties"},
+    {"VolgnrKind", "relaties"},      {"VraagPartner", "relaties"},
+    {"HuwSchuif", "relaties"},       {"VolgNrHuw", "relaties"},
+    {"ToonPersOpm", "opmerkingen"},  {"ToonOpm", "opmerkingen"},
+    {"WijzigOpm", "opmerkingen"},    {"ToonPlaatsen", "plaatsen"},
+    {"VraagPlaatsnm", "plaatsen"},   {"VraagPlaatsnr", "plaatsen"},
+    {"VraagProv", "plaatsen"},       {"ZoekPrs", "zoeken"},
+    {"VraagFilter", "zoeken"},       {"OKPersoon", "zoeken"},
+    {"PersInfoForm", "zoeken"},      {"IniGebruiker", "instellingen"},
+    {"IniGezindte", "instellingen"}, {"IniVoorvoeg", "instellingen"},
+    {"IniVoorkeur", "instellingen"}, {"IniFunctie", "instellingen"},
+    {"IniSysteem", "instellingen"},
+};
+
+TEST_P(ElkFormulier, NoemtZijnHulponderwerp) {
+  const auto rij = kHulpOnderwerpen.find(GetParam().naam);
+  if (rij == kHulpOnderwerpen.end()) return;
+  MetForm([&](Formulier& formulier) { EXPECT_EQ(formulier.HulpOnderwerp(), rij->second); });
 }
 
 INSTANTIATE_TEST_SUITE_P(Lijst, ElkFormulier, ::testing::ValuesIn(AlleFormulieren()),

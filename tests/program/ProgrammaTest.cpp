@@ -78,7 +78,7 @@ TEST_F(Programmaloop, KeuzenVanWatErNietIsZijnGrijs) {
   MaakFamilie();
   Verwacht("toon TekstGen\ntoon ImportDBase\ntoon TekstKwst\ntoon ExpVVF\n", Sessie(), R"(
       + MenuWindow "LB77 voor Windows"
-      = TekstGen "&Genealogie of Parenteel" [uit]
+      = TekstGen "&Genealogie of Parenteel"
       = ImportDBase "&dBase" [uit]
       = TekstKwst "&Kwartierstaat"
       = ExpVVF "&VVFContact" [uit] [verborgen]
@@ -210,6 +210,31 @@ TEST_F(Programmaloop, ElkVerslagOverEenPersoonVraagtWieHetIs) {
       + KwstBldPrs "Nummer Proband"
       - KwstBldPrs
     )");
+}
+
+TEST_F(Programmaloop, VerslagenVanNakomelingenVragenOmEenPersoon) {
+  MaakFamilie();
+  Verwacht(R"(
+      kies TekstGen
+      sluit
+      kies IndexGen
+      sluit
+      kies SchemaGen
+      sluit
+      kies SchemaGezin
+      sluit
+    )",
+           Sessie(), R"~(
+      + MenuWindow "LB77 voor Windows"
+      + GenTxtPrs "Nummer Stamouder"
+      - GenTxtPrs
+      + GenIdxPrs "Nummer Stamouder"
+      - GenIdxPrs
+      + GenSchPrs "Nummer Stamouder"
+      - GenSchPrs
+      + GezinSchPrs "Nummer Gezinshoofd"
+      - GezinSchPrs
+    )~");
 }
 
 TEST_F(Programmaloop, HetMenuVeiligheidToontZijnVensters) {

@@ -9,9 +9,11 @@
 
 #include "Formulierproef.h"
 #include "app/Klok.h"
+#include "forms/Rijnaam.h"
 #include "program/AlleFormulieren.h"
 #include "program/Programma.h"
 #include "qt/Hoofdvenster.h"
+#include "qt/Indelingskeuze.h"
 #include "qt/Vertaling.h"
 #include "steun/BouwFamilie.h"
 #include "steun/TijdelijkeMap.h"
@@ -49,19 +51,47 @@ class FormulierenTest : public Formulierproef, public testing::WithParamInterfac
     hoofd.Ini.IniZet("Sets", "Set1", "ORANJE,De familie van Oranje");
   }
 
+  // Makes the form; the one that asks for a file gets one.
+  GemaaktFormulier Maak() {
+    if (GetParam().naam == "BekijkTekst") {
+      SchrijfBytes(map_ / "brief.txt", "Geachte familie,\r\n");
+      Bestand(map_ / "brief.txt");
+    }
+    return GetParam().maak(*programma_);
+  }
+
   TijdelijkeMap map_;
   VasteKlok klok_{{2026, 1, 2, 3, 4, 5}};
   std::optional<Programma> programma_;
 };
 
 TEST_P(FormulierenTest, GaatOpenToontAllesLooptRondEnSluit) {
-  if (GetParam().naam == "BekijkTekst") {
-    SchrijfBytes(map_ / "brief.txt", "Geachte familie,\r\n");
-    Bestand(map_ / "brief.txt");
-  }
-  GemaaktFormulier gemaakt = GetParam().maak(*programma_);
+  GemaaktFormulier gemaakt = Maak();
   ASSERT_EQ(gemaakt.formulier->Naam(), GetParam().naam);
   Beproef(*gemaakt.formulier);
+}
+
+// The eye reads a table row by row; so Tab goes.
+void VerwachtRijVoorRij(const Formulier& formulier, const Blok& blok) {
+  for (const Blok& deel : blok.delen) VerwachtRijVoorRij(formulier, deel);
+  if (blok.soort != Blok::Soort::Tabel) return;
+  const std::vector<Bediening*> erin = Genoemd(formulier, blok);
+  EXPECT_FALSE(erin.empty());
+  int vorige = 0;
+  for (const Bediening* bediening : formulier.Bedieningen()) {
+    if (!bediening->KanFocus() || std::count(erin.begin(), erin.end(), bediening) == 0) continue;
+    const auto lid = OntleedRijnaam(bediening->Naam());
+    ASSERT_TRUE(lid) << bediening->Naam();
+    EXPECT_GE(lid->nummer, vorige) << bediening->Naam();
+    vorige = lid->nummer;
+  }
+}
+
+TEST_P(FormulierenTest, GaatMetTabRijVoorRijDoorZijnTabellen) {
+  const GemaaktFormulier gemaakt = Maak();
+  const auto indeling = GeschrevenIndeling(gemaakt.formulier->Naam());
+  ASSERT_TRUE(indeling);
+  VerwachtRijVoorRij(*gemaakt.formulier, *indeling);
 }
 
 INSTANTIATE_TEST_SUITE_P(Alle, FormulierenTest, testing::ValuesIn(AlleFormulieren()),

@@ -3,6 +3,7 @@
 
 #include <QLabel>
 #include <QMenuBar>
+#include <QStatusBar>
 #include <QTest>
 
 #include "Vensterproef.h"
@@ -55,6 +56,17 @@ TEST_F(HoofdvensterTest, DeMenusStaanZoalsHetFormulierZegt) {
          Actie("KeuzeAfsluiten").trigger();
        }});
   EXPECT_TRUE(vorm.Gesloten());
+}
+
+TEST_F(HoofdvensterTest, DeStatusregelZegtWatEenEntryNuZouDoen) {
+  vorm.Ongedaan.ZetToelichting("Maakt ongedaan: Persoon 2 gewijzigd");
+  Voer(vorm, {[&] {
+         EXPECT_EQ(Actie("VeiligOngedaan").statusTip(), "Maakt ongedaan: Persoon 2 gewijzigd");
+         EXPECT_EQ(Actie("OpenSet").statusTip(), "");
+         Actie("VeiligOngedaan").showStatusText(&Hoofd());
+         EXPECT_EQ(Hoofd().statusBar()->currentMessage(), "Maakt ongedaan: Persoon 2 gewijzigd");
+         Actie("KeuzeAfsluiten").trigger();
+       }});
 }
 
 TEST_F(HoofdvensterTest, OngedaanHeeftEenToetsVanZichzelf) {

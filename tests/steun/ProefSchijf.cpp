@@ -28,6 +28,12 @@ SysteemFout ProefSchijf::Tel(bool schrijft, bool& half) {
   return half ? kVol : kStoring;
 }
 
+SysteemFout ProefSchijf::TelLezen() {
+  if (!lezenTelt) return dood_ ? kStoring : SysteemFout{};
+  bool half = false;
+  return Tel(false, half);
+}
+
 void ProefSchijf::Doe(std::string& bytes, const Ingreep& ingreep) {
   if (ingreep.kap) {
     bytes.resize(ingreep.plaats);
@@ -106,6 +112,19 @@ void ProefSchijf::MaakVast() {
   losseNamen_.clear();
 }
 
+ProefSchijf::Beeld ProefSchijf::Neem() const {
+  Beeld beeld;
+  for (const auto& [naam, inhoud] : namen_) beeld[naam] = inhoud->nu;
+  return beeld;
+}
+
+void ProefSchijf::Zet(const Beeld& beeld) {
+  namen_.clear();
+  for (const auto& [naam, bytes] : beeld) Bytes(naam) = bytes;
+  MaakVast();
+  Herstart();
+}
+
 std::string& ProefSchijf::Bytes(const std::string& naam) {
   std::shared_ptr<Inhoud>& inhoud = namen_[naam];
   if (!inhoud) inhoud = std::make_shared<Inhoud>();
@@ -128,8 +147,7 @@ class ProefBestand final : public RecordBestand {
       : schijf_(schijf), inhoud_(std::move(inhoud)), lengte_(lengte) {}
 
   Leesuitslag Lees(std::int32_t nr, std::span<char> doel) override {
-    bool half = false;
-    if (SysteemFout fout = schijf_.Tel(false, half)) return {0, fout};
+    if (SysteemFout fout = schijf_.TelLezen()) return {0, fout};
     const std::size_t plaats = static_cast<std::size_t>(nr - 1) * lengte_;
     if (plaats >= inhoud_->nu.size()) return {};
     const std::size_t aantal = std::min({doel.size(), lengte_, inhoud_->nu.size() - plaats});
@@ -165,16 +183,14 @@ class ProefJournaalMap final : public JournaalMap {
 
   SysteemFout Lijst(std::vector<JournaalPost>& posten) override {
     posten.clear();
-    bool half = false;
-    if (SysteemFout fout = schijf_.Tel(false, half)) return fout;
+    if (SysteemFout fout = schijf_.TelLezen()) return fout;
     for (const auto& [naam, inhoud] : schijf_.namen_) {
       if (IsJournaal(naam)) posten.push_back({naam, inhoud->nu.size()});
     }
     return {};
   }
   SysteemFout Lees(const std::string& naam, std::string& bytes) override {
-    bool half = false;
-    if (SysteemFout fout = schijf_.Tel(false, half)) return fout;
+    if (SysteemFout fout = schijf_.TelLezen()) return fout;
     bytes = schijf_.namen_.at(naam)->nu;
     return {};
   }
@@ -185,8 +201,7 @@ class ProefJournaalMap final : public JournaalMap {
     return fout;
   }
   SysteemFout Open(const std::string& naam) override {
-    bool half = false;
-    if (SysteemFout fout = schijf_.Tel(false, half)) return fout;
+    if (SysteemFout fout = schijf_.TelLezen()) return fout;
     open_ = schijf_.namen_.at(naam);
     return {};
   }

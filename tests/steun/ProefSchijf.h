@@ -27,7 +27,8 @@ class ProefSchijf {
     Vol,   // it and all writes behind it fail
     Dood,  // a write has written half of its bytes; the program does nothing more
   };
-  int bij = 0;  // 0 is never
+  int bij = 0;            // 0 is never
+  bool lezenTelt = true;  // False: only what changes something is an operation
   Wijze wijze = Wijze::Fout;
   int teller = 0;
 
@@ -46,6 +47,10 @@ class ProefSchijf {
   void Verwijder(const std::string& naam) { namen_.erase(naam); }
   // Everything that stands on the disk is safe.
   void MaakVast();
+  // All files with their bytes, and a disk that has these, safely, in a program that starts anew.
+  using Beeld = std::map<std::string, std::string>;
+  [[nodiscard]] Beeld Neem() const;
+  void Zet(const Beeld& beeld);
 
   // The files of a set on this disk, with a journal whose clock stands still.
   Bestandenset::Opener Opener();
@@ -71,6 +76,7 @@ class ProefSchijf {
 
   // Counts an operation: what it gives, and how much of it is done.
   SysteemFout Tel(bool schrijft, bool& half);
+  SysteemFout TelLezen();
   static void Doe(std::string& bytes, const Ingreep& ingreep);
   SysteemFout Verander(Inhoud& inhoud, Ingreep ingreep);
   SysteemFout Leg(Inhoud& inhoud);

@@ -109,6 +109,15 @@ TEST_F(JournaalOpSchijfTest, WaarGeenMapKanKomenWordtNietGeschreven) {
   EXPECT_EQ(LeesBytes(paden.prs), "");
 }
 
+TEST_F(JournaalOpSchijfTest, WatEenAnderMaakteWordtNietOverschreven) {
+  SchijfJournaalMap een(paden.map / "JOURNAAL");
+  SchijfJournaalMap ander(paden.map / "JOURNAAL");
+  ASSERT_FALSE(een.Maak("00000001.BEZ"));
+  ASSERT_FALSE(een.Schrijf(0, std::string("abc")));
+  EXPECT_EQ(ander.Maak("00000001.BEZ").nummer, kBestandBestaatAl);
+  EXPECT_EQ(LeesBytes(paden.map / "JOURNAAL/00000001.BEZ"), "abc");
+}
+
 TEST_F(JournaalOpSchijfTest, DeVierBestandenZelfBlijvenGelijkAanDieZonderJournaal) {
   ASSERT_FALSE(Schrijf(1, 'x'));
   ASSERT_FALSE(Schrijf(3, 'y'));

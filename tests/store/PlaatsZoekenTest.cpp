@@ -323,3 +323,17 @@ TEST_F(PlaatsZoekenTest, EenTellingDieVolIsKostGeenRecordEnGeenNieuweIndex) {
   EXPECT_LT(eerste, 6);
   EXPECT_EQ(LeesBytes(set.paden.plt), voor);
 }
+
+// Also when a field asks for it by itself.
+TEST(PlaatsHandelingTest, EenNieuwePlaatsIsEenHandeling) {
+  ProefSet set;
+  set.bestanden.ZetJournaal({[] { return std::string("2000-01-01 00:00:00"); }, {}, {}});
+  set.Heropen();
+  const std::string voor = LeesBytes(set.paden.plt);
+  EXPECT_EQ(set.Plaats.NrOfNieuw("Delft", "ZH"), 2);
+  Journaal& journaal = *set.bestanden.HetJournaal();
+  ASSERT_EQ(journaal.Geschiedenis().size(), 1U);
+  EXPECT_EQ(journaal.Geschiedenis()[0].label, "Plaats 2 toegevoegd: Delft");
+  EXPECT_TRUE(journaal.MaakOngedaan(1));
+  EXPECT_EQ(LeesBytes(set.paden.plt), voor);
+}

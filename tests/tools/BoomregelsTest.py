@@ -95,8 +95,26 @@ class Indeling(Boomregel):
                       LIJST, 2, "Mijn")
 
     def test_een_rij_met_indeling_mag(self):
-        self.schoon(boomregels.regel_indeling,
-                    {LIJST: RIJ, "src/qt/indeling/Sets.cpp": '{"Mijn", Kolom({})},\n'})
+        for indeling in ('{"Mijn", Kolom({})},', 'return {\n  {"Mijn",\n   Kolom({})},', '{"Mijn", V()}'):
+            self.schoon(boomregels.regel_indeling,
+                        {LIJST: RIJ, "src/qt/indeling/Sets.cpp": indeling + "\n"})
+
+    def test_wie_alleen_genoemd_wordt_heeft_geen_indeling(self):
+        for indeling in ('{"Ander", Kolom({"Mijn"})},', '{"Ander", Groep("Mijn", {"A"})},',
+                         '{"Ander", Kolom({"Mijn", Rij({"A"})})},', 'F("Mijn");',
+                         '// {"Mijn", Kolom({})},'):
+            self.verwacht(boomregels.regel_indeling,
+                          {LIJST: RIJ, "src/qt/indeling/Sets.cpp": indeling + "\n"}, LIJST, 1,
+                          "Mijn")
+
+    def test_ook_een_rij_over_meer_regels(self):
+        rij = '{\n     "Mijn",\n     [](Programma&) { return Maak<Mijn>(); }},\n'
+        self.verwacht(boomregels.regel_indeling, {LIJST: rij}, LIJST, 1, "Mijn")
+        self.schoon(boomregels.regel_indeling, {LIJST: "// " + RIJ})
+
+    def test_een_naam_die_er_niet_letterlijk_staat(self):
+        self.verwacht(boomregels.regel_indeling, {LIJST: RIJ.replace('"Mijn"', "kMijn")}, LIJST, 1,
+                      "kMijn")
 
 
 class HoofdmoduleNemen(Boomregel):
@@ -136,28 +154,69 @@ class Behandelaars(Boomregel):
         for regel in ("OKButton.BijKlik([this] { OKButtonKlik(); });",
                       "Naar(rij).BijKlik([this, rij] { NaarKlik(rij); });",
                       "Nr.BijVerlaten([this] { return NrVerlaten(); });",
+                      "Partners(rij).Nr.BijKlik([this] { PartnersNrKlik(); });",
+                      "vorige_->BijKlik([this] { VorigeKlik(); });",
+                      "keuzes_[*rij].BijKlik([this, doe = std::move(doe)] { KeuzesKlik(doe); });",
+                      "Nr.BijVerlaten([this, nrVerlaten] { return nrVerlaten(Nr.Tekst()); });",
+                      "Naam.BijWijziging([this] { OKButton.ZetIngeschakeld(true); });",
+                      "Naam.BijBetreden([this, naam] { oud_ = naam->Tekst(); });",
+                      "BijVerlaten([this] { return Verlaten(); });",
+                      "} void X::BijToets(ToetsGebeurtenis& toets) { Ga(1); Ga(2);",
                       "BackButton.BijKlik([this] { Sluit(); });"):
             self.schoon(boomregels.regel_behandelaars, self.met(regel))
 
     def test_een_andere_naam(self):
         for regel, goed in (("OKButton.BijKlik([this] { KlaarKlik(); });", "OKButtonKlik"),
                             ("Naar(rij).BijKlik([this, rij] { GaKlik(rij); });", "NaarKlik"),
-                            ("Nr.BijVerlaten([this] { return NrKlik(); });", "NrVerlaten")):
+                            ("Nr.BijVerlaten([this] { return NrKlik(); });", "NrVerlaten"),
+                            ("Vorige.BijKlik([this] { Stap(-1, Vorige); });", "VorigeKlik"),
+                            ("Pa.Nr.BijKlik([this] { this->Naar(Pa.Nr.Nr(), {}); });", "PaNrKlik"),
+                            ("Nr.BijVerlaten([this] { Zoek(); return true; });", "NrVerlaten"),
+                            ("Nr.BijBetreden([this] { if (leeg_) Nr.Wis(); });", "NrBetreden"),
+                            ("Nr.BijToets([this](ToetsGebeurtenis& t) { Kijk(t); });", "NrToets"),
+                            ("Nr.BijKlik(std::bind(&X::Ga, this));", "NrKlik"),
+                            ("BijVerlaten([this] { return Geldt(); });", "Verlaten"),
+                            ("knop->BijDubbelklik([this, knop] { Ga(*knop); });",
+                             "KnopDubbelklik")):
             self.verwacht(boomregels.regel_behandelaars, self.met(regel), "src/app/X.cpp", 2, goed)
+
+
+    def test_een_uitzondering_die_niet_meer_nodig_is(self):
+        oud = boomregels.BEHANDELAAR_MAG
+        boomregels.BEHANDELAAR_MAG = {"Ga": ("src/app/Y", "reason")}
+        self.addCleanup(setattr, boomregels, "BEHANDELAAR_MAG", oud)
+        hangt = self.met("Nr.BijKlik([this] { Ga(); });")
+        self.schoon(boomregels.regel_behandelaars, hangt | {"src/app/Y.h": ""})
+        self.verwacht(boomregels.regel_behandelaars, {"src/app/Y.h": ""}, "src/app/Y.h", 1,
+                      "niet meer nodig")
+
+
+class ToetsnaamInPython(Boomregel):
+    def test_een_nederlandse_zin_mag(self):
+        self.schoon(boomregels.regel_toetsnaam_python,
+                    {"tests/tools/XTest.py": "def test_een_rij_mag(self):\ndef reads(x):\n"})
+
+    def test_een_engelse_niet(self):
+        self.verwacht(boomregels.regel_toetsnaam_python,
+                      {"tests/tools/XTest.py": "\n    def test_reads_rows(self):\n"},
+                      "tests/tools/XTest.py", 2, "reads")
 
 
 class Leesmij(Boomregel):
     def met(self, tekst):
         return {"src/app/README.md": "# app\n" + tekst + "\n", "src/app/sub/MijnForm.h": "",
-                "src/app/X.cpp": 'int EenFunctie() { return F("TEKST"); }  // Verdwenen\n'}
+                "src/app/X.cpp": 'int EenFunctie() { return F("TEKST", "een zin"); }  // Verdwenen\n',
+                "src/ander/MijnBron.h": "", "src/app/CMakeLists.txt": "doel  # Opmerking\n"}
 
     def test_wat_er_is_mag(self):
         for stuk in ("`MijnForm`", "`MijnForm.h`, `sub/`", "`EenFunctie`", "`TEKST`", "`...Form`",
-                     "`Mijn…`", "`*Form.h`", "Verdwenen"):
+                     "`Mijn…`", "`*Form.h`", "`ander/MijnBron.h`", "`MijnBron`", "`doel`",
+                     "`EenFunctie(…)`", "Verdwenen"):
             self.schoon(boomregels.regel_leesmij, self.met(stuk))
 
     def test_wat_er_niet_meer_is(self):
-        for stuk in ("`Verdwenen`", "`Weg.h`", "`weg/`", "`Een`", "`Weg…`", "`EenFunctie Weg`"):
+        for stuk in ("`Verdwenen`", "`Weg.h`", "`weg/`", "`Een`", "`Weg…`", "`EenFunctie Weg`",
+                      "`zin`", "`Opmerking`", "`MijnBron.h`", "`Functie…`", "`…Een`", "`EenFunctie(Weg…)`"):
             self.verwacht(boomregels.regel_leesmij, self.met("\n" + stuk), "src/app/README.md", 3,
                           stuk)
 

@@ -133,15 +133,21 @@ class Merk(Regel):
 class Toetsnaam(Regel):
     def test_een_nederlandse_zin_mag(self):
         for naam in ("EenNaamDieOntbreektIsOnbekend", "RecordNulIsErNiet", "HetLastGeenAnder",
-                     "OpenIsOpen", "InDeTest"):
+                     "OpenIsGewoonOpen", "InDeTest", "NaHTMLKomtTekst", "SetsBlijvenWatZeZijn"):
             self.schoon("tests/app/XTest.cpp", f"TEST_F(X, {naam}) {{}}\n")
 
     def test_een_engelse_niet(self):
-        for naam, woord in (("ShowsItsName", "Shows"), ("AFileThatIsGone", "That"),
-                            ("EndsWithOne", "Ends"), ("AnUnknownSetIsTold", "Unknown")):
-            for soort in ("TEST", "TEST_F", "TEST_P", "TYPED_TEST"):
+        for naam, woord in (("ShowsItsName", "shows"), ("AFileThatIsGone", "file"),
+                            ("EndsWithOne", "ends"), ("AnUnknownSetIsTold", "an"),
+                            ("HandlesEmptyInput", "empty"), ("EenFileIsWeg", "file"),
+                            ("sorts_names", "sorts")):
+            for soort in ("TEST", "TEST_F", "TEST_P", "TYPED_TEST", "  TEST", "GTEST_TEST"):
                 self.verwacht("tests/app/XTest.cpp", f"\n{soort}(X, {naam}) {{}}\n", 2, woord)
-        self.verwacht("bench/XTest.cpp", "TEST(X, ReadsAll) {}\n", 1, "Reads")
+        self.verwacht("bench/XTest.cpp", "TEST(X, ReadsAll) {}\n", 1, "reads")
+
+    def test_een_naam_zonder_een_nederlands_woord(self):
+        for naam in ("RejectsBadDates", "Roundtrip", "sortsnames", "OpenIsOpen", "WipesDisks"):
+            self.verwacht("tests/app/XTest.cpp", f"TEST(X, {naam}) {{}}\n", 1, "Nederlandse zin")
 
 
 def functie(regels, kop="int F() {"):

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""A real kill -9 at each file operation of an import, and what can be done about it afterwards.
+"""A real kill -9 at the file operations of commands that write, and what can be done about it afterwards.
 
 Arguments: the command line program, the preload library, a GEDCOM file.
 """
@@ -37,14 +37,14 @@ class Sterf(unittest.TestCase):
             self.assertEqual(uit.returncode, 0, uit.stderr.decode())
         self.voor = inhoud(self.basis)
 
-    def sterf(self, bij, naam):
-        """A copy of the set in which an import was killed; whether it was."""
+    def sterf(self, bij, naam, *woorden, onder="DATA/FAM"):
+        """A copy of the set in which a command, an import at first, was killed; whether it was."""
         werk = self.basis.parent / naam
         shutil.rmtree(werk, ignore_errors=True)
         shutil.copytree(self.basis, werk)
-        uit = lb77(werk, "importeer", "FAM", GEDCOM, omgeving={
+        uit = lb77(werk, *(woorden or ("importeer", "FAM", GEDCOM)), omgeving={
             "LD_PRELOAD": str(BIBLIOTHEEK), "STERF_BIJ": str(bij),
-            "STERF_MAP": str(werk / "DATA" / "FAM")})
+            "STERF_MAP": str(werk / onder)})
         return werk, uit.returncode == -9
 
     def operaties(self):
@@ -80,6 +80,38 @@ class Sterf(unittest.TestCase):
             for oud, nu, lengte in zip(self.voor, inhoud(werk), (128, 64, 96, 27)):
                 # All but the record that counts.
                 self.assertEqual(nu[lengte:len(oud)], oud[lengte:], f"operation {bij}")
+
+
+    def test_ook_terugzetten_en_ongedaan_maken_zijn_geheel_of_niet(self):
+        kopie = lb77(self.basis, "terugzetten", "FAM").stdout.decode().splitlines()[-1].split()[0]
+        for woorden in (("ongedaan", "FAM"), ("terugzetten", "FAM", kopie)):
+            gestorven, bij, operaties = True, 1, 0
+            while gestorven:
+                werk, gestorven = self.sterf(bij, "terug", *woorden)
+                lb77(werk, "herstel", "FAM")
+                na = inhoud(werk)
+                if na != self.voor:
+                    self.assertEqual([len(b) for b in na], [128, 64, 96, 27], f"{woorden} {bij}")
+                # It opens, and nothing is asked.
+                uit = lb77(werk, "geschiedenis", "FAM")
+                self.assertEqual(uit.returncode, 0, f"{woorden} {bij}: {uit.stderr.decode()}")
+                bij, operaties = bij + 4, operaties + 1
+            self.assertNotEqual(na, self.voor)
+            self.assertGreater(operaties, 5)
+
+    def test_een_nieuwe_set_komt_er_na_elke_dood_alsnog(self):
+        gestorven, bij = True, 1
+        while gestorven:
+            werk, gestorven = self.sterf(bij, "nieuw", "nieuw", "ANDER", onder=".")
+            self.assertIn(b"FAM", lb77(werk, "sets").stdout, f"operation {bij}")
+            if b"ANDER" not in lb77(werk, "sets").stdout:
+                uit = lb77(werk, "nieuw", "ANDER")
+                self.assertEqual(uit.returncode, 0, f"operation {bij}: {uit.stderr.decode()}")
+            namen = [werk / "DATA" / "ANDER" / f"ANDER.{soort}" for soort in ("PRS", "RLT", "OPM", "PLT")]
+            self.assertEqual([naam.stat().st_size for naam in namen], [128, 64, 96, 27], f"operation {bij}")
+            self.assertEqual(inhoud(werk), self.voor)
+            bij += 1
+        self.assertGreater(bij, 8)
 
 
 if __name__ == "__main__":

@@ -6,6 +6,7 @@
 #include "app/IniSysteem.h"
 #include "app/IniVoorkeur.h"
 #include "app/IniVoorvoeg.h"
+#include "app/KopiePlaats.h"
 #include "app/KopieTerugzetten.h"
 #include "app/NieuweSet.h"
 #include "app/OpenSetForm.h"
@@ -27,6 +28,7 @@ constexpr FormulierRij kRijen[] = {
     {"IniFunctie", [](Programma& p) { return Maak<IniFunctie>(p.Hoofd()); }},
     {"IniSysteem", [](Programma& p) { return Maak<IniSysteem>(p.Hoofd()); }},
     {"Geschiedenis", [](Programma& p) { return Maak<Geschiedenis>(p.Hoofd()); }},
+    {"KopiePlaats", [](Programma& p) { return Maak<KopiePlaats>(p.Hoofd()); }},
     {"KopieTerugzetten", [](Programma& p) { return Maak<KopieTerugzetten>(p.Hoofd()); }},
     {"OverLB77Form", [](Programma&) { return Maak<OverLB77Form>(); }},
 };

@@ -15,6 +15,8 @@ namespace lb77::formulieren {
 [[nodiscard]] std::span<const FormulierRij> Output();
 [[nodiscard]] std::span<const FormulierRij> Entry();
 [[nodiscard]] std::span<const FormulierRij> Ancestors();
+[[nodiscard]] std::span<const FormulierRij> Gezinsbladen();
+[[nodiscard]] std::span<const FormulierRij> Descendants();
 
 inline constexpr std::int16_t kVoorbeeldPersoon = 2;
 

@@ -17,8 +17,15 @@ namespace lb77::indeling {
 [[nodiscard]] std::vector<Indeling> Opmerkingen();
 [[nodiscard]] std::vector<Indeling> Bekijken();
 [[nodiscard]] std::vector<Indeling> Kwartierstaat();
+[[nodiscard]] std::vector<Indeling> Gezinsblad();
+[[nodiscard]] std::vector<Indeling> Genealogie();
 [[nodiscard]] std::vector<Indeling> Uitwisseling();
 [[nodiscard]] std::vector<Indeling> Veiligheid();
+
+// What every form has that asks for a person.
+[[nodiscard]] Blok PersoonPrompt();
+// The links of a page, which all reports for the Internet ask.
+[[nodiscard]] Blok InternetOpties();
 
 // Those of all areas.
 [[nodiscard]] std::vector<Indeling> Alle();

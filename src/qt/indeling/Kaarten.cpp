@@ -1,4 +1,5 @@
 // The cards of persons and relations, and the question where to begin.
+#include <string>
 #include <utility>
 
 #include "qt/indeling/Indelingen.h"
@@ -6,6 +7,27 @@
 namespace lb77::indeling {
 
 namespace {
+
+// Values with the room that a full field needs.
+Blok Code(std::string naam) {
+  return Veld(std::move(naam), {}, 2);
+}
+Blok Plaatsnaam(std::string naam) {
+  return Veld(std::move(naam), {}, 22);
+}
+Blok Plaatsnr(std::string naam) {
+  return Veld(std::move(naam), {}, 6);
+}
+Blok Gezindte(std::string naam) {
+  return Veld(std::move(naam), {}, 22);
+}
+// First names are as long as an occupation.
+Blok Voornamen(std::string naam) {
+  return Veld(std::move(naam), {}, 27);
+}
+Blok Achternaam(std::string naam) {
+  return Veld(std::move(naam), {}, 22);
+}
 
 // With Corr, Datum, Plaats, Nummer above the columns; each field has the button of its remarks behind it.
 Blok Gebeurtenissen(std::vector<Blok> regels) {
@@ -16,23 +38,25 @@ Blok Persoon() {
   return Kolom({
       Rooster({
           Rij({"RecordNr", "Geslacht"}),
-          Rij({Rij({"VoorNm", "VoorNmOpm"}), Rij({"AchterNm", "AchterNmOpm"})}),
+          Rij({Rij({Voornamen("VoorNm"), "VoorNmOpm"}),
+               Rij({Achternaam("AchterNm"), "AchterNmOpm"})}),
       }),
       Gebeurtenissen({
-          Rij({"GebLabel", "GebCorr", Rij({"GebDatum", "GebDatumOpm"}), "GebPltsNm",
-               Rij({"GebPltsNr", "GebPltsOpm"})}),
-          Rij({"DoopLabel", "", Rij({"DoopDatum", "DoopDatumOpm"}), "DoopPltsNm",
-               Rij({"DoopPltsNr", "DoopPltsOpm"})}),
-          Rij({"ReligieLabel", "ReligieCode", Rij({"ReligieTekst", "ReligieOpm"}),
-               Over(2, Rij({"BeroepTekst", "BeroepOpm"}))}),
-          Rij({"OvlLabel", "OvlCorr", Rij({"OvlDatum", "OvlDatumOpm"}), "OvlPltsNm",
-               Rij({"OvlPltsNr", "OvlPltsOpm"})}),
-          Rij({"BegrLabel", "", Rij({"BegrDatum", "BegrDatumOpm"}), "BegrPltsNm",
-               Rij({"BegrPltsNr", "BegrPltsOpm"})}),
+          Rij({"GebLabel", Code("GebCorr"), Rij({"GebDatum", "GebDatumOpm"}),
+               Plaatsnaam("GebPltsNm"), Rij({Plaatsnr("GebPltsNr"), "GebPltsOpm"})}),
+          Rij({"DoopLabel", "", Rij({"DoopDatum", "DoopDatumOpm"}), Plaatsnaam("DoopPltsNm"),
+               Rij({Plaatsnr("DoopPltsNr"), "DoopPltsOpm"})}),
+          Rij({"ReligieLabel", Code("ReligieCode"), Rij({Gezindte("ReligieTekst"), "ReligieOpm"}),
+               Over(2, Rij({Voornamen("BeroepTekst"), "BeroepOpm"}))}),
+          Rij({"OvlLabel", Code("OvlCorr"), Rij({"OvlDatum", "OvlDatumOpm"}),
+               Plaatsnaam("OvlPltsNm"), Rij({Plaatsnr("OvlPltsNr"), "OvlPltsOpm"})}),
+          Rij({"BegrLabel", "", Rij({"BegrDatum", "BegrDatumOpm"}), Plaatsnaam("BegrPltsNm"),
+               Rij({Plaatsnr("BegrPltsNr"), "BegrPltsOpm"})}),
       }),
       Rooster({
-          Rij({Over(2, Rij({"RecordNrPa", "VoorNmPa", "AchterNmPa"})), "RelNrOuders"}),
-          Rij({Over(2, Rij({"RecordNrMa", "VoorNmMa", "AchterNmMa"}))}),
+          Rij({Over(2, Rij({"RecordNrPa", Voornamen("VoorNmPa"), Achternaam("AchterNmPa")})),
+               "RelNrOuders"}),
+          Rij({Over(2, Rij({"RecordNrMa", Voornamen("VoorNmMa"), Achternaam("AchterNmMa")}))}),
       }),
       Tabel({
           Veld("LabelP(*)"),
@@ -51,18 +75,21 @@ Blok Relatie() {
   return Kolom({
       Rooster({
           Rij({"RecordNr", Rij({"Kindertal", "NaarKind"})}),
-          Rij({Over(2, Rij({"ManLabel", "NaarMan", "VoorNmMan", "AchterNmMan"}))}),
-          Rij({Over(2, Rij({"VrouwLabel", "NaarVrouw", "VoorNmVrouw", "AchterNmVrouw"}))}),
+          Rij({Over(
+              2, Rij({"ManLabel", "NaarMan", Voornamen("VoorNmMan"), Achternaam("AchterNmMan")}))}),
+          Rij({Over(2, Rij({"VrouwLabel", "NaarVrouw", Voornamen("VoorNmVrouw"),
+                            Achternaam("AchterNmVrouw")}))}),
       }),
       Gebeurtenissen({
-          Rij({"OtrLabel", "", Rij({"OtrDatum", "OtrDatumOpm"}), "OtrPltsNm",
-               Rij({"OtrPltsNr", "OtrPltsOpm"})}),
-          Rij({"WetHuwLabel", "HuwCorr", Rij({"WetHuwDatum", "WetHuwDatumOpm"}), "WHuwPltsNm",
-               Rij({"WHuwPltsNr", "WHuwPltsOpm"})}),
-          Rij({"HuwSoortLabel", "HuwSoortCode", Rij({"HuwSoortTekst", "HuwSoortOpm"})}),
-          Rij({"KHuwLabel", "", Rij({"KHuwDatum", "KHuwDatumOpm"}), "KHuwPltsNm",
-               Rij({"KHuwPltsNr", "KHuwPltsOpm"})}),
-          Rij({"ReligieLabel", "ReligieCode", Rij({"ReligieTekst", "ReligieOpm"})}),
+          Rij({"OtrLabel", "", Rij({"OtrDatum", "OtrDatumOpm"}), Plaatsnaam("OtrPltsNm"),
+               Rij({Plaatsnr("OtrPltsNr"), "OtrPltsOpm"})}),
+          Rij({"WetHuwLabel", Code("HuwCorr"), Rij({"WetHuwDatum", "WetHuwDatumOpm"}),
+               Plaatsnaam("WHuwPltsNm"), Rij({Plaatsnr("WHuwPltsNr"), "WHuwPltsOpm"})}),
+          Rij({"HuwSoortLabel", Code("HuwSoortCode"),
+               Rij({Gezindte("HuwSoortTekst"), "HuwSoortOpm"})}),
+          Rij({"KHuwLabel", "", Rij({"KHuwDatum", "KHuwDatumOpm"}), Plaatsnaam("KHuwPltsNm"),
+               Rij({Plaatsnr("KHuwPltsNr"), "KHuwPltsOpm"})}),
+          Rij({"ReligieLabel", Code("ReligieCode"), Rij({Gezindte("ReligieTekst"), "ReligieOpm"})}),
       }),
       Rooster({Rij({Rij({"AlgRelOpmTekst", "AlgRelOpm"})})}),
       Knoppen({"VorigeRelatie", "VolgendeRelatie"}, {"NieuwButton", "WijzigButton", "BackButton"}),
@@ -73,8 +100,8 @@ Blok Kinderen(const Blok& knoppen) {
   return Kolom({
       Rooster({
           Rij({"RecordNr"}),
-          Rij({Rij({"NaarMan", "VoorNmMan", "AchterNmMan"})}),
-          Rij({Rij({"NaarVrouw", "VoorNmVrouw", "AchterNmVrouw"})}),
+          Rij({Rij({"NaarMan", Voornamen("VoorNmMan"), Achternaam("AchterNmMan")})}),
+          Rij({Rij({"NaarVrouw", Voornamen("VoorNmVrouw"), Achternaam("AchterNmVrouw")})}),
       }),
       Groep("Kinderen", {Tabel({
                             Veld("KindLabel(*)"),

@@ -5,14 +5,6 @@ namespace lb77::indeling {
 
 namespace {
 
-Blok PersoonKeuze() {
-  return Kolom({
-      "VraagLabel",
-      Velden({"RecordNr", "VoorNm", "AchterNm"}),
-      Knoppen({"ZoekButton"}, {"OKButton", "BackButton"}),
-  });
-}
-
 Blok Nummer(const char* veld) {
   return Kolom({Velden({veld}), Knoppen({"OKButton", "BackButton"})});
 }
@@ -21,8 +13,8 @@ Blok Nummer(const char* veld) {
 
 std::vector<Indeling> Koppelen() {
   return {
-      {"KindErbij", PersoonKeuze()},     {"KindEraf", PersoonKeuze()},
-      {"KindSchuif", PersoonKeuze()},    {"VraagPartner", PersoonKeuze()},
+      {"KindErbij", PersoonPrompt()},    {"KindEraf", PersoonPrompt()},
+      {"KindSchuif", PersoonPrompt()},   {"VraagPartner", PersoonPrompt()},
       {"HuwSchuif", Nummer("RecordNr")}, {"VolgnrKind", Nummer("VolgNum")},
       {"VolgNrHuw", Nummer("VolgNum")},
   };

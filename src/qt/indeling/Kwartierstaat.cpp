@@ -10,14 +10,6 @@ namespace lb77::indeling {
 
 namespace {
 
-Blok PersoonPrompt() {
-  return Kolom({
-      "VraagLabel",
-      Velden({"RecordNr", "VoorNm", "AchterNm"}),
-      Knoppen({"ZoekButton"}, {"OKButton", "BackButton"}),
-  });
-}
-
 Blok Titels() {
   return Groep("Titel en inleiding",
                {Velden({"TitelTekst", "Inleiding1", "Inleiding2", "Inleiding3"})});
@@ -40,14 +32,6 @@ Blok Opties(const std::vector<Blok>& uitvoer) {
                           })}),
       Groep("Uitvoer", {Velden(uitvoer)}),
       Titels(),
-      Knoppen({"OKButton", "BackButton"}),
-  });
-}
-
-Blok InternetOpties() {
-  return Kolom({
-      Groep("E-mail", {Velden({"EmailAdres", "EmailTekst"})}),
-      Groep("Home Page", {Velden({"HomePageURL", "URLLabelTekst", "URLTekstTekst"})}),
       Knoppen({"OKButton", "BackButton"}),
   });
 }
@@ -82,16 +66,15 @@ void Stamlijn(int plaats, int generatie, std::vector<Blok>& regels) {
   constexpr int kGeneraties = 4;
   constexpr int kCellen = 3;  // that a generation moves to the right
   if (generatie < kGeneraties) Stamlijn(2 * plaats, generatie + 1, regels);
-  const auto veld = [plaats](const std::string& naam) {
-    return Veld(naam + "(" + GetalTekst(plaats) + ")");
+  const auto veld = [plaats](const std::string& naam, int breedte = 0) {
+    return Veld(naam + "(" + GetalTekst(plaats) + ")", {}, breedte);
   };
-  std::vector<Blok> regel(static_cast<std::size_t>((generatie - 1) * kCellen), Veld("", {}, 1));
-  regel.push_back(Over((kGeneraties - generatie + 1) * kCellen,
-                       Rij({veld("Proband"), veld("InfoPersoon"), veld("Kwartier"), veld("Periode"),
-                            veld("Kwartier_A")})));
-  Blok onzichtbaar = Rij({veld("KW_Index"), veld("KW_Nr")});
-  onzichtbaar.breedte = 1;
-  regel.push_back(std::move(onzichtbaar));
+  std::vector<Blok> regel(static_cast<std::size_t>((generatie - 1) * kCellen), "");
+  regel.push_back(Over((kGeneraties - generatie) * kCellen + 1,
+                       Rij({veld("Proband"), veld("InfoPersoon"), veld("Kwartier"),
+                            veld("Periode", 8), veld("Kwartier_A")})));
+  regel.push_back(
+      Rij({veld("KW_Index", 1), veld("KW_Nr", 1)}));  // hidden, but they keep their room
   regels.push_back(Rij(std::move(regel)));
   if (generatie < kGeneraties) Stamlijn(2 * plaats + 1, generatie + 1, regels);
 }

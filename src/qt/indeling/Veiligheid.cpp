@@ -9,6 +9,10 @@ std::vector<Indeling> Veiligheid() {
                            Velden({"HandelingLijst", "InhoudLijst"}),
                            Knoppen({"OngedaanButton"}, {"BackButton"}),
                        })},
+      {"KopiePlaats", Kolom({
+                          Velden({Rij({"KopieMap", "BrowseKopieMap"}), "KopieUitleg"}),
+                          Knoppen({"OKButton", "BackButton"}),
+                      })},
       {"KopieTerugzetten", Kolom({
                                Velden({"KopieLijst"}),
                                Knoppen({"OKButton", "BackButton"}),

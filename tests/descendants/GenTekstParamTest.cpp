@@ -1,0 +1,185 @@
+// The option dialog of the descendant report.
+#include <gtest/gtest.h>
+
+#include "descendants/GenKeten.h"
+
+namespace lb77 {
+namespace {
+
+class GenTekstParamToets : public GenKeten {
+ protected:
+  // What the dialog shows of a control under these settings.
+  void Toont(std::string_view controle, std::string_view waarde,
+             const Plek& plek = Plek::current()) {
+    Speel(Weg()
+              .In("GenTxtParam", "toon " + std::string(controle) + "\ndruk BackButton",
+                  "= " + std::string(controle) + " \"" + std::string(waarde) + "\"")
+              .Tot("GenTxtParam"),
+          plek);
+  }
+};
+
+TEST_F(GenTekstParamToets, OpentMetZijnStandaardEnDeBewaardeKeuzen) {
+  Speel(Weg()
+            .In("GenTxtParam", "toon\ndruk BackButton", R"(
+      : GenTxtParam "Genealogie / Parenteel Uitvoeropties"
+      = NrStamouder "4"
+      = VoorNmStamouder "Jan"
+      = AchterNmStamouder "Kok"
+      = Periode "1700-1770"
+      = MaxGen "80"
+      = ZonenBox "Alle Zonen"
+      = DochtersBox "Alle Dochters"
+      = GrensLeeftijd "15"
+      = PrsHerhaalBox "Nee"
+      = UitsluitBox "Nee"
+      = InHTMLBox "Nee"
+      = PerTakBox "Per tak"
+      = OokNrsBox "Nee"
+      = OokOpmBox "Ja"
+      = VerwijsBox "Ja"
+      = CopyrightBox "Ja"
+      = OokLB77Box "Ja"
+      = TitelTekst "Genealogie van Jan Kok"
+      = Inleiding1 ""
+      = Inleiding2 ""
+      = Inleiding3 ""
+      = OKButton "&OK"
+      = BackButton "&Terug"
+      * MaxGen
+    )")
+            .Tot("GenTxtParam"));
+}
+
+TEST_F(GenTekstParamToets, DeRegelsStaanInHunVolgorde) {
+  Speel(Weg()
+            .In("GenTxtParam", "toon ZonenBox\ntoon DochtersBox\ntoon PerTakBox\ndruk BackButton",
+                R"~(
+      = ZonenBox "Alle Zonen"
+      #0 "Geen Zonen"
+      #1 "Zonen met nageslacht"
+      #2 "Zonen met Relatie(s)"
+      #3 "Zonen ouder dan .. jaar"
+      #4 "Alle Zonen"
+      = DochtersBox "Alle Dochters"
+      #0 "Geen Dochters"
+      #1 "Dochters met nageslacht"
+      #2 "Dochters met Relatie(s)"
+      #3 "Ongehuwde Moeders"
+      #4 "Dochters ouder dan .. jaar"
+      #5 "Alle Dochters"
+      = PerTakBox "Per tak"
+      #0 "Per tak"
+      #1 "Per generatie"
+    )~")
+            .Tot("GenTxtParam"));
+}
+
+TEST_F(GenTekstParamToets, DeBewaardeLeeftijdGeldtBovenDeTien) {
+  ZetIni("Leeftijd=0", "Leeftijd=10");
+  Toont("GrensLeeftijd", "15");
+  ZetIni("Leeftijd=0", "Leeftijd=11");
+  Toont("GrensLeeftijd", "11");
+  ZetIni("Leeftijd=0", "Leeftijd=79");
+  Toont("GrensLeeftijd", "79");
+  ZetIni("Leeftijd=0", "Leeftijd=1000");
+  Toont("GrensLeeftijd", "15");
+}
+
+TEST_F(GenTekstParamToets, HetAantalGeneratiesWordtGecontroleerd) {
+  Speel(Weg()
+            .In("GenTxtParam",
+                "vul MaxGen\nvul MaxGen 0\nvul MaxGen 81\nvul MaxGen 80\ndruk BackButton",
+                R"~(
+      ! uitroep "Het maximum aantal generaties is verplicht"
+      ! uitroep "Onjuist aantal generaties (1-80)"
+      ! uitroep "Onjuist aantal generaties (1-80)"
+    )~")
+            .Tot("GenTxtParam"));
+}
+
+TEST_F(GenTekstParamToets, DeLeeftijdNeemtAlleenCijfers) {
+  Speel(Weg()
+            .In("GenTxtParam",
+                "vul GrensLeeftijd -x2y0\ntoon GrensLeeftijd\nvul GrensLeeftijd\ndruk BackButton",
+                "= GrensLeeftijd \"20\"")
+            .Tot("GenTxtParam"));
+}
+
+TEST_F(GenTekstParamToets, KeuzenBlijvenInDeInstellingen) {
+  Speel(Weg()
+            .In("GenTxtParam", R"(
+                stel ZonenBox Zonen ouder dan .. jaar
+                stel DochtersBox Dochters met nageslacht
+                vul GrensLeeftijd 21
+                stel PrsHerhaalBox Ja
+                stel UitsluitBox Ja
+                stel PerTakBox Per generatie
+                stel OokNrsBox Ja
+                stel OokOpmBox Nee
+                stel VerwijsBox Nee
+                stel CopyrightBox Nee
+                stel OokLB77Box Nee
+                druk OKButton
+              )")
+            .In("GenTxtUitsluit", "druk OKButton"));
+  EXPECT_TRUE(
+      IniHeeft("[GEN]\r\nOokNummers=J\r\nOokOpm=N\r\nVolgHerh=J\r\nHTML=N\r\nOokCopyRt=N\r\n"
+               "OokLB77=N\r\nOokEmail=N\r\nOokHomePage=N\r\nOokHSKHome=N\r\nVolgZonen=4\r\n"
+               "VolgDochters=2\r\nVerwijzing=N\r\nPerGeneratie=J\r\nUitsluiten=J\r\nLeeftijd=21"))
+      << Ini();
+  EXPECT_FALSE(VerslagHeeft("Copyright"));
+  EXPECT_FALSE(VerslagHeeft("Gemaakt met"));
+  Speel(Weg()
+            .In("GenTxtParam", "toon\nsluit", R"(
+      : GenTxtParam "Genealogie / Parenteel Uitvoeropties"
+      = NrStamouder "4"
+      = VoorNmStamouder "Jan"
+      = AchterNmStamouder "Kok"
+      = Periode "1700-1770"
+      = MaxGen "80"
+      = ZonenBox "Zonen ouder dan .. jaar"
+      = DochtersBox "Dochters met nageslacht"
+      = GrensLeeftijd "21"
+      = PrsHerhaalBox "Ja"
+      = UitsluitBox "Ja"
+      = InHTMLBox "Nee"
+      = PerTakBox "Per generatie"
+      = OokNrsBox "Ja"
+      = OokOpmBox "Nee"
+      = VerwijsBox "Nee"
+      = CopyrightBox "Nee"
+      = OokLB77Box "Nee"
+      = TitelTekst "Genealogie van Jan Kok"
+      = Inleiding1 ""
+      = Inleiding2 ""
+      = Inleiding3 ""
+      = OKButton "&OK"
+      = BackButton "&Terug"
+      * MaxGen
+    )")
+            .Tot("GenTxtParam"));
+}
+
+TEST_F(GenTekstParamToets, KeuzenWordenVergetenAlsDeInstellingenDatZeggen) {
+  ZetIni("OpslaanVelden=J", "OpslaanVelden=N");
+  const std::string ini = Ini();
+  Speel(Weg()
+            .In("GenTxtParam",
+                "stel ZonenBox #0\nstel InHTMLBox Ja\nvul GrensLeeftijd 30\ndruk OKButton")
+            .In("GenHTMLParam", "druk OKButton"));
+  EXPECT_EQ(Ini(), ini);
+}
+
+TEST_F(GenTekstParamToets, HetHTMLSchermBewaartBijDeGenealogie) {
+  Speel(Weg()
+            .In("GenTxtParam", "stel InHTMLBox Ja\ndruk OKButton")
+            .In("GenHTMLParam", "vul EmailAdres jan@example.org\nvul HomePageURL\ndruk OKButton"));
+  EXPECT_TRUE(IniHeeft("HTML=J"));
+  EXPECT_TRUE(IniHeeft("OokEmail=J\r\nOokHomePage=N\r\nOokHSKHome=N"));
+  EXPECT_TRUE(VerslagHeeft("<A HREF=\"mailto:jan@example.org\">"));
+  EXPECT_TRUE(VerslagHeeft("&copy;Copyright (2000) J. Jansen"));
+}
+
+}  // namespace
+}  // namespace lb77
