@@ -49,6 +49,8 @@ class Sessie {
   };
   // Each writes its report, that of the ancestors with its index, from the prompt to the viewer.
   void Kwartierstaat(int persoon, unsigned keuzen);
+  // Draws the chart of one, and prints some of its sheets.
+  void Kwartierbladen(int persoon, unsigned keuzen);
   void Parenteel(int persoon, unsigned keuzen);
 
  private:
