@@ -99,6 +99,31 @@ void Sessie::Kwartierstaat(int persoon, unsigned keuzen) {
   }
 }
 
+void Sessie::Kwartierbladen(int persoon, unsigned keuzen) {
+  Verslag(persoon, kKwstSchPrs.naam, "KwstSchParam", kKwstSchPrs.links->naam,
+          [this, keuzen](Formulier& formulier) {
+            VulParam(formulier, keuzen, "UitlijnBox", {{"OokJaarBox", "Ja"}});
+          });
+  KwstPrs schema(kKwstSchPrs, hoofd);
+  hoofd.gesprek.ToonModaal(schema);
+  Verslag(persoon, kKwstBldPrs.naam, "KwstBladen", "", [this](Formulier& formulier) {
+    Werk werk(bediener_, formulier);
+    for (const std::string_view knop : {"Proband(1)", "Proband(15)", "Proband(8)", "NaarKind"}) {
+      werk.Druk(knop);
+      werk.Druk("UitvoerButton");
+    }
+  });
+  bediener_.BijAfdruk([](const Afdruk&) {});
+  bediener_.Bij("KwstBldParam", [this, keuzen](Formulier& formulier) {
+    Werk werk(bediener_, formulier);
+    const std::string_view vorm = (keuzen & kHTML) != 0 ? "HSK" : "CBG";
+    if (!werk.Zet("HSK_CBG_Box", vorm)) throw std::logic_error("HSK_CBG_Box is er niet");
+    werk.Druk("OKButton(1)");
+  });
+  KwstPrs bladen(kKwstBldPrs, hoofd);
+  hoofd.gesprek.ToonModaal(bladen);
+}
+
 void Sessie::Parenteel(int persoon, unsigned keuzen) {
   const std::string_view volgorde = (keuzen & kBroersZussen) != 0 ? "Per generatie" : "Per tak";
   const std::string_view richting = (keuzen & kBroersZussen) != 0 ? "Verticaal" : "Horizontaal";

@@ -50,6 +50,8 @@ class Sessie {
   // Each writes its report and the index on it, from the prompt to the viewer; that of the descendants
   // also its chart, by kBroersZussen downward.
   void Kwartierstaat(int persoon, unsigned keuzen);
+  // Draws the chart of one, and prints some of its sheets.
+  void Kwartierbladen(int persoon, unsigned keuzen);
   void Parenteel(int persoon, unsigned keuzen);
 
  private:

@@ -31,7 +31,7 @@ class KwstBladen final : public KetenFormulier {
 
   Regels<KwartierRegel, kBladPlaatsen> Kwartieren{*this, 1};
   Knop NaarKind{*this, "NaarKind", "Naar &Kind"};
-  Knop UitvoerButton{*this, "UitvoerButton", "Opslaan / &Afdrukken"};
+  Knop UitvoerButton{*this, "UitvoerButton", "Opslaan / Afdrukken"};
   Knop OKButton{*this, "OKButton", "&OK"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 

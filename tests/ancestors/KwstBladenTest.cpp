@@ -31,7 +31,7 @@ TEST_F(KwstBladenToets, ToontDeProbandEnZijnVoorouders) {
       = (14) - - "14" "Klaas Cool" "i" "    -    " ">"
       = (15) - - "15" "" "i" "" -
       = NaarKind "Naar &Kind"
-      = UitvoerButton "Opslaan / &Afdrukken"
+      = UitvoerButton "Opslaan / Afdrukken"
       = OKButton "&OK"
       = BackButton "&Terug"
       * NaarKind

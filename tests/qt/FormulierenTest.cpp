@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "Formulierproef.h"
@@ -95,6 +96,41 @@ TEST_P(FormulierenTest, GaatMetTabRijVoorRijDoorZijnTabellen) {
 
 INSTANTIATE_TEST_SUITE_P(Alle, FormulierenTest, testing::ValuesIn(AlleFormulieren()),
                          [](const auto& rij) { return std::string(rij.param.naam); });
+
+class KwartierbladTest : public FormulierenTest {
+ protected:
+  // Three generations of ancestors of person 2; the oldest have names as long as a record can hold.
+  static void MaakVoorouders(BouwFamilie& bouw) {
+    std::vector<std::int16_t> kinderen{2};
+    for (const bool laatste : {false, false, true}) {
+      std::vector<std::int16_t> ouders;
+      for (const std::int16_t kind : kinderen) {
+        const auto vader = bouw.Man(laatste ? "Maximiliaan Bartholomeus Wilhe" : "Willem",
+                                    laatste ? "van Schoonhoven-Terbrugge" : "van Nassau",
+                                    {{"GebDatum", "10-04-1487"}, {"OvlDatum", "06-10-1559"}});
+        const auto moeder = bouw.Vrouw("Juliana", "van Stolberg", {{"OvlDatum", "18-06-1580"}});
+        static_cast<void>(bouw.Relatie(vader, moeder, {kind}));
+        ouders.insert(ouders.end(), {vader, moeder});
+      }
+      kinderen = std::move(ouders);
+    }
+    static_cast<void>(bouw.Relatie(bouw.Man("Otto", "van Nassau"), 0, {kinderen.front()}));
+  }
+};
+
+TEST_F(KwartierbladTest, EenVolBladMetDeLangsteNamenPastOpHetScherm) {
+  Hoofdmodule& hoofd = programma_->Hoofd();
+  BouwFamilie bouw(hoofd.Persoon, hoofd.Relatie, hoofd.Plaats, hoofd.Opmerking);
+  MaakVoorouders(bouw);
+  const auto rijen = AlleFormulieren();
+  const auto rij = std::find_if(rijen.begin(), rijen.end(),
+                                [](const FormulierRij& een) { return een.naam == "KwstBladen"; });
+  ASSERT_NE(rij, rijen.end());
+  GemaaktFormulier gemaakt = rij->maak(*programma_);
+  Beproef(*gemaakt.formulier);
+  const auto& naam = dynamic_cast<const Teller&>(*gemaakt.formulier->Zoek("Kwartier(8)"));
+  EXPECT_EQ(naam.Tekst(), "Maximiliaan Bartholomeus Wilhe van Schoonhoven-Terbrugge");
+}
 
 class HoofdschermTest : public FormulierenTest {};
 

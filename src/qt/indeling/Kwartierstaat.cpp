@@ -34,10 +34,9 @@ Blok SchemaOpties() {
       Groep("Schema", {Velden({
                           "KwNrProband",
                           Rij({"MaxGen", "BreedteGen"}),
-                          Rij({"UitlijnBox", "OokJaarBox"}),
                       })}),
-      Groep("Uitvoer",
-            {Velden({Rij({"OokNrsBox", "InHTMLBox"}), Rij({"CopyrightBox", "OokLB77Box"})})}),
+      Groep("Uitvoer", {Velden({Rij({"OokNrsBox", "OokJaarBox"}), Rij({"UitlijnBox", "InHTMLBox"}),
+                                Rij({"CopyrightBox", "OokLB77Box"})})}),
       Titels(),
       Knoppen({"OKButton", "BackButton"}),
   });
@@ -57,15 +56,17 @@ Blok BladOpties() {
 // what the columns behind it leave.
 void Stamlijn(int plaats, int generatie, std::vector<Blok>& regels) {
   constexpr int kGeneraties = 4;
-  constexpr int kCellen = 5;  // that a generation moves to the right
+  constexpr int kCellen = 3;  // that a generation moves to the right
   if (generatie < kGeneraties) Stamlijn(2 * plaats, generatie + 1, regels);
-  const auto veld = [plaats](const std::string& naam) {
-    return Veld(naam + "(" + GetalTekst(plaats) + ")");
+  const auto veld = [plaats](const std::string& naam, int breedte = 0) {
+    return Veld(naam + "(" + GetalTekst(plaats) + ")", {}, breedte);
   };
   std::vector<Blok> regel(static_cast<std::size_t>((generatie - 1) * kCellen), "");
-  regel.push_back(Over((kGeneraties - generatie + 1) * kCellen,
-                       Rij({veld("Proband"), veld("InfoPersoon"), veld("Kwartier"), veld("Periode"),
-                            veld("Kwartier_A"), veld("KW_Index"), veld("KW_Nr")})));
+  regel.push_back(Over((kGeneraties - generatie) * kCellen + 1,
+                       Rij({veld("Proband"), veld("InfoPersoon"), veld("Kwartier"),
+                            veld("Periode", 8), veld("Kwartier_A")})));
+  regel.push_back(
+      Rij({veld("KW_Index", 1), veld("KW_Nr", 1)}));  // hidden, but they keep their room
   regels.push_back(Rij(std::move(regel)));
   if (generatie < kGeneraties) Stamlijn(2 * plaats + 1, generatie + 1, regels);
 }
