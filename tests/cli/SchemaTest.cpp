@@ -102,8 +102,8 @@ TEST_F(SchemaOpdracht, SchrijftOokDeVerdereBladenElkOpEenBladzijde) {
     EXPECT_EQ(blad[0],
               "Kwartierstaat van Man1 Re\xE9"
               "ks");
-    EXPECT_TRUE(std::any_of(blad.begin(), blad.end(), [&](const std::string& regel) {
-      return regel.starts_with(wortel);
+    EXPECT_TRUE(std::any_of(blad.begin(), blad.end(), [begin = wortel](const std::string& regel) {
+      return regel.starts_with(begin);
     })) << wortel;
   }
 }
