@@ -93,7 +93,8 @@ class Journaal {
 
   // The action that a crash has left, once the files are open; nothing when it changed nothing.
   [[nodiscard]] std::optional<OnvoltooideHandeling> Onvoltooid();
-  // Puts back every byte and every length of it. Can be done again when it did not come to its end.
+  // Puts back every byte and every length of it; only central places that it has lengthened, which
+  // other sets may use by now, stay. Can be done again when it did not come to its end.
   [[nodiscard]] SysteemFout Herstel();
   // Keeps what stands there and ends it.
   [[nodiscard]] SysteemFout Behoud();
@@ -173,6 +174,7 @@ class Journaal {
   [[nodiscard]] bool Verschilt(const JournaalInhoud& inhoud);
   [[nodiscard]] SysteemFout LegEindeVast(const Gelezen& gelezen);
   [[nodiscard]] SysteemFout LegBestandenVast(const JournaalInhoud& inhoud);
+  [[nodiscard]] SysteemFout IsGegroeid(const JournaalInhoud& inhoud, bool& gegroeid);
   [[nodiscard]] SysteemFout ZetTerug(const JournaalInhoud& inhoud);
   [[nodiscard]] SysteemFout BehoudDeze(const Gelezen& gelezen);
   [[nodiscard]] SysteemFout StandNu(const JournaalInhoud& inhoud, JournaalEinde& einde);

@@ -169,3 +169,37 @@ TEST_F(JournaalHerstelTest, EenOperatieDieMisluktLaatEenSetDieTerugKan) {
     }
   }
 }
+
+// Another set may have added its places behind those of the action that died.
+TEST_F(JournaalHerstelTest, EenCentraalPlaatsbestandDatGroeideBlijftStaan) {
+  Terug();
+  std::string& centraal = schijf.Bytes("PLAATS.PLT");
+  centraal = begin_[Plaatsen];
+  centraal.resize(4 * RecordLengteVan(Plaatsen));
+  const std::string voor = centraal;
+  schijf.MaakVast();
+  const auto heropen = [this] {
+    Heropen();
+    ASSERT_FALSE(bestanden->Open(Plaatsen, "/data/PLAATS.PLT"));
+  };
+  heropen();
+  int gegroeid = 0;
+  for (int k = 1;; ++k) {
+    schijf.teller = 0;
+    schijf.bij = k;
+    schijf.wijze = Wijze::Dood;
+    static_cast<void>(Doe("Plaatsen", {{Personen, 3}, {Plaatsen, 2}, {Plaatsen, 5}}, 'z'));
+    if (!schijf.Geweest()) break;
+    heropen();
+    if (!Dagboek().Onvoltooid()) continue;
+    const std::string stond = centraal;
+    ASSERT_FALSE(Dagboek().Herstel());
+    EXPECT_EQ(centraal, stond.size() > voor.size() ? stond : voor) << k;
+    gegroeid += stond.size() > voor.size() ? 1 : 0;
+    EXPECT_EQ(schijf.Bytes("PROEF.PRS"), begin_[Personen]) << k;
+    centraal = voor;
+    schijf.MaakVast();
+    heropen();
+  }
+  EXPECT_GT(gegroeid, 0);
+}
