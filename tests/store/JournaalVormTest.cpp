@@ -131,3 +131,24 @@ TEST(JournaalVormTest, NaamVanHetBestand) {
     EXPECT_FALSE(LeesJournaalNaam(naam)) << naam;
   }
 }
+
+TEST(JournaalVormTest, EenLengteMetEenFouteSomTeltNiet) {
+  std::string bytes = kKopBytes + CodeerLengte({Personen, false, 512});
+  bytes[bytes.size() - 10] = '\x07';
+  const JournaalInhoud inhoud = OntleedJournaal(bytes);
+  EXPECT_TRUE(inhoud.beschadigd);
+  EXPECT_EQ(inhoud.lengten[0], kGeenLengte);
+}
+
+TEST(JournaalVormTest, EenBeeldDatLangerIsDanEenRecordTeltNiet) {
+  const JournaalInhoud inhoud =
+      OntleedJournaal(kKopBytes + CodeerBeeld({{Personen, 3}, std::string(129, 'a')}));
+  EXPECT_TRUE(inhoud.beschadigd);
+  EXPECT_TRUE(inhoud.beelden.empty());
+}
+
+TEST(JournaalVormTest, CentralePlaatsenBlijvenCentraal) {
+  EXPECT_TRUE(OntleedJournaal(kKopBytes + CodeerLengte({Plaatsen, true, 118}) +
+                              CodeerLengte({Personen, false, 512}))
+                  .centraal);
+}

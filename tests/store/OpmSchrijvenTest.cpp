@@ -94,6 +94,11 @@ TEST_F(OpmSchrijvenTest, EenRegelVanHardeBlankenIsLeegZoalsHijInHetBestandZouSta
   EXPECT_EQ(Admin(), (Drie{3, 2, 4}));
 }
 
+TEST_F(OpmSchrijvenTest, OokEenRegelWaarvanAlleenHardeBlankenZoudenPassenIsLeeg) {
+  ASSERT_TRUE(Wijzig(1, {"een", std::string(80, '\xA0') + "drie", "twee"}));
+  EXPECT_EQ(Teksten(1), (Lijst{"een", "twee"}));
+}
+
 TEST_F(OpmSchrijvenTest, EenLegeOpmerkingDieErNietWasDoetNiets) {
   const std::string voor = LeesBytes(set.paden.opm);
   EXPECT_TRUE(Wijzig(1, {}));
