@@ -5,10 +5,14 @@
 namespace lb77 {
 
 ToonTekst::ToonTekst(Hoofdmodule& hoofd, std::filesystem::path UitvoerPad, std::string_view titel,
-                     bool HTMLUitvoer)
+                     bool HTMLUitvoer, std::optional<ExtraKnop> extra)
     : TekstVenster(hoofd, "ToonTekst", titel),
       UitvoerPad_(std::move(UitvoerPad)),
-      HTMLUitvoer_(HTMLUitvoer) {}
+      HTMLUitvoer_(HTMLUitvoer) {
+  if (!extra) return;
+  Extra.emplace(*this, extra->naam, extra->bijschrift);
+  Extra->BijKlik(std::move(extra->bijKlik));
+}
 
 void ToonTekst::BijLaden() {
   Toon(UitvoerPad_, HTMLUitvoer_);

@@ -19,6 +19,7 @@
 #include "app/SetOpenen.h"
 #include "app/Start.h"
 #include "app/VerwijderSetForm.h"
+#include "checks/ControleForm.h"
 #include "descendants/GenPrs.h"
 #include "descendants/GezinSchPrs.h"
 #include "entry/StartRecord.h"
@@ -70,6 +71,10 @@ void Programma::HangOp() {
   menu_.Hang("IndexGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenIdxPrs, hoofd_); });
   menu_.Hang("SchemaGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenSchPrs, hoofd_); });
   menu_.Hang("SchemaGezin", [this, &gesprek] { gesprek.Toon<GezinSchPrs>(hoofd_); });
+  menu_.Hang("ContrPrs", [this, &gesprek] { gesprek.Toon<ControleForm>(kControlePrs, hoofd_); });
+  menu_.Hang("ContrRel", [this, &gesprek] { gesprek.Toon<ControleForm>(kControleRel, hoofd_); });
+  menu_.Hang("ContrPlts", [this, &gesprek] { gesprek.Toon<ControleForm>(kControlePlts, hoofd_); });
+  menu_.Hang("ContrOpm", [this, &gesprek] { gesprek.Toon<ControleForm>(kControleOpm, hoofd_); });
   menu_.Hang("VeiligOngedaan", [this] { MaakLaatsteOngedaan(hoofd_.MaakOpslag()); });
   menu_.Hang("VeiligGeschiedenis", [this, &gesprek] { gesprek.Toon<Geschiedenis>(hoofd_); });
   menu_.Hang("VeiligKopie", [this, &gesprek] { MaakVeiligheidskopie(KopieVan(hoofd_), gesprek); });

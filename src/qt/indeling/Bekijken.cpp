@@ -8,7 +8,8 @@ namespace {
 Blok TekstVenster() {
   return Kolom({
       "UitvoerBox",
-      Knoppen({"MoveButton(*)", "XY_label"}, {"PrintButton(*)", "SaveButton", "BackButton"}),
+      Knoppen({"MoveButton(*)", "XY_label"},
+              {"Bevindingen", "PrintButton(*)", "SaveButton", "BackButton"}),
   });
 }
 

@@ -21,6 +21,7 @@ namespace lb77::indeling {
 [[nodiscard]] std::vector<Indeling> Genealogie();
 [[nodiscard]] std::vector<Indeling> Uitwisseling();
 [[nodiscard]] std::vector<Indeling> Veiligheid();
+[[nodiscard]] std::vector<Indeling> Controle();
 
 // What every form has that asks for a person.
 [[nodiscard]] Blok PersoonPrompt();
