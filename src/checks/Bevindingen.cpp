@@ -5,12 +5,19 @@
 #include <cstdint>
 #include <utility>
 
-#include "checks/NaarRecord.h"
+#include "entry/KaartVelden.h"
+#include "entry/ToonPersoon.h"
+#include "entry/ToonPlaatsen.h"
+#include "entry/ToonRelatie.h"
+#include "entry/VolgersBewaker.h"
+#include "forms/Kaart.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
 
 namespace {
+
+constexpr std::int32_t kEersteNr = 2;
 
 using Standen = std::array<std::uint64_t, kBestandSoorten.size()>;
 
@@ -32,6 +39,7 @@ Bevindingen::Bevindingen(Hoofdmodule& hoofd, Controleur& regels, BevindingLijst&
   ZetHulpOnderwerp("controle");
   SoortBox.BijWijziging([this] { SoortBoxWijziging(); });
   BevindingenLijst.BijToets([this](ToetsGebeurtenis& toets) { BevindingenLijstToets(toets); });
+  BevindingenLijst.BijKlik([this] { BevindingenLijstKlik(); });
   BevindingenLijst.BijDubbelklik([this] { BevindingenLijstDubbelklik(); });
   KaartButton.BijKlik([this] { KaartButtonKlik(); });
   BackButton.BijKlik([this] { Sluit(); });
@@ -94,19 +102,21 @@ void Bevindingen::BevindingenLijstToets(ToetsGebeurtenis& toets) {
   KaartButtonKlik();
 }
 
+void Bevindingen::BevindingenLijstKlik() {
+  KaartButtonKlik();
+}
+
+// A script clicks no list, but it double-clicks one.
 void Bevindingen::BevindingenLijstDubbelklik() {
   KaartButtonKlik();
 }
 
 void Bevindingen::KaartButtonKlik() {
   const int index = BevindingenLijst.Index();
-  if (index < 0) {
-    hoofd_.gesprek.Waarschuw("Geen bevinding gekozen");
-    return;
-  }
+  if (index < 0) return;
   const Bevinding bevinding = getoond_.at(static_cast<std::size_t>(index));
   const Standen voor = StandenVan(hoofd_.bestanden);
-  ToonKaartVan(hoofd_, bevinding.kaart);
+  ToonKaart(bevinding.kaart);
   if (StandenVan(hoofd_.bestanden) == voor) return;
   lijst_.Hertoets(regels_);
   VulSoorten();
@@ -114,6 +124,38 @@ void Bevindingen::KaartButtonKlik() {
   const auto zelfde = std::ranges::find(getoond_, bevinding);
   if (zelfde != getoond_.end()) {
     BevindingenLijst.ZetIndex(static_cast<int>(zelfde - getoond_.begin()));
+  }
+}
+
+// A number that no record has would be taken for a new one.
+template <class Record>
+bool Bevindingen::Bestaat(Record& record, const RecordPlek& plek, std::string_view komtNietVoor) {
+  if (plek.nr >= kEersteNr && record.Lees(static_cast<std::int16_t>(plek.nr))) return true;
+  hoofd_.gesprek.Waarschuw(komtNietVoor);
+  return false;
+}
+
+void Bevindingen::ToonKaart(const RecordPlek& plek) {
+  const VolgersBewaker bewaker(hoofd_.volgers);
+  const auto nr = static_cast<std::int16_t>(plek.nr);
+  switch (plek.soort) {
+    case BestandSoort::Personen:
+      if (Bestaat(hoofd_.Persoon, plek, kPersoonKomtNietVoor)) {
+        LoopKaarten(hoofd_.gesprek, ToonPersoonVraag(hoofd_, nr));
+      }
+      break;
+    case BestandSoort::Relaties:
+      if (Bestaat(hoofd_.Relatie, plek, kRelatieKomtNietVoor)) {
+        LoopKaarten(hoofd_.gesprek, ToonRelatieVraag(hoofd_, nr));
+      }
+      break;
+    case BestandSoort::Plaatsen:
+      // The page begins at the place in the buffer.
+      static_cast<void>(hoofd_.Plaats.Lees(nr));
+      hoofd_.gesprek.Toon<ToonPlaatsen>(hoofd_);
+      break;
+    case BestandSoort::Opmerkingen:
+      break;  // has no card
   }
 }
 

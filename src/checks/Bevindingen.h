@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "app/Hoofdmodule.h"
@@ -34,8 +35,13 @@ class Bevindingen final : public Formulier {
   void VulLijst();
   void SoortBoxWijziging();
   void BevindingenLijstToets(ToetsGebeurtenis& toets);
+  void BevindingenLijstKlik();
   void BevindingenLijstDubbelklik();
   void KaartButtonKlik();
+  void ToonKaart(const RecordPlek& plek);
+  // Can it be read? Told when it can't.
+  template <class Record>
+  [[nodiscard]] bool Bestaat(Record& record, const RecordPlek& plek, std::string_view komtNietVoor);
   // The kind to be shown; none for all.
   [[nodiscard]] std::optional<BevindingSoort> Gekozen() const;
 

@@ -11,11 +11,16 @@ ToonTekst::ToonTekst(Hoofdmodule& hoofd, std::filesystem::path UitvoerPad, std::
       HTMLUitvoer_(HTMLUitvoer) {
   if (!extra) return;
   Extra.emplace(*this, extra->naam, extra->bijschrift);
-  Extra->BijKlik(std::move(extra->bijKlik));
+  Extra->BijKlik([this] { ExtraKlik(); });
+  bijExtra_ = std::move(extra->bijKlik);
 }
 
 void ToonTekst::BijLaden() {
   Toon(UitvoerPad_, HTMLUitvoer_);
+}
+
+void ToonTekst::ExtraKlik() {
+  bijExtra_();
 }
 
 }  // namespace lb77

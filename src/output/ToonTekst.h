@@ -31,9 +31,11 @@ class ToonTekst final : public TekstVenster {
 
  private:
   void BijLaden() override;
+  void ExtraKlik();
 
   std::filesystem::path UitvoerPad_;
   bool HTMLUitvoer_;
+  std::function<void()> bijExtra_;
 };
 
 }  // namespace lb77

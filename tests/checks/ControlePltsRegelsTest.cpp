@@ -105,6 +105,41 @@ TEST_F(ControlePlts, GebruikInEenVervolgrecordTelt) {
   EXPECT_THAT(Regels(Alleen(kOngebruikt)), IsEmpty());
 }
 
+// Beside the comparison of each place with all that lie behind it.
+TEST_F(ControlePlts, GeeftHetzelfdeAlsElkPaarVergelijken) {
+  struct Plaats {
+    std::string naam;
+    std::string prov;
+  };
+  std::vector<Plaats> plaatsen(2);
+  std::uint32_t toeval = 3;
+  const auto dobbel = [&toeval](std::uint32_t n) {
+    toeval = toeval * 1664525u + 1013904223u;
+    return (toeval >> 16) % n;
+  };
+  for (int i = 0; i < 80; ++i) {
+    plaatsen.push_back({std::string(1, static_cast<char>('A' + dobbel(12))),
+                        std::string(1, static_cast<char>('K' + dobbel(4)))});
+    bouw_.Plaats(plaatsen.back().naam, plaatsen.back().prov);
+  }
+  Zinnenlijst verwacht;
+  for (std::size_t een = 2; een < plaatsen.size(); ++een) {
+    const std::string zelf =
+        "Plaats " + std::to_string(een) + "(" + plaatsen[een].naam + "," + plaatsen[een].prov + ")";
+    for (std::size_t ander = een + 1; ander < plaatsen.size(); ++ander) {
+      if (plaatsen[ander].naam != plaatsen[een].naam) continue;
+      const std::string code = " plaatscode " + std::to_string(ander);
+      if (plaatsen[ander].prov == plaatsen[een].prov) {
+        verwacht.push_back(zelf + " komt ook voor bij" + code);
+        break;
+      }
+      verwacht.push_back(zelf + " lijkt op" + code + "(" + plaatsen[ander].naam + "," +
+                         plaatsen[ander].prov + ")");
+    }
+  }
+  EXPECT_EQ(Regels(Alleen(kDubbel)), verwacht);
+}
+
 TEST_F(ControlePlts, EenVolgendeGangZietDeBestandenZoalsZeDanZijn) {
   bouw_.Plaats("Delft", "ZH");
   ControlePltsRegels regels(DeGegevens(), kAlles);
