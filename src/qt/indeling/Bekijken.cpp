@@ -8,8 +8,7 @@ namespace {
 Blok TekstVenster() {
   return Kolom({
       "UitvoerBox",
-      Knoppen({"MoveButton(*)", "XY_label"},
-              {"Bevindingen", "PrintButton(*)", "SaveButton", "BackButton"}),
+      Knoppen({"MoveButton(*)", "XY_label"}, {"PrintButton(*)", "SaveButton", "BackButton"}),
   });
 }
 
