@@ -1,6 +1,7 @@
 // The dialogs of the checks: head, options, counter, messages, report.
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <iterator>
 #include <set>
@@ -231,6 +232,51 @@ TEST_F(ControleFormToets, EenPersoonDieHetSysteemNietLeestWordtOvergeslagen) {
     - ControlePrs
   )");
   EXPECT_TRUE(LeesBytes(PadVan(kControlePrs)).ends_with(kGeenFouten));
+}
+
+TEST_F(ControleFormToets, EenVerkeerdeTellingWordtEersteGemeld) {
+  BouwGoed();
+  Bouw().ZetAantalPersonen(9);
+  Speel(kControlePrs, "druk OKButton\ndruk BackButton\n", R"(
+    + ControlePrs "Controleer Persoonsbestand"
+    ! uitroep "Aantal persoonsrecords in administratierecord is onjuist\nGevonden:4\nVolgens administratierecord:10"
+    + ToonTekst "Controle Persoonsbestand"
+    - ToonTekst
+    - ControlePrs
+  )");
+  EXPECT_TRUE(LeesBytes(PadVan(kControlePrs)).ends_with(kGeenFouten));
+}
+
+// Every pair of places of one name has its line.
+TEST_F(ControleFormToets, WatNietInDeLijstPastStaatAlleenInHetVerslag) {
+  constexpr std::size_t kPlaatsen = 450;
+  for (std::size_t i = 0; i < kPlaatsen; ++i) {
+    const std::string prov{static_cast<char>('A' + i / 26), static_cast<char>('A' + i % 26)};
+    Bouw().Plaats("Bergen", prov);
+  }
+  constexpr std::size_t kParen = kPlaatsen * (kPlaatsen - 1) / 2;
+  Speel(kControlePlts, R"(
+    stel OngebruiktePlaatsen uit
+    druk OKButton
+    druk Bevindingen
+    toon MeerLabel
+    toon Open
+    druk BackButton
+    druk BackButton
+  )",
+        R"(
+    + ControlePlts "Controleer Plaatsbestand"
+    + ToonTekst "Controle Plaatsbestand"
+    + Bevindingen "Bevindingen"
+    = MeerLabel "1025 bevindingen meer staan alleen in het verslag"
+    = Open "100000"
+    - Bevindingen
+    - ToonTekst
+    - ControlePlts
+  )");
+  EXPECT_EQ(gevonden_.size(), ControleForm::kMeesteBevindingen);
+  const std::string uit = LeesBytes(PadVan(kControlePlts));
+  EXPECT_EQ(std::ranges::count(uit, '\n'), static_cast<std::ptrdiff_t>(kParen + 8));
 }
 
 TEST_F(ControleFormToets, EenLangeNaamBlijftOpZijnRegel) {
