@@ -12,7 +12,7 @@ std::vector<FormulierRij> Verzameld() {
   for (std::span<const FormulierRij> (*gebied)() :
        {formulieren::App, formulieren::Exchange, formulieren::Output, formulieren::Entry,
         formulieren::Ancestors, formulieren::Descendants, formulieren::Gezinsbladen,
-        formulieren::Checks}) {
+        formulieren::Checks, formulieren::Correctie}) {
     const std::span<const FormulierRij> rijen = gebied();
     uit.insert(uit.end(), rijen.begin(), rijen.end());
   }
