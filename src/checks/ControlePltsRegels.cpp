@@ -20,6 +20,11 @@ void Meld(const Controleur::Melding& meld, std::int16_t nr, BevindingSoort soort
   meld({plek, plek, soort, "Plaats " + GetalTekst(nr) + std::string(achter)});
 }
 
+// "(Delft,ZH)"
+std::string Aanduiding(std::string_view naam, std::string_view prov) {
+  return std::string("(").append(naam).append(",").append(prov).append(")");
+}
+
 // Calls `doe` on each record that can be read; one that continues another counts as well.
 template <class Record, class Doe>
 void ElkRecord(Record& record, Doe doe) {
@@ -75,24 +80,25 @@ void ControlePltsRegels::Toets(std::int16_t nr, const Melding& meld) {
   if (keuzen_[kDubbel]) ToetsDubbel(plaats, meld);
   if (keuzen_[kOngebruikt] && !gebruikt_[static_cast<std::size_t>(nr)]) {
     Meld(meld, nr, BevindingSoort::Ongebruikt,
-         "(" + plaats.naam + "," + plaats.prov + ") wordt niet gebruikt");
+         Aanduiding(plaats.naam, plaats.prov) + " wordt niet gebruikt");
   }
 }
 
 void ControlePltsRegels::ToetsDubbel(const Plaats& plaats, const Melding& meld) {
   const auto gelijk = opNaam_.find(plaats.naam);
   if (gelijk == opNaam_.end()) return;
-  const std::string zelf = "(" + plaats.naam + "," + plaats.prov + ")";
   const std::vector<std::int16_t>& nummers = gelijk->second;
   for (auto nr = std::ranges::upper_bound(nummers, plaats.nr); nr != nummers.end(); ++nr) {
     const Plaats ander = Lees(*nr);
-    const std::string code = " plaatscode " + GetalTekst(*nr);
+    std::string tekst = Aanduiding(plaats.naam, plaats.prov);
     if (ander.prov == plaats.prov) {
-      Meld(meld, plaats.nr, BevindingSoort::Dubbel, zelf + " komt ook voor bij" + code);
+      tekst.append(" komt ook voor bij plaatscode ").append(GetalTekst(*nr));
+      Meld(meld, plaats.nr, BevindingSoort::Dubbel, tekst);
       return;
     }
-    Meld(meld, plaats.nr, BevindingSoort::LijktOp,
-         zelf + " lijkt op" + code + "(" + ander.naam + "," + ander.prov + ")");
+    tekst.append(" lijkt op plaatscode ").append(GetalTekst(*nr));
+    tekst.append(Aanduiding(ander.naam, ander.prov));
+    Meld(meld, plaats.nr, BevindingSoort::LijktOp, tekst);
   }
 }
 
