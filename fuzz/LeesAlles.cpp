@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "app/Hoofdmodule.h"
+#include "checks/ControleSoorten.h"
 #include "output/Verteller.h"
 #include "output/Zinnen.h"
 
@@ -144,6 +145,18 @@ void SchrijfOpmerking(Hoofdmodule& hoofd, std::int16_t persoon, std::int16_t rel
   Bekijk(hoofd.Opmerking.SchrijfOpmerking({}, plek, 0, persoon, relatie, begin, 23, rubriek));
 }
 
+void Controleer(Hoofdmodule& hoofd) {
+  constexpr ControleKeuzen kAlles{true, true, true, true, true};
+  for (const ControleSoort* soort : {&kControlePrs, &kControleRel, &kControlePlts, &kControleOpm}) {
+    const auto regels = soort->maak(hoofd.MaakGegevens(), kAlles);
+    const std::int16_t laatste = regels->Laatste();
+    regels->Begin(laatste);
+    for (std::int32_t nr = 2; nr <= laatste; ++nr) {
+      regels->Toets(static_cast<std::int16_t>(nr), [](const Bevinding& een) { Bekijk(een.tekst); });
+    }
+  }
+}
+
 }  // namespace
 
 void LeesAlles(Hoofdmodule& hoofd, const SetBytes& bytes) {
@@ -166,6 +179,7 @@ void LeesAlles(Hoofdmodule& hoofd, const SetBytes& bytes) {
   }
   Vertel(hoofd, false, personen, relaties);
   Vertel(hoofd, true, personen, relaties);
+  Controleer(hoofd);
 }
 
 void SchrijfIets(Hoofdmodule& hoofd) {

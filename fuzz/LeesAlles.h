@@ -5,7 +5,8 @@
 
 namespace lb77::fuzz {
 
-// All records that the files have room for, some numbers beside them, and what they refer to.
+// All records that the files have room for, some numbers beside them, and what they refer to; and
+// what the checks of the files say of them.
 void LeesAlles(Hoofdmodule& hoofd, const SetBytes& bytes);
 
 // Remarks, a place and records added as entry and import do; what refuses has told why.

@@ -18,6 +18,7 @@ int Genealogie(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Parenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int IndexParenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int SchemaParenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Controle(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 // In Veiligheid.cpp.
 int ToonGeschiedenis(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int MaakOngedaan(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
@@ -42,6 +43,7 @@ constexpr Opdracht kOpdrachten[] = {
     {"parenteel", "schrijft alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, Parenteel},
     {"index-parenteel", "schrijft de index op alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, IndexParenteel},
     {"schema-parenteel", "tekent alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, SchemaParenteel},
+    {"controle", "zoekt fouten in de personen, relaties, plaatsen of opmerkingen, of in alle vier", {"SET", "[SOORT]"}, Extra::Controle, Controle},
     {"zoek", "zoekt personen op een deel van hun naam", {"SET", "NAAM"}, Extra::Geen, Zoek},
     {"geschiedenis", "toont de bewerkingen van een set, of wat nummer N wijzigde", {"SET", "[N]"}, Extra::Geen, ToonGeschiedenis},
     {"ongedaan", "maakt de laatste bewerking ongedaan, of alle t/m nummer N", {"SET", "[N]"}, Extra::Geen, MaakOngedaan, false, true},

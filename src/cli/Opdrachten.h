@@ -40,8 +40,9 @@ struct OpdrachtArgumenten {
   bool behoud = false;                        // --behoud, of `herstel`
 };
 
-// What a command accepts beside its words. A Tekstrapport has no form in HTML.
-enum class Extra { Geen, Bestand, Rapport, Tekstrapport, Behoud, Kopie, Terug };
+// What a command accepts beside its words. A Tekstrapport has no form in HTML,
+// the choices of a Controle are not kept.
+enum class Extra { Geen, Bestand, Rapport, Tekstrapport, Controle, Behoud, Kopie, Terug };
 
 // Gives the exit status: 0, or 1 after an error.
 using OpdrachtFunctie = int(const Omgeving&, const OpdrachtArgumenten&);

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/Afdrukken.h"
+#include "cli/Levering.h"
 #include "cli/Personen.h"
 #include "cli/Sessie.h"
 #include "cli/Werkmap.h"
@@ -47,7 +47,7 @@ class Maker {
 
  private:
   void InMenu(Werk& menu) {
-    if (!MagNaar() || !VindPersonen()) return;
+    if (!MagNaar(sessie_, omgeving_, argumenten_) || !VindPersonen()) return;
     const Werkmap werkmap(sessie_.Hoofd().Ini.TempDir());
     sessie_.Hoofd().instellingen.tijdelijk = werkmap.Pad();
     menu.Kies(rapport_.menuKeuze);
@@ -57,7 +57,6 @@ class Maker {
     }
   }
 
-  [[nodiscard]] bool MagNaar();
   [[nodiscard]] bool VindPersonen();
   void VulIn(const RapportVorm& vorm, Formulier& form);
   [[nodiscard]] bool Vul(Werk& werk, const Formulier& form, const VeldVulling& vulling);
@@ -74,17 +73,6 @@ class Maker {
   Bladstapel afdruk_;
   bool getoond_ = false;
 };
-
-// Before any work: what --uit would replace must be no part of the program's own.
-bool Maker::MagNaar() {
-  if (!argumenten_.naar) return true;
-  const std::string rol =
-      BeschermdeRol(*argumenten_.naar, omgeving_.programmaMap, sessie_.Hoofd().Ini);
-  if (rol.empty()) return true;
-  sessie_.bediener.Mislukt(PadTekst(*argumenten_.naar) + " is " + rol +
-                           " en wordt niet overschreven");
-  return false;
-}
 
 bool Maker::VindPersonen() {
   for (const RapportVorm& vorm : rapport_.vormen) {
@@ -176,11 +164,7 @@ void Maker::NeemAfdruk(const std::filesystem::path& pad) {
 
 void Maker::Lever(const std::filesystem::path& pad) {
   getoond_ = true;
-  if (!argumenten_.naar) return DrukUit(pad, omgeving_.uit);
-  if (const SysteemFout fout = BewaarAls(pad, *argumenten_.naar)) {
-    sessie_.bediener.Mislukt("Fout bij het schrijven van " + PadTekst(*argumenten_.naar) + "\n" +
-                             fout.tekst);
-  }
+  lb77::Lever(pad, sessie_.bediener, omgeving_, argumenten_);
 }
 
 }  // namespace

@@ -80,9 +80,10 @@ void VoegWoordenToe(CLI::App& sub, const Opdracht& opdracht, Regel& regel) {
     sub.add_option("--van", regel.naar, "ook uit deze map")->type_name("MAP");
   }
   if (opdracht.extra == Extra::Rapport) sub.add_flag("--html", regel.html, "schrijf HTML");
-  if (opdracht.extra == Extra::Rapport || opdracht.extra == Extra::Tekstrapport) {
+  const bool bewaart = opdracht.extra == Extra::Rapport || opdracht.extra == Extra::Tekstrapport;
+  if (bewaart) sub.add_flag("--bewaar", regel.bewaar, "bewaar de keuzes voor volgende keren");
+  if (bewaart || opdracht.extra == Extra::Controle) {
     sub.add_option("--uit", regel.naar, "schrijf naar dit bestand")->type_name("BESTAND");
-    sub.add_flag("--bewaar", regel.bewaar, "bewaar de keuzes voor volgende keren");
     sub.add_option("--zet", regel.zet, "zet een keuze van het verslag")
         ->type_name("NAAM=WAARDE")
         ->allow_extra_args(false)

@@ -19,6 +19,11 @@
 #include "app/SetOpenen.h"
 #include "app/Start.h"
 #include "app/VerwijderSetForm.h"
+#include "checks/ControleForm.h"
+#include "checks/CorrAdm.h"
+#include "checks/CorrOpmAdm.h"
+#include "checks/CorrPlts.h"
+#include "checks/CorrVraag.h"
 #include "descendants/GenPrs.h"
 #include "descendants/GezinSchPrs.h"
 #include "entry/StartRecord.h"
@@ -70,6 +75,22 @@ void Programma::HangOp() {
   menu_.Hang("IndexGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenIdxPrs, hoofd_); });
   menu_.Hang("SchemaGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenSchPrs, hoofd_); });
   menu_.Hang("SchemaGezin", [this, &gesprek] { gesprek.Toon<GezinSchPrs>(hoofd_); });
+  menu_.Hang("ContrPrs", [this, &gesprek] { gesprek.Toon<ControleForm>(kControlePrs, hoofd_); });
+  menu_.Hang("ContrRel", [this, &gesprek] { gesprek.Toon<ControleForm>(kControleRel, hoofd_); });
+  menu_.Hang("ContrPlts", [this, &gesprek] { gesprek.Toon<ControleForm>(kControlePlts, hoofd_); });
+  menu_.Hang("ContrOpm", [this, &gesprek] { gesprek.Toon<ControleForm>(kControleOpm, hoofd_); });
+  menu_.Hang("CorrigeerAdminPers",
+             [this, &gesprek] { gesprek.Toon<CorrAdm>(kCorrPrsAdm, hoofd_); });
+  menu_.Hang("CorrigeerAdminRel", [this, &gesprek] { gesprek.Toon<CorrAdm>(kCorrRelAdm, hoofd_); });
+  menu_.Hang("CorrigeerAdminOpm", [this, &gesprek] { gesprek.Toon<CorrOpmAdm>(hoofd_); });
+  menu_.Hang("CorrigeerAdminPlaats",
+             [this, &gesprek] { gesprek.Toon<CorrAdm>(kCorrPltsAdm, hoofd_); });
+  menu_.Hang("VerwijsPers", [this] { Corrigeer(hoofd_, kVraagPersRecord); });
+  menu_.Hang("VerwijsRel", [this] { Corrigeer(hoofd_, kVraagRelRecord); });
+  menu_.Hang("VerwijsOpm", [this] { Corrigeer(hoofd_, kVraagOpmRecord); });
+  menu_.Hang("VerwijsPlaats", [this, &gesprek] { gesprek.Toon<CorrPltsAlg>(hoofd_); });
+  menu_.Hang("VerwijsPersVervolg", [this] { Corrigeer(hoofd_, kVraagPersVervolg); });
+  menu_.Hang("VerwijsRelVervolg", [this] { Corrigeer(hoofd_, kVraagRelVervolg); });
   menu_.Hang("VeiligOngedaan", [this] { MaakLaatsteOngedaan(hoofd_.MaakOpslag()); });
   menu_.Hang("VeiligGeschiedenis", [this, &gesprek] { gesprek.Toon<Geschiedenis>(hoofd_); });
   menu_.Hang("VeiligKopie", [this, &gesprek] { MaakVeiligheidskopie(KopieVan(hoofd_), gesprek); });

@@ -19,7 +19,7 @@ inline constexpr DatumVeld OtrDagMaand    {    6,    2, "OtrDatum"   };
 inline constexpr GetalVeld OtrJaar        {    8,    2, ""           };
 inline constexpr GetalVeld WetHuwPlaatsNr {   10,    2, "WHuwPlaats" };
 inline constexpr DatumVeld WetHuwDagMaand {   12,    2, "WHuwDatum"  };
-inline constexpr GetalVeld WetHuwJaar     {   14,    2, ""           };
+inline constexpr GetalVeld WetHuwJaar     {   14,    2, "WetHuwJaar" };
 inline constexpr TekstVeld HuwCorr        {   16,    1, "HuwCorr"    };  // the probe; "Z": continuation
 inline constexpr GetalVeld KHuwPlaatsNr   {   17,    2, "KHuwPlaats" };
 inline constexpr DatumVeld KHuwDagMaand   {   19,    2, "KHuwDatum"  };

@@ -123,7 +123,9 @@ const std::map<std::string_view, std::string_view> kHulpOnderwerpen = {
     {"PersInfoForm", "zoeken"},      {"IniGebruiker", "instellingen"},
     {"IniGezindte", "instellingen"}, {"IniVoorvoeg", "instellingen"},
     {"IniVoorkeur", "instellingen"}, {"IniFunctie", "instellingen"},
-    {"IniSysteem", "instellingen"},
+    {"IniSysteem", "instellingen"},  {"Bevindingen", "controle"},
+    {"ControlePrs", "controle"},     {"ControleRel", "controle"},
+    {"ControlePlts", "controle"},    {"ControleOpm", "controle"},
 };
 
 TEST_P(ElkFormulier, NoemtZijnHulponderwerp) {

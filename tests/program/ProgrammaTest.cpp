@@ -237,6 +237,31 @@ TEST_F(Programmaloop, VerslagenVanNakomelingenVragenOmEenPersoon) {
     )~");
 }
 
+TEST_F(Programmaloop, HetMenuControleOpentElkeControle) {
+  MaakFamilie();
+  Verwacht(R"(
+      kies ContrPrs
+      sluit
+      kies ContrRel
+      sluit
+      kies ContrPlts
+      sluit
+      kies ContrOpm
+      sluit
+    )",
+           Sessie(), R"~(
+      + MenuWindow "LB77 voor Windows"
+      + ControlePrs "Controleer Persoonsbestand"
+      - ControlePrs
+      + ControleRel "Controleer Relatiebestand"
+      - ControleRel
+      + ControlePlts "Controleer Plaatsbestand"
+      - ControlePlts
+      + ControleOpm "Controleer Opmerkingenbestand"
+      - ControleOpm
+    )~");
+}
+
 TEST_F(Programmaloop, HetMenuVeiligheidToontZijnVensters) {
   MaakFamilie();
   Verwacht(R"(

@@ -133,6 +133,8 @@ TEST_F(RelatieLB77Test, VeldenVeranderenPreciesHunBytes) {
   Veld("OtrDatum", "03-05-1850", 6, B("\x31\x01\x3A\x07"));
   Veld("WHuwPlaats", "5", 10, B("\x05\x00"));
   Veld("WHuwDatum", "03-05-1850", 12, B("\x31\x01\x3A\x07"));
+  // A continuation record names its owner there.
+  Veld("WetHuwJaar", "258", 14, B("\x02\x01"));
   Veld("HuwCorr", "Z", 16, "Z");
   Veld("KHuwPlaats", "6", 17, B("\x06\x00"));
   Veld("KHuwDatum", "03-05-1850", 19, B("\x31\x01\x3A\x07"));

@@ -1,0 +1,91 @@
+#include "checks/PlaatsVervanging.h"
+
+#include <algorithm>
+#include <span>
+
+#include "checks/LaatsteRecord.h"
+#include "store/PersoonVelden.h"
+#include "store/RelatieVelden.h"
+
+namespace lb77 {
+
+namespace {
+
+constexpr std::int32_t kEersteNr = 2;
+
+constexpr Veld kPersoonPlaatsen[] = {persoonveld::GebPlaatsNr, persoonveld::DoopPlaatsNr,
+                                     persoonveld::OvlPlaatsNr, persoonveld::BegrPlaatsNr};
+constexpr Veld kRelatiePlaatsen[] = {relatieveld::OtrPlaatsNr, relatieveld::WetHuwPlaatsNr,
+                                     relatieveld::KHuwPlaatsNr};
+
+// A file with the fields that name places.
+template <class Klasse>
+struct Bron {
+  Klasse& klasse;
+  RecordBestand& bestand;
+  std::span<const Veld> velden;
+
+  [[nodiscard]] bool Lees(std::int16_t nr) const {
+    return LeesZonderMelding(klasse, bestand, nr) && !klasse.IsVolgRecord();
+  }
+  [[nodiscard]] bool Noemt(const Veld& veld, std::int16_t plaats) const {
+    return GetalOp(klasse.Bytes(), veld.plaats) == plaats;
+  }
+  // In the record at hand.
+  [[nodiscard]] std::int32_t Tel(std::int16_t plaats) const {
+    return static_cast<std::int32_t>(std::count_if(
+        velden.begin(), velden.end(), [&](const Veld& veld) { return Noemt(veld, plaats); }));
+  }
+};
+
+template <class Klasse>
+std::int32_t TelIn(const Bron<Klasse>& bron, std::int16_t oud) {
+  std::int32_t aantal = 0;
+  const std::int32_t laatste = LaatsteRecord(bron.klasse, bron.bestand);
+  for (std::int32_t nr = kEersteNr; nr <= laatste; ++nr) {
+    if (bron.Lees(static_cast<std::int16_t>(nr))) aantal += bron.Tel(oud);
+  }
+  return aantal;
+}
+
+// The record that was just read.
+template <class Klasse>
+bool VervangInRecord(const Bron<Klasse>& bron, std::int16_t nr, std::int16_t oud,
+                     std::int16_t nieuw) {
+  for (const Veld& veld : bron.velden) {
+    if (bron.Noemt(veld, oud)) bron.klasse.Zet(veld.naam, GetalTekst(nieuw));
+  }
+  return bron.klasse.Schrijf(nr);
+}
+
+template <class Klasse, class Meld>
+bool VervangIn(const Bron<Klasse>& bron, std::int16_t oud, std::int16_t nieuw,
+               std::int32_t& vervangen, const Meld& meld) {
+  const std::int32_t laatste = bron.klasse.AantalRecords();
+  for (std::int32_t teller = kEersteNr; teller <= laatste; ++teller) {
+    const auto nr = static_cast<std::int16_t>(teller);
+    const std::int32_t hier = bron.Lees(nr) ? bron.Tel(oud) : 0;
+    if (hier > 0 && !VervangInRecord(bron, nr, oud, nieuw)) return false;
+    vervangen += hier;
+    meld(nr, vervangen);
+  }
+  return true;
+}
+
+}  // namespace
+
+std::int32_t PlaatsVervanging::Tel(std::int16_t oud) {
+  const Bron personen{persoon_, bestanden_.Bestand(BestandSoort::Personen), kPersoonPlaatsen};
+  const Bron relaties{relatie_, bestanden_.Bestand(BestandSoort::Relaties), kRelatiePlaatsen};
+  return TelIn(personen, oud) + TelIn(relaties, oud);
+}
+
+bool PlaatsVervanging::Vervang(std::int16_t oud, std::int16_t nieuw, const Voortgang& voortgang) {
+  const Bron personen{persoon_, bestanden_.Bestand(BestandSoort::Personen), kPersoonPlaatsen};
+  const Bron relaties{relatie_, bestanden_.Bestand(BestandSoort::Relaties), kRelatiePlaatsen};
+  std::int32_t vervangen = 0;
+  return VervangIn(personen, oud, nieuw, vervangen, voortgang.persoon) &&
+         VervangIn(relaties, oud, nieuw, vervangen, voortgang.relatie);
+}
+
+}  // namespace lb77
