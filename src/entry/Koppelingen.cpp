@@ -176,7 +176,7 @@ bool Koppelingen::LeesRelaties(std::int16_t persoon, Huwtab& tab) {
     tab = {};
     return true;
   }
-  gesprek_.Waarschuw("Fout bij het lezen van Persoon " + GetalTekst(persoon));
+  gesprek_.Fout("Fout bij het lezen van Persoon " + GetalTekst(persoon));
   return false;
 }
 
@@ -186,7 +186,7 @@ std::int16_t Koppelingen::ManVan(const Huwtab& vanMoeder) {
   for (const std::int16_t nr : vanMoeder) {
     if (nr == 0) continue;
     if (!relatie_.Lees(nr)) {
-      gesprek_.Waarschuw("Fout bij het lezen van Relatie " + GetalTekst(nr));
+      gesprek_.Fout("Fout bij het lezen van Relatie " + GetalTekst(nr));
       break;
     }
     man = relatie_.ManNr();

@@ -322,7 +322,9 @@ bool WijzigPersoon::KloptRelatie() {
   const std::string nummer = " " + GetalTekst(nr);
   const RelatieLB77& relatie = Hoofd().Relatie;
   if (!Hoofd().Relatie.Lees(nr)) {
-    return Weiger(RelNrOuders, "Fout bij het lezen van Relatie" + nummer);
+    Hoofd().gesprek.Fout("Fout bij het lezen van Relatie" + nummer);
+    ZetFocus(RelNrOuders);
+    return false;
   }
   if (Pa.Nr() != relatie.ManNr()) {
     return Weiger(Pa.RecordNr, "Vader komt niet voor in Relatie" + nummer);

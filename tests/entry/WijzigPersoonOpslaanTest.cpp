@@ -217,7 +217,7 @@ TEST_F(WijzigPersoonOpslaanTest, OudersDieNietInDeRelatieStaan) {
 
 TEST_F(WijzigPersoonOpslaanTest, EenRelatieDieErNietIs) {
   Bouw().WijzigPersoon(7, {{"Ouders", "99"}});
-  Speelt(7, "druk Opslaan", R"(! uitroep "Fout bij het lezen van Relatie 99")");
+  Speelt(7, "druk Opslaan", R"(! stop "Fout bij het lezen van Relatie 99")");
   EXPECT_EQ(focus_, "RelNrOuders");
 }
 
