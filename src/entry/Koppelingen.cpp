@@ -137,7 +137,10 @@ bool Koppelingen::VulVerdicht(std::int16_t relatie, Kindtab& tab) {
 
 bool Koppelingen::HaalWeg(std::int16_t kind, std::int16_t oud) {
   Kindtab tab{};
-  if (!VulVerdicht(oud, tab)) return false;
+  const TabUitslag uitslag = relatie_.VulKindtab(oud, tab);
+  // Without any list there is no child in it either.
+  if (!uitslag.heel && uitslag.aantal > 0) return MeldOnleesbaar<KindLijst>(gesprek_, oud);
+  Verdicht(PlaatsenVan(tab));
   const std::int16_t plaats = PlaatsVan(PlaatsenVan(tab), kind);
   if (plaats == 0) {
     gesprek_.Waarschuw("Het kind ontbreekt in de relatie van de oude ouders");
