@@ -306,12 +306,13 @@ bool WijzigPersoon::VindRelatie() {
   return true;
 }
 
-// A continuation record of a parent may have taken the number that was meant for this person, and
-// nobody else may become the child.
+// A continuation record of a parent may have taken the number that was meant for this person, in
+// this try or in one before it, and nobody else may become the child.
 bool WijzigPersoon::HeeftNummer() {
-  if (bestaat_ || RelNrOuders.Nr() <= 0) return true;
+  const bool metOuders = RelNrOuders.Nr() > 0;
+  if (bestaat_ || (!metOuders && !Hoofd().Persoon.Lees(nr_))) return true;
   if (!NeemVrijNummer()) return false;
-  if (!Hoofd().Persoon.Lees(nr_)) return true;
+  if (!metOuders || !Hoofd().Persoon.Lees(nr_)) return true;
   Hoofd().gesprek.Fout("Persoonsrecord " + GetalTekst(nr_) + " bestaat al");
   return false;
 }

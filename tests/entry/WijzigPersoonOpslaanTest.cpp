@@ -192,6 +192,37 @@ TEST_F(WijzigPersoonOpslaanTest, EenVervolgrecordVanEenOuderNeemtHetNummerEnDePe
   EXPECT_EQ(Huwelijken(2), "2 4 5 6");
 }
 
+// The first try made the record and then refused the parents.
+TEST_F(WijzigPersoonOpslaanTest, WatEenEerderePogingVergafIsBijDeTweedeNietMeerVrij) {
+  Bouw().Relatie(2, 3);
+  Bouw().Relatie(2, 3);
+  SlaatOp(-1, R"(
+    vul VoorNm Bram
+    vul RecordNrMa 3
+    antwoord Ja
+    druk Opslaan
+    toon RecordNr
+    vul RelNrOuders
+  )",
+          Met(kGeenRelatie, "Ja") + R"(
+    ! uitroep "Vader komt niet voor in Relatie 6"
+    = RecordNr "8"
+  )");
+  EXPECT_EQ(na_, 9);
+  EXPECT_EQ(VanPersoon(8, veld::GebCorr), "Z");
+  EXPECT_EQ(VanPersoon(9, veld::Voornaam), "Bram");
+  EXPECT_EQ(VanPersoon(9, veld::RelNrOuders), "");
+}
+
+TEST_F(WijzigPersoonOpslaanTest, ZonderRecordBlijftDeDialoogOpenEnIsErNiemand) {
+  Bouw().ZetAantalPersonen(3);
+  Speelt(-1, "druk Opslaan", R"(
+    ! stop "Persoonsrecord 5 bestaat al: het aantal in het administratierecord is te laag"
+  )");
+  EXPECT_EQ(na_, -1);
+  EXPECT_EQ(VanPersoon(5, veld::Voornaam), "Kees");
+}
+
 // The count is too low: the number behind it is somebody's.
 TEST_F(WijzigPersoonOpslaanTest, EenNummerDatInGebruikIsWordtNiemandsKind) {
   Bouw().ZetAantalPersonen(3);
