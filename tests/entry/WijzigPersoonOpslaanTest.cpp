@@ -252,6 +252,28 @@ TEST_F(WijzigPersoonOpslaanTest, EenRelatieDieErNietIs) {
   EXPECT_EQ(focus_, "RelNrOuders");
 }
 
+TEST_F(WijzigPersoonOpslaanTest, UitEenRelatieDieErNietIsKomtNiemandLos) {
+  Bouw().WijzigPersoon(7, {{"Ouders", "99"}});
+  Speelt(7, "vul RelNrOuders 3\nantwoord Ja\ndruk Opslaan\ntoon RelNrOuders", Met(kLos, "Ja") + R"(
+    ! uitroep "Het kind ontbreekt in de relatie van de oude ouders"
+    ! uitroep "Fout bij het verbreken van de koppeling met de ouders"
+    ! uitroep "Recordnummer bestaat niet"
+    = RelNrOuders "99"
+  )");
+  EXPECT_EQ(focus_, "RelNrOuders");
+  EXPECT_EQ(Kinderen(3), "");
+}
+
+// Record 1 can be read, but is nobody.
+TEST_F(WijzigPersoonOpslaanTest, EenVaderDieNiemandIsHoudtHetOpslaanNietTegen) {
+  Bouw().WijzigRelatie(2, {{"ManNr", "1"}});
+  SlaatOp(4, "vul BeroepTekst smid\ntoon RecordNrPa\ntoon VoorNmPa", R"(
+    = RecordNrPa "1"
+    = VoorNmPa "?????"
+  )");
+  EXPECT_EQ(VanPersoon(4, veld::beroep), "smid");
+}
+
 TEST_F(WijzigPersoonOpslaanTest, NeeLaatDeKoppelingMetDeOuders) {
   const auto voor = Bytes();
   Speelt(4, "vul RelNrOuders 3\nantwoord Nee\ndruk Opslaan\ntoon RelNrOuders\ntoon VoorNmPa",
