@@ -197,12 +197,12 @@ bool WijzigPersoon::Weiger(Bediening& veld, std::string_view melding) {
   return false;
 }
 
-// The text of a function key has passed no filter. A damaged letter that nobody touched is let go.
 void WijzigPersoon::GeslachtBetreden() {
   OudGeslacht = Geslacht.Tekst();
   geweigerd_ = false;
 }
 
+// The text of a function key has passed no filter. A damaged letter that nobody touched is let go.
 bool WijzigPersoon::GeslachtVerlaten() {
   if (Geslacht.Tekst() == OudGeslacht) return true;
   const std::string geslacht = Hoofdletters(Geslacht.Tekst());
@@ -220,12 +220,12 @@ bool WijzigPersoon::GeslachtVerlaten() {
   return false;
 }
 
-// The focus goes to the button that leads back: the parents are known now.
 bool WijzigPersoon::CorrVerlaten() {
   ToonPeriodes();
   return true;
 }
 
+// The focus goes to the button that leads back: the parents are known now.
 bool WijzigPersoon::RelNrOudersVerlaten() {
   const std::int16_t relatie = RelNrOuders.Nr();
   if (relatie != 0 && !Hoofd().Relatie.Lees(relatie)) return false;
