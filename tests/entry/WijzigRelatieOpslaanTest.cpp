@@ -116,6 +116,18 @@ TEST_F(WijzigRelatieOpslaanTest, PartnersOpNaamVanElkGeslacht) {
   EXPECT_EQ(Huwelijken(5), "3");
 }
 
+// kept: by number he would be refused.
+TEST_F(WijzigRelatieOpslaanTest, OpNaamMagEenPartnerVanOnbekendGeslacht) {
+  const auto toos = Bouw().Persoon('?', "Toos", "Smit");
+  SpeeltGeheel(2, "vul RecordNrVrouw\nvul VoorNmVrouw toos\ndruk Opslaan\ndruk JaButton",
+               Omlijst(R"(
+    + OKPersoon "Zoek Persoon op Naam"
+    - OKPersoon
+  )"));
+  EXPECT_EQ(VanRelatie(2, veld::VrouwNr), GetalTekst(toos));
+  EXPECT_EQ(Huwelijken(toos), "2");
+}
+
 TEST_F(WijzigRelatieOpslaanTest, EenNaamDieNietGevondenWordt) {
   const auto voor = Bytes();
   Speelt(-1, "vul VoorNmVrouw Jaapje\ndruk Opslaan", R"(! uitroep "Persoon niet gevonden")");

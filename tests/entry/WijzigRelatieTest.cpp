@@ -97,6 +97,30 @@ TEST_F(WijzigRelatieTest, PartnersVanEenGeslachtHetenPartner) {
   )");
 }
 
+TEST_F(WijzigRelatieTest, EenPartnerAlleenHeetManOfVrouw) {
+  constexpr std::string_view kVraag = "toon ManLabel\ntoon VrouwLabel";
+  Bouw().WijzigRelatie(2, {{"VrouwNr", "0"}});
+  Speelt(2, kVraag, R"(
+    = ManLabel "Man"
+    = VrouwLabel "Vrouw"
+  )");
+  // Of the other one as much is known: nothing.
+  Bouw().WijzigRelatie(2, {{"ManNr", "6"}});
+  Speelt(2, kVraag, R"(
+    = ManLabel "Partner1"
+    = VrouwLabel "Partner2"
+  )");
+}
+
+TEST_F(WijzigRelatieTest, EenNummerDatLeegWordtGeeftDeGewoneLabels) {
+  Bouw().WijzigRelatie(2, {{"VrouwNr", "4"}});
+  Speelt(2, "vul RecordNrVrouw\ntoon ManLabel\ntoon VrouwLabel\ntoon AchterNmVrouw", R"(
+    = ManLabel "Man"
+    = VrouwLabel "Vrouw"
+    = AchterNmVrouw ""
+  )");
+}
+
 TEST_F(WijzigRelatieTest, EenVreemdMerkIsEenPartnerschap) {
   ZetByte(Paden().rlt, 64 + relatieveld::HuwSwPs.plaats, '3');
   Speelt(2, "toon WetHuwLabel", R"(= WetHuwLabel "Partnerschap")");
@@ -247,6 +271,22 @@ TEST_F(WijzigRelatieTest, CodesEnPlaatsenKrijgenHunNaam) {
   )");
 }
 
+TEST_F(WijzigRelatieTest, GeenVeldNeemtMeerDanHetRecordHeeft) {
+  constexpr std::pair<std::string_view, std::size_t> kBreedten[] = {
+      {"RecordNrMan", 5U},  {"VoorNmMan", 30U}, {"AchterNmVrouw", 25U},
+      {"OtrDatum", 10U},    {"OtrPltsNm", 25U}, {"HuwCorr", 1U},
+      {"HuwSoortCode", 2U}, {"WHuwPltsNr", 5U}, {"ReligieCode", 2U},
+  };
+  Stil([&](Hoofdmodule& hoofd) {
+    WijzigRelatie form(hoofd);
+    for (const auto& [naam, breedte] : kBreedten) {
+      const auto* const veld = dynamic_cast<const Invoerveld*>(form.Zoek(naam));
+      ASSERT_NE(veld, nullptr) << naam;
+      EXPECT_EQ(veld->MaxLengte(), breedte) << naam;
+    }
+  });
+}
+
 TEST_F(WijzigRelatieTest, TerugSchrijftNietsEnVergeetDeBuffers) {
   const auto voor = Bytes();
   Verwacht(
@@ -260,6 +300,7 @@ TEST_F(WijzigRelatieTest, TerugSchrijftNietsEnVergeetDeBuffers) {
       Omlijst(""));
   EXPECT_EQ(na_, 2);
   EXPECT_EQ(Bytes(), voor);
+  SpeeltGeheel(2, "toets F10", Omlijst(""));
 }
 
 }  // namespace
