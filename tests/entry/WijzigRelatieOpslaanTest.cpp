@@ -60,6 +60,24 @@ TEST_F(WijzigRelatieOpslaanTest, EenNieuweRelatieKrijgtAlleVeldenEnKomtInBeideLi
   EXPECT_EQ(Huwelijken(5), "3");
 }
 
+// The number is taken while the dialog shows it.
+TEST_F(WijzigRelatieOpslaanTest, ZonderRecordBlijftDeDialoogOpenEnKrijgtNiemandEenRelatie) {
+  Verwacht(
+      "vul RecordNrMan 4\ndruk Opslaan\ntoon RecordNr\ndruk BackButton",
+      [&](Hoofdmodule& hoofd) {
+        hoofd.volgers.HuidigRelatieNr = -1;
+        WijzigRelatie form(hoofd);
+        form.Man.RecordNr.BijWijziging([this] { Bouw().Relatie(5, 0); });
+        hoofd.gesprek.ToonModaal(form);
+        EXPECT_EQ(hoofd.volgers.HuidigRelatieNr, -1);
+      },
+      Omlijst(R"(
+    ! stop "Relatierecord 3 bestaat al: het aantal in het administratierecord is te laag"
+    = RecordNr "3"
+  )"));
+  EXPECT_EQ(Huwelijken(4), "");
+}
+
 TEST_F(WijzigRelatieOpslaanTest, WieNietsVerandertLaatElkBestandZoalsHetIs) {
   Bouw().WijzigRelatie(2, {{"HuwSwPs", "1"}, {"HuwCorr", "T"}});
   const auto voor = Bytes();

@@ -62,6 +62,13 @@ TEST_F(WijzigRelatieTest, EenVervolgrecordOpentNiet) {
   EXPECT_EQ(na_, -1);
 }
 
+TEST_F(WijzigRelatieTest, EenRelatieDieNietTeLezenIsOpentNiet) {
+  Bouw().Relatie(4, 5);
+  MaakOnleesbaar(BestandSoort::Relaties, 2);
+  SpeeltGeheel(2, "", R"(! stop "Fout bij het lezen van Relatierecord 2\nFout van de schijf")");
+  EXPECT_EQ(na_, -1);
+}
+
 TEST_F(WijzigRelatieTest, ToontPartnersKindertalEnLabels) {
   Bouw().WijzigRelatie(2, {{"HuwSwPs", "1"}, {"KHuwSch", "1"}, {"WHuwDatum", "01-02-1880"}});
   Speelt(2, R"(
