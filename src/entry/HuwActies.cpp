@@ -60,7 +60,7 @@ bool SchrijfRelatie(Hoofdmodule& hoofd, std::int16_t relatie, const Paar& paar) 
   hoofd.Relatie.Zet("ManNr", GetalTekst(paar.man));
   hoofd.Relatie.Zet("VrouwNr", GetalTekst(paar.vrouw));
   if (hoofd.Relatie.Schrijf(relatie)) return true;
-  hoofd.gesprek.Waarschuw("Fout bij het schrijven van het Relatierecord");
+  hoofd.gesprek.Fout("Fout bij het schrijven van het Relatierecord");
   hoofd.volgers.HuidigRelatieNr = hoofd.volgers.RelBufNr = -1;
   return false;
 }

@@ -137,7 +137,10 @@ bool Koppelingen::VulVerdicht(std::int16_t relatie, Kindtab& tab) {
 
 bool Koppelingen::HaalWeg(std::int16_t kind, std::int16_t oud) {
   Kindtab tab{};
-  if (!VulVerdicht(oud, tab)) return false;
+  const TabUitslag uitslag = relatie_.VulKindtab(oud, tab);
+  // Without any list there is no child in it either.
+  if (!uitslag.heel && uitslag.aantal > 0) return MeldOnleesbaar<KindLijst>(gesprek_, oud);
+  Verdicht(PlaatsenVan(tab));
   const std::int16_t plaats = PlaatsVan(PlaatsenVan(tab), kind);
   if (plaats == 0) {
     gesprek_.Waarschuw("Het kind ontbreekt in de relatie van de oude ouders");
@@ -176,7 +179,7 @@ bool Koppelingen::LeesRelaties(std::int16_t persoon, Huwtab& tab) {
     tab = {};
     return true;
   }
-  gesprek_.Waarschuw("Fout bij het lezen van Persoon " + GetalTekst(persoon));
+  gesprek_.Fout("Fout bij het lezen van Persoon " + GetalTekst(persoon));
   return false;
 }
 
@@ -186,7 +189,7 @@ std::int16_t Koppelingen::ManVan(const Huwtab& vanMoeder) {
   for (const std::int16_t nr : vanMoeder) {
     if (nr == 0) continue;
     if (!relatie_.Lees(nr)) {
-      gesprek_.Waarschuw("Fout bij het lezen van Relatie " + GetalTekst(nr));
+      gesprek_.Fout("Fout bij het lezen van Relatie " + GetalTekst(nr));
       break;
     }
     man = relatie_.ManNr();

@@ -14,7 +14,7 @@ namespace lb77 {
 namespace {
 
 constexpr std::size_t kCijfers = 5;
-constexpr std::int16_t kAdminNr = 1;
+constexpr std::int16_t kAdminNr = 1;  // can be read, but is nobody
 constexpr std::string_view kOnleesbaar = "?????";
 
 std::string Met(std::string_view naam, std::string_view achtervoegsel) {
@@ -71,7 +71,6 @@ void PersoonVak::ToonNamen(std::int16_t nr) {
   PersoonLB77& persoon = formulier_.Hoofd().Persoon;
   std::string voor;
   std::string achter;
-  // Record 1 can be read, but is nobody.
   const bool bekend = nr != 0 && nr != kAdminNr && persoon.Lees(nr);
   if (bekend) {
     voor = OfOnbekend(persoon.VoorNaamTrue());
@@ -140,6 +139,7 @@ bool PersoonVak::NrHoortBijNaam() const {
   std::string achter;
   std::string nummer;
   HaalNaam(formulier_.Hoofd().Persoon, Nr(), voor, achter, nummer);
+  if (Nr() == kAdminNr) voor = achter = kOnleesbaar;
   return Trim(voor) == Trim(VoorNm.Tekst()) && Trim(achter) == Trim(AchterNm.Tekst());
 }
 

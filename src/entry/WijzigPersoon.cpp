@@ -197,12 +197,12 @@ bool WijzigPersoon::Weiger(Bediening& veld, std::string_view melding) {
   return false;
 }
 
-// The text of a function key has passed no filter. A damaged letter that nobody touched is let go.
 void WijzigPersoon::GeslachtBetreden() {
   OudGeslacht = Geslacht.Tekst();
   geweigerd_ = false;
 }
 
+// The text of a function key has passed no filter. A damaged letter that nobody touched is let go.
 bool WijzigPersoon::GeslachtVerlaten() {
   if (Geslacht.Tekst() == OudGeslacht) return true;
   const std::string geslacht = Hoofdletters(Geslacht.Tekst());
@@ -220,12 +220,12 @@ bool WijzigPersoon::GeslachtVerlaten() {
   return false;
 }
 
-// The focus goes to the button that leads back: the parents are known now.
 bool WijzigPersoon::CorrVerlaten() {
   ToonPeriodes();
   return true;
 }
 
+// The focus goes to the button that leads back: the parents are known now.
 bool WijzigPersoon::RelNrOudersVerlaten() {
   const std::int16_t relatie = RelNrOuders.Nr();
   if (relatie != 0 && !Hoofd().Relatie.Lees(relatie)) return false;
@@ -306,12 +306,13 @@ bool WijzigPersoon::VindRelatie() {
   return true;
 }
 
-// A continuation record of a parent may have taken the number that was meant for this person, and
-// nobody else may become the child.
+// A continuation record of a parent may have taken the number that was meant for this person, in
+// this try or in one before it, and nobody else may become the child.
 bool WijzigPersoon::HeeftNummer() {
-  if (bestaat_ || RelNrOuders.Nr() <= 0) return true;
+  const bool metOuders = RelNrOuders.Nr() > 0;
+  if (bestaat_ || (!metOuders && !Hoofd().Persoon.Lees(nr_))) return true;
   if (!NeemVrijNummer()) return false;
-  if (!Hoofd().Persoon.Lees(nr_)) return true;
+  if (!metOuders || !Hoofd().Persoon.Lees(nr_)) return true;
   Hoofd().gesprek.Fout("Persoonsrecord " + GetalTekst(nr_) + " bestaat al");
   return false;
 }
@@ -322,7 +323,9 @@ bool WijzigPersoon::KloptRelatie() {
   const std::string nummer = " " + GetalTekst(nr);
   const RelatieLB77& relatie = Hoofd().Relatie;
   if (!Hoofd().Relatie.Lees(nr)) {
-    return Weiger(RelNrOuders, "Fout bij het lezen van Relatie" + nummer);
+    Hoofd().gesprek.Fout("Fout bij het lezen van Relatie" + nummer);
+    ZetFocus(RelNrOuders);
+    return false;
   }
   if (Pa.Nr() != relatie.ManNr()) {
     return Weiger(Pa.RecordNr, "Vader komt niet voor in Relatie" + nummer);

@@ -210,12 +210,12 @@ bool WijzigRelatie::Weiger(Bediening& veld, std::string_view melding) {
   return false;
 }
 
-// What was accepted counts as what stood there: the focus may come back without an event.
 bool WijzigRelatie::HuwCorrVerlaten() {
   KHuwPlts.ZetZichtbaar(!HuwCorr.IsTussen());
   return true;
 }
 
+// What was accepted counts as what stood there: the focus may come back without an event.
 bool WijzigRelatie::RecordNrVerlaten(const Partner& partner) {
   const std::string tekst = partner.vak.RecordNr.Tekst();
   if (tekst == OudeTekst) return true;

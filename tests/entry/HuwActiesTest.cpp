@@ -2,6 +2,8 @@
 
 #include "entry/HuwActies.h"
 #include "entry/KoppelActieToets.h"
+#include "steun/FaalBestand.h"
+#include "store/SetPaden.h"
 
 namespace lb77 {
 namespace {
@@ -129,6 +131,34 @@ TEST_F(HuwActiesTest, EenPartnerMetVijfRelatiesMagNiet) {
   Nieuw(2, "vul RecordNr 7\ndruk OKButton",
         "- VraagPartner\n! uitroep \"De Partner heeft al 5 relaties.\"");
   EXPECT_EQ(Paar(8), "");
+}
+
+// The first operation of which the failure is told so is the write of the pair.
+TEST_F(HuwActiesTest, EenPaarDatNietGeschrevenKanWordenWordtGemeld) {
+  const SetPaden paden = SetPaden::Van(Map(), "PROEF");
+  const std::string personen = LeesBytes(paden.prs);
+  const std::string relaties = LeesBytes(paden.rlt);
+  bool gemeld = false;
+  Volgers na;
+  for (int k = 1; !gemeld; ++k) {
+    ASSERT_LT(k, 500);
+    SchrijfBytes(paden.prs, personen);
+    SchrijfBytes(paden.rlt, relaties);
+    Storing storing;
+    storing.bij = k;
+    static_cast<void>(
+        Speel("antwoord Ja\nvul RecordNr 7\ndruk OKButton", Sessie([&](Hoofdmodule& hoofd) {
+                hoofd.bestanden = Bestandenset(FalendeOpener(storing));
+                if (hoofd.bestanden.OpenSet(paden)) return;
+                NieuweRelatieVan(hoofd, 2);
+                na = hoofd.volgers;
+              })));
+    gemeld = verslag_.find("! stop \"Fout bij het schrijven van het Relatierecord\"\n") !=
+             std::string::npos;
+  }
+  EXPECT_EQ(na.HuidigRelatieNr, -1);
+  EXPECT_EQ(na.RelBufNr, -1);
+  EXPECT_EQ(Relaties(2) + "/ " + Relaties(7), "2 / 3 ");
 }
 
 TEST_F(HuwActiesTest, DeVierdeRelatieKrijgtEenVervolgrecord) {

@@ -110,6 +110,36 @@ TEST_F(KindActiesTest, WieErNietInStaatBlijft) {
   EXPECT_EQ(Ouders(8), 3);
 }
 
+TEST_F(KindActiesTest, NaEenMislukteKoppelingIsErGeenHuidigePersoon) {
+  Verwacht(
+      "vul RecordNr 8\ndruk OKButton",
+      [](Hoofdmodule& hoofd) {
+        HaalKindWeg(hoofd, 2, false);
+        EXPECT_EQ(hoofd.volgers.HuidigPersoonNr, -1);
+        EXPECT_EQ(hoofd.volgers.HuidigRelatieNr, 2);
+      },
+      R"(
+    + KindEraf "Verwijderen Kind"
+    - KindEraf
+    ! uitroep "Het kind ontbreekt in de relatie van de oude ouders"
+  )");
+}
+
+// kept: the old parents are left by then, and the record still names them.
+TEST_F(KindActiesTest, WieNietBijNieuweOudersPastIsDeOudeKwijt) {
+  Reeks(29);
+  std::vector<std::int16_t> kinderen;
+  for (std::int16_t nr = 10; nr < 39; ++nr) kinderen.push_back(nr);
+  const std::int16_t relatie = Bouw().Relatie(2, 3, kinderen);
+  Verwacht(
+      "antwoord Ja\nvul RecordNr 8\ndruk OKButton",
+      [&](Hoofdmodule& hoofd) { VoegKindToe(hoofd, relatie); },
+      "+ KindErbij \"Toevoegen Kind\"\n- KindErbij\n" + std::string(kAndere) + "Ja\n" +
+          R"(! uitroep "Er zijn al 29 kinderen bij de nieuwe ouders")");
+  EXPECT_EQ(Kinderen(3), "");
+  EXPECT_EQ(Ouders(8), 3);
+}
+
 // kept: the card with the further children asks in the words of adding.
 TEST_F(KindActiesTest, VerwijderenKanInDeWoordenVanToevoegen) {
   Verwacht(

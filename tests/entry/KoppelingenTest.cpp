@@ -195,6 +195,14 @@ TEST_F(VerplaatsKindToets, EenKindDatErNietIs) {
   EXPECT_EQ(Relaties(), (R{"2: 2 3", "3:"}));
 }
 
+TEST_F(VerplaatsKindToets, UitEnNaarEenRelatieDieErNietIs) {
+  EXPECT_FALSE(Werk().VerplaatsKind(9, 77, 0));
+  EXPECT_EQ(Boxen(), R{"! uitroep \"Het kind ontbreekt in de relatie van de oude ouders\""});
+  EXPECT_FALSE(Werk().VerplaatsKind(9, 0, 77));
+  EXPECT_EQ(Boxen().size(), 1U);
+  EXPECT_EQ(Relaties(), R{});
+}
+
 TEST_F(VerplaatsKindToets, UitEenLegeRelatie) {
   RelatieMet(0);
   EXPECT_FALSE(Werk().VerplaatsKind(9, 2, 0));

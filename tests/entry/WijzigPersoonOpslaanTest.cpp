@@ -192,6 +192,37 @@ TEST_F(WijzigPersoonOpslaanTest, EenVervolgrecordVanEenOuderNeemtHetNummerEnDePe
   EXPECT_EQ(Huwelijken(2), "2 4 5 6");
 }
 
+// The first try made the record and then refused the parents.
+TEST_F(WijzigPersoonOpslaanTest, WatEenEerderePogingVergafIsBijDeTweedeNietMeerVrij) {
+  Bouw().Relatie(2, 3);
+  Bouw().Relatie(2, 3);
+  SlaatOp(-1, R"(
+    vul VoorNm Bram
+    vul RecordNrMa 3
+    antwoord Ja
+    druk Opslaan
+    toon RecordNr
+    vul RelNrOuders
+  )",
+          Met(kGeenRelatie, "Ja") + R"(
+    ! uitroep "Vader komt niet voor in Relatie 6"
+    = RecordNr "8"
+  )");
+  EXPECT_EQ(na_, 9);
+  EXPECT_EQ(VanPersoon(8, veld::GebCorr), "Z");
+  EXPECT_EQ(VanPersoon(9, veld::Voornaam), "Bram");
+  EXPECT_EQ(VanPersoon(9, veld::RelNrOuders), "");
+}
+
+TEST_F(WijzigPersoonOpslaanTest, ZonderRecordBlijftDeDialoogOpenEnIsErNiemand) {
+  Bouw().ZetAantalPersonen(3);
+  Speelt(-1, "druk Opslaan", R"(
+    ! stop "Persoonsrecord 5 bestaat al: het aantal in het administratierecord is te laag"
+  )");
+  EXPECT_EQ(na_, -1);
+  EXPECT_EQ(VanPersoon(5, veld::Voornaam), "Kees");
+}
+
 // The count is too low: the number behind it is somebody's.
 TEST_F(WijzigPersoonOpslaanTest, EenNummerDatInGebruikIsWordtNiemandsKind) {
   Bouw().ZetAantalPersonen(3);
@@ -217,8 +248,30 @@ TEST_F(WijzigPersoonOpslaanTest, OudersDieNietInDeRelatieStaan) {
 
 TEST_F(WijzigPersoonOpslaanTest, EenRelatieDieErNietIs) {
   Bouw().WijzigPersoon(7, {{"Ouders", "99"}});
-  Speelt(7, "druk Opslaan", R"(! uitroep "Fout bij het lezen van Relatie 99")");
+  Speelt(7, "druk Opslaan", R"(! stop "Fout bij het lezen van Relatie 99")");
   EXPECT_EQ(focus_, "RelNrOuders");
+}
+
+TEST_F(WijzigPersoonOpslaanTest, UitEenRelatieDieErNietIsKomtNiemandLos) {
+  Bouw().WijzigPersoon(7, {{"Ouders", "99"}});
+  Speelt(7, "vul RelNrOuders 3\nantwoord Ja\ndruk Opslaan\ntoon RelNrOuders", Met(kLos, "Ja") + R"(
+    ! uitroep "Het kind ontbreekt in de relatie van de oude ouders"
+    ! uitroep "Fout bij het verbreken van de koppeling met de ouders"
+    ! uitroep "Recordnummer bestaat niet"
+    = RelNrOuders "99"
+  )");
+  EXPECT_EQ(focus_, "RelNrOuders");
+  EXPECT_EQ(Kinderen(3), "");
+}
+
+// Record 1 can be read, but is nobody.
+TEST_F(WijzigPersoonOpslaanTest, EenVaderDieNiemandIsHoudtHetOpslaanNietTegen) {
+  Bouw().WijzigRelatie(2, {{"ManNr", "1"}});
+  SlaatOp(4, "vul BeroepTekst smid\ntoon RecordNrPa\ntoon VoorNmPa", R"(
+    = RecordNrPa "1"
+    = VoorNmPa "?????"
+  )");
+  EXPECT_EQ(VanPersoon(4, veld::beroep), "smid");
 }
 
 TEST_F(WijzigPersoonOpslaanTest, NeeLaatDeKoppelingMetDeOuders) {

@@ -95,6 +95,38 @@ TEST_F(WijzigPersoonTest, ToontOudersPartnersEnOpmerking) {
   EXPECT_EQ(na_, 4);
 }
 
+TEST_F(WijzigPersoonTest, BijEenVrouwStaatDeMan) {
+  Speelt(3, "toon RecordNrP(1)\ntoon VoorNmP(1)", R"(
+    = RecordNrP(1) "2"
+    = VoorNmP(1) "Jan"
+  )");
+}
+
+TEST_F(WijzigPersoonTest, VanEenRelatieDieNietTeLezenIsIsNiemandBekend) {
+  Bouw().WijzigPersoon(4, {{"Relatie1", "9"}, {"Ouders", "9"}});
+  Speelt(4,
+         "toon RelNrP(1)\ntoon RecordNrP(1)\ntoon AchterNmP(1)\ntoon RelNrOuders\n"
+         "toon RecordNrPa\ntoon AchterNmMa",
+         R"(
+    = RelNrP(1) "9"
+    = RecordNrP(1) ""
+    = AchterNmP(1) "<onbekend>"
+    = RelNrOuders "9"
+    = RecordNrPa ""
+    = AchterNmMa ""
+  )");
+}
+
+TEST_F(WijzigPersoonTest, ToontDeNaamVanEenPlaatsEnEenGezindte) {
+  Bouw().Plaats("Delft", "ZH");
+  Bouw().WijzigPersoon(4, {{"OvlPlaats", "10002"}, {"DoopReligie", "RK"}});
+  Speelt(4, "toon OvlPltsNm\ntoon OvlPltsNr\ntoon ReligieTekst", R"(
+    = OvlPltsNm "Delft"
+    = OvlPltsNr "10002"
+    = ReligieTekst "Rooms-Katholiek"
+  )");
+}
+
 TEST_F(WijzigPersoonTest, VijfRelatiesKomenOokUitHetVervolg) {
   for (int i = 0; i < 5; ++i) Bouw().Relatie(4, Bouw().Vrouw("V" + std::to_string(i), "Kok"));
   Speelt(4, "toon RelNrP(3)\ntoon RelNrP(5)\ntoon VoorNmP(5)", R"(
@@ -261,6 +293,23 @@ TEST_F(WijzigPersoonTest, EenPlaatsEnEenGezindteKrijgenHunNaam) {
     = GebPltsNr "2"
     = ReligieTekst "Nederlands-Hervormd"
   )");
+}
+
+TEST_F(WijzigPersoonTest, GeenVeldNeemtMeerDanHetRecordHeeft) {
+  constexpr std::pair<std::string_view, std::size_t> kBreedten[] = {
+      {"Geslacht", 1U},   {"VoorNm", 30U},    {"AchterNm", 25U},    {"GebCorr", 1U},
+      {"GebDatum", 10U},  {"GebPltsNm", 25U}, {"GebPltsNr", 5U},    {"ReligieCode", 2U},
+      {"OvlCorr", 1U},    {"BegrDatum", 10U}, {"BeroepTekst", 30U}, {"RelNrOuders", 5U},
+      {"RecordNrPa", 5U}, {"VoorNmPa", 30U},  {"AchterNmMa", 25U},
+  };
+  Stil([&](Hoofdmodule& hoofd) {
+    WijzigPersoon form(hoofd);
+    for (const auto& [naam, breedte] : kBreedten) {
+      const auto* const veld = dynamic_cast<const Invoerveld*>(form.Zoek(naam));
+      ASSERT_NE(veld, nullptr) << naam;
+      EXPECT_EQ(veld->MaxLengte(), breedte) << naam;
+    }
+  });
 }
 
 TEST_F(WijzigPersoonTest, TerugSchrijftNietsEnVergeetDeBuffers) {

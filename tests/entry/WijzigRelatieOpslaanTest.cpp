@@ -60,6 +60,24 @@ TEST_F(WijzigRelatieOpslaanTest, EenNieuweRelatieKrijgtAlleVeldenEnKomtInBeideLi
   EXPECT_EQ(Huwelijken(5), "3");
 }
 
+// The number is taken while the dialog shows it.
+TEST_F(WijzigRelatieOpslaanTest, ZonderRecordBlijftDeDialoogOpenEnKrijgtNiemandEenRelatie) {
+  Verwacht(
+      "vul RecordNrMan 4\ndruk Opslaan\ntoon RecordNr\ndruk BackButton",
+      [&](Hoofdmodule& hoofd) {
+        hoofd.volgers.HuidigRelatieNr = -1;
+        WijzigRelatie form(hoofd);
+        form.Man.RecordNr.BijWijziging([this] { Bouw().Relatie(5, 0); });
+        hoofd.gesprek.ToonModaal(form);
+        EXPECT_EQ(hoofd.volgers.HuidigRelatieNr, -1);
+      },
+      Omlijst(R"(
+    ! stop "Relatierecord 3 bestaat al: het aantal in het administratierecord is te laag"
+    = RecordNr "3"
+  )"));
+  EXPECT_EQ(Huwelijken(4), "");
+}
+
 TEST_F(WijzigRelatieOpslaanTest, WieNietsVerandertLaatElkBestandZoalsHetIs) {
   Bouw().WijzigRelatie(2, {{"HuwSwPs", "1"}, {"HuwCorr", "T"}});
   const auto voor = Bytes();
@@ -114,6 +132,18 @@ TEST_F(WijzigRelatieOpslaanTest, PartnersOpNaamVanElkGeslacht) {
   EXPECT_EQ(VanRelatie(3, veld::ManNr), "5");
   EXPECT_EQ(VanRelatie(3, veld::VrouwNr), "4");
   EXPECT_EQ(Huwelijken(5), "3");
+}
+
+// kept: by number he would be refused.
+TEST_F(WijzigRelatieOpslaanTest, OpNaamMagEenPartnerVanOnbekendGeslacht) {
+  const auto toos = Bouw().Persoon('?', "Toos", "Smit");
+  SpeeltGeheel(2, "vul RecordNrVrouw\nvul VoorNmVrouw toos\ndruk Opslaan\ndruk JaButton",
+               Omlijst(R"(
+    + OKPersoon "Zoek Persoon op Naam"
+    - OKPersoon
+  )"));
+  EXPECT_EQ(VanRelatie(2, veld::VrouwNr), GetalTekst(toos));
+  EXPECT_EQ(Huwelijken(toos), "2");
 }
 
 TEST_F(WijzigRelatieOpslaanTest, EenNaamDieNietGevondenWordt) {

@@ -62,6 +62,13 @@ TEST_F(WijzigRelatieTest, EenVervolgrecordOpentNiet) {
   EXPECT_EQ(na_, -1);
 }
 
+TEST_F(WijzigRelatieTest, EenRelatieDieNietTeLezenIsOpentNiet) {
+  Bouw().Relatie(4, 5);
+  MaakOnleesbaar(BestandSoort::Relaties, 2);
+  SpeeltGeheel(2, "", R"(! stop "Fout bij het lezen van Relatierecord 2\nFout van de schijf")");
+  EXPECT_EQ(na_, -1);
+}
+
 TEST_F(WijzigRelatieTest, ToontPartnersKindertalEnLabels) {
   Bouw().WijzigRelatie(2, {{"HuwSwPs", "1"}, {"KHuwSch", "1"}, {"WHuwDatum", "01-02-1880"}});
   Speelt(2, R"(
@@ -94,6 +101,30 @@ TEST_F(WijzigRelatieTest, PartnersVanEenGeslachtHetenPartner) {
   Speelt(2, "toon ManLabel\ntoon VrouwLabel", R"(
     = ManLabel "Partner1"
     = VrouwLabel "Partner2"
+  )");
+}
+
+TEST_F(WijzigRelatieTest, EenPartnerAlleenHeetManOfVrouw) {
+  constexpr std::string_view kVraag = "toon ManLabel\ntoon VrouwLabel";
+  Bouw().WijzigRelatie(2, {{"VrouwNr", "0"}});
+  Speelt(2, kVraag, R"(
+    = ManLabel "Man"
+    = VrouwLabel "Vrouw"
+  )");
+  // Of the other one as much is known: nothing.
+  Bouw().WijzigRelatie(2, {{"ManNr", "6"}});
+  Speelt(2, kVraag, R"(
+    = ManLabel "Partner1"
+    = VrouwLabel "Partner2"
+  )");
+}
+
+TEST_F(WijzigRelatieTest, EenNummerDatLeegWordtGeeftDeGewoneLabels) {
+  Bouw().WijzigRelatie(2, {{"VrouwNr", "4"}});
+  Speelt(2, "vul RecordNrVrouw\ntoon ManLabel\ntoon VrouwLabel\ntoon AchterNmVrouw", R"(
+    = ManLabel "Man"
+    = VrouwLabel "Vrouw"
+    = AchterNmVrouw ""
   )");
 }
 
@@ -247,6 +278,22 @@ TEST_F(WijzigRelatieTest, CodesEnPlaatsenKrijgenHunNaam) {
   )");
 }
 
+TEST_F(WijzigRelatieTest, GeenVeldNeemtMeerDanHetRecordHeeft) {
+  constexpr std::pair<std::string_view, std::size_t> kBreedten[] = {
+      {"RecordNrMan", 5U},  {"VoorNmMan", 30U}, {"AchterNmVrouw", 25U},
+      {"OtrDatum", 10U},    {"OtrPltsNm", 25U}, {"HuwCorr", 1U},
+      {"HuwSoortCode", 2U}, {"WHuwPltsNr", 5U}, {"ReligieCode", 2U},
+  };
+  Stil([&](Hoofdmodule& hoofd) {
+    WijzigRelatie form(hoofd);
+    for (const auto& [naam, breedte] : kBreedten) {
+      const auto* const veld = dynamic_cast<const Invoerveld*>(form.Zoek(naam));
+      ASSERT_NE(veld, nullptr) << naam;
+      EXPECT_EQ(veld->MaxLengte(), breedte) << naam;
+    }
+  });
+}
+
 TEST_F(WijzigRelatieTest, TerugSchrijftNietsEnVergeetDeBuffers) {
   const auto voor = Bytes();
   Verwacht(
@@ -260,6 +307,7 @@ TEST_F(WijzigRelatieTest, TerugSchrijftNietsEnVergeetDeBuffers) {
       Omlijst(""));
   EXPECT_EQ(na_, 2);
   EXPECT_EQ(Bytes(), voor);
+  SpeeltGeheel(2, "toets F10", Omlijst(""));
 }
 
 }  // namespace

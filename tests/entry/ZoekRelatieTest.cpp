@@ -93,14 +93,14 @@ TEST_F(ZoekRelatieToets, EenRelatieVanHaarDieNietTeLezenIs) {
   ASSERT_TRUE(Werk().SchrijfHuwtab(2, haar));
   Antwoord(Antwoord::Nee);
   EXPECT_EQ(Werk().ZoekRelatie(0, 2), 0);
-  EXPECT_EQ(Boxen(), (R{"! uitroep \"Fout bij het lezen van Relatie 88\"", Vraag("Nee").front()}));
+  EXPECT_EQ(Boxen(), (R{"! stop \"Fout bij het lezen van Relatie 88\"", Vraag("Nee").front()}));
 }
 
 TEST_F(ZoekRelatieToets, EenVaderWiensVervolgNietTeLezenIs) {
   Personen(2);
   set_.bouw.WijzigPersoon(2, {{"Relatie3", "-50"}});
   EXPECT_EQ(Werk().ZoekRelatie(2, 3), 0);
-  EXPECT_EQ(Boxen(), R{"! uitroep \"Fout bij het lezen van Persoon 2\""});
+  EXPECT_EQ(Boxen(), R{"! stop \"Fout bij het lezen van Persoon 2\""});
 }
 
 TEST_F(ZoekRelatieToets, DeManHeeftErAlVijf) {
