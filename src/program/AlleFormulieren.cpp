@@ -11,7 +11,8 @@ std::vector<FormulierRij> Verzameld() {
   std::vector<FormulierRij> uit;
   for (std::span<const FormulierRij> (*gebied)() :
        {formulieren::App, formulieren::Exchange, formulieren::Output, formulieren::Entry,
-        formulieren::Ancestors, formulieren::Descendants, formulieren::Gezinsbladen}) {
+        formulieren::Ancestors, formulieren::Descendants, formulieren::Gezinsbladen,
+        formulieren::Rapporten}) {
     const std::span<const FormulierRij> rijen = gebied();
     uit.insert(uit.end(), rijen.begin(), rijen.end());
   }

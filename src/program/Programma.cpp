@@ -25,6 +25,8 @@
 #include "entry/ToonPlaatsen.h"
 #include "exchange/ImpGedcom.h"
 #include "output/BekijkTekst.h"
+#include "reports/Krtn.h"
+#include "reports/SchemaVerwantschap.h"
 
 namespace lb77 {
 
@@ -69,6 +71,9 @@ void Programma::HangOp() {
   menu_.Hang("TekstGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenTxtPrs, hoofd_); });
   menu_.Hang("IndexGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenIdxPrs, hoofd_); });
   menu_.Hang("SchemaGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenSchPrs, hoofd_); });
+  menu_.Hang("UitvPKaart", [this, &gesprek] { gesprek.Toon<Krtn>(kPrsKrtn, hoofd_); });
+  menu_.Hang("UitvRKaart", [this, &gesprek] { gesprek.Toon<Krtn>(kRelKrtn, hoofd_); });
+  menu_.Hang("SchemaVerwant", [this, &gesprek] { gesprek.Toon<SchemaVerwantschap>(hoofd_); });
   menu_.Hang("SchemaGezin", [this, &gesprek] { gesprek.Toon<GezinSchPrs>(hoofd_); });
   menu_.Hang("VeiligOngedaan", [this] { MaakLaatsteOngedaan(hoofd_.MaakOpslag()); });
   menu_.Hang("VeiligGeschiedenis", [this, &gesprek] { gesprek.Toon<Geschiedenis>(hoofd_); });

@@ -237,6 +237,27 @@ TEST_F(Programmaloop, VerslagenVanNakomelingenVragenOmEenPersoon) {
     )~");
 }
 
+TEST_F(Programmaloop, KaartenEnVerwantschapVragenOmNummers) {
+  MaakFamilie();
+  Verwacht(R"(
+      kies UitvPKaart
+      sluit
+      kies UitvRKaart
+      sluit
+      kies SchemaVerwant
+      sluit
+    )",
+           Sessie(), R"(
+      + MenuWindow "LB77 voor Windows"
+      + PrsKrtn "Persoonskaarten"
+      - PrsKrtn
+      + RelKrtn "Relatiekaarten"
+      - RelKrtn
+      + SchemaVerwantschap "Schema Verwantschap"
+      - SchemaVerwantschap
+    )");
+}
+
 TEST_F(Programmaloop, HetMenuVeiligheidToontZijnVensters) {
   MaakFamilie();
   Verwacht(R"(

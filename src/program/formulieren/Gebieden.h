@@ -17,6 +17,7 @@ namespace lb77::formulieren {
 [[nodiscard]] std::span<const FormulierRij> Ancestors();
 [[nodiscard]] std::span<const FormulierRij> Gezinsbladen();
 [[nodiscard]] std::span<const FormulierRij> Descendants();
+[[nodiscard]] std::span<const FormulierRij> Rapporten();
 
 inline constexpr std::int16_t kVoorbeeldPersoon = 2;
 

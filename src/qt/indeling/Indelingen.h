@@ -21,9 +21,12 @@ namespace lb77::indeling {
 [[nodiscard]] std::vector<Indeling> Genealogie();
 [[nodiscard]] std::vector<Indeling> Uitwisseling();
 [[nodiscard]] std::vector<Indeling> Veiligheid();
+[[nodiscard]] std::vector<Indeling> Rapporten();
 
 // What every form has that asks for a person.
 [[nodiscard]] Blok PersoonPrompt();
+// What every viewer of a text has.
+[[nodiscard]] Blok TekstVenster();
 // The links of a page, which all reports for the Internet ask.
 [[nodiscard]] Blok InternetOpties();
 
