@@ -18,6 +18,10 @@ int Genealogie(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Parenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int IndexParenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int SchemaParenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Verwantschap(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+// In Kaarten.cpp.
+int Personen(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Relaties(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 // In Veiligheid.cpp.
 int ToonGeschiedenis(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int MaakOngedaan(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
@@ -42,6 +46,9 @@ constexpr Opdracht kOpdrachten[] = {
     {"parenteel", "schrijft alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, Parenteel},
     {"index-parenteel", "schrijft de index op alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, IndexParenteel},
     {"schema-parenteel", "tekent alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, SchemaParenteel},
+    {"personen", "schrijft de kaarten van de personen VAN t/m TOT", {"SET", "VAN", "TOT"}, Extra::Tekstrapport, Personen},
+    {"relaties", "schrijft de kaarten van de relaties VAN t/m TOT", {"SET", "VAN", "TOT"}, Extra::Tekstrapport, Relaties},
+    {"verwantschap", "zoekt hoe twee personen verwant zijn", {"SET", "PERSOON1", "PERSOON2"}, Extra::Tekstrapport, Verwantschap},
     {"zoek", "zoekt personen op een deel van hun naam", {"SET", "NAAM"}, Extra::Geen, Zoek},
     {"geschiedenis", "toont de bewerkingen van een set, of wat nummer N wijzigde", {"SET", "[N]"}, Extra::Geen, ToonGeschiedenis},
     {"ongedaan", "maakt de laatste bewerking ongedaan, of alle t/m nummer N", {"SET", "[N]"}, Extra::Geen, MaakOngedaan, false, true},
