@@ -50,6 +50,10 @@ class Sessie {
   // Each writes its report, that of the ancestors with its index, from the prompt to the viewer.
   void Kwartierstaat(int persoon, unsigned keuzen);
   void Parenteel(int persoon, unsigned keuzen);
+  // Searches the kinship of two persons.
+  void Verwantschap(int een, int ander);
+  // Writes the cards of the persons and of the relations up to that number.
+  void Kaarten(int tot);
 
  private:
   // What the report does with its prompt, its options and its links.

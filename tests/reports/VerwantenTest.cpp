@@ -1,6 +1,8 @@
 // The search for kinship: whom it reaches, in which order, and by which chain.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <map>
 #include <vector>
 
 #include "reports/Verwanten.h"
@@ -127,6 +129,89 @@ TEST_F(VerwantenTest, SchadeHoudtHetZoekenNietOpEnEenKringEindigt) {
   bouw_.WijzigRelatie(kring, {{"Kind1", "2"}, {"VrouwNr", "1"}});
   Zoek(jan);
   EXPECT_EQ(Bereikt(), (Nrs{jan, els, kind}));
+}
+
+// Links without any order, as a set that is damaged all over has them, and what they come to.
+class Warboel {
+ public:
+  static constexpr int kPersonen = 40;
+  static constexpr int kRelaties = 25;
+
+  explicit Warboel(BouwFamilie& bouw) : bouw_(bouw) {
+    for (int n = 0; n < kPersonen; ++n) bouw.Man("A", "B");
+    for (int n = 0; n < kRelaties; ++n) bouw.Relatie(0, 0);
+    for (std::int16_t nr = 2; nr < kRelaties + 2; ++nr) {
+      relaties_[nr] = {Persoon(), Persoon(), Persoon(), Persoon()};
+      const Nrs& leden = relaties_[nr];
+      bouw_.WijzigRelatie(nr, {{"ManNr", GetalTekst(leden[0])},
+                               {"VrouwNr", GetalTekst(leden[1])},
+                               {"Kind1", GetalTekst(leden[2])},
+                               {"Kind4", GetalTekst(leden[3])}});
+    }
+    for (std::int16_t nr = 2; nr < kPersonen + 2; ++nr) MaakPersoon(nr);
+  }
+
+  // By person how many steps he is away; who can't be reached is absent.
+  [[nodiscard]] std::map<std::int16_t, std::size_t> Afstanden(std::int16_t begin) const {
+    std::map<std::int16_t, std::size_t> uit{{begin, 0}};
+    Nrs rij{begin};
+    for (std::size_t i = 0; i < rij.size(); ++i) {
+      for (const std::int16_t naast : naasten_.at(rij[i])) {
+        if (naast > 1 && uit.emplace(naast, uit.at(rij[i]) + 1).second) rij.push_back(naast);
+      }
+    }
+    return uit;
+  }
+
+ private:
+  using Nrs = std::vector<std::int16_t>;
+
+  void MaakPersoon(std::int16_t nr) {
+    const std::int16_t ouders = Relatie();
+    const std::int16_t een = Relatie();
+    const std::int16_t ander = Relatie();
+    bouw_.WijzigPersoon(nr, {{"Ouders", GetalTekst(ouders)},
+                             {"Relatie1", GetalTekst(een)},
+                             {"Relatie2", GetalTekst(ander)}});
+    Nrs& naasten = naasten_[nr];
+    if (ouders > 0) naasten = {relaties_[ouders][0], relaties_[ouders][1]};
+    for (const std::int16_t relNr : {een, ander}) {
+      if (relNr == 0) continue;
+      const Nrs& leden = relaties_[relNr];
+      naasten.push_back(leden[0] == nr ? leden[1] : leden[0]);
+      naasten.insert(naasten.end(), {leden[2], leden[3]});
+    }
+  }
+  int Onder(int grens) {
+    stand_ = stand_ * 1103515245U + 12345U;
+    return static_cast<int>((stand_ >> 16U) % static_cast<unsigned>(grens));
+  }
+  // Nobody, the admin record, or somebody.
+  std::int16_t Persoon() { return static_cast<std::int16_t>(Onder(kPersonen + 2)); }
+  std::int16_t Relatie() {
+    const int nr = Onder(2 * kRelaties);
+    return static_cast<std::int16_t>(nr < kRelaties ? nr + 2 : 0);
+  }
+
+  BouwFamilie& bouw_;
+  std::map<std::int16_t, Nrs> relaties_;
+  std::map<std::int16_t, Nrs> naasten_;
+  unsigned stand_ = 77;
+};
+
+TEST_F(VerwantenTest, InEenWarboelIsElkeKetenDeKortste) {
+  const Warboel warboel(bouw_);
+  std::size_t langste = 0;
+  for (std::int16_t begin = 2; begin < Warboel::kPersonen + 2; ++begin) {
+    const auto afstanden = warboel.Afstanden(begin);
+    Zoek(begin);
+    EXPECT_EQ(rij_.Aantal(), afstanden.size()) << begin;
+    for (const auto& [nr, afstand] : afstanden) {
+      EXPECT_EQ(Keten(nr).size(), afstand + 1) << begin << " " << nr;
+      langste = std::max(langste, afstand);
+    }
+  }
+  EXPECT_GT(langste, 4U);
 }
 
 TEST_F(VerwantenTest, EenOnleesbarePersoonEindigtHetZoeken) {
