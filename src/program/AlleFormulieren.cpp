@@ -12,7 +12,7 @@ std::vector<FormulierRij> Verzameld() {
   for (std::span<const FormulierRij> (*gebied)() :
        {formulieren::App, formulieren::Exchange, formulieren::Output, formulieren::Entry,
         formulieren::Ancestors, formulieren::Descendants, formulieren::Gezinsbladen,
-        formulieren::Rapporten}) {
+        formulieren::Rapporten, formulieren::Lijsten}) {
     const std::span<const FormulierRij> rijen = gebied();
     uit.insert(uit.end(), rijen.begin(), rijen.end());
   }

@@ -26,7 +26,14 @@
 #include "exchange/ImpGedcom.h"
 #include "output/BekijkTekst.h"
 #include "reports/Krtn.h"
+#include "reports/RptFamilies.h"
+#include "reports/RptTakken.h"
+#include "reports/RptTijdbalk.h"
 #include "reports/SchemaVerwantschap.h"
+#include "reports/SelectOpm.h"
+#include "reports/SelectPlts.h"
+#include "reports/SelectPrs.h"
+#include "reports/SelectRel.h"
 
 namespace lb77 {
 
@@ -75,12 +82,24 @@ void Programma::HangOp() {
   menu_.Hang("UitvRKaart", [this, &gesprek] { gesprek.Toon<Krtn>(kRelKrtn, hoofd_); });
   menu_.Hang("SchemaVerwant", [this, &gesprek] { gesprek.Toon<SchemaVerwantschap>(hoofd_); });
   menu_.Hang("SchemaGezin", [this, &gesprek] { gesprek.Toon<GezinSchPrs>(hoofd_); });
+  HangRapportenOp();
   menu_.Hang("VeiligOngedaan", [this] { MaakLaatsteOngedaan(hoofd_.MaakOpslag()); });
   menu_.Hang("VeiligGeschiedenis", [this, &gesprek] { gesprek.Toon<Geschiedenis>(hoofd_); });
   menu_.Hang("VeiligKopie", [this, &gesprek] { MaakVeiligheidskopie(KopieVan(hoofd_), gesprek); });
   menu_.Hang("VeiligTerugzetten", [this, &gesprek] { gesprek.Toon<KopieTerugzetten>(hoofd_); });
   menu_.Hang("VeiligPlaats", [this, &gesprek] { gesprek.Toon<KopiePlaats>(hoofd_); });
   menu_.Hang("AboutLB77", [&gesprek] { gesprek.Toon<OverLB77Form>(); });
+}
+
+void Programma::HangRapportenOp() {
+  Gesprek& gesprek = hoofd_.gesprek;
+  menu_.Hang("RptSelPrs", [this, &gesprek] { gesprek.Toon<SelectPrs>(hoofd_); });
+  menu_.Hang("RptSelRel", [this, &gesprek] { gesprek.Toon<SelectRel>(hoofd_); });
+  menu_.Hang("RptSelPlts", [this, &gesprek] { gesprek.Toon<SelectPlts>(hoofd_); });
+  menu_.Hang("RptSelOpm", [this, &gesprek] { gesprek.Toon<SelectOpm>(hoofd_); });
+  menu_.Hang("RapportTakken", [this, &gesprek] { gesprek.Toon<RptTakken>(hoofd_); });
+  menu_.Hang("RapportFamilies", [this, &gesprek] { gesprek.Toon<RptFamilies>(hoofd_); });
+  menu_.Hang("RapportTijdbalk", [this, &gesprek] { gesprek.Toon<RptTijdbalk>(hoofd_); });
 }
 
 void VoerProgramma(Gesprek& gesprek, const Klok& klok, const std::filesystem::path& programmaMap) {

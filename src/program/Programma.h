@@ -26,6 +26,7 @@ class Programma {
 
  private:
   void HangOp();
+  void HangRapportenOp();
 
   Hoofdmodule hoofd_;
   MenuWindow menu_;

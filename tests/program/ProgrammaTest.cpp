@@ -258,6 +258,43 @@ TEST_F(Programmaloop, KaartenEnVerwantschapVragenOmNummers) {
     )");
 }
 
+TEST_F(Programmaloop, ElkeLijstHeeftZijnKeuze) {
+  MaakFamilie();
+  Verwacht(R"(
+      kies RptSelPrs
+      sluit
+      kies RptSelRel
+      sluit
+      kies RptSelPlts
+      sluit
+      kies RptSelOpm
+      sluit
+      kies RapportTakken
+      sluit
+      kies RapportFamilies
+      sluit
+      kies RapportTijdbalk
+      sluit
+    )",
+           Sessie(), R"(
+      + MenuWindow "LB77 voor Windows"
+      + SelectPrs "Selecteer Personen"
+      - SelectPrs
+      + SelectRel "Selecteer Relaties"
+      - SelectRel
+      + SelectPlts "Selecteer Plaatsen"
+      - SelectPlts
+      + SelectOpm "Selecteer Opmerkingen"
+      - SelectOpm
+      + RptTakken "Rapport Takkenverdeling"
+      - RptTakken
+      + RptFamilies "Rapport Verdeling Familienamen"
+      - RptFamilies
+      + RptTijdbalk "Rapport Populatiegrafiek"
+      - RptTijdbalk
+    )");
+}
+
 TEST_F(Programmaloop, HetMenuVeiligheidToontZijnVensters) {
   MaakFamilie();
   Verwacht(R"(

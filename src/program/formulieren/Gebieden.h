@@ -18,6 +18,7 @@ namespace lb77::formulieren {
 [[nodiscard]] std::span<const FormulierRij> Gezinsbladen();
 [[nodiscard]] std::span<const FormulierRij> Descendants();
 [[nodiscard]] std::span<const FormulierRij> Rapporten();
+[[nodiscard]] std::span<const FormulierRij> Lijsten();
 
 inline constexpr std::int16_t kVoorbeeldPersoon = 2;
 

@@ -9,7 +9,7 @@ std::vector<Indeling> Alle() {
   std::vector<Indeling> uit;
   for (std::vector<Indeling> (*gebied)() :
        {Sets, Instellen, Zoeken, Kaarten, Plaatsen, Wijzigen, Koppelen, Opmerkingen, Bekijken,
-        Kwartierstaat, Genealogie, Gezinsblad, Uitwisseling, Veiligheid, Rapporten}) {
+        Kwartierstaat, Genealogie, Gezinsblad, Uitwisseling, Veiligheid, Rapporten, Lijsten}) {
     std::vector<Indeling> deel = gebied();
     uit.insert(uit.end(), std::make_move_iterator(deel.begin()),
                std::make_move_iterator(deel.end()));

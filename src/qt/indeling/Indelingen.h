@@ -22,6 +22,7 @@ namespace lb77::indeling {
 [[nodiscard]] std::vector<Indeling> Uitwisseling();
 [[nodiscard]] std::vector<Indeling> Veiligheid();
 [[nodiscard]] std::vector<Indeling> Rapporten();
+[[nodiscard]] std::vector<Indeling> Lijsten();
 
 // What every form has that asks for a person.
 [[nodiscard]] Blok PersoonPrompt();
