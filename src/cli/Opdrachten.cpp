@@ -7,6 +7,9 @@ int Sets(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Nieuw(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Importeer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Bladen(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+// In Lijsten.cpp.
+int Selectie(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Statistiek(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Zoek(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 // In Kwartierstaat.cpp.
 int Kwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
@@ -49,6 +52,8 @@ constexpr Opdracht kOpdrachten[] = {
     {"personen", "schrijft de kaarten van de personen VAN t/m TOT", {"SET", "VAN", "TOT"}, Extra::Tekstrapport, Personen},
     {"relaties", "schrijft de kaarten van de relaties VAN t/m TOT", {"SET", "VAN", "TOT"}, Extra::Tekstrapport, Relaties},
     {"verwantschap", "zoekt hoe twee personen verwant zijn", {"SET", "PERSOON1", "PERSOON2"}, Extra::Tekstrapport, Verwantschap},
+    {"selectie", "zoekt wat aan de keuzes van --zet voldoet: personen, relaties, plaatsen of opmerkingen", {"SET", "SOORT"}, Extra::Tekstrapport, Selectie},
+    {"statistiek", "telt takken, families of een tijdbalk", {"SET", "SOORT"}, Extra::Tekstrapport, Statistiek},
     {"zoek", "zoekt personen op een deel van hun naam", {"SET", "NAAM"}, Extra::Geen, Zoek},
     {"geschiedenis", "toont de bewerkingen van een set, of wat nummer N wijzigde", {"SET", "[N]"}, Extra::Geen, ToonGeschiedenis},
     {"ongedaan", "maakt de laatste bewerking ongedaan, of alle t/m nummer N", {"SET", "[N]"}, Extra::Geen, MaakOngedaan, false, true},

@@ -39,6 +39,7 @@ class Maker {
     for (const RapportVorm& vorm : rapport_.vormen) {
       if (vorm.formulier.empty()) break;
       sessie_.bediener.Bij(vorm.formulier, [this, &vorm](Formulier& form) { VulIn(vorm, form); });
+      if (vorm.antwoord) sessie_.bediener.HoudKlaar(vorm.formulier, *vorm.antwoord);
     }
     for (const std::string_view venster : {"ToonTekst", "VerwantRapport"}) {
       sessie_.bediener.Bij(venster, [this](Formulier& form) { NeemVerslag(form); });
