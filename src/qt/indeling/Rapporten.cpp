@@ -7,7 +7,7 @@ std::vector<Indeling> Rapporten() {
   return {
       {"PrsKrtn", Kolom({
                       "VraagLabel",
-                      Velden({
+                      Rooster({
                           Rij({"RecordNrPers(0)", "ZoekPersButton(0)", "Naam(0)", "Periode(0)"}),
                           Rij({"RecordNrPers(1)", "ZoekPersButton(1)", "Naam(1)", "Periode(1)"}),
                       }),
@@ -15,7 +15,7 @@ std::vector<Indeling> Rapporten() {
                   })},
       {"RelKrtn", Kolom({
                       "VraagLabel",
-                      Velden({
+                      Rooster({
                           Rij({"RecordNrRel(0)", "Man(0)", "Vrouw(0)"}),
                           Rij({"RecordNrRel(1)", "Man(1)", "Vrouw(1)"}),
                       }),
