@@ -38,6 +38,16 @@ void Meetset::Rapport(std::string_view opdracht, int persoon, const std::filesys
   Doe(opdracht, argumenten);
 }
 
+void Meetset::Rapport(std::string_view opdracht, const std::vector<std::string>& woorden,
+                      const std::filesystem::path& naar, const std::vector<std::string>& zet) {
+  OpdrachtArgumenten argumenten;
+  argumenten.woorden = {kSet};
+  argumenten.woorden.insert(argumenten.woorden.end(), woorden.begin(), woorden.end());
+  argumenten.naar = naar;
+  argumenten.zet = zet;
+  Doe(opdracht, argumenten);
+}
+
 SetPaden Meetset::Paden() const {
   return SetPaden::Van(map_ / "DATA", kSet);
 }

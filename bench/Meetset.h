@@ -25,6 +25,9 @@ class Meetset {
   // Writes a report on a person by its command to `naar`; `zet` are choices of its dialog.
   void Rapport(std::string_view opdracht, int persoon, const std::filesystem::path& naar,
                const std::vector<std::string>& zet = {});
+  // The same by a command with other words behind the set.
+  void Rapport(std::string_view opdracht, const std::vector<std::string>& woorden,
+               const std::filesystem::path& naar, const std::vector<std::string>& zet = {});
 
   // Where its files lie.
   [[nodiscard]] SetPaden Paden() const;

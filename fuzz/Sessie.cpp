@@ -8,6 +8,8 @@
 #include "cli/Werk.h"
 #include "descendants/GenPrs.h"
 #include "exchange/ImpGedcom.h"
+#include "reports/Krtn.h"
+#include "reports/SchemaVerwantschap.h"
 #include "steun/FaalBestand.h"
 #include "text/Getallen.h"
 
@@ -153,6 +155,31 @@ void Sessie::Parenteel(int persoon, unsigned keuzen) {
     });
     GenPrs formulier(soort.prompt, hoofd);
     hoofd.gesprek.ToonModaal(formulier);
+  }
+}
+
+void Sessie::Verwantschap(int een, int ander) {
+  bediener_.Bij("SchemaVerwantschap", [&](Formulier& formulier) {
+    Werk werk(bediener_, formulier);
+    if (werk.Zet("PersNr(0)", GetalTekst(een)) && werk.Zet("PersNr(1)", GetalTekst(ander))) {
+      werk.Druk("OKButton");
+    }
+  });
+  hoofd.gesprek.Toon<SchemaVerwantschap>(hoofd);
+}
+
+void Sessie::Kaarten(int tot) {
+  struct Soort {
+    const KrtnSoort& soort;
+    std::string_view tot;
+  };
+  for (const Soort& kaart :
+       {Soort{kPrsKrtn, "RecordNrPers(1)"}, Soort{kRelKrtn, "RecordNrRel(1)"}}) {
+    bediener_.Bij(kaart.soort.naam, [&](Formulier& formulier) {
+      Werk werk(bediener_, formulier);
+      if (werk.Zet(kaart.tot, GetalTekst(tot))) werk.Druk("OKButton");
+    });
+    hoofd.gesprek.Toon<Krtn>(kaart.soort, hoofd);
   }
 }
 

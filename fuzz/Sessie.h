@@ -53,6 +53,10 @@ class Sessie {
   // Draws the chart of one, and prints some of its sheets.
   void Kwartierbladen(int persoon, unsigned keuzen);
   void Parenteel(int persoon, unsigned keuzen);
+  // Searches the kinship of two persons.
+  void Verwantschap(int een, int ander);
+  // Writes the cards of the persons and of the relations up to that number.
+  void Kaarten(int tot);
 
  private:
   using Keuzen = std::vector<std::pair<std::string_view, std::string_view>>;

@@ -7,6 +7,9 @@ int Sets(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Nieuw(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Importeer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Bladen(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+// In Lijsten.cpp.
+int Selectie(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Statistiek(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Zoek(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 // In Kwartierstaat.cpp.
 int Kwartierstaat(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
@@ -19,6 +22,10 @@ int Parenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int IndexParenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int SchemaParenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Controle(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Verwantschap(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+// In Kaarten.cpp.
+int Personen(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Relaties(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 // In Veiligheid.cpp.
 int ToonGeschiedenis(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int MaakOngedaan(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
@@ -44,6 +51,11 @@ constexpr Opdracht kOpdrachten[] = {
     {"index-parenteel", "schrijft de index op alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, IndexParenteel},
     {"schema-parenteel", "tekent alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, SchemaParenteel},
     {"controle", "zoekt fouten in de personen, relaties, plaatsen of opmerkingen, of in alle vier", {"SET", "[SOORT]"}, Extra::Controle, Controle},
+    {"personen", "schrijft de kaarten van de personen VAN t/m TOT", {"SET", "VAN", "TOT"}, Extra::Tekstrapport, Personen},
+    {"relaties", "schrijft de kaarten van de relaties VAN t/m TOT", {"SET", "VAN", "TOT"}, Extra::Tekstrapport, Relaties},
+    {"verwantschap", "zoekt hoe twee personen verwant zijn", {"SET", "PERSOON1", "PERSOON2"}, Extra::Tekstrapport, Verwantschap},
+    {"selectie", "zoekt wat aan de keuzes van --zet voldoet: personen, relaties, plaatsen of opmerkingen", {"SET", "SOORT"}, Extra::Tekstrapport, Selectie},
+    {"statistiek", "telt takken, families of een tijdbalk", {"SET", "SOORT"}, Extra::Tekstrapport, Statistiek},
     {"zoek", "zoekt personen op een deel van hun naam", {"SET", "NAAM"}, Extra::Geen, Zoek},
     {"geschiedenis", "toont de bewerkingen van een set, of wat nummer N wijzigde", {"SET", "[N]"}, Extra::Geen, ToonGeschiedenis},
     {"ongedaan", "maakt de laatste bewerking ongedaan, of alle t/m nummer N", {"SET", "[N]"}, Extra::Geen, MaakOngedaan, false, true},

@@ -14,6 +14,7 @@
 #include "output/Tekstpaginas.h"
 #include "output/ToonTekst.h"
 #include "reporting/HTMLParam.h"
+#include "reports/VerwantRapport.h"
 #include "text/Getallen.h"
 #include "text/Pad.h"
 #include "text/Tekens.h"
@@ -38,8 +39,11 @@ class Maker {
     for (const RapportVorm& vorm : rapport_.vormen) {
       if (vorm.formulier.empty()) break;
       sessie_.bediener.Bij(vorm.formulier, [this, &vorm](Formulier& form) { VulIn(vorm, form); });
+      if (vorm.antwoord) sessie_.bediener.HoudKlaar(vorm.formulier, *vorm.antwoord);
     }
-    sessie_.bediener.Bij("ToonTekst", [this](Formulier& form) { NeemVerslag(form); });
+    for (const std::string_view venster : {"ToonTekst", "VerwantRapport"}) {
+      sessie_.bediener.Bij(venster, [this](Formulier& form) { NeemVerslag(form); });
+    }
     if (rapport_.wandeling.loop) BereidWandelingVoor();
     return sessie_.Voer(argumenten_.woorden[0], Omgang::Lezen,
                         [this](Werk& menu) { InMenu(menu); });
@@ -131,9 +135,11 @@ bool Maker::VulLinks(Werk& werk, const Formulier& form) {
 }
 
 void Maker::NeemVerslag(Formulier& form) {
-  const auto* toon = dynamic_cast<ToonTekst*>(&form);
-  if (!toon) return;
-  Lever(toon->UitvoerPad());
+  if (const auto* toon = dynamic_cast<ToonTekst*>(&form)) {
+    Lever(toon->UitvoerPad());
+  } else if (dynamic_cast<VerwantRapport*>(&form)) {
+    Lever(VerwantBestandenVan(sessie_.Hoofd()).verslag);
+  }
 }
 
 void Maker::BereidWandelingVoor() {

@@ -2,12 +2,10 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 
 #include "app/InvoerFormulier.h"
-#include "entry/InvoerVak.h"
+#include "entry/PlaatsZoekVak.h"
 #include "forms/Keuzen.h"
-#include "forms/Weergave.h"
 
 namespace lb77 {
 
@@ -16,9 +14,7 @@ class VraagPlaatsnm final : public InvoerFormulier {
  public:
   explicit VraagPlaatsnm(Hoofdmodule& hoofd);
 
-  InvoerVak PlaatsnaamTekst;
-  Teller PlaatsnrTekst{*this, "PlaatsnrTekst", "Plaatscode:"};
-  Teller ProvcodeTekst{*this, "ProvcodeTekst", "Provinciecode:"};
+  PlaatsZoekVak Plaats{*this, {"PlaatsnaamTekst", "PlaatsnrTekst", "ProvcodeTekst"}};
   Knop OKButton{*this, "OKButton", "&OK"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 
@@ -26,11 +22,8 @@ class VraagPlaatsnm final : public InvoerFormulier {
   [[nodiscard]] std::int16_t Nr() const { return nr_; }
 
  private:
-  [[nodiscard]] bool PlaatsnaamTekstVerlaten();
   void OKButtonKlik();
 
-  std::int16_t gevonden_ = 0;
-  std::string gezocht_;
   std::int16_t nr_ = 0;
 };
 

@@ -38,6 +38,12 @@ std::string MetFout(std::string_view tekst, const SysteemFout& fout) {
   return std::string(tekst) + "\n" + fout.tekst;
 }
 
+bool LeesPagina(Tekstpaginas& paginas, int kolom, int rij, std::vector<std::string>& regels) {
+  if (!paginas.Lees(kolom, rij, regels)) return false;
+  if (paginas.Leeg()) regels = {"<< Het bestand is leeg >>"};
+  return true;
+}
+
 }  // namespace
 
 TekstVenster::TekstVenster(Hoofdmodule& hoofd, std::string_view naam, std::string_view titel)
@@ -57,6 +63,7 @@ TekstVenster::TekstVenster(Hoofdmodule& hoofd, std::string_view naam, std::strin
 
 void TekstVenster::Toon(const std::filesystem::path& pad, bool HTMLUitvoer) {
   HTMLUitvoer_ = HTMLUitvoer;
+  uitvoer_.reset();
   kolom_ = rij_ = 1;
   const bool leesbaar = paginas_.Open(pad);
   PrintButton.Elk([leesbaar](int, Knop& knop) { knop.ZetIngeschakeld(leesbaar); });
@@ -66,15 +73,15 @@ void TekstVenster::Toon(const std::filesystem::path& pad, bool HTMLUitvoer) {
   ZetEersteVeld(omlaag.Ingeschakeld() ? omlaag : BackButton);
 }
 
-bool TekstVenster::LeesPagina(int kolom, int rij, std::vector<std::string>& regels) {
-  if (!paginas_.Lees(kolom, rij, regels)) return false;
-  if (paginas_.Leeg()) regels = {"<< Het bestand is leeg >>"};
-  return true;
+void TekstVenster::Toon(const std::filesystem::path& pad, const std::filesystem::path& uitvoer) {
+  Toon(pad, false);
+  // What can't be read is told when it is printed or saved.
+  static_cast<void>(uitvoer_.emplace().Open(uitvoer));
 }
 
 void TekstVenster::ToonPagina() {
   std::vector<std::string> regels;
-  if (LeesPagina(kolom_, rij_, regels)) {
+  if (LeesPagina(paginas_, kolom_, rij_, regels)) {
     UitvoerBox.ZetRegels(std::move(regels));
   } else {
     UitvoerBox.ZetRegels({"Fout: " + paginas_.Fout().tekst});
@@ -133,8 +140,8 @@ void TekstVenster::DrukPaginaAf() {
 
 void TekstVenster::DrukAllesAf() {
   Afdruk afdruk{Titel(), {}};
-  for (int rij = 1; rij <= paginas_.Rijen(); ++rij) {
-    for (int kolom = 1; kolom <= paginas_.Kolommen(); ++kolom) {
+  for (int rij = 1; rij <= Uitvoer().Rijen(); ++rij) {
+    for (int kolom = 1; kolom <= Uitvoer().Kolommen(); ++kolom) {
       if (!VoegPaginaToe(afdruk, kolom, rij)) return;
     }
   }
@@ -143,8 +150,8 @@ void TekstVenster::DrukAllesAf() {
 
 // False after a message.
 bool TekstVenster::VoegPaginaToe(Afdruk& afdruk, int kolom, int rij) {
-  if (LeesPagina(kolom, rij, afdruk.paginas.emplace_back())) return true;
-  hoofd_.gesprek.Fout(MetFout(kPrintFout, paginas_.Fout()));
+  if (LeesPagina(Uitvoer(), kolom, rij, afdruk.paginas.emplace_back())) return true;
+  hoofd_.gesprek.Fout(MetFout(kPrintFout, Uitvoer().Fout()));
   return false;
 }
 
@@ -159,7 +166,7 @@ void TekstVenster::SaveButtonKlik() {
   const auto pad = hoofd_.gesprek.VraagBestand(
       {BestandsWijze::Opslaan, std::string(filter), hoofd_.Ini.TekstDir()});
   if (!pad) return;
-  const SysteemFout fout = KopieerTekst(paginas_.Pad(), *pad);
+  const SysteemFout fout = KopieerTekst(Uitvoer().Pad(), *pad);
   if (fout) {
     hoofd_.gesprek.Fout(MetFout(kOpslaanFout, fout));
   } else {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -34,6 +35,8 @@ class TekstVenster : public Formulier {
 
   // Opens the file and shows its first page, or why it can't be read.
   void Toon(const std::filesystem::path& pad, bool HTMLUitvoer);
+  // The same for a text of which PrintButton and SaveButton handle another file.
+  void Toon(const std::filesystem::path& pad, const std::filesystem::path& uitvoer);
 
   void BijToets(ToetsGebeurtenis& toets) override;
 
@@ -45,13 +48,14 @@ class TekstVenster : public Formulier {
   void SaveButtonKlik();
   void Ga(int kolommen, int rijen);
   void ToonPagina();
-  [[nodiscard]] bool LeesPagina(int kolom, int rij, std::vector<std::string>& regels);
+  [[nodiscard]] Tekstpaginas& Uitvoer() { return uitvoer_ ? *uitvoer_ : paginas_; }
   void DrukPaginaAf();
   void DrukAllesAf();
   [[nodiscard]] bool VoegPaginaToe(Afdruk& afdruk, int kolom, int rij);
   void DrukAf(const Afdruk& afdruk);
 
   Tekstpaginas paginas_;
+  std::optional<Tekstpaginas> uitvoer_;  // what is printed and saved, when it is not what is shown
   bool HTMLUitvoer_ = false;
   int kolom_ = 1;
   int rij_ = 1;

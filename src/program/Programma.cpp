@@ -30,6 +30,15 @@
 #include "entry/ToonPlaatsen.h"
 #include "exchange/ImpGedcom.h"
 #include "output/BekijkTekst.h"
+#include "reports/Krtn.h"
+#include "reports/RptFamilies.h"
+#include "reports/RptTakken.h"
+#include "reports/RptTijdbalk.h"
+#include "reports/SchemaVerwantschap.h"
+#include "reports/SelectOpm.h"
+#include "reports/SelectPlts.h"
+#include "reports/SelectPrs.h"
+#include "reports/SelectRel.h"
 
 namespace lb77 {
 
@@ -74,7 +83,22 @@ void Programma::HangOp() {
   menu_.Hang("TekstGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenTxtPrs, hoofd_); });
   menu_.Hang("IndexGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenIdxPrs, hoofd_); });
   menu_.Hang("SchemaGen", [this, &gesprek] { gesprek.Toon<GenPrs>(kGenSchPrs, hoofd_); });
+  menu_.Hang("UitvPKaart", [this, &gesprek] { gesprek.Toon<Krtn>(kPrsKrtn, hoofd_); });
+  menu_.Hang("UitvRKaart", [this, &gesprek] { gesprek.Toon<Krtn>(kRelKrtn, hoofd_); });
+  menu_.Hang("SchemaVerwant", [this, &gesprek] { gesprek.Toon<SchemaVerwantschap>(hoofd_); });
   menu_.Hang("SchemaGezin", [this, &gesprek] { gesprek.Toon<GezinSchPrs>(hoofd_); });
+  HangControlesOp();
+  HangRapportenOp();
+  menu_.Hang("VeiligOngedaan", [this] { MaakLaatsteOngedaan(hoofd_.MaakOpslag()); });
+  menu_.Hang("VeiligGeschiedenis", [this, &gesprek] { gesprek.Toon<Geschiedenis>(hoofd_); });
+  menu_.Hang("VeiligKopie", [this, &gesprek] { MaakVeiligheidskopie(KopieVan(hoofd_), gesprek); });
+  menu_.Hang("VeiligTerugzetten", [this, &gesprek] { gesprek.Toon<KopieTerugzetten>(hoofd_); });
+  menu_.Hang("VeiligPlaats", [this, &gesprek] { gesprek.Toon<KopiePlaats>(hoofd_); });
+  menu_.Hang("AboutLB77", [&gesprek] { gesprek.Toon<OverLB77Form>(); });
+}
+
+void Programma::HangControlesOp() {
+  Gesprek& gesprek = hoofd_.gesprek;
   menu_.Hang("ContrPrs", [this, &gesprek] { gesprek.Toon<ControleForm>(kControlePrs, hoofd_); });
   menu_.Hang("ContrRel", [this, &gesprek] { gesprek.Toon<ControleForm>(kControleRel, hoofd_); });
   menu_.Hang("ContrPlts", [this, &gesprek] { gesprek.Toon<ControleForm>(kControlePlts, hoofd_); });
@@ -91,12 +115,17 @@ void Programma::HangOp() {
   menu_.Hang("VerwijsPlaats", [this, &gesprek] { gesprek.Toon<CorrPltsAlg>(hoofd_); });
   menu_.Hang("VerwijsPersVervolg", [this] { Corrigeer(hoofd_, kVraagPersVervolg); });
   menu_.Hang("VerwijsRelVervolg", [this] { Corrigeer(hoofd_, kVraagRelVervolg); });
-  menu_.Hang("VeiligOngedaan", [this] { MaakLaatsteOngedaan(hoofd_.MaakOpslag()); });
-  menu_.Hang("VeiligGeschiedenis", [this, &gesprek] { gesprek.Toon<Geschiedenis>(hoofd_); });
-  menu_.Hang("VeiligKopie", [this, &gesprek] { MaakVeiligheidskopie(KopieVan(hoofd_), gesprek); });
-  menu_.Hang("VeiligTerugzetten", [this, &gesprek] { gesprek.Toon<KopieTerugzetten>(hoofd_); });
-  menu_.Hang("VeiligPlaats", [this, &gesprek] { gesprek.Toon<KopiePlaats>(hoofd_); });
-  menu_.Hang("AboutLB77", [&gesprek] { gesprek.Toon<OverLB77Form>(); });
+}
+
+void Programma::HangRapportenOp() {
+  Gesprek& gesprek = hoofd_.gesprek;
+  menu_.Hang("RptSelPrs", [this, &gesprek] { gesprek.Toon<SelectPrs>(hoofd_); });
+  menu_.Hang("RptSelRel", [this, &gesprek] { gesprek.Toon<SelectRel>(hoofd_); });
+  menu_.Hang("RptSelPlts", [this, &gesprek] { gesprek.Toon<SelectPlts>(hoofd_); });
+  menu_.Hang("RptSelOpm", [this, &gesprek] { gesprek.Toon<SelectOpm>(hoofd_); });
+  menu_.Hang("RapportTakken", [this, &gesprek] { gesprek.Toon<RptTakken>(hoofd_); });
+  menu_.Hang("RapportFamilies", [this, &gesprek] { gesprek.Toon<RptFamilies>(hoofd_); });
+  menu_.Hang("RapportTijdbalk", [this, &gesprek] { gesprek.Toon<RptTijdbalk>(hoofd_); });
 }
 
 void VoerProgramma(Gesprek& gesprek, const Klok& klok, const std::filesystem::path& programmaMap) {

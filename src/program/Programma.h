@@ -26,6 +26,8 @@ class Programma {
 
  private:
   void HangOp();
+  void HangControlesOp();
+  void HangRapportenOp();
 
   Hoofdmodule hoofd_;
   MenuWindow menu_;

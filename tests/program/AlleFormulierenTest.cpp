@@ -19,6 +19,11 @@ static void PrintTo(const FormulierRij& rij, std::ostream* uit) {
 
 namespace {
 
+// Captions that each row of a form has.
+bool MagDubbel(const std::string& bijschrift) {
+  return bijschrift == "&Zoek Persoon";
+}
+
 class ElkFormulier : public ProgrammaToets, public ::testing::WithParamInterface<FormulierRij> {
  protected:
   // What is done with a loaded form; `bestand` answers the question of a form that asks for one.
@@ -64,7 +69,7 @@ TEST_P(ElkFormulier, HeeftElkeSneltoetsEenKeer) {
     std::set<char> letters;
     for (const Bediening* bediening : formulier.Bedieningen()) {
       const char letter = Sneltoets(bediening->Bijschrift());
-      if (letter != 0 && bediening->Zichtbaar()) {
+      if (letter != 0 && bediening->Zichtbaar() && !MagDubbel(bediening->Bijschrift())) {
         EXPECT_TRUE(letters.insert(letter).second) << bediening->Naam();
       }
     }

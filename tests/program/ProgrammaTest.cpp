@@ -262,6 +262,64 @@ TEST_F(Programmaloop, HetMenuControleOpentElkeControle) {
     )~");
 }
 
+TEST_F(Programmaloop, KaartenEnVerwantschapVragenOmNummers) {
+  MaakFamilie();
+  Verwacht(R"(
+      kies UitvPKaart
+      sluit
+      kies UitvRKaart
+      sluit
+      kies SchemaVerwant
+      sluit
+    )",
+           Sessie(), R"(
+      + MenuWindow "LB77 voor Windows"
+      + PrsKrtn "Persoonskaarten"
+      - PrsKrtn
+      + RelKrtn "Relatiekaarten"
+      - RelKrtn
+      + SchemaVerwantschap "Schema Verwantschap"
+      - SchemaVerwantschap
+    )");
+}
+
+TEST_F(Programmaloop, ElkeLijstHeeftZijnKeuze) {
+  MaakFamilie();
+  Verwacht(R"(
+      kies RptSelPrs
+      sluit
+      kies RptSelRel
+      sluit
+      kies RptSelPlts
+      sluit
+      kies RptSelOpm
+      sluit
+      kies RapportTakken
+      sluit
+      kies RapportFamilies
+      sluit
+      kies RapportTijdbalk
+      sluit
+    )",
+           Sessie(), R"(
+      + MenuWindow "LB77 voor Windows"
+      + SelectPrs "Selecteer Personen"
+      - SelectPrs
+      + SelectRel "Selecteer Relaties"
+      - SelectRel
+      + SelectPlts "Selecteer Plaatsen"
+      - SelectPlts
+      + SelectOpm "Selecteer Opmerkingen"
+      - SelectOpm
+      + RptTakken "Rapport Takkenverdeling"
+      - RptTakken
+      + RptFamilies "Rapport Verdeling Familienamen"
+      - RptFamilies
+      + RptTijdbalk "Rapport Populatiegrafiek"
+      - RptTijdbalk
+    )");
+}
+
 TEST_F(Programmaloop, HetMenuVeiligheidToontZijnVensters) {
   MaakFamilie();
   Verwacht(R"(

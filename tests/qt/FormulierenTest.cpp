@@ -68,6 +68,7 @@ class FormulierenTest : public Formulierproef, public testing::WithParamInterfac
 TEST_P(FormulierenTest, GaatOpenToontAllesLooptRondEnSluit) {
   GemaaktFormulier gemaakt = Maak();
   ASSERT_EQ(gemaakt.formulier->Naam(), GetParam().naam);
+  StaDubbelToe({"SchemaVerwantschap ZoekButton(0) ZoekButton(1)"});
   Beproef(*gemaakt.formulier);
 }
 

@@ -19,6 +19,8 @@ namespace lb77::formulieren {
 [[nodiscard]] std::span<const FormulierRij> Descendants();
 [[nodiscard]] std::span<const FormulierRij> Checks();
 [[nodiscard]] std::span<const FormulierRij> Correctie();
+[[nodiscard]] std::span<const FormulierRij> Rapporten();
+[[nodiscard]] std::span<const FormulierRij> Lijsten();
 
 inline constexpr std::int16_t kVoorbeeldPersoon = 2;
 

@@ -3,16 +3,12 @@
 
 namespace lb77::indeling {
 
-namespace {
-
 Blok TekstVenster() {
   return Kolom({
       "UitvoerBox",
       Knoppen({"MoveButton(*)", "XY_label"}, {"PrintButton(*)", "SaveButton", "BackButton"}),
   });
 }
-
-}  // namespace
 
 std::vector<Indeling> Bekijken() {
   return {{"ToonTekst", TekstVenster()}, {"BekijkTekst", TekstVenster()}};

@@ -24,9 +24,13 @@ namespace lb77::indeling {
 [[nodiscard]] std::vector<Indeling> Veiligheid();
 [[nodiscard]] std::vector<Indeling> Controle();
 [[nodiscard]] std::vector<Indeling> Correctie();
+[[nodiscard]] std::vector<Indeling> Rapporten();
+[[nodiscard]] std::vector<Indeling> Lijsten();
 
 // What every form has that asks for a person.
 [[nodiscard]] Blok PersoonPrompt();
+// What every viewer of a text has.
+[[nodiscard]] Blok TekstVenster();
 // The links of a page, which all reports for the Internet ask.
 [[nodiscard]] Blok InternetOpties();
 // Whom a report is about: his number, names and years, in controls that end in `wie`.

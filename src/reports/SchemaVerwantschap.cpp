@@ -1,0 +1,84 @@
+#include "reports/SchemaVerwantschap.h"
+
+#include "entry/VolgersBewaker.h"
+#include "forms/Rijnaam.h"
+#include "reports/VerwantRapport.h"
+#include "reports/VerwantSchrijver.h"
+#include "text/Getallen.h"
+
+namespace lb77 {
+namespace {
+
+constexpr PersoonVakSoort kPersoon = {.naamInvoer = false,
+                                      .nr = "PersNr",
+                                      .nrBijschrift = "Persoonsnummer:",
+                                      .voorBijschrift = "Voornamen:",
+                                      .achterBijschrift = "Achternaam:"};
+
+}  // namespace
+
+VerwantPersoon::VerwantPersoon(InvoerFormulier& formulier, int nummer)
+    : Persoon(formulier, Genummerd("", nummer), kPersoon),
+      ZoekButton(formulier, Genummerd("ZoekButton", nummer), "&Zoek Persoon") {
+  ZoekButton.BijKlik([this] { static_cast<void>(Persoon.Zoek()); });
+}
+
+SchemaVerwantschap::SchemaVerwantschap(Hoofdmodule& hoofd)
+    : WerkFormulier("SchemaVerwantschap", "Schema Verwantschap", hoofd, WerkBegin::OpKnop) {
+  ZetEersteVeld(Personen(0).Persoon.RecordNr);
+  Koppel(OKButton, BackButton);
+}
+
+void SchemaVerwantschap::BijLaden() {
+  Personen.Elk([](int, VerwantPersoon& rij) { rij.Persoon.MaakLeeg(); });
+  PersonenGedaan.ZetTekst("");
+}
+
+void SchemaVerwantschap::Werk() {
+  if (!TweePersonen() || !MaakVerslagen()) return;
+  ZetBezig(false);
+  WisStop();
+  VerwantRapport rapport(Hoofd());
+  rapport.ZetTitel("Schema Verwantschap");
+  Hoofd().gesprek.ToonModaal(rapport);
+}
+
+bool SchemaVerwantschap::TweePersonen() {
+  const std::string& een = Personen(0).Persoon.RecordNr.Tekst();
+  const std::string& ander = Personen(1).Persoon.RecordNr.Tekst();
+  if (!een.empty() && !ander.empty() && een != ander) return true;
+  Hoofd().gesprek.Waarschuw(een.empty() || ander.empty()
+                                ? "Geen 2 personen opgegeven. Verwantschap niet mogelijk."
+                                : "Geef 2 verschillende personen op a.u.b.");
+  ZetFocus(Personen(0).Persoon.RecordNr);
+  return false;
+}
+
+bool SchemaVerwantschap::MaakVerslagen() {
+  const VolgersBewaker bewaker(Hoofd().volgers);
+  const VerwantBestanden bestanden = VerwantBestandenVan(Hoofd());
+  std::vector<std::string> regels;
+  return MaakVerslag({bestanden.verslag},
+                     [&](TekstSchrijver& uit) { return ZoekEnSchrijf(uit, regels); }) &&
+         MaakVerslag({bestanden.uitvoer}, [&](TekstSchrijver& uit) -> Uitslag {
+           SchrijfVerwantTekst(uit, regels);
+           return Einde::Klaar;
+         });
+}
+
+Uitslag SchemaVerwantschap::ZoekEnSchrijf(TekstSchrijver& uit, std::vector<std::string>& regels) {
+  VerwantRij rij;
+  const Verloop verloop{[this] { return Afbreken(); },
+                        [this](int, int index) {
+                          PersonenGedaan.ZetTekst(GetalTekst(index));
+                          Ververs();
+                        }};
+  const Uitslag uitslag =
+      ZoekVerwanten(rij, Personen(0).Persoon.Nr(), Hoofd().Persoon, Hoofd().Relatie, verloop);
+  if (!(uitslag == Einde::Klaar)) return uitslag;
+  regels = VerwantTekst(rij.Keten(Personen(1).Persoon.Nr()), Hoofd().Persoon);
+  SchrijfVerwantTekst(uit, regels);
+  return uitslag;
+}
+
+}  // namespace lb77

@@ -1,0 +1,23 @@
+#include "reports/SelectRel.h"
+
+namespace lb77 {
+
+SelectRel::SelectRel(Hoofdmodule& hoofd) : LijstForm(kSelectRel, hoofd) {
+  Koppel(Namen.VoorNm, OKButton, BackButton);
+}
+
+void SelectRel::BijLaden() {
+  Geslacht.Laad();
+  Huwelijk.Laad();
+}
+
+bool SelectRel::IsGenoeg() {
+  keus_ = {Namen.Keus(), Geslacht.Keus(), Huwelijk.Keus()};
+  return !keus_.IsLeeg();
+}
+
+Uitslag SelectRel::Schrijf(TekstSchrijver& uit, const Verloop& verloop) {
+  return SelecteerRelaties(keus_, Hoofd().Relatie, Hoofd().Persoon, uit, verloop);
+}
+
+}  // namespace lb77

@@ -1,0 +1,61 @@
+#include "reports/VerwantSchrijver.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "reports/VerwantTekening.h"
+#include "text/Getallen.h"
+
+namespace lb77 {
+namespace {
+
+// Names of whom can't be read are empty.
+std::string Naam(PersoonLB77& persoon, std::int16_t nr) {
+  if (!persoon.Lees(nr)) return " ";
+  return persoon.VoorNaamTrue() + " " + persoon.AchterNaamTrue();
+}
+
+// What the person who was reached before is of this one. The blank at its end is kept.
+std::string_view Betrekking(VerwantSoort soort) {
+  switch (soort) {
+    case VerwantSoort::Kind:
+      return "ouder: ";
+    case VerwantSoort::Partner:
+      return "partner: ";
+    case VerwantSoort::Ouder:
+    case VerwantSoort::Begin:
+      break;
+  }
+  return "kind: ";
+}
+
+}  // namespace
+
+std::vector<std::string> VerwantTekst(const std::vector<VerwantEntry>& keten,
+                                      PersoonLB77& persoon) {
+  std::vector<std::string> uit{"Schema Verwantschap"};
+  if (keten.empty()) {
+    uit.emplace_back("Geen verwantschap gevonden");
+    return uit;
+  }
+  uit.push_back("Verwantschap tussen " + Naam(persoon, keten.back().persoon) + " en " +
+                Naam(persoon, keten.front().persoon) + ":");
+  uit.emplace_back();
+  for (const VerwantEntry& entry : keten) {
+    if (!persoon.Lees(entry.persoon)) continue;
+    uit.push_back(Naam(persoon, entry.persoon) + " (" + GetalTekst(entry.persoon) + ")");
+    if (entry.soort != VerwantSoort::Begin) uit.emplace_back(Betrekking(entry.soort));
+  }
+  uit.emplace_back();
+  for (std::string& regel : TekenVerwantschap(keten)) uit.push_back(std::move(regel));
+  return uit;
+}
+
+void SchrijfVerwantTekst(TekstSchrijver& uit, const std::vector<std::string>& regels) {
+  std::size_t breedste = TekstSchrijver::kGeenRechterMarge;
+  for (const std::string& regel : regels) breedste = std::max(breedste, regel.size());
+  uit.ZetRechterMarge(static_cast<int>(breedste));
+  for (const std::string& regel : regels) uit.VolleRegel(regel);
+}
+
+}  // namespace lb77
