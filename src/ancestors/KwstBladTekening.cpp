@@ -63,7 +63,7 @@ struct Ruimte {
   int lucht;
 };
 // The first one that leaves the sheet on its page.
-constexpr std::array kRuimten{Ruimte{8, 6, 1}, Ruimte{8, 6, 0}, Ruimte{6, 3, 0}};
+constexpr std::array kRuimten{Ruimte{8, 6, 1}, Ruimte{8, 6, 0}, Ruimte{6, 3, 0}, Ruimte{6, 2, 0}};
 
 // The sheet from top to bottom. A couple of the last generation and their child share a column, with
 // a line along its left side; from there on lines come together in the middle.
@@ -160,19 +160,19 @@ class HSKBlad {
   std::array<int, kBladPlaatsen + 1> onder_{};  // the row below the text of a place
 };
 
-Tekenvel TekenHSK(const BladTeksten& teksten) {
+Tekenvel TekenHSK(const BladTeksten& teksten, int rijen) {
   Tekenvel vel;
   for (const Ruimte& ruimte : kRuimten) {
     vel = HSKBlad(teksten, ruimte).Teken();
-    if (vel.Rijen() <= kBladRijen) break;
+    if (vel.Rijen() <= rijen) break;
   }
   return vel;
 }
 
 }  // namespace
 
-Tekenvel TekenBlad(const BladTeksten& teksten, Bladvorm vorm) {
-  return vorm == Bladvorm::HSK ? TekenHSK(teksten) : CBGBlad(teksten).Teken();
+Tekenvel TekenBlad(const BladTeksten& teksten, Bladvorm vorm, int rijen) {
+  return vorm == Bladvorm::HSK ? TekenHSK(teksten, rijen) : CBGBlad(teksten).Teken();
 }
 
 }  // namespace lb77

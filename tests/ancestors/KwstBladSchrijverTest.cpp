@@ -169,6 +169,21 @@ TEST_F(KwstBladSchrijverToets, HetLangsteVanAllesBlijftOpEenBladzijde) {
   VerwachtGouden("kwbld/cbg_lang.txt", uit_);
 }
 
+// The longest lines around it each take two of the page.
+TEST_F(KwstBladSchrijverToets, OokEenGebrokenTitelHoudtHetBladOpEenBladzijde) {
+  MaakLangeStamboom();
+  ZetTeksten();
+  opties_.teksten.titel = std::string(81, 'T');
+  opties_.teksten.inleiding = {std::string(81, 'a'), std::string(81, 'b'), std::string(81, 'c')};
+  opties_.teksten.copyrightRegel = "Copyright (2026) " + std::string(52, 'J') + " Jansen";
+  for (const Bladvorm vorm : {Bladvorm::CBG, Bladvorm::HSK}) {
+    Schrijf(vorm);
+    VerwachtEenPagina();
+    EXPECT_NE(uit_.find("\r\ncc\r\n"), std::string::npos);
+    EXPECT_NE(uit_.find("Copyright (2026)\r\nJJ"), std::string::npos);
+  }
+}
+
 TEST_F(KwstBladSchrijverToets, EenDatumHeeftVraagtekensVoorWatOnbekendIs) {
   MaakStamboom();
   EXPECT_EQ(Tekst(1).geboren, "* 24-12-1910 Breda");

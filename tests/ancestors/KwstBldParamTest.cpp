@@ -119,6 +119,15 @@ TEST_F(KwstBldParamToets, EenOnbekendeLayoutIsCBG) {
   }
 }
 
+TEST_F(KwstBldParamToets, EenBewaardeWaardeDieGeenIsIsJa) {
+  SchrijfBytes(Map() / "LIJNBOOM.INI",
+               std::string(kIni) + "[KWBLD]\r\nOokNummers=x\r\nOokCopyRt=x\r\nOokLB77=x\r\n");
+  InOpties("druk OKButton(1)", "% afdruk 1\n- KwstBldParam");
+  EXPECT_NE(Ini().find("[KWBLD]\r\nHSK_CBG=CBG\r\nOokNummers=J\r\nOokCopyRt=J\r\nOokLB77=J\r\n"),
+            std::string::npos)
+      << Ini();
+}
+
 TEST_F(KwstBldParamToets, EenAfgebrokenBestandsvraagLaatHetSchermStaan) {
   InOpties("bestand\ndruk OKButton(2)\ndruk BackButton", R"(
       > opslaan "Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt" -> -

@@ -143,6 +143,18 @@ TEST_F(KwstIdxKeten, BewaartPreciesZijnSleutels) {
   EXPECT_EQ(Ini().find("opa.htm"), std::string::npos);
 }
 
+TEST_F(KwstIdxKeten, EenBewaardeWaardeDieGeenIsIsJaEnBijHTMLNee) {
+  std::string ini(kIni);
+  ini.replace(ini.find("SoortUitv=1"), 11,
+              "SoortUitv=4\r\nOokNummers=x\r\nVolgHerh=x\r\nHTML=x\r\nOokCopyRt=x\r\nOokLB77=x");
+  SchrijfBytes(Map() / "LIJNBOOM.INI", ini);
+  Speel(Weg());
+  EXPECT_NE(Ini().find("[KWST]\r\nSoortUitv=1\r\nOokNummers=J\r\nOokOpm=J\r\nVolgHerh=J\r\n"
+                       "HTML=N\r\nOokCopyRt=J\r\nOokLB77=J\r\n"),
+            std::string::npos)
+      << Ini();
+}
+
 TEST_F(KwstIdxKeten, KeuzenWordenVergetenAlsDeInstellingenDatZeggen) {
   std::string ini(kIni);
   ini.replace(ini.find("OpslaanVelden=J"), 15, "OpslaanVelden=N");

@@ -55,6 +55,17 @@ TEST_F(KwstIdxToets, MetDeBroersEnZussenVanDeProband) {
   VerwachtIndex(BouwBroersEnZussen(set_.bouw), "broerzus_2");
 }
 
+TEST_F(KwstIdxToets, ZonderOudersStaatDeProbandErZelfMetZijnPartners) {
+  const auto proband = set_.bouw.Man("Een", "A");
+  set_.bouw.Relatie(proband, set_.bouw.Vrouw("Eerste", "B"));
+  set_.bouw.Relatie(proband, set_.bouw.Vrouw("Tweede", "C"));
+  for (const BroerZus welke : {BroerZus::VanProband, BroerZus::Alle}) {
+    opties_.KwBroerZus = welke;
+    EXPECT_EQ(Schrijf(proband), Einde::Klaar);
+    EXPECT_EQ(Rijen(), "1 K Een\n1 P Eerste\n1 P Tweede\n");
+  }
+}
+
 TEST_F(KwstIdxToets, MetAlleBroersEnZussen) {
   opties_.KwBroerZus = BroerZus::Alle;
   VerwachtIndex(BouwBroersEnZussen(set_.bouw), "broerzus_3");

@@ -167,6 +167,17 @@ TEST_F(KwstSchKeten, EenBewaardGetalBuitenDeGrenzenIsDeStandaard) {
   InOpties("toon MaxGen\ntoon BreedteGen", "= MaxGen \"10\"\n= BreedteGen \"2\"");
 }
 
+TEST_F(KwstSchKeten, EenBewaardeWaardeDieGeenIsIsJaEnBijHTMLNee) {
+  ZetIni(
+      "[KWGR]\r\nOokNummers=x\r\nOokJaren=x\r\nUitlijnen=x\r\nHTML=x\r\nOokCopyRt=x\r\n"
+      "OokLB77=x\r\n");
+  Speel(Weg());
+  EXPECT_NE(Ini().find("[KWGR]\r\nGeneraties=4\r\nOokNummers=J\r\nOokJaren=J\r\nUitlijnen=J\r\n"
+                       "Breedte=8\r\nHTML=N\r\nOokCopyRt=J\r\nOokLB77=J\r\n"),
+            std::string::npos)
+      << Ini();
+}
+
 TEST_F(KwstSchKeten, InHTMLVraagtHijDeLinksEnBewaartZeBijDeKwartierstaat) {
   Speel(Weg()
             .In("KwstSchParam", "stel InHTMLBox Ja\ndruk OKButton")

@@ -27,6 +27,7 @@ class GezinKeten : public FamilieToets {
     const Taak taak = [this](Hoofdmodule& hoofd) {
       ASSERT_TRUE(Start(hoofd));
       hoofd.schrijfwijze.DatumScheider = '-';
+      hoofd.volgers.HuidigRelatieNr = familie_.tweede;  // of what the user did before
       GezinSchPrs prompt(hoofd);
       hoofd.gesprek.ToonModaal(prompt);
       gebleven_ = hoofd.volgers.HuidigPersoonNr;
@@ -122,6 +123,7 @@ TEST_F(GezinKeten, EenPersoonZonderRelatiesGeeftEenBladDatDatZegt) {
             "Kee van Dam [9]\r\nged. 1-1-1831\r\nkind v. Jan Pieter van Dam [5] en van Cornelia "
             "Cool [6]\r\n"
             "\r\n\r\ngeen relatie aanwezig\r\n\r\n");
+  EXPECT_EQ(relatie_, 0);
 }
 
 TEST_F(GezinKeten, ElkeSoortHeeftZijnBlad) {
@@ -166,6 +168,13 @@ TEST_F(GezinKeten, KeuzenWordenVergetenAlsDeInstellingenDatZeggen) {
                  "stel SoortBladBox #2\nstel OokNrsBox Nee\nstel OokOpmBox Ja\ndruk OKButton"));
   EXPECT_TRUE(Bevat("GEZINSBLAD van Dam-Cool\r\n"));
   EXPECT_EQ(Ini(), ini);
+}
+
+TEST_F(GezinKeten, EenBewaardeWaardeDieGeenIsIsJa) {
+  ZetIni("OokNummers=J\r\nOokOpm=N", "OokNummers=x\r\nOokOpm=x");
+  Speel(Weg());
+  EXPECT_NE(Ini().find("[GEZIN]\r\nSoortUitv=1\r\nOokNummers=J\r\nOokOpm=J\r\n"), std::string::npos)
+      << Ini();
 }
 
 TEST_F(GezinKeten, EenSoortDieErGeenIsIsDeEerste) {
