@@ -129,6 +129,27 @@ TEST_F(GenKeten, EenGeneratieIsDeStamouderEnWordtGetoond) {
   EXPECT_FALSE(VerslagHeeft("IIa"));
 }
 
+TEST_F(GenKeten, NummersEnDeOpmerkingenVanDitVerslagStaanErin) {
+  Speel(Weg().In("GenTxtParam", "stel OokNrsBox Ja\nstel OokOpmBox Ja\ndruk OKButton"));
+  EXPECT_TRUE(VerslagHeeft("      I.  Jan Kok [4], geb."));
+  EXPECT_TRUE(VerslagHeeft("Hij had een herberg"));
+  EXPECT_FALSE(VerslagHeeft("Niet in dit verslag."));
+  EXPECT_FALSE(VerslagHeeft("Alleen in HTML."));
+}
+
+TEST_F(GenKeten, DeInstellingenZeggenWatErVanEenHuwelijkVerteldWordt) {
+  const auto jan = Bouw().Man("Jan", "Bos");
+  Bouw().Relatie(
+      jan, Bouw().Vrouw("Anna", "Vis"), {},
+      {{"OtrDatum", "01-03-1725"}, {"WHuwDatum", "20-03-1725"}, {"KHuwDatum", "21-04-1725"}});
+  for (const bool kerk : {false, true}) {
+    ZetIni("DatumForm=0", kerk ? "DatumForm=0\r\nHuwData=1" : "DatumForm=0\r\nHuwData=0");
+    Speel(Weg().In("GenTxtPrs", "vul RecordNr " + GetalTekst(jan) + "\ndruk OKButton"));
+    EXPECT_EQ(VerslagHeeft("kerk"), kerk) << Verslag();
+    EXPECT_EQ(VerslagHeeft("ondertr."), !kerk) << Verslag();
+  }
+}
+
 TEST_F(GenKeten, EenVolleTabelWordtZonderBoodschapGeschreven) {
   const auto kring = Bouw().Man("Kring", "Loop");
   Bouw().Relatie(kring, 0, {kring, kring});
@@ -148,6 +169,11 @@ TEST_F(GenKeten, DeUitgeslotenTakkenWordenNietGevolgd) {
   EXPECT_TRUE(
       VerslagHeeft("  1. Jan Kok, geb. 1755, tr./sch. 1779/1785 Neeltje Kok, geb. 1756\r\n"));
   EXPECT_TRUE(VerslagHeeft("   IIIa.  (dr. van IIb) Neeltje Kok"));
+  // Who was left out is asked for anew.
+  Speel(Weg()
+            .In("GenTxtUitsluit", "toon RecordNrVolgNiet(3)\ndruk BackButton",
+                "= RecordNrVolgNiet(3) \"\"")
+            .Tot("GenTxtUitsluit"));
 }
 
 }  // namespace

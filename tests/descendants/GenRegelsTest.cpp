@@ -137,6 +137,11 @@ TEST_F(VolgKindToets, OngehuwdeMoedersHebbenEenKindZonderMan) {
   EXPECT_FALSE(VolgtDochter(ongehuwde_, GenDochters::OngehuwdeMoeders));
 }
 
+TEST_F(VolgKindToets, EenBeschadigdeManIsGeenOngehuwdeMoeder) {
+  bouw_.WijzigRelatie(zonderMan_, {{"ManNr", "-7"}});
+  EXPECT_FALSE(VolgtDochter(ongehuwdeMoeder_, GenDochters::OngehuwdeMoeders));
+}
+
 TEST_F(VolgKindToets, DochtersWordenGevolgdNaarHunLeeftijd) {
   EXPECT_FALSE(VolgtDochter(ongehuwde_, GenDochters::OuderDan));
   EXPECT_TRUE(VolgtDochter(echtgenote_, GenDochters::OuderDan));

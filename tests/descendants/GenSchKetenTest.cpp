@@ -14,6 +14,13 @@ TEST_F(GenIdxKeten, GaatVanNummerTotScherm) {
   EXPECT_TRUE(VerslagHeeft(" IVb = IVa\r\n"));
 }
 
+TEST_F(GenIdxKeten, EenRijIsNooitTeBreed) {
+  ZetIni("Tekstbr=78", "Tekstbr=40");
+  Speel(Weg());
+  EXPECT_TRUE(VerslagHeeft("\r\nKok" + std::string(24, ' ') + "Jan" + std::string(28, ' ') +
+                           "1700-1770 I\r\n"));
+}
+
 TEST_F(GenIdxKeten, GaatInHTMLLangsDeKoppelingen) {
   Speel(Weg()
             .In("GenIdxParam", "stel InHTMLBox Ja\nvul HTMLfileTekst  KOK.HTM\ndruk OKButton")

@@ -210,6 +210,15 @@ TEST_F(GenSchParamToets, EenOnbekendeWaardeIsDeGewoneKeuze) {
   )");
 }
 
+TEST_F(GenSchParamToets, AllesBehalveNeeIsJa) {
+  SchrijfGenb("OokVolgNrs=X\r\nOokPrsNrs=\r\nOokRelNrs=n\r\nVolgHerh=X\r\nUitsluiten=X\r\n");
+  for (const std::string_view veld :
+       {"OokVNrsBox", "OokPNrsBox", "OokRNrsBox", "PrsHerhaalBox", "UitsluitBox"}) {
+    SpeelParam("toon " + std::string(veld),
+               "= " + std::string(veld) + " \"Ja\"\n#0 \"Ja\"\n#1 \"Nee\"\n");
+  }
+}
+
 constexpr std::string_view kStelAnders = R"(
     stel ZonenBox #3
     stel DochtersBox #1

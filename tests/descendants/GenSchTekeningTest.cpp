@@ -205,6 +205,16 @@ TEST_F(GenSchTekeningToets, EenWoordDatNergensPastWordtGebroken) {
   EXPECT_EQ(Tekening(jan), "Wilhelminadin--=-Wilhelminadina\na\n");
 }
 
+TEST_F(GenSchTekeningToets, ZonderNamenHebbenOokDePartnersErGeen) {
+  opties_.GenVoorNamen = GenVoornaamWijze::Nee;
+  opties_.GenPartners = GenPartnerWijze::OnderElkaar;
+  opties_.GenOokPrsNrs = true;
+  const auto jan = Kind("Jan");
+  Gezin(jan, {});
+  bouw_.Relatie(jan, bouw_.Vrouw("Anna", "Visser"));
+  EXPECT_EQ(Tekening(jan), "[2] x(1),x(2)\n");
+}
+
 TEST_F(GenSchTekeningToets, PartnersNaastIemandMogenHogerZijnDanHijzelf) {
   opties_.GenVertikaal = true;
   opties_.GenPosANamen = 5;

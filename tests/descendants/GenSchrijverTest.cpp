@@ -121,6 +121,36 @@ TEST_F(GenSchrijverToets, EenNaamZonderAchternaamHeeftGeenBlancoAanHetEind) {
   EXPECT_TRUE(Bevat("          Willem, tr. Anna Vis.\r\n"));
 }
 
+TEST_F(GenSchrijverToets, InHTMLIsOokDeNaamAanHetHoofdVanEenRelatieGecodeerd) {
+  const auto vader = bouw_.Man("Jan", "Kok & <Zn>");
+  bouw_.Relatie(vader, bouw_.Vrouw("Anna", "Vis"));
+  opties_.GenInHTML = true;
+  EXPECT_EQ(Schrijf(vader), Einde::Klaar);
+  EXPECT_TRUE(Bevat("\r\n          Jan Kok &amp; &lt;Zn&gt;, tr. <STRONG>Anna</STRONG>"));
+}
+
+TEST_F(GenSchrijverToets, InHTMLHeeftEenKindZonderPlaatsElkeRelatieOpHaarRegel) {
+  const auto jan = bouw_.Man("Jan", "Kok");
+  const auto een = bouw_.Vrouw("Een", "Kok");
+  bouw_.Relatie(jan, bouw_.Vrouw("Anna", "Vis"), {een});
+  bouw_.Relatie(bouw_.Man("Piet", "Pot"), een, {bouw_.Man("Kind", "Pot")});
+  bouw_.Relatie(bouw_.Man("Klaas", "Bos"), een);
+  opties_.GenInHTML = true;
+  opties_.GenVolgDochters = GenDochters::Geen;
+  EXPECT_EQ(Schrijf(jan), Einde::Klaar);
+  EXPECT_TRUE(
+      Bevat("<OL>\r\n            <LI><STRONG>Een</STRONG> <STRONG>Kok</STRONG>, tr. "
+            "<STRONG>Piet</STRONG> <STRONG>Pot</STRONG><BR>\r\n               "
+            "Een Kok, tr.(2) <STRONG>Klaas</STRONG> <STRONG>Bos</STRONG></OL>.\r\n"));
+}
+
+TEST_F(GenSchrijverToets, EenVerwijzingNaarOudersOnderNulIsErGeen) {
+  const auto vader = bouw_.Man("Jan", "Kok", {{"Ouders", "-7"}});
+  bouw_.Relatie(vader, bouw_.Vrouw("Anna", "Vis", {{"Ouders", "-7"}}));
+  EXPECT_EQ(Schrijf(vader), Einde::Klaar);
+  EXPECT_TRUE(Bevat("      I.  Jan Kok\r\n\r\n          Jan Kok, tr. Anna Vis.\r\n"));
+}
+
 // Records that the table does not need, and the report does.
 class GenLeesfout : public GenSchrijverToets {
  protected:

@@ -213,6 +213,30 @@ TEST_F(GenTabelToets, EenVolleTabelHoudtWatErHetEerstWas) {
   EXPECT_EQ(tabel_.Vind(generatie[1129]), -1);
 }
 
+// Whoever stands behind the last entry is read all the same.
+TEST_F(GenTabelToets, EenOnleesbaarKindEindigtOokDeOpbouwVanEenVolleTabel) {
+  const auto vader = bouw_.Man("Vader", "A");
+  std::vector<std::int16_t> generatie{vader};
+  std::int16_t gezin = 0;
+  // 1 + 15 + 225 entries, then 117 families and four children of the next.
+  for (const std::size_t gezinnen : {1U, 15U, 118U}) {
+    std::vector<std::int16_t> volgende;
+    for (std::size_t i = 0; i < gezinnen; ++i) {
+      std::vector<std::int16_t> kinderen;
+      for (int k = 0; k < 15; ++k) kinderen.push_back(bouw_.Man("Kind", "A"));
+      gezin = bouw_.Relatie(generatie[i], 0, kinderen);
+      volgende.insert(volgende.end(), kinderen.begin(), kinderen.end());
+    }
+    generatie = volgende;
+  }
+  EXPECT_EQ(Bouw(vader), Einde::Vol);
+  EXPECT_EQ(tabel_.GenPersoon(1999), generatie[117U * 15U + 3U]);
+  bouw_.WijzigRelatie(gezin, {{"Kind15", "9000"}});
+  const Uitslag uitslag = Bouw(vader);
+  EXPECT_EQ(uitslag, Einde::Leesfout);
+  EXPECT_EQ(uitslag.fout, (Leesfout{BestandSoort::Personen, 9000}));
+}
+
 TEST_F(GenTabelToets, DeTellersVolgenPersonenEnHoofdpersonen) {
   const auto vader = bouw_.Man("Vader", "A");
   const auto zoon = bouw_.Man("Zoon", "A");
@@ -254,6 +278,16 @@ TEST_F(GenTabelToets, EenOnleesbareRelatieEindigtDeOpbouw) {
   const Uitslag uitslag = Bouw(vader);
   EXPECT_EQ(uitslag, Einde::Leesfout);
   EXPECT_EQ(uitslag.fout, (Leesfout{BestandSoort::Relaties, 99}));
+}
+
+TEST_F(GenTabelToets, EenBeschadigdePlaatsIsGeenRelatieEnGeenKind) {
+  const auto vader = bouw_.Man("Vader", "A");
+  const auto kind = bouw_.Man("Kind", "A");
+  const auto relatie = bouw_.Relatie(vader, 0, {kind});
+  bouw_.WijzigRelatie(relatie, {{"Kind2", "-7"}});
+  bouw_.WijzigPersoon(vader, {{"Relatie2", "-7"}});
+  EXPECT_EQ(Bouw(vader), Einde::Klaar);
+  EXPECT_EQ(Personen(), (Getallen{vader, kind}));
 }
 
 TEST_F(GenTabelToets, EenLegePlaatsInDeKinderenWordtOvergeslagen) {

@@ -161,6 +161,21 @@ TEST_F(GenTekstParamToets, KeuzenBlijvenInDeInstellingen) {
             .Tot("GenTxtParam"));
 }
 
+// Anything but "N" is yes, and anything but "J" leaves a page and the order by generation out.
+TEST_F(GenTekstParamToets, EenOnbekendeWaardeIsDeGewoneKeuze) {
+  ZetIni("VolgZonen=5\r\nVolgDochters=6",
+         "VolgZonen=6\r\nVolgDochters=-1\r\nOokNummers=X\r\nOokOpm=\r\nVolgHerh=n\r\n"
+         "Verwijzing=X\r\nUitsluiten=X\r\nHTML=j\r\nPerGeneratie=X\r\nOokCopyRt=X\r\nOokLB77=X");
+  for (const std::string_view veld : {"OokNrsBox", "OokOpmBox", "PrsHerhaalBox", "VerwijsBox",
+                                      "UitsluitBox", "CopyrightBox", "OokLB77Box"}) {
+    Toont(veld, "Ja\"\n#0 \"Ja\"\n#1 \"Nee");
+  }
+  Toont("InHTMLBox", "Nee\"\n#0 \"Ja\"\n#1 \"Nee");
+  Toont("PerTakBox", "Per tak\"\n#0 \"Per tak\"\n#1 \"Per generatie");
+  Speel(Weg().In("GenTxtParam", "stel InHTMLBox Nee\nstel UitsluitBox Nee\ndruk OKButton"));
+  EXPECT_TRUE(IniHeeft("VolgZonen=1\r\nVolgDochters=1"));
+}
+
 TEST_F(GenTekstParamToets, KeuzenWordenVergetenAlsDeInstellingenDatZeggen) {
   ZetIni("OpslaanVelden=J", "OpslaanVelden=N");
   const std::string ini = Ini();
