@@ -169,19 +169,30 @@ TEST_F(KwstBladSchrijverToets, HetLangsteVanAllesBlijftOpEenBladzijde) {
   VerwachtGouden("kwbld/cbg_lang.txt", uit_);
 }
 
-// The longest lines around it each take two of the page.
+// A line around it that is wider than the sheet takes two of the page.
 TEST_F(KwstBladSchrijverToets, OokEenGebrokenTitelHoudtHetBladOpEenBladzijde) {
   MaakLangeStamboom();
   ZetTeksten();
-  opties_.teksten.titel = std::string(81, 'T');
-  opties_.teksten.inleiding = {std::string(81, 'a'), std::string(81, 'b'), std::string(81, 'c')};
-  opties_.teksten.copyrightRegel = "Copyright (2026) " + std::string(52, 'J') + " Jansen";
-  for (const Bladvorm vorm : {Bladvorm::CBG, Bladvorm::HSK}) {
-    Schrijf(vorm);
-    VerwachtEenPagina();
-    EXPECT_NE(uit_.find("\r\ncc\r\n"), std::string::npos);
-    EXPECT_NE(uit_.find("Copyright (2026)\r\nJJ"), std::string::npos);
+  PaginaTeksten& teksten = opties_.teksten;
+  teksten.titel = std::string(79, 'T');
+  teksten.inleiding = {std::string(79, 'a'), std::string(79, 'b'), std::string(79, 'c')};
+  const PaginaTeksten heel = teksten;
+  const std::string naam = "Copyright (2026) " + std::string(52, 'J') + " Jansen";
+  for (int regel = 0; regel < 6; ++regel) {  // each of them alone, then all
+    teksten = heel;
+    if (regel == 0 || regel == 5) teksten.titel += "TT";
+    for (int i = 0; i < 3; ++i) {
+      if (regel == i + 1 || regel == 5) teksten.inleiding[static_cast<std::size_t>(i)] += "xx";
+    }
+    if (regel >= 4) teksten.copyrightRegel = naam;
+    for (const Bladvorm vorm : {Bladvorm::CBG, Bladvorm::HSK}) {
+      Schrijf(vorm);
+      VerwachtEenPagina();
+      EXPECT_LE(Regels().size(), 69U) << regel;
+    }
   }
+  EXPECT_NE(uit_.find("\r\nxx\r\n"), std::string::npos);
+  EXPECT_NE(uit_.find("Copyright (2026)\r\nJJ"), std::string::npos);
 }
 
 TEST_F(KwstBladSchrijverToets, EenDatumHeeftVraagtekensVoorWatOnbekendIs) {

@@ -1,7 +1,11 @@
 // The chain of forms of the ancestor report, from prompt to viewer, by script.
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include "ancestors/KwstKeten.h"
+#include "app/Start.h"
+#include "steun/Kijker.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
@@ -39,6 +43,23 @@ TEST_F(KwstKeten, GaatVanNummerTotScherm) {
     )");
   EXPECT_EQ(gebleven_, 0);
   EXPECT_EQ(Verslag().rfind("Generatie I\r\n\r\n     1  Gerrit van Dam", 0), 0U);
+}
+
+TEST_F(KwstKeten, DeVraagVerdwijntVoorDeOpbouw) {
+  const std::pair<const KwstPrsSoort*, std::string_view> ketens[] = {
+      {&kKwstTxtPrs, "+KwstTxtParam -KwstBereken -KwstMaakTemp -ToonTekst "},
+      {&kKwstIdxPrs, "+KwstIdxParam -KwstBereken -KwstIdxTemp -ToonTekst "},
+      {&kKwstSchPrs, "+KwstSchParam -KwstBereken -KwstSchTemp -ToonTekst "},
+      {&kKwstBldPrs, "-KwstBereken -KwstBladen "}};
+  for (const auto& [soort, gezien] : ketens) {
+    Kijker kijker("9");
+    Sessie([&](Hoofdmodule& hoofd) {
+      ASSERT_TRUE(Start(hoofd));
+      KwstPrs prompt(*soort, hoofd);
+      hoofd.gesprek.ToonModaal(prompt);
+    })(kijker);
+    EXPECT_EQ(kijker.Gezien(), gezien);
+  }
 }
 
 TEST_F(KwstKeten, EenStopWordtBevestigdEnLaatHetFormulierOpen) {

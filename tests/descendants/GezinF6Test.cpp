@@ -124,6 +124,17 @@ TEST_F(GezinF6Toets, EenTeLangeTekstWordtAfgesnedenEnRaaktDeAndereNiet) {
   EXPECT_TRUE(Bevat(ouder.substr(0, 47) + " " + ouder.substr(0, 48) + "\n")) << uit_;
 }
 
+TEST_F(GezinF6Toets, WatDeKolomPreciesVultBlijftHeel) {
+  const auto vader = bouw_.Man(std::string(16, 'v'), std::string(16, 'a'));
+  const auto man = bouw_.Man("Jan", "Bos");
+  bouw_.Relatie(vader, 0, {man});
+  const auto relatie = bouw_.Relatie(man, bouw_.Vrouw("Els", "Vos"));
+  Blad(man, relatie);
+  EXPECT_TRUE(Bevat("\nOuders(man)  : " + std::string(16, 'v') + " " + std::string(16, 'a') +
+                    "Ouders(man)  :\n"))
+      << uit_;
+}
+
 TEST_F(GezinF6Toets, EenOnleesbareLaatZijnKolomLeeg) {
   const auto man = bouw_.Man("Jan", "Bos");
   const auto vrouw = bouw_.Vrouw("Els", "Vos");

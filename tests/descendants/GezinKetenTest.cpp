@@ -8,6 +8,7 @@
 #include "descendants/GezinSchPrs.h"
 #include "steun/FamilieToets.h"
 #include "steun/Keten.h"
+#include "steun/Kijker.h"
 
 namespace lb77 {
 namespace {
@@ -67,6 +68,16 @@ TEST_F(GezinKeten, GaatVanNummerTotScherm) {
   EXPECT_EQ(gebleven_, 0);
   EXPECT_TRUE(Blad().starts_with("Jan Pieter van Dam [5] [rel.nr. 4]\r\ngeb. Delft 1-2-1800\r\n"));
   EXPECT_TRUE(Blad().ends_with("\r\n 3. Kee van Dam [9]\r\n\r\n"));
+}
+
+TEST_F(GezinKeten, DeVraagVerdwijntVoorHetSchrijven) {
+  Kijker kijker("5");
+  Sessie([](Hoofdmodule& hoofd) {
+    ASSERT_TRUE(Start(hoofd));
+    GezinSchPrs prompt(hoofd);
+    hoofd.gesprek.ToonModaal(prompt);
+  })(kijker);
+  EXPECT_EQ(kijker.Gezien(), "+GezinSchParam -GezinMaakTemp -ToonTekst ");
 }
 
 TEST_F(GezinKeten, HetOptieschermToontHetHoofdEnZijnRelaties) {

@@ -96,6 +96,18 @@ TEST_F(GezinToets, WieGeenNaamHeeftHeetNaarZijnGeslacht) {
   EXPECT_TRUE(Blad(man, relatie).ends_with("Kinderen:\n 1. Bos\n 2. Bos\n 3. Bos\n"));
 }
 
+TEST_F(GezinToets, EenOuderOfPartnerZonderNaamHoudtZijnNummer) {
+  opties_.GezinOokNrs = true;
+  const auto man = bouw_.Man("Jan", "Bos");
+  const auto kind = bouw_.Man("Piet", "Bos");
+  bouw_.Relatie(bouw_.Man("", ""), 0, {man});
+  bouw_.Relatie(kind, bouw_.Vrouw("", ""));
+  const auto relatie = bouw_.Relatie(man, 0, {kind});
+  Blad(man, relatie);
+  EXPECT_TRUE(Bevat("\nzn. v. N.N. [4]\n")) << uit_;
+  EXPECT_TRUE(uit_.ends_with("\n 1. Piet [3]\n      tr. N.N. [5]\n")) << uit_;
+}
+
 TEST_F(GezinToets, DeFamilienaamStaatAlleenDesgewenstBijDeKinderen) {
   const auto man = bouw_.Man("Jan", "Bos");
   const auto relatie = bouw_.Relatie(man, 0, {bouw_.Man("Piet", "Bos")});
