@@ -13,6 +13,16 @@ TEST_F(GenKeten, GaatVanNummerTotScherm) {
   EXPECT_EQ(Verslag().rfind("Genealogie van Jan Kok\r\n\r\n      I.  Jan Kok", 0), 0U);
 }
 
+TEST_F(GenKeten, EenPaginaWordtAlsPaginaBewaard) {
+  Speel(Weg()
+            .In("GenTxtParam", "stel InHTMLBox Ja\ndruk OKButton")
+            .In("GenHTMLParam", "druk OKButton")
+            .In("ToonTekst", "bestand kok.htm\ndruk SaveButton\ndruk BackButton", R"(
+              > opslaan "Alle Bestanden (*.*)|*.*|Internetbestanden (*.htm)|*.htm|Internetbestanden (*.html)|*.html" -> "kok.htm"
+              ! info "De tekst is opgeslagen."
+            )"));
+}
+
 TEST_F(GenKeten, DePromptVraagtOmDeStamouder) {
   Speel(Weg()
             .In("GenTxtPrs", "vul RecordNr 4\ntoon\ntoets Escape", R"(
