@@ -14,13 +14,15 @@ TEST_F(GenKeten, GaatVanNummerTotScherm) {
 }
 
 TEST_F(GenKeten, EenPaginaWordtAlsPaginaBewaard) {
+  const std::string pad = (Map() / "kok.htm").string();
   Speel(Weg()
             .In("GenTxtParam", "stel InHTMLBox Ja\ndruk OKButton")
             .In("GenHTMLParam", "druk OKButton")
-            .In("ToonTekst", "bestand kok.htm\ndruk SaveButton\ndruk BackButton", R"(
-              > opslaan "Alle Bestanden (*.*)|*.*|Internetbestanden (*.htm)|*.htm|Internetbestanden (*.html)|*.html" -> "kok.htm"
-              ! info "De tekst is opgeslagen."
-            )"));
+            .In("ToonTekst", "bestand " + pad + "\ndruk SaveButton\ndruk BackButton",
+                "> opslaan \"Alle Bestanden (*.*)|*.*|Internetbestanden (*.htm)|*.htm|"
+                "Internetbestanden (*.html)|*.html\" -> \"" +
+                    pad + "\"\n! info \"De tekst is opgeslagen.\""));
+  EXPECT_EQ(LeesBytes(pad), Verslag());
 }
 
 TEST_F(GenKeten, DePromptVraagtOmDeStamouder) {
