@@ -13,6 +13,18 @@ TEST_F(GenKeten, GaatVanNummerTotScherm) {
   EXPECT_EQ(Verslag().rfind("Genealogie van Jan Kok\r\n\r\n      I.  Jan Kok", 0), 0U);
 }
 
+TEST_F(GenKeten, EenPaginaWordtAlsPaginaBewaard) {
+  const std::string pad = (Map() / "kok.htm").string();
+  Speel(Weg()
+            .In("GenTxtParam", "stel InHTMLBox Ja\ndruk OKButton")
+            .In("GenHTMLParam", "druk OKButton")
+            .In("ToonTekst", "bestand " + pad + "\ndruk SaveButton\ndruk BackButton",
+                "> opslaan \"Alle Bestanden (*.*)|*.*|Internetbestanden (*.htm)|*.htm|"
+                "Internetbestanden (*.html)|*.html\" -> \"" +
+                    pad + "\"\n! info \"De tekst is opgeslagen.\""));
+  EXPECT_EQ(LeesBytes(pad), Verslag());
+}
+
 TEST_F(GenKeten, DePromptVraagtOmDeStamouder) {
   Speel(Weg()
             .In("GenTxtPrs", "vul RecordNr 4\ntoon\ntoets Escape", R"(

@@ -186,6 +186,16 @@ TEST_F(GenTekstParamToets, KeuzenWordenVergetenAlsDeInstellingenDatZeggen) {
   EXPECT_EQ(Ini(), ini);
 }
 
+TEST_F(GenTekstParamToets, EenKoppelingDieLeegBlijftWistDeBewaardeNiet) {
+  ZetIni("[GEN]", "[INTERNET]\r\nHomePage=thuis.htm\r\n[GEN]");
+  Speel(Weg()
+            .In("GenTxtParam", "stel InHTMLBox Ja\ndruk OKButton")
+            .In("GenHTMLParam", "toon HomePageURL\nvul HomePageURL\ndruk OKButton",
+                "= HomePageURL \"thuis.htm\""));
+  EXPECT_TRUE(IniHeeft("HomePage=thuis.htm"));
+  EXPECT_FALSE(VerslagHeeft("thuis.htm"));
+}
+
 TEST_F(GenTekstParamToets, HetHTMLSchermBewaartBijDeGenealogie) {
   Speel(Weg()
             .In("GenTxtParam", "stel InHTMLBox Ja\ndruk OKButton")
