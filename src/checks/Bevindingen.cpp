@@ -5,6 +5,9 @@
 #include <cstdint>
 #include <utility>
 
+#include "checks/CorrOpmAlg.h"
+#include "checks/CorrPlts.h"
+#include "checks/CorrVerwijzingen.h"
 #include "entry/KaartVelden.h"
 #include "entry/ToonPersoon.h"
 #include "entry/ToonPlaatsen.h"
@@ -42,6 +45,7 @@ Bevindingen::Bevindingen(Hoofdmodule& hoofd, Controleur& regels, BevindingLijst&
   BevindingenLijst.BijKlik([this] { BevindingenLijstKlik(); });
   BevindingenLijst.BijDubbelklik([this] { BevindingenLijstDubbelklik(); });
   KaartButton.BijKlik([this] { KaartButtonKlik(); });
+  CorrigeerButton.BijKlik([this] { CorrigeerButtonKlik(); });
   BackButton.BijKlik([this] { Sluit(); });
   ZetEersteVeld(BevindingenLijst);
 }
@@ -112,11 +116,20 @@ void Bevindingen::BevindingenLijstDubbelklik() {
 }
 
 void Bevindingen::KaartButtonKlik() {
+  Herstel([this](const Bevinding& bevinding) { ToonKaart(bevinding.kaart); });
+}
+
+void Bevindingen::CorrigeerButtonKlik() {
+  Herstel([this](const Bevinding& bevinding) { ToonCorrectie(bevinding.plek); });
+}
+
+void Bevindingen::Herstel(const std::function<void(const Bevinding&)>& toon) {
   const int index = BevindingenLijst.Index();
   if (index < 0) return;
   const Bevinding bevinding = getoond_.at(static_cast<std::size_t>(index));
   const Standen voor = StandenVan(hoofd_.bestanden);
-  ToonKaart(bevinding.kaart);
+  const VolgersBewaker bewaker(hoofd_.volgers);
+  toon(bevinding);
   if (StandenVan(hoofd_.bestanden) == voor) return;
   lijst_.Hertoets(regels_);
   VulSoorten();
@@ -135,8 +148,28 @@ bool Bevindingen::Bestaat(Record& record, const RecordPlek& plek, std::string_vi
   return false;
 }
 
+void Bevindingen::ToonCorrectie(const RecordPlek& plek) {
+  const auto nr = static_cast<std::int16_t>(plek.nr);
+  switch (plek.soort) {
+    case BestandSoort::Personen:
+      hoofd_.volgers.HuidigPersoonNr = nr;
+      hoofd_.gesprek.Toon<CorrVerwijzingen>(kCorrPrsAlg, hoofd_);
+      break;
+    case BestandSoort::Relaties:
+      hoofd_.volgers.HuidigRelatieNr = nr;
+      hoofd_.gesprek.Toon<CorrVerwijzingen>(kCorrRelAlg, hoofd_);
+      break;
+    case BestandSoort::Plaatsen:
+      hoofd_.gesprek.Toon<CorrPltsAlg>(hoofd_);
+      break;
+    case BestandSoort::Opmerkingen:
+      hoofd_.volgers.HuidigOpmNr = nr;
+      hoofd_.gesprek.Toon<CorrOpmAlg>(hoofd_);
+      break;
+  }
+}
+
 void Bevindingen::ToonKaart(const RecordPlek& plek) {
-  const VolgersBewaker bewaker(hoofd_.volgers);
   const auto nr = static_cast<std::int16_t>(plek.nr);
   switch (plek.soort) {
     case BestandSoort::Personen:

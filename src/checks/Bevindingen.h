@@ -1,6 +1,7 @@
 // The findings of a check, to be gone through one by one.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,7 +14,8 @@
 
 namespace lb77 {
 
-// Opens the card of the record on which a finding is mended. When anything was written there, the
+// Opens the card of the record on which a finding is mended, or the dialog that corrects the record of
+// the finding itself. When anything was written there, the
 // records of the list are tested again, and what was mended is marked.
 class Bevindingen final : public Formulier {
  public:
@@ -25,6 +27,7 @@ class Bevindingen final : public Formulier {
   Teller Open{*this, "Open", "Nog te herstellen:"};
   Label MeerLabel{*this, "MeerLabel"};
   Knop KaartButton{*this, "KaartButton", "&Kaart"};
+  Knop CorrigeerButton{*this, "CorrigeerButton", "&Corrigeren"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 
  protected:
@@ -38,6 +41,10 @@ class Bevindingen final : public Formulier {
   void BevindingenLijstKlik();
   void BevindingenLijstDubbelklik();
   void KaartButtonKlik();
+  void CorrigeerButtonKlik();
+  // Lets the user mend the chosen finding, and tests again when that wrote anything.
+  void Herstel(const std::function<void(const Bevinding&)>& toon);
+  void ToonCorrectie(const RecordPlek& plek);
   void ToonKaart(const RecordPlek& plek);
   // Can it be read? Told when it can't.
   template <class Record>

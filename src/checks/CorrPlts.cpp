@@ -106,11 +106,11 @@ CorrPltsTemp::CorrPltsTemp(Hoofdmodule& hoofd, std::int16_t oud, std::int16_t ni
 
 void CorrPltsTemp::BijLaden() {
   Vervangingen.Stand.ZetTekst("0");
-  OKButton.ZetIngeschakeld(false);
 }
 
 void CorrPltsTemp::BijActiveren() {
   ZetBezig(true);
+  OKButton.ZetIngeschakeld(false);
   GeduldLabel.ZetBijschrift(Vervang() ? "Klaar" : "Afgebroken");
   ZetBezig(false);
   OKButton.ZetIngeschakeld(true);

@@ -38,6 +38,14 @@ struct Bron {
   }
 };
 
+Bron<PersoonLB77> Personen(PersoonLB77& persoon, Bestandenset& bestanden) {
+  return {persoon, bestanden.Bestand(BestandSoort::Personen), kPersoonPlaatsen};
+}
+
+Bron<RelatieLB77> Relaties(RelatieLB77& relatie, Bestandenset& bestanden) {
+  return {relatie, bestanden.Bestand(BestandSoort::Relaties), kRelatiePlaatsen};
+}
+
 template <class Klasse>
 std::int32_t TelIn(const Bron<Klasse>& bron, std::int16_t oud) {
   std::int32_t aantal = 0;
@@ -75,17 +83,13 @@ bool VervangIn(const Bron<Klasse>& bron, std::int16_t oud, std::int16_t nieuw,
 }  // namespace
 
 std::int32_t PlaatsVervanging::Tel(std::int16_t oud) {
-  const Bron personen{persoon_, bestanden_.Bestand(BestandSoort::Personen), kPersoonPlaatsen};
-  const Bron relaties{relatie_, bestanden_.Bestand(BestandSoort::Relaties), kRelatiePlaatsen};
-  return TelIn(personen, oud) + TelIn(relaties, oud);
+  return TelIn(Personen(persoon_, bestanden_), oud) + TelIn(Relaties(relatie_, bestanden_), oud);
 }
 
 bool PlaatsVervanging::Vervang(std::int16_t oud, std::int16_t nieuw, const Voortgang& voortgang) {
-  const Bron personen{persoon_, bestanden_.Bestand(BestandSoort::Personen), kPersoonPlaatsen};
-  const Bron relaties{relatie_, bestanden_.Bestand(BestandSoort::Relaties), kRelatiePlaatsen};
   std::int32_t vervangen = 0;
-  return VervangIn(personen, oud, nieuw, vervangen, voortgang.persoon) &&
-         VervangIn(relaties, oud, nieuw, vervangen, voortgang.relatie);
+  return VervangIn(Personen(persoon_, bestanden_), oud, nieuw, vervangen, voortgang.persoon) &&
+         VervangIn(Relaties(relatie_, bestanden_), oud, nieuw, vervangen, voortgang.relatie);
 }
 
 }  // namespace lb77

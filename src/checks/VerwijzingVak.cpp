@@ -7,15 +7,15 @@ namespace lb77 {
 
 namespace {
 
-std::string Benoemd(std::string naam, int nummer) {
-  return nummer > 0 ? Genummerd(naam, nummer) : naam;
+std::string Benoemd(std::string_view naam, int nummer) {
+  return nummer > 0 ? Genummerd(naam, nummer) : std::string(naam);
 }
 
 }  // namespace
 
 VerwijzingVak::VerwijzingVak(InvoerFormulier& formulier, std::string_view naam,
                              std::string_view bijschrift, BestandSoort naar, int nummer)
-    : Nr(*this, formulier, Benoemd(std::string(naam), nummer), bijschrift, naar),
+    : Nr(*this, formulier, Benoemd(naam, nummer), bijschrift, naar),
       Naam(formulier, Benoemd(std::string(naam) + "Naam", nummer)),
       formulier_(formulier),
       naar_(naar) {}

@@ -40,6 +40,7 @@ TEST_F(BevindingenToets, StaanAlsLijstAchterHetVerslag) {
     = Open "3"
     = MeerLabel "0 bevindingen meer staan alleen in het verslag" [verborgen]
     = KaartButton "&Kaart"
+    = CorrigeerButton "&Corrigeren"
     = BackButton "&Terug"
     * BevindingenLijst
     = SoortBox "Alle soorten (3)"
@@ -185,6 +186,60 @@ TEST_F(BevindingenToets, WatHersteldIsStaatErZoBij) {
     - ToonTekst
     - ControlePrs
   )~");
+}
+
+TEST_F(BevindingenToets, EenVerwijzingWordtInHaarCorrectieHersteld) {
+  Speel(kControlePrs, R"~(
+    druk OKButton
+    druk Bevindingen
+    stel SoortBox #2
+    druk CorrigeerButton
+    toon RecordNr
+    vul RelNrOuders ""
+    druk OKButton
+    toon BevindingenLijst
+    druk BackButton
+    druk BackButton
+  )~",
+        R"~(
+    + ControlePrs "Controleer Persoonsbestand"
+    + ToonTekst "Controle Persoonsbestand"
+    + Bevindingen "Bevindingen"
+    + CorrPrsAlg "Corrigeer Verwijzingen Persoonsrecord"
+    = RecordNr "3"
+    - CorrPrsAlg
+    = BevindingenLijst "[hersteld] Persoon 3: Kind komt niet voor bij ouders"
+    #0 "[hersteld] Persoon 3: Kind komt niet voor bij ouders"
+    - Bevindingen
+    - ToonTekst
+    - ControlePrs
+  )~");
+  EXPECT_EQ(na_.HuidigPersoonNr, voor_.HuidigPersoonNr);
+}
+
+TEST_F(BevindingenToets, ElkBestandHeeftZijnEigenCorrectie) {
+  Bouw().WijzigRelatie(2, {{"VrouwNr", "99"}});
+  Bouw().Plaats("Delft", "ZH");
+  Bouw().OpmerkingBijPersoon(3, persoonrubriek::kBeroep, {"een"});
+  Bouw().WijzigPersoon(3, {{"OpmRecord", "0"}});
+  struct Rij {
+    const ControleSoort& soort;
+    std::string naam;
+    std::string titel;
+  };
+  for (const Rij& rij :
+       {Rij{kControleRel, "CorrRelAlg", "Corrigeer Verwijzingen Relatierecord"},
+        Rij{kControlePlts, "CorrPltsAlg", "Vervang Plaatscode"},
+        Rij{kControleOpm, "CorrOpmAlg", "Corrigeer Verwijzingen Opmerkingenrecord"}}) {
+    const std::string naam(rij.soort.naam);
+    Speel(rij.soort,
+          "druk OKButton\ndruk Bevindingen\ndruk CorrigeerButton\ndruk BackButton\n"
+          "druk BackButton\ndruk BackButton\n",
+          "+ " + naam + " \"" + std::string(rij.soort.titel) + "\"\n+ ToonTekst \"" +
+              std::string(rij.soort.verslag) + "\"\n+ Bevindingen \"Bevindingen\"\n+ " + rij.naam +
+              " \"" + rij.titel + "\"\n- " + rij.naam + "\n- Bevindingen\n- ToonTekst\n- " + naam +
+              "\n");
+  }
 }
 
 TEST_F(BevindingenToets, EenRelatieEnEenPlaatsHebbenHunEigenKaart) {

@@ -7,6 +7,11 @@
 
 #include "app/KopieBestanden.h"
 #include "app/Start.h"
+#include "checks/CorrAdm.h"
+#include "checks/CorrOpmAdm.h"
+#include "checks/CorrOpmAlg.h"
+#include "checks/CorrPlts.h"
+#include "checks/CorrVerwijzingen.h"
 #include "entry/HuwActies.h"
 #include "entry/KindActies.h"
 #include "entry/ToonPlaatsen.h"
@@ -105,6 +110,26 @@ const Weg kWegen[] = {
     {"PlaatsenWijzigen",
      "vul PlaatsnaamTekst(0) Leiden\nvul PlaatsnaamTekst(5) Goes\ndruk OKButton",
      [](Hoofdmodule& h) { h.gesprek.Toon<ToonPlaatsen>(h); }},
+    {"AantalCorrigeren", "antwoord Ja\nvul nieuw_aantal 3\ndruk OKButton\ndruk BackButton",
+     [](Hoofdmodule& h) { h.gesprek.Toon<CorrAdm>(kCorrPrsAdm, h); }},
+    {"OpmerkingentellingCorrigeren",
+     "antwoord Ja\nvul nieuw_in_gebruik 1\ndruk OKButton\ndruk BackButton",
+     [](Hoofdmodule& h) { h.gesprek.Toon<CorrOpmAdm>(h); }},
+    {"VerwijzingenCorrigeren",
+     "vul RelNrOuders 3\nvul RubriekTekst(1) +\ndruk OKButton\ndruk BackButton",
+     [](Hoofdmodule& h) {
+       h.volgers.HuidigPersoonNr = 2;
+       h.gesprek.Toon<CorrVerwijzingen>(kCorrPrsAlg, h);
+     }},
+    {"OpmerkingCorrigeren", "vul BijRecordTekst 3\ndruk OKButton\ndruk BackButton",
+     [](Hoofdmodule& h) {
+       h.volgers.HuidigOpmNr = 2;
+       h.gesprek.Toon<CorrOpmAlg>(h);
+     }},
+    {"PlaatsOveralVervangen", "druk OKButton",
+     [](Hoofdmodule& h) {
+       h.gesprek.Toon<CorrPltsTemp>(h, std::int16_t{0}, std::int16_t{2}, "Plaatscode vervangen");
+     }},
     {"KopieTerugzetten", "", ZetKopieTerug},
     {"OngedaanMaken", "",
      [](Hoofdmodule& h) { static_cast<void>(h.bestanden.HetJournaal()->MaakOngedaan(1)); }},

@@ -30,7 +30,7 @@ std::vector<Indeling> Controle() {
       {"ControleOpm", ControleDialoog({}, "OpmerkingenGedaan")},
       {"Bevindingen", Kolom({
                           Velden({"SoortBox", "BevindingenLijst", "Open", "MeerLabel"}),
-                          Knoppen({"KaartButton"}, {"BackButton"}),
+                          Knoppen({"KaartButton", "CorrigeerButton"}, {"BackButton"}),
                       })},
   };
 }

@@ -67,8 +67,13 @@ Blok Persoon() {
 Blok Relatie() {
   std::vector<Blok> velden{"RecordNr", Verwijzing("PersNrMan"), Verwijzing("PersNrVrouw")};
   VoegLijstToe(velden, "PersNrKind", 1, 15);
-  velden.insert(velden.end(), {"Vervolgrecord", "EersteOpm"});
-  return Kolom({Velden(std::move(velden)), Rubrieken(9, 3), Knoppen({"OKButton", "BackButton"})});
+  return Kolom({
+      Rij({
+          Velden(std::move(velden)),
+          Kolom({Velden({"Vervolgrecord", "EersteOpm"}), Rubrieken(9, 9)}),
+      }),
+      Knoppen({"OKButton", "BackButton"}),
+  });
 }
 
 Blok Vervolg(const std::string& lijst, int lengte) {
