@@ -54,6 +54,8 @@ class Sessie {
   void Verwantschap(int een, int ander);
   // Writes the cards of the persons and of the relations up to that number.
   void Kaarten(int tot);
+  // Writes the selections that need no place, and the statistics, those on descendants of that person.
+  void Lijsten(int persoon);
 
  private:
   // What the report does with its prompt, its options and its links.
