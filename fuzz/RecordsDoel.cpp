@@ -1,6 +1,7 @@
 // Any bytes as the four record files: everything is read that record classes and phrases can read,
 // written to as a user would, and told in the Kwartierstaat and the Parenteel of person 2, with
-// their indexes and charts, on the sheets, in his kinship with person 3, and on cards.
+// their indexes and charts, on the sheets, in his kinship with person 3, on cards, in selections
+// and statistics.
 //
 // An input is a byte of choices (see Sessie::Keuze; 64 and 128 leave the writing or the telling
 // out), three lengths of two bytes (low byte first) of the files of persons, relations and places,
@@ -50,6 +51,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t len
     sessie.Parenteel(2, keuzen);
     sessie.Verwantschap(2, 3);
     sessie.Kaarten(20);
+    sessie.Lijsten(2);
   }
   if ((keuzen & kNietSchrijven) == 0) fuzz::SchrijfIets(sessie.hoofd);
   return 0;

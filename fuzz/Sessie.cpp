@@ -9,7 +9,13 @@
 #include "descendants/GenPrs.h"
 #include "exchange/ImpGedcom.h"
 #include "reports/Krtn.h"
+#include "reports/RptFamilies.h"
+#include "reports/RptTakken.h"
+#include "reports/RptTijdbalk.h"
 #include "reports/SchemaVerwantschap.h"
+#include "reports/SelectOpm.h"
+#include "reports/SelectPrs.h"
+#include "reports/SelectRel.h"
 #include "steun/FaalBestand.h"
 #include "text/Getallen.h"
 
@@ -181,6 +187,28 @@ void Sessie::Kaarten(int tot) {
     });
     hoofd.gesprek.Toon<Krtn>(kaart.soort, hoofd);
   }
+}
+
+void Sessie::Lijsten(int persoon) {
+  const std::string nr = GetalTekst(persoon);
+  const auto vul = [&](std::string_view formulier, std::string_view veld, std::string_view waarde) {
+    bediener_.Bij(formulier, [this, veld, tekst = std::string(waarde)](Formulier& form) {
+      Werk werk(bediener_, form);
+      if (werk.Zet(veld, tekst)) werk.Druk("OKButton");
+    });
+  };
+  vul("SelectPrs", "VanDatumGeb", "1-1-1700");
+  vul("SelectRel", "VoorNm", "a");
+  vul("SelectOpm", "ZoekTekst", "e");
+  vul("RptTakken", "PersNr", nr);
+  vul("RptTijdbalk", "PersNr", nr);
+  vul("RptFamilies", "MinimumAantal", "1");
+  hoofd.gesprek.Toon<SelectPrs>(hoofd);
+  hoofd.gesprek.Toon<SelectRel>(hoofd);
+  hoofd.gesprek.Toon<SelectOpm>(hoofd);
+  hoofd.gesprek.Toon<RptTakken>(hoofd);
+  hoofd.gesprek.Toon<RptTijdbalk>(hoofd);
+  hoofd.gesprek.Toon<RptFamilies>(hoofd);
 }
 
 void Sessie::VulParam(Formulier& formulier, unsigned keuzen, std::string_view herhaling,

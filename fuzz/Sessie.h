@@ -57,6 +57,8 @@ class Sessie {
   void Verwantschap(int een, int ander);
   // Writes the cards of the persons and of the relations up to that number.
   void Kaarten(int tot);
+  // Writes the selections that need no place, and the statistics, those on descendants of that person.
+  void Lijsten(int persoon);
 
  private:
   using Keuzen = std::vector<std::pair<std::string_view, std::string_view>>;

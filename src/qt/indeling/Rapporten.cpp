@@ -8,16 +8,18 @@ std::vector<Indeling> Rapporten() {
       {"PrsKrtn", Kolom({
                       "VraagLabel",
                       Rooster({
-                          Rij({"RecordNrPers(0)", "ZoekPersButton(0)", "Naam(0)", "Periode(0)"}),
-                          Rij({"RecordNrPers(1)", "ZoekPersButton(1)", "Naam(1)", "Periode(1)"}),
+                          Rij({"RecordNrPers(0)", "ZoekPersButton(0)", Veld("Naam(0)", "", 40),
+                               Veld("Periode(0)", "", 10)}),
+                          Rij({"RecordNrPers(1)", "ZoekPersButton(1)", Veld("Naam(1)", "", 40),
+                               Veld("Periode(1)", "", 10)}),
                       }),
                       Knoppen({"OKButton", "BackButton"}),
                   })},
       {"RelKrtn", Kolom({
                       "VraagLabel",
                       Rooster({
-                          Rij({"RecordNrRel(0)", "Man(0)", "Vrouw(0)"}),
-                          Rij({"RecordNrRel(1)", "Man(1)", "Vrouw(1)"}),
+                          Rij({"RecordNrRel(0)", Veld("Man(0)", "", 30), Veld("Vrouw(0)", "", 30)}),
+                          Rij({"RecordNrRel(1)", Veld("Man(1)", "", 30), Veld("Vrouw(1)", "", 30)}),
                       }),
                       Knoppen({"OKButton", "BackButton"}),
                   })},
