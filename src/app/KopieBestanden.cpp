@@ -149,14 +149,17 @@ SysteemFout KopieerMap(const fs::path& bron, const fs::path& doel) {
 }
 
 SysteemFout VervangInhoud(Bestandenset& bestanden,
-                          const std::map<BestandSoort, std::string>& inhoud,
-                          std::string_view label) {
+                          const std::map<BestandSoort, std::string>& inhoud, std::string_view label,
+                          SysteemFout& nietVeilig) {
   const std::shared_ptr<Journaal> journaal = bestanden.HetJournaal();
   const std::uint32_t eerder = journaal ? LaatsteNummer(*journaal) : 0;
   Handeling handeling(bestanden, label);
   SysteemFout fout = VervangAlle(bestanden, inhoud);
   SysteemFout einde = handeling.Voltooi();
-  if (!fout) return einde;
+  if (!fout) {
+    nietVeilig = std::move(einde);
+    return {};
+  }
   // Half a replacement is none. One that wrote nothing has left no action.
   const std::uint32_t half = journaal ? LaatsteNummer(*journaal) : 0;
   if (half != eerder) static_cast<void>(journaal->MaakOngedaan(half));

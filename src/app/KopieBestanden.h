@@ -42,9 +42,10 @@ using MapInhoud = std::map<std::filesystem::path, std::string>;
                                      bool& gewijzigd);
 
 // Makes the open files hold exactly these bytes, as one action of that label. After a failure they
-// are as they were, unless the journal tells of an unfinished action.
+// are as they were, unless the journal tells of an unfinished action. `nietVeilig` is set when they
+// do hold them and the journal could not end the action yet.
 [[nodiscard]] SysteemFout VervangInhoud(Bestandenset& bestanden,
                                         const std::map<BestandSoort, std::string>& inhoud,
-                                        std::string_view label);
+                                        std::string_view label, SysteemFout& nietVeilig);
 
 }  // namespace lb77

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 
+#include "app/NietVeilig.h"
 #include "app/SetOpenen.h"
 
 namespace lb77 {
@@ -42,6 +43,7 @@ void KopieTerugzetten::OKButtonKlik() {
   const std::string uitleg = TekstUitleg(uitslag);
   hoofd_.gesprek.Informeer("De veiligheidskopie is teruggezet" +
                            (uitleg.empty() ? "" : "\n" + uitleg));
+  MeldNietVeilig(hoofd_.gesprek, uitslag.nietVeilig);
   if (uitslag.tekstFout) {
     hoofd_.gesprek.Fout("De map TEKST is niet geheel teruggezet\n" + uitslag.tekstFout.tekst);
   }

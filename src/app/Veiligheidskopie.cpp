@@ -308,8 +308,8 @@ TerugUitslag Veiligheidskopie::ZetTerug(const std::string& naam) {
   if (!uitslag.fout) uitslag.fout = MaakZonodig();
   if (uitslag.fout) return uitslag;
   uitslag.vorige = Laatste();
-  uitslag.fout =
-      VervangInhoud(opslag_.bestanden, inhoud, "Veiligheidskopie teruggezet: " + TijdVan(naam));
+  uitslag.fout = VervangInhoud(opslag_.bestanden, inhoud,
+                               "Veiligheidskopie teruggezet: " + TijdVan(naam), uitslag.nietVeilig);
   if (!uitslag.fout) uitslag.tekstFout = SchrijfMap(VindPad(paden_.tekst), teksten, uitslag.tekst);
   return uitslag;
 }

@@ -39,9 +39,10 @@ struct KopieRij {
 
 // What came of putting a copy back.
 struct TerugUitslag {
-  SysteemFout fout;              // then the four files are as they were, and TEKST too
-  bool tekst = false;            // something in TEKST was replaced
-  SysteemFout tekstFout;         // then not all of TEKST is back
+  SysteemFout fout;        // then the four files are as they were, and TEKST too
+  SysteemFout nietVeilig;  // all is in its place, but the journal could not end the action yet
+  bool tekst = false;      // something in TEKST was replaced
+  SysteemFout tekstFout;   // then not all of TEKST is back
   std::filesystem::path vorige;  // the copy of what was there
 };
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <string>
 
+#include "app/NietVeilig.h"
 #include "checks/LaatsteRecord.h"
-#include "entry/NietVeilig.h"
 #include "store/Handeling.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <string>
 
+#include "app/NietVeilig.h"
 #include "checks/CorrAdm.h"
 #include "checks/LaatsteRecord.h"
-#include "entry/NietVeilig.h"
 #include "store/Handeling.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"

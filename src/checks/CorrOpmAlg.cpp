@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "app/NietVeilig.h"
 #include "checks/CorrNamen.h"
-#include "entry/NietVeilig.h"
 #include "store/Handeling.h"
 #include "store/OpmVelden.h"
 #include "text/Getallen.h"

@@ -1,8 +1,8 @@
 #include "checks/CorrPlts.h"
 
+#include "app/NietVeilig.h"
 #include "checks/PlaatsVervanging.h"
 #include "entry/Invoer.h"
-#include "entry/NietVeilig.h"
 #include "store/Handeling.h"
 #include "text/Getallen.h"
 

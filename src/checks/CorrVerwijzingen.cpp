@@ -5,8 +5,8 @@
 #include <string>
 #include <utility>
 
+#include "app/NietVeilig.h"
 #include "checks/CorrNamen.h"
-#include "entry/NietVeilig.h"
 #include "forms/Rijnaam.h"
 #include "store/Handeling.h"
 #include "store/PersoonVelden.h"

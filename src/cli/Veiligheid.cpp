@@ -10,6 +10,7 @@
 
 #include "app/HandelingTekst.h"
 #include "app/KopiePlek.h"
+#include "app/NietVeilig.h"
 #include "app/Ongedaan.h"
 #include "app/SetOpenen.h"
 #include "app/Veiligheidskopie.h"
@@ -166,6 +167,7 @@ int Terugzetten(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) 
     }
     Schrijf(omgeving.uit, "Teruggezet: " + naam);
     if (uitslag.tekst) Schrijf(omgeving.uit, TekstUitleg(uitslag));
+    MeldNietVeilig(sessie.Hoofd().gesprek, uitslag.nietVeilig);
     if (uitslag.tekstFout) {
       sessie.bediener.Mislukt("De map TEKST is niet geheel teruggezet\n" + uitslag.tekstFout.tekst);
     }

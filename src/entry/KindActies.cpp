@@ -4,9 +4,9 @@
 #include <string>
 
 #include "app/Hoofdmodule.h"
+#include "app/NietVeilig.h"
 #include "entry/KoppelVragen.h"
 #include "entry/Koppelingen.h"
-#include "entry/NietVeilig.h"
 #include "entry/Ordenen.h"
 #include "store/Handeling.h"
 #include "store/PersoonVelden.h"

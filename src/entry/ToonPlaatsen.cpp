@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "app/NietVeilig.h"
 #include "entry/DubbelePlaats.h"
-#include "entry/NietVeilig.h"
 #include "entry/VraagPlaatsnm.h"
 #include "entry/VraagPlaatsnr.h"
 #include "store/Handeling.h"

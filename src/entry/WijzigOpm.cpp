@@ -3,7 +3,7 @@
 #include <optional>
 #include <utility>
 
-#include "entry/NietVeilig.h"
+#include "app/NietVeilig.h"
 #include "entry/VeldToets.h"
 #include "store/Handeling.h"
 #include "text/Getallen.h"

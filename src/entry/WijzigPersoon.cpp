@@ -4,9 +4,9 @@
 #include <utility>
 #include <vector>
 
+#include "app/NietVeilig.h"
 #include "entry/HuwRegels.h"
 #include "entry/Koppelingen.h"
-#include "entry/NietVeilig.h"
 #include "entry/VolgersBewaker.h"
 #include "store/Codes.h"
 #include "store/Handeling.h"

@@ -3,9 +3,9 @@
 #include <cstdlib>
 #include <utility>
 
+#include "app/NietVeilig.h"
 #include "entry/Invoer.h"
 #include "entry/Koppelingen.h"
-#include "entry/NietVeilig.h"
 #include "entry/VolgersBewaker.h"
 #include "store/Handeling.h"
 #include "store/RelatieVelden.h"

@@ -164,8 +164,9 @@ TEST_F(Kopieen, WieNietsGeschrevenHeeftMaaktNietsOngedaan) {
     std::string anders = Inhoud("DATA/EEN/EEN.PRS");
     anders[1] = 'q';
     const std::string voor = Inhoud("DATA/EEN/EEN.PRS");
+    SysteemFout nietVeilig;
     EXPECT_TRUE(VervangInhoud(hoofd.bestanden, {{BestandSoort::Personen, anders}},
-                              "Veiligheidskopie teruggezet: 2026-01-02 03:04:05"));
+                              "Veiligheidskopie teruggezet: 2026-01-02 03:04:05", nietVeilig));
     EXPECT_EQ(Inhoud("DATA/EEN/EEN.PRS"), voor);
     EXPECT_EQ(journaal.LaatsteTeOngedaan()->nummer, 3U);
   });
@@ -216,9 +217,12 @@ TEST_F(Kopieen, EenLangereEnEenAfgekapteKopieKomenByteVoorByteTerug) {
   lang += "half";
   const std::string kort = Inhoud("DATA/EEN/EEN.RLT");
   Doe([&](Hoofdmodule& hoofd, Veiligheidskopie&) {
-    ASSERT_FALSE(VervangInhoud(hoofd.bestanden, {{BestandSoort::Relaties, lang}}, "Langer"));
+    SysteemFout nietVeilig;
+    ASSERT_FALSE(
+        VervangInhoud(hoofd.bestanden, {{BestandSoort::Relaties, lang}}, "Langer", nietVeilig));
     EXPECT_EQ(Inhoud("DATA/EEN/EEN.RLT"), lang);
-    ASSERT_FALSE(VervangInhoud(hoofd.bestanden, {{BestandSoort::Relaties, kort}}, "Korter"));
+    ASSERT_FALSE(
+        VervangInhoud(hoofd.bestanden, {{BestandSoort::Relaties, kort}}, "Korter", nietVeilig));
     EXPECT_EQ(Inhoud("DATA/EEN/EEN.RLT"), kort);
     Journaal& journaal = *hoofd.bestanden.HetJournaal();
     EXPECT_TRUE(journaal.MaakOngedaan(2));

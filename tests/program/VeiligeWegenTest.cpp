@@ -67,7 +67,9 @@ void ZetKopieTerug(Hoofdmodule& hoofd) {
     for (std::size_t i = half; i < bytes.size(); ++i) bytes[i] = static_cast<char>(bytes[i] ^ 1);
     bytes.resize(soort == BestandSoort::Relaties ? half + 7 : bytes.size() + 300, 'x');
   }
-  static_cast<void>(VervangInhoud(hoofd.bestanden, inhoud, "Veiligheidskopie teruggezet"));
+  SysteemFout nietVeilig;
+  static_cast<void>(
+      VervangInhoud(hoofd.bestanden, inhoud, "Veiligheidskopie teruggezet", nietVeilig));
 }
 
 constexpr const char* kImport =
