@@ -160,7 +160,7 @@ void Bevindingen::ToonCorrectie(const RecordPlek& plek) {
       hoofd_.gesprek.Toon<CorrVerwijzingen>(kCorrRelAlg, hoofd_);
       break;
     case BestandSoort::Plaatsen:
-      hoofd_.gesprek.Toon<CorrPltsAlg>(hoofd_);
+      hoofd_.gesprek.Toon<CorrPltsAlg>(hoofd_, nr);
       break;
     case BestandSoort::Opmerkingen:
       hoofd_.volgers.HuidigOpmNr = nr;

@@ -57,12 +57,14 @@ void PlaatsNrVak::Toon() {
   Prov.ZetTekst(plaats.Prov(Code()));
 }
 
-CorrPltsAlg::CorrPltsAlg(Hoofdmodule& hoofd) : InvoerFormulier("CorrPltsAlg", kTitel, hoofd) {
+CorrPltsAlg::CorrPltsAlg(Hoofdmodule& hoofd, std::int16_t oud)
+    : InvoerFormulier("CorrPltsAlg", kTitel, hoofd) {
   ZetHulpOnderwerp("corrigeren");
   ZetEersteVeld(Oud.Nr);
   Oud.Nr.BijVerlaten([this] { return OudNrVerlaten(); });
   OKButton.BijKlik([this] { OKButtonKlik(); });
   BackButton.BijKlik([this] { Sluit(); });
+  if (oud > 0) Oud.Nr.ZetTekst(GetalTekst(oud));
 }
 
 bool CorrPltsAlg::OudNrVerlaten() {

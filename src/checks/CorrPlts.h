@@ -49,7 +49,8 @@ class PlaatsNrVak {
 
 class CorrPltsAlg final : public InvoerFormulier {
  public:
-  explicit CorrPltsAlg(Hoofdmodule& hoofd);
+  // Opens with `oud` as the old place; 0 leaves the field empty.
+  explicit CorrPltsAlg(Hoofdmodule& hoofd, std::int16_t oud = 0);
 
   PlaatsNrVak Oud{*this, "Oud", "Oude Plaatscode:"};
   Teller Verwijzingen{*this, "Verwijzingen", "Aantal verwijzingen:"};

@@ -242,6 +242,30 @@ TEST_F(BevindingenToets, ElkBestandHeeftZijnEigenCorrectie) {
   }
 }
 
+TEST_F(BevindingenToets, VervangenBegintMetDePlaatsVanDeBevinding) {
+  Bouw().Plaats("Delft", "ZH");
+  Speel(kControlePlts, R"~(
+    druk OKButton
+    druk Bevindingen
+    druk CorrigeerButton
+    toon PlaatsNrOud
+    druk BackButton
+    druk BackButton
+    druk BackButton
+  )~",
+        R"~(
+    + ControlePlts "Controleer Plaatsbestand"
+    + ToonTekst "Controle Plaatsbestand"
+    + Bevindingen "Bevindingen"
+    + CorrPltsAlg "Vervang Plaatscode"
+    = PlaatsNrOud "2"
+    - CorrPltsAlg
+    - Bevindingen
+    - ToonTekst
+    - ControlePlts
+  )~");
+}
+
 TEST_F(BevindingenToets, EenRelatieEnEenPlaatsHebbenHunEigenKaart) {
   Bouw().WijzigRelatie(2, {{"VrouwNr", "99"}});
   Bouw().Plaats("Delft", "ZH");
