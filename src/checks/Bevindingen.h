@@ -15,8 +15,8 @@
 namespace lb77 {
 
 // Opens the card of the record on which a finding is mended, or the dialog that corrects the record of
-// the finding itself. When anything was written there, the
-// records of the list are tested again, and what was mended is marked.
+// the finding itself. When anything was written there, the records of the list are tested again, and
+// what was mended is marked.
 class Bevindingen final : public Formulier {
  public:
   // `regels` and `lijst` outlive the form.

@@ -92,7 +92,9 @@ const ControleOpmRegels::Eigenaar& ControleOpmRegels::EigenaarVan(const Regel& r
 
 void ControleOpmRegels::Toets(std::int16_t nr, const Melding& meld) {
   OpmLB77& opmerking = gegevens_.opmerking;
-  if (!opmerking.Lees(nr) || opmerking.Rubriek() == 0 || goed_[Op(nr)]) return;
+  if (!opmerking.Lees(nr) || opmerking.Rubriek() == 0) return;
+  // Behind the last record of a file that was cut meanwhile nothing was looked up.
+  if (Op(nr) < goed_.size() && goed_[Op(nr)]) return;
   const bool persoon = IsBijPersoon(opmerking.Rubriek());
   const std::int16_t eigenaar = opmerking.BijRecord();
   meld({{BestandSoort::Opmerkingen, nr},

@@ -69,8 +69,8 @@ void OpmTelling::Toon(std::int16_t aantal, std::int32_t gevonden, int hoogste) {
   Nieuw.ZetHoogste(std::min(hoogste, kMaxRecords));
 }
 
-std::int16_t OpmTelling::Waarde() const {
-  return Nieuw.Tekst().empty() ? aantal_ : static_cast<std::int16_t>(Getalwaarde(Nieuw.Tekst()));
+std::int16_t OpmTelling::Waarde(std::int16_t nu) const {
+  return Nieuw.Tekst().empty() ? nu : static_cast<std::int16_t>(Getalwaarde(Nieuw.Tekst()));
 }
 
 CorrOpmAdm::CorrOpmAdm(Hoofdmodule& hoofd)
@@ -99,15 +99,19 @@ void CorrOpmAdm::OKButtonKlik() {
 // What was not stored stays on the screen.
 bool CorrOpmAdm::Bewaar() {
   Gesprek& gesprek = Hoofd().gesprek;
-  if (!Hoofd().Opmerking.LeesAdmin()) {
+  OpmLB77& opmerking = Hoofd().Opmerking;
+  if (!opmerking.LeesAdmin()) {
     gesprek.Fout(kLeesfoutAdmin);
     return false;
   }
   if (!WilAdminOpslaan(gesprek)) return false;
   Handeling handeling(Hoofd().bestanden,
                       "Administratierecord van het Opmerkingenbestand gecorrigeerd");
+  // A field left empty keeps what stands there now, which the dialog may have failed to read.
+  const std::int16_t ongebruikt = Ongebruikt.Waarde(opmerking.BijProg());
+  const std::int16_t gebruikt = Gebruikt.Waarde(opmerking.BijRecord());
   const bool gelukt =
-      Hoofd().Opmerking.SchrijfAdm(Aantal.Waarde(), Ongebruikt.Waarde(), Gebruikt.Waarde());
+      opmerking.SchrijfAdm(Aantal.Waarde(opmerking.AantalInAdmin()), ongebruikt, gebruikt);
   MeldNietVeilig(gesprek, handeling.Voltooi());
   return gelukt;
 }

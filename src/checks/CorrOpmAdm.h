@@ -43,9 +43,9 @@ struct OpmTelling {
 
   // Precondition: `aantal` is what record 1 states.
   void Toon(std::int16_t aantal, std::int32_t gevonden, int hoogste);
-  // The count to store.
-  [[nodiscard]] std::int16_t Waarde() const;
-  [[nodiscard]] bool Gewijzigd() const { return Waarde() != aantal_; }
+  // The count to store: `nu` when the user gave none.
+  [[nodiscard]] std::int16_t Waarde(std::int16_t nu) const;
+  [[nodiscard]] bool Gewijzigd() const { return Waarde(aantal_) != aantal_; }
 
  private:
   std::int16_t aantal_ = 0;

@@ -103,14 +103,11 @@ const CorrSoort kCorrPrsVlg{"CorrPrsVlg",
                             RelatiesVanaf(3),
                             nullptr,
                             "Fout bij het schrijven van het Persoonsrecord"};
-const CorrSoort kCorrRelVlg{"CorrRelVlg",
-                            "Corrigeer Verwijzingen Vervolgrecord Relatiebestand",
-                            "Relatierecord",
-                            kRelaties,
-                            kRelatieVervolgKoppen,
-                            KinderenVanaf(15),
+const CorrSoort kCorrRelVlg{"CorrRelVlg", "Corrigeer Verwijzingen Vervolgrecord Relatiebestand",
+                            "Relatierecord", kRelaties, kRelatieVervolgKoppen, KinderenVanaf(15),
                             nullptr,
-                            "Fout bij het schrijven van het Relatierecord"};
+                            // kept: the same text for both files.
+                            "Fout bij het schrijven van het Persoonsrecord"};
 
 RubriekVak::RubriekVak(InvoerFormulier& formulier, int nummer, std::int16_t rubriek)
     : InvoerVak(formulier, Genummerd("RubriekTekst", nummer),

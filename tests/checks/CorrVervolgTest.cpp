@@ -178,7 +178,7 @@ TEST_F(CorrVlgTest, EenSchrijffoutHeeftZijnEigenMelding) {
                  Verwijzingen(kCorrRelVlg, 7), [&](bool) { alles += verslag_; });
   EXPECT_NE(alles.find(Regels(R"(
       ! stop "Fout bij het schrijven van Relatierecord 7\nSchijf vol"
-      ! stop "Fout bij het schrijven van het Relatierecord"
+      ! stop "Fout bij het schrijven van het Persoonsrecord"
       - CorrRelVlg
     )")),
             std::string::npos);
