@@ -7,7 +7,7 @@ namespace {
 
 constexpr Generatiegrens kGeneraties{1, 80, "Onjuist aantal generaties (1-80)", "80"};
 constexpr GrensVakSoort kLeeftijd{"GrensLeeftijd",
-                                  "Grensleeftijd:",
+                                  "Leeftijdsgrens",
                                   2,
                                   1,
                                   50,

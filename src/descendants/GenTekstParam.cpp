@@ -8,7 +8,7 @@ namespace lb77 {
 namespace {
 
 // Any age that fits will do.
-constexpr GrensVakSoort kLeeftijd{"GrensLeeftijd", "Grensleeftijd:", 3, 0, 999, {}, {}};
+constexpr GrensVakSoort kLeeftijd{"GrensLeeftijd", "Leeftijdsgrens", 3, 0, 999, {}, {}};
 constexpr std::size_t kBestandsnaam = 81;
 
 // The control, where the dialog has it.
@@ -24,7 +24,8 @@ GenTekstParam::GenTekstParam(const GenTekstParamSoort& soort, Hoofdmodule& hoofd
     : GenParam({soort.naam, soort.titel, kGenSectie, kTotTachtig, kLeeftijd}, hoofd, opties),
       OokNrsBox(*this, "OokNrsBox", soort.nummers),
       OokOpmBox(Als<JaNeeVak>(!soort.isIndex, *this, "OokOpmBox", "Ook Opmerkingen uitvoeren ?")),
-      VerwijsBox(Als<JaNeeVak>(!soort.isIndex, *this, "VerwijsBox", "Verwijzen naar de ouder ?")),
+      VerwijsBox(Als<JaNeeVak>(!soort.isIndex, *this, "VerwijsBox",
+                               "Ook terugverwijzen naar de ouders ?")),
       HTMLfileTekst(
           Als<Tekstvak>(soort.isIndex, *this, "HTMLfileTekst", "HTML-file:", kBestandsnaam)),
       Titels(*this, kGenSectie),

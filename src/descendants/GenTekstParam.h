@@ -36,7 +36,8 @@ class GenTekstParam final : public GenParam {
  public:
   GenTekstParam(const GenTekstParamSoort& soort, Hoofdmodule& hoofd, GenOpties& opties);
 
-  Keuzevak PerTakBox{*this, "PerTakBox", "Volgorde:", {"Per tak", "Per generatie"}};
+  Keuzevak PerTakBox{
+      *this, "PerTakBox", "Uitvoer per tak of per generatie ?", {"Per tak", "Per generatie"}};
   JaNeeVak OokNrsBox;
   std::optional<JaNeeVak> OokOpmBox;
   std::optional<JaNeeVak> VerwijsBox;

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "descendants/GenKeten.h"
+#include "descendants/GenTekstParam.h"
 
 namespace lb77 {
 namespace {
@@ -18,6 +19,16 @@ class GenTekstParamToets : public GenKeten {
           plek);
   }
 };
+
+TEST_F(GenTekstParamToets, VraagtInDeWoordenDieGebruikersKennen) {
+  Stil([](Hoofdmodule& hoofd) {
+    GenOpties opties;
+    const GenTekstParam vorm(kGenTxtParam, hoofd, opties);
+    EXPECT_EQ(vorm.VerwijsBox->Prompt(), "Ook terugverwijzen naar de ouders ?");
+    EXPECT_EQ(vorm.PerTakBox.Prompt(), "Uitvoer per tak of per generatie ?");
+    EXPECT_EQ(vorm.GrensLeeftijd.Prompt(), "Leeftijdsgrens");
+  });
+}
 
 TEST_F(GenTekstParamToets, OpentMetZijnStandaardEnDeBewaardeKeuzen) {
   Speel(Weg()
