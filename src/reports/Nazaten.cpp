@@ -13,9 +13,6 @@ namespace {
 constexpr std::int32_t kOngelezen = -1;
 constexpr std::int32_t kNiemand = -2;
 
-// How far the walk is with a person.
-enum class Toestand : std::uint8_t { Nieuw, OpHetPad, Klaar };
-
 int Eerste(int jaar, int anders) {
   return jaar != 0 ? jaar : anders;
 }
@@ -26,11 +23,6 @@ void Jaren::Neem(int jaar) {
   if (jaar == 0) return;
   laagste = laagste == 0 ? jaar : std::min(laagste, jaar);
   hoogste = hoogste == 0 ? jaar : std::max(hoogste, jaar);
-}
-
-std::int64_t TelBij(std::int64_t aantal, std::int64_t erbij) {
-  constexpr std::int64_t kMeeste = std::numeric_limits<std::int64_t>::max();
-  return aantal > kMeeste - erbij ? kMeeste : aantal + erbij;
 }
 
 std::optional<std::size_t> Nazaten::Vind(std::int16_t nr) {
@@ -74,60 +66,38 @@ void Nazaten::LeesGezin(std::int16_t relNr, Nazaat& nazaat) {
                [](std::int16_t kind) { return kind >= kEersteRecord; });
 }
 
-// One person on the path, and which of his children comes next.
-struct Nazaten::Stap {
-  std::size_t wie;
-  std::size_t kind;
-};
-
-// Everybody once, each ahead of those whom the walk reached through him. A stack of its own: a file
-// can hold more generations than a call stack.
-bool Nazaten::Orden(std::size_t wie, std::optional<std::size_t> boven, const Verloop& verloop,
-                    std::vector<std::size_t>& volgorde) {
-  std::vector<Toestand> toestand(lijst_.size(), Toestand::Nieuw);
-  if (boven) toestand[*boven] = Toestand::OpHetPad;
-  if (toestand[wie] == Toestand::OpHetPad) return true;
-  toestand[wie] = Toestand::OpHetPad;
-  std::vector<Stap> pad{{wie, 0}};
-  while (!pad.empty()) {
-    Stap& stap = pad.back();
-    if (stap.kind == lijst_[stap.wie].kinderen.size()) {
-      toestand[stap.wie] = Toestand::Klaar;
-      volgorde.push_back(stap.wie);
-      pad.pop_back();
-      continue;
+// Everybody below the first of `leden`, each once, and the links between them.
+bool Nazaten::MaakNet(std::vector<std::size_t>& leden, std::optional<std::size_t> boven,
+                      const Verloop& verloop, Net& net) {
+  constexpr std::size_t kBuiten = std::numeric_limits<std::size_t>::max();
+  std::vector<std::size_t> plaats(lijst_.size(), kBuiten);
+  plaats[leden.front()] = 0;
+  for (std::size_t lid = 0; lid < leden.size(); ++lid) {
+    net.emplace_back();
+    for (std::size_t i = 0; i < lijst_[leden[lid]].kinderen.size(); ++i) {
+      if (verloop.afbreken()) return false;
+      const auto kind = Vind(lijst_[leden[lid]].kinderen[i]);
+      if (!kind || kind == boven) continue;
+      plaats.resize(lijst_.size(), kBuiten);
+      if (plaats[*kind] == kBuiten) {
+        plaats[*kind] = leden.size();
+        leden.push_back(*kind);
+      }
+      net[lid].push_back(plaats[*kind]);
     }
-    const auto kind = Vind(lijst_[stap.wie].kinderen[stap.kind++]);
-    if (verloop.afbreken()) return false;
-    toestand.resize(lijst_.size(), Toestand::Nieuw);
-    if (!kind || toestand[*kind] != Toestand::Nieuw) continue;
-    toestand[*kind] = Toestand::OpHetPad;
-    pad.push_back({*kind, 0});
   }
-  std::reverse(volgorde.begin(), volgorde.end());
   return true;
 }
 
 bool Nazaten::Loop(std::size_t wie, std::optional<std::size_t> boven, const Verloop& verloop,
                    std::vector<Telling>& tellingen) {
-  std::vector<std::size_t> volgorde;
   tellingen.clear();
-  if (!Orden(wie, boven, verloop, volgorde)) return false;
-  constexpr std::size_t kBuiten = std::numeric_limits<std::size_t>::max();
-  std::vector<std::size_t> plaats(lijst_.size(), kBuiten);
-  for (std::size_t i = 0; i < volgorde.size(); ++i) {
-    plaats[volgorde[i]] = i;
-    tellingen.push_back({volgorde[i], i == 0 ? 1 : 0});
-  }
-  for (std::size_t i = 0; i < tellingen.size(); ++i) {
-    for (const std::int16_t nr : lijst_[tellingen[i].wie].kinderen) {
-      const auto kind = Vind(nr);
-      // Who stands ahead of his parent closes a loop.
-      if (!kind || plaats[*kind] == kBuiten || plaats[*kind] <= i) continue;
-      std::int64_t& keer = tellingen[plaats[*kind]].keer;
-      keer = TelBij(keer, tellingen[i].keer);
-    }
-  }
+  if (wie == boven) return true;
+  std::vector<std::size_t> leden{wie};
+  Net net;
+  if (!MaakNet(leden, boven, verloop, net)) return false;
+  tellingen = TelWegen(net);
+  for (Telling& telling : tellingen) telling.wie = leden[telling.wie];
   return true;
 }
 

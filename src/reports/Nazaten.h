@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "reporting/Verloop.h"
+#include "reports/Wegen.h"
 #include "store/PersoonLB77.h"
 #include "store/RelatieLB77.h"
 
@@ -32,15 +33,6 @@ struct Nazaat {
       kinderen;  // through all relations, in their order; as often as he stands there
 };
 
-// How often the walk came to a person.
-struct Telling {
-  std::size_t wie = 0;  // index for Nazaten::operator[]
-  std::int64_t keer = 0;
-};
-
-// The sum of counts that are not negative; the largest number there is for one that would be larger.
-[[nodiscard]] std::int64_t TelBij(std::int64_t aantal, std::int64_t erbij);
-
 // Reads what a walk needs, and keeps it for the next walk.
 class Nazaten {
  public:
@@ -53,19 +45,17 @@ class Nazaten {
   // How many were read.
   [[nodiscard]] std::size_t Aantal() const { return lijst_.size(); }
 
-  // All whom the walk from `wie` reaches, himself first, parents ahead of their children. Who is
-  // reached by two ways counts twice, and so do those below him. A child who is an ancestor on the
-  // path, or `boven`, is not followed, nor counted for it. False when it was stopped.
+  // All whom the walk from `wie` reaches, as TelWegen counts them, by their index here: who is reached
+  // by two ways counts twice, and so do those below him. Who is an ancestor on the path, or `boven`,
+  // is neither followed nor counted again. False when it was stopped.
   [[nodiscard]] bool Loop(std::size_t wie, std::optional<std::size_t> boven, const Verloop& verloop,
                           std::vector<Telling>& tellingen);
 
  private:
-  struct Stap;
-
   [[nodiscard]] Nazaat Lees(std::int16_t nr);
   void LeesGezin(std::int16_t relNr, Nazaat& nazaat);
-  [[nodiscard]] bool Orden(std::size_t wie, std::optional<std::size_t> boven,
-                           const Verloop& verloop, std::vector<std::size_t>& volgorde);
+  [[nodiscard]] bool MaakNet(std::vector<std::size_t>& leden, std::optional<std::size_t> boven,
+                             const Verloop& verloop, Net& net);
 
   PersoonLB77& persoon_;
   RelatieLB77& relatie_;

@@ -81,6 +81,19 @@ TEST_F(NazatenToets, EenVoorouderOpHetPadWordtNietGevolgd) {
   EXPECT_EQ(Tel(c), (Keren{{a, 1}, {b, 2}, {c, 1}}));
 }
 
+// The order of the links does not tell whom a loop leaves out.
+TEST_F(NazatenToets, EenKringTeltLangsElkPad) {
+  const auto a = Mens("A");
+  const auto b = Mens("B");
+  const auto c = Mens("C");
+  const auto d = Mens("D");
+  bouw_.Relatie(a, 0, {b, c});
+  bouw_.Relatie(b, 0, {c});
+  bouw_.Relatie(c, 0, {b, d});
+  EXPECT_EQ(Tel(a), (Keren{{a, 1}, {b, 2}, {c, 2}, {d, 2}}));
+  EXPECT_EQ(Tel(b, a), (Keren{{b, 1}, {c, 1}, {d, 1}}));
+}
+
 TEST_F(NazatenToets, WieBovenDeWandelingStaatIsEenVoorouder) {
   const auto a = Mens("A");
   const auto b = Mens("B");
