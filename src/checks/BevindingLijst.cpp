@@ -2,17 +2,18 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <map>
 #include <set>
-#include <string>
+#include <string_view>
 #include <utility>
 
 #include "checks/Controleur.h"
 
 namespace lb77 {
 
-BevindingLijst::BevindingLijst(std::vector<Bevinding> gevonden, std::size_t aantal)
-    : nietInLijst_(aantal - std::min(aantal, gevonden.size())) {
+BevindingLijst::BevindingLijst(std::vector<Bevinding> gevonden, BuitenLijst buiten)
+    : buiten_(buiten) {
   regels_.reserve(gevonden.size());
   for (Bevinding& bevinding : gevonden) regels_.push_back({std::move(bevinding)});
   Orden();
@@ -34,26 +35,32 @@ std::vector<BevindingLijst::SoortTelling> BevindingLijst::Soorten() const {
   return uit;
 }
 
-// A text tells its record, so that a finding is known by its text.
+// A text tells its record, so that a finding is known by its text; lines that read alike are counted.
 void BevindingLijst::Hertoets(Controleur& regels) {
   std::set<std::int32_t> nummers;
-  for (const Regel& regel : regels_) nummers.insert(regel.bevinding.plek.nr);
-  std::map<std::string, Bevinding> nu;
+  std::multimap<std::string_view, Regel*> bekend;
+  for (Regel& regel : regels_) {
+    nummers.insert(regel.bevinding.plek.nr);
+    bekend.emplace(regel.bevinding.tekst, &regel);
+    regel.hersteld = true;
+  }
+  std::vector<Regel> nieuw;
+  buiten_.opLaatste = 0;
   regels.Begin(regels.Laatste());
   for (const std::int32_t nr : nummers) {
-    regels.Toets(static_cast<std::int16_t>(nr), [&nu](Bevinding bevinding) {
-      std::string tekst = bevinding.tekst;
-      nu.emplace(std::move(tekst), std::move(bevinding));
+    regels.Toets(static_cast<std::int16_t>(nr), [&](Bevinding bevinding) {
+      const auto oud = bekend.lower_bound(bevinding.tekst);
+      if (oud != bekend.end() && oud->first == bevinding.tekst) {
+        oud->second->hersteld = false;
+        bekend.erase(oud);
+      } else if (regels_.size() + nieuw.size() < kMeeste) {
+        nieuw.push_back({std::move(bevinding)});
+      } else {
+        ++buiten_.opLaatste;
+      }
     });
   }
-  std::set<std::string> gebleven;
-  for (Regel& regel : regels_) {
-    regel.hersteld = !nu.contains(regel.bevinding.tekst);
-    if (!regel.hersteld) gebleven.insert(regel.bevinding.tekst);
-  }
-  for (auto& [tekst, bevinding] : nu) {
-    if (!gebleven.contains(tekst)) regels_.push_back({std::move(bevinding)});
-  }
+  std::ranges::move(nieuw, std::back_inserter(regels_));
   Orden();
 }
 

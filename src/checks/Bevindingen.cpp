@@ -8,6 +8,7 @@
 #include "checks/CorrOpmAlg.h"
 #include "checks/CorrPlts.h"
 #include "checks/CorrVerwijzingen.h"
+#include "checks/LaatsteRecord.h"
 #include "entry/KaartVelden.h"
 #include "entry/ToonPersoon.h"
 #include "entry/ToonPlaatsen.h"
@@ -51,10 +52,6 @@ Bevindingen::Bevindingen(Hoofdmodule& hoofd, Controleur& regels, BevindingLijst&
 }
 
 void Bevindingen::BijLaden() {
-  const std::size_t meer = lijst_.NietInLijst();
-  MeerLabel.ZetBijschrift(GetalTekst(static_cast<std::int64_t>(meer)) +
-                          " bevindingen meer staan alleen in het verslag");
-  MeerLabel.ZetZichtbaar(meer > 0);
   VulSoorten();
   VulLijst();
 }
@@ -94,6 +91,10 @@ void Bevindingen::VulLijst() {
   BevindingenLijst.ZetRijen(std::move(rijen));
   BevindingenLijst.ZetIndex(0);
   Open.ZetTekst(GetalTekst(open));
+  const std::size_t meer = lijst_.NietInLijst();
+  MeerLabel.ZetBijschrift(GetalTekst(static_cast<std::int64_t>(meer)) +
+                          " bevindingen meer staan alleen in het verslag");
+  MeerLabel.ZetZichtbaar(meer > 0);
 }
 
 void Bevindingen::SoortBoxWijziging() {
@@ -143,7 +144,10 @@ void Bevindingen::Herstel(const std::function<void(const Bevinding&)>& toon) {
 // A number that no record has would be taken for a new one.
 template <class Record>
 bool Bevindingen::Bestaat(Record& record, const RecordPlek& plek, std::string_view komtNietVoor) {
-  if (plek.nr >= kEersteNr && record.Lees(static_cast<std::int16_t>(plek.nr))) return true;
+  if (plek.nr >= kEersteNr) {
+    if (record.Lees(static_cast<std::int16_t>(plek.nr))) return true;
+    if (!IsLeesbaar(hoofd_.bestanden.Bestand(plek.soort), plek.nr)) return false;
+  }
   hoofd_.gesprek.Waarschuw(komtNietVoor);
   return false;
 }
@@ -184,8 +188,9 @@ void Bevindingen::ToonKaart(const RecordPlek& plek) {
       break;
     case BestandSoort::Plaatsen:
       // The page begins at the place in the buffer.
-      static_cast<void>(hoofd_.Plaats.Lees(nr));
-      hoofd_.gesprek.Toon<ToonPlaatsen>(hoofd_);
+      if (Bestaat(hoofd_.Plaats, plek, "Het opgegeven Plaatsnummer komt niet voor")) {
+        hoofd_.gesprek.Toon<ToonPlaatsen>(hoofd_);
+      }
       break;
     case BestandSoort::Opmerkingen:
       break;  // has no card

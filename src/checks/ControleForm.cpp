@@ -3,9 +3,9 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <system_error>
 #include <utility>
 
-#include "checks/BevindingLijst.h"
 #include "checks/Bevindingen.h"
 #include "entry/VolgersBewaker.h"
 #include "output/ToonTekst.h"
@@ -67,6 +67,8 @@ void ControleForm::Werk() {
   if (laatste >= kEersteNr) {
     ToonVerslag(pad, *regels);
   } else {
+    std::error_code geenVerslag;
+    std::filesystem::remove(pad, geenVerslag);
     Hoofd().gesprek.Waarschuw(soort_.geenRecords);
   }
   Sluit();
@@ -84,11 +86,11 @@ void ControleForm::SchrijfKop(TekstSchrijver& uit, std::string_view pad) const {
 }
 
 void ControleForm::Loop(Controleur& regels, std::int16_t laatste, TekstSchrijver& uit) {
-  aantal_ = 0;
   gevonden_.clear();
+  buiten_ = {};
   const auto meld = [&](Bevinding bevinding) {
     uit.VolleRegel(bevinding.tekst);
-    if (++aantal_ <= kMeesteBevindingen) gevonden_.push_back(std::move(bevinding));
+    Onthoud(std::move(bevinding));
   };
   regels.Begin(laatste);
   for (std::int32_t nr = kEersteNr; nr <= laatste; ++nr) {
@@ -96,15 +98,25 @@ void ControleForm::Loop(Controleur& regels, std::int16_t laatste, TekstSchrijver
     Gedaan.ZetTekst(GetalTekst(nr - kEersteNr + 1));
     Ververs();
   }
-  if (aantal_ == 0) uit.VolleRegel("Geen fouten gevonden");
+  if (Aantal() == 0) uit.VolleRegel("Geen fouten gevonden");
   uit.LegeRegel();
+}
+
+void ControleForm::Onthoud(Bevinding bevinding) {
+  if (gevonden_.size() < BevindingLijst::kMeeste) {
+    gevonden_.push_back(std::move(bevinding));
+  } else if (bevinding.plek == gevonden_.back().plek) {
+    ++buiten_.opLaatste;
+  } else {
+    ++buiten_.erna;
+  }
 }
 
 // The list lives as long as the viewer: what was mended stays marked when its window is opened again.
 void ControleForm::ToonVerslag(const std::filesystem::path& pad, Controleur& regels) {
-  BevindingLijst lijst(gevonden_, aantal_);
+  BevindingLijst lijst(gevonden_, buiten_);
   std::optional<ExtraKnop> knop;
-  if (aantal_ > 0) {
+  if (Aantal() > 0) {
     knop = {"Bevindingen", "&Bevindingen",
             [&] { Hoofd().gesprek.Toon<Bevindingen>(Hoofd(), regels, lijst); }};
   }

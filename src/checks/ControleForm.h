@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "checks/BevindingLijst.h"
 #include "checks/ControleSoorten.h"
 #include "checks/Controleur.h"
 #include "reporting/WerkFormulier.h"
@@ -18,9 +19,6 @@ namespace lb77 {
 // and no tracker of a current record.
 class ControleForm final : public WerkFormulier {
  public:
-  // More findings than these stand in the report only.
-  static constexpr std::size_t kMeesteBevindingen = 100000;
-
   ControleForm(const ControleSoort& soort, Hoofdmodule& hoofd);
 
   std::deque<Vinkje> Opties;
@@ -28,8 +26,10 @@ class ControleForm final : public WerkFormulier {
   Knop OKButton{*this, "OKButton", "Start Controle"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 
-  // How many lines the last check wrote, and what they tell, in their order.
-  [[nodiscard]] std::size_t Aantal() const { return aantal_; }
+  // How many lines the last check wrote, and what the first of them tell, in their order.
+  [[nodiscard]] std::size_t Aantal() const {
+    return gevonden_.size() + buiten_.opLaatste + buiten_.erna;
+  }
   [[nodiscard]] const std::vector<Bevinding>& Gevonden() const { return gevonden_; }
 
  protected:
@@ -40,11 +40,12 @@ class ControleForm final : public WerkFormulier {
   [[nodiscard]] ControleKeuzen Keuzen() const;
   void SchrijfKop(TekstSchrijver& uit, std::string_view pad) const;
   void Loop(Controleur& regels, std::int16_t laatste, TekstSchrijver& uit);
+  void Onthoud(Bevinding bevinding);
   void ToonVerslag(const std::filesystem::path& pad, Controleur& regels);
 
   const ControleSoort& soort_;
-  std::size_t aantal_ = 0;
   std::vector<Bevinding> gevonden_;
+  BuitenLijst buiten_;
 };
 
 }  // namespace lb77

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "checks/Bereik.h"
 #include "checks/Controleur.h"
 #include "checks/OpmSchakels.h"
 #include "store/Gegevens.h"
@@ -18,7 +19,7 @@ class ControleOpmRegels final : public Controleur {
  public:
   explicit ControleOpmRegels(const Gegevens& gegevens) : gegevens_(gegevens) {}
 
-  [[nodiscard]] std::int16_t Laatste() override { return gegevens_.opmerking.AantalRecords(); }
+  [[nodiscard]] std::int16_t Laatste() override { return bereik_.Tot(gegevens_.opmerking); }
   void Begin(std::int16_t laatste) override;
   void Toets(std::int16_t nr, const Melding& meld) override;
 
@@ -41,6 +42,7 @@ class ControleOpmRegels final : public Controleur {
   [[nodiscard]] const Eigenaar& EigenaarVan(const Regel& regel);
 
   Gegevens gegevens_;
+  Bereik bereik_;
   std::vector<Regel> regels_;                       // by record number
   std::array<std::vector<Eigenaar>, 2> eigenaren_;  // persons, relations
   std::vector<bool> goed_;                          // by record number

@@ -7,6 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "checks/Bereik.h"
 #include "checks/Controleur.h"
 #include "store/Gegevens.h"
 
@@ -20,7 +21,7 @@ class ControlePltsRegels final : public Controleur {
   ControlePltsRegels(const Gegevens& gegevens, const ControleKeuzen& keuzen)
       : gegevens_(gegevens), keuzen_(keuzen) {}
 
-  [[nodiscard]] std::int16_t Laatste() override { return gegevens_.plaats.AantalRecords(); }
+  [[nodiscard]] std::int16_t Laatste() override { return bereik_.Tot(gegevens_.plaats); }
   void Begin(std::int16_t laatste) override;
   void Toets(std::int16_t nr, const Melding& meld) override;
 
@@ -37,6 +38,9 @@ class ControlePltsRegels final : public Controleur {
   void ToetsDubbel(const Plaats& plaats, const Melding& meld);
 
   Gegevens gegevens_;
+  Bereik bereik_;
+  Bereik personen_;
+  Bereik relaties_;
   ControleKeuzen keuzen_;
   std::unordered_map<std::string, std::vector<std::int16_t>> opNaam_;  // each in order of number
   std::vector<bool> gebruikt_;  // by place number as it stands in a record

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "checks/Bereik.h"
 #include "checks/Controleur.h"
 #include "store/Gegevens.h"
 
@@ -16,7 +17,7 @@ class ControlePrsRegels final : public Controleur {
   ControlePrsRegels(const Gegevens& gegevens, const ControleKeuzen& keuzen)
       : gegevens_(gegevens), keuzen_(keuzen) {}
 
-  [[nodiscard]] std::int16_t Laatste() override { return gegevens_.persoon.AantalRecords(); }
+  [[nodiscard]] std::int16_t Laatste() override { return bereik_.Tot(gegevens_.persoon); }
   void Begin(std::int16_t) override {}
   void Toets(std::int16_t nr, const Melding& meld) override;
 
@@ -42,6 +43,7 @@ class ControlePrsRegels final : public Controleur {
   void ToetsRelaties(const Leven& leven, const Melding& meld);
 
   Gegevens gegevens_;
+  Bereik bereik_;
   ControleKeuzen keuzen_;
 };
 

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "checks/Bereik.h"
 #include "checks/Controleur.h"
 #include "store/Gegevens.h"
 
@@ -16,7 +17,7 @@ class ControleRelRegels final : public Controleur {
   ControleRelRegels(const Gegevens& gegevens, const ControleKeuzen& keuzen)
       : gegevens_(gegevens), keuzen_(keuzen) {}
 
-  [[nodiscard]] std::int16_t Laatste() override { return gegevens_.relatie.AantalRecords(); }
+  [[nodiscard]] std::int16_t Laatste() override { return bereik_.Tot(gegevens_.relatie); }
   void Begin(std::int16_t) override {}
   void Toets(std::int16_t nr, const Melding& meld) override;
 
@@ -38,6 +39,7 @@ class ControleRelRegels final : public Controleur {
   void ToetsKinderen(std::int16_t nr, const Melding& meld);
 
   Gegevens gegevens_;
+  Bereik bereik_;
   ControleKeuzen keuzen_;
 };
 

@@ -23,7 +23,7 @@ class Controleur {
   Controleur(const Controleur&) = delete;
   Controleur& operator=(const Controleur&) = delete;
 
-  // The highest record; below 2 there is nothing to check. Warns of a wrong count.
+  // The highest record; below 2 there is nothing to check. Warns of a wrong count, once.
   [[nodiscard]] virtual std::int16_t Laatste() = 0;
   // Looks up in the files, as they are now, what the rules need of the whole; before the first Toets
   // and behind each change of a record.

@@ -139,6 +139,7 @@ TEST_F(ControleFormToets, EenBestandZonderRecordsGeeftGeenVerslag) {
     ! uitroep "Er zijn geen opmerkingen in deze bestandenset aanwezig"
     - ControleOpm
   )");
+  for (const ControleSoort* soort : kAlle) EXPECT_FALSE(std::filesystem::exists(PadVan(*soort)));
 }
 
 TEST_F(ControleFormToets, EenVerslagDatNietKanWordtGemeld) {
@@ -274,7 +275,7 @@ TEST_F(ControleFormToets, WatNietInDeLijstPastStaatAlleenInHetVerslag) {
     - ToonTekst
     - ControlePlts
   )");
-  EXPECT_EQ(gevonden_.size(), ControleForm::kMeesteBevindingen);
+  EXPECT_EQ(gevonden_.size(), BevindingLijst::kMeeste);
   const std::string uit = LeesBytes(PadVan(kControlePlts));
   EXPECT_EQ(std::ranges::count(uit, '\n'), static_cast<std::ptrdiff_t>(kParen + 8));
 }

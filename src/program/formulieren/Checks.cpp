@@ -23,8 +23,7 @@ struct VoorbeeldControle {
   std::unique_ptr<Controleur> regels;
   BevindingLijst lijst{
       {Maak(BevindingSoort::NietBijOuders, "Persoon 2: Kind komt niet voor bij ouders"),
-       Maak(BevindingSoort::GeboorteNaDoop, "Persoon 2: Geboorte is na de doop")},
-      2};
+       Maak(BevindingSoort::GeboorteNaDoop, "Persoon 2: Geboorte is na de doop")}};
 };
 
 GemaaktFormulier MaakBevindingen(Programma& p) {
