@@ -1,6 +1,7 @@
 // `controle`: the checks of the files, one of them or all four.
 #include <algorithm>
 #include <cstddef>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <string>
@@ -44,6 +45,10 @@ std::vector<ControleRij> Gevraagd(std::string_view woord) {
 bool HeeftKeuze(const ControleRij& rij, std::string_view naam) {
   return std::ranges::any_of(rij.soort->opties,
                              [naam](const ControleOptie& optie) { return optie.naam == naam; });
+}
+
+std::string Verwijzing(const std::filesystem::path& verslag) {
+  return " (zie " + PadTekst(verslag) + ")";
 }
 
 // One run of the command: the reports one behind the other.
@@ -123,11 +128,17 @@ void Ronde::VulIn(const ControleRij& rij, Formulier& form) {
   }
 }
 
+// The head tells where the report lies: in the file of --uit, not in one that is gone afterwards.
 void Ronde::NeemVerslag(const Formulier& form) {
   const auto* toon = dynamic_cast<const ToonTekst*>(&form);
   if (!toon) return;
   std::ifstream in(toon->UitvoerPad(), std::ios::binary);
-  verslag_ << in.rdbuf();
+  std::string tekst(std::istreambuf_iterator<char>(in), {});
+  const std::string zie = Verwijzing(toon->UitvoerPad());
+  if (const std::size_t waar = tekst.find(zie); waar != std::string::npos) {
+    tekst.replace(waar, zie.size(), argumenten_.naar ? Verwijzing(*argumenten_.naar) : "");
+  }
+  verslag_ << tekst;
   getoond_ = true;
 }
 

@@ -49,6 +49,33 @@ TEST_F(ControleOpdracht, MetFoutenIsDeUitslagEen) {
   EXPECT_TRUE(uit_.starts_with("Controle Relatiebestand\n"));
 }
 
+// The file in which the program made it is gone afterwards.
+TEST_F(ControleOpdracht, DeKopNoemtHetBestandWaarHetVerslagLigt) {
+  MaakFamilie(kTeJong);
+  EXPECT_EQ(Controleer({"familie", "personen"}), 1);
+  EXPECT_TRUE(Bevat("\nResultaat:\n\nPersoon 3: "));
+  OpdrachtArgumenten argumenten;
+  argumenten.woorden = {"familie", "personen"};
+  argumenten.naar = map_ / "uit.txt";
+  EXPECT_EQ(Doe("controle", argumenten), 1);
+  const std::string bytes = LeesBytes(map_ / "uit.txt");
+  EXPECT_NE(
+      bytes.find("\r\nResultaat (zie " + (map_ / "uit.txt").string() + "):\r\n\r\nPersoon 3: "),
+      std::string::npos);
+}
+
+// kGoed has one place, which is used, and no remarks.
+TEST_F(ControleOpdracht, PlaatsenEnOpmerkingenHebbenHunEigenWoord) {
+  MaakFamilie(
+      std::string(kGoed).replace(kGoed.find("1 FAMC"), 0, "1 DEAT\n2 PLAC Leiden\n1 NOTE smid\n"));
+  EXPECT_EQ(Controleer({"familie", "plaatsen"}), 0) << uit_;
+  EXPECT_TRUE(uit_.starts_with("Controle Plaatsbestand\n")) << uit_;
+  EXPECT_EQ(uit_.find("Controle", 1), std::string::npos);
+  EXPECT_EQ(fout_, "");
+  EXPECT_EQ(Controleer({"familie", "opmerkingen"}), 0);
+  EXPECT_EQ(uit_, "Controle Opmerkingenbestand\n\nResultaat:\n\nGeen fouten gevonden\n\n");
+}
+
 TEST_F(ControleOpdracht, ZetGaatNaarDeControleDieDeKeuzeHeeft) {
   MaakFamilie(kTeJong);
   EXPECT_EQ(Controleer({"familie"}, {"GebDoop=uit", "VerwijsKinderen=uit"}), 1);
