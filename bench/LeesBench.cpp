@@ -10,8 +10,8 @@
 
 #include "GedcomMaker.h"
 #include "Meetset.h"
-#include "StilGesprek.h"
 #include "Toeval.h"
+#include "forms/StilGesprek.h"
 #include "store/Bestandenset.h"
 #include "store/PersoonLB77.h"
 

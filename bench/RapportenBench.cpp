@@ -12,7 +12,7 @@
 
 #include "GedcomMaker.h"
 #include "Meetset.h"
-#include "StilGesprek.h"
+#include "forms/StilGesprek.h"
 #include "reports/Verwanten.h"
 #include "store/Bestandenset.h"
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Meetset.h"
-#include "StilGesprek.h"
+#include "forms/StilGesprek.h"
 #include "store/Bestandenset.h"
 #include "store/OpmLB77.h"
 #include "store/Opslag.h"

@@ -2,7 +2,6 @@
 
 #include <filesystem>
 
-#include "entry/VolgersBewaker.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
@@ -25,16 +24,16 @@ void LijstForm::Werk() {
     ZetFocus(*eerste_);
     return;
   }
-  const VolgersBewaker bewaker(Hoofd().volgers);
+  LijstBron bron(Hoofd().MaakOpslag());
   const Verloop verloop{[this] { return Afbreken(); },
                         [this](int, int aantal) {
                           if (teller_) teller_->ZetTekst(GetalTekst(aantal));
                           Ververs();
                         }};
-  if (!BereidVoor(verloop)) return;
+  if (!BereidVoor(bron, verloop)) return;
   const std::filesystem::path pad = Hoofd().Ini.TempDir() / soort_.bestand;
   const bool gelukt =
-      MaakVerslag({pad}, [&](TekstSchrijver& uit) { return Schrijf(uit, verloop); });
+      MaakVerslag({pad}, [&](TekstSchrijver& uit) { return Schrijf(bron, uit, verloop); });
   ZetBezig(false);
   if (gelukt) ToonTekstbestand(pad, soort_.venster, false);
 }

@@ -6,6 +6,7 @@
 #include "forms/Keuzen.h"
 #include "forms/Weergave.h"
 #include "reporting/WerkFormulier.h"
+#include "reports/LijstBron.h"
 #include "reports/LijstSoorten.h"
 
 namespace lb77 {
@@ -25,8 +26,9 @@ class LijstForm : public WerkFormulier {
   // Is there enough to begin with? Otherwise the message of the soort follows.
   [[nodiscard]] virtual bool IsGenoeg() = 0;
   // What else must hold; a False has been told.
-  [[nodiscard]] virtual bool BereidVoor(const Verloop&) { return true; }
-  [[nodiscard]] virtual Uitslag Schrijf(TekstSchrijver& uit, const Verloop& verloop) = 0;
+  [[nodiscard]] virtual bool BereidVoor(LijstBron&, const Verloop&) { return true; }
+  [[nodiscard]] virtual Uitslag Schrijf(LijstBron& bron, TekstSchrijver& uit,
+                                        const Verloop& verloop) = 0;
 
  private:
   const LijstSoort& soort_;

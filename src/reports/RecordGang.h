@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "reporting/Verloop.h"
+#include "reports/LijstBron.h"
 
 namespace lb77 {
 
@@ -19,14 +20,14 @@ template <class Record>
 }
 
 // Calls `doe` with the number of each record that can be read, in their order; continuations are
-// passed over. The buffer holds the record at each call.
+// passed over. `lezer.record` holds the record at each call.
 template <class Record, class Doe>
-[[nodiscard]] Uitslag LoopRecords(Record& record, const Verloop& verloop, Doe doe) {
-  const std::int32_t laatste = record.AantalRecords();
+[[nodiscard]] Uitslag LoopRecords(Lezer<Record>& lezer, const Verloop& verloop, Doe doe) {
+  const std::int32_t laatste = lezer.Laatste();
   for (std::int32_t nr = kEersteRecord; nr <= laatste; ++nr) {
     if (verloop.afbreken()) return Einde::Afgebroken;
     const auto recordNr = static_cast<std::int16_t>(nr);
-    if (LeesHoofdrecord(record, recordNr)) doe(recordNr);
+    if (LeesHoofdrecord(lezer.record, recordNr)) doe(recordNr);
   }
   return Einde::Klaar;
 }

@@ -25,8 +25,8 @@ bool RptFamilies::IsGenoeg() {
   return Minimum() >= kMinste && Minimum() <= kMeeste;
 }
 
-Uitslag RptFamilies::Schrijf(TekstSchrijver& uit, const Verloop& verloop) {
-  return SchrijfFamilies(Minimum(), Hoofd().Persoon, uit, verloop);
+Uitslag RptFamilies::Schrijf(LijstBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
+  return SchrijfFamilies(Minimum(), bron, uit, verloop);
 }
 
 }  // namespace lb77

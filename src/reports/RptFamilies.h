@@ -22,7 +22,8 @@ class RptFamilies final : public LijstForm {
  protected:
   void BijLaden() override { MinimumAantal.ZetTekst("1"); }
   [[nodiscard]] bool IsGenoeg() override;
-  [[nodiscard]] Uitslag Schrijf(TekstSchrijver& uit, const Verloop& verloop) override;
+  [[nodiscard]] Uitslag Schrijf(LijstBron& bron, TekstSchrijver& uit,
+                                const Verloop& verloop) override;
 
  private:
   [[nodiscard]] int Minimum() const;

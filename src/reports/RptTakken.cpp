@@ -12,8 +12,8 @@ RptTakken::RptTakken(Hoofdmodule& hoofd)
   Koppel(PersNr, OKButton, BackButton, &AantalTakken);
 }
 
-bool RptTakken::BereidVoor(const Verloop& verloop) {
-  Nazaten nazaten(Hoofd().Persoon, Hoofd().Relatie);
+bool RptTakken::BereidVoor(LijstBron& bron, const Verloop& verloop) {
+  Nazaten nazaten(bron.persoon.record, bron.relatie.record);
   const auto wie = nazaten.Vind(Stamouder());
   const std::size_t takken = wie ? nazaten[*wie].kinderen.size() : 0;
   verloop.toon(0, static_cast<int>(takken));
@@ -22,8 +22,8 @@ bool RptTakken::BereidVoor(const Verloop& verloop) {
   return false;
 }
 
-Uitslag RptTakken::Schrijf(TekstSchrijver& uit, const Verloop& verloop) {
-  return SchrijfTakken(Stamouder(), Hoofd().Persoon, Hoofd().Relatie, uit, verloop);
+Uitslag RptTakken::Schrijf(LijstBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
+  return SchrijfTakken(Stamouder(), bron, uit, verloop);
 }
 
 }  // namespace lb77

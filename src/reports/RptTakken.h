@@ -14,8 +14,9 @@ class RptTakken final : public RptStamouder {
   Knop BackButton{*this, "BackButton", "&Terug"};
 
  protected:
-  [[nodiscard]] bool BereidVoor(const Verloop& verloop) override;
-  [[nodiscard]] Uitslag Schrijf(TekstSchrijver& uit, const Verloop& verloop) override;
+  [[nodiscard]] bool BereidVoor(LijstBron& bron, const Verloop& verloop) override;
+  [[nodiscard]] Uitslag Schrijf(LijstBron& bron, TekstSchrijver& uit,
+                                const Verloop& verloop) override;
 };
 
 }  // namespace lb77

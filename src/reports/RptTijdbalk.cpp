@@ -12,8 +12,8 @@ RptTijdbalk::RptTijdbalk(Hoofdmodule& hoofd)
   Koppel(PersNr, OKButton, BackButton);
 }
 
-Uitslag RptTijdbalk::Schrijf(TekstSchrijver& uit, const Verloop& verloop) {
-  return SchrijfTijdbalk(Stamouder(), Hoofd().Persoon, Hoofd().Relatie, uit, verloop);
+Uitslag RptTijdbalk::Schrijf(LijstBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
+  return SchrijfTijdbalk(Stamouder(), bron, uit, verloop);
 }
 
 }  // namespace lb77

@@ -13,7 +13,8 @@ class RptTijdbalk final : public RptStamouder {
   Knop BackButton{*this, "BackButton", "&Terug"};
 
  protected:
-  [[nodiscard]] Uitslag Schrijf(TekstSchrijver& uit, const Verloop& verloop) override;
+  [[nodiscard]] Uitslag Schrijf(LijstBron& bron, TekstSchrijver& uit,
+                                const Verloop& verloop) override;
 };
 
 }  // namespace lb77

@@ -12,9 +12,9 @@ SelectOpm::SelectOpm(Hoofdmodule& hoofd)
   Koppel(ZoekTekst, OKButton, BackButton);
 }
 
-Uitslag SelectOpm::Schrijf(TekstSchrijver& uit, const Verloop& verloop) {
+Uitslag SelectOpm::Schrijf(LijstBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
   const OpmKeus keus{ZoekTekst.Tekst(), OptionCapsJa.Gekozen()};
-  return SelecteerOpmerkingen(keus, Hoofd().Opmerking, uit, verloop);
+  return SelecteerOpmerkingen(keus, bron, uit, verloop);
 }
 
 }  // namespace lb77

@@ -20,7 +20,8 @@ class SelectOpm final : public LijstForm {
  protected:
   void BijLaden() override { OptionCapsNee.Zet(true); }
   [[nodiscard]] bool IsGenoeg() override { return !ZoekTekst.Tekst().empty(); }
-  [[nodiscard]] Uitslag Schrijf(TekstSchrijver& uit, const Verloop& verloop) override;
+  [[nodiscard]] Uitslag Schrijf(LijstBron& bron, TekstSchrijver& uit,
+                                const Verloop& verloop) override;
 };
 
 }  // namespace lb77

@@ -15,11 +15,11 @@ void SelectPlts::BijLaden() {
   }
 }
 
-Uitslag SelectPlts::Schrijf(TekstSchrijver& uit, const Verloop& verloop) {
+Uitslag SelectPlts::Schrijf(LijstBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
   const PlaatsKeus keus{Plaats.PlaatsNr(),    ZoekGeb.Gekozen(),    ZoekDoop.Gekozen(),
                         ZoekOv.Gekozen(),     ZoekBegr.Gekozen(),   ZoekOtr.Gekozen(),
                         ZoekWetHuw.Gekozen(), ZoekKerkHuw.Gekozen()};
-  return SelecteerPlaatsen(keus, Hoofd().Persoon, Hoofd().Relatie, uit, verloop);
+  return SelecteerPlaatsen(keus, bron, uit, verloop);
 }
 
 }  // namespace lb77

@@ -25,7 +25,8 @@ class SelectPlts final : public LijstForm {
  protected:
   void BijLaden() override;
   [[nodiscard]] bool IsGenoeg() override { return Plaats.PlaatsNr() > 0; }
-  [[nodiscard]] Uitslag Schrijf(TekstSchrijver& uit, const Verloop& verloop) override;
+  [[nodiscard]] Uitslag Schrijf(LijstBron& bron, TekstSchrijver& uit,
+                                const Verloop& verloop) override;
 };
 
 }  // namespace lb77

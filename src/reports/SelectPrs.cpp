@@ -21,8 +21,8 @@ bool SelectPrs::IsGenoeg() {
   return !keus_.IsLeeg();
 }
 
-Uitslag SelectPrs::Schrijf(TekstSchrijver& uit, const Verloop& verloop) {
-  return SelecteerPersonen(keus_, Hoofd().Persoon, uit, verloop);
+Uitslag SelectPrs::Schrijf(LijstBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
+  return SelecteerPersonen(keus_, bron, uit, verloop);
 }
 
 }  // namespace lb77

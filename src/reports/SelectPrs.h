@@ -24,7 +24,8 @@ class SelectPrs final : public LijstForm {
  protected:
   void BijLaden() override;
   [[nodiscard]] bool IsGenoeg() override;
-  [[nodiscard]] Uitslag Schrijf(TekstSchrijver& uit, const Verloop& verloop) override;
+  [[nodiscard]] Uitslag Schrijf(LijstBron& bron, TekstSchrijver& uit,
+                                const Verloop& verloop) override;
 
  private:
   PersoonKeus keus_;

@@ -16,8 +16,8 @@ bool SelectRel::IsGenoeg() {
   return !keus_.IsLeeg();
 }
 
-Uitslag SelectRel::Schrijf(TekstSchrijver& uit, const Verloop& verloop) {
-  return SelecteerRelaties(keus_, Hoofd().Relatie, Hoofd().Persoon, uit, verloop);
+Uitslag SelectRel::Schrijf(LijstBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
+  return SelecteerRelaties(keus_, bron, uit, verloop);
 }
 
 }  // namespace lb77

@@ -20,7 +20,8 @@ class SelectRel final : public LijstForm {
  protected:
   void BijLaden() override;
   [[nodiscard]] bool IsGenoeg() override;
-  [[nodiscard]] Uitslag Schrijf(TekstSchrijver& uit, const Verloop& verloop) override;
+  [[nodiscard]] Uitslag Schrijf(LijstBron& bron, TekstSchrijver& uit,
+                                const Verloop& verloop) override;
 
  private:
   RelatieKeus keus_;

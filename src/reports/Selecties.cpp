@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "output/TekstSchrijver.h"
+#include "reports/LijstBron.h"
 #include "reports/RecordGang.h"
 #include "store/Codes.h"
 #include "text/Getallen.h"
@@ -101,10 +102,11 @@ constexpr Gebeurtenis<RelatieLB77> kVanRelatie[] = {
 
 template <class Record, std::size_t N>
 Uitslag SchrijfVanPlaats(const PlaatsKeus& keus, const Gebeurtenis<Record> (&lijst)[N], char soort,
-                         Record& record, TekstSchrijver& uit, const Verloop& verloop) {
+                         Lezer<Record>& lezer, TekstSchrijver& uit, const Verloop& verloop) {
   const auto gevraagd = [&](const Gebeurtenis<Record>& wat) { return keus.*wat.gevraagd; };
   if (std::none_of(std::begin(lijst), std::end(lijst), gevraagd)) return Einde::Klaar;
-  return LoopRecords(record, verloop, [&](std::int16_t nr) {
+  const Record& record = lezer.record;
+  return LoopRecords(lezer, verloop, [&](std::int16_t nr) {
     for (const Gebeurtenis<Record>& wat : lijst) {
       if (!gevraagd(wat) || (record.*wat.plaats)() != keus.plaats) continue;
       uit.VolleRegel(Begin(soort, nr) + std::string(wat.label) + (record.*wat.datum)());
@@ -114,8 +116,9 @@ Uitslag SchrijfVanPlaats(const PlaatsKeus& keus, const Gebeurtenis<Record> (&lij
 
 }  // namespace
 
-Uitslag SelecteerPersonen(const PersoonKeus& keus, PersoonLB77& persoon, TekstSchrijver& uit,
+Uitslag SelecteerPersonen(const PersoonKeus& keus, LijstBron& bron, TekstSchrijver& uit,
                           const Verloop& verloop) {
+  PersoonLB77& persoon = bron.persoon.record;
   const NaamToets naam(keus.naam);
   const Deel beroep(keus.beroep);
   const auto past = [&] {
@@ -127,7 +130,7 @@ Uitslag SelecteerPersonen(const PersoonKeus& keus, PersoonLB77& persoon, TekstSc
            beroep.In(persoon.beroep());
   };
   int aantal = 0;
-  const Uitslag uitslag = LoopRecords(persoon, verloop, [&](std::int16_t nr) {
+  const Uitslag uitslag = LoopRecords(bron.persoon, verloop, [&](std::int16_t nr) {
     if (!past()) return;
     uit.VolleRegel(PersoonRegel(persoon, nr, !keus.beroep.empty()));
     ++aantal;
@@ -136,8 +139,10 @@ Uitslag SelecteerPersonen(const PersoonKeus& keus, PersoonLB77& persoon, TekstSc
   return uitslag;
 }
 
-Uitslag SelecteerRelaties(const RelatieKeus& keus, RelatieLB77& relatie, PersoonLB77& persoon,
-                          TekstSchrijver& uit, const Verloop& verloop) {
+Uitslag SelecteerRelaties(const RelatieKeus& keus, LijstBron& bron, TekstSchrijver& uit,
+                          const Verloop& verloop) {
+  RelatieLB77& relatie = bron.relatie.record;
+  PersoonLB77& persoon = bron.persoon.record;
   const NaamToets naam(keus.naam);
   const auto partner = [&](bool gevraagd, std::int16_t nr, char geslacht) {
     return gevraagd && LeesHoofdrecord(persoon, nr) && IsVan(persoon, gevraagd, geslacht) &&
@@ -151,7 +156,7 @@ Uitslag SelecteerRelaties(const RelatieKeus& keus, RelatieLB77& relatie, Persoon
             partner(keus.geslacht.vrouw, relatie.VrouwNr(), geslacht::kVrouw));
   };
   int aantal = 0;
-  const Uitslag uitslag = LoopRecords(relatie, verloop, [&](std::int16_t nr) {
+  const Uitslag uitslag = LoopRecords(bron.relatie, verloop, [&](std::int16_t nr) {
     if (!past()) return;
     uit.VolleRegel(RelatieRegel(relatie, nr));
     ++aantal;
@@ -160,17 +165,18 @@ Uitslag SelecteerRelaties(const RelatieKeus& keus, RelatieLB77& relatie, Persoon
   return uitslag;
 }
 
-Uitslag SelecteerPlaatsen(const PlaatsKeus& keus, PersoonLB77& persoon, RelatieLB77& relatie,
-                          TekstSchrijver& uit, const Verloop& verloop) {
-  const Uitslag uitslag = SchrijfVanPlaats(keus, kVanPersoon, 'P', persoon, uit, verloop);
+Uitslag SelecteerPlaatsen(const PlaatsKeus& keus, LijstBron& bron, TekstSchrijver& uit,
+                          const Verloop& verloop) {
+  const Uitslag uitslag = SchrijfVanPlaats(keus, kVanPersoon, 'P', bron.persoon, uit, verloop);
   if (!(uitslag == Einde::Klaar)) return uitslag;
-  return SchrijfVanPlaats(keus, kVanRelatie, 'R', relatie, uit, verloop);
+  return SchrijfVanPlaats(keus, kVanRelatie, 'R', bron.relatie, uit, verloop);
 }
 
-Uitslag SelecteerOpmerkingen(const OpmKeus& keus, OpmLB77& opmerking, TekstSchrijver& uit,
+Uitslag SelecteerOpmerkingen(const OpmKeus& keus, LijstBron& bron, TekstSchrijver& uit,
                              const Verloop& verloop) {
+  const OpmLB77& opmerking = bron.opmerking.record;
   const Deel deel(keus.tekst);
-  const Uitslag uitslag = LoopRecords(opmerking, verloop, [&](std::int16_t) {
+  const Uitslag uitslag = LoopRecords(bron.opmerking, verloop, [&](std::int16_t) {
     const std::string regel = opmerking.Tekstregel();
     const bool past = keus.kast ? regel.find(keus.tekst) != std::string::npos : deel.In(regel);
     if (!past) return;

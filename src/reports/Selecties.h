@@ -6,12 +6,10 @@
 
 #include "reporting/Verloop.h"
 #include "reports/Tijdvak.h"
-#include "store/OpmLB77.h"
-#include "store/PersoonLB77.h"
-#include "store/RelatieLB77.h"
 
 namespace lb77 {
 
+class LijstBron;
 class TekstSchrijver;
 
 // Parts of both names, anywhere in them, upper and lower case alike; an empty one fits all.
@@ -68,17 +66,16 @@ struct OpmKeus {
   bool kast = false;  // upper and lower case differ
 };
 
-// Each walks the whole file and writes a line for each record that fits. The buffers change.
-[[nodiscard]] Uitslag SelecteerPersonen(const PersoonKeus& keus, PersoonLB77& persoon,
+// Each walks the whole file and writes a line for each record that fits. What can't be read is passed
+// over in silence.
+[[nodiscard]] Uitslag SelecteerPersonen(const PersoonKeus& keus, LijstBron& bron,
                                         TekstSchrijver& uit, const Verloop& verloop);
-[[nodiscard]] Uitslag SelecteerRelaties(const RelatieKeus& keus, RelatieLB77& relatie,
-                                        PersoonLB77& persoon, TekstSchrijver& uit,
-                                        const Verloop& verloop);
+[[nodiscard]] Uitslag SelecteerRelaties(const RelatieKeus& keus, LijstBron& bron,
+                                        TekstSchrijver& uit, const Verloop& verloop);
 // Persons ahead of relations; a file of which no event is asked for is not read.
-[[nodiscard]] Uitslag SelecteerPlaatsen(const PlaatsKeus& keus, PersoonLB77& persoon,
-                                        RelatieLB77& relatie, TekstSchrijver& uit,
-                                        const Verloop& verloop);
-[[nodiscard]] Uitslag SelecteerOpmerkingen(const OpmKeus& keus, OpmLB77& opmerking,
+[[nodiscard]] Uitslag SelecteerPlaatsen(const PlaatsKeus& keus, LijstBron& bron,
+                                        TekstSchrijver& uit, const Verloop& verloop);
+[[nodiscard]] Uitslag SelecteerOpmerkingen(const OpmKeus& keus, LijstBron& bron,
                                            TekstSchrijver& uit, const Verloop& verloop);
 
 }  // namespace lb77

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "output/TekstSchrijver.h"
+#include "reports/LijstBron.h"
 #include "reports/Nazaten.h"
 #include "reports/RecordGang.h"
 #include "text/Getallen.h"
@@ -120,12 +121,12 @@ void Tel(Periodes& periodes, const Leven& leven, std::int64_t keer) {
 
 }  // namespace
 
-Uitslag SchrijfTakken(std::int16_t stamouder, PersoonLB77& persoon, RelatieLB77& relatie,
-                      TekstSchrijver& uit, const Verloop& verloop) {
-  const std::string naam(Trim(NaamVan(persoon, stamouder)));
+Uitslag SchrijfTakken(std::int16_t stamouder, LijstBron& bron, TekstSchrijver& uit,
+                      const Verloop& verloop) {
+  const std::string naam(Trim(NaamVan(bron.persoon.record, stamouder)));
   uit.VolleRegel("Takkenverdeling van afstammelingen van " + MetNr(naam, stamouder));
   uit.LegeRegel();
-  Nazaten nazaten(persoon, relatie);
+  Nazaten nazaten(bron.persoon.record, bron.relatie.record);
   const auto wie = nazaten.Vind(stamouder);
   if (!wie) return Einde::Klaar;
   const std::vector<std::int16_t> takken = nazaten[*wie].kinderen;
@@ -147,13 +148,12 @@ Uitslag SchrijfTakken(std::int16_t stamouder, PersoonLB77& persoon, RelatieLB77&
   return Einde::Klaar;
 }
 
-Uitslag SchrijfFamilies(int minimum, PersoonLB77& persoon, TekstSchrijver& uit,
-                        const Verloop& verloop) {
+Uitslag SchrijfFamilies(int minimum, LijstBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
   uit.VolleRegel("Verdeling familienamen");
   uit.LegeRegel();
   Families families;
-  const Uitslag uitslag = LoopRecords(persoon, verloop, [&](std::int16_t nr) {
-    const std::string naam = persoon.AchterNaamTrue();
+  const Uitslag uitslag = LoopRecords(bron.persoon, verloop, [&](std::int16_t nr) {
+    const std::string naam = bron.persoon.record.AchterNaamTrue();
     Tel(families, naam.empty() ? "<onbekend>" : naam);
     verloop.toon(nr, static_cast<int>(families.size()));
   });
@@ -171,12 +171,12 @@ Uitslag SchrijfFamilies(int minimum, PersoonLB77& persoon, TekstSchrijver& uit,
   return Einde::Klaar;
 }
 
-Uitslag SchrijfTijdbalk(std::int16_t stamouder, PersoonLB77& persoon, RelatieLB77& relatie,
-                        TekstSchrijver& uit, const Verloop& verloop) {
+Uitslag SchrijfTijdbalk(std::int16_t stamouder, LijstBron& bron, TekstSchrijver& uit,
+                        const Verloop& verloop) {
   uit.VolleRegel("Populatiegrafiek van afstammelingen van " +
-                 MetNr(NaamVan(persoon, stamouder), stamouder));
+                 MetNr(NaamVan(bron.persoon.record, stamouder), stamouder));
   uit.LegeRegel();
-  Nazaten nazaten(persoon, relatie);
+  Nazaten nazaten(bron.persoon.record, bron.relatie.record);
   const auto wie = nazaten.Vind(stamouder);
   std::vector<Telling> tellingen;
   if (wie && !nazaten.Loop(*wie, std::nullopt, verloop, tellingen)) return Einde::Afgebroken;

@@ -57,5 +57,12 @@ TEST_F(RptFamiliesToets, EenBestandDatNietKanSluitHetScherm) {
   Speel("druk OKButton", NietOpen());
 }
 
+TEST_F(RptFamiliesToets, WieOnleesbaarIsWordtInStilteOvergeslagen) {
+  MaakOnleesbaar(BestandSoort::Personen, 5);
+  Speel("druk OKButton\ndruk BackButton\ndruk BackButton",
+        "+ ToonTekst \"Takkenverdeling\"\n- ToonTekst\n");
+  EXPECT_NE(Lijst().find("\r\n3: van Dam\r\n"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace lb77

@@ -76,5 +76,23 @@ TEST_F(RptTakkenToets, EenVerzoekOmTeStoppenToontNiets) {
         R"(? vraag Ja/Nee "Opbouw Afbreken ?" -> Ja)");
 }
 
+TEST_F(RptTakkenToets, WatOnleesbaarIsWordtInStilteOvergeslagen) {
+  MaakOnleesbaar(BestandSoort::Personen, 4);
+  MaakOnleesbaar(BestandSoort::Relaties, 4);
+  Speel("vul PersNr 2\ndruk OKButton\ndruk BackButton\ndruk BackButton", kGetoond);
+  EXPECT_NE(Lijst().find("\r\ntak 1 (P4)  : 0 afstammeling\r\n"
+                         "tak 2 (P5)  : 1 afstammeling\r\n"),
+            std::string::npos);
+}
+
+// The reads of that one person are told, as he is the one who was asked for.
+TEST_F(RptTakkenToets, EenOnleesbareStamouderWordtGemeld) {
+  MaakOnleesbaar(BestandSoort::Personen, 2);
+  Speel("vul PersNr 2\ndruk OKButton\ndruk BackButton",
+        R"(! stop "Fout bij het lezen van Persoonsrecord 2\nFout van de schijf")"
+        "\n" +
+            std::string(kNiemand));
+}
+
 }  // namespace
 }  // namespace lb77

@@ -50,5 +50,14 @@ TEST_F(SelectOpmToets, EenBestandDatNietKanSluitHetScherm) {
   Speel("vul ZoekTekst markt\ndruk OKButton", NietOpen());
 }
 
+TEST_F(SelectOpmToets, WatOnleesbaarIsWordtInStilteOvergeslagen) {
+  MaakOnleesbaar(BestandSoort::Opmerkingen, 3);
+  Speel("vul ZoekTekst markt\ndruk OKButton\ndruk BackButton\ndruk BackButton",
+        "+ ToonTekst \"Resultaat Selectie Opmerkingen\"\n- ToonTekst\n");
+  EXPECT_EQ(Lijst(),
+            "P:    2 Woonde op de Markt te Delft.\r\n"
+            "P:    2 Getuige was de marktmeester.\r\n\r\n");
+}
+
 }  // namespace
 }  // namespace lb77

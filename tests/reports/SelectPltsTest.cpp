@@ -106,5 +106,13 @@ TEST_F(SelectPltsToets, EenBestandDatNietKanSluitHetScherm) {
   Speel("antwoord Ja\nvul PltsNm Delft\ndruk OKButton", std::string(kDelft) + NietOpen());
 }
 
+TEST_F(SelectPltsToets, WatOnleesbaarIsWordtInStilteOvergeslagen) {
+  MaakOnleesbaar(BestandSoort::Personen, 2);
+  MaakOnleesbaar(BestandSoort::Relaties, 2);
+  Speel("antwoord Ja\nvul PltsNm Delft\ndruk OKButton\ndruk BackButton\ndruk BackButton",
+        std::string(kDelft) + std::string(kGetoond));
+  EXPECT_EQ(Lijst(), "R:    3 KHuw: 06-07-1852\r\n");
+}
+
 }  // namespace
 }  // namespace lb77

@@ -109,5 +109,21 @@ TEST_F(SelectPrsToets, EenVerzoekOmTeStoppenToontNiets) {
         )");
 }
 
+TEST_F(SelectPrsToets, WieOnleesbaarIsWordtInStilteOvergeslagen) {
+  MaakOnleesbaar(BestandSoort::Personen, 5);
+  Speel("vul AchterNm dam\ndruk OKButton\ndruk BackButton\ndruk BackButton", kGetoond);
+  EXPECT_EQ(Lijst().find("P:    5"), std::string::npos);
+  EXPECT_NE(Lijst().find("\r\n3 Personen gevonden."), std::string::npos);
+}
+
+TEST_F(SelectPrsToets, EenOnjuistAantalWordtGemeld) {
+  Bouw().ZetAantalPersonen(20);
+  Speel("vul AchterNm dam\ndruk OKButton\ndruk BackButton\ndruk BackButton",
+        R"(
+          ! uitroep "Aantal persoonsrecords in administratierecord is onjuist\nGevonden:9\nVolgens administratierecord:21"
+        )" + std::string(kGetoond));
+  EXPECT_NE(Lijst().find("\r\n4 Personen gevonden."), std::string::npos);
+}
+
 }  // namespace
 }  // namespace lb77

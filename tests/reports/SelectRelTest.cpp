@@ -67,5 +67,14 @@ TEST_F(SelectRelToets, EenBestandDatNietKanSluitHetScherm) {
   Speel("vul AchterNm dam\ndruk OKButton", NietOpen());
 }
 
+TEST_F(SelectRelToets, WatOnleesbaarIsWordtInStilteOvergeslagen) {
+  MaakOnleesbaar(BestandSoort::Relaties, 3);
+  MaakOnleesbaar(BestandSoort::Personen, 5);
+  Speel("vul AchterNm dam\ndruk OKButton\ndruk BackButton\ndruk BackButton",
+        "+ ToonTekst \"Resultaat Selectie Relaties\"\n- ToonTekst\n");
+  EXPECT_EQ(Lijst().find("R:    2 "), 0U);
+  EXPECT_NE(Lijst().find("\r\n1 Relaties gevonden."), std::string::npos);
+}
+
 }  // namespace
 }  // namespace lb77

@@ -15,7 +15,7 @@ class SelectiePlaatsen : public LijstToets {
   std::string Selecteer(Einde einde = Einde::Klaar) {
     return Lijst(
         [this](TekstSchrijver& uit, const Verloop& verloop) {
-          return SelecteerPlaatsen(keus_, set_.Persoon, set_.Relatie, uit, verloop);
+          return SelecteerPlaatsen(keus_, bron_, uit, verloop);
         },
         einde);
   }
@@ -89,7 +89,7 @@ class SelectieOpmerkingen : public LijstToets {
   std::string Selecteer(Einde einde = Einde::Klaar) {
     return Lijst(
         [this](TekstSchrijver& uit, const Verloop& verloop) {
-          return SelecteerOpmerkingen(keus_, set_.Opmerking, uit, verloop);
+          return SelecteerOpmerkingen(keus_, bron_, uit, verloop);
         },
         einde);
   }
@@ -161,7 +161,7 @@ TEST_F(SelectieGouden, DePersonenVanEenNaam) {
   PersoonKeus keus;
   keus.naam.achternaam = "dam";
   Lijst([&](TekstSchrijver& uit, const Verloop& verloop) {
-    return SelecteerPersonen(keus, set_.Persoon, uit, verloop);
+    return SelecteerPersonen(keus, bron_, uit, verloop);
   });
   VerwachtGouden("selectie_personen.txt", Bytes());
 }
@@ -170,7 +170,7 @@ TEST_F(SelectieGouden, DePersonenVanEenBeroep) {
   PersoonKeus keus;
   keus.beroep = "schoenmaker";
   Lijst([&](TekstSchrijver& uit, const Verloop& verloop) {
-    return SelecteerPersonen(keus, set_.Persoon, uit, verloop);
+    return SelecteerPersonen(keus, bron_, uit, verloop);
   });
   VerwachtGouden("selectie_beroep.txt", Bytes());
 }
@@ -179,7 +179,7 @@ TEST_F(SelectieGouden, DeRelatiesVanEenPeriode) {
   RelatieKeus keus;
   keus.huwelijk = Tijdvak("01-01-1830", "31-12-1852");
   Lijst([&](TekstSchrijver& uit, const Verloop& verloop) {
-    return SelecteerRelaties(keus, set_.Relatie, set_.Persoon, uit, verloop);
+    return SelecteerRelaties(keus, bron_, uit, verloop);
   });
   VerwachtGouden("selectie_relaties.txt", Bytes());
 }
@@ -187,14 +187,14 @@ TEST_F(SelectieGouden, DeRelatiesVanEenPeriode) {
 TEST_F(SelectieGouden, WatErInEenPlaatsGebeurde) {
   const PlaatsKeus keus{.plaats = 2};
   Lijst([&](TekstSchrijver& uit, const Verloop& verloop) {
-    return SelecteerPlaatsen(keus, set_.Persoon, set_.Relatie, uit, verloop);
+    return SelecteerPlaatsen(keus, bron_, uit, verloop);
   });
   VerwachtGouden("selectie_plaatsen.txt", Bytes());
 }
 
 TEST_F(SelectieGouden, DeOpmerkingenMetEenWoord) {
   Lijst([&](TekstSchrijver& uit, const Verloop& verloop) {
-    return SelecteerOpmerkingen({"markt", false}, set_.Opmerking, uit, verloop);
+    return SelecteerOpmerkingen({"markt", false}, bron_, uit, verloop);
   });
   VerwachtGouden("selectie_opmerkingen.txt", Bytes());
 }

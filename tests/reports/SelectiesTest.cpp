@@ -17,7 +17,7 @@ class SelectiePersonen : public LijstToets {
   std::string Selecteer(Einde einde = Einde::Klaar) {
     return Lijst(
         [this](TekstSchrijver& uit, const Verloop& verloop) {
-          return SelecteerPersonen(keus_, set_.Persoon, uit, verloop);
+          return SelecteerPersonen(keus_, bron_, uit, verloop);
         },
         einde);
   }
@@ -187,7 +187,7 @@ class SelectieRelaties : public LijstToets {
   std::string Selecteer(Einde einde = Einde::Klaar) {
     return Lijst(
         [this](TekstSchrijver& uit, const Verloop& verloop) {
-          return SelecteerRelaties(keus_, set_.Relatie, set_.Persoon, uit, verloop);
+          return SelecteerRelaties(keus_, bron_, uit, verloop);
         },
         einde);
   }

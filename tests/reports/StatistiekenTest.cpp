@@ -10,25 +10,21 @@ namespace {
 class StatistiekToets : public LijstToets {
  protected:
   std::string Takken(std::int16_t wie, Einde einde = Einde::Klaar) {
-    return Lijst(
-        [&](TekstSchrijver& uit, const Verloop& verloop) {
-          return SchrijfTakken(wie, set_.Persoon, set_.Relatie, uit, verloop);
-        },
-        einde);
+    return Lijst([&](TekstSchrijver& uit,
+                     const Verloop& verloop) { return SchrijfTakken(wie, bron_, uit, verloop); },
+                 einde);
   }
   std::string Families(int minimum, Einde einde = Einde::Klaar) {
     return Lijst(
         [&](TekstSchrijver& uit, const Verloop& verloop) {
-          return SchrijfFamilies(minimum, set_.Persoon, uit, verloop);
+          return SchrijfFamilies(minimum, bron_, uit, verloop);
         },
         einde);
   }
   std::string Tijdbalk(std::int16_t wie, Einde einde = Einde::Klaar) {
-    return Lijst(
-        [&](TekstSchrijver& uit, const Verloop& verloop) {
-          return SchrijfTijdbalk(wie, set_.Persoon, set_.Relatie, uit, verloop);
-        },
-        einde);
+    return Lijst([&](TekstSchrijver& uit,
+                     const Verloop& verloop) { return SchrijfTijdbalk(wie, bron_, uit, verloop); },
+                 einde);
   }
   // The lines of the periods of person 2.
   std::string Periodes() {

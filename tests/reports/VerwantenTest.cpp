@@ -87,6 +87,28 @@ TEST_F(VerwantenTest, OudersGaanVoorPartnersEnDieVoorKinderen) {
   EXPECT_EQ(rij_[1], (VerwantEntry{kee, 0, VerwantSoort::Partner}));
 }
 
+TEST_F(VerwantenTest, OokTweeStappenVerGaanOudersVoorPartnersEnDieVoorKinderen) {
+  const auto jan = bouw_.Man("Jan", "Smit");
+  const auto els = bouw_.Vrouw("Els", "Vos");
+  const auto vader = bouw_.Man("Vader", "Smit");
+  const auto kee = bouw_.Vrouw("Kee", "Vos");
+  bouw_.Relatie(jan, els);
+  bouw_.Relatie(0, kee, {els});
+  bouw_.Relatie(vader, 0, {jan});
+  bouw_.Relatie(vader, kee);  // his mother-in-law
+  Zoek(jan);
+  EXPECT_EQ(Keten(kee), (Nrs{kee, vader, jan}));
+  const auto kind = bouw_.Man("Kind", "Mos");
+  const auto piet = bouw_.Man("Piet", "Mos");
+  const auto ans = bouw_.Vrouw("Ans", "Bos");
+  const auto oma = bouw_.Vrouw("Oma", "Bos");
+  bouw_.Relatie(kind, oma);
+  bouw_.Relatie(piet, ans, {kind});
+  bouw_.Relatie(0, oma, {ans});
+  Zoek(piet);
+  EXPECT_EQ(Keten(oma), (Nrs{oma, ans, piet}));
+}
+
 TEST_F(VerwantenTest, DeKetenGaatTerugVanHetDoel) {
   const auto jan = bouw_.Man("Jan", "Smit");
   const auto vader = bouw_.Man("Vader", "Smit");

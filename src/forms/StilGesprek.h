@@ -3,7 +3,7 @@
 
 #include "forms/Gesprek.h"
 
-namespace lb77::bench {
+namespace lb77 {
 
 // Questions get No or Cancel; forms are not shown.
 class StilGesprek final : public Gesprek {
@@ -23,4 +23,4 @@ class StilGesprek final : public Gesprek {
   void Dicht(Formulier&) override {}
 };
 
-}  // namespace lb77::bench
+}  // namespace lb77
