@@ -28,9 +28,7 @@ PlaatsNrVak::PlaatsNrVak(InvoerFormulier& formulier, std::string_view achtervoeg
 
 PlaatsNrVak::NrVak::NrVak(PlaatsNrVak& geheel, InvoerFormulier& formulier, const std::string& naam,
                           std::string_view bijschrift)
-    : InvoerVak(formulier, naam, bijschrift, kCijfers, InvoerSoort::Persoon), geheel_(geheel) {
-  ZetFilter(AlleenCijfers);
-}
+    : InvoerVak(formulier, naam, bijschrift, kCijfers, InvoerSoort::Persoon), geheel_(geheel) {}
 
 bool PlaatsNrVak::NrVak::OpVerlaten() {
   if (!InvoerVak::OpVerlaten()) return false;
@@ -108,11 +106,11 @@ CorrPltsTemp::CorrPltsTemp(Hoofdmodule& hoofd, std::int16_t oud, std::int16_t ni
 
 void CorrPltsTemp::BijLaden() {
   Vervangingen.Stand.ZetTekst("0");
+  OKButton.ZetIngeschakeld(false);
 }
 
 void CorrPltsTemp::BijActiveren() {
   ZetBezig(true);
-  OKButton.ZetIngeschakeld(false);
   GeduldLabel.ZetBijschrift(Vervang() ? "Klaar" : "Afgebroken");
   ZetBezig(false);
   OKButton.ZetIngeschakeld(true);
@@ -122,20 +120,18 @@ void CorrPltsTemp::BijActiveren() {
 bool CorrPltsTemp::Vervang() {
   Handeling handeling(Hoofd().bestanden, label_);
   const auto toon = [this](TellerRegel& regel) {
-    return [this, &regel](std::int16_t nr, std::int32_t vervangen) {
-      Toon(regel.Stand, nr, vervangen);
+    return [this, &regel](std::int16_t nr) {
+      regel.Stand.ZetTekst(GetalTekst(nr));
+      Hoofd().gesprek.Ververs(*this);
     };
   };
+  const auto tel = [this](std::int32_t vervangen) {
+    Vervangingen.Stand.ZetTekst(GetalTekst(vervangen));
+  };
   const bool gelukt =
-      VervangingIn(Hoofd()).Vervang(oud_, nieuw_, {toon(PersoonsNr), toon(RelatieNr)});
+      VervangingIn(Hoofd()).Vervang(oud_, nieuw_, {toon(PersoonsNr), toon(RelatieNr), tel});
   MeldNietVeilig(Hoofd().gesprek, handeling.Voltooi());
   return gelukt;
-}
-
-void CorrPltsTemp::Toon(Teller& teller, std::int16_t nr, std::int32_t vervangen) {
-  teller.ZetTekst(GetalTekst(nr));
-  Vervangingen.Stand.ZetTekst(GetalTekst(vervangen));
-  Hoofd().gesprek.Ververs(*this);
 }
 
 }  // namespace lb77

@@ -84,7 +84,6 @@ class CorrPltsTemp final : public InvoerFormulier {
 
  private:
   [[nodiscard]] bool Vervang();
-  void Toon(Teller& teller, std::int16_t nr, std::int32_t vervangen);
 
   std::int16_t oud_;
   std::int16_t nieuw_;

@@ -1,6 +1,7 @@
 #include "checks/PlaatsVervanging.h"
 
 #include <algorithm>
+#include <functional>
 #include <span>
 
 #include "checks/LaatsteRecord.h"
@@ -46,10 +47,12 @@ Bron<RelatieLB77> Relaties(RelatieLB77& relatie, Bestandenset& bestanden) {
   return {relatie, bestanden.Bestand(BestandSoort::Relaties), kRelatiePlaatsen};
 }
 
+// Without the warning of a wrong count, which the replacement gives.
 template <class Klasse>
 std::int32_t TelIn(const Bron<Klasse>& bron, std::int16_t oud) {
   std::int32_t aantal = 0;
-  const std::int32_t laatste = LaatsteRecord(bron.klasse, bron.bestand);
+  const std::int32_t laatste = std::min<std::int32_t>(LaatsteRecord(bron.klasse, bron.bestand),
+                                                      bron.klasse.AantalInAdmin() + 1);
   for (std::int32_t nr = kEersteNr; nr <= laatste; ++nr) {
     if (bron.Lees(static_cast<std::int16_t>(nr))) aantal += bron.Tel(oud);
   }
@@ -66,16 +69,24 @@ bool VervangInRecord(const Bron<Klasse>& bron, std::int16_t nr, std::int16_t oud
   return bron.klasse.Schrijf(nr);
 }
 
-template <class Klasse, class Meld>
-bool VervangIn(const Bron<Klasse>& bron, std::int16_t oud, std::int16_t nieuw,
-               std::int32_t& vervangen, const Meld& meld) {
-  const std::int32_t laatste = bron.klasse.AantalRecords();
-  for (std::int32_t teller = kEersteNr; teller <= laatste; ++teller) {
+template <class Klasse>
+struct Gang {
+  Bron<Klasse> bron;
+  std::int32_t laatste;
+  const std::function<void(std::int16_t)>& begint;
+};
+
+template <class Klasse>
+bool VervangIn(const Gang<Klasse>& gang, std::int16_t oud, std::int16_t nieuw,
+               std::int32_t& vervangen, const PlaatsVervanging::Voortgang& voortgang) {
+  for (std::int32_t teller = kEersteNr; teller <= gang.laatste; ++teller) {
     const auto nr = static_cast<std::int16_t>(teller);
-    const std::int32_t hier = bron.Lees(nr) ? bron.Tel(oud) : 0;
-    if (hier > 0 && !VervangInRecord(bron, nr, oud, nieuw)) return false;
+    gang.begint(nr);
+    const std::int32_t hier = gang.bron.Lees(nr) ? gang.bron.Tel(oud) : 0;
+    if (hier == 0) continue;
+    if (!VervangInRecord(gang.bron, nr, oud, nieuw)) return false;
     vervangen += hier;
-    meld(nr, vervangen);
+    voortgang.vervangen(vervangen);
   }
   return true;
 }
@@ -87,9 +98,11 @@ std::int32_t PlaatsVervanging::Tel(std::int16_t oud) {
 }
 
 bool PlaatsVervanging::Vervang(std::int16_t oud, std::int16_t nieuw, const Voortgang& voortgang) {
+  const Gang personen{Personen(persoon_, bestanden_), persoon_.AantalRecords(), voortgang.persoon};
+  const Gang relaties{Relaties(relatie_, bestanden_), relatie_.AantalRecords(), voortgang.relatie};
   std::int32_t vervangen = 0;
-  return VervangIn(Personen(persoon_, bestanden_), oud, nieuw, vervangen, voortgang.persoon) &&
-         VervangIn(Relaties(relatie_, bestanden_), oud, nieuw, vervangen, voortgang.relatie);
+  return VervangIn(personen, oud, nieuw, vervangen, voortgang) &&
+         VervangIn(relaties, oud, nieuw, vervangen, voortgang);
 }
 
 }  // namespace lb77

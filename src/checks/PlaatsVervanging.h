@@ -15,19 +15,20 @@ namespace lb77 {
 // buffers of both classes change.
 class PlaatsVervanging {
  public:
-  // How far it is; called behind each record.
+  // How far it is.
   struct Voortgang {
-    std::function<void(std::int16_t persoon, std::int32_t vervangen)> persoon;
-    std::function<void(std::int16_t relatie, std::int32_t vervangen)> relatie;
+    std::function<void(std::int16_t nr)> persoon;           // before it is read
+    std::function<void(std::int16_t nr)> relatie;           // before it is read
+    std::function<void(std::int32_t vervangen)> vervangen;  // behind each record that was changed
   };
 
   PlaatsVervanging(PersoonLB77& persoon, RelatieLB77& relatie, Bestandenset& bestanden)
       : persoon_(persoon), relatie_(relatie), bestanden_(bestanden) {}
 
-  // How many fields name that place, in all records that there are.
+  // How many fields name that place, as far as the admin records say that there are records.
   [[nodiscard]] std::int32_t Tel(std::int16_t oud);
-  // Stores `nieuw` in each field that names `oud`. A failure to write has its message and ends it:
-  // False then.
+  // Stores `nieuw` in each field that names `oud`. Warns of wrong counts first, then shows nothing
+  // but a failure to write, which ends it: False then.
   [[nodiscard]] bool Vervang(std::int16_t oud, std::int16_t nieuw, const Voortgang& voortgang);
 
  private:

@@ -50,7 +50,10 @@ class CorrPltsTest : public CorrToets {
 // A user who presses Escape and all buttons at each repaint.
 class Ongeduldig final : public Gesprek {
  public:
-  Antwoord Bericht(BerichtSoort, Knoppen, std::string_view) override { return Antwoord::OK; }
+  Antwoord Bericht(BerichtSoort, Knoppen, std::string_view) override {
+    kerenBijBericht.push_back(keren);
+    return Antwoord::OK;
+  }
   bool BerichtMetVinkje(std::string_view, std::string_view) override { return false; }
   std::optional<std::filesystem::path> VraagBestand(const BestandsVraag&) override { return {}; }
   bool DrukAf(const Afdruk&) override { return false; }
@@ -62,6 +65,7 @@ class Ongeduldig final : public Gesprek {
   bool StopGevraagd(Formulier&) override { return false; }
 
   int keren = 0;
+  std::vector<int> kerenBijBericht;
 
  protected:
   void Open(Formulier&) override {}
@@ -225,8 +229,8 @@ TEST_F(CorrPltsTest, EenPersoonMetTweeVerwijzingenWordtEenKeerGeschreven) {
     const std::uint64_t begin = hoofd.bestanden.Stand(kPrs);
     PlaatsVervanging vervanging(hoofd.Persoon, hoofd.Relatie, hoofd.bestanden);
     EXPECT_EQ(vervanging.Tel(3), 7);
-    EXPECT_TRUE(vervanging.Vervang(
-        3, 2, {[](std::int16_t, std::int32_t) {}, [](std::int16_t, std::int32_t) {}}));
+    EXPECT_TRUE(
+        vervanging.Vervang(3, 2, {[](std::int16_t) {}, [](std::int16_t) {}, [](std::int32_t) {}}));
     EXPECT_EQ(hoofd.bestanden.Stand(kPrs) - begin, 2U);
     EXPECT_EQ(vervanging.Tel(3), 0);
   });
@@ -248,7 +252,9 @@ TEST_F(CorrPltsTest, HetVensterSluitPasAanHetEinde) {
   ASSERT_FALSE(hoofd.bestanden.OpenSet(SetPaden::Van(Map(), "PROEF")));
   CorrPltsTemp form(hoofd, 3, 2, "Proef");
   ASSERT_TRUE(form.Laad());
+  EXPECT_FALSE(form.OKButton.Ingeschakeld());
   form.Activeer();
+  EXPECT_TRUE(form.OKButton.Ingeschakeld());
   EXPECT_EQ(gesprek.keren, 6);
   EXPECT_FALSE(form.Gesloten());
   EXPECT_EQ(form.Vervangingen.Stand.Tekst(), "7");
@@ -268,28 +274,67 @@ TEST_F(CorrPltsTest, EenFoutAantalWordtVoorafGemeld) {
     )");
 }
 
+// That of the relations too, not midway.
+TEST_F(CorrPltsTest, BeideFouteAantallenKomenVoorHetEersteRecord) {
+  Bouw().ZetAantalPersonen(9);
+  ZetGetal(kRlt, 1, relatieveld::ManNr, 9);
+  Ongeduldig gesprek;
+  const VasteKlok klok{{2000, 1, 1}};
+  Hoofdmodule hoofd(gesprek, klok, Map());
+  ASSERT_FALSE(hoofd.bestanden.OpenSet(SetPaden::Van(Map(), "PROEF")));
+  CorrPltsTemp form(hoofd, 3, 2, "Proef");
+  ASSERT_TRUE(form.Laad());
+  form.Activeer();
+  EXPECT_EQ(gesprek.kerenBijBericht, (std::vector<int>{0, 0}));
+  EXPECT_EQ(gesprek.keren, 6);
+}
+
+// As far as the replacement will go, and without its warning.
+TEST_F(CorrPltsTest, GeteldWordtTotHetOpgegevenAantal) {
+  Bouw().ZetAantalPersonen(1);
+  SpeeltHier("vul PlaatsNrOud 3\ntoon Verwijzingen\ndruk BackButton", "= Verwijzingen \"5\"");
+  Bouw().ZetAantalPersonen(30000);
+  SpeeltHier("vul PlaatsNrOud 3\ntoon Verwijzingen\ndruk BackButton", "= Verwijzingen \"7\"");
+}
+
+TEST_F(CorrPltsTest, EenCodeMetLettersIsNietNumeriek) {
+  SpeeltHier("typ PlaatsNrOud 1b2a\ntoets Enter\ntoon PlaatsNrOud\ndruk BackButton", R"(
+      ! uitroep "Recordnummer is niet numeriek"
+      ! uitroep "Recordnummer is niet numeriek"
+      = PlaatsNrOud "1b2a"
+    )");
+}
+
 TEST_F(CorrPltsTest, EenSchrijffoutBreektAf) {
   const std::vector<int> voor = Verwijzingen();
   bool afgebroken = false;
-  BijElkeStoring("toon GeduldLabel\ntoon Vervangingen\ndruk OKButton", Vervang, [&](bool gelukt) {
-    const std::vector<int> na = Verwijzingen();
-    int vervangen = 0;
-    for (std::size_t i = 0; i < na.size(); ++i) {
-      if (na[i] == voor[i]) continue;
-      EXPECT_EQ(voor[i], 3);
-      EXPECT_EQ(na[i], 2);
-      ++vervangen;
-    }
-    const std::string telling = "= Vervangingen \"" + std::to_string(vervangen) + "\"";
-    EXPECT_NE(verslag_.find(telling), std::string::npos);
-    if (gelukt) {
-      EXPECT_EQ(vervangen, 7);
-    }
-    if (verslag_.find("! stop \"Fout bij het schrijven van") != std::string::npos) {
-      EXPECT_NE(verslag_.find("= GeduldLabel \"Afgebroken\""), std::string::npos);
-      afgebroken = true;
-    }
-  });
+  BijElkeStoring("toon GeduldLabel\ntoon Vervangingen\ntoon PersoonsNr\ndruk OKButton", Vervang,
+                 [&](bool gelukt) {
+                   const std::vector<int> na = Verwijzingen();
+                   int vervangen = 0;
+                   for (std::size_t i = 0; i < na.size(); ++i) {
+                     if (na[i] == voor[i]) continue;
+                     EXPECT_EQ(voor[i], 3);
+                     EXPECT_EQ(na[i], 2);
+                     ++vervangen;
+                   }
+                   const std::string telling =
+                       "= Vervangingen \"" + std::to_string(vervangen) + "\"";
+                   EXPECT_NE(verslag_.find(telling), std::string::npos);
+                   if (gelukt) {
+                     EXPECT_EQ(vervangen, 7);
+                   }
+                   if (verslag_.find("! stop \"Fout bij het schrijven van") != std::string::npos) {
+                     EXPECT_NE(verslag_.find("= GeduldLabel \"Afgebroken\""), std::string::npos);
+                     afgebroken = true;
+                     const std::size_t waar = verslag_.find("van Persoonsrecord ");
+                     if (waar != std::string::npos) {
+                       const std::string nr(
+                           1, verslag_[waar + std::string_view("van Persoonsrecord ").size()]);
+                       EXPECT_NE(verslag_.find("= PersoonsNr \"" + nr + "\""), std::string::npos);
+                     }
+                   }
+                 });
   EXPECT_TRUE(afgebroken);
 }
 
