@@ -21,8 +21,6 @@ namespace lb77 {
 
 namespace {
 
-constexpr std::int32_t kEersteNr = 2;
-
 using Standen = std::array<std::uint64_t, kBestandSoorten.size()>;
 
 Standen StandenVan(const Bestandenset& bestanden) {
@@ -144,12 +142,8 @@ void Bevindingen::Herstel(const std::function<void(const Bevinding&)>& toon) {
 // A number that no record has would be taken for a new one.
 template <class Record>
 bool Bevindingen::Bestaat(Record& record, const RecordPlek& plek, std::string_view komtNietVoor) {
-  if (plek.nr >= kEersteNr) {
-    if (record.Lees(static_cast<std::int16_t>(plek.nr))) return true;
-    if (!IsLeesbaar(hoofd_.bestanden.Bestand(plek.soort), plek.nr)) return false;
-  }
-  hoofd_.gesprek.Waarschuw(komtNietVoor);
-  return false;
+  return LeesOfMeld(hoofd_.gesprek, record, hoofd_.bestanden.Bestand(plek.soort), plek.nr,
+                    komtNietVoor);
 }
 
 void Bevindingen::ToonCorrectie(const RecordPlek& plek) {

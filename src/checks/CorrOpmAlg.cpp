@@ -6,6 +6,7 @@
 
 #include "app/NietVeilig.h"
 #include "checks/CorrNamen.h"
+#include "checks/LaatsteRecord.h"
 #include "store/Handeling.h"
 #include "store/OpmVelden.h"
 #include "text/Getallen.h"
@@ -29,6 +30,10 @@ std::int16_t NrUit(const Invoerveld& vak) {
   return NaarInt16(Getalwaarde(vak.Tekst())).value_or(std::int16_t{0});
 }
 
+RecordBestand& OpmBestand(Hoofdmodule& hoofd) {
+  return hoofd.bestanden.Bestand(BestandSoort::Opmerkingen);
+}
+
 }  // namespace
 
 OpmVerwijzingVak::OpmVerwijzingVak(InvoerFormulier& formulier, const std::string& naam,
@@ -50,7 +55,7 @@ void OpmVerwijzingVak::ToonRegel() {
     Regel.ZetTekst("");
   } else if (nr < kEersteNr || nr > opmerking.AantalRecords()) {
     Regel.ZetTekst(">> Fout: recordnummer incorrect <<");
-  } else if (!opmerking.Lees(nr)) {
+  } else if (!LeesZonderMelding(opmerking, OpmBestand(formulier_.Hoofd()), nr)) {
     Regel.ZetTekst(">> Leesfout bij opm-record " + GetalTekst(nr) + " <<");
   } else {
     Regel.ZetTekst(opmerking.Tekstregel());
@@ -62,7 +67,6 @@ CorrOpmAlg::CorrOpmAlg(Hoofdmodule& hoofd)
   ZetHulpOnderwerp("corrigeren");
   ZetEersteVeld(HoortBijSoort);
   HoortBijSoort.ZetFilter(Soortletter);
-  BijRecordTekst.ZetFilter(AlleenCijfers);
   Bind();
   HoortBijSoort.BijVerlaten([this] { return HoortBijSoortVerlaten(); });
   BijRecordTekst.BijVerlaten([this] { return BijRecordTekstVerlaten(); });
@@ -76,7 +80,8 @@ void CorrOpmAlg::Bind() {
       opmveld::Rubriek,
       [this](const std::string& waarde) {
         rubriek_ = Getalwaarde(waarde);
-        HoortBijSoort.ZetTekst(rubriek_ < 0 ? kRelatie : kPersoon);
+        soort_ = rubriek_ < 0 ? kRelatie : kPersoon;
+        HoortBijSoort.ZetTekst(soort_);
       },
       [this] { return NrTekst(Rubriek()); });
   velden_.Bind(opmveld::VolgRegel, VolgRegel.Nr);
@@ -145,15 +150,13 @@ bool CorrOpmAlg::BijRecordTekstVerlaten() {
 }
 
 bool CorrOpmAlg::Lees() {
-  const bool gelezen = nr_ >= kEersteNr && Hoofd().Opmerking.Lees(nr_);
-  if (!gelezen) Hoofd().gesprek.Waarschuw("Recordnummer bestaat niet");
-  return gelezen;
+  return LeesOfMeld(Hoofd().gesprek, Hoofd().Opmerking, OpmBestand(Hoofd()), nr_,
+                    "Recordnummer bestaat niet");
 }
 
 // A number stays that of the other kind until it is looked at again.
 void CorrOpmAlg::OKButtonKlik() {
-  const bool andereSoort = Rubriek() != rubriek_;
-  if (andereSoort && !Controleer(BijRecordTekst)) {
+  if (HoortBijSoort.Tekst() != soort_ && !Controleer(BijRecordTekst)) {
     ZetFocus(BijRecordTekst);
     return;
   }
@@ -162,12 +165,13 @@ void CorrOpmAlg::OKButtonKlik() {
   MeldNietVeilig(Hoofd().gesprek, handeling.Voltooi());
 }
 
-// A record that would stay as it is, is not written.
+// A record that would stay as it is, is not written, nor one whose rubric was refused.
 bool CorrOpmAlg::Bewaar() {
   if (!velden_.Gewijzigd()) return true;
   if (!Lees()) return false;
-  velden_.ZetGewijzigde(Hoofd().Opmerking);
-  return Hoofd().Opmerking.Schrijf(nr_);
+  OpmLB77& opmerking = Hoofd().Opmerking;
+  velden_.ZetGewijzigde(opmerking);
+  return opmerking.Rubriek() == Rubriek() && opmerking.Schrijf(nr_);
 }
 
 }  // namespace lb77

@@ -81,6 +81,7 @@ class CorrOpmAlg final : public InvoerFormulier {
   RecordVelden velden_;
   std::int16_t nr_ = -1;
   std::int32_t rubriek_ = 0;  // as it is stored
+  std::string_view soort_;    // the kind of owner that it tells
 };
 
 }  // namespace lb77

@@ -7,6 +7,7 @@
 
 #include "app/NietVeilig.h"
 #include "checks/CorrNamen.h"
+#include "checks/LaatsteRecord.h"
 #include "forms/Rijnaam.h"
 #include "store/Handeling.h"
 #include "store/PersoonVelden.h"
@@ -19,7 +20,6 @@ namespace {
 
 constexpr BestandSoort kPersonen = BestandSoort::Personen;
 constexpr BestandSoort kRelaties = BestandSoort::Relaties;
-constexpr std::int16_t kEersteNr = 2;
 constexpr std::string_view kPijl = ">> ";
 
 constexpr CorrVerwijzing kPersoonKoppen[] = {
@@ -203,11 +203,11 @@ RecordRaam& CorrVerwijzingen::Record() const {
 }
 
 bool CorrVerwijzingen::Lees() {
-  const bool gelezen =
-      nr_ >= kEersteNr &&
-      (soort_.bestand == kPersonen ? Hoofd().Persoon.Lees(nr_) : Hoofd().Relatie.Lees(nr_));
-  if (!gelezen) Hoofd().gesprek.Waarschuw("Recordnummer bestaat niet");
-  return gelezen;
+  const auto lees = [this](auto& record) {
+    return LeesOfMeld(Hoofd().gesprek, record, Hoofd().bestanden.Bestand(soort_.bestand), nr_,
+                      "Recordnummer bestaat niet");
+  };
+  return soort_.bestand == kPersonen ? lees(Hoofd().Persoon) : lees(Hoofd().Relatie);
 }
 
 bool CorrVerwijzingen::Schrijf() {

@@ -5,7 +5,9 @@
 #include <array>
 #include <cstdint>
 #include <span>
+#include <string_view>
 
+#include "forms/Gesprek.h"
 #include "store/RecordBestand.h"
 #include "text/Getallen.h"
 
@@ -38,6 +40,20 @@ template <class Klasse>
 template <class Klasse>
 [[nodiscard]] bool LeesZonderMelding(Klasse& klasse, RecordBestand& bestand, std::int16_t nr) {
   return IsLeesbaar(bestand, nr) && klasse.Lees(nr);
+}
+
+// Reads a record that the user asked for. Says `komtNietVoor` when there is none; one that the system
+// refuses has told so itself.
+template <class Klasse>
+[[nodiscard]] bool LeesOfMeld(Gesprek& gesprek, Klasse& klasse, RecordBestand& bestand,
+                              std::int32_t nr, std::string_view komtNietVoor) {
+  constexpr std::int32_t kEersteNr = 2;
+  if (nr >= kEersteNr) {
+    if (klasse.Lees(static_cast<std::int16_t>(nr))) return true;
+    if (!IsLeesbaar(bestand, nr)) return false;
+  }
+  gesprek.Waarschuw(komtNietVoor);
+  return false;
 }
 
 }  // namespace lb77

@@ -100,12 +100,9 @@ TEST_F(CorrOpmAlgTest, EenVerwijzingNaarNergensStaatOpHetScherm) {
       = VolgOpmTekst "-3"
       = VolgOpmTekstRegel ">> Fout: recordnummer incorrect <<"
     )");
-  Verwacht("toon VolgRegelTekstRegel\ntoon VolgOpmTekstRegel\ndruk BackButton", Opmerking(3), R"(
-      ! stop "Fout bij het lezen van Opmrecord 4\nFout van de schijf"
-      + CorrOpmAlg "Corrigeer Verwijzingen Opmerkingenrecord"
+  SpeeltOp(3, "toon VolgRegelTekstRegel\ntoon VolgOpmTekstRegel\ndruk BackButton", R"(
       = VolgRegelTekstRegel ">> Fout: recordnummer incorrect <<"
       = VolgOpmTekstRegel ">> Leesfout bij opm-record 4 <<"
-      - CorrOpmAlg
     )");
 }
 
@@ -173,8 +170,10 @@ TEST_F(CorrOpmAlgTest, DeVeldenZijnZoBreedAlsHunWaarde) {
   SpeeltOp(2, R"(
       typ HoortBijSoort pr
       toon HoortBijSoort
-      typ BijRecordTekst a234567
+      typ BijRecordTekst 2345678
       toon BijRecordTekst
+      typ BijRecordTekst 1a
+      toets Tab
       vul BijRecordTekst 2
       typ VolgRegelTekst 1234567
       toon VolgRegelTekst
@@ -183,6 +182,7 @@ TEST_F(CorrOpmAlgTest, DeVeldenZijnZoBreedAlsHunWaarde) {
            R"(
       = HoortBijSoort "P"
       = BijRecordTekst "23456"
+      ! uitroep "Recordnummer is niet numeriek"
       = VolgRegelTekst "12345"
     )");
 }
@@ -241,8 +241,20 @@ TEST_F(CorrOpmAlgTest, ZonderWijzigingBlijftHetRecordByteVoorByte) {
 TEST_F(CorrOpmAlgTest, EenRubriekDieNietPastBlijftMetEenMelding) {
   ZetGetal(kOpm, 3, opmveld::Rubriek, -32768);
   const Beeld voor = Bytes();
-  SpeeltOp(3, "vul HoortBijSoort P\ndruk OKButton",
-           "! stop \"Het maximum van 32767 records is bereikt\"");
+  SpeeltOp(3,
+           "vul HoortBijSoort P\nvul BijRecordTekst 3\ndruk OKButton\ntoon BijRecordTekst\n"
+           "druk BackButton",
+           "! stop \"Het maximum van 32767 records is bereikt\"\n= BijRecordTekst \"3\"");
+  EXPECT_EQ(Bytes(), voor);
+}
+
+// A free record has no sign that could turn.
+TEST_F(CorrOpmAlgTest, OokVanEenVrijRecordMoetHetNummerBijDeAndereSoortBestaan) {
+  ZetGetal(kOpm, 2, opmveld::Rubriek, 0);
+  ZetGetal(kOpm, 2, opmveld::BijRecord, 3);
+  const Beeld voor = Bytes();
+  SpeeltOp(2, "vul HoortBijSoort R\ndruk OKButton\ndruk BackButton",
+           "! uitroep \"Recordnummer bestaat niet\"");
   EXPECT_EQ(Bytes(), voor);
 }
 
@@ -251,6 +263,8 @@ TEST_F(CorrOpmAlgTest, WatNietTeLezenIsGaatNietOpen) {
     Verwacht("", Opmerking(static_cast<std::int16_t>(nr)),
              "! uitroep \"Recordnummer bestaat niet\"");
   }
+  MaakOnleesbaar(kOpm, 2);
+  Verwacht("", Opmerking(2), "! stop \"Fout bij het lezen van Opmrecord 2\\nFout van de schijf\"");
 }
 
 TEST_F(CorrOpmAlgTest, EenStoringLaatHetRecordHeel) {
