@@ -190,6 +190,20 @@ TEST_F(CorrOpmAdmTest, ZonderLeesbaarAdministratierecordWordtErNietsBewaard) {
   EXPECT_EQ(Bytes(), voor);
 }
 
+// The dialog shows 0 then, which is not what record 1 holds.
+TEST_F(CorrOpmAdmTest, EenLeegVeldHoudtOokWatBijHetOpenenNietTeLezenWas) {
+  bool bewaard = false;
+  BijElkeStoring(
+      "antwoord Ja\ntoon aantal_in_rec1\nvul nieuw_ongebruikt 2\ndruk OKButton\ndruk BackButton",
+      Dialoog, [&](bool) {
+        if (verslag_.find("= aantal_in_rec1 \"0\"") == std::string::npos) return;
+        EXPECT_EQ(Getal(kOpm, 1, opmveld::Rubriek), 5);
+        EXPECT_EQ(Getal(kOpm, 1, opmveld::BijRecord), 4);
+        bewaard |= Getal(kOpm, 1, opmveld::BijProg) == 2;
+      });
+  EXPECT_TRUE(bewaard);
+}
+
 TEST_F(CorrOpmAdmTest, EenSchrijffoutBlijftInDeDialoog) {
   const Beeld voor = Bytes();
   bool gemeld = false;
