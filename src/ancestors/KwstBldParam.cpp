@@ -5,6 +5,7 @@
 #include "ancestors/KwstBladSchrijver.h"
 #include "ancestors/KwstBladTekening.h"
 #include "app/Hoofdmodule.h"
+#include "output/TekstOpslaan.h"
 #include "output/TekstVenster.h"
 #include "output/Tekstpaginas.h"
 #include "reporting/Tijdelijk.h"
@@ -69,7 +70,7 @@ void KwstBldParam::DrukAf() {
   if (!MaakBlad()) return;
   const std::optional<Afdruk> afdruk = Paginas(Pad());
   if (!afdruk) {
-    Hoofd().gesprek.Fout("Fout bij het printen van de tekst.");
+    Hoofd().gesprek.Fout(kPrintFout);
   } else if (Hoofd().gesprek.DrukAf(*afdruk)) {
     Sluit();
   }
@@ -77,16 +78,9 @@ void KwstBldParam::DrukAf() {
 
 void KwstBldParam::SlaOp() {
   if (!MaakBlad()) return;
-  Gesprek& gesprek = Hoofd().gesprek;
-  const auto naar = gesprek.VraagBestand(
-      {BestandsWijze::Opslaan, std::string(kTekstFilter), Hoofd().Ini.TekstDir()});
-  if (!naar) return;
-  if (const SysteemFout fout = KopieerTekst(Pad(), *naar)) {
-    gesprek.Fout("Fout bij het opslaan van de tekst.\n" + fout.tekst);
-    return;
-  }
-  gesprek.Informeer("De tekst is opgeslagen.");
-  Sluit();
+  const BestandsVraag vraag{BestandsWijze::Opslaan, std::string(kTekstFilter),
+                            Hoofd().Ini.TekstDir()};
+  if (SlaTekstOp(Hoofd().gesprek, Pad(), vraag)) Sluit();
 }
 
 }  // namespace lb77

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "output/TekstOpslaan.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
@@ -26,9 +27,6 @@ constexpr int kOmlaagKnop = 4;
 
 constexpr std::string_view kHTMLFilter =
     "Alle Bestanden (*.*)|*.*|Internetbestanden (*.htm)|*.htm|Internetbestanden (*.html)|*.html";
-
-constexpr std::string_view kPrintFout = "Fout bij het printen van de tekst.";
-constexpr std::string_view kOpslaanFout = "Fout bij het opslaan van de tekst.";
 
 const Stap& StapVan(int knop) {
   return kStappen.at(static_cast<std::size_t>(knop - 1));
@@ -163,15 +161,9 @@ void TekstVenster::DrukAf(const Afdruk& afdruk) {
 
 void TekstVenster::SaveButtonKlik() {
   const std::string_view filter = HTMLUitvoer_ ? kHTMLFilter : kTekstFilter;
-  const auto pad = hoofd_.gesprek.VraagBestand(
-      {BestandsWijze::Opslaan, std::string(filter), hoofd_.Ini.TekstDir()});
-  if (!pad) return;
-  const SysteemFout fout = KopieerTekst(Uitvoer().Pad(), *pad);
-  if (fout) {
-    hoofd_.gesprek.Fout(MetFout(kOpslaanFout, fout));
-  } else {
-    hoofd_.gesprek.Informeer("De tekst is opgeslagen.");
-  }
+  const BestandsVraag vraag{BestandsWijze::Opslaan, std::string(filter), hoofd_.Ini.TekstDir()};
+  // Told either way; the viewer stays.
+  static_cast<void>(SlaTekstOp(hoofd_.gesprek, Uitvoer().Pad(), vraag));
 }
 
 }  // namespace lb77

@@ -19,6 +19,9 @@ namespace lb77 {
 inline constexpr std::string_view kTekstFilter =
     "Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt";
 
+// Said of a text whose pages can't be read for the printer (stop symbol).
+inline constexpr std::string_view kPrintFout = "Fout bij het printen van de tekst.";
+
 // Shows one page of a file. MoveButton 1 to 4 and the arrow keys go left, right, up and down,
 // PageUp and PageDown up and down; PrintButton 1 prints this page, 2 all pages.
 class TekstVenster : public Formulier {
