@@ -78,14 +78,14 @@ void KwstSchrijver::SchrijfLinks(int index) {
   if (!uit_.InHTML()) return;
   uit_.Vast(Anker(tabel_.KwNummer(index).Tekst()));
   if (index > 0) {
-    uit_.Vast(Verwijzing(tabel_.KwNummer(tabel_.KwKindIndex(index) - 1).Tekst(), "K"));
+    uit_.Vast(VerwijzingNaar(tabel_.KwNummer(tabel_.KwKindIndex(index) - 1).Tekst(), "K"));
   }
   // The parents stand in the table in the order of their children.
   while (linkIndex_ < tabel_.KwstAantal() && tabel_.KwKindIndex(linkIndex_) <= index) ++linkIndex_;
   for (; linkIndex_ < tabel_.KwstAantal() && tabel_.KwKindIndex(linkIndex_) == index + 1;
        ++linkIndex_) {
-    uit_.Vast(
-        Verwijzing(tabel_.KwNummer(linkIndex_).Tekst(), tabel_.IsMoeder(linkIndex_) ? "V" : "M"));
+    uit_.Vast(VerwijzingNaar(tabel_.KwNummer(linkIndex_).Tekst(),
+                             tabel_.IsMoeder(linkIndex_) ? "V" : "M"));
   }
 }
 

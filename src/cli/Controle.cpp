@@ -47,7 +47,7 @@ bool HeeftKeuze(const ControleRij& rij, std::string_view naam) {
                              [naam](const ControleOptie& optie) { return optie.naam == naam; });
 }
 
-std::string Verwijzing(const std::filesystem::path& verslag) {
+std::string ZieTekst(const std::filesystem::path& verslag) {
   return " (zie " + PadTekst(verslag) + ")";
 }
 
@@ -134,9 +134,9 @@ void Ronde::NeemVerslag(const Formulier& form) {
   if (!toon) return;
   std::ifstream in(toon->UitvoerPad(), std::ios::binary);
   std::string tekst(std::istreambuf_iterator<char>(in), {});
-  const std::string zie = Verwijzing(toon->UitvoerPad());
+  const std::string zie = ZieTekst(toon->UitvoerPad());
   if (const std::size_t waar = tekst.find(zie); waar != std::string::npos) {
-    tekst.replace(waar, zie.size(), argumenten_.naar ? Verwijzing(*argumenten_.naar) : "");
+    tekst.replace(waar, zie.size(), argumenten_.naar ? ZieTekst(*argumenten_.naar) : "");
   }
   verslag_ << tekst;
   getoond_ = true;

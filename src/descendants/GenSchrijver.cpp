@@ -89,7 +89,7 @@ void GenSchrijver::SchrijfKop(const std::string& label) {
 
 // A label; in HTML the way to its entry.
 std::string GenSchrijver::MetLink(const std::string& label) const {
-  return uit_.InHTML() ? Verwijzing(label, label) : label;
+  return uit_.InHTML() ? VerwijzingNaar(label, label) : label;
 }
 
 bool GenSchrijver::SchrijfStamouder() {

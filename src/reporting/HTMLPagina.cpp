@@ -64,7 +64,7 @@ std::string Anker(std::string_view naam) {
   return "<A NAME=" + TussenQuotes(naam) + "></A>";
 }
 
-std::string Verwijzing(std::string_view naam, std::string_view tekst) {
+std::string VerwijzingNaar(std::string_view naam, std::string_view tekst) {
   return "<A HREF=" + TussenQuotes("#" + std::string(naam)) + ">" + std::string(tekst) + "</A>";
 }
 
@@ -95,7 +95,7 @@ void SchrijfGeneratie(TekstSchrijver& uit, int generatie, int eerste, int laatst
     return;
   }
   const auto link = [&uit](int gen) {
-    uit.Vast(Verwijzing(Romeins(gen), "(Generatie " + Romeins(gen) + ")"));
+    uit.Vast(VerwijzingNaar(Romeins(gen), "(Generatie " + Romeins(gen) + ")"));
   };
   uit.Vast(Anker(Romeins(generatie)));
   if (generatie > eerste) link(generatie - 1);

@@ -29,7 +29,7 @@ struct PaginaTeksten {
 // <A NAME="naam"></A>
 [[nodiscard]] std::string Anker(std::string_view naam);
 // <A HREF="#naam">tekst</A>
-[[nodiscard]] std::string Verwijzing(std::string_view naam, std::string_view tekst);
+[[nodiscard]] std::string VerwijzingNaar(std::string_view naam, std::string_view tekst);
 
 // The head of a page; `kop` is what the browser's title says before the names ("Kwartierstaat").
 void SchrijfHTMLKop(TekstSchrijver& uit, const PaginaTeksten& teksten, std::string_view kop,

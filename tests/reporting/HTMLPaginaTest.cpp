@@ -30,7 +30,7 @@ class HTMLPaginaToets : public ::testing::Test {
 
 TEST(Verwijzingen, ZettenHunNaamTussenAanhalingstekens) {
   EXPECT_EQ(Anker("12"), "<A NAME=\"12\"></A>");
-  EXPECT_EQ(Verwijzing("12", "V"), "<A HREF=\"#12\">V</A>");
+  EXPECT_EQ(VerwijzingNaar("12", "V"), "<A HREF=\"#12\">V</A>");
 }
 
 TEST_F(HTMLPaginaToets, DeKopCodeertNamenTitelEnInleiding) {
