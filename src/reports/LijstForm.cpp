@@ -19,6 +19,7 @@ void LijstForm::Koppel(Bediening& eerste, Knop& ok, Knop& terug, Teller* teller)
 }
 
 void LijstForm::Werk() {
+  if (teller_) teller_->ZetTekst({});
   if (!IsGenoeg()) {
     Hoofd().gesprek.Waarschuw(soort_.leeg);
     ZetFocus(*eerste_);
@@ -30,7 +31,10 @@ void LijstForm::Werk() {
                           if (teller_) teller_->ZetTekst(GetalTekst(aantal));
                           Ververs();
                         }};
-  if (!BereidVoor(bron, verloop)) return;
+  if (!BereidVoor(bron, verloop)) {
+    ZetFocus(*eerste_);
+    return;
+  }
   const std::filesystem::path pad = Hoofd().Ini.TempDir() / soort_.bestand;
   const bool gelukt =
       MaakVerslag({pad}, [&](TekstSchrijver& uit) { return Schrijf(bron, uit, verloop); });

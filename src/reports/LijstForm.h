@@ -18,8 +18,8 @@ class LijstForm : public WerkFormulier {
   // `soort` must outlive the form.
   LijstForm(const LijstSoort& soort, Hoofdmodule& hoofd);
 
-  // The focus begins at `eerste`, and comes back to it when too little was given; `teller` shows how
-  // far the work is.
+  // The focus begins at `eerste`, and comes back to it when nothing could be made of what was given;
+  // `teller` shows how far the work is, and nothing before it.
   void Koppel(Bediening& eerste, Knop& ok, Knop& terug, Teller* teller = nullptr);
   void Werk() final;
 

@@ -27,7 +27,7 @@ class LijstKeten : public FamilieToets {
         std::string(draaiboek) + "\n",
         [this](Hoofdmodule& hoofd) {
           ASSERT_TRUE(Start(hoofd));
-          hoofd.schrijfwijze.DatumScheider = '-';
+          hoofd.schrijfwijze.DatumScheider = scheider_;
           hoofd.volgers.HuidigPersoonNr = 7;
           hoofd.volgers.HuidigRelatieNr = 4;
           Vorm vorm(hoofd);
@@ -47,6 +47,8 @@ class LijstKeten : public FamilieToets {
   // Name and title of the dialog, as a transcript has them.
   [[nodiscard]] virtual std::string Kop() const = 0;
   [[nodiscard]] std::string Lijst() const { return LeesBytes(bestand_); }
+  // From the next session on.
+  void ZetScheider(char scheider) { scheider_ = scheider; }
   // The next file can't be made.
   void Versper() const { std::filesystem::create_directories(bestand_); }
   // What the user hears then.
@@ -56,6 +58,7 @@ class LijstKeten : public FamilieToets {
 
  private:
   std::filesystem::path bestand_;
+  char scheider_ = '-';
   std::string naam_;
   std::string titel_;
 };

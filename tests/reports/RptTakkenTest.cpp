@@ -42,9 +42,16 @@ TEST_F(RptTakkenToets, WieErNietIsIsGeenStamouder) {
 }
 
 TEST_F(RptTakkenToets, ZonderKinderenZijnErGeenTakken) {
-  Speel("vul PersNr 7\ndruk OKButton\ntoon AantalTakken\ndruk BackButton", R"(
+  Speel("vul PersNr 7\ndruk OKButton\ntoon\ndruk BackButton", R"(
     ! uitroep "Geen nazaten voor de opgegeven stamouder"
+    : RptTakken "Rapport Takkenverdeling"
+    = UitlegLabel "De takkenverdeling brengt het aantal nakomelingen en aangetrouwden in beeld van de kinderen van de opgegeven persoon."
+    = PersNr "7"
+    = ZoekButton "&Zoek Persoon"
     = AantalTakken "0"
+    = OKButton "&OK"
+    = BackButton "&Terug"
+    * PersNr
   )");
   EXPECT_EQ(Lijst(), "");
 }
@@ -92,6 +99,21 @@ TEST_F(RptTakkenToets, EenOnleesbareStamouderWordtGemeld) {
         R"(! stop "Fout bij het lezen van Persoonsrecord 2\nFout van de schijf")"
         "\n" +
             std::string(kNiemand));
+}
+
+TEST_F(RptTakkenToets, DeTellerBegintOpnieuw) {
+  Speel(
+      "vul PersNr 2\ndruk OKButton\ndruk BackButton\nvul PersNr 77\ndruk OKButton\n"
+      "toon AantalTakken\ndruk BackButton",
+      std::string(kGetoond) + std::string(kNiemand) + "= AantalTakken \"\"\n");
+}
+
+TEST_F(RptTakkenToets, NeeOpHetAfbrekenGaatVerder) {
+  Speel("onderbreek 1\nantwoord Nee\nvul PersNr 2\ndruk OKButton\ndruk BackButton\ndruk BackButton",
+        R"(? vraag Ja/Nee "Opbouw Afbreken ?" -> Nee)"
+        "\n" +
+            std::string(kGetoond));
+  EXPECT_NE(Lijst().find("\r\ntak 2 (P5)  : 2 afstammelingen\r\n"), std::string::npos);
 }
 
 }  // namespace

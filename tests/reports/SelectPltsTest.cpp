@@ -114,5 +114,12 @@ TEST_F(SelectPltsToets, WatOnleesbaarIsWordtInStilteOvergeslagen) {
   EXPECT_EQ(Lijst(), "R:    3 KHuw: 06-07-1852\r\n");
 }
 
+TEST_F(SelectPltsToets, DeDatumscheiderIsDieVanDeInstellingen) {
+  ZetScheider('.');
+  Speel("antwoord Ja\nvul PltsNm Delft\ndruk OKButton\ndruk BackButton\ndruk BackButton",
+        std::string(kDelft) + std::string(kGetoond));
+  EXPECT_EQ(Lijst().find("P:    2 Geb:  01.02.1800\r\n"), 0U);
+}
+
 }  // namespace
 }  // namespace lb77

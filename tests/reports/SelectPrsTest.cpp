@@ -125,5 +125,35 @@ TEST_F(SelectPrsToets, EenOnjuistAantalWordtGemeld) {
   EXPECT_NE(Lijst().find("\r\n4 Personen gevonden."), std::string::npos);
 }
 
+TEST_F(SelectPrsToets, NeeOpHetAfbrekenGaatVerder) {
+  Speel(
+      "onderbreek 3\nantwoord Nee\nvul AchterNm dam\ndruk OKButton\ndruk BackButton\n"
+      "druk BackButton",
+      R"(? vraag Ja/Nee "Opbouw Afbreken ?" -> Nee)"
+      "\n" +
+          std::string(kGetoond));
+  EXPECT_NE(Lijst().find("\r\n4 Personen gevonden."), std::string::npos);
+}
+
+TEST_F(SelectPrsToets, DeDatumscheiderIsDieVanDeInstellingen) {
+  ZetScheider('.');
+  Speel(R"(
+      toon VanDatumGeb
+      druk OKButton
+      vul VanDatumGeb 1.1.1860
+      toon VanDatumGeb
+      druk OKButton
+      druk BackButton
+      vul VanDatumGeb
+      toon VanDatumGeb
+      druk OKButton
+      druk BackButton
+    )",
+        "= VanDatumGeb \"  .  .    \"\n" + std::string(kNiets) + "= VanDatumGeb \"01.01.1860\"\n" +
+            std::string(kGetoond) + "= VanDatumGeb \"  .  .    \"\n" + std::string(kNiets));
+  EXPECT_EQ(Lijst().find("P:    9 : "), 0U);
+  EXPECT_NE(Lijst().find("\r\n1 Personen gevonden."), std::string::npos);
+}
+
 }  // namespace
 }  // namespace lb77

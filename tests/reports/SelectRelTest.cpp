@@ -76,5 +76,14 @@ TEST_F(SelectRelToets, WatOnleesbaarIsWordtInStilteOvergeslagen) {
   EXPECT_NE(Lijst().find("\r\n1 Relaties gevonden."), std::string::npos);
 }
 
+// kept: empty dates of a relation have "-" all the same.
+TEST_F(SelectRelToets, DeDatumscheiderIsDieVanDeInstellingen) {
+  ZetScheider('.');
+  Speel(
+      "vul VanDatumHuw 1-1-1852\ntoon VanDatumHuw\ndruk OKButton\ndruk BackButton\ndruk BackButton",
+      "= VanDatumHuw \"01.01.1852\"\n" + std::string(kGetoond));
+  EXPECT_EQ(Lijst().find("R:    3   -  -       -  -     06.07.1852 P:6 x P:4\r\n"), 0U);
+}
+
 }  // namespace
 }  // namespace lb77
