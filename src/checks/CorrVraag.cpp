@@ -64,7 +64,6 @@ CorrVraag::CorrVraag(const CorrVraagSoort& soort, Hoofdmodule& hoofd)
       soort_(soort) {
   ZetHulpOnderwerp("corrigeren");
   ZetEersteVeld(RecordNr);
-  RecordNr.ZetEnter(EnterSoort::OK);
   // An empty number is refused without a word.
   RecordNr.BijVerlaten([this] { return !RecordNr.Tekst().empty(); });
   OKButton.BijKlik([this] { OKButtonKlik(); });

@@ -17,9 +17,7 @@ RecordNrVak::RecordNrVak(InvoerFormulier& formulier, std::string_view naam,
     : InvoerVak(formulier, naam, bijschrift, kCijfers,
                 bestand == BestandSoort::Personen ? InvoerSoort::Persoon : InvoerSoort::Tekst),
       bestand_(bestand),
-      vervolgtest_(vervolgtest) {
-  ZetFilter(AlleenCijfers);
-}
+      vervolgtest_(vervolgtest) {}
 
 std::int16_t RecordNrVak::Nr() const {
   return NaarInt16(Getalwaarde(Tekst())).value_or(std::int16_t{0});

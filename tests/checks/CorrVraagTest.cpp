@@ -92,10 +92,11 @@ TEST_F(CorrVraagTest, HetNummerLeidtNaarZijnDialoog) {
   const auto speelt = [this](const CorrVraagSoort& soort, int nr, const std::string& vorm,
                              const std::string& titel) {
     const std::string vraag(soort.naam);
-    Verwacht("typ RecordNr " + std::to_string(nr) + "\ntoets Enter\ntoon RecordNr\ndruk BackButton",
-             Weg(soort),
-             "+ " + vraag + " \"" + std::string(soort.titel) + "\"\n- " + vraag + "\n+ " + vorm +
-                 " \"" + titel + "\"\n= RecordNr \"" + std::to_string(nr) + "\"\n- " + vorm + "\n");
+    Verwacht(
+        "typ RecordNr " + std::to_string(nr) + "\ndruk OKButton\ntoon RecordNr\ndruk BackButton",
+        Weg(soort),
+        "+ " + vraag + " \"" + std::string(soort.titel) + "\"\n- " + vraag + "\n+ " + vorm + " \"" +
+            titel + "\"\n= RecordNr \"" + std::to_string(nr) + "\"\n- " + vorm + "\n");
     EXPECT_EQ(na_.*soort.volger, nr);
   };
   speelt(kVraagPersRecord, 2, "CorrPrsAlg", "Corrigeer Verwijzingen Persoonsrecord");
@@ -106,8 +107,25 @@ TEST_F(CorrVraagTest, HetNummerLeidtNaarZijnDialoog) {
   speelt(kVraagRelVervolg, 3, "CorrRelVlg", "Corrigeer Verwijzingen Vervolgrecord Relatiebestand");
 }
 
-TEST_F(CorrVraagTest, EenNummerHeeftVijfCijfers) {
-  SpeeltVraag(kVraagOpmRecord, "typ RecordNr 1x2345678\ntoon RecordNr", "= RecordNr \"12345\"");
+TEST_F(CorrVraagTest, EnterControleertEnBlijft) {
+  SpeeltVraag(kVraagPersRecord,
+              "typ RecordNr 3\ntoets Enter\nvul RecordNr 2\ntoets RecordNr Enter\ntoon RecordNr",
+              "! uitroep \"Record is een vervolgrecord\"\n= RecordNr \"2\"");
+}
+
+TEST_F(CorrVraagTest, EenNummerHeeftVijfTekens) {
+  SpeeltVraag(kVraagOpmRecord, "typ RecordNr 12345678\ntoon RecordNr", "= RecordNr \"12345\"");
+}
+
+// One message for each character.
+TEST_F(CorrVraagTest, EenNummerMetLettersIsNietNumeriek) {
+  SpeeltVraag(kVraagPersRecord, "typ RecordNr 12a4\ntoets Enter\nvul RecordNr x2y\ntoon RecordNr",
+              R"(
+      ! uitroep "Recordnummer is niet numeriek"
+      ! uitroep "Recordnummer is niet numeriek"
+      ! uitroep "Recordnummer is niet numeriek"
+      = RecordNr "x2y"
+    )");
 }
 
 // The number of a person can be searched.

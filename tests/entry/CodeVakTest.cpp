@@ -108,7 +108,9 @@ TEST_F(CodeVakToets, EenRecordnummerMoetBestaan) {
            R"(! uitroep "Record is een vervolgrecord")");
   SpeeltNr("typ RecordNr 2\ntoets Tab", Vervolgtest::Vervolg,
            R"(! uitroep "Record is geen vervolgrecord")");
-  SpeeltNr("typ RecordNr 2x\ntoets Tab\ntyp Volgend y", Vervolgtest::GeenVervolg, "");
+  SpeeltNr("typ RecordNr 2x\ntoets Tab", Vervolgtest::GeenVervolg,
+           R"(! uitroep "Recordnummer is niet numeriek")");
+  SpeeltNr("typ RecordNr 2\ntoets Tab\ntyp Volgend y", Vervolgtest::GeenVervolg, "");
   EXPECT_EQ(nr_, 2);
 }
 
