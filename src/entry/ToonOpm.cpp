@@ -79,8 +79,7 @@ void ToonOpm::MeerOpmKlik() {
 void ToonOpm::MaakMeerKlik() {
   const std::int16_t vorige = opmRegel_;
   opmRegel_ = Volgende(opmRegel_).value_or(opmRegel_);
-  Hoofd().gesprek.Toon<WijzigOpm>(Hoofd(), vraag_, opmRegel_);
-  Toon();
+  Wijzig();
   if (Gesloten() || Bestaat(opmRegel_)) return;
   // Nothing was made there.
   opmRegel_ = vorige;
@@ -88,8 +87,18 @@ void ToonOpm::MaakMeerKlik() {
 }
 
 void ToonOpm::WijzigButtonKlik() {
-  Hoofd().gesprek.Toon<WijzigOpm>(Hoofd(), vraag_, opmRegel_);
-  Toon();
+  Wijzig();
+}
+
+// An owner that can't be read has been told of once then.
+void ToonOpm::Wijzig() {
+  WijzigOpm wijzig(Hoofd(), vraag_, opmRegel_);
+  Hoofd().gesprek.ToonModaal(wijzig);
+  if (wijzig.Geopend()) {
+    Toon();
+  } else {
+    Sluit();
+  }
 }
 
 }  // namespace lb77

@@ -33,6 +33,7 @@ class ToonOpm final : public InvoerFormulier {
   void MeerOpmKlik();
   void MaakMeerKlik();
   void WijzigButtonKlik();
+  void Wijzig();
 
   OpmVraag vraag_;
   std::int16_t opmRegel_;

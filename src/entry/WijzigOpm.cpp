@@ -28,6 +28,7 @@ void WijzigOpm::BijLaden() {
     Sluit();
     return;
   }
+  geopend_ = true;
   Kop.Toon(vraag_, *eigenaar);
   begin_ = eigenaar->opmRecord;
   OpmLB77& opmerking = Hoofd().Opmerking;

@@ -26,6 +26,9 @@ class WijzigOpm final : public InvoerFormulier {
   Knop Opslaan{*this, "Opslaan", "&Opslaan"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 
+  // False when its owner could not be read, which has been told.
+  [[nodiscard]] bool Geopend() const { return geopend_; }
+
  protected:
   void BijLaden() override;
 
@@ -39,6 +42,7 @@ class WijzigOpm final : public InvoerFormulier {
 
   OpmVraag vraag_;
   std::int16_t opmRegel_;
+  bool geopend_ = false;
   std::int16_t begin_ = 0;
   OpmInhoud inhoud_;
   std::string getoond_;

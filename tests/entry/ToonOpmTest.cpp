@@ -1,5 +1,7 @@
 #include "entry/OpmToets.h"
 #include "entry/ToonOpm.h"
+#include "steun/NepGesprek.h"
+#include "store/SetPaden.h"
 
 namespace lb77 {
 namespace {
@@ -188,6 +190,25 @@ TEST_F(ToonOpmTest, EenOnleesbareEigenaarWordtGemeld) {
     ! stop "Fout bij het lezen van Relatierecord 2\nFout van de schijf"
     ! stop "Leesfout bij relatierecord 2"
   )");
+}
+
+// By the dialog that was to change the remark, not a second time by this one.
+TEST_F(ToonOpmTest, EenEigenaarDieWegraaktWordtEenKeerGemeld) {
+  Maak({"een"});
+  for (const bool meer : {false, true}) {
+    NepGesprek gesprek;
+    const VasteKlok klok{{.jaar = 2000, .maand = 1, .dag = 1}};
+    Hoofdmodule hoofd(gesprek, klok, Map());
+    ASSERT_FALSE(hoofd.bestanden.OpenSet(SetPaden::Van(Map(), "PROEF")));
+    ToonOpm form(hoofd, MaakOpmVraag(2, persoonrubriek::kVoornaam, ""), 1);
+    ASSERT_TRUE(form.Laad());
+    ASSERT_TRUE(hoofd.Persoon.Wijzig(2, {{"GebCorr", "Z"}}));
+    form.Klik(meer ? form.MaakMeer : form.WijzigButton);
+    EXPECT_TRUE(form.Gesloten());
+    EXPECT_EQ(gesprek.Neem(),
+              std::vector<std::string>{"! uitroep \"Het opgegeven record is een vervolgrecord\""});
+    ASSERT_TRUE(hoofd.Persoon.Wijzig(2, {{"GebCorr", " "}}));
+  }
 }
 
 TEST_F(ToonOpmTest, EenKringVanOpmerkingenLooptTenEinde) {
