@@ -6,7 +6,6 @@
 
 #include "app/NietVeilig.h"
 #include "entry/HuwRegels.h"
-#include "entry/Koppelingen.h"
 #include "entry/VolgersBewaker.h"
 #include "store/Codes.h"
 #include "store/Handeling.h"
@@ -22,11 +21,6 @@ namespace {
 constexpr std::string_view kGeslachten = "OMV";
 constexpr std::string_view kVader(&geslacht::kMan, 1);
 constexpr std::string_view kMoeder(&geslacht::kVrouw, 1);
-
-Koppelingen Koppel(Hoofdmodule& hoofd) {
-  return {hoofd.Persoon, hoofd.Relatie, hoofd.volgers, hoofd.gesprek};
-}
-
 }  // namespace
 
 WijzigPersoon::WijzigPersoon(Hoofdmodule& hoofd)
@@ -153,15 +147,6 @@ bool WijzigPersoon::NeemVrijNummer() {
   return true;
 }
 
-void WijzigPersoon::ToonOuders(std::int16_t relatie) {
-  RelatieLB77& bron = Hoofd().Relatie;
-  const bool bekend = relatie > 0 && bron.Lees(relatie);
-  const std::int16_t man = bekend ? bron.ManNr() : std::int16_t{0};
-  const std::int16_t vrouw = bekend ? bron.VrouwNr() : std::int16_t{0};
-  Pa.Toon(man);
-  Ma.Toon(vrouw);
-}
-
 void WijzigPersoon::ToonPartners() {
   std::vector<HuwRegel> regels;
   if (bestaat_) regels = LeesHuwRegels(Hoofd().Persoon, Hoofd().Relatie, Hoofd().gesprek, nr_);
@@ -225,15 +210,6 @@ bool WijzigPersoon::CorrVerlaten() {
   return true;
 }
 
-// The focus goes to the button that leads back: the parents are known now.
-bool WijzigPersoon::RelNrOudersVerlaten() {
-  const std::int16_t relatie = RelNrOuders.Nr();
-  if (relatie != 0 && !Hoofd().Relatie.Lees(relatie)) return false;
-  ToonOuders(relatie);
-  if (relatie != 0) ZetFocus(BackButton);
-  return true;
-}
-
 std::string WijzigPersoon::Omschrijving() const {
   const std::string naam(Trim(VoorNm.Tekst() + " " + AchterNm.Tekst()));
   return "Persoon " + GetalTekst(nr_) + (bestaat_ ? " gewijzigd: " : " toegevoegd: ") +
@@ -284,28 +260,6 @@ bool WijzigPersoon::IsChronologisch() {
   return true;
 }
 
-bool WijzigPersoon::ZoekOpNaam(PersoonVak& ouder, std::string_view geslacht) {
-  if (ouder.VulNrUitNaam(geslacht)) return true;
-  ZetFocus(ouder.VoorNm);
-  return false;
-}
-
-bool WijzigPersoon::HoortBijNaam(PersoonVak& ouder, std::string_view naam) {
-  return ouder.NrHoortBijNaam() ||
-         Weiger(ouder.VoorNm, "Recordnr " + std::string(naam) + " hoort niet bij Naam");
-}
-
-bool WijzigPersoon::VindRelatie() {
-  if (!RelNrOuders.Tekst().empty() || (Pa.Nr() == 0 && Ma.Nr() == 0)) return true;
-  const std::int16_t relatie = Koppel(Hoofd()).ZoekRelatie(Pa.Nr(), Ma.Nr());
-  if (relatie == 0) {
-    ZetFocus(Pa.RecordNr);
-    return false;
-  }
-  RelNrOuders.ToonNr(relatie);
-  return true;
-}
-
 // A continuation record of a parent may have taken the number that was meant for this person, in
 // this try or in one before it, and nobody else may become the child.
 bool WijzigPersoon::HeeftNummer() {
@@ -314,53 +268,6 @@ bool WijzigPersoon::HeeftNummer() {
   if (!NeemVrijNummer()) return false;
   if (!metOuders || !Hoofd().Persoon.Lees(nr_)) return true;
   Hoofd().gesprek.Fout("Persoonsrecord " + GetalTekst(nr_) + " bestaat al");
-  return false;
-}
-
-bool WijzigPersoon::KloptRelatie() {
-  const std::int16_t nr = RelNrOuders.Nr();
-  if (nr <= 0) return true;
-  const std::string nummer = " " + GetalTekst(nr);
-  const RelatieLB77& relatie = Hoofd().Relatie;
-  if (!Hoofd().Relatie.Lees(nr)) {
-    Hoofd().gesprek.Fout("Fout bij het lezen van Relatie" + nummer);
-    ZetFocus(RelNrOuders);
-    return false;
-  }
-  if (Pa.Nr() != relatie.ManNr()) {
-    return Weiger(Pa.RecordNr, "Vader komt niet voor in Relatie" + nummer);
-  }
-  if (Ma.Nr() != relatie.VrouwNr()) {
-    return Weiger(Ma.RecordNr, "Moeder komt niet voor in Relatie" + nummer);
-  }
-  return true;
-}
-
-// The old parents stand there again, as behind the leave check of their relation.
-void WijzigPersoon::HerstelOuders() {
-  RelNrOuders.ToonNr(oudeOuders_);
-  static_cast<void>(Controleer(RelNrOuders));
-  ZetFocus(RelNrOuders);
-}
-
-bool WijzigPersoon::MaakLos() {
-  if (losgemaakt_ || oudeOuders_ <= 0 || RelNrOuders.Nr() == oudeOuders_) return true;
-  if (!Hoofd().gesprek.Vraag("Moet de koppeling met de ouders verbroken worden ?")) {
-    HerstelOuders();
-    return false;
-  }
-  losgemaakt_ = Koppel(Hoofd()).VerplaatsKind(nr_, oudeOuders_, 0);
-  if (losgemaakt_) return true;
-  Hoofd().gesprek.Waarschuw("Fout bij het verbreken van de koppeling met de ouders");
-  HerstelOuders();
-  return false;
-}
-
-bool WijzigPersoon::MaakVast() {
-  const std::int16_t nieuw = RelNrOuders.Nr();
-  if (nieuw <= 0 || (nieuw == oudeOuders_ && !losgemaakt_)) return true;
-  if (Koppel(Hoofd()).VerplaatsKind(nr_, 0, nieuw)) return true;
-  Hoofd().gesprek.Waarschuw("Fout bij het koppelen aan de ouders");
   return false;
 }
 
