@@ -11,15 +11,15 @@ namespace lb77 {
 
 class Bereik {
  public:
-  // The highest number of the file of `record`. A wrong count is warned of the first time only; later
-  // what was added meanwhile lies within it.
+  // The highest number of a file. The first time `luid` tells of a wrong count; later what was added
+  // meanwhile lies within it, by `stil`.
   template <class Record>
-  [[nodiscard]] std::int16_t Tot(Record& record) {
+  [[nodiscard]] std::int16_t Tot(Record& luid, Record& stil) {
     if (tot_) {
-      const std::int32_t nu = std::min(record.AantalInAdmin() + 1, kMaxRecords);
+      const std::int32_t nu = std::min(stil.AantalInAdmin() + 1, kMaxRecords);
       tot_ = std::max(*tot_, static_cast<std::int16_t>(nu));
     } else {
-      tot_ = record.AantalRecords();
+      tot_ = luid.AantalRecords();
     }
     return *tot_;
   }

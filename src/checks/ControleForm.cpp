@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "checks/Bevindingen.h"
-#include "entry/VolgersBewaker.h"
 #include "output/ToonTekst.h"
 #include "text/Getallen.h"
 #include "text/Pad.h"
@@ -50,9 +49,9 @@ ControleKeuzen ControleForm::Keuzen() const {
 }
 
 void ControleForm::Werk() {
-  const VolgersBewaker bewaker(Hoofd().volgers);
+  ControleBron bron(Hoofd().MaakOpslag());
   const std::filesystem::path pad = Hoofd().Ini.TempDir() / soort_.bestand;
-  const auto regels = soort_.maak(Hoofd().MaakGegevens(), Keuzen());
+  const auto regels = soort_.maak(bron, Keuzen());
   std::int16_t laatste = 0;
   const bool gelukt = MaakVerslag({pad}, [&](TekstSchrijver& uit) -> Uitslag {
     laatste = regels->Laatste();

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "checks/Bereik.h"
+#include "checks/ControleBron.h"
 #include "checks/Controleur.h"
 #include "checks/OpmSchakels.h"
 #include "store/Gegevens.h"
@@ -17,9 +18,11 @@ namespace lb77 {
 // owner. All chains are read once, in the order of the file, however they are damaged.
 class ControleOpmRegels final : public Controleur {
  public:
-  explicit ControleOpmRegels(const Gegevens& gegevens) : gegevens_(gegevens) {}
+  explicit ControleOpmRegels(ControleBron& bron) : gegevens_(bron.Stil()), luid_(bron.Luid()) {}
 
-  [[nodiscard]] std::int16_t Laatste() override { return bereik_.Tot(gegevens_.opmerking); }
+  [[nodiscard]] std::int16_t Laatste() override {
+    return bereik_.Tot(luid_.opmerking, gegevens_.opmerking);
+  }
   void Begin(std::int16_t laatste) override;
   void Toets(std::int16_t nr, const Melding& meld) override;
 
@@ -42,6 +45,7 @@ class ControleOpmRegels final : public Controleur {
   [[nodiscard]] const Eigenaar& EigenaarVan(const Regel& regel);
 
   Gegevens gegevens_;
+  Gegevens luid_;
   Bereik bereik_;
   std::vector<Regel> regels_;                       // by record number
   std::array<std::vector<Eigenaar>, 2> eigenaren_;  // persons, relations

@@ -27,8 +27,7 @@ std::string Aanduiding(std::string_view naam, std::string_view prov) {
 
 // Calls `doe` on each record that can be read; one that continues another counts as well.
 template <class Record, class Doe>
-void ElkRecord(Record& record, Bereik& bereik, Doe doe) {
-  const std::int16_t laatste = bereik.Tot(record);
+void ElkRecord(Record& record, std::int16_t laatste, Doe doe) {
   for (std::int32_t nr = 2; nr <= laatste; ++nr) {
     if (record.Lees(static_cast<std::int16_t>(nr))) doe();
   }
@@ -63,12 +62,12 @@ void ControlePltsRegels::LeesGebruik() {
     }
   };
   PersoonLB77& persoon = gegevens_.persoon;
-  ElkRecord(persoon, personen_, [&] {
+  ElkRecord(persoon, personen_.Tot(luid_.persoon, persoon), [&] {
     gebruik({persoon.GebPlaatsNr(), persoon.DoopPlaatsNr(), persoon.OvlPlaatsNr(),
              persoon.BegrPlaatsNr()});
   });
   RelatieLB77& relatie = gegevens_.relatie;
-  ElkRecord(relatie, relaties_, [&] {
+  ElkRecord(relatie, relaties_.Tot(luid_.relatie, relatie), [&] {
     gebruik({relatie.OtrPlaatsNr(), relatie.WetHuwPlaatsNr(), relatie.KHuwPlaatsNr()});
   });
 }

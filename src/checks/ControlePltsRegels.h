@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "checks/Bereik.h"
+#include "checks/ControleBron.h"
 #include "checks/Controleur.h"
 #include "store/Gegevens.h"
 
@@ -18,10 +19,12 @@ namespace lb77 {
 class ControlePltsRegels final : public Controleur {
  public:
   // `keuzen`: double places, places without use.
-  ControlePltsRegels(const Gegevens& gegevens, const ControleKeuzen& keuzen)
-      : gegevens_(gegevens), keuzen_(keuzen) {}
+  ControlePltsRegels(ControleBron& bron, const ControleKeuzen& keuzen)
+      : gegevens_(bron.Stil()), luid_(bron.Luid()), keuzen_(keuzen) {}
 
-  [[nodiscard]] std::int16_t Laatste() override { return bereik_.Tot(gegevens_.plaats); }
+  [[nodiscard]] std::int16_t Laatste() override {
+    return bereik_.Tot(luid_.plaats, gegevens_.plaats);
+  }
   void Begin(std::int16_t laatste) override;
   void Toets(std::int16_t nr, const Melding& meld) override;
 
@@ -38,6 +41,7 @@ class ControlePltsRegels final : public Controleur {
   void ToetsDubbel(const Plaats& plaats, const Melding& meld);
 
   Gegevens gegevens_;
+  Gegevens luid_;
   Bereik bereik_;
   Bereik personen_;
   Bereik relaties_;

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "checks/Bereik.h"
+#include "checks/ControleBron.h"
 #include "checks/Controleur.h"
 #include "store/Gegevens.h"
 
@@ -14,10 +15,12 @@ namespace lb77 {
 class ControlePrsRegels final : public Controleur {
  public:
   // `keuzen`: parents, order of dates, age, age of the parents, relations.
-  ControlePrsRegels(const Gegevens& gegevens, const ControleKeuzen& keuzen)
-      : gegevens_(gegevens), keuzen_(keuzen) {}
+  ControlePrsRegels(ControleBron& bron, const ControleKeuzen& keuzen)
+      : gegevens_(bron.Stil()), luid_(bron.Luid()), keuzen_(keuzen) {}
 
-  [[nodiscard]] std::int16_t Laatste() override { return bereik_.Tot(gegevens_.persoon); }
+  [[nodiscard]] std::int16_t Laatste() override {
+    return bereik_.Tot(luid_.persoon, gegevens_.persoon);
+  }
   void Begin(std::int16_t) override {}
   void Toets(std::int16_t nr, const Melding& meld) override;
 
@@ -43,6 +46,7 @@ class ControlePrsRegels final : public Controleur {
   void ToetsRelaties(const Leven& leven, const Melding& meld);
 
   Gegevens gegevens_;
+  Gegevens luid_;
   Bereik bereik_;
   ControleKeuzen keuzen_;
 };

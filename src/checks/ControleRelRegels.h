@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "checks/Bereik.h"
+#include "checks/ControleBron.h"
 #include "checks/Controleur.h"
 #include "store/Gegevens.h"
 
@@ -14,10 +15,12 @@ class ControleRelRegels final : public Controleur {
  public:
   // `keuzen`: partners (which nothing looks at), order of dates, difference of the partners' ages,
   // ages of the partners, children.
-  ControleRelRegels(const Gegevens& gegevens, const ControleKeuzen& keuzen)
-      : gegevens_(gegevens), keuzen_(keuzen) {}
+  ControleRelRegels(ControleBron& bron, const ControleKeuzen& keuzen)
+      : gegevens_(bron.Stil()), luid_(bron.Luid()), keuzen_(keuzen) {}
 
-  [[nodiscard]] std::int16_t Laatste() override { return bereik_.Tot(gegevens_.relatie); }
+  [[nodiscard]] std::int16_t Laatste() override {
+    return bereik_.Tot(luid_.relatie, gegevens_.relatie);
+  }
   void Begin(std::int16_t) override {}
   void Toets(std::int16_t nr, const Melding& meld) override;
 
@@ -39,6 +42,7 @@ class ControleRelRegels final : public Controleur {
   void ToetsKinderen(std::int16_t nr, const Melding& meld);
 
   Gegevens gegevens_;
+  Gegevens luid_;
   Bereik bereik_;
   ControleKeuzen keuzen_;
 };

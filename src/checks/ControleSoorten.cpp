@@ -34,12 +34,12 @@ constexpr ControleOptie kOptiesPlts[] = {
 };
 
 template <class Regels>
-std::unique_ptr<Controleur> Maak(const Gegevens& gegevens, const ControleKeuzen& keuzen) {
-  return std::make_unique<Regels>(gegevens, keuzen);
+std::unique_ptr<Controleur> Maak(ControleBron& bron, const ControleKeuzen& keuzen) {
+  return std::make_unique<Regels>(bron, keuzen);
 }
 
-std::unique_ptr<Controleur> MaakOpm(const Gegevens& gegevens, const ControleKeuzen&) {
-  return std::make_unique<ControleOpmRegels>(gegevens);
+std::unique_ptr<Controleur> MaakOpm(ControleBron& bron, const ControleKeuzen&) {
+  return std::make_unique<ControleOpmRegels>(bron);
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ namespace lb77 {
 using ControleKeuzen = std::array<bool, 5>;
 
 // Knows no form and changes no record. A record that can't be read, and a continuation record, is
-// passed over.
+// passed over in silence.
 class Controleur {
  public:
   using Melding = std::function<void(Bevinding)>;

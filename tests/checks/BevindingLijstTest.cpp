@@ -29,7 +29,7 @@ TEST_F(BevindingLijstToets, StaatOpSoortEnDaarbinnenOpNummer) {
   bouw_.Man("Drie", "Proef",
             {{"GebDatum", "01-01-1801"}, {"DoopDatum", "01-01-1800"}, {"OvlDatum", "01-01-1800"}});
   bouw_.Man("Vier", "Proef", {{"GebDatum", "01-01-1801"}, {"DoopDatum", "01-01-1800"}});
-  ControlePrsRegels regels(DeGegevens(), kAlles);
+  ControlePrsRegels regels(bron_, kAlles);
   const BevindingLijst lijst = Lijst(regels);
   EXPECT_THAT(Inhoud(lijst), ElementsAre(Pair("Persoon 3: Geboorte is na de doop", false),
                                          Pair("Persoon 4: Geboorte is na de doop", false),
@@ -46,7 +46,7 @@ TEST_F(BevindingLijstToets, StaatOpSoortEnDaarbinnenOpNummer) {
 TEST_F(BevindingLijstToets, WatErNietMeerIsHeetHersteldEnWatErBijKomtOok) {
   bouw_.Man("Twee", "Proef", {{"GebDatum", "01-01-1801"}, {"DoopDatum", "01-01-1800"}});
   bouw_.Man("Drie", "Proef", {{"GebDatum", "01-01-1801"}, {"DoopDatum", "01-01-1800"}});
-  ControlePrsRegels regels(DeGegevens(), kAlles);
+  ControlePrsRegels regels(bron_, kAlles);
   BevindingLijst lijst = Lijst(regels);
   bouw_.WijzigPersoon(2, {{"DoopDatum", "01-01-1801"}, {"OvlDatum", "01-01-1800"}});
   lijst.Hertoets(regels);
@@ -65,7 +65,7 @@ TEST_F(BevindingLijstToets, WatErNietMeerIsHeetHersteldEnWatErBijKomtOok) {
 // A relation that names an absent child twice has two lines that read alike.
 TEST_F(BevindingLijstToets, GelijkeRegelsWordenElkVoorZichHersteld) {
   bouw_.Relatie(0, 0, {}, {{"Kind1", "97"}, {"Kind2", "97"}});
-  ControleRelRegels regels(DeGegevens(), kAlles);
+  ControleRelRegels regels(bron_, kAlles);
   BevindingLijst lijst = Lijst(regels);
   const std::string regel = "Relatie 2: Verwijzing naar kind (P97) klopt niet";
   lijst.Hertoets(regels);

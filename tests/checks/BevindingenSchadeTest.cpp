@@ -20,7 +20,8 @@ TEST_F(BevindingenSchade, EenPlaatsDieNietTeLezenIsOpentGeenBladzijde) {
   Bouw().Plaats("Leiden", "ZH");
   const Taak taak = [&](Hoofdmodule& hoofd) {
     ASSERT_TRUE(Start(hoofd));
-    const std::unique_ptr<Controleur> regels = kControlePlts.maak(hoofd.MaakGegevens(), {});
+    ControleBron bron(hoofd.MaakOpslag());
+    const std::unique_ptr<Controleur> regels = kControlePlts.maak(bron, {});
     std::vector<Bevinding> gevonden;
     for (const std::int32_t nr : {3, 9}) {
       const RecordPlek plek{BestandSoort::Plaatsen, nr};
@@ -43,7 +44,8 @@ TEST_F(BevindingenSchade, HetAantalNaastDeLijstVolgtEenHerstel) {
   Bouw().Relatie(0, 0);
   Bouw().WijzigPersoon(3, {{"Ouders", "2"}});
   const Taak taak = [](Hoofdmodule& hoofd) {
-    const std::unique_ptr<Controleur> regels = kControlePrs.maak(hoofd.MaakGegevens(), {});
+    ControleBron bron(hoofd.MaakOpslag());
+    const std::unique_ptr<Controleur> regels = kControlePrs.maak(bron, {});
     const RecordPlek plek{BestandSoort::Personen, 3};
     BevindingLijst lijst({{plek, plek, BevindingSoort::NietBijOuders, "Persoon 3"}},
                          {.opLaatste = 2, .erna = 1});
@@ -111,17 +113,17 @@ TEST_F(BevindingenSchade, EenVerkeerdeTellingWordtNaEenHerstelNietHerhaald) {
 TEST_F(BevindingenSchade, HetBereikGroeitMeeZonderWaarschuwing) {
   Stil([](Hoofdmodule& hoofd) {
     Bereik bereik;
-    EXPECT_EQ(bereik.Tot(hoofd.Persoon), 3);
+    EXPECT_EQ(bereik.Tot(hoofd.Persoon, hoofd.Persoon), 3);
     EXPECT_TRUE(hoofd.Persoon.Nieuw(4));
-    EXPECT_EQ(bereik.Tot(hoofd.Persoon), 4);
+    EXPECT_EQ(bereik.Tot(hoofd.Persoon, hoofd.Persoon), 4);
   });
   Bouw().ZetAantalPersonen(32767);
   Verwacht(
       "",
       [](Hoofdmodule& hoofd) {
         Bereik bereik;
-        EXPECT_EQ(bereik.Tot(hoofd.Persoon), 4);
-        EXPECT_EQ(bereik.Tot(hoofd.Persoon), 32767);
+        EXPECT_EQ(bereik.Tot(hoofd.Persoon, hoofd.Persoon), 4);
+        EXPECT_EQ(bereik.Tot(hoofd.Persoon, hoofd.Persoon), 32767);
       },
       R"(
     ! uitroep "Aantal persoonsrecords in administratierecord is onjuist\nGevonden:4\nVolgens administratierecord:32768"

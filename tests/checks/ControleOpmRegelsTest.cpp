@@ -25,7 +25,7 @@ class ControleOpm : public ControleToets {
     EXPECT_TRUE(set_.Opmerking.Wijzig(nr, velden));
   }
   Zinnenlijst Regels() {
-    ControleOpmRegels regels(DeGegevens());
+    ControleOpmRegels regels(bron_);
     Zinnenlijst uit;
     for (const Bevinding& een : Bevindingen(regels)) uit.push_back(een.tekst);
     return uit;
@@ -69,6 +69,11 @@ TEST_F(ControleOpm, EenEigenaarDieErNietIsOfEenVervolgrecordIs) {
                                     "Opmerking 6 verwijst niet naar R-3"));
   bouw_.WijzigPersoon(2, {{"GebCorr", "Z"}});
   EXPECT_EQ(Regels().size(), 4u);
+  bouw_.WijzigRelatie(2, {{"HuwCorr", "Z"}});
+  EXPECT_THAT(Regels(),
+              ElementsAre("Opmerking 2 verwijst niet naar P99", "Opmerking 3 verwijst niet naar P2",
+                          "Opmerking 4 verwijst niet naar P2", "Opmerking 5 verwijst niet naar R2",
+                          "Opmerking 6 verwijst niet naar R-3"));
 }
 
 TEST_F(ControleOpm, EenRegelVanEenAndereRubriekHoortErNietBij) {
@@ -111,53 +116,72 @@ TEST_F(ControleOpm, EenKringEnEenVerkeerdeSchakelEindigen) {
 TEST_F(ControleOpm, DeKaartVanEenBevindingIsDieVanDeEigenaar) {
   BouwOpmerkingen();
   bouw_.WijzigRelatie(2, {{"OpmRecord", "6"}});
-  ControleOpmRegels regels(DeGegevens());
+  ControleOpmRegels regels(bron_);
   EXPECT_THAT(Bevindingen(regels), ElementsAre(Bevinding{{BestandSoort::Opmerkingen, 5},
                                                          {BestandSoort::Relaties, 2},
                                                          BevindingSoort::LosseOpmerking,
                                                          "Opmerking 5 verwijst niet naar R2"}));
 }
 
-// Beside a walk line by line, as the fields of a record show their remarks.
+// Is the record one of the lines that the fields of its owner show?
+template <class Eigenaar>
+bool StaatErbij(OpmLB77& opmerking, Eigenaar& eigenaar, std::int16_t wie, std::int16_t rubriek,
+                std::int16_t nr) {
+  if (!eigenaar.Lees(wie) || eigenaar.IsVolgRecord()) return false;
+  const std::int16_t code = eigenaar.OpmCode();
+  const std::int16_t begin = eigenaar.OpmRecord();
+  for (std::int16_t regel = 1; regel <= 400; ++regel) {
+    if (opmerking.OpmRecordNr(code, begin, rubriek, regel, false).Nr == nr) return true;
+  }
+  return false;
+}
+
+// Beside a walk line by line, at persons and at relations.
 TEST_F(ControleOpm, GeeftHetzelfdeAlsRegelVoorRegelZoeken) {
   for (int i = 0; i < 3; ++i) bouw_.Man("Nog", "Een");
+  for (int i = 0; i < 2; ++i) bouw_.Relatie(0, 0);
   for (int i = 0; i < 12; ++i) {
-    bouw_.OpmerkingBijPersoon(static_cast<std::int16_t>(2 + i % 4), std::int16_t(1 << (i % 3)),
-                              {"a", "b", "c"});
+    const auto rubriek = static_cast<std::int16_t>(1 << (i % 3));
+    if (i % 2 == 0) {
+      bouw_.OpmerkingBijPersoon(static_cast<std::int16_t>(2 + i % 4), rubriek, {"a", "b", "c"});
+    } else {
+      bouw_.OpmerkingBijRelatie(static_cast<std::int16_t>(2 + i % 3),
+                                static_cast<std::int16_t>(-rubriek), {"a", "b", "c"});
+    }
   }
   std::uint32_t toeval = 1;
   const auto dobbel = [&toeval](std::uint32_t n) {
     toeval = toeval * 1664525u + 1013904223u;
     return static_cast<std::int16_t>((toeval >> 16) % n);
   };
-  for (int ronde = 0; ronde < 60; ++ronde) {
+  struct Greep {
+    std::string_view veld;
+    int laagste;
+    std::uint32_t aantal;
+  };
+  constexpr Greep kGrepen[] = {
+      {"BijZelfde", 0, 40}, {"VolgRegel", 0, 40}, {"BijRecord", 0, 7}, {"Rubriek", -4, 9}};
+  std::size_t bijRelaties = 0;
+  for (int ronde = 0; ronde < 90; ++ronde) {
     const auto nr = static_cast<std::int16_t>(2 + dobbel(36));
-    const std::string_view velden[] = {"BijZelfde", "VolgRegel", "BijRecord", "Rubriek"};
-    const std::int16_t grenzen[] = {40, 40, 7, 5};
-    const auto keus = static_cast<std::size_t>(dobbel(4));
-    WijzigOpm(nr,
-              {{velden[keus], std::to_string(dobbel(static_cast<std::uint32_t>(grenzen[keus])))}});
+    const Greep& greep = kGrepen[dobbel(4)];
+    WijzigOpm(nr, {{greep.veld, std::to_string(greep.laagste + dobbel(greep.aantal))}});
     Zinnenlijst verwacht;
     for (std::int16_t een = 2; een <= 37; ++een) {
       ASSERT_TRUE(set_.Opmerking.Lees(een));
       const std::int16_t rubriek = set_.Opmerking.Rubriek();
-      const std::int16_t eigenaar = set_.Opmerking.BijRecord();
+      const std::int16_t wie = set_.Opmerking.BijRecord();
       if (rubriek == 0) continue;
-      bool gevonden = false;
-      if (set_.Persoon.Lees(eigenaar)) {
-        const std::int16_t code = set_.Persoon.OpmCode();
-        const std::int16_t begin = set_.Persoon.OpmRecord();
-        for (std::int16_t regel = 1; regel <= 400 && !gevonden; ++regel) {
-          gevonden = set_.Opmerking.OpmRecordNr(code, begin, rubriek, regel, false).Nr == een;
-        }
-      }
-      if (!gevonden) {
-        verwacht.push_back("Opmerking " + std::to_string(een) + " verwijst niet naar P" +
-                           std::to_string(eigenaar));
-      }
+      const bool erbij = rubriek > 0 ? StaatErbij(set_.Opmerking, set_.Persoon, wie, rubriek, een)
+                                     : StaatErbij(set_.Opmerking, set_.Relatie, wie, rubriek, een);
+      bijRelaties += erbij && rubriek < 0 ? 1 : 0;
+      if (erbij) continue;
+      verwacht.push_back("Opmerking " + std::to_string(een) + " verwijst niet naar " +
+                         (rubriek > 0 ? "P" : "R") + std::to_string(wie));
     }
     ASSERT_EQ(Regels(), verwacht) << "ronde " << ronde;
   }
+  EXPECT_GT(bijRelaties, 200u);
 }
 
 }  // namespace

@@ -142,7 +142,7 @@ TEST_F(ControlePlts, GeeftHetzelfdeAlsElkPaarVergelijken) {
 
 TEST_F(ControlePlts, EenVolgendeGangZietDeBestandenZoalsZeDanZijn) {
   bouw_.Plaats("Delft", "ZH");
-  ControlePltsRegels regels(DeGegevens(), kAlles);
+  ControlePltsRegels regels(bron_, kAlles);
   EXPECT_EQ(Bevindingen(regels).size(), 1u);
   bouw_.Man("Hier", "Was", {{"GebPlaats", "2"}});
   EXPECT_THAT(Bevindingen(regels), IsEmpty());

@@ -208,7 +208,7 @@ TEST_F(ControlePrs, DeToetsenKomenInVasteVolgorde) {
 
 TEST_F(ControlePrs, EenBevindingIsEenWaarde) {
   bouw_.Man("Om", "Datum", {{"GebDatum", "01-01-1801"}, {"DoopDatum", "01-01-1800"}});
-  ControlePrsRegels regels(DeGegevens(), kAlles);
+  ControlePrsRegels regels(bron_, kAlles);
   const RecordPlek plek{BestandSoort::Personen, 2};
   EXPECT_THAT(Bevindingen(regels), ElementsAre(Bevinding{plek, plek, BevindingSoort::GeboorteNaDoop,
                                                          "Persoon 2: Geboorte is na de doop"}));

@@ -35,7 +35,7 @@ class ControleSchade : public ControleToets {
     std::size_t regels = Regelteksten<ControlePrsRegels>().size() +
                          Regelteksten<ControleRelRegels>().size() +
                          Regelteksten<ControlePltsRegels>().size();
-    ControleOpmRegels opm(DeGegevens());
+    ControleOpmRegels opm(bron_);
     regels += Bevindingen(opm).size();
     boxen_ += set_.Getoond().size();
     return regels;

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "checks/ControleBron.h"
 #include "checks/Controleur.h"
 #include "steun/ProefSet.h"
 
@@ -33,10 +34,6 @@ class ControleToets : public ::testing::Test {
 
   void TearDown() override { EXPECT_THAT(set_.Getoond(), ::testing::IsEmpty()); }
 
-  [[nodiscard]] Gegevens DeGegevens() {
-    return {set_.Persoon,   set_.Relatie, set_.Plaats,
-            set_.Opmerking, set_.volgers, set_.schrijfwijze};
-  }
   // What a whole walk finds.
   static std::vector<Bevinding> Bevindingen(Controleur& regels) {
     std::vector<Bevinding> uit;
@@ -49,7 +46,7 @@ class ControleToets : public ::testing::Test {
   }
   template <class Regels>
   Zinnenlijst Regelteksten(const ControleKeuzen& keuzen = kAlles) {
-    Regels regels(DeGegevens(), keuzen);
+    Regels regels(bron_, keuzen);
     Zinnenlijst uit;
     for (const Bevinding& een : Bevindingen(regels)) uit.push_back(een.tekst);
     return uit;
@@ -57,6 +54,7 @@ class ControleToets : public ::testing::Test {
 
   ProefSet set_;
   BouwFamilie& bouw_ = set_.bouw;
+  ControleBron bron_{set_.opslag};
 };
 
 }  // namespace lb77

@@ -13,13 +13,14 @@ namespace {
 // What the list of findings refers to: two lines on the sample person.
 struct VoorbeeldControle {
   explicit VoorbeeldControle(Hoofdmodule& hoofd)
-      : regels(kControlePrs.maak(hoofd.MaakGegevens(), {})) {}
+      : bron(hoofd.MaakOpslag()), regels(kControlePrs.maak(bron, {})) {}
 
   static Bevinding Maak(BevindingSoort soort, std::string_view tekst) {
     const RecordPlek plek{BestandSoort::Personen, kVoorbeeldPersoon};
     return {plek, plek, soort, std::string(tekst)};
   }
 
+  ControleBron bron;
   std::unique_ptr<Controleur> regels;
   BevindingLijst lijst{
       {Maak(BevindingSoort::NietBijOuders, "Persoon 2: Kind komt niet voor bij ouders"),
