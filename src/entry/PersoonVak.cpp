@@ -25,9 +25,7 @@ std::string Met(std::string_view naam, std::string_view achtervoegsel) {
 
 PersoonVak::NrVak::NrVak(PersoonVak& geheel, InvoerFormulier& formulier, std::string_view naam,
                          std::string_view bijschrift)
-    : InvoerVak(formulier, naam, bijschrift, kCijfers, InvoerSoort::Persoon), geheel_(geheel) {
-  ZetFilter(AlleenCijfers);
-}
+    : InvoerVak(formulier, naam, bijschrift, kCijfers, InvoerSoort::Persoon), geheel_(geheel) {}
 
 bool PersoonVak::NrVak::OpVerlaten() {
   if (!InvoerVak::OpVerlaten()) return false;
@@ -53,6 +51,8 @@ PersoonVak::PersoonVak(InvoerFormulier& formulier, std::string_view achtervoegse
                persoonveld::Achternaam.breedte),
       formulier_(formulier),
       soort_(soort) {
+  // Elsewhere a letter is told of when the field is left.
+  if (soort.controle == PersoonControle::Tonen) RecordNr.ZetFilter(AlleenCijfers);
   if (!soort.periode.empty()) Periode.emplace(formulier, Met(soort.periode, achtervoegsel));
   VoorNm.ZetAlleenLezen(!soort.naamInvoer);
   AchterNm.ZetAlleenLezen(!soort.naamInvoer);

@@ -59,6 +59,14 @@ TEST_F(PersoonVakToets, EenOngeldigNummerHoudtDeFocus) {
   )");
 }
 
+// A field that only shows whom it means has nothing to say of it, and takes digits alone.
+TEST_F(PersoonVakToets, EenNummerMetLettersIsNietNumeriek) {
+  Speelt(kVader, "typ RecordNrPa 2a\ntoets Tab\ntoon VoorNmPa",
+         "! uitroep \"Recordnummer is niet numeriek\"\n= VoorNmPa \"\"");
+  Speelt(kTonen, "typ RecordNrPa 2a\ntoets Tab\ntoon VoorNmPa", "= VoorNmPa \"Jan\"");
+  EXPECT_EQ(nr_, 2);
+}
+
 TEST_F(PersoonVakToets, EenLeegNummerWistDeNamenTenzijZeBlijvenMogen) {
   Speelt(kVader, "vul RecordNrPa 2\nvul RecordNrPa\ntoon VoorNmPa", R"(= VoorNmPa "")");
   Speelt({.leegWist = false}, "vul VoorNmPa Jan\ntoets RecordNrPa Tab\ntoon VoorNmPa",
