@@ -20,6 +20,8 @@
 
 namespace lb77 {
 
+class Koppelingen;
+
 // Edits HuidigPersoonNr; -1 enters a new person. Afterwards HuidigPersoonNr is the person, or -1 when
 // there is none.
 class WijzigPersoon final : public InvoerFormulier {
@@ -90,6 +92,7 @@ class WijzigPersoon final : public InvoerFormulier {
   [[nodiscard]] bool MaakVast();
   [[nodiscard]] bool Schrijf();
 
+  [[nodiscard]] Koppelingen Koppel() const;
   [[nodiscard]] std::string Omschrijving() const;
   [[nodiscard]] bool GeslachtIsVast() const;
   [[nodiscard]] bool Weiger(Bediening& veld, std::string_view melding);

@@ -7,13 +7,9 @@
 
 namespace lb77 {
 
-namespace {
-
-Koppelingen Koppel(Hoofdmodule& hoofd) {
-  return {hoofd.Persoon, hoofd.Relatie, hoofd.volgers, hoofd.gesprek};
+Koppelingen WijzigPersoon::Koppel() const {
+  return {Hoofd().Persoon, Hoofd().Relatie, Hoofd().volgers, Hoofd().gesprek};
 }
-
-}  // namespace
 
 void WijzigPersoon::ToonOuders(std::int16_t relatie) {
   RelatieLB77& bron = Hoofd().Relatie;
@@ -46,7 +42,7 @@ bool WijzigPersoon::HoortBijNaam(PersoonVak& ouder, std::string_view naam) {
 
 bool WijzigPersoon::VindRelatie() {
   if (!RelNrOuders.Tekst().empty() || (Pa.Nr() == 0 && Ma.Nr() == 0)) return true;
-  const std::int16_t relatie = Koppel(Hoofd()).ZoekRelatie(Pa.Nr(), Ma.Nr());
+  const std::int16_t relatie = Koppel().ZoekRelatie(Pa.Nr(), Ma.Nr());
   if (relatie == 0) {
     ZetFocus(Pa.RecordNr);
     return false;
@@ -87,7 +83,7 @@ bool WijzigPersoon::MaakLos() {
     HerstelOuders();
     return false;
   }
-  losgemaakt_ = Koppel(Hoofd()).VerplaatsKind(nr_, oudeOuders_, 0);
+  losgemaakt_ = Koppel().VerplaatsKind(nr_, oudeOuders_, 0);
   if (losgemaakt_) return true;
   Hoofd().gesprek.Waarschuw("Fout bij het verbreken van de koppeling met de ouders");
   HerstelOuders();
@@ -97,7 +93,7 @@ bool WijzigPersoon::MaakLos() {
 bool WijzigPersoon::MaakVast() {
   const std::int16_t nieuw = RelNrOuders.Nr();
   if (nieuw <= 0 || (nieuw == oudeOuders_ && !losgemaakt_)) return true;
-  if (Koppel(Hoofd()).VerplaatsKind(nr_, 0, nieuw)) return true;
+  if (Koppel().VerplaatsKind(nr_, 0, nieuw)) return true;
   Hoofd().gesprek.Waarschuw("Fout bij het koppelen aan de ouders");
   return false;
 }
