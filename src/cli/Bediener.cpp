@@ -13,7 +13,7 @@ void Bediener::Bij(std::string_view formulier, Handeling handeling) {
 }
 
 void Bediener::HoudKlaar(std::string_view formulier, Antwoord antwoord) {
-  klaar_.insert_or_assign(std::string(formulier), antwoord);
+  klaar_[std::string(formulier)].push_back(antwoord);
 }
 
 void Bediener::Mislukt(std::string_view reden) {
@@ -29,11 +29,11 @@ void Bediener::MisluktUtf8(std::string_view reden) {
 Antwoord Bediener::Kies(Knoppen knoppen) {
   const std::vector<Antwoord> keuzen = Keuzen(knoppen);
   const auto klaar = klaar_.find(open_.empty() ? std::string_view() : open_.back());
-  if (klaar == klaar_.end() || std::ranges::find(keuzen, klaar->second) == keuzen.end()) {
-    return keuzen.back();
-  }
-  const Antwoord antwoord = klaar->second;
-  klaar_.erase(klaar);
+  if (klaar == klaar_.end()) return keuzen.back();
+  const auto eerste = std::ranges::find_first_of(klaar->second, keuzen);
+  if (eerste == klaar->second.end()) return keuzen.back();
+  const Antwoord antwoord = *eerste;
+  klaar->second.erase(eerste);
   return antwoord;
 }
 

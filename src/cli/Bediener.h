@@ -29,7 +29,7 @@ class Bediener final : public Gesprek {
   // There is a printer, which gives its pages to `neem`.
   void BijAfdruk(std::function<void(const Afdruk&)> neem) { neem_ = std::move(neem); }
   // The first question that offers this answer while that form is on top gets it; "" is no form at
-  // all, as during the start-up. One answer a form.
+  // all, as during the start-up. Answers for one form are given in their order.
   void HoudKlaar(std::string_view formulier, Antwoord antwoord);
   // The command did not do what it was asked to do.
   void Mislukt(std::string_view reden);
@@ -55,7 +55,7 @@ class Bediener final : public Gesprek {
   Meld meld_;
   std::map<std::string, Handeling, std::less<>> handelingen_;
   std::function<void(const Afdruk&)> neem_;
-  std::map<std::string, Antwoord, std::less<>> klaar_;
+  std::map<std::string, std::vector<Antwoord>, std::less<>> klaar_;
   std::vector<std::string> open_;  // the names of the open forms, the one on top last
   bool vinkjeGemeld_ = false;
   int status_ = 0;

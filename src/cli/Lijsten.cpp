@@ -21,10 +21,9 @@ constexpr Rapport Lijst(std::string_view menuKeuze, std::string_view formulier) 
   return {menuKeuze, {{{formulier, {}, true}}}};
 }
 
-// The first place whose name begins as the one given is the one that is meant.
 constexpr Rapport Plaatsen() {
   Rapport rapport = Lijst("RptSelPlts", "SelectPlts");
-  rapport.vormen[0].antwoord = Antwoord::Ja;
+  rapport.vormen[0].plaats = "PltsNm";
   return rapport;
 }
 

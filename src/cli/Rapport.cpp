@@ -9,6 +9,7 @@
 
 #include "cli/Levering.h"
 #include "cli/Personen.h"
+#include "cli/Plaatsen.h"
 #include "cli/Sessie.h"
 #include "cli/Werkmap.h"
 #include "output/Tekstpaginas.h"
@@ -39,7 +40,6 @@ class Maker {
     for (const RapportVorm& vorm : rapport_.vormen) {
       if (vorm.formulier.empty()) break;
       sessie_.bediener.Bij(vorm.formulier, [this, &vorm](Formulier& form) { VulIn(vorm, form); });
-      if (vorm.antwoord) sessie_.bediener.HoudKlaar(vorm.formulier, *vorm.antwoord);
     }
     for (const std::string_view venster : {"ToonTekst", "VerwantRapport"}) {
       sessie_.bediener.Bij(venster, [this](Formulier& form) { NeemVerslag(form); });
@@ -51,7 +51,7 @@ class Maker {
 
  private:
   void InMenu(Werk& menu) {
-    if (!MagNaar(sessie_, omgeving_, argumenten_) || !VindPersonen()) return;
+    if (!MagNaar(sessie_, omgeving_, argumenten_) || !VindPersonen() || !VindPlaatsen()) return;
     const Werkmap werkmap(sessie_.Hoofd().Ini.TempDir());
     sessie_.Hoofd().instellingen.tijdelijk = werkmap.Pad();
     menu.Kies(rapport_.menuKeuze);
@@ -62,6 +62,7 @@ class Maker {
   }
 
   [[nodiscard]] bool VindPersonen();
+  [[nodiscard]] bool VindPlaatsen();
   void VulIn(const RapportVorm& vorm, Formulier& form);
   [[nodiscard]] bool Vul(Werk& werk, const Formulier& form, const VeldVulling& vulling);
   [[nodiscard]] bool VulLinks(Werk& werk, const Formulier& form);
@@ -85,6 +86,20 @@ bool Maker::VindPersonen() {
       if (!VindPersoon(sessie_.Hoofd(), sessie_.bediener, argumenten_.woorden[vulling.woord])) {
         return false;
       }
+    }
+  }
+  return true;
+}
+
+bool Maker::VindPlaatsen() {
+  for (const RapportVorm& vorm : rapport_.vormen) {
+    if (vorm.plaats.empty()) continue;
+    const std::string begin = std::string(vorm.plaats) + "=";
+    for (std::string& zet : argumenten_.zet) {
+      if (!zet.starts_with(begin)) continue;
+      std::string naam = zet.substr(begin.size());
+      if (!VindPlaats(sessie_.Hoofd(), sessie_.bediener, vorm.formulier, naam)) return false;
+      zet = begin + naam;
     }
   }
   return true;

@@ -3,11 +3,9 @@
 
 #include <array>
 #include <cstddef>
-#include <optional>
 #include <string_view>
 
 #include "cli/Opdrachten.h"
-#include "forms/Gesprek.h"
 
 namespace lb77 {
 
@@ -33,13 +31,14 @@ struct VeldVulling {
 };
 
 // The fields of a form in the order in which they are filled; OK goes behind them. The choices of
-// --zet are made on the form that says so. Its first question gets `antwoord`.
+// --zet are made on the form that says so; the one for `plaats` is the beginning of a place's name, or
+// its number.
 struct RapportVorm {
   std::string_view formulier;
   std::array<VeldVulling, 3> velden = {};
   bool metZet = false;
   std::string_view knop = "OKButton";
-  std::optional<Antwoord> antwoord = {};
+  std::string_view plaats = {};
 };
 
 // A form that the user walks over, and how he does it.

@@ -37,10 +37,61 @@ TEST_F(LijstenToets, SelectieVanRelaties) {
   EXPECT_EQ(uit_, "R:    2   -  -     05-06-1888   -  -     P:2 x P:3\n\n1 Relaties gevonden.\n\n");
 }
 
-TEST_F(LijstenToets, SelectieVanPlaatsenNeemtDeEersteDieZoBegint) {
+TEST_F(LijstenToets, SelectieVanPlaatsenNeemtDeEnigeDieZoBegint) {
   EXPECT_EQ(Lijst("selectie", "plaatsen", {"PltsNm=del", "ZoekGeb=uit"}), 0) << fout_;
   EXPECT_EQ(uit_, "R:    2 WHuw: 05-06-1888\n");
   EXPECT_EQ(fout_, "Gevonden: Delft (). Is deze Plaats bedoeld ? -> Ja\n");
+}
+
+// Delfshaven (2), Delft (3) and twice Breda (4, 5).
+class PlaatsenToets : public LijstenToets {
+ protected:
+  void SetUp() override {
+    MaakFamilie(
+        "0 HEAD\n1 CHAR ANSEL\n0 @I1@ INDI\n1 NAME Piet /van Dam/\n1 SEX M\n"
+        "1 BIRT\n2 DATE 1 FEB 1860\n2 PLAC Delfshaven\n"
+        "1 CHR\n2 DATE 2 FEB 1860\n2 PLAC Delft\n"
+        "1 DEAT\n2 DATE 3 MAR 1920\n2 PLAC Breda\n"
+        "1 BURI\n2 DATE 4 MAR 1920\n2 PLAC Breda, NB\n0 TRLR\n");
+  }
+  int Zoek(const std::string& naam) { return Lijst("selectie", "plaatsen", {"PltsNm=" + naam}); }
+};
+
+TEST_F(PlaatsenToets, EenHeleNaamGaatVoorEenBegin) {
+  EXPECT_EQ(Zoek("DELFT"), 0) << fout_;
+  EXPECT_EQ(uit_, "P:    2 Doop: 02-02-1860\n");
+  EXPECT_EQ(fout_, "Gevonden: Delft (). Is deze Plaats bedoeld ? -> Ja\n");
+}
+
+TEST_F(PlaatsenToets, WatMeerPlaatsenKanZijnNoemtZe) {
+  EXPECT_EQ(Zoek("delf"), 1);
+  EXPECT_EQ(uit_, "");
+  EXPECT_EQ(fout_,
+            "2 plaatsen beginnen met \"delf\"; geef een nummer:\n"
+            "     2  Delfshaven ()\n     3  Delft ()\n");
+}
+
+TEST_F(PlaatsenToets, EenNummerIsDiePlaats) {
+  EXPECT_EQ(Zoek("3"), 0) << fout_;
+  EXPECT_EQ(uit_, "P:    2 Doop: 02-02-1860\n");
+  EXPECT_EQ(Zoek("5"), 0) << fout_;
+  EXPECT_EQ(uit_, "P:    2 Begr: 04-03-1920\n");
+}
+
+TEST_F(PlaatsenToets, EenNummerVanGeenPlaatsWordtGeweigerd) {
+  for (const std::string nr : {"0", "1", "77", "10003", "99999"}) {
+    EXPECT_EQ(Zoek(nr), 1);
+    EXPECT_EQ(fout_, "Er is geen plaats met nummer " + nr + "\n");
+  }
+}
+
+TEST_F(PlaatsenToets, EenNaamDieErNietIsBlijftAanHetScherm) {
+  EXPECT_EQ(Zoek("Goes"), 1);
+  EXPECT_EQ(fout_,
+            "Plaatsnaam niet gevonden\nGeen plaats om naar te zoeken opgegeven\n"
+            "Er is geen verslag gemaakt\n");
+  EXPECT_EQ(Zoek(""), 1);
+  EXPECT_EQ(fout_, "Geen plaats om naar te zoeken opgegeven\nEr is geen verslag gemaakt\n");
 }
 
 TEST_F(LijstenToets, SelectieVanOpmerkingen) {
