@@ -16,7 +16,9 @@ namespace {
 
 constexpr int kKolom = 19;  // where values begin
 constexpr std::size_t kLabel = 17;
+constexpr std::int16_t kEersteNr = 2;
 constexpr std::string_view kOnbekend = "<onbekend>";
+const std::string kGeenPeriode = "\?\?\?\?-\?\?\?\?";  // of whom can't be read
 
 // The parts that are there, with a blank between them.
 std::string Samen(std::initializer_list<std::string_view> delen) {
@@ -146,14 +148,15 @@ void Kaart::Persoon(const PersoonBlik& blik) {
   Slot(blik.opmRecord, blik.opmCode);
 }
 
-// Number and name, and the lifetime below it.
+// Number and name, and the lifetime below it. Record 1 can be read, but is nobody.
 void Kaart::Partner(std::string_view label, std::int16_t nr) {
   std::string voor;
   std::string achter;
-  bron_.persoon.HeleNaam(nr, voor, achter, kOnbekend);
+  if (nr >= kEersteNr) bron_.persoon.HeleNaam(nr, voor, achter, kOnbekend);
   const std::string naam = Samen({voor, achter});
   Regel(label, Samen({NrTekst(nr), naam.empty() ? kOnbekend : std::string_view(naam)}));
-  Vervolgregel(bron_.persoon.Periode(nr));
+  // Who could not be read for his name is not read again.
+  Vervolgregel(nr == 0 || !naam.empty() ? bron_.persoon.Periode(nr) : kGeenPeriode);
 }
 
 std::string_view BondLabel(std::string_view bond) {
@@ -183,7 +186,7 @@ void Kaart::Relatie(std::int16_t nr) {
 
 // The number of a record that holds data; nothing for the admin record and for no record.
 std::optional<std::int16_t> GewoonNr(std::int32_t nr) {
-  return nr < 2 ? std::nullopt : NaarInt16(nr);
+  return nr < kEersteNr ? std::nullopt : NaarInt16(nr);
 }
 
 }  // namespace

@@ -14,24 +14,27 @@ constexpr std::size_t kCijfers = 5;
 constexpr std::int32_t kEerste = 2;
 constexpr std::string_view kOnbekend = "<onbekend>";
 
-// Record 1 can be read, but is nobody.
-bool IsRecord(std::int16_t nr) {
-  return nr >= kEerste;
+// Nothing for a number of no record, and for record 1, which can be read but is nobody.
+std::optional<std::int16_t> RecordVan(std::int32_t nr) {
+  return nr < kEerste ? std::nullopt : NaarInt16(nr);
 }
 
-void ToonPersoon(Hoofdmodule& hoofd, std::int16_t nr, Teller& een, Teller& ander) {
-  const bool bekend = IsRecord(nr) && hoofd.Persoon.Lees(nr);
+void ToonPersoon(Hoofdmodule& hoofd, std::int32_t nr, Teller& een, Teller& ander) {
+  const auto record = RecordVan(nr);
+  const bool bekend = record && hoofd.Persoon.Lees(*record);
   een.ZetTekst(bekend ? hoofd.Persoon.NaamVoluit() : std::string(kOnbekend));
-  ander.ZetTekst(bekend ? hoofd.Persoon.Periode(nr) : std::string());
+  ander.ZetTekst(bekend ? hoofd.Persoon.Periode(*record) : std::string());
 }
 
 std::string MetNummer(PersoonLB77& persoon, std::int16_t nr) {
   if (nr == 0) return std::string(kOnbekend);
-  return GetalTekst(nr) + " " + (persoon.Lees(nr) ? persoon.NaamVoluit() : std::string(kOnbekend));
+  const bool bekend = RecordVan(nr) && persoon.Lees(nr);
+  return GetalTekst(nr) + " " + (bekend ? persoon.NaamVoluit() : std::string(kOnbekend));
 }
 
-void ToonRelatie(Hoofdmodule& hoofd, std::int16_t nr, Teller& een, Teller& ander) {
-  const bool bekend = IsRecord(nr) && hoofd.Relatie.Lees(nr);
+void ToonRelatie(Hoofdmodule& hoofd, std::int32_t nr, Teller& een, Teller& ander) {
+  const auto record = RecordVan(nr);
+  const bool bekend = record && hoofd.Relatie.Lees(*record);
   een.ZetTekst(bekend ? MetNummer(hoofd.Persoon, hoofd.Relatie.ManNr()) : std::string(kOnbekend));
   ander.ZetTekst(bekend ? MetNummer(hoofd.Persoon, hoofd.Relatie.VrouwNr())
                         : std::string(kOnbekend));
@@ -85,7 +88,10 @@ Krtn::Krtn(const KrtnSoort& soort, Hoofdmodule& hoofd)
       soort_(soort) {
   ZetEersteVeld(RecordNr(0).RecordNr);
   RecordNr.Elk([this](int, KrtnRij& rij) {
-    rij.RecordNr.BijVerlaten([this, &rij] { return RecordNrVerlaten(rij); });
+    rij.RecordNr.BijVerlaten([this, &rij] {
+      ToonErnaast(rij);
+      return true;
+    });
     if (rij.ZoekPersButton) rij.ZoekPersButton->BijKlik([this, &rij] { ZoekPersButtonKlik(rij); });
   });
   OKButton.BijKlik([this] { OKButtonKlik(); });
@@ -98,19 +104,13 @@ void Krtn::BijLaden() {
 
 void Krtn::Toon(KrtnRij& rij, std::string_view nr) {
   rij.RecordNr.ZetTekst(nr);
-  if (!RecordNrVerlaten(rij)) rij.RecordNr.ZetTekst({});
+  ToonErnaast(rij);
 }
 
 // An empty field is number 0.
-bool Krtn::RecordNrVerlaten(KrtnRij& rij) {
-  const auto nr = NaarInt16(Getalwaarde(rij.RecordNr.Tekst()));
-  if (!nr) {
-    Hoofd().gesprek.Fout(kMaximumBereikt);
-    return false;
-  }
+void Krtn::ToonErnaast(KrtnRij& rij) {
   const VolgersBewaker bewaker(Hoofd().volgers);
-  soort_.toon(Hoofd(), *nr, rij.Een, rij.Ander);
-  return true;
+  soort_.toon(Hoofd(), Getalwaarde(rij.RecordNr.Tekst()), rij.Een, rij.Ander);
 }
 
 void Krtn::ZoekPersButtonKlik(KrtnRij& rij) {

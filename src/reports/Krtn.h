@@ -27,7 +27,7 @@ struct KrtnSoort {
   std::string_view zoek;  // without a name there is no search
   std::string_view bestand;
   std::string_view verslag;  // the title of the viewer
-  void (*toon)(Hoofdmodule& hoofd, std::int16_t nr, Teller& een, Teller& ander);
+  void (*toon)(Hoofdmodule& hoofd, std::int32_t nr, Teller& een, Teller& ander);
   void (*schrijf)(TekstSchrijver& uit, const Gegevens& gegevens, std::int32_t nr);
 };
 
@@ -58,7 +58,7 @@ class Krtn final : public KetenFormulier {
   void BijLaden() override;
 
  private:
-  [[nodiscard]] bool RecordNrVerlaten(KrtnRij& rij);
+  void ToonErnaast(KrtnRij& rij);
   void ZoekPersButtonKlik(KrtnRij& rij);
   void OKButtonKlik();
   void Toon(KrtnRij& rij, std::string_view nr);

@@ -106,5 +106,42 @@ TEST_F(KaartenTest, SchadeGeeftEenKaartMetWatErIs) {
       << relatie;
 }
 
+TEST_F(KaartenTest, RecordEenIsGeenPartner) {
+  const auto gezin = bouw_.Relatie(bouw_.Man("Jan", "Smit"), 0);
+  bouw_.WijzigRelatie(gezin, {{"VrouwNr", "1"}});
+  const std::string kaart = Relatie(gezin);
+  EXPECT_NE(kaart.find("\nVrouw            : 1 <onbekend>\n                   \?\?\?\?-\?\?\?\?\n"),
+            std::string::npos)
+      << kaart;
+}
+
+TEST_F(KaartenTest, HetWoordVanEenBondStaatVoorZijnDatum) {
+  const auto gezin = bouw_.Relatie(bouw_.Man("Jan", "Smit"), 0, {},
+                                   {{"WHuwDatum", "20-04-1825"}, {"KHuwDatum", "21-04-1826"}});
+  const auto huwelijk = [&](std::string_view corr) {
+    bouw_.WijzigRelatie(gezin, {{"HuwCorr", corr}});
+    const std::string kaart = Relatie(gezin);
+    const std::size_t begin = kaart.find("Wettig Huw.");
+    return kaart.substr(begin, kaart.find("\n\n", begin) - begin);
+  };
+  EXPECT_EQ(huwelijk("N"), "Wettig Huw.      : n\xe1 20-4-1825\nKerk. Huw.       : 21-4-1826");
+  EXPECT_EQ(huwelijk("V"), "Wettig Huw.      : v\xf3\xf3r 20-4-1825\nKerk. Huw.       : 21-4-1826");
+  bouw_.WijzigRelatie(gezin, {{"KHuwSch", "1"}});
+  EXPECT_EQ(huwelijk("C"), "Wettig Huw.      : circa 20-4-1825\nScheiding        : 21-4-1826");
+  EXPECT_EQ(huwelijk("T"), "Wettig Huw.      : \n                   tussen 20-4-1825 en 21-4-1826");
+}
+
+// Listed by its number like any other: with the children that it holds, and nobody else.
+TEST_F(KaartenTest, EenVervolgVanEenRelatieHeeftZijnEigenKaart) {
+  const auto jan = bouw_.Man("Jan", "Smit");
+  std::vector<std::int16_t> kinderen;
+  for (int n = 0; n < 20; ++n) kinderen.push_back(bouw_.Man("Kind", "Smit"));
+  const auto gezin = bouw_.Relatie(jan, 0, kinderen);
+  const std::string kaart = Relatie(gezin + 1);
+  EXPECT_TRUE(kaart.starts_with("Relatienummer    :    3\n\nMan              : <onbekend>\n"))
+      << kaart;
+  EXPECT_NE(kaart.find("\nKind(eren)       : 17 18 19 20 21 22\n"), std::string::npos) << kaart;
+}
+
 }  // namespace
 }  // namespace lb77

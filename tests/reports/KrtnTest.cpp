@@ -71,16 +71,54 @@ TEST_F(KrtnTest, BegintMetRelatieTwee) {
 TEST_F(KrtnTest, EenOnbekendNummerToontDat) {
   Speel(kPrsKrtn,
         "vul RecordNrPers(0) 1\ntoon Naam(0)\ntoon Periode(0)\nvul RecordNrPers(1) 77\n"
-        "toon Naam(1)\nvul RecordNrPers(1)\ntoon Naam(1)\nvul RecordNrPers(1) 40000\n"
+        "toon Naam(1)\nvul RecordNrPers(1)\ntoon Naam(1)\nvul RecordNrPers(1) 40000\ntoon Naam(1)\n"
         "druk BackButton",
         R"~(
           = Naam(0) "<onbekend>"
           = Periode(0) ""
           = Naam(1) "<onbekend>"
           = Naam(1) "<onbekend>"
-          ! stop "Het maximum van 32767 records is bereikt"
+          = Naam(1) "<onbekend>"
           - PrsKrtn
         )~");
+}
+
+TEST_F(KrtnTest, NummersDieGeenRecordKanHebbenGevenLeesfouten) {
+  for (const auto* soort : {&kPrsKrtn, &kRelKrtn}) {
+    const std::string veld(soort->veld);
+    Speel(*soort,
+          "vul " + veld + "(1) 40001\nvul " + veld +
+              "(0) 40000\ndruk OKButton\ndruk BackButton\n"
+              "druk BackButton",
+          "+ ToonTekst \"" + std::string(soort->verslag) + "\"\n- ToonTekst\n- " +
+              std::string(soort->naam));
+  }
+  EXPECT_EQ(LeesBytes(Temp("PERS_KRT.TMP")),
+            "Leesfout bij persoonsrecord 40000\r\nLeesfout bij persoonsrecord 40001\r\n");
+  EXPECT_EQ(LeesBytes(Temp("REL_KRT.TMP")),
+            "Leesfout bij relatierecord 40000\r\nLeesfout bij relatierecord 40001\r\n");
+}
+
+// Once beside each number, and once for its card.
+TEST_F(KrtnTest, EenOnleesbarePartnerWordtEenKeerGemeld) {
+  MaakOnleesbaar(BestandSoort::Personen, 4);
+  const std::string fout =
+      R"~(! stop "Fout bij het lezen van Persoonsrecord 4\nFout van de schijf")~"
+      "\n";
+  Speel(kRelKrtn,
+        "vul RecordNrRel(0) 3\ntoon Vrouw(0)\nvul RecordNrRel(1) 3\ndruk OKButton\n"
+        "druk BackButton\ndruk BackButton",
+        fout + "= Vrouw(0) \"4 <onbekend>\"\n" + fout + fout +
+            "+ ToonTekst \"Toon Relatiekaart\"\n- ToonTekst\n- RelKrtn");
+  EXPECT_NE(
+      LeesBytes(Temp("REL_KRT.TMP"))
+          .find("\r\nVrouw            : 4 <onbekend>\r\n                   \?\?\?\?-\?\?\?\?\r\n"),
+      std::string::npos);
+}
+
+TEST_F(KrtnTest, RecordEenIsGeenPartner) {
+  Bouw().WijzigRelatie(2, {{"ManNr", "1"}});
+  Speel(kRelKrtn, "toon Man(0)\ndruk BackButton", "= Man(0) \"1 <onbekend>\"\n- RelKrtn");
 }
 
 TEST_F(KrtnTest, ToontDeKaartenVanEenReeksEnBlijft) {
