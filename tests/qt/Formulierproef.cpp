@@ -82,6 +82,8 @@ void Formulierproef::TabKomtOveral(const Formulier& formulier) {
   for (const Bediening* een : formulier.Bedieningen()) {
     if (een->Bruikbaar() && een->KanFocus()) verwacht.insert(een->Naam());
   }
+  // With nothing to go to, the window keeps it.
+  if (verwacht.empty()) verwacht.insert(formulier.Naam());
   std::set<std::string> bezocht;
   for (std::size_t i = 0; i <= verwacht.size(); ++i) {
     Toets(Qt::Key_Tab);
