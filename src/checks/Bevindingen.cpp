@@ -91,7 +91,8 @@ void Bevindingen::VulLijst() {
   Open.ZetTekst(GetalTekst(open));
   const std::size_t meer = lijst_.NietInLijst();
   MeerLabel.ZetBijschrift(GetalTekst(static_cast<std::int64_t>(meer)) +
-                          " bevindingen meer staan alleen in het verslag");
+                          (meer == 1 ? " bevinding meer staat" : " bevindingen meer staan") +
+                          " alleen in het verslag");
   MeerLabel.ZetZichtbaar(meer > 0);
 }
 

@@ -64,7 +64,7 @@ TEST_F(BevindingenSchade, HetAantalNaastDeLijstVolgtEenHerstel) {
     = MeerLabel "3 bevindingen meer staan alleen in het verslag"
     + CorrPrsAlg "Corrigeer Verwijzingen Persoonsrecord"
     - CorrPrsAlg
-    = MeerLabel "1 bevindingen meer staan alleen in het verslag"
+    = MeerLabel "1 bevinding meer staat alleen in het verslag"
     - Bevindingen
   )");
 }
@@ -116,6 +116,12 @@ TEST_F(BevindingenSchade, HetBereikGroeitMeeZonderWaarschuwing) {
     EXPECT_EQ(bereik.Tot(hoofd.Persoon, hoofd.Persoon), 3);
     EXPECT_TRUE(hoofd.Persoon.Nieuw(4));
     EXPECT_EQ(bereik.Tot(hoofd.Persoon, hoofd.Persoon), 4);
+    ASSERT_TRUE(hoofd.Persoon.LeesAdmin());
+    hoofd.Persoon.ZetAantal(1);
+    ASSERT_TRUE(hoofd.Persoon.SchrijfAdmin());
+    EXPECT_EQ(bereik.Tot(hoofd.Persoon, hoofd.Persoon), 4);
+    hoofd.Persoon.ZetAantal(3);
+    ASSERT_TRUE(hoofd.Persoon.SchrijfAdmin());
   });
   Bouw().ZetAantalPersonen(32767);
   Verwacht(
