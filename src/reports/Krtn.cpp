@@ -88,10 +88,7 @@ Krtn::Krtn(const KrtnSoort& soort, Hoofdmodule& hoofd)
       soort_(soort) {
   ZetEersteVeld(RecordNr(0).RecordNr);
   RecordNr.Elk([this](int, KrtnRij& rij) {
-    rij.RecordNr.BijVerlaten([this, &rij] {
-      ToonErnaast(rij);
-      return true;
-    });
+    rij.RecordNr.BijVerlaten([this, &rij] { return RecordNrVerlaten(rij); });
     if (rij.ZoekPersButton) rij.ZoekPersButton->BijKlik([this, &rij] { ZoekPersButtonKlik(rij); });
   });
   OKButton.BijKlik([this] { OKButtonKlik(); });
@@ -105,6 +102,12 @@ void Krtn::BijLaden() {
 void Krtn::Toon(KrtnRij& rij, std::string_view nr) {
   rij.RecordNr.ZetTekst(nr);
   ToonErnaast(rij);
+}
+
+// Any number will do: what is no record has its line among the cards.
+bool Krtn::RecordNrVerlaten(KrtnRij& rij) {
+  ToonErnaast(rij);
+  return true;
 }
 
 // An empty field is number 0.

@@ -58,6 +58,7 @@ class Krtn final : public KetenFormulier {
   void BijLaden() override;
 
  private:
+  [[nodiscard]] bool RecordNrVerlaten(KrtnRij& rij);
   void ToonErnaast(KrtnRij& rij);
   void ZoekPersButtonKlik(KrtnRij& rij);
   void OKButtonKlik();
