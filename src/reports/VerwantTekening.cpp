@@ -18,14 +18,26 @@ constexpr std::string_view kTussenPartners = "-**-";
 constexpr std::string_view kTak = "+";
 constexpr std::string_view kLijn = "|";
 
-// Partner: of the person to the left. Tak: a branch of the person to the left.
-enum class VakSoort : std::uint8_t { Leeg, Persoon, Partner, Tak };
+// Partner: of the person to the left. Teken: the sign between those two, where the cell on its left is
+// full. Tak: a branch of the person to the left.
+enum class VakSoort : std::uint8_t { Leeg, Persoon, Partner, Teken, Tak };
 
 struct Vak {
   VakSoort soort = VakSoort::Leeg;
   bool lijn = false;  // a line goes down to the row below
   std::int16_t persoon = 0;
 };
+
+// What stands in the cell of a person.
+std::string PersoonTekst(const Vak& vak) {
+  return std::string(vak.soort == VakSoort::Partner ? kPartner : std::string_view()) +
+         GetalTekst(vak.persoon) + " ";
+}
+
+// Is there room for the sign behind it?
+bool HeeftTekenruimte(const Vak& vak) {
+  return PersoonTekst(vak).size() + kTussenPartners.size() <= kVak;
+}
 
 // A cell and its place: generations downward, columns from the right.
 struct Plek {
@@ -53,15 +65,20 @@ class Weg {
   std::vector<Plek> plekken_;
   int rij_ = 0;
   int kolom_ = 0;
-  int richting_ = 0;   // of the step before: 1 down, -1 up, 0 neither
-  bool lijn_ = false;  // the next cell has the line that the step before went up
+  int richting_ = 0;           // of the step before: 1 down, -1 up, 0 neither
+  bool lijn_ = false;          // the next cell has the line that the step before went up
+  bool naastPartner_ = false;  // the next cell is to the left of a partner
 };
 
 void Weg::Zet(const VerwantEntry& entry) {
   const bool partner = entry.soort == VerwantSoort::Partner;
-  plekken_.push_back(
-      {rij_, kolom_, {partner ? VakSoort::Partner : VakSoort::Persoon, lijn_, entry.persoon}});
+  const Vak vak{partner ? VakSoort::Partner : VakSoort::Persoon, lijn_, entry.persoon};
+  if (naastPartner_ && !HeeftTekenruimte(vak)) {
+    plekken_.push_back({rij_, kolom_++, {VakSoort::Teken, false, entry.persoon}});
+  }
+  plekken_.push_back({rij_, kolom_, vak});
   lijn_ = false;
+  naastPartner_ = false;
 }
 
 // To where the person stands from whom `entry` was reached. Back up or down from where the chain
@@ -70,6 +87,7 @@ void Weg::Stap(const VerwantEntry& entry) {
   if (entry.soort == VerwantSoort::Partner) {
     ++kolom_;
     richting_ = 0;
+    naastPartner_ = true;
     return;
   }
   const int richting = entry.soort == VerwantSoort::Ouder ? 1 : -1;
@@ -120,13 +138,10 @@ std::string Blad::VakTekst(std::size_t rij, std::size_t kolom) const {
   const Vak& vak = vakken_[plek];
   if (vak.soort == VakSoort::Leeg) return std::string(kLeeg);
   if (vak.soort == VakSoort::Tak) return std::string(kTak);
-  std::string tekst(vak.soort == VakSoort::Partner ? kPartner : std::string_view());
-  tekst += GetalTekst(vak.persoon) + " ";
+  if (vak.soort == VakSoort::Teken) return std::string(kTussenPartners);
   const bool metPartner = kolom + 1 < Kolommen() && vakken_[plek + 1].soort == VakSoort::Partner;
-  const std::size_t voorTeken = kVak - kTussenPartners.size();
-  if (metPartner && tekst.size() <= voorTeken) {
-    return Links(tekst, voorTeken).append(kTussenPartners);
-  }
+  std::string tekst = PersoonTekst(vak);
+  if (metPartner) tekst = Links(tekst, kVak - kTussenPartners.size()).append(kTussenPartners);
   return tekst;
 }
 
