@@ -5,6 +5,7 @@
 
 #include "reports/VerwantTekening.h"
 #include "text/Getallen.h"
+#include "text/Tekens.h"
 
 namespace lb77 {
 namespace {
@@ -43,11 +44,20 @@ std::vector<std::string> VerwantTekst(const std::vector<VerwantEntry>& keten,
   uit.emplace_back();
   for (const VerwantEntry& entry : keten) {
     if (!persoon.Lees(entry.persoon)) continue;
-    uit.push_back(Naam(persoon, entry.persoon) + " (" + GetalTekst(entry.persoon) + ")");
-    if (entry.soort != VerwantSoort::Begin) uit.emplace_back(Betrekking(entry.soort));
+    const std::string naam = Naam(persoon, entry.persoon);
+    const std::string nr = " (" + GetalTekst(entry.persoon) + ")";
+    // kept: the line of the last one, and the title, have the blank of first names that are missing.
+    if (entry.soort == VerwantSoort::Begin) {
+      uit.push_back(naam + nr);
+    } else {
+      uit.push_back(std::string(Trim(naam)) + nr);
+      uit.emplace_back(Betrekking(entry.soort));
+    }
   }
   uit.emplace_back();
-  for (std::string& regel : TekenVerwantschap(keten)) uit.push_back(std::move(regel));
+  std::vector<std::string> tekening = TekenVerwantschap(keten);
+  if (tekening.empty()) uit.emplace_back("De tekening is te groot en daarom weggelaten.");
+  for (std::string& regel : tekening) uit.push_back(std::move(regel));
   return uit;
 }
 

@@ -37,6 +37,14 @@ TEST_F(VerwantSchrijverTest, ElkeStapNoemtWatDeVolgendeIs) {
                     "|         |                   ", "2         4     -**-----5     "}));
 }
 
+TEST_F(VerwantSchrijverTest, WieGeenVoornaamHeeftBegintMetZijnAchternaam) {
+  const auto jan = bouw_.Man("", "Smit");
+  const auto els = bouw_.Vrouw("", "Vos");
+  EXPECT_EQ(Tekst({{els, 0, VerwantSoort::Partner}, {jan, 0, VerwantSoort::Begin}}),
+            (Regels{"Schema Verwantschap", "Verwantschap tussen  Smit en  Vos:", "", "Vos (3)",
+                    "partner: ", " Smit (2)", "", "2     -**-----3     "}));
+}
+
 TEST_F(VerwantSchrijverTest, WieOnleesbaarIsWordtOvergeslagen) {
   const auto jan = bouw_.Man("Jan", "Smit");
   EXPECT_EQ(Tekst({{77, 0, VerwantSoort::Kind}, {jan, 0, VerwantSoort::Begin}}),
@@ -52,6 +60,18 @@ TEST_F(VerwantSchrijverTest, RegelsWordenNooitGebroken) {
   ASSERT_TRUE(uit.Sluit());
   EXPECT_EQ(LeesBytes(set_.map / "uit.txt"),
             "  a b \r\n\r\n" + lang + " " + lang + "\r\nouder: \r\n");
+}
+
+// A thousand generations and as many columns; the persons are not there.
+TEST_F(VerwantSchrijverTest, EenTekeningDieTeGrootIsWordtGenoemd) {
+  std::vector<VerwantEntry> keten;
+  for (std::int16_t nr = 2; nr < 2003; nr += 2) {
+    keten.push_back({nr, 0, VerwantSoort::Ouder});
+    keten.push_back({static_cast<std::int16_t>(nr + 1), 0, VerwantSoort::Partner});
+  }
+  keten.push_back({2004, 0, VerwantSoort::Begin});
+  EXPECT_EQ(Tekst(keten), (Regels{"Schema Verwantschap", "Verwantschap tussen   en  :", "", "",
+                                  "De tekening is te groot en daarom weggelaten."}));
 }
 
 }  // namespace
