@@ -148,6 +148,11 @@ void TekstVenster::DrukAllesAf() {
 
 // False after a message.
 bool TekstVenster::VoegPaginaToe(Afdruk& afdruk, int kolom, int rij) {
+  // The text that is shown is another one, and not empty.
+  if (uitvoer_ && uitvoer_->Leeg() && !uitvoer_->Fout()) {
+    hoofd_.gesprek.Fout(kPrintFout);
+    return false;
+  }
   if (LeesPagina(Uitvoer(), kolom, rij, afdruk.paginas.emplace_back())) return true;
   hoofd_.gesprek.Fout(MetFout(kPrintFout, Uitvoer().Fout()));
   return false;

@@ -35,10 +35,16 @@ void SchemaVerwantschap::BijLaden() {
 }
 
 void SchemaVerwantschap::Werk() {
-  if (!TweePersonen() || !MaakVerslagen()) return;
+  PersonenGedaan.ZetTekst("");
+  if (!TweePersonen()) return;
+  std::vector<std::string> regels;
+  if (!MaakVerslag({VerwantBestandenVan(Hoofd()).verslag},
+                   [&](TekstSchrijver& uit) { return ZoekEnSchrijf(uit, regels); })) {
+    return;
+  }
+  VerwantRapport rapport(Hoofd(), MaakUitvoer(regels));
   ZetBezig(false);
   WisStop();
-  VerwantRapport rapport(Hoofd());
   rapport.ZetTitel("Schema Verwantschap");
   Hoofd().gesprek.ToonModaal(rapport);
 }
@@ -54,19 +60,18 @@ bool SchemaVerwantschap::TweePersonen() {
   return false;
 }
 
-bool SchemaVerwantschap::MaakVerslagen() {
-  const VolgersBewaker bewaker(Hoofd().volgers);
-  const VerwantBestanden bestanden = VerwantBestandenVan(Hoofd());
-  std::vector<std::string> regels;
-  return MaakVerslag({bestanden.verslag},
-                     [&](TekstSchrijver& uit) { return ZoekEnSchrijf(uit, regels); }) &&
-         MaakVerslag({bestanden.uitvoer}, [&](TekstSchrijver& uit) -> Uitslag {
-           SchrijfVerwantTekst(uit, regels);
-           return Einde::Klaar;
-         });
+// The report is shown without it, too.
+bool SchemaVerwantschap::MaakUitvoer(const std::vector<std::string>& regels) {
+  const auto schrijf = [&regels](TekstSchrijver& uit) -> Uitslag {
+    SchrijfVerwantTekst(uit, regels);
+    return Einde::Klaar;
+  };
+  return SchrijfVerslag({VerwantBestandenVan(Hoofd()).uitvoer}, Hoofd().gesprek, schrijf) ==
+         Einde::Klaar;
 }
 
 Uitslag SchemaVerwantschap::ZoekEnSchrijf(TekstSchrijver& uit, std::vector<std::string>& regels) {
+  const VolgersBewaker bewaker(Hoofd().volgers);
   VerwantRij rij;
   const Verloop verloop{[this] { return Afbreken(); },
                         [this](int, int index) {

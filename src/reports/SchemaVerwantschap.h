@@ -37,7 +37,7 @@ class SchemaVerwantschap final : public WerkFormulier {
 
  private:
   [[nodiscard]] bool TweePersonen();
-  [[nodiscard]] bool MaakVerslagen();
+  [[nodiscard]] bool MaakUitvoer(const std::vector<std::string>& regels);
   [[nodiscard]] Uitslag ZoekEnSchrijf(TekstSchrijver& uit, std::vector<std::string>& regels);
 };
 

@@ -8,12 +8,12 @@ VerwantBestanden VerwantBestandenVan(const Hoofdmodule& hoofd) {
   return {map / "VERWANT.TMP", map / "ZOEK_PRS.TMP"};
 }
 
-VerwantRapport::VerwantRapport(Hoofdmodule& hoofd)
-    : TekstVenster(hoofd, "VerwantRapport", "Resultaat Verwantschap") {}
+VerwantRapport::VerwantRapport(Hoofdmodule& hoofd, bool metUitvoer)
+    : TekstVenster(hoofd, "VerwantRapport", "Resultaat Verwantschap"), metUitvoer_(metUitvoer) {}
 
 void VerwantRapport::BijLaden() {
   const VerwantBestanden bestanden = VerwantBestandenVan(hoofd_);
-  Toon(bestanden.verslag, bestanden.uitvoer);
+  Toon(bestanden.verslag, metUitvoer_ ? bestanden.uitvoer : bestanden.verslag);
 }
 
 }  // namespace lb77

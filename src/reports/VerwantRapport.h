@@ -17,10 +17,13 @@ struct VerwantBestanden {
 
 class VerwantRapport final : public TekstVenster {
  public:
-  explicit VerwantRapport(Hoofdmodule& hoofd);
+  // Without the second file the buttons handle the first one.
+  explicit VerwantRapport(Hoofdmodule& hoofd, bool metUitvoer = true);
 
  private:
   void BijLaden() override;
+
+  bool metUitvoer_;
 };
 
 }  // namespace lb77

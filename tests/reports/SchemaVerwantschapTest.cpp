@@ -7,6 +7,8 @@
 #include "reports/SchemaVerwantschap.h"
 #include "reports/VerwantRapport.h"
 #include "steun/FamilieToets.h"
+#include "steun/Gouden.h"
+#include "text/Getallen.h"
 
 namespace lb77 {
 namespace {
@@ -82,6 +84,25 @@ TEST_F(SchemaVerwantschapTest, ToontDeKetenVanTweePersonen) {
   EXPECT_EQ(LeesBytes(Temp("VERWANT.TMP")), kVerslag);
   EXPECT_EQ(LeesBytes(Temp("ZOEK_PRS.TMP")), kVerslag);
   EXPECT_EQ(huidig_, 4);
+}
+
+// From Jan by his father and his uncle to the aunt, her second husband, and his child by another.
+TEST_F(SchemaVerwantschapTest, DeKetenAlsBestand) {
+  const auto tweede = Bouw().Man("Gerrit Jan", "de Wit");
+  const auto stiefnicht = Bouw().Vrouw("Kee", "de Wit");
+  const auto haarMan = Bouw().Man("Piet", "Bos");
+  const auto zoon = Bouw().Man("", "Bos");
+  Bouw().Relatie(tweede, 6);
+  Bouw().Relatie(tweede, 0, {stiefnicht});
+  Bouw().Relatie(haarMan, stiefnicht, {zoon});
+  Speel("vul PersNr(0) 2\nvul PersNr(1) " + GetalTekst(zoon) +
+            "\ndruk OKButton\ndruk BackButton\ndruk BackButton",
+        R"~(
+          + VerwantRapport "Schema Verwantschap"
+          - VerwantRapport
+          - SchemaVerwantschap
+        )~");
+  VerwachtGouden("verwantschap.txt", LeesBytes(Temp("VERWANT.TMP")));
 }
 
 TEST_F(SchemaVerwantschapTest, ZonderVerbandIsErGeenVerwantschap) {
@@ -166,12 +187,33 @@ TEST_F(SchemaVerwantschapTest, EenBestandDatNietKanSluitHetScherm) {
   Speel(std::string(kJanEnEls) + "druk OKButton", "! stop \"Kan tijdelijk bestand " +
                                                       Temp("VERWANT.TMP").string() +
                                                       " niet openen\"\n- SchemaVerwantschap");
-  std::filesystem::remove(Temp("VERWANT.TMP"));
-  std::filesystem::remove(Temp("ZOEK_PRS.TMP"));
+}
+
+// The buttons handle what is seen then, and not what lay in the other file.
+TEST_F(SchemaVerwantschapTest, ZonderHetTweedeBestandWordtHetVerslagTochGetoond) {
   std::filesystem::create_directories(Temp("ZOEK_PRS.TMP"));
-  Speel(std::string(kJanEnEls) + "druk OKButton", "! stop \"Kan tijdelijk bestand " +
-                                                      Temp("ZOEK_PRS.TMP").string() +
-                                                      " niet openen\"\n- SchemaVerwantschap");
+  const auto naar = Map() / "bewaard.txt";
+  Speel(std::string(kJanEnEls) + "bestand " + naar.string() +
+            "\ndruk OKButton\ndruk SaveButton\ndruk BackButton\ndruk BackButton",
+        "! stop \"Kan tijdelijk bestand " + Temp("ZOEK_PRS.TMP").string() +
+            " niet openen\"\n+ VerwantRapport \"Schema Verwantschap\"\n"
+            "> opslaan \"Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt\" -> \"" +
+            naar.string() +
+            "\"\n! info \"De tekst is opgeslagen.\"\n- VerwantRapport\n- SchemaVerwantschap");
+  EXPECT_EQ(LeesBytes(naar), kVerslag);
+}
+
+TEST_F(SchemaVerwantschapTest, DeTellerBegintOpnieuw) {
+  Speel(std::string(kJanEnEls) +
+            "druk OKButton\ndruk BackButton\nvul PersNr(1)\ndruk OKButton\ntoon PersonenGedaan\n"
+            "druk BackButton",
+        R"~(
+          + VerwantRapport "Schema Verwantschap"
+          - VerwantRapport
+          ! uitroep "Geen 2 personen opgegeven. Verwantschap niet mogelijk."
+          = PersonenGedaan ""
+          - SchemaVerwantschap
+        )~");
 }
 
 // The two files are made unlike here, to tell which of them a button handles.
@@ -210,6 +252,15 @@ TEST_F(VerwantRapportTest, DruktHetBestandVanDeSelectieAf) {
     ! info "De tekst is naar de printer verstuurd."
     % afdruk 2
     ! info "De tekst is naar de printer verstuurd."
+    - VerwantRapport
+  )~");
+}
+
+TEST_F(VerwantRapportTest, EenLeegBestandWordtNietAfgedrukt) {
+  uitvoer_.clear();
+  SpeelRapport("druk PrintButton(1)\ndruk PrintButton(2)\ndruk BackButton", R"~(
+    ! stop "Fout bij het printen van de tekst."
+    ! stop "Fout bij het printen van de tekst."
     - VerwantRapport
   )~");
 }
