@@ -98,8 +98,10 @@ std::int32_t PlaatsVervanging::Tel(std::int16_t oud) {
 }
 
 bool PlaatsVervanging::Vervang(std::int16_t oud, std::int16_t nieuw, const Voortgang& voortgang) {
-  const Gang personen{Personen(persoon_, bestanden_), persoon_.AantalRecords(), voortgang.persoon};
-  const Gang relaties{Relaties(relatie_, bestanden_), relatie_.AantalRecords(), voortgang.relatie};
+  const Gang<PersoonLB77> personen{Personen(persoon_, bestanden_), persoon_.AantalRecords(),
+                                   voortgang.persoon};
+  const Gang<RelatieLB77> relaties{Relaties(relatie_, bestanden_), relatie_.AantalRecords(),
+                                   voortgang.relatie};
   std::int32_t vervangen = 0;
   return VervangIn(personen, oud, nieuw, vervangen, voortgang) &&
          VervangIn(relaties, oud, nieuw, vervangen, voortgang);
