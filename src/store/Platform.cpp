@@ -6,7 +6,9 @@
 #include <utility>
 
 #ifdef _WIN32
+#ifndef NOMINMAX
 #define NOMINMAX
+#endif
 #include <windows.h>
 #else
 #include <fcntl.h>
@@ -138,7 +140,14 @@ SysteemFout Bestandsgreep::Open(const std::filesystem::path& pad, Openwijze wijz
   Sluit();
   HANDLE greep = CreateFileW(pad.c_str(), RechtenVan(wijze), FILE_SHARE_READ | FILE_SHARE_WRITE,
                              nullptr, MakenVan(wijze), FILE_ATTRIBUTE_NORMAL, nullptr);
-  if (greep == INVALID_HANDLE_VALUE) return LaatsteFout();
+  if (greep == INVALID_HANDLE_VALUE) {
+    SysteemFout fout = LaatsteFout();
+    // The system has one answer for a directory and for what may not be touched.
+    const DWORD kenmerken = GetFileAttributesW(pad.c_str());
+    const bool isMap =
+        kenmerken != INVALID_FILE_ATTRIBUTES && (kenmerken & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    return isMap ? FoutVan(std::make_error_code(std::errc::is_a_directory)) : fout;
+  }
   greep_ = reinterpret_cast<std::intptr_t>(greep);
   if (wijze != Openwijze::AlleenLezen || GetFileType(greep) == FILE_TYPE_DISK) return {};
   Sluit();
@@ -148,6 +157,7 @@ SysteemFout Bestandsgreep::Open(const std::filesystem::path& pad, Openwijze wijz
 void Bestandsgreep::Sluit() {
   if (IsOpen()) CloseHandle(Systeem(greep_));
   greep_ = kDicht;
+  vergrendeld_ = false;
 }
 
 std::uint64_t Bestandsgreep::Lengte() const {
@@ -177,10 +187,13 @@ std::int64_t Bestandsgreep::Wijzigtijd() const {
 
 SysteemFout Bestandsgreep::Vergrendel() {
   if (!IsOpen()) return FoutNietOpen();
+  // Who has it may ask again, which the system itself refuses.
+  if (vergrendeld_) return {};
   // One byte far behind any record: a lock here keeps others from what it covers.
   OVERLAPPED plek = PlekVan(std::uint64_t{1} << 40U);
   if (LockFileEx(Systeem(greep_), LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, 1, 0,
                  &plek)) {
+    vergrendeld_ = true;
     return {};
   }
   if (GetLastError() == ERROR_LOCK_VIOLATION) {
@@ -225,6 +238,7 @@ SysteemFout Bestandsgreep::Open(const std::filesystem::path& pad, Openwijze wijz
 void Bestandsgreep::Sluit() {
   if (IsOpen()) ::close(Systeem(greep_));
   greep_ = kDicht;
+  vergrendeld_ = false;
 }
 
 std::uint64_t Bestandsgreep::Lengte() const {
@@ -278,6 +292,7 @@ SysteemFout Bestandsgreep::Vergrendel() {
     if (errno == ENOLCK || errno == ENOSYS || errno == EOPNOTSUPP) break;
     if (!IsOnderbroken()) return LaatsteFout();
   }
+  vergrendeld_ = true;
   return {};
 }
 
@@ -307,12 +322,14 @@ Bestandsgreep::~Bestandsgreep() {
 }
 
 Bestandsgreep::Bestandsgreep(Bestandsgreep&& ander) noexcept
-    : greep_(std::exchange(ander.greep_, kDicht)) {}
+    : greep_(std::exchange(ander.greep_, kDicht)),
+      vergrendeld_(std::exchange(ander.vergrendeld_, false)) {}
 
 Bestandsgreep& Bestandsgreep::operator=(Bestandsgreep&& ander) noexcept {
   if (this != &ander) {
     Sluit();
     greep_ = std::exchange(ander.greep_, kDicht);
+    vergrendeld_ = std::exchange(ander.vergrendeld_, false);
   }
   return *this;
 }

@@ -52,8 +52,8 @@ class Bestandsgreep {
   // When the file was last changed, in a measure of the system's own; 0 when it does not tell.
   std::int64_t Wijzigtijd() const;
 
-  // Takes the lock of the file, which nobody else can take until this is closed; the system gives
-  // it back when a program dies. It keeps nobody from reading or writing. "Bestand is in gebruik"
+  // Takes the lock of the file, which nobody else can take until this is closed (a second time does
+  // nothing); the system gives it back when a program dies. It keeps nobody from reading or writing. "Bestand is in gebruik"
   // when another has it. A file system that knows no locks gives it to everybody.
   [[nodiscard]] SysteemFout Vergrendel();
 
@@ -66,6 +66,7 @@ class Bestandsgreep {
  private:
   static constexpr std::intptr_t kDicht = -1;
   std::intptr_t greep_ = kDicht;
+  bool vergrendeld_ = false;
 };
 
 // Brings the names in a directory to the disk itself: what was made, renamed or removed in it. Does

@@ -1,7 +1,9 @@
 #include "store/PlatformUitvoer.h"
 
 #ifdef _WIN32
+#ifndef NOMINMAX
 #define NOMINMAX
+#endif
 #include <windows.h>
 #else
 #include <poll.h>

@@ -1,8 +1,10 @@
 // A user who may read a directory and change nothing in it, or less.
 #pragma once
 
+#ifndef _WIN32
 #include <sys/types.h>
 #include <unistd.h>
+#endif
 
 #include <exception>
 #include <filesystem>
@@ -11,9 +13,22 @@
 
 namespace lb77 {
 
+#ifdef _WIN32
+
+// What a directory there refuses lies in lists that no standard library writes.
+class ZonderRechten {
+ public:
+  static constexpr bool kKan = false;
+  explicit ZonderRechten(const std::filesystem::path&,
+                         std::filesystem::perms = std::filesystem::perms(0555)) {}
+};
+
+#else
+
 // For as long as it lives. The administrator, whom no directory refuses anything, becomes nobody.
 class ZonderRechten {
  public:
+  static constexpr bool kKan = true;
   explicit ZonderRechten(std::filesystem::path map,
                          std::filesystem::perms rechten = std::filesystem::perms(0555))
       : map_(std::move(map)), wie_(geteuid()) {
@@ -32,5 +47,7 @@ class ZonderRechten {
   std::filesystem::path map_;
   uid_t wie_;
 };
+
+#endif
 
 }  // namespace lb77

@@ -1,15 +1,29 @@
 // A disk that takes no more.
 #pragma once
 
+#ifndef _WIN32
 #include <sys/resource.h>
 
 #include <csignal>
+#endif
 
 namespace lb77 {
+
+#ifdef _WIN32
+
+// The system there has no such limit.
+class VolleSchijf {
+ public:
+  static constexpr bool kKan = false;
+  explicit VolleSchijf(unsigned) {}
+};
+
+#else
 
 // For as long as it lives no file of the process grows beyond `bytes` bytes.
 class VolleSchijf {
  public:
+  static constexpr bool kKan = true;
   explicit VolleSchijf(rlim_t bytes) : signaal_(std::signal(SIGXFSZ, SIG_IGN)) {
     getrlimit(RLIMIT_FSIZE, &oud_);
     const rlimit klein{bytes, oud_.rlim_max};
@@ -26,5 +40,7 @@ class VolleSchijf {
   rlimit oud_{};
   void (*signaal_)(int);
 };
+
+#endif
 
 }  // namespace lb77
