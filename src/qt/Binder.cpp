@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/Bestandsontvanger.h"
 #include "qt/Dialoog.h"
 #include "qt/Hoofdvenster.h"
 #include "qt/Indelingskeuze.h"
@@ -225,6 +226,11 @@ void Binder::Bewerkt(Invoerveld& veld, const std::string& tekst, bool geweigerd)
 
 void Binder::SluitVenster() {
   if (!Geblokkeerd()) Verwerk([&] { formulier_.VraagSluiten(); });
+}
+
+void Binder::BestandGebracht(const std::filesystem::path& bestand) {
+  auto* const ontvanger = dynamic_cast<Bestandsontvanger*>(&formulier_);
+  if (ontvanger && !Geblokkeerd()) Verwerk([&] { ontvanger->Ontvang(bestand); });
 }
 
 void Binder::Verplaatst(QPoint plek) {

@@ -3,6 +3,8 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMainWindow>
@@ -33,6 +35,8 @@ class Hoofdvenster final : public QMainWindow {
   void closeEvent(QCloseEvent* sluiten) override;
   void keyPressEvent(QKeyEvent* toets) override;
   void moveEvent(QMoveEvent* plek) override;
+  void dragEnterEvent(QDragEnterEvent* sleep) override;
+  void dropEvent(QDropEvent* val) override;
 
  private:
   struct Keuze {
