@@ -26,8 +26,9 @@ InWelkeSet::InWelkeSet(Hoofdmodule& hoofd, MenuWindow& menu, std::filesystem::pa
 void InWelkeSet::BijLaden() {
   BestandLabel.ZetBijschrift("Waarin wordt " + PadTekst(bestand_.filename()) + " ingelezen ?");
   SetNaam.ZetTekst(VrijeSetNaam(hoofd_, PadTekst(bestand_.stem())));
-  LaadSetPicklist(hoofd_, menu_, SetPicklist);
-  BestaandeOptie.ZetIngeschakeld(!SetPicklist.Rijen().empty());
+  const bool aanwezig = hoofd_.Ini.AantalBestandenSets() > 0;
+  if (aanwezig) LaadSetPicklist(hoofd_, menu_, SetPicklist);
+  BestaandeOptie.ZetIngeschakeld(aanwezig);
   NieuweOptie.Zet(true);
   OptieWijziging();
 }

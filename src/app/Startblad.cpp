@@ -20,10 +20,13 @@ std::int32_t Laatste(Bestandenset& bestanden, BestandSoort soort) {
       std::min<std::uint64_t>(records, static_cast<std::uint64_t>(kMaxRecords)));
 }
 
-// "12  Willem van Oranje (1533-1584)"; nothing for a number that has no person.
+// "12  Willem van Oranje (1533-1584)", without years that nobody knows; nothing for a number that has
+// no person.
 std::optional<std::string> PersoonRij(PersoonLB77& persoon, std::int16_t nr) {
   if (!persoon.Lees(nr) || persoon.IsVolgRecord()) return std::nullopt;
-  return GetalTekst(nr) + "  " + persoon.NaamVoluit() + " (" + persoon.Periode(nr) + ")";
+  std::string jaren = persoon.Periode(nr);
+  std::erase(jaren, ' ');
+  return GetalTekst(nr) + "  " + persoon.NaamVoluit() + (jaren == "-" ? "" : " (" + jaren + ")");
 }
 
 }  // namespace

@@ -14,6 +14,7 @@
 #include <string_view>
 
 #include "forms/Bestandsontvanger.h"
+#include "qt/Indelingskeuze.h"
 #include "qt/Vertaling.h"
 #include "qt/Voorblad.h"
 
@@ -81,6 +82,9 @@ Hoofdvenster::Hoofdvenster(Formulier& formulier, Vensterhouder& houder, Bezorger
       status_(new QLabel(this)) {
   MaakMenus(bezorger);
   setCentralWidget(voorblad_);
+  const auto& alle = formulier.Bedieningen();
+  voorblad_->ZetStil(
+      std::any_of(alle.begin(), alle.end(), [](const Bediening* een) { return InIndeling(*een); }));
   status_->setTextFormat(Qt::PlainText);
   status_->setContentsMargins(8, 3, 8, 3);
   statusBar()->addWidget(status_, 1);
@@ -120,6 +124,10 @@ void Hoofdvenster::MaakKeuze(MenuKeuze& keuze, Bezorger& bezorger) {
   }
   actie->setMenuRole(QAction::NoRole);
   keuzes_.push_back({&keuze, actie});
+}
+
+QWidget& Hoofdvenster::Inhoud() const {
+  return voorblad_->Inhoud();
 }
 
 void Hoofdvenster::Bijwerken() {

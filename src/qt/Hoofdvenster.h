@@ -26,6 +26,8 @@ class Hoofdvenster final : public QMainWindow {
  public:
   Hoofdvenster(Formulier& formulier, Vensterhouder& houder, Bezorger& bezorger);
 
+  // Where the form's own controls lie, those that are no menu.
+  [[nodiscard]] QWidget& Inhoud() const;
   // Brings menus and status bar in line with the form.
   void Bijwerken();
   // The action or menu of an entry, null when the form has no entry of that name.
