@@ -17,8 +17,8 @@ InWelkeSet::InWelkeSet(Hoofdmodule& hoofd, MenuWindow& menu, std::filesystem::pa
   ZetHulpOnderwerp("gedcom");
   ZetEersteVeld(SetNaam);
   SetPicklist.ZetLeesnaam("Bestandenset");
-  NieuweOptie.BijWijziging([this] { OptieWijziging(); });
-  BestaandeOptie.BijWijziging([this] { OptieWijziging(); });
+  NieuweOptie.BijWijziging([this] { NieuweOptieWijziging(); });
+  BestaandeOptie.BijWijziging([this] { BestaandeOptieWijziging(); });
   OKButton.BijKlik([this] { OKButtonKlik(); });
   BackButton.BijKlik([this] { Sluit(); });
 }
@@ -30,10 +30,18 @@ void InWelkeSet::BijLaden() {
   if (aanwezig) LaadSetPicklist(hoofd_, menu_, SetPicklist);
   BestaandeOptie.ZetIngeschakeld(aanwezig);
   NieuweOptie.Zet(true);
-  OptieWijziging();
+  ToonKeuze();
 }
 
-void InWelkeSet::OptieWijziging() {
+void InWelkeSet::NieuweOptieWijziging() {
+  ToonKeuze();
+}
+
+void InWelkeSet::BestaandeOptieWijziging() {
+  ToonKeuze();
+}
+
+void InWelkeSet::ToonKeuze() {
   const bool nieuw = NieuweOptie.Gekozen();
   SetNaam.ZetIngeschakeld(nieuw);
   SetOmsch.ZetIngeschakeld(nieuw);

@@ -31,8 +31,10 @@ class InWelkeSet final : public Formulier {
   void BijLaden() override;
 
  private:
-  void OptieWijziging();
+  void NieuweOptieWijziging();
+  void BestaandeOptieWijziging();
   void OKButtonKlik();
+  void ToonKeuze();
   [[nodiscard]] bool MaakNieuwe();
   [[nodiscard]] bool OpenBestaande();
 

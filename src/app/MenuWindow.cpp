@@ -163,7 +163,7 @@ MenuWindow::MenuWindow(Hoofdmodule& hoofd)
 void MenuWindow::Hang(std::string_view naam, std::function<void()> start) {
   const std::optional<std::size_t> rij = VindRij(naam);
   if (auto* const knop = rij ? nullptr : dynamic_cast<Knop*>(Zoek(naam))) {
-    knop->BijKlik([this, start = std::move(start)] { KeuzesKlik(start); });
+    knop->BijKlik([this, start = std::move(start)] { KnopKlik(start); });
     return;
   }
   if (!rij || kMenu[*rij].werking != Werking::Start) return;
@@ -185,6 +185,11 @@ void MenuWindow::Ontvang(const std::filesystem::path& bestand) {
 
 void MenuWindow::BijActiveren() {
   if (begin_) KeuzesKlik(std::exchange(begin_, nullptr));
+}
+
+// A button of the start page.
+void MenuWindow::KnopKlik(const std::function<void()>& start) {
+  KeuzesKlik(start);
 }
 
 void MenuWindow::KeuzesKlik(const std::function<void()>& start) {

@@ -62,6 +62,7 @@ class MenuWindow final : public Formulier, public Bestandsontvanger {
   [[nodiscard]] bool MagSluiten() override;
 
  private:
+  void KnopKlik(const std::function<void()>& start);
   void KeuzesKlik(const std::function<void()>& start);
   void OpenLaatsteSet();
   void Afsluiten();

@@ -34,7 +34,7 @@ OudeSetForm::OudeSetForm(Hoofdmodule& hoofd, MenuWindow& menu)
   BrowseOudeMap.BijKlik([this] { BrowseOudeMapKlik(); });
   GevondenLijst.BijWijziging([this] { GevondenLijstWijziging(); });
   Kopieren.BijWijziging([this] { KopierenWijziging(); });
-  TerPlaatse.BijWijziging([this] { KopierenWijziging(); });
+  TerPlaatse.BijWijziging([this] { TerPlaatseWijziging(); });
   OKButton.BijKlik([this] { OKButtonKlik(); });
   BackButton.BijKlik([this] { Sluit(); });
 }
@@ -79,6 +79,10 @@ void OudeSetForm::GevondenLijstWijziging() {
 }
 
 void OudeSetForm::KopierenWijziging() {
+  StelNaamVoor();
+}
+
+void OudeSetForm::TerPlaatseWijziging() {
   StelNaamVoor();
 }
 

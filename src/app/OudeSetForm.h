@@ -39,6 +39,7 @@ class OudeSetForm final : public Formulier {
   [[nodiscard]] bool OudeMapVerlaten();
   void GevondenLijstWijziging();
   void KopierenWijziging();
+  void TerPlaatseWijziging();
   void OKButtonKlik();
   void Zoek();
   void StelNaamVoor();

@@ -44,19 +44,20 @@ Startblad::Startblad(Formulier& formulier, Hoofdmodule& hoofd)
                   "Er is geen familie geopend. Kies hoe u wilt beginnen:"),
       Wegen(formulier),
       OpenButton(formulier, "OpenButton", "&Familie openen die er al is"),
-      hoofd_(hoofd) {}
+      hoofd_(hoofd) {
+  GezienLijst.BijDubbelklik([this] { GezienLijstDubbelklik(); });
+  GezienLijst.BijToets([this](ToetsGebeurtenis& toets) { GezienLijstToets(toets); });
+}
 
-void Startblad::BijPersoon(const std::function<void(std::int16_t)>& doe) {
-  const auto kies = [this, doe] {
-    const int index = GezienLijst.Index();
-    if (index >= 0) doe(inLijst_.at(static_cast<std::size_t>(index)));
-  };
-  GezienLijst.BijDubbelklik(kies);
-  GezienLijst.BijToets([kies](ToetsGebeurtenis& toets) {
-    if (toets.code != toets::kEnter && toets.code != toets::kNumEnter) return;
-    toets.verwerkt = true;
-    kies();
-  });
+void Startblad::GezienLijstDubbelklik() const {
+  const int index = GezienLijst.Index();
+  if (index >= 0 && bijPersoon_) bijPersoon_(inLijst_.at(static_cast<std::size_t>(index)));
+}
+
+void Startblad::GezienLijstToets(ToetsGebeurtenis& toets) const {
+  if (toets.code != toets::kEnter && toets.code != toets::kNumEnter) return;
+  toets.verwerkt = true;
+  GezienLijstDubbelklik();
 }
 
 void Startblad::WerkBij() {
@@ -69,11 +70,11 @@ void Startblad::WerkBij() {
   StartUitleg.ZetZichtbaar(!actief);
   Wegen.ZetZichtbaar(!actief);
   OpenButton.ZetZichtbaar(!actief && hoofd_.Ini.AantalBestandenSets() > 0);
-  GezienLijst.ZetZichtbaar(actief);
   if (actief) {
     ToonSet();
   } else {
     StartKop.ZetBijschrift("LB77 voor Windows");
+    GezienLijst.ZetZichtbaar(false);
   }
 }
 
@@ -146,7 +147,7 @@ void Startblad::ToonGezien() {
     }
   }
   if (GezienLijst.Rijen() != rijen) GezienLijst.ZetRijen(std::move(rijen));
-  GezienLijst.ZetIngeschakeld(!inLijst_.empty());
+  GezienLijst.ZetZichtbaar(!inLijst_.empty());
 }
 
 }  // namespace lb77

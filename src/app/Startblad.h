@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "app/Hoofdmodule.h"
@@ -32,7 +33,7 @@ class Startblad {
   Knop OpenButton;
 
   // What a choice in the list of persons does, with the number of that one.
-  void BijPersoon(const std::function<void(std::int16_t)>& doe);
+  void BijPersoon(std::function<void(std::int16_t)> doe) { bijPersoon_ = std::move(doe); }
   // Brings all of it in line with the session, and keeps who was seen. Counts only what has changed.
   void WerkBij();
 
@@ -42,6 +43,8 @@ class Startblad {
     std::uint64_t stand = 0;
     int aantal = 0;
   };
+  void GezienLijstDubbelklik() const;
+  void GezienLijstToets(ToetsGebeurtenis& toets) const;
   void ToonSet();
   void ToonGezien();
   // Takes over who was seen when the set was last used, and keeps who was seen since.
@@ -52,6 +55,7 @@ class Startblad {
   [[nodiscard]] std::string WijzigingTekst() const;
 
   Hoofdmodule& hoofd_;
+  std::function<void(std::int16_t)> bijPersoon_;
   std::array<Telling, 4> tellingen_{};
   std::string gezienVan_;              // the set whose persons are held
   std::vector<std::int16_t> bewaard_;  // as they are on the disk

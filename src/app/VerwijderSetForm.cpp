@@ -55,13 +55,14 @@ bool VerwijderSetForm::Bevestigd() {
   const std::string naam = rij.substr(0, rij.find(','));
   if (!DeleteJa.Gekozen() || !IsSetNaam(naam)) return true;
   const std::string oms = hoofd_.Ini.BestandenSetOms(hoofd_.Ini.BestandenSetIndex(naam));
-  const auto personen = AantalPersonen(hoofd_, naam);
+  const SetPaden paden = SetPaden::Van(hoofd_.Ini.DataDir(), naam);
+  const auto personen = AantalPersonen(paden.prs, hoofd_.gesprek, hoofd_.schrijfwijze);
   const std::string hoeveel =
       personen ? AantalTekst(*personen, "persoon", "personen") : "een onbekend aantal personen";
-  return hoofd_.gesprek.VraagBedacht(
-      "Bestandenset " + naam + (oms.empty() ? "" : " (" + oms + ")") + " met " + hoeveel +
-      " wordt vernietigd, met alle bestanden in\n" +
-      PadTekst(VindPad(SetPaden::Van(hoofd_.Ini.DataDir(), naam).map)) + "\nVernietigen ?");
+  return hoofd_.gesprek.VraagBedacht("Bestandenset " + naam +
+                                     (oms.empty() ? "" : " (" + oms + ")") + " met " + hoeveel +
+                                     " wordt vernietigd, met alle bestanden in\n" +
+                                     PadTekst(VindPad(paden.map)) + "\nVernietigen ?");
 }
 
 void VerwijderSetForm::OKButtonKlik() {

@@ -27,7 +27,13 @@ class Wegknoppen {
                    "Werk verder met bestanden van vroeger, van een diskette bijvoorbeeld."),
         Voorbeeldfamilie(formulier, "Voorbeeldfamilie", "Voorbeeldfamilie be&kijken"),
         VoorbeeldUitleg(formulier, "VoorbeeldUitleg",
-                        "Kijk rond bij het huis Oranje-Nassau; u kunt er niets aan bederven.") {}
+                        "Kijk rond bij het huis Oranje-Nassau; u kunt er niets aan bederven.") {
+    for (const auto& [knop, weg] : knoppen_) {
+      knop->BijKlik([this, weg = weg] { KnopKlik(weg); });
+    }
+  }
+  Wegknoppen(const Wegknoppen&) = delete;
+  Wegknoppen& operator=(const Wegknoppen&) = delete;
 
   Knop NieuweFamilie;
   Label NieuweUitleg;
@@ -38,11 +44,7 @@ class Wegknoppen {
   Knop Voorbeeldfamilie;
   Label VoorbeeldUitleg;
 
-  void BijKeuze(const std::function<void(Weg)>& doe) {
-    for (const auto& [knop, weg] : knoppen_) {
-      knop->BijKlik([doe, weg = weg] { doe(weg); });
-    }
-  }
+  void BijKeuze(std::function<void(Weg)> doe) { bijKeuze_ = std::move(doe); }
   void ZetZichtbaar(bool zichtbaar) {
     for (const auto& [knop, weg] : knoppen_) knop->ZetZichtbaar(zichtbaar);
     for (Label* uitleg : {&NieuweUitleg, &GedcomUitleg, &OudeUitleg, &VoorbeeldUitleg}) {
@@ -51,6 +53,11 @@ class Wegknoppen {
   }
 
  private:
+  void KnopKlik(Weg weg) const {
+    if (bijKeuze_) bijKeuze_(weg);
+  }
+
+  std::function<void(Weg)> bijKeuze_;
   const std::array<std::pair<Knop*, Weg>, 4> knoppen_{{{&NieuweFamilie, Weg::NieuweFamilie},
                                                        {&GedcomInlezen, Weg::Gedcom},
                                                        {&OudeBestanden, Weg::OudeBestanden},

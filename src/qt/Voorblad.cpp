@@ -68,9 +68,10 @@ void Voorblad::paintEvent(QPaintEvent*) {
   verloop.setColorAt(1, grond);
   verf.fillRect(rect(), verloop);
   verf.setPen(QPen(Gemengd(grond, inkt, 0.13), 2));
-  const QRectF boom =
-      QRectF(rect()).adjusted(width() * 0.55, height() * 0.06, -24, -height() * 0.06);
-  TekenTak(verf, boom, 0);
+  // Beside what is written, never behind it.
+  const qreal links = stil_ ? inhoud_->geometry().right() + kMarge : width() * 0.55;
+  const QRectF boom = QRectF(rect()).adjusted(links, height() * 0.06, -24, -height() * 0.06);
+  if (boom.width() > 0) TekenTak(verf, boom, 0);
   if (!stil_) Schrijf(verf);
 }
 

@@ -94,9 +94,8 @@ TEST_F(OudeSetVenster, TerPlaatseBlijvenZijWaarZijStaanEnHoudenHunNaam) {
 }
 
 TEST_F(OudeSetVenster, EenNaamDieVastligtIsNietTeTypen) {
-  const auto programma = MetMenu([](Hoofdmodule& hoofd, MenuWindow& menu) {
-    Toont<OudeSetForm>(hoofd, menu)(hoofd.gesprek);
-  });
+  const auto programma = MetMenu(
+      [](Hoofdmodule& hoofd, MenuWindow& menu) { Toont<OudeSetForm>(hoofd, menu)(hoofd.gesprek); });
   EXPECT_EQ(Speel("vul OudeMap disk\ntyp SetNaam X\ndruk BackButton", programma).status, 0);
   EXPECT_EQ(Speel("vul OudeMap disk\ndruk TerPlaatse\ntyp SetNaam X", programma).status, 1);
 }

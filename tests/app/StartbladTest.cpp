@@ -57,7 +57,7 @@ TEST_F(StartbladVenster, MetEenSetZegtHetNaamAantallenEnLaatsteWijziging) {
   ZetIni("[Systeem]\nSet=EEN\n[Sets]\nSet1=EEN,Familie van Dam\n");
   Verwacht(
       "toon StartKop\ntoon StartTelling\ntoon StartWijziging\ntoon NieuweFamilie\ntoon "
-      "ZoekButton\ntoon InvoerButton\ntoon KwstButton\ntoon KopieButton\nsluit",
+      "ZoekButton\ntoon InvoerButton\ntoon KwstButton\ntoon KopieButton\ntoon GezienLijst\nsluit",
       Venster(),
       R"~(
       + MenuWindow "LB77 voor Windows"
@@ -69,6 +69,7 @@ TEST_F(StartbladVenster, MetEenSetZegtHetNaamAantallenEnLaatsteWijziging) {
       = InvoerButton "&Invoeren en wijzigen"
       = KwstButton "&Kwartierstaat"
       = KopieButton "Veiligheidskopie &maken"
+      = GezienLijst "" [verborgen]
       - MenuWindow)~");
 }
 

@@ -204,6 +204,34 @@ TEST_F(VensterloopTest, HetStartbladDoetHetDagelijkseWerk) {
   EXPECT_EQ(LeesBytes(Map() / "GEZIEN.TXT"), "PROEF,2\r\n");
 }
 
+// Lower case names, no TEKST, and the places in the data directory alone.
+TEST_F(VensterloopTest, EenSetVanEenDosDiskGaatOpenEnWerkt) {
+  MaakFamilie();
+  opstart_.programmaMap = Map();
+  const std::filesystem::path data = Map() / "DATA";
+  std::filesystem::rename(data / "PROEF/PROEF.PLT", data / "plaats.plt");
+  for (const auto& [groot, klein] : {std::pair{"PRS", "prs"}, {"RLT", "rlt"}, {"OPM", "opm"}}) {
+    std::filesystem::rename(data / "PROEF" / (std::string("PROEF.") + groot),
+                            data / "PROEF" / (std::string("proef.") + klein));
+  }
+  std::filesystem::remove_all(data / "PROEF/TEKST");
+  std::filesystem::rename(data / "PROEF", data / "proef");
+  const std::string plaatsen = LeesBytes(data / "plaats.plt");
+  const SpeelUitslag uitslag = Speel(R"(druk KwstButton
+                                        vul RecordNr 2
+                                        druk OKButton
+                                        druk OKButton
+                                        toon UitvoerBox
+                                        druk BackButton
+                                        kies KeuzeAfsluiten)",
+                                     Venster());
+  EXPECT_EQ(uitslag.reden, "");
+  EXPECT_NE(verslag_.find("geb. Delft 1-2-1900"), std::string::npos) << verslag_;
+  EXPECT_EQ(LeesBytes(data / "plaats.plt"), plaatsen);
+  EXPECT_FALSE(std::filesystem::exists(data / "proef/PROEF.PLT"));
+  EXPECT_FALSE(std::filesystem::exists(data / "PROEF"));
+}
+
 TEST_F(VensterloopTest, EenDraaiboekKentGeenWelkomEnGeenStartblad) {
   Verwacht("antwoord OK\nkies KeuzeAfsluiten", Sessie(), R"~(
       ? uitroep OK/Annuleren "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\nBestand niet gevonden\n\nDruk op OK om een nieuw IniBestand te maken\nDruk op CANCEL om te stoppen" -> OK

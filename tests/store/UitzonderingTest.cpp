@@ -1,11 +1,11 @@
-#include "store/Uitzondering.h"
-
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <new>
 #include <stdexcept>
 #include <system_error>
+
+#include "store/Uitzondering.h"
 
 namespace lb77 {
 namespace {
