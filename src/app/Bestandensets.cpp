@@ -73,6 +73,7 @@ void KiesSet(Hoofdmodule& hoofd, std::string_view rij) {
 
 void OpenBestanden(Hoofdmodule& hoofd, SetGebruik gebruik) {
   hoofd.volgers = {};  // the numbers of another set mean nothing in this one
+  hoofd.gezien = {};
   if (!IsSetNaam(hoofd.ActieveSetNaam)) {
     hoofd.gesprek.Waarschuw(SetNaamFout(hoofd.ActieveSetNaam));
     hoofd.ActieveSetNaam = kGeenSetActief;

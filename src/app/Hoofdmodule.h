@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "app/Gezien.h"
 #include "app/IniClass.h"
 #include "app/Instellingen.h"
 #include "app/Klok.h"
@@ -44,6 +45,7 @@ class Hoofdmodule {
   const std::filesystem::path programmaMap;
   Schrijfwijze schrijfwijze;
   Volgers volgers;
+  Gezien gezien;
   Bestandenset bestanden;
   Instellingen instellingen;
   IniClass Ini{instellingen, schrijfwijze, gesprek, programmaMap};

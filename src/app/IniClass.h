@@ -34,6 +34,8 @@ class IniClass {
   // the user chose to stop, or when no file can be made: the program must end then. Where nothing is
   // kept, the defaults stand for a missing file.
   [[nodiscard]] bool IniLees();
+  // Sets the defaults and writes a file of them, where there was none.
+  void IniNieuw();
   // Writes the whole file and keeps the last one as LB77_INI.BAK; nothing where nothing is kept. What
   // another run of the program has changed in it meanwhile stays, where this one changed nothing since
   // it last read or wrote; its list of sets is taken over. Tells its failures itself; the last file is

@@ -63,6 +63,12 @@ bool IniClass::IniLees() {
   return true;
 }
 
+void IniClass::IniNieuw() {
+  ZetStandaard();
+  Onthoud();
+  IniSchrijf();
+}
+
 std::string IniClass::NieuweTekst(const std::string* huidig, IniStand& stand) const {
   const IniStand& bekend = instellingen_.stand;
   stand.eigen = Beeld();

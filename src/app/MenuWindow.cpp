@@ -11,6 +11,8 @@
 #include "store/Journaal.h"
 #include "text/Getallen.h"
 #include "text/Letterlijk.h"
+#include "text/Pad.h"
+#include "text/Tekens.h"
 
 namespace lb77 {
 
@@ -160,8 +162,34 @@ MenuWindow::MenuWindow(Hoofdmodule& hoofd)
 
 void MenuWindow::Hang(std::string_view naam, std::function<void()> start) {
   const std::optional<std::size_t> rij = VindRij(naam);
+  if (auto* const knop = rij ? nullptr : dynamic_cast<Knop*>(Zoek(naam))) {
+    knop->BijKlik([this, start = std::move(start)] { KnopKlik(start); });
+    return;
+  }
   if (!rij || kMenu[*rij].werking != Werking::Start) return;
   keuzes_[*rij].BijKlik([this, start = std::move(start)] { KeuzesKlik(start); });
+}
+
+Startblad& MenuWindow::MaakStartblad() {
+  startblad_ = std::make_unique<Startblad>(*this, hoofd_);
+  return *startblad_;
+}
+
+bool MenuWindow::Neemt(const std::filesystem::path& bestand) const {
+  return bijBestand_ && Hoofdletters(PadTekst(bestand.extension())) == ".GED";
+}
+
+void MenuWindow::Ontvang(const std::filesystem::path& bestand) {
+  if (Neemt(bestand)) KeuzesKlik([this, &bestand] { bijBestand_(bestand); });
+}
+
+void MenuWindow::BijActiveren() {
+  if (begin_) KeuzesKlik(std::exchange(begin_, nullptr));
+}
+
+// A button of the start page.
+void MenuWindow::KnopKlik(const std::function<void()>& start) {
+  KeuzesKlik(start);
 }
 
 void MenuWindow::KeuzesKlik(const std::function<void()>& start) {
@@ -176,6 +204,7 @@ void MenuWindow::ZetMenu() {
     keuzes_[i].ZetIngeschakeld(werkt && Toegestaan(kMenu[i].stand, hoofd_));
     if (kMenu[i].naam == "VeiligOngedaan") keuzes_[i].ZetToelichting(TeOngedaan(hoofd_.bestanden));
   }
+  if (startblad_) startblad_->WerkBij();
 }
 
 void MenuWindow::ZetStatus(std::string_view omschrijving) {

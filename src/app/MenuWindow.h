@@ -2,12 +2,16 @@
 #pragma once
 
 #include <deque>
+#include <filesystem>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
 #include "app/Hoofdmodule.h"
 #include "app/SetOpenen.h"
+#include "app/Startblad.h"
+#include "forms/Bestandsontvanger.h"
 #include "forms/Formulier.h"
 #include "forms/Weergave.h"
 
@@ -16,13 +20,28 @@ namespace lb77 {
 // Knows the names, captions and states of all entries; what an entry starts is hung on it from
 // above. An entry without an action is disabled. One window for the whole life of the program: its
 // load opens the set that was used last, its end stores where it stood.
-class MenuWindow final : public Formulier {
+class MenuWindow final : public Formulier, public Bestandsontvanger {
  public:
   explicit MenuWindow(Hoofdmodule& hoofd);
 
-  // Hangs what an entry starts on it; nothing happens for a name that the menu does not have or
-  // that is greyed for good. An entry that was chosen brings the menu up to date behind its action.
+  // Hangs what an entry, or a button of the start page, starts on it; nothing happens for a name that
+  // the window does not have or an entry that is greyed for good. An entry that was chosen brings the menu up to date behind its action.
   void Hang(std::string_view naam, std::function<void()> start);
+
+  // Gives it a start page and makes it the window of somebody who works by hand, whose questions
+  // and reminders no script is asked. Before it is loaded.
+  Startblad& MaakStartblad();
+  [[nodiscard]] bool VoorGebruiker() const { return startblad_ != nullptr; }
+  // Does what the user asked for, and brings the menu up to date behind it.
+  void Doe(const std::function<void()>& start) { KeuzesKlik(start); }
+  // What is done as soon as the window is on the screen.
+  void BijBegin(std::function<void()> doe) { begin_ = std::move(doe); }
+  // What is done with a GEDCOM file that the user drops on the window.
+  void BijBestand(std::function<void(const std::filesystem::path&)> doe) {
+    bijBestand_ = std::move(doe);
+  }
+  [[nodiscard]] bool Neemt(const std::filesystem::path& bestand) const override;
+  void Ontvang(const std::filesystem::path& bestand) override;
 
   // Enables what the state of the session allows, and names the action that would be undone.
   void ZetMenu();
@@ -38,10 +57,12 @@ class MenuWindow final : public Formulier {
 
  protected:
   void BijLaden() override;
+  void BijActiveren() override;
   void BijToets(ToetsGebeurtenis& toets) override;
   [[nodiscard]] bool MagSluiten() override;
 
  private:
+  void KnopKlik(const std::function<void()>& start);
   void KeuzesKlik(const std::function<void()>& start);
   void OpenLaatsteSet();
   void Afsluiten();
@@ -51,6 +72,9 @@ class MenuWindow final : public Formulier {
   Hoofdmodule& hoofd_;
   SetGebruik gebruik_ = SetGebruik::Schrijven;
   std::deque<MenuKeuze> keuzes_;  // as the table of entries
+  std::unique_ptr<Startblad> startblad_;
+  std::function<void()> begin_;
+  std::function<void(const std::filesystem::path&)> bijBestand_;
 };
 
 }  // namespace lb77

@@ -7,6 +7,7 @@
 #include <system_error>
 #include <utility>
 
+#include "app/AantalTekst.h"
 #include "app/KopieBestanden.h"
 #include "store/Bestandenset.h"
 #include "store/Hoofdrecords.h"
@@ -101,10 +102,6 @@ std::string Vier(int jaar) {
   return std::string(tekst.size() < 4 ? 4 - tekst.size() : 0, '0') + tekst;
 }
 
-std::string Aantal(int aantal, std::string_view een, std::string_view meer) {
-  return GetalTekst(aantal) + " " + std::string(aantal == 1 ? een : meer);
-}
-
 }  // namespace
 
 std::string TijdTekst(const Klok& klok) {
@@ -115,10 +112,10 @@ std::string TijdTekst(const Klok& klok) {
 
 std::string KopieTekst(const KopieRij& rij) {
   if (!rij.telling) return rij.tijd + "  niet te openen";
-  return rij.tijd + "  " + Aantal(rij.telling->personen, "persoon", "personen") + ", " +
-         Aantal(rij.telling->relaties, "relatie", "relaties") + ", " +
-         Aantal(rij.telling->plaatsen, "plaats", "plaatsen") + ", " +
-         Aantal(rij.telling->opmerkingen, "opmerkingregel", "opmerkingregels");
+  return rij.tijd + "  " + AantalTekst(rij.telling->personen, "persoon", "personen") + ", " +
+         AantalTekst(rij.telling->relaties, "relatie", "relaties") + ", " +
+         AantalTekst(rij.telling->plaatsen, "plaats", "plaatsen") + ", " +
+         AantalTekst(rij.telling->opmerkingen, "opmerkingregel", "opmerkingregels");
 }
 
 Veiligheidskopie::Veiligheidskopie(const Opslag& opslag, const Klok& klok, SetPaden paden,

@@ -3,9 +3,12 @@
 #include <filesystem>
 #include <system_error>
 
+#include "app/AantalTekst.h"
 #include "app/Bestandensets.h"
 #include "app/KopiePlek.h"
+#include "app/SetTelling.h"
 #include "app/SetVerwijderen.h"
+#include "store/Paden.h"
 #include "store/SetPaden.h"
 #include "text/Getallen.h"
 #include "text/Letterlijk.h"
@@ -32,6 +35,8 @@ VerwijderSetForm::VerwijderSetForm(Hoofdmodule& hoofd, MenuWindow& menu)
 void VerwijderSetForm::BijLaden() {
   LaadSetPicklist(hoofd_, menu_, SetPicklist);
   DeleteNee.Zet(true);
+  // What a user removes he has pointed at himself.
+  if (menu_.VoorGebruiker()) SetPicklist.ZetIndex(-1);
 }
 
 void VerwijderSetForm::CancelButtonKlik() {
@@ -39,7 +44,29 @@ void VerwijderSetForm::CancelButtonKlik() {
   Sluit();
 }
 
+// Before anything changes. A script says what it wants.
+bool VerwijderSetForm::Bevestigd() {
+  if (!menu_.VoorGebruiker()) return true;
+  const std::string rij = SetPicklist.Tekst();
+  if (rij.empty()) {
+    hoofd_.gesprek.Waarschuw(kGeenSetGekozen);
+    return false;
+  }
+  const std::string naam = rij.substr(0, rij.find(','));
+  if (!DeleteJa.Gekozen() || !IsSetNaam(naam)) return true;
+  const std::string oms = hoofd_.Ini.BestandenSetOms(hoofd_.Ini.BestandenSetIndex(naam));
+  const SetPaden paden = SetPaden::Van(hoofd_.Ini.DataDir(), naam);
+  const auto personen = AantalPersonen(paden.prs, hoofd_.gesprek, hoofd_.schrijfwijze);
+  const std::string hoeveel =
+      personen ? AantalTekst(*personen, "persoon", "personen") : "een onbekend aantal personen";
+  return hoofd_.gesprek.VraagBedacht("Bestandenset " + naam +
+                                     (oms.empty() ? "" : " (" + oms + ")") + " met " + hoeveel +
+                                     " wordt vernietigd, met alle bestanden in\n" +
+                                     PadTekst(VindPad(paden.map)) + "\nVernietigen ?");
+}
+
 void VerwijderSetForm::OKButtonKlik() {
+  if (!Bevestigd()) return;
   KiesSet(hoofd_, SetPicklist.Tekst());
   const bool gekozen = hoofd_.SetActief();
   if (gekozen) {

@@ -25,6 +25,7 @@ class VerwijderSetForm final : public Formulier {
 
  private:
   void OKButtonKlik();
+  [[nodiscard]] bool Bevestigd();
   void CancelButtonKlik();
   void Verwijder();
   void VerwijderBestanden(const std::string& naam);

@@ -9,7 +9,7 @@
 #include "cli/Gebruik.h"
 #include "cli/Opdrachten.h"
 #include "store/PlatformUitvoer.h"
-#include "store/SysteemFout.h"
+#include "store/Uitzondering.h"
 #include "text/Unicode.h"
 
 namespace lb77 {
@@ -194,11 +194,9 @@ int Hoofd(int argc, char** argv) {
     return MeldGebruik(GebruiksFout(app, fout));
   } catch (const PadFout& fout) {
     return MeldGebruik(fout.tekst);
-  } catch (const std::filesystem::filesystem_error& fout) {
-    std::cerr << "lb77-cli: " << WindowsNaarUtf8(FoutVan(fout.code()).tekst) << '\n';
-    return 1;
   } catch (const std::exception& fout) {
-    std::cerr << "lb77-cli: " << fout.what() << '\n';
+    const std::string reden = WindowsNaarUtf8(UitzonderingTekst(fout));
+    std::cerr << "lb77-cli: onverwachte fout" << (reden.empty() ? "" : ": ") << reden << '\n';
     return 1;
   }
 }

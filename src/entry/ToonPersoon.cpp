@@ -58,6 +58,7 @@ void ToonPersoon::ToonWijzig() {
 }
 
 void ToonPersoon::ToonRecord() {
+  Hoofd().gezien.Zag(Nr());
   PersoonLB77& persoon = Hoofd().Persoon;
   const std::int16_t ouders = persoon.RelNrOuders();
   Geslacht.ZetTekst(persoon.Geslacht());

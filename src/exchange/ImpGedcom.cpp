@@ -6,6 +6,7 @@
 #include <memory>
 #include <optional>
 #include <system_error>
+#include <utility>
 
 #include "app/Hoofdmodule.h"
 #include "app/Ongedaan.h"
@@ -26,8 +27,6 @@ namespace lb77 {
 
 namespace {
 
-constexpr std::string_view kFilter =
-    "GEDCOM-bestanden (*.GED)|*.GED|Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt";
 constexpr std::string_view kVoltooid = "Importeren voltooid";
 
 // Moves at each write.
@@ -83,10 +82,13 @@ class ImpGedcom::Scherm final : public ImpMelder {
   bool nietMeer_ = false;
 };
 
-ImpGedcom::ImpGedcom(Hoofdmodule& hoofd)
-    : Formulier("ImpGedcom", "Importeer Gegevens - Gedcom"), hoofd_(hoofd) {
+ImpGedcom::ImpGedcom(Hoofdmodule& hoofd, std::filesystem::path bestand, ImpWijze wijze)
+    : Formulier("ImpGedcom", "Importeer Gegevens - Gedcom"),
+      hoofd_(hoofd),
+      begin_(std::move(bestand)),
+      wijze_(wijze) {
   ZetHulpOnderwerp("gedcom");
-  ZetEersteVeld(Bestandsnaam);
+  ZetEersteVeld(begin_.empty() ? static_cast<Bediening&>(Bestandsnaam) : OKButton);
   for (Vinkje* vinkje : vinkjes_) vinkje->ZetIngeschakeld(false);
   // One file is not read twice by one more click.
   Bestandsnaam.BijWijziging([this] { OKButton.ZetIngeschakeld(true); });
@@ -97,7 +99,12 @@ ImpGedcom::ImpGedcom(Hoofdmodule& hoofd)
 
 void ImpGedcom::BijLaden() {
   for (Label* label : labels_) label->ZetZichtbaar(false);
+  if (!begin_.empty()) Bestandsnaam.ZetPad(begin_);
   ToonDoel();
+}
+
+void ImpGedcom::BijActiveren() {
+  if (wijze_ == ImpWijze::Vanzelf) OKButtonKlik();
 }
 
 void ImpGedcom::ToonDoel() {
@@ -118,7 +125,7 @@ void ImpGedcom::ToonDoel() {
 
 void ImpGedcom::BrowseButtonKlik() {
   const auto pad = hoofd_.gesprek.VraagBestand(
-      {BestandsWijze::Openen, std::string(kFilter), hoofd_.Ini.TekstDir()});
+      {BestandsWijze::Openen, std::string(kGedcomFilter), hoofd_.Ini.TekstDir()});
   if (!pad) return;
   Bestandsnaam.ZetPad(*pad);
   OKButton.ZetIngeschakeld(true);
@@ -139,6 +146,7 @@ void ImpGedcom::OKButtonKlik() {
   WisStop();
   for (Label* label : labels_) label->ZetZichtbaar(false);
   if ((afloop.gestopt || afloop.afgebroken) && !afloop.systeem) return;
+  if (wijze_ == ImpWijze::Vanzelf && gelukt_ && !afloop.systeem) return Sluit();
   if (afloop.systeem) {
     MeldFout(afloop.systeem);
   } else {
@@ -187,6 +195,9 @@ ImpGedcom::Afloop ImpGedcom::Lees(const std::filesystem::path& bestand) {
   // Reading from the log would empty it before a line of it was read.
   if (IsZelfde(bestand, pad)) return {.systeem = FoutInGebruik()};
   if (!Past(lezer, personen, relaties)) return {.gestopt = true};
+  // A set from a DOS disk comes without it. What cannot be made shows itself at the log.
+  std::error_code code;
+  std::filesystem::create_directories(pad.parent_path(), code);
   GedLog log;
   if (SysteemFout fout = log.Open(pad)) return {.systeem = fout};
   Scherm scherm(*this, log, lezer);

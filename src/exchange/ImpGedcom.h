@@ -16,9 +16,18 @@ namespace lb77 {
 
 class Hoofdmodule;
 
+// The files that a question for a GEDCOM file offers.
+inline constexpr std::string_view kGedcomFilter =
+    "GEDCOM-bestanden (*.GED)|*.GED|Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt";
+
+// Whether the user starts the import, or it starts by itself, and leaves again when all went well.
+enum class ImpWijze { Gevraagd, Vanzelf };
+
 class ImpGedcom final : public Formulier {
  public:
-  explicit ImpGedcom(Hoofdmodule& hoofd);
+  // `bestand` is filled in, unless it is empty.
+  explicit ImpGedcom(Hoofdmodule& hoofd, std::filesystem::path bestand = {},
+                     ImpWijze wijze = ImpWijze::Gevraagd);
 
   Padvak Bestandsnaam{*this, "Bestandsnaam", "GEDCOM-bestand:"};
   Knop BrowseButton{*this, "BrowseButton", "&Browse"};
@@ -50,6 +59,7 @@ class ImpGedcom final : public Formulier {
 
  protected:
   void BijLaden() override;
+  void BijActiveren() override;
 
  private:
   class Scherm;
@@ -80,6 +90,8 @@ class ImpGedcom final : public Formulier {
   [[nodiscard]] std::filesystem::path LogPad() const;
 
   Hoofdmodule& hoofd_;
+  const std::filesystem::path begin_;
+  const ImpWijze wijze_;
   bool gelukt_ = false;
   bool opmerkingenVol_ = false;
   std::size_t gelezenPersonen_ = 0;

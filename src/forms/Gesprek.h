@@ -15,7 +15,8 @@ class Formulier;
 // The symbol of a message box: none, information, exclamation mark (warnings), question mark,
 // stop symbol (errors).
 enum class BerichtSoort { Geen, Info, Uitroep, Vraag, Stop };
-enum class Knoppen { OK, OKAnnuleren, JaNee, JaNeeAnnuleren };
+// NeeJa is JaNee with No for whoever only presses Enter.
+enum class Knoppen { OK, OKAnnuleren, JaNee, JaNeeAnnuleren, NeeJa };
 enum class Antwoord { OK, Annuleren, Ja, Nee };
 
 enum class BestandsWijze { Openen, Opslaan, Map };
@@ -85,6 +86,10 @@ class Gesprek {
   // Yes or No, with a question mark; True for Yes.
   [[nodiscard]] bool Vraag(std::string_view tekst) {
     return Bericht(BerichtSoort::Vraag, Knoppen::JaNee, tekst) == Antwoord::Ja;
+  }
+  // The same before something that cannot be undone: Enter is No.
+  [[nodiscard]] bool VraagBedacht(std::string_view tekst) {
+    return Bericht(BerichtSoort::Vraag, Knoppen::NeeJa, tekst) == Antwoord::Ja;
   }
 
  protected:

@@ -32,6 +32,7 @@ std::vector<Keuze> Keuzes(Knoppen knoppen) {
     case Knoppen::OKAnnuleren:
       return {kOK, kAnnuleren};
     case Knoppen::JaNee:
+    case Knoppen::NeeJa:
       return {kJa, kNee};
     case Knoppen::JaNeeAnnuleren:
       return {kJa, kNee, kAnnuleren};
@@ -94,7 +95,8 @@ Antwoord ToonBericht(QWidget* ouder, BerichtSoort soort, Knoppen knoppen, std::s
     knop->installEventFilter(&box);
     gemaakt.push_back(knop);
   }
-  box.setDefaultButton(static_cast<QPushButton*>(gemaakt.front()));
+  const bool bedacht = knoppen == Knoppen::NeeJa;
+  box.setDefaultButton(static_cast<QPushButton*>(bedacht ? gemaakt.back() : gemaakt.front()));
   box.setEscapeButton(gemaakt.back());
   box.exec();
   for (std::size_t i = 0; i < keuzes.size(); ++i) {

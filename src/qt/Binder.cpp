@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/Bestandsontvanger.h"
+#include "qt/Beginblad.h"
 #include "qt/Dialoog.h"
 #include "qt/Hoofdvenster.h"
 #include "qt/Indelingskeuze.h"
@@ -64,7 +66,7 @@ void Binder::MaakVenster(QWidget* ouder) {
     auto hoofd = std::make_unique<Hoofdvenster>(formulier_, houder, bezorger);
     hoofd_ = hoofd.get();
     venster_ = std::move(hoofd);
-    MaakElementen(*hoofd_->centralWidget());
+    MaakElementen(hoofd_->Inhoud());
   } else {
     venster_ = std::make_unique<Dialoog>(houder, ouder);
     auto* inhoud = new QWidget;
@@ -93,6 +95,8 @@ void Binder::MaakElementen(QWidget& inhoud) {
   Opmaker opmaker(formulier_, inhoud,
                   [this](const Bediening& een) -> Element& { return *elementen_.at(&een); });
   opmaker.Maak(IndelingVoor(formulier_), *kolom);
+  if (hoofd_) kolom->addStretch(1);
+  MaakBeginblad(inhoud);
   for (auto& [bediening, element] : elementen_) Luister(*element);
 }
 
@@ -225,6 +229,11 @@ void Binder::Bewerkt(Invoerveld& veld, const std::string& tekst, bool geweigerd)
 
 void Binder::SluitVenster() {
   if (!Geblokkeerd()) Verwerk([&] { formulier_.VraagSluiten(); });
+}
+
+void Binder::BestandGebracht(const std::filesystem::path& bestand) {
+  auto* const ontvanger = dynamic_cast<Bestandsontvanger*>(&formulier_);
+  if (ontvanger && !Geblokkeerd()) Verwerk([&] { ontvanger->Ontvang(bestand); });
 }
 
 void Binder::Verplaatst(QPoint plek) {

@@ -59,6 +59,7 @@ class Binder final : public QObject, private Bezorger, private Vensterhouder {
   void SluitVenster() override;
   void ToetsInVenster(const QKeyEvent& toets) override;
   void Verplaatst(QPoint plek) override;
+  void BestandGebracht(const std::filesystem::path& bestand) override;
 
   void MaakVenster(QWidget* ouder);
   void MaakElementen(QWidget& inhoud);

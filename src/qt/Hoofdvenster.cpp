@@ -2,12 +2,19 @@
 
 #include <QGuiApplication>
 #include <QKeySequence>
+#include <QList>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTimer>
+#include <QUrl>
 #include <algorithm>
+#include <filesystem>
 #include <string_view>
 
+#include "forms/Bestandsontvanger.h"
+#include "qt/Indelingskeuze.h"
 #include "qt/Vertaling.h"
 #include "qt/Voorblad.h"
 
@@ -53,6 +60,15 @@ bool InBeeld(QPoint plek) {
   });
 }
 
+// The one file that is dragged, when the form takes it; else empty.
+std::filesystem::path Gesleept(const Formulier& formulier, const QMimeData& inhoud) {
+  const auto* const ontvanger = dynamic_cast<const Bestandsontvanger*>(&formulier);
+  const QList<QUrl> plekken = inhoud.urls();
+  if (!ontvanger || plekken.size() != 1 || !plekken.front().isLocalFile()) return {};
+  std::filesystem::path pad = PadVanQt(plekken.front().toLocalFile());
+  return ontvanger->Neemt(pad) ? pad : std::filesystem::path();
+}
+
 }  // namespace
 
 bool HeeftMenu(const Formulier& formulier) {
@@ -66,10 +82,14 @@ Hoofdvenster::Hoofdvenster(Formulier& formulier, Vensterhouder& houder, Bezorger
       status_(new QLabel(this)) {
   MaakMenus(bezorger);
   setCentralWidget(voorblad_);
+  const auto& alle = formulier.Bedieningen();
+  voorblad_->ZetStil(
+      std::any_of(alle.begin(), alle.end(), [](const Bediening* een) { return InIndeling(*een); }));
   status_->setTextFormat(Qt::PlainText);
   status_->setContentsMargins(8, 3, 8, 3);
   statusBar()->addWidget(status_, 1);
   if (const Statusbalk* balk = ZoekStatus(formulier)) status_->setObjectName(NaarQt(balk->Naam()));
+  setAcceptDrops(true);
   resize(kBeginmaat);
   const auto& plek = formulier.Positie();
   if (plek && InBeeld({plek->x, plek->y})) move(plek->x, plek->y);
@@ -106,6 +126,10 @@ void Hoofdvenster::MaakKeuze(MenuKeuze& keuze, Bezorger& bezorger) {
   keuzes_.push_back({&keuze, actie});
 }
 
+QWidget& Hoofdvenster::Inhoud() const {
+  return voorblad_->Inhoud();
+}
+
 void Hoofdvenster::Bijwerken() {
   for (const Keuze& keuze : keuzes_) {
     keuze.actie->setText(NaarQt(keuze.bron->Bijschrift()));
@@ -140,6 +164,18 @@ void Hoofdvenster::moveEvent(QMoveEvent* plek) {
   // Full size and minimised are no places to come back to.
   const bool gewoon = !isMaximized() && !isMinimized() && !isFullScreen();
   if (isVisible() && gewoon) houder_.Verplaatst(pos());
+}
+
+void Hoofdvenster::dragEnterEvent(QDragEnterEvent* sleep) {
+  if (!Gesleept(formulier_, *sleep->mimeData()).empty()) sleep->acceptProposedAction();
+}
+
+// Behind the event: who dragged it waits for its end, and dialogs follow.
+void Hoofdvenster::dropEvent(QDropEvent* val) {
+  const std::filesystem::path pad = Gesleept(formulier_, *val->mimeData());
+  if (pad.empty()) return;
+  val->acceptProposedAction();
+  QTimer::singleShot(0, this, [this, pad] { houder_.BestandGebracht(pad); });
 }
 
 }  // namespace lb77

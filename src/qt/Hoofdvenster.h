@@ -3,6 +3,8 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMainWindow>
@@ -24,6 +26,8 @@ class Hoofdvenster final : public QMainWindow {
  public:
   Hoofdvenster(Formulier& formulier, Vensterhouder& houder, Bezorger& bezorger);
 
+  // Where the form's own controls lie, those that are no menu.
+  [[nodiscard]] QWidget& Inhoud() const;
   // Brings menus and status bar in line with the form.
   void Bijwerken();
   // The action or menu of an entry, null when the form has no entry of that name.
@@ -33,6 +37,8 @@ class Hoofdvenster final : public QMainWindow {
   void closeEvent(QCloseEvent* sluiten) override;
   void keyPressEvent(QKeyEvent* toets) override;
   void moveEvent(QMoveEvent* plek) override;
+  void dragEnterEvent(QDragEnterEvent* sleep) override;
+  void dropEvent(QDropEvent* val) override;
 
  private:
   struct Keuze {

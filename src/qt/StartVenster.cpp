@@ -6,9 +6,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "qt/QtGesprek.h"
 #include "qt/Stijl.h"
+#include "store/Uitzondering.h"
 #include "text/Letterlijk.h"
 
 namespace lb77 {
@@ -20,9 +22,16 @@ constexpr std::string_view kOnverwacht =
     "Er is een onverwachte fout opgetreden. Het programma wordt beëindigd."_w;
 
 // Without a conversation the failure lies before the first window.
-void Meld(std::optional<QtGesprek>& gesprek, const char* wat) {
+void Meld(std::optional<QtGesprek>& gesprek, const std::string& reden) {
   if (!gesprek) gesprek.emplace();
-  gesprek->Fout(std::string(kOnverwacht) + "\n(" + wat + ")");
+  gesprek->Fout(std::string(kOnverwacht) + (reden.empty() ? "" : "\n(" + reden + ")"));
+}
+
+std::vector<std::string> Woorden() {
+  std::vector<std::string> uit;
+  for (const QString& woord : QCoreApplication::arguments().mid(1))
+    uit.push_back(woord.toStdString());
+  return uit;
 }
 
 }  // namespace
@@ -35,9 +44,9 @@ int VoerMetVangnet(const Vensterprogramma& programma) {
     programma.voer(*gesprek, map);
     return 0;
   } catch (const std::exception& fout) {
-    Meld(gesprek, fout.what());
+    Meld(gesprek, UitzonderingTekst(fout));
   } catch (...) {
-    Meld(gesprek, "onbekende fout");
+    Meld(gesprek, {});
   }
   return 1;
 }
@@ -47,7 +56,8 @@ int StartVenster(int argc, char** argv, const Vensterprogramma& programma) {
   QApplication::setApplicationName(QStringLiteral("lb77"));
   QApplication::setQuitOnLastWindowClosed(false);  // the program ends when its main form has closed
   ZetStijl(toepassing);
-  return VoerMetVangnet(programma);
+  const std::optional<int> status = programma.aanroep ? programma.aanroep(Woorden()) : std::nullopt;
+  return status ? *status : VoerMetVangnet(programma);
 }
 
 }  // namespace lb77

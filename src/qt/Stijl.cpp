@@ -51,6 +51,9 @@ void ZetStijl(QApplication& programma) {
   letter.setPointSizeF(std::max(letter.pointSizeF(), kKleinsteLetter));
   QApplication::setFont(letter);
   MaakLeesbaar();
+  auto* toolkit = new QTranslator(&programma);
+  if (LaadNederlands(*toolkit)) QApplication::installTranslator(toolkit);
+  // The last one is asked first.
   auto* woorden = new Woorden(&programma);
   QApplication::installTranslator(woorden);
 }

@@ -3,6 +3,7 @@
 
 #include <QKeyEvent>
 #include <QPoint>
+#include <filesystem>
 
 namespace lb77 {
 
@@ -19,6 +20,8 @@ class Vensterhouder {
   // A key that no control has the focus for.
   virtual void ToetsInVenster(const QKeyEvent& toets) = 0;
   virtual void Verplaatst(QPoint plek) = 0;
+  // A file that was dropped on the window, which its form takes.
+  virtual void BestandGebracht(const std::filesystem::path& bestand) = 0;
 };
 
 }  // namespace lb77

@@ -1,5 +1,6 @@
 #include "qt/Voorblad.h"
 
+#include <QHBoxLayout>
 #include <QLinearGradient>
 #include <QPainter>
 #include <QPalette>
@@ -12,6 +13,10 @@ namespace lb77 {
 namespace {
 
 constexpr int kGeneraties = 5;
+constexpr int kMarge = 24;  // pixels
+// The controls take three parts of the width, the pedigree the rest.
+constexpr int kInhoud = 3;
+constexpr int kRest = 1;
 
 QColor Gemengd(const QColor& een, const QColor& ander, qreal deel) {
   return QColor::fromRgbF(static_cast<float>(een.redF() * (1 - deel) + ander.redF() * deel),
@@ -37,6 +42,13 @@ void TekenTak(QPainter& verf, const QRectF& vak, int diepte) {
 
 }  // namespace
 
+Voorblad::Voorblad(QWidget* ouder) : QWidget(ouder), inhoud_(new QWidget(this)) {
+  auto* rij = new QHBoxLayout(this);
+  rij->setContentsMargins(kMarge, kMarge, kMarge, kMarge);
+  rij->addWidget(inhoud_, kInhoud);
+  rij->addStretch(kRest);
+}
+
 void Voorblad::ZetTekst(const QString& titel, const QString& onderschrift) {
   if (titel == titel_ && onderschrift == onderschrift_) return;
   titel_ = titel;
@@ -56,10 +68,16 @@ void Voorblad::paintEvent(QPaintEvent*) {
   verloop.setColorAt(1, grond);
   verf.fillRect(rect(), verloop);
   verf.setPen(QPen(Gemengd(grond, inkt, 0.13), 2));
-  const QRectF boom =
-      QRectF(rect()).adjusted(width() * 0.55, height() * 0.06, -24, -height() * 0.06);
-  TekenTak(verf, boom, 0);
+  // Beside what is written, never behind it.
+  const qreal links = stil_ ? inhoud_->geometry().right() + kMarge : width() * 0.55;
+  const QRectF boom = QRectF(rect()).adjusted(links, height() * 0.06, -24, -height() * 0.06);
+  if (boom.width() > 0) TekenTak(verf, boom, 0);
+  if (!stil_) Schrijf(verf);
+}
 
+void Voorblad::Schrijf(QPainter& verf) {
+  const QColor grond = palette().color(QPalette::Window);
+  const QColor inkt = palette().color(QPalette::WindowText);
   QFont groot = Vet(font());
   groot.setPointSizeF(font().pointSizeF() * 2.1);
   verf.setFont(groot);

@@ -1,5 +1,6 @@
 #include "qt/Woorden.h"
 
+#include <QLibraryInfo>
 #include <array>
 #include <string_view>
 
@@ -68,6 +69,12 @@ constexpr std::array kWoorden = {
     Woord{"Print all", "Alles"},
     Woord{"Pages from", "Bladzijden van"},
     Woord{"to", "tot en met"},
+    Woord{"Drive", "Station"},
+    Woord{"Folder", "Map"},
+    Woord{"Double Sided Printing", "Dubbelzijdig afdrukken"},
+    Woord{"Off", "Uit"},
+    Woord{"Long side binding", "Over de lange zijde"},
+    Woord{"Short side binding", "Over de korte zijde"},
 };
 
 }  // namespace
@@ -77,6 +84,11 @@ QString Woorden::translate(const char*, const char* bron, const char*, int) cons
     if (woord.bron == bron) return QString::fromUtf8(woord.nederlands);
   }
   return {};
+}
+
+bool LaadNederlands(QTranslator& vertaler) {
+  return vertaler.load(QStringLiteral("qtbase_nl"),
+                       QLibraryInfo::path(QLibraryInfo::TranslationsPath));
 }
 
 }  // namespace lb77

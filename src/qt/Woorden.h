@@ -14,4 +14,7 @@ class Woorden final : public QTranslator {
   [[nodiscard]] bool isEmpty() const override { return false; }
 };
 
+// Loads the toolkit's own Dutch translation; False where it is not installed, and Woorden stands alone.
+[[nodiscard]] bool LaadNederlands(QTranslator& vertaler);
+
 }  // namespace lb77

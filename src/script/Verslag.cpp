@@ -66,6 +66,7 @@ std::vector<Antwoord> Keuzen(Knoppen knoppen) {
     case Knoppen::OKAnnuleren:
       return {Antwoord::OK, Antwoord::Annuleren};
     case Knoppen::JaNee:
+    case Knoppen::NeeJa:  // the last one is the one that does nothing
       return {Antwoord::Ja, Antwoord::Nee};
     case Knoppen::JaNeeAnnuleren:
       return {Antwoord::Ja, Antwoord::Nee, Antwoord::Annuleren};

@@ -51,6 +51,11 @@ bool IsAfwezig(const std::filesystem::path& pad) {
   return std::filesystem::symlink_status(pad, code).type() == std::filesystem::file_type::not_found;
 }
 
+bool IsGevuld(const std::filesystem::path& pad) {
+  std::error_code code;
+  return std::filesystem::is_regular_file(pad, code) && std::filesystem::file_size(pad, code) > 0;
+}
+
 }  // namespace
 
 std::string_view BestandNaam(BestandSoort soort) {
@@ -119,10 +124,14 @@ bool Bestandenset::NeemInGebruik() {
 
 std::optional<OpenFout> Bestandenset::Open(BestandSoort soort, const SetPaden& paden) {
   const std::filesystem::path& pad = PadVanSoort(paden, soort);
+  const bool afwezig = soort == BestandSoort::Plaatsen && IsAfwezig(VindPad(pad));
+  // An own file would be made empty here, and no number of the set would have its place any more.
+  if (afwezig && IsGevuld(VindPad(paden.centraal)) && !Open(soort, paden.centraal)) {
+    return std::nullopt;
+  }
   SysteemFout fout = Open(soort, pad);
   if (!fout) return std::nullopt;
-  const bool heeftCentraal = soort == BestandSoort::Plaatsen && IsAfwezig(VindPad(pad));
-  if (heeftCentraal && !Open(soort, paden.centraal)) return std::nullopt;
+  if (afwezig && !Open(soort, paden.centraal)) return std::nullopt;
   return OpenFout{soort, pad, std::move(fout)};
 }
 

@@ -72,8 +72,9 @@ class Bestandenset {
   // as this file is closed first, also when the opening fails.
   [[nodiscard]] SysteemFout Open(BestandSoort soort, const std::filesystem::path& pad);
 
-  // Opens one file of a set. When there are no places of its own and they can't be made, the central
-  // place file is tried; one that is there and does not open is a failure. Nothing on success.
+  // Opens one file of a set. When there are no places of its own the central place file stands in, if
+  // it holds any, or if they can't be made; own ones that are there and do not open are a failure.
+  // Nothing on success.
   [[nodiscard]] std::optional<OpenFout> Open(BestandSoort soort, const SetPaden& paden);
 
   // Closes all files and opens those of a set in order. The first failure ends it; the files

@@ -31,6 +31,19 @@ class ImpGedcomTest : public ImportToets {
 
 constexpr std::string_view kOpen = "+ ImpGedcom \"Importeer Gegevens - Gedcom\"\n";
 
+// As a set comes from a DOS disk.
+TEST_F(ImpGedcomTest, DeMapVanHetVerslagWordtGemaakt) {
+  std::filesystem::remove_all(TekstMap());
+  SchrijfBytes(Bestand(), Ged("0 @I1@ INDI\n1 NAME Jan /Jansen/"));
+  Speel(Vul() + "druk OKButton\ndruk BackButton\ndruk BackButton", std::string(kOpen) + R"~(
+      ! info "Importeren voltooid"
+      + ToonTekst "Importeren - Resultaat"
+      - ToonTekst
+      - ImpGedcom
+    )~");
+  EXPECT_TRUE(std::filesystem::exists(TekstMap() / "GEDCOM.LOG"));
+}
+
 TEST_F(ImpGedcomTest, OpentLeegEnZonderLabelVanWerk) {
   Speel("toon\ndruk BackButton", R"~(
       + ImpGedcom "Importeer Gegevens - Gedcom"

@@ -131,6 +131,8 @@ const std::map<std::string_view, std::string_view> kHulpOnderwerpen = {
     {"IniSysteem", "instellingen"},  {"Bevindingen", "controle"},
     {"ControlePrs", "controle"},     {"ControleRel", "controle"},
     {"ControlePlts", "controle"},    {"ControleOpm", "controle"},
+    {"Welkom", "starten"},           {"OudeSetForm", "oude-bestanden"},
+    {"InWelkeSet", "gedcom"},
 };
 
 TEST_P(ElkFormulier, NoemtZijnHulponderwerp) {

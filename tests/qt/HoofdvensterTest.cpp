@@ -1,18 +1,23 @@
 // The main window: menus, status bar, place on the screen.
 #include <gmock/gmock.h>
 
+#include <QDragEnterEvent>
+#include <QDropEvent>
 #include <QLabel>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QStatusBar>
 #include <QTest>
+#include <QUrl>
 
 #include "Vensterproef.h"
+#include "forms/Bestandsontvanger.h"
 #include "qt/Hoofdvenster.h"
 
 namespace lb77 {
 namespace {
 
-class Menuvorm final : public Formulier {
+class Menuvorm : public Formulier {
  public:
   Menuvorm() : Formulier("MenuWindow", "LB77 voor Windows") {
     Open.BijKlik([this] { log.emplace_back("open"); });
@@ -149,6 +154,48 @@ TEST_F(HoofdvensterTest, HetKaderVraagtHetHetFormulier) {
          Bovenste().close();
        }});
   EXPECT_TRUE(vorm.Gesloten());
+}
+
+// A form that takes what ends in ".ged".
+class Ontvanger final : public Menuvorm, public Bestandsontvanger {
+ public:
+  [[nodiscard]] bool Neemt(const std::filesystem::path& bestand) const override {
+    return bestand.extension() == ".ged";
+  }
+  void Ontvang(const std::filesystem::path& bestand) override { gebracht.push_back(bestand); }
+  std::vector<std::filesystem::path> gebracht;
+};
+
+// Drags these files over the window and lets go; True when the window wanted them.
+bool Sleep(QWidget& venster, const QList<QUrl>& plekken) {
+  QMimeData inhoud;
+  inhoud.setUrls(plekken);
+  QDragEnterEvent erop(QPoint(9, 9), Qt::CopyAction, &inhoud, Qt::LeftButton, Qt::NoModifier);
+  erop.ignore();
+  QApplication::sendEvent(&venster, &erop);
+  QDropEvent los(QPointF(9, 9), Qt::CopyAction, &inhoud, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&venster, &los);
+  return erop.isAccepted();
+}
+
+TEST_F(HoofdvensterTest, EenBestandDatErOpValtGaatNaarHetFormulier) {
+  Ontvanger ontvanger;
+  const QUrl ged = QUrl::fromLocalFile("/elders/oma.ged");
+  Voer(ontvanger, {[&] {
+                     EXPECT_TRUE(Sleep(Hoofd(), {ged}));
+                     EXPECT_FALSE(Sleep(Hoofd(), {QUrl::fromLocalFile("/elders/oma.txt")}));
+                     EXPECT_FALSE(Sleep(Hoofd(), {ged, ged}));
+                     EXPECT_FALSE(Sleep(Hoofd(), {QUrl("https://elders/oma.ged")}));
+                   },
+                   [&] { QTest::qWait(5); }, [&] { Actie("KeuzeAfsluiten").trigger(); }});
+  EXPECT_THAT(ontvanger.gebracht, testing::ElementsAre("/elders/oma.ged"));
+}
+
+TEST_F(HoofdvensterTest, EenFormulierDatGeenBestandenNeemtKrijgtZeNiet) {
+  Voer(vorm, {[&] {
+         EXPECT_FALSE(Sleep(Hoofd(), {QUrl::fromLocalFile("/elders/oma.ged")}));
+         Actie("KeuzeAfsluiten").trigger();
+       }});
 }
 
 TEST_F(HoofdvensterTest, EenSneltoetsOpentEenMenu) {

@@ -50,6 +50,7 @@ TEST_F(QtGesprekTest, EenMeldingMetEenKnopAntwoordtOK) {
 TEST_F(QtGesprekTest, EenKeuzeGeeftDeGedrukteKnop) {
   EXPECT_EQ(Vraag(Knoppen::JaNee, "Ja"), lb77::Antwoord::Ja);
   EXPECT_EQ(Vraag(Knoppen::JaNee, "Nee"), lb77::Antwoord::Nee);
+  EXPECT_EQ(Vraag(Knoppen::NeeJa, "Ja"), lb77::Antwoord::Ja);
   EXPECT_EQ(Vraag(Knoppen::OKAnnuleren, "OK"), lb77::Antwoord::OK);
   EXPECT_EQ(Vraag(Knoppen::OKAnnuleren, "Annuleren"), lb77::Antwoord::Annuleren);
   EXPECT_EQ(Vraag(Knoppen::JaNeeAnnuleren, "Nee"), lb77::Antwoord::Nee);
@@ -59,6 +60,7 @@ TEST_F(QtGesprekTest, EenKeuzeGeeftDeGedrukteKnop) {
 TEST_F(QtGesprekTest, EenMeldingSluitenIsAnnulerenOfNee) {
   EXPECT_EQ(SluitBox(BerichtSoort::Info, Knoppen::OK), lb77::Antwoord::OK);
   EXPECT_EQ(SluitBox(BerichtSoort::Vraag, Knoppen::JaNee), lb77::Antwoord::Nee);
+  EXPECT_EQ(SluitBox(BerichtSoort::Vraag, Knoppen::NeeJa), lb77::Antwoord::Nee);
   EXPECT_EQ(SluitBox(BerichtSoort::Vraag, Knoppen::OKAnnuleren), lb77::Antwoord::Annuleren);
   EXPECT_EQ(SluitBox(BerichtSoort::Vraag, Knoppen::JaNeeAnnuleren), lb77::Antwoord::Annuleren);
 }
@@ -96,6 +98,17 @@ TEST_F(QtGesprekTest, EenMeldingMetEenVinkjeZegtOfHetAanStond) {
     box.checkBox()->setChecked(true);
   };
   EXPECT_TRUE(gesprek.BerichtMetVinkje("melding", "Niet meer tonen"));
+}
+
+TEST_F(QtGesprekTest, VoorWatNietTerugKanIsEnterNee) {
+  for (const auto& [knoppen, tekst] :
+       {std::pair{Knoppen::JaNee, "&Ja"}, std::pair{Knoppen::NeeJa, "&Nee"}}) {
+    bijBox = [tekst = QString::fromLatin1(tekst)](QMessageBox& box) {
+      EXPECT_EQ(box.defaultButton()->text(), tekst);
+      EXPECT_EQ(box.escapeButton()->text(), QString("&Nee"));
+    };
+    static_cast<void>(gesprek.Bericht(BerichtSoort::Vraag, knoppen, "?"));
+  }
 }
 
 TEST_F(QtGesprekTest, EenFormulierDatBijHetLadenSluitIsNooitTeZien) {

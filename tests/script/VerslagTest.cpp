@@ -27,6 +27,7 @@ TEST(Verslag, NoemtKnoppenVanLinksNaarRechts) {
   EXPECT_EQ(Woorden(Knoppen::OKAnnuleren), "OK/Annuleren");
   EXPECT_EQ(Woorden(Knoppen::JaNee), "Ja/Nee");
   EXPECT_EQ(Woorden(Knoppen::JaNeeAnnuleren), "Ja/Nee/Annuleren");
+  EXPECT_EQ(Woorden(Knoppen::NeeJa), "Ja/Nee");
 }
 
 TEST(Verslag, KentElkAntwoordBijZijnWoord) {

@@ -77,6 +77,20 @@ TEST_F(BestandensetTest, HetCentralePlaatsbestandStaatInVoorEenEigenDatErNietIs)
   EXPECT_EQ(bestanden.Bestand(BestandSoort::Plaatsen).Lengte(), 8U);
 }
 
+// A set as it came from a DOS disk: its own file would be made empty.
+TEST_F(BestandensetTest, ZonderEigenPlaatsenWordtHetCentraleBestandGeopendEnGeenEigenGemaakt) {
+  SchrijfBytes(map / "plaats.plt", "centraal");
+  EXPECT_FALSE(bestanden.OpenSet(paden));
+  EXPECT_EQ(bestanden.Bestand(BestandSoort::Plaatsen).Lengte(), 8U);
+  EXPECT_FALSE(std::filesystem::exists(paden.plt));
+}
+
+TEST_F(BestandensetTest, EenLeegCentraalBestandStaatNergensVoorIn) {
+  SchrijfBytes(paden.centraal, "");
+  EXPECT_FALSE(bestanden.OpenSet(paden));
+  EXPECT_TRUE(std::filesystem::exists(paden.plt));
+}
+
 TEST_F(BestandensetTest, EenEigenPlaatsbestandDatNietOpenGaatIsEenFout) {
   std::filesystem::create_directory(paden.plt);
   SchrijfBytes(paden.centraal, "centraal");

@@ -1,5 +1,6 @@
 // The file sets, the settings and the program itself.
 #include "app/Geschiedenis.h"
+#include "app/InWelkeSet.h"
 #include "app/IniFunctie.h"
 #include "app/IniGebruiker.h"
 #include "app/IniGezindte.h"
@@ -10,14 +11,20 @@
 #include "app/KopieTerugzetten.h"
 #include "app/NieuweSet.h"
 #include "app/OpenSetForm.h"
+#include "app/OudeSetForm.h"
 #include "app/OverLB77Form.h"
 #include "app/VerwijderSetForm.h"
+#include "app/Welkom.h"
 #include "program/formulieren/Gebieden.h"
 
 namespace lb77::formulieren {
 namespace {
 
 constexpr FormulierRij kRijen[] = {
+    {"Welkom", [](Programma& p) { return Maak<Welkom>(p.Hoofd()); }},
+    {"OudeSetForm", [](Programma& p) { return Maak<OudeSetForm>(p.Hoofd(), p.Menu()); }},
+    {"InWelkeSet",
+     [](Programma& p) { return Maak<InWelkeSet>(p.Hoofd(), p.Menu(), "oranje-nassau.ged"); }},
     {"NieuweSet", [](Programma& p) { return Maak<NieuweSet>(p.Hoofd(), p.Menu()); }},
     {"OpenSetForm", [](Programma& p) { return Maak<OpenSetForm>(p.Hoofd(), p.Menu()); }},
     {"VerwijderSetForm", [](Programma& p) { return Maak<VerwijderSetForm>(p.Hoofd(), p.Menu()); }},

@@ -5,6 +5,44 @@ namespace lb77::indeling {
 
 std::vector<Indeling> Sets() {
   return {
+      {"Welkom",
+       Kolom({
+           "WelkomKop",
+           "WelkomUitleg",
+           Rooster({Rij({"NieuweFamilie", "NieuweUitleg"}), Rij({"GedcomInlezen", "GedcomUitleg"}),
+                    Rij({"OudeBestanden", "OudeUitleg"}),
+                    Rij({"Voorbeeldfamilie", "VoorbeeldUitleg"})}),
+           "WaarLabel",
+           Knoppen({"BackButton"}),
+       })},
+      {"MenuWindow",
+       Kolom({
+           "StartKop",
+           "StartTelling",
+           "StartWijziging",
+           "StartUitleg",
+           Rooster({Rij({"NieuweFamilie", "NieuweUitleg"}), Rij({"GedcomInlezen", "GedcomUitleg"}),
+                    Rij({"OudeBestanden", "OudeUitleg"}),
+                    Rij({"Voorbeeldfamilie", "VoorbeeldUitleg"})}),
+           Rij({"OpenButton"}),
+           Rij({"ZoekButton", "InvoerButton", "KwstButton", "KopieButton"}),
+           "GezienLijst",
+       })},
+      {"OudeSetForm", Kolom({
+                          "MapUitleg",
+                          Velden({Rij({"OudeMap", "BrowseOudeMap"}), "GevondenLijst"}),
+                          Groep("Bestanden", {Velden({"Kopieren", "TerPlaatse"})}),
+                          Velden({"SetNaam", "SetOmsch"}),
+                          Knoppen({"OKButton", "BackButton"}),
+                      })},
+      {"InWelkeSet", Kolom({
+                         "BestandLabel",
+                         "NieuweOptie",
+                         Velden({"SetNaam", "SetOmsch"}),
+                         "BestaandeOptie",
+                         "SetPicklist",
+                         Knoppen({"OKButton", "BackButton"}),
+                     })},
       {"NieuweSet", Kolom({
                         Velden({"SetNaam", "SetOmsch"}),
                         Knoppen({"OKButton", "BackButton"}),

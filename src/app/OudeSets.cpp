@@ -1,0 +1,199 @@
+#include "app/OudeSets.h"
+
+#include <algorithm>
+#include <string_view>
+#include <system_error>
+#include <utility>
+
+#include "app/Bestandensets.h"
+#include "app/KopieBestanden.h"
+#include "app/SetMaken.h"
+#include "store/Paden.h"
+#include "store/Platform.h"
+#include "text/Getallen.h"
+#include "text/Pad.h"
+#include "text/Tekens.h"
+
+namespace lb77 {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kCentraal = "PLAATS.PLT";
+// What a set has beside its files.
+constexpr const char* kMappen[] = {"TEKST", "INDEX", "JOURNAAL"};
+
+constexpr std::string_view Uitgang(BestandSoort soort) {
+  switch (soort) {
+    case BestandSoort::Personen:
+      return ".PRS";
+    case BestandSoort::Relaties:
+      return ".RLT";
+    case BestandSoort::Opmerkingen:
+      return ".OPM";
+    case BestandSoort::Plaatsen:
+      break;
+  }
+  return ".PLT";
+}
+
+bool IsBestand(const fs::path& pad) {
+  std::error_code code;
+  return fs::is_regular_file(pad, code);
+}
+
+// The ordinary file of that name, in any case; empty when there is none.
+fs::path Gevonden(const fs::path& gevraagd) {
+  const fs::path pad = VindPad(gevraagd);
+  return IsBestand(pad) ? pad : fs::path();
+}
+
+fs::path CentraalBij(const fs::path& map) {
+  const fs::path hier = Gevonden(map / kCentraal);
+  return hier.empty() ? Gevonden(map.parent_path() / kCentraal) : hier;
+}
+
+OudeSet SetVan(const fs::path& prs) {
+  OudeSet set;
+  set.naam = Hoofdletters(PadTekst(prs.stem()));
+  set.map = prs.parent_path();
+  for (const BestandSoort soort : kBestandSoorten) {
+    fs::path naam = prs.stem();
+    naam += Uitgang(soort);
+    set.pad.at(IndexVan(soort)) = Gevonden(set.map / naam);
+  }
+  set.pad.at(IndexVan(BestandSoort::Personen)) = prs;
+  if (set.Pad(BestandSoort::Plaatsen).empty()) set.centraal = CentraalBij(set.map);
+  return set;
+}
+
+bool IsPersonen(const fs::path& pad) {
+  const std::string stam = PadTekst(pad.stem());
+  return Hoofdletters(PadTekst(pad.extension())) == Uitgang(BestandSoort::Personen) &&
+         stam.size() <= kMaxSetNaam && IsSetNaam(stam) && IsBestand(pad);
+}
+
+// What lies in a directory; what cannot be read has nothing.
+std::vector<fs::path> Inhoud(const fs::path& map) {
+  std::vector<fs::path> uit;
+  std::error_code code;
+  for (fs::directory_iterator i(map, code), einde; !code && i != einde; i.increment(code)) {
+    uit.push_back(i->path());
+  }
+  return uit;
+}
+
+void Verzamel(const fs::path& map, std::vector<OudeSet>& uit) {
+  for (const fs::path& pad : Inhoud(map)) {
+    if (IsPersonen(pad)) uit.push_back(SetVan(pad));
+  }
+}
+
+// A name that nobody has, for the directory while it is made.
+fs::path InWording(const fs::path& doel) {
+  for (int i = 1;; ++i) {
+    fs::path pad = doel;
+    pad += ".NEW" + GetalTekst(i);
+    std::error_code code;
+    if (!fs::exists(fs::symlink_status(pad, code))) return pad;
+  }
+}
+
+// The bytes as they lie there now: somebody may be writing to them.
+SysteemFout Kopieer(const fs::path& bron, const fs::path& doel) {
+  if (bron.empty()) return {};
+  if (SysteemFout fout = KopieerBestand(bron, doel)) return fout;
+  return ZelfdeBytes(bron, doel) ? SysteemFout{} : FoutInGebruik();
+}
+
+// The places of the set are its own from here on.
+const fs::path& BronVan(const OudeSet& set, BestandSoort soort) {
+  return soort == BestandSoort::Plaatsen && !set.centraal.empty() ? set.centraal : set.Pad(soort);
+}
+
+SysteemFout KopieerIn(const OudeSet& set, const SetPaden& doel, const fs::path& map) {
+  std::error_code code;
+  fs::create_directories(map, code);
+  if (code) return FoutVan(code);
+  for (const BestandSoort soort : kBestandSoorten) {
+    const fs::path naam = PadVanSoort(doel, soort).filename();
+    if (SysteemFout fout = Kopieer(BronVan(set, soort), map / naam)) return fout;
+  }
+  for (const char* naam : kMappen) {
+    if (SysteemFout fout = KopieerMap(VindPad(set.map / naam), map / naam)) return fout;
+  }
+  return MapVeiligstellen(map);
+}
+
+SysteemFout Bestaat() {
+  return FoutVan(std::make_error_code(std::errc::file_exists));
+}
+
+bool IsVrij(const fs::path& map) {
+  std::error_code code;
+  return fs::symlink_status(VindPad(map), code).type() == fs::file_type::not_found;
+}
+
+SysteemFout MaakOuder(const fs::path& map) {
+  std::error_code code;
+  fs::create_directories(VindPad(map.parent_path()), code);
+  return FoutVan(code);
+}
+
+}  // namespace
+
+std::vector<OudeSet> ZoekOudeSets(const fs::path& map) {
+  std::vector<OudeSet> uit;
+  Verzamel(map, uit);
+  for (const fs::path& pad : Inhoud(map)) {
+    std::error_code code;
+    if (fs::is_directory(fs::symlink_status(pad, code))) Verzamel(pad, uit);
+  }
+  std::ranges::sort(uit, {}, [](const OudeSet& set) { return std::pair(set.naam, set.map); });
+  return uit;
+}
+
+std::string Ontbrekend(const OudeSet& set) {
+  std::string uit;
+  for (const BestandSoort soort : kBestandSoorten) {
+    if (!BronVan(set, soort).empty()) continue;
+    uit.append(uit.empty() ? "" : ", ").append(BestandNaam(soort));
+  }
+  return uit;
+}
+
+SysteemFout KopieerOudeSet(const OudeSet& set, const SetPaden& doel) {
+  if (!IsVrij(doel.map)) return Bestaat();
+  if (SysteemFout fout = MaakOuder(doel.map)) return fout;
+  const fs::path map = VindPad(doel.map);
+  const fs::path wording = InWording(map);
+  std::error_code code;
+  SysteemFout fout = KopieerIn(set, doel, wording);
+  if (!fout) {
+    fs::rename(wording, map, code);
+    fout = FoutVan(code);
+  }
+  if (!fout) return MapVeiligstellen(map.parent_path());
+  fs::remove_all(wording, code);  // all of it was made just now
+  return fout;
+}
+
+SysteemFout KoppelOudeSet(const OudeSet& set, const SetPaden& doel) {
+  std::error_code code;
+  const bool staatEr = fs::equivalent(set.map, VindPad(doel.map), code);
+  if (!staatEr && !IsVrij(doel.map)) return Bestaat();
+  if (SysteemFout fout = MaakOuder(doel.map)) return fout;
+  fs::path plaatsen = set.Pad(BestandSoort::Personen);
+  plaatsen.replace_extension(Uitgang(BestandSoort::Plaatsen));
+  if (!set.centraal.empty()) {
+    if (SysteemFout fout = Kopieer(set.centraal, plaatsen)) return fout;
+  }
+  if (staatEr) return {};
+  fs::create_directory_symlink(fs::absolute(set.map), VindPad(doel.map), code);
+  SysteemFout fout = FoutVan(code);
+  if (fout && !set.centraal.empty()) fs::remove(plaatsen, code);  // it was made just now
+  return fout;
+}
+
+}  // namespace lb77

@@ -1,0 +1,48 @@
+#include "app/Welkom.h"
+
+#include <system_error>
+
+#include "app/IniBestand.h"
+#include "store/Paden.h"
+#include "text/Letterlijk.h"
+#include "text/Pad.h"
+
+namespace lb77 {
+
+// A link that leads nowhere, or a file that nobody may read, is told of by the start-up.
+bool IsEersteKeer(const std::filesystem::path& programmaMap) {
+  std::error_code code;
+  const std::filesystem::path ini = VindPad(programmaMap / kIniBestand);
+  const bool weg =
+      std::filesystem::symlink_status(ini, code).type() == std::filesystem::file_type::not_found;
+  return weg && !HeeftInstellingen(programmaMap);
+}
+
+Welkom::Welkom(Hoofdmodule& hoofd) : Formulier("Welkom", "LB77 voor Windows"), hoofd_(hoofd) {
+  ZetHulpOnderwerp("starten");
+  ZetEersteVeld(Wegen.NieuweFamilie);
+  WelkomUitleg.ZetBijschrift(
+      "LB77 houdt de gegevens van uw familie bij en schrijft er de verslagen van die genealogen "
+      "gebruiken. Kies hoe u wilt beginnen; alles wat u kiest kunt u later ook nog doen.");
+  Wegen.BijKeuze([this](Weg weg) { WegenKlik(weg); });
+  BackButton.BijKlik([this] { Sluit(); });
+}
+
+void Welkom::BijLaden() {
+  WaarLabel.ZetBijschrift("Uw gegevens komen te staan in de map\n" +
+                          PadTekst(hoofd_.Ini.DataDir()) +
+                          "\nen gaan nergens anders heen. Een andere map kiest u later onder "
+                          "Bestand, Instellingen, Systeem.");
+}
+
+// What cannot be written has been told; then there is still everything to choose.
+void Welkom::WegenKlik(Weg weg) {
+  std::error_code code;
+  std::filesystem::create_directories(hoofd_.programmaMap, code);
+  hoofd_.Ini.IniNieuw();
+  const bool gemaakt = HeeftInstellingen(hoofd_.programmaMap);
+  if (gemaakt) gekozen_ = weg;
+  if (gemaakt || hoofd_.Ini.EindeGevraagd()) Sluit();
+}
+
+}  // namespace lb77

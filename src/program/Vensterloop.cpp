@@ -1,0 +1,59 @@
+#include "program/Vensterloop.h"
+
+#include "app/SetOpenen.h"
+#include "app/Welkom.h"
+#include "entry/StartRecord.h"
+#include "entry/ToonPersoon.h"
+#include "entry/ZoekPersoon.h"
+#include "program/Programma.h"
+#include "program/Wegen.h"
+
+namespace lb77 {
+
+namespace {
+
+void ToonKaart(Hoofdmodule& hoofd, std::int32_t nr) {
+  const auto persoon = NaarInt16(nr);
+  if (persoon && *persoon > 0) LoopKaarten(hoofd.gesprek, ToonPersoonVraag(hoofd, *persoon));
+}
+
+void HangStartbladOp(Programma& programma, Wegen& wegen) {
+  MenuWindow& menu = programma.Menu();
+  Hoofdmodule& hoofd = programma.Hoofd();
+  Startblad& blad = menu.MaakStartblad();
+  blad.Wegen.BijKeuze([&menu, &wegen](Weg weg) { menu.Doe([&wegen, weg] { wegen.Ga(weg); }); });
+  blad.BijPersoon(
+      [&menu, &hoofd](std::int16_t nr) { menu.Doe([&hoofd, nr] { ToonKaart(hoofd, nr); }); });
+  menu.Hang("ZoekButton", [&hoofd] { ToonKaart(hoofd, VraagZoekPersoon(hoofd)); });
+  for (const auto& [knop, keuze] : {std::pair{"InvoerButton", "InvPersRel"},
+                                    {"KwstButton", "TekstKwst"},
+                                    {"KopieButton", "VeiligKopie"},
+                                    {"OpenButton", "OpenSet"}}) {
+    menu.Hang(knop, [&menu, keuze = keuze] { menu.Klik(*menu.Zoek(keuze)); });
+  }
+  menu.BijBestand([&wegen](const std::filesystem::path& bestand) { wegen.LeesGedcom(bestand); });
+}
+
+}  // namespace
+
+void VoerVoorGebruiker(Gesprek& gesprek, const Klok& klok, const Opstart& opstart) {
+  Programma programma(gesprek, klok, opstart.programmaMap);
+  Wegen wegen(programma.Hoofd(), programma.Menu(), opstart.installatie);
+  HangStartbladOp(programma, wegen);
+  std::optional<Weg> eerst;
+  if (IsEersteKeer(opstart.programmaMap)) {
+    Welkom welkom(programma.Hoofd());
+    gesprek.ToonModaal(welkom);
+    eerst = welkom.Gekozen();
+    if (!eerst) return;
+  }
+  if (!programma.Start()) return;
+  programma.Menu().BijBegin([&wegen, &opstart, eerst] {
+    const bool meegegeven = opstart.bestand.has_value();
+    if (eerst && !(meegegeven && eerst == Weg::Gedcom)) wegen.Ga(*eerst);
+    if (meegegeven) wegen.LeesGedcom(*opstart.bestand);
+  });
+  programma.Voer();
+}
+
+}  // namespace lb77
