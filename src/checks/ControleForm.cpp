@@ -49,7 +49,7 @@ ControleKeuzen ControleForm::Keuzen() const {
 }
 
 void ControleForm::Werk() {
-  ControleBron bron(Hoofd().MaakOpslag());
+  RecordBron bron(Hoofd().MaakOpslag());
   const std::filesystem::path pad = Hoofd().Ini.TempDir() / soort_.bestand;
   const auto regels = soort_.maak(bron, Keuzen());
   std::int16_t laatste = 0;

@@ -7,9 +7,9 @@
 #include <vector>
 
 #include "checks/Bereik.h"
-#include "checks/ControleBron.h"
 #include "checks/Controleur.h"
 #include "checks/OpmSchakels.h"
+#include "reporting/RecordBron.h"
 #include "store/Gegevens.h"
 
 namespace lb77 {
@@ -18,7 +18,7 @@ namespace lb77 {
 // owner. All chains are read once, in the order of the file, however they are damaged.
 class ControleOpmRegels final : public Controleur {
  public:
-  explicit ControleOpmRegels(ControleBron& bron) : gegevens_(bron.Stil()), luid_(bron.Luid()) {}
+  explicit ControleOpmRegels(RecordBron& bron) : gegevens_(bron.Stil()), luid_(bron.Luid()) {}
 
   [[nodiscard]] std::int16_t Laatste() override {
     return bereik_.Tot(luid_.opmerking, gegevens_.opmerking);

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "checks/Bereik.h"
-#include "checks/ControleBron.h"
 #include "checks/Controleur.h"
+#include "reporting/RecordBron.h"
 #include "store/Gegevens.h"
 
 namespace lb77 {
@@ -19,7 +19,7 @@ namespace lb77 {
 class ControlePltsRegels final : public Controleur {
  public:
   // `keuzen`: double places, places without use.
-  ControlePltsRegels(ControleBron& bron, const ControleKeuzen& keuzen)
+  ControlePltsRegels(RecordBron& bron, const ControleKeuzen& keuzen)
       : gegevens_(bron.Stil()), luid_(bron.Luid()), keuzen_(keuzen) {}
 
   [[nodiscard]] std::int16_t Laatste() override {

@@ -5,8 +5,8 @@
 #include <string>
 
 #include "checks/Bereik.h"
-#include "checks/ControleBron.h"
 #include "checks/Controleur.h"
+#include "reporting/RecordBron.h"
 #include "store/Gegevens.h"
 
 namespace lb77 {
@@ -15,7 +15,7 @@ namespace lb77 {
 class ControlePrsRegels final : public Controleur {
  public:
   // `keuzen`: parents, order of dates, age, age of the parents, relations.
-  ControlePrsRegels(ControleBron& bron, const ControleKeuzen& keuzen)
+  ControlePrsRegels(RecordBron& bron, const ControleKeuzen& keuzen)
       : gegevens_(bron.Stil()), luid_(bron.Luid()), keuzen_(keuzen) {}
 
   [[nodiscard]] std::int16_t Laatste() override {

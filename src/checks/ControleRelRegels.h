@@ -4,8 +4,8 @@
 #include <cstdint>
 
 #include "checks/Bereik.h"
-#include "checks/ControleBron.h"
 #include "checks/Controleur.h"
+#include "reporting/RecordBron.h"
 #include "store/Gegevens.h"
 
 namespace lb77 {
@@ -15,7 +15,7 @@ class ControleRelRegels final : public Controleur {
  public:
   // `keuzen`: partners (which nothing looks at), order of dates, difference of the partners' ages,
   // ages of the partners, children.
-  ControleRelRegels(ControleBron& bron, const ControleKeuzen& keuzen)
+  ControleRelRegels(RecordBron& bron, const ControleKeuzen& keuzen)
       : gegevens_(bron.Stil()), luid_(bron.Luid()), keuzen_(keuzen) {}
 
   [[nodiscard]] std::int16_t Laatste() override {

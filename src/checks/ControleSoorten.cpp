@@ -34,11 +34,11 @@ constexpr ControleOptie kOptiesPlts[] = {
 };
 
 template <class Regels>
-std::unique_ptr<Controleur> Maak(ControleBron& bron, const ControleKeuzen& keuzen) {
+std::unique_ptr<Controleur> Maak(RecordBron& bron, const ControleKeuzen& keuzen) {
   return std::make_unique<Regels>(bron, keuzen);
 }
 
-std::unique_ptr<Controleur> MaakOpm(ControleBron& bron, const ControleKeuzen&) {
+std::unique_ptr<Controleur> MaakOpm(RecordBron& bron, const ControleKeuzen&) {
   return std::make_unique<ControleOpmRegels>(bron);
 }
 

@@ -5,8 +5,8 @@
 #include <span>
 #include <string_view>
 
-#include "checks/ControleBron.h"
 #include "checks/Controleur.h"
+#include "reporting/RecordBron.h"
 
 namespace lb77 {
 
@@ -26,7 +26,7 @@ struct ControleSoort {
   std::string_view telling;
   std::string_view geenRecords;
   std::span<const ControleOptie> opties;
-  std::unique_ptr<Controleur> (*maak)(ControleBron&, const ControleKeuzen&);
+  std::unique_ptr<Controleur> (*maak)(RecordBron&, const ControleKeuzen&);
 };
 
 extern const ControleSoort kControlePrs;

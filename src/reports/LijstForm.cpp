@@ -25,7 +25,7 @@ void LijstForm::Werk() {
     ZetFocus(*eerste_);
     return;
   }
-  LijstBron bron(Hoofd().MaakOpslag());
+  RecordBron bron(Hoofd().MaakOpslag());
   const Verloop verloop{[this] { return Afbreken(); },
                         [this](int, int aantal) {
                           if (teller_) teller_->ZetTekst(GetalTekst(aantal));

@@ -5,8 +5,8 @@
 
 #include "forms/Keuzen.h"
 #include "forms/Weergave.h"
+#include "reporting/RecordBron.h"
 #include "reporting/WerkFormulier.h"
-#include "reports/LijstBron.h"
 #include "reports/LijstSoorten.h"
 
 namespace lb77 {
@@ -26,8 +26,8 @@ class LijstForm : public WerkFormulier {
   // Is there enough to begin with? Otherwise the message of the soort follows.
   [[nodiscard]] virtual bool IsGenoeg() = 0;
   // What else must hold; a False has been told.
-  [[nodiscard]] virtual bool BereidVoor(LijstBron&, const Verloop&) { return true; }
-  [[nodiscard]] virtual Uitslag Schrijf(LijstBron& bron, TekstSchrijver& uit,
+  [[nodiscard]] virtual bool BereidVoor(RecordBron&, const Verloop&) { return true; }
+  [[nodiscard]] virtual Uitslag Schrijf(RecordBron& bron, TekstSchrijver& uit,
                                         const Verloop& verloop) = 0;
 
  private:

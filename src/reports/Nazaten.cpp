@@ -4,7 +4,7 @@
 #include <iterator>
 #include <limits>
 
-#include "reports/RecordGang.h"
+#include "reporting/RecordGang.h"
 #include "text/Getallen.h"
 
 namespace lb77 {

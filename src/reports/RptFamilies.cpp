@@ -25,7 +25,7 @@ bool RptFamilies::IsGenoeg() {
   return Minimum() >= kMinste && Minimum() <= kMeeste;
 }
 
-Uitslag RptFamilies::Schrijf(LijstBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
+Uitslag RptFamilies::Schrijf(RecordBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
   return SchrijfFamilies(Minimum(), bron, uit, verloop);
 }
 

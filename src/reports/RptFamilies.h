@@ -22,7 +22,7 @@ class RptFamilies final : public LijstForm {
  protected:
   void BijLaden() override { MinimumAantal.ZetTekst("1"); }
   [[nodiscard]] bool IsGenoeg() override;
-  [[nodiscard]] Uitslag Schrijf(LijstBron& bron, TekstSchrijver& uit,
+  [[nodiscard]] Uitslag Schrijf(RecordBron& bron, TekstSchrijver& uit,
                                 const Verloop& verloop) override;
 
  private:

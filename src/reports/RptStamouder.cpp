@@ -2,7 +2,7 @@
 
 #include "entry/VolgersBewaker.h"
 #include "entry/ZoekPersoon.h"
-#include "reports/RecordGang.h"
+#include "reporting/RecordGang.h"
 #include "text/Getallen.h"
 
 namespace lb77 {

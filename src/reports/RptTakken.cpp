@@ -12,8 +12,8 @@ RptTakken::RptTakken(Hoofdmodule& hoofd)
   Koppel(PersNr, OKButton, BackButton, &AantalTakken);
 }
 
-bool RptTakken::BereidVoor(LijstBron& bron, const Verloop& verloop) {
-  Nazaten nazaten(bron.persoon.record, bron.relatie.record);
+bool RptTakken::BereidVoor(RecordBron& bron, const Verloop& verloop) {
+  Nazaten nazaten(bron.Personen().record, bron.Relaties().record);
   const auto wie = nazaten.Vind(Stamouder());
   const std::size_t takken = wie ? nazaten[*wie].kinderen.size() : 0;
   verloop.toon(0, static_cast<int>(takken));
@@ -22,7 +22,7 @@ bool RptTakken::BereidVoor(LijstBron& bron, const Verloop& verloop) {
   return false;
 }
 
-Uitslag RptTakken::Schrijf(LijstBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
+Uitslag RptTakken::Schrijf(RecordBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
   return SchrijfTakken(Stamouder(), bron, uit, verloop);
 }
 

@@ -14,8 +14,8 @@ class RptTakken final : public RptStamouder {
   Knop BackButton{*this, "BackButton", "&Terug"};
 
  protected:
-  [[nodiscard]] bool BereidVoor(LijstBron& bron, const Verloop& verloop) override;
-  [[nodiscard]] Uitslag Schrijf(LijstBron& bron, TekstSchrijver& uit,
+  [[nodiscard]] bool BereidVoor(RecordBron& bron, const Verloop& verloop) override;
+  [[nodiscard]] Uitslag Schrijf(RecordBron& bron, TekstSchrijver& uit,
                                 const Verloop& verloop) override;
 };
 

@@ -12,7 +12,7 @@ RptTijdbalk::RptTijdbalk(Hoofdmodule& hoofd)
   Koppel(PersNr, OKButton, BackButton);
 }
 
-Uitslag RptTijdbalk::Schrijf(LijstBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
+Uitslag RptTijdbalk::Schrijf(RecordBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
   return SchrijfTijdbalk(Stamouder(), bron, uit, verloop);
 }
 

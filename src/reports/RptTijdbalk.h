@@ -13,7 +13,7 @@ class RptTijdbalk final : public RptStamouder {
   Knop BackButton{*this, "BackButton", "&Terug"};
 
  protected:
-  [[nodiscard]] Uitslag Schrijf(LijstBron& bron, TekstSchrijver& uit,
+  [[nodiscard]] Uitslag Schrijf(RecordBron& bron, TekstSchrijver& uit,
                                 const Verloop& verloop) override;
 };
 

@@ -12,7 +12,7 @@ SelectOpm::SelectOpm(Hoofdmodule& hoofd)
   Koppel(ZoekTekst, OKButton, BackButton);
 }
 
-Uitslag SelectOpm::Schrijf(LijstBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
+Uitslag SelectOpm::Schrijf(RecordBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
   const OpmKeus keus{ZoekTekst.Tekst(), OptionCapsJa.Gekozen()};
   return SelecteerOpmerkingen(keus, bron, uit, verloop);
 }

@@ -20,7 +20,7 @@ class SelectOpm final : public LijstForm {
  protected:
   void BijLaden() override { OptionCapsNee.Zet(true); }
   [[nodiscard]] bool IsGenoeg() override { return !ZoekTekst.Tekst().empty(); }
-  [[nodiscard]] Uitslag Schrijf(LijstBron& bron, TekstSchrijver& uit,
+  [[nodiscard]] Uitslag Schrijf(RecordBron& bron, TekstSchrijver& uit,
                                 const Verloop& verloop) override;
 };
 

@@ -15,7 +15,7 @@ void SelectPlts::BijLaden() {
   }
 }
 
-Uitslag SelectPlts::Schrijf(LijstBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
+Uitslag SelectPlts::Schrijf(RecordBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
   const PlaatsKeus keus{Plaats.PlaatsNr(),    ZoekGeb.Gekozen(),    ZoekDoop.Gekozen(),
                         ZoekOv.Gekozen(),     ZoekBegr.Gekozen(),   ZoekOtr.Gekozen(),
                         ZoekWetHuw.Gekozen(), ZoekKerkHuw.Gekozen()};

@@ -25,7 +25,7 @@ class SelectPlts final : public LijstForm {
  protected:
   void BijLaden() override;
   [[nodiscard]] bool IsGenoeg() override { return Plaats.PlaatsNr() > 0; }
-  [[nodiscard]] Uitslag Schrijf(LijstBron& bron, TekstSchrijver& uit,
+  [[nodiscard]] Uitslag Schrijf(RecordBron& bron, TekstSchrijver& uit,
                                 const Verloop& verloop) override;
 };
 

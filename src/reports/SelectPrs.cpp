@@ -21,7 +21,7 @@ bool SelectPrs::IsGenoeg() {
   return !keus_.IsLeeg();
 }
 
-Uitslag SelectPrs::Schrijf(LijstBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
+Uitslag SelectPrs::Schrijf(RecordBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
   return SelecteerPersonen(keus_, bron, uit, verloop);
 }
 

@@ -24,7 +24,7 @@ class SelectPrs final : public LijstForm {
  protected:
   void BijLaden() override;
   [[nodiscard]] bool IsGenoeg() override;
-  [[nodiscard]] Uitslag Schrijf(LijstBron& bron, TekstSchrijver& uit,
+  [[nodiscard]] Uitslag Schrijf(RecordBron& bron, TekstSchrijver& uit,
                                 const Verloop& verloop) override;
 
  private:

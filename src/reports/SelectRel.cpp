@@ -16,7 +16,7 @@ bool SelectRel::IsGenoeg() {
   return !keus_.IsLeeg();
 }
 
-Uitslag SelectRel::Schrijf(LijstBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
+Uitslag SelectRel::Schrijf(RecordBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
   return SelecteerRelaties(keus_, bron, uit, verloop);
 }
 

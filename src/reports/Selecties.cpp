@@ -7,8 +7,8 @@
 #include <string_view>
 
 #include "output/TekstSchrijver.h"
-#include "reports/LijstBron.h"
-#include "reports/RecordGang.h"
+#include "reporting/RecordBron.h"
+#include "reporting/RecordGang.h"
 #include "store/Codes.h"
 #include "text/Getallen.h"
 #include "text/Namen.h"
@@ -102,7 +102,7 @@ constexpr Gebeurtenis<RelatieLB77> kVanRelatie[] = {
 
 template <class Record, std::size_t N>
 Uitslag SchrijfVanPlaats(const PlaatsKeus& keus, const Gebeurtenis<Record> (&lijst)[N], char soort,
-                         Lezer<Record>& lezer, TekstSchrijver& uit, const Verloop& verloop) {
+                         const Lezer<Record>& lezer, TekstSchrijver& uit, const Verloop& verloop) {
   const auto gevraagd = [&](const Gebeurtenis<Record>& wat) { return keus.*wat.gevraagd; };
   if (std::none_of(std::begin(lijst), std::end(lijst), gevraagd)) return Einde::Klaar;
   const Record& record = lezer.record;
@@ -116,9 +116,9 @@ Uitslag SchrijfVanPlaats(const PlaatsKeus& keus, const Gebeurtenis<Record> (&lij
 
 }  // namespace
 
-Uitslag SelecteerPersonen(const PersoonKeus& keus, LijstBron& bron, TekstSchrijver& uit,
+Uitslag SelecteerPersonen(const PersoonKeus& keus, RecordBron& bron, TekstSchrijver& uit,
                           const Verloop& verloop) {
-  PersoonLB77& persoon = bron.persoon.record;
+  PersoonLB77& persoon = bron.Personen().record;
   const NaamToets naam(keus.naam);
   const Deel beroep(keus.beroep);
   const auto past = [&] {
@@ -130,7 +130,7 @@ Uitslag SelecteerPersonen(const PersoonKeus& keus, LijstBron& bron, TekstSchrijv
            beroep.In(persoon.beroep());
   };
   int aantal = 0;
-  const Uitslag uitslag = LoopRecords(bron.persoon, verloop, [&](std::int16_t nr) {
+  const Uitslag uitslag = LoopRecords(bron.Personen(), verloop, [&](std::int16_t nr) {
     if (!past()) return;
     uit.VolleRegel(PersoonRegel(persoon, nr, !keus.beroep.empty()));
     ++aantal;
@@ -139,10 +139,10 @@ Uitslag SelecteerPersonen(const PersoonKeus& keus, LijstBron& bron, TekstSchrijv
   return uitslag;
 }
 
-Uitslag SelecteerRelaties(const RelatieKeus& keus, LijstBron& bron, TekstSchrijver& uit,
+Uitslag SelecteerRelaties(const RelatieKeus& keus, RecordBron& bron, TekstSchrijver& uit,
                           const Verloop& verloop) {
-  RelatieLB77& relatie = bron.relatie.record;
-  PersoonLB77& persoon = bron.persoon.record;
+  RelatieLB77& relatie = bron.Relaties().record;
+  PersoonLB77& persoon = bron.Personen().record;
   const NaamToets naam(keus.naam);
   const auto partner = [&](bool gevraagd, std::int16_t nr, char geslacht) {
     return gevraagd && LeesHoofdrecord(persoon, nr) && IsVan(persoon, gevraagd, geslacht) &&
@@ -156,7 +156,7 @@ Uitslag SelecteerRelaties(const RelatieKeus& keus, LijstBron& bron, TekstSchrijv
             partner(keus.geslacht.vrouw, relatie.VrouwNr(), geslacht::kVrouw));
   };
   int aantal = 0;
-  const Uitslag uitslag = LoopRecords(bron.relatie, verloop, [&](std::int16_t nr) {
+  const Uitslag uitslag = LoopRecords(bron.Relaties(), verloop, [&](std::int16_t nr) {
     if (!past()) return;
     uit.VolleRegel(RelatieRegel(relatie, nr));
     ++aantal;
@@ -165,18 +165,18 @@ Uitslag SelecteerRelaties(const RelatieKeus& keus, LijstBron& bron, TekstSchrijv
   return uitslag;
 }
 
-Uitslag SelecteerPlaatsen(const PlaatsKeus& keus, LijstBron& bron, TekstSchrijver& uit,
+Uitslag SelecteerPlaatsen(const PlaatsKeus& keus, RecordBron& bron, TekstSchrijver& uit,
                           const Verloop& verloop) {
-  const Uitslag uitslag = SchrijfVanPlaats(keus, kVanPersoon, 'P', bron.persoon, uit, verloop);
+  const Uitslag uitslag = SchrijfVanPlaats(keus, kVanPersoon, 'P', bron.Personen(), uit, verloop);
   if (!(uitslag == Einde::Klaar)) return uitslag;
-  return SchrijfVanPlaats(keus, kVanRelatie, 'R', bron.relatie, uit, verloop);
+  return SchrijfVanPlaats(keus, kVanRelatie, 'R', bron.Relaties(), uit, verloop);
 }
 
-Uitslag SelecteerOpmerkingen(const OpmKeus& keus, LijstBron& bron, TekstSchrijver& uit,
+Uitslag SelecteerOpmerkingen(const OpmKeus& keus, RecordBron& bron, TekstSchrijver& uit,
                              const Verloop& verloop) {
-  const OpmLB77& opmerking = bron.opmerking.record;
+  const OpmLB77& opmerking = bron.Opmerkingen().record;
   const Deel deel(keus.tekst);
-  const Uitslag uitslag = LoopRecords(bron.opmerking, verloop, [&](std::int16_t) {
+  const Uitslag uitslag = LoopRecords(bron.Opmerkingen(), verloop, [&](std::int16_t) {
     const std::string regel = opmerking.Tekstregel();
     const bool past = keus.kast ? regel.find(keus.tekst) != std::string::npos : deel.In(regel);
     if (!past) return;

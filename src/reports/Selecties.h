@@ -9,7 +9,7 @@
 
 namespace lb77 {
 
-class LijstBron;
+class RecordBron;
 class TekstSchrijver;
 
 // Parts of both names, anywhere in them, upper and lower case alike; an empty one fits all.
@@ -68,14 +68,14 @@ struct OpmKeus {
 
 // Each walks the whole file and writes a line for each record that fits. What can't be read is passed
 // over in silence.
-[[nodiscard]] Uitslag SelecteerPersonen(const PersoonKeus& keus, LijstBron& bron,
+[[nodiscard]] Uitslag SelecteerPersonen(const PersoonKeus& keus, RecordBron& bron,
                                         TekstSchrijver& uit, const Verloop& verloop);
-[[nodiscard]] Uitslag SelecteerRelaties(const RelatieKeus& keus, LijstBron& bron,
+[[nodiscard]] Uitslag SelecteerRelaties(const RelatieKeus& keus, RecordBron& bron,
                                         TekstSchrijver& uit, const Verloop& verloop);
 // Persons ahead of relations; a file of which no event is asked for is not read.
-[[nodiscard]] Uitslag SelecteerPlaatsen(const PlaatsKeus& keus, LijstBron& bron,
+[[nodiscard]] Uitslag SelecteerPlaatsen(const PlaatsKeus& keus, RecordBron& bron,
                                         TekstSchrijver& uit, const Verloop& verloop);
-[[nodiscard]] Uitslag SelecteerOpmerkingen(const OpmKeus& keus, LijstBron& bron,
+[[nodiscard]] Uitslag SelecteerOpmerkingen(const OpmKeus& keus, RecordBron& bron,
                                            TekstSchrijver& uit, const Verloop& verloop);
 
 }  // namespace lb77

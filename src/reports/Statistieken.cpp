@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "output/TekstSchrijver.h"
-#include "reports/LijstBron.h"
+#include "reporting/RecordBron.h"
+#include "reporting/RecordGang.h"
 #include "reports/Nazaten.h"
-#include "reports/RecordGang.h"
 #include "text/Getallen.h"
 #include "text/Namen.h"
 #include "text/Tekens.h"
@@ -121,12 +121,12 @@ void Tel(Periodes& periodes, const Leven& leven, std::int64_t keer) {
 
 }  // namespace
 
-Uitslag SchrijfTakken(std::int16_t stamouder, LijstBron& bron, TekstSchrijver& uit,
+Uitslag SchrijfTakken(std::int16_t stamouder, RecordBron& bron, TekstSchrijver& uit,
                       const Verloop& verloop) {
-  const std::string naam(Trim(NaamVan(bron.persoon.record, stamouder)));
+  const std::string naam(Trim(NaamVan(bron.Personen().record, stamouder)));
   uit.VolleRegel("Takkenverdeling van afstammelingen van " + MetNr(naam, stamouder));
   uit.LegeRegel();
-  Nazaten nazaten(bron.persoon.record, bron.relatie.record);
+  Nazaten nazaten(bron.Personen().record, bron.Relaties().record);
   const auto wie = nazaten.Vind(stamouder);
   if (!wie) return Einde::Klaar;
   const std::vector<std::int16_t> takken = nazaten[*wie].kinderen;
@@ -148,12 +148,13 @@ Uitslag SchrijfTakken(std::int16_t stamouder, LijstBron& bron, TekstSchrijver& u
   return Einde::Klaar;
 }
 
-Uitslag SchrijfFamilies(int minimum, LijstBron& bron, TekstSchrijver& uit, const Verloop& verloop) {
+Uitslag SchrijfFamilies(int minimum, RecordBron& bron, TekstSchrijver& uit,
+                        const Verloop& verloop) {
   uit.VolleRegel("Verdeling familienamen");
   uit.LegeRegel();
   Families families;
-  const Uitslag uitslag = LoopRecords(bron.persoon, verloop, [&](std::int16_t nr) {
-    const std::string naam = bron.persoon.record.AchterNaamTrue();
+  const Uitslag uitslag = LoopRecords(bron.Personen(), verloop, [&](std::int16_t nr) {
+    const std::string naam = bron.Personen().record.AchterNaamTrue();
     Tel(families, naam.empty() ? "<onbekend>" : naam);
     verloop.toon(nr, static_cast<int>(families.size()));
   });
@@ -171,12 +172,12 @@ Uitslag SchrijfFamilies(int minimum, LijstBron& bron, TekstSchrijver& uit, const
   return Einde::Klaar;
 }
 
-Uitslag SchrijfTijdbalk(std::int16_t stamouder, LijstBron& bron, TekstSchrijver& uit,
+Uitslag SchrijfTijdbalk(std::int16_t stamouder, RecordBron& bron, TekstSchrijver& uit,
                         const Verloop& verloop) {
   uit.VolleRegel("Populatiegrafiek van afstammelingen van " +
-                 MetNr(NaamVan(bron.persoon.record, stamouder), stamouder));
+                 MetNr(NaamVan(bron.Personen().record, stamouder), stamouder));
   uit.LegeRegel();
-  Nazaten nazaten(bron.persoon.record, bron.relatie.record);
+  Nazaten nazaten(bron.Personen().record, bron.Relaties().record);
   const auto wie = nazaten.Vind(stamouder);
   std::vector<Telling> tellingen;
   if (wie && !nazaten.Loop(*wie, std::nullopt, verloop, tellingen)) return Einde::Afgebroken;

@@ -20,7 +20,7 @@ TEST_F(BevindingenSchade, EenPlaatsDieNietTeLezenIsOpentGeenBladzijde) {
   Bouw().Plaats("Leiden", "ZH");
   const Taak taak = [&](Hoofdmodule& hoofd) {
     ASSERT_TRUE(Start(hoofd));
-    ControleBron bron(hoofd.MaakOpslag());
+    RecordBron bron(hoofd.MaakOpslag());
     const std::unique_ptr<Controleur> regels = kControlePlts.maak(bron, {});
     std::vector<Bevinding> gevonden;
     for (const std::int32_t nr : {3, 9}) {
@@ -44,7 +44,7 @@ TEST_F(BevindingenSchade, HetAantalNaastDeLijstVolgtEenHerstel) {
   Bouw().Relatie(0, 0);
   Bouw().WijzigPersoon(3, {{"Ouders", "2"}});
   const Taak taak = [](Hoofdmodule& hoofd) {
-    ControleBron bron(hoofd.MaakOpslag());
+    RecordBron bron(hoofd.MaakOpslag());
     const std::unique_ptr<Controleur> regels = kControlePrs.maak(bron, {});
     const RecordPlek plek{BestandSoort::Personen, 3};
     BevindingLijst lijst({{plek, plek, BevindingSoort::NietBijOuders, "Persoon 3"}},

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "checks/ControleBron.h"
 #include "checks/Controleur.h"
+#include "reporting/RecordBron.h"
 #include "steun/ProefSet.h"
 
 namespace lb77 {
@@ -54,7 +54,7 @@ class ControleToets : public ::testing::Test {
 
   ProefSet set_;
   BouwFamilie& bouw_ = set_.bouw;
-  ControleBron bron_{set_.opslag};
+  RecordBron bron_{set_.opslag};
 };
 
 }  // namespace lb77

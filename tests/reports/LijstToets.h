@@ -7,8 +7,8 @@
 #include <string>
 
 #include "output/TekstSchrijver.h"
+#include "reporting/RecordBron.h"
 #include "reporting/Verloop.h"
-#include "reports/LijstBron.h"
 #include "steun/ProefSet.h"
 
 namespace lb77 {
@@ -34,7 +34,7 @@ class LijstToets : public ::testing::Test {
 
   ProefSet set_;
   BouwFamilie& bouw_ = set_.bouw;
-  LijstBron bron_{set_.opslag};
+  RecordBron bron_{set_.opslag};
   int tests_ = 0;    // for a stop
   int stopBij_ = 0;  // the test that gets one; 0 is none
   std::vector<int> getoond_;

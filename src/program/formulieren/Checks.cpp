@@ -20,7 +20,7 @@ struct VoorbeeldControle {
     return {plek, plek, soort, std::string(tekst)};
   }
 
-  ControleBron bron;
+  RecordBron bron;
   std::unique_ptr<Controleur> regels;
   BevindingLijst lijst{
       {Maak(BevindingSoort::NietBijOuders, "Persoon 2: Kind komt niet voor bij ouders"),

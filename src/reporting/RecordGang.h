@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
+#include "reporting/RecordBron.h"
 #include "reporting/Verloop.h"
-#include "reports/LijstBron.h"
 
 namespace lb77 {
 
@@ -22,7 +22,7 @@ template <class Record>
 // Calls `doe` with the number of each record that can be read, in their order; continuations are
 // passed over. `lezer.record` holds the record at each call.
 template <class Record, class Doe>
-[[nodiscard]] Uitslag LoopRecords(Lezer<Record>& lezer, const Verloop& verloop, Doe doe) {
+[[nodiscard]] Uitslag LoopRecords(const Lezer<Record>& lezer, const Verloop& verloop, Doe doe) {
   const std::int32_t laatste = lezer.Laatste();
   for (std::int32_t nr = kEersteRecord; nr <= laatste; ++nr) {
     if (verloop.afbreken()) return Einde::Afgebroken;
