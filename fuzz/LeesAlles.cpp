@@ -9,6 +9,7 @@
 #include "checks/ControleSoorten.h"
 #include "output/Verteller.h"
 #include "output/Zinnen.h"
+#include "reporting/RecordBron.h"
 
 namespace lb77::fuzz {
 namespace {
@@ -147,8 +148,9 @@ void SchrijfOpmerking(Hoofdmodule& hoofd, std::int16_t persoon, std::int16_t rel
 
 void Controleer(Hoofdmodule& hoofd) {
   constexpr ControleKeuzen kAlles{true, true, true, true, true};
+  RecordBron bron(hoofd.MaakOpslag());
   for (const ControleSoort* soort : {&kControlePrs, &kControleRel, &kControlePlts, &kControleOpm}) {
-    const auto regels = soort->maak(hoofd.MaakGegevens(), kAlles);
+    const auto regels = soort->maak(bron, kAlles);
     const std::int16_t laatste = regels->Laatste();
     regels->Begin(laatste);
     for (std::int32_t nr = 2; nr <= laatste; ++nr) {
