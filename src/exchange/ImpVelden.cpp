@@ -1,0 +1,35 @@
+#include "exchange/ImpVelden.h"
+
+#include <algorithm>
+
+namespace lb77 {
+
+namespace {
+
+// The values of a line that had nothing to give.
+bool IsNiets(std::string_view waarde) {
+  return waarde.empty() || waarde == "0" || waarde == "00-00-0000";
+}
+
+}  // namespace
+
+void ImpVelden::Zet(std::string_view veld, std::string_view waarde, std::int32_t regel,
+                    const Kwijt& kwijt) {
+  auto rij = std::ranges::find(velden_, veld, &Veld::naam);
+  if (rij == velden_.end()) {
+    velden_.push_back({veld, std::string(waarde), {regel}});
+    return;
+  }
+  if (rij->waarde != waarde) {
+    if (!IsNiets(rij->waarde)) {
+      for (const std::int32_t eerdere : rij->regels) {
+        if (eerdere != regel) kwijt(eerdere);
+      }
+    }
+    rij->waarde = waarde;
+    rij->regels.clear();
+  }
+  rij->regels.push_back(regel);
+}
+
+}  // namespace lb77
