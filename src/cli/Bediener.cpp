@@ -28,9 +28,10 @@ void Bediener::MisluktUtf8(std::string_view reden) {
 // The last button of a box is the one that does nothing.
 Antwoord Bediener::Kies(Knoppen knoppen) {
   const std::vector<Antwoord> keuzen = Keuzen(knoppen);
+  const bool metNee = std::ranges::find(keuzen, Antwoord::Nee) != keuzen.end();
   const auto klaar = klaar_.find(open_.empty() ? std::string_view() : open_.back());
   if (klaar == klaar_.end() || std::ranges::find(keuzen, klaar->second) == keuzen.end()) {
-    return keuzen.back();
+    return lieverNee_ && metNee ? Antwoord::Nee : keuzen.back();
   }
   const Antwoord antwoord = klaar->second;
   klaar_.erase(klaar);
