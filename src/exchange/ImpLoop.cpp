@@ -61,7 +61,7 @@ std::int16_t ImpLoop::NieuweRelatie() {
 
 void ImpLoop::MerkBreedte(std::string_view windows, std::size_t breedte) {
   // Stored text may take more room: what it has no character for is written with two.
-  if (WindowsNaarDos(windows).size() > breedte) Merk();
+  if (!IsAscii(windows) && WindowsNaarDos(windows).size() > breedte) Merk();
 }
 
 std::string ImpLoop::BronUtf8(std::string_view bron) const {

@@ -9,6 +9,7 @@
 #include "exchange/OpmAfbreken.h"
 #include "exchange/OpmTags.h"
 #include "store/Codes.h"
+#include "text/Bestandstekst.h"
 #include "text/Dos437.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"
@@ -43,7 +44,7 @@ constexpr std::int16_t kBijProg =
 
 // Stored text may take more room than its line has.
 bool PastInRecord(std::string_view regel) {
-  return WindowsNaarDos(regel).size() <= kRegelBreedte;
+  return IsAscii(regel) || WindowsNaarDos(regel).size() <= kRegelBreedte;
 }
 
 }  // namespace

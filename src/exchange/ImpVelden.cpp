@@ -15,12 +15,15 @@ bool IsNiets(std::string_view waarde) {
 
 void ImpVelden::Zet(std::string_view veld, std::string_view waarde, std::int32_t regel,
                     const Kwijt& kwijt) {
-  auto rij = std::ranges::find(velden_, veld, &Veld::naam);
-  if (rij == velden_.end()) {
-    velden_.push_back({veld, std::string(waarde), {regel}});
-    return;
-  }
-  if (rij->waarde != waarde) {
+  const auto eind = velden_.begin() + static_cast<std::ptrdiff_t>(aantal_);
+  auto rij = std::ranges::find(velden_.begin(), eind, veld, &Veld::naam);
+  if (rij == eind) {
+    if (aantal_ == velden_.size()) velden_.emplace_back();
+    rij = velden_.begin() + static_cast<std::ptrdiff_t>(aantal_++);
+    rij->naam = veld;
+    rij->waarde = waarde;
+    rij->regels.clear();
+  } else if (rij->waarde != waarde) {
     if (!IsNiets(rij->waarde)) {
       for (const std::int32_t eerdere : rij->regels) {
         if (eerdere != regel) kwijt(eerdere);

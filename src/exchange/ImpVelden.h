@@ -1,6 +1,7 @@
 // From which lines the fields of the record at hand come.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -15,7 +16,7 @@ class ImpVelden {
   using Kwijt = std::function<void(std::int32_t regel)>;
 
   // The next record begins.
-  void Wis() { velden_.clear(); }
+  void Wis() { aantal_ = 0; }
   // A line gives a field its value; `kwijt` gets the lines whose value that replaces. The name of the
   // field outlives the record.
   void Zet(std::string_view veld, std::string_view waarde, std::int32_t regel, const Kwijt& kwijt);
@@ -26,7 +27,8 @@ class ImpVelden {
     std::string waarde;
     std::vector<std::int32_t> regels;  // that gave this value
   };
-  std::vector<Veld> velden_;
+  std::vector<Veld> velden_;  // which keep their room from record to record
+  std::size_t aantal_ = 0;    // of those that this record has
 };
 
 }  // namespace lb77

@@ -31,7 +31,12 @@ bool IsAscii(std::string_view tekst) {
 void BestandstekstNaarWindows(std::string_view utf8, std::string& uit,
                               std::vector<char32_t>& kwijt) {
   uit.clear();
+  uit.reserve(utf8.size());
   for (std::size_t i = 0; i < utf8.size();) {
+    const std::size_t begin = i;
+    while (i < utf8.size() && static_cast<unsigned char>(utf8[i]) < 0x80) ++i;
+    uit.append(utf8, begin, i - begin);
+    if (i == utf8.size()) break;
     const Utf8Teken teken = LeesTeken(utf8, i);
     i += teken.lengte;
     if (const auto byte = TekenVan(teken.codepunt)) {

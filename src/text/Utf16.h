@@ -20,11 +20,13 @@ class Utf16Lezing {
   void Sluit(std::string& utf8);
 
  private:
+  [[nodiscard]] char32_t Eenheid(char een, char twee) const;
+  void NeemAscii(std::string_view& bytes, std::string& utf8) const;
   void NeemEenheid(char32_t eenheid, std::string& utf8);
 
   Bytevolgorde volgorde_;
   bool half_ = false;  // `eerste_` waits for its other byte
-  unsigned char eerste_ = 0;
+  char eerste_ = 0;
   char32_t hoog_ = 0;  // the first half of a pair that waits; 0 for none
 };
 

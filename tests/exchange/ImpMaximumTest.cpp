@@ -118,17 +118,27 @@ TEST_F(ImpMaximum, OpmerkingenDiePassenWordenOpgeslagenEnDeImportStopt) {
       1 NAME Piet //
       1 NOTE een
       1 NOTE twee
+      2 CONT lang
+      1 XYZ iets
       1 NOTE drie
       0 @I2@ INDI
       1 NOTE vier
-    )"),
+      0 @F1@ FAM
+      1 NOTE vijf
+    )") + "1 NOTE zes\n",
             std::string(kMaximum) + "! uitroep \"Schrijffout bij Persoon 3\"");
   EXPECT_EQ(Persoon(3), "voor Piet; opm 4096");
   EXPECT_EQ(OpmBijPersoon(3), "4096 een\n");
   EXPECT_EQ(OpmBijPersoon(2), "4096 oud\n");
   EXPECT_EQ(LogRegels(),
+            "P-I1 - Onbekende tag: INDI-XYZ : iets\n"
             "Opmerkingen vanaf persoon 3 zijn niet opgeslagen: het maximum van 32767 records is "
             "bereikt\n");
+  // What no longer fitted is kept, on the line that failed and behind it.
+  EXPECT_EQ(Rest(),
+            "0 HEAD\n1 CHAR UTF-8\n0 @I1@ INDI\n1 REFN 3\n1 NOTE twee\n2 CONT lang\n1 XYZ iets\n"
+            "1 NOTE drie\n0 @I2@ INDI\n1 REFN 4\n1 NOTE vier\n0 @F1@ FAM\n1 REFN 2\n1 NOTE vijf\n"
+            "0 NOTE achter TRLR\n1 NOTE zes\n0 TRLR\n");
 }
 
 }  // namespace

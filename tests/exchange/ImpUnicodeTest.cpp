@@ -1,7 +1,10 @@
 // Files in Unicode: the question, and what the answers make of them.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "exchange/ImportToets.h"
+#include "steun/Plekken.h"
 #include "text/Letterlijk.h"
 #include "text/Utf8.h"
 
@@ -50,6 +53,22 @@ constexpr std::string_view kVerlies =
 
 class ImpUnicodeTest : public ImportToets {
  protected:
+  // What a record tells, up to its links.
+  static std::string Naam(const std::string& persoon) {
+    return persoon.substr(0, std::min(persoon.find("; ouders"), persoon.find("; rel1")));
+  }
+  // The first person whose names begin so.
+  std::string OpNaam(std::string_view naam) {
+    std::string uit;
+    InSessie([&](Hoofdmodule& hoofd) {
+      for (std::int16_t nr = 2; uit.empty() && hoofd.Persoon.Lees(nr); ++nr) {
+        const std::string namen =
+            hoofd.Persoon.VoorNaamTrue() + " " + hoofd.Persoon.AchterNaamTrue();
+        if (namen.starts_with(naam)) uit = namen;
+      }
+    });
+    return uit;
+  }
   void VerwachtOmgezet() {
     EXPECT_EQ(Persoon(2),
               "voor Zo\xEB; achter L\xF3"
@@ -133,6 +152,47 @@ TEST_F(ImpUnicodeTest, DePlaatsenWordenOmgezetGeteld) {
   Antwoord("Ja");
   Importeer(GedIn("UTF-8", "0 @I1@ INDI\n1 BIRT\n2 PLAC Köln"));
   EXPECT_EQ(Aantallen(), "3 1 2 1");
+}
+
+std::string Bron(std::string_view naam) {
+  return LeesBytes(BronMap() / "../shared/data" / naam);
+}
+
+TEST_F(ImpUnicodeTest, EenBestandMetTremasKomtBinnenMetZijnAccenten) {
+  const std::string bytes = Bron("bronte.ged");
+  if (bytes.empty()) GTEST_SKIP() << "bronte.ged is absent";
+  Antwoord("Ja");
+  Importeer(bytes);
+  EXPECT_TRUE(Persoon(2).starts_with("voor Patrick; achter Bront\xEB")) << Persoon(2);
+}
+
+TEST_F(ImpUnicodeTest, EenZweedsBestandKomtInElkeCoderingEenderBinnen) {
+  const std::string bytes = Bron("vendor-gramps.ged");
+  if (bytes.empty()) GTEST_SKIP() << "vendor-gramps.ged is absent";
+  Antwoord("Ja");
+  Importeer(bytes);
+  Importeer(Utf16(bytes, true));
+  Importeer(Utf16(bytes, false));
+  EXPECT_EQ(Plaats(3), "G\xF6teborg, V\xE4stra G\xF6taland");
+  for (std::int16_t nr = 2; nr <= 6; ++nr) {
+    for (const int verder : {5, 10}) {
+      const auto ander = static_cast<std::int16_t>(nr + verder);
+      EXPECT_EQ(Naam(Persoon(nr)), Naam(Persoon(ander)));
+    }
+  }
+}
+
+TEST_F(ImpUnicodeTest, EenGrootBestandVerteltWelkTekenVerlorenGing) {
+  const std::string bytes = Bron("queen.ged");
+  if (bytes.empty()) GTEST_SKIP() << "queen.ged is absent";
+  Antwoord("Ja");
+  Importeer(bytes,
+            "! uitroep \"Meer dan 5 relaties voor Persoon 321\"\n"
+            "! uitroep \"Meer dan 5 relaties voor Persoon 740\"");
+  EXPECT_TRUE(LogRegels().ends_with(
+      "LET OP: teken U+FFFD niet overgenomen: 5 keer, voor het eerst in regel 8074\n"));
+  EXPECT_EQ(LogRegels().find("teken U+"), LogRegels().rfind("teken U+"));
+  EXPECT_NE(OpNaam("Torf Einarr").find("R\xF6gnvaldarson"), std::string::npos);
 }
 
 }  // namespace

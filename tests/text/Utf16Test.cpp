@@ -55,5 +55,29 @@ TEST(Utf16Test, DeStukkenMogenOveralBreken) {
   }
 }
 
+TEST(Utf16Test, EenLangeTekstMetHierEnDaarEenAccent) {
+  for (const Bytevolgorde volgorde : {Bytevolgorde::LaagEerst, Bytevolgorde::HoogEerst}) {
+    std::string bytes;
+    std::string verwacht;
+    for (unsigned i = 0; i < 300; ++i) {
+      const unsigned eenheid = i % 11 == 0 ? 0xE9 : i % 13 == 0 ? 0x4E2D : 'a' + i % 26;
+      const char hoog = static_cast<char>(eenheid >> 8U);
+      const char laag = static_cast<char>(eenheid & 255U);
+      bytes += volgorde == Bytevolgorde::LaagEerst ? laag : hoog;
+      bytes += volgorde == Bytevolgorde::LaagEerst ? hoog : laag;
+      verwacht += i % 11 == 0   ? "é"
+                  : i % 13 == 0 ? "中"
+                                : std::string(1, static_cast<char>(eenheid));
+    }
+    for (const std::size_t stuk : {1000U, 64U, 17U, 3U}) {
+      EXPECT_EQ(Gelezen(bytes, volgorde, stuk), verwacht);
+    }
+  }
+}
+
+TEST(Utf16Test, EenBesturingstekenBoven127IsGeenAscii) {
+  EXPECT_EQ(Gelezen("\x80\0b\0c\0d\0"sv, Bytevolgorde::LaagEerst), "\u0080bcd");
+}
+
 }  // namespace
 }  // namespace lb77
