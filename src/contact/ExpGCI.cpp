@@ -66,10 +66,10 @@ ExpGCI::Afloop ExpGCI::LeesTabellen() {
   tabellen_.plaatsen = GciPlaatsen(std::move(rijen));
   afloop = LeesTabel(2, {kGciProvinciesBestand, ProvinciesGedaan}, rijen);
   if (afloop != Afloop::Klaar) return afloop;
-  tabellen_.provincies = GciCodes(rijen);
+  tabellen_.provincies = GciProvincies(rijen);
   afloop = LeesTabel(3, {kGciLandenBestand, LandenGedaan}, rijen);
   if (afloop != Afloop::Klaar) return afloop;
-  tabellen_.landen = GciCodes(rijen);
+  tabellen_.landen = GciLanden(rijen);
   return Afloop::Klaar;
 }
 

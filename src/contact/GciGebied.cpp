@@ -74,7 +74,7 @@ GciGebied InTabel(const std::string& code) {
   return {code, std::string(kNederland)};
 }
 
-std::string Provincie(const std::string& prov, const GciCodes& provincies) {
+std::string Provincie(const std::string& prov, const GciProvincies& provincies) {
   if (const auto gevonden = provincies.MetCode(prov)) return *gevonden;
   for (const ProvincieRij& rij : kProvincies) {
     if (rij.code == prov) return std::string(rij.prov);
@@ -82,15 +82,15 @@ std::string Provincie(const std::string& prov, const GciCodes& provincies) {
   return prov;
 }
 
-std::string Land(const std::string& land, const GciCodes& landen) {
+std::string Land(const std::string& land, const GciLanden& landen) {
   if (const auto gevonden = landen.MetCode(land)) return *gevonden;
   return landen.MetNaam(land).value_or(land);
 }
 
 }  // namespace
 
-GciGebied GebiedVan(std::string_view eigenCode, const GciCodes& provincies,
-                    const GciCodes& landen) {
+GciGebied GebiedVan(std::string_view eigenCode, const GciProvincies& provincies,
+                    const GciLanden& landen) {
   GciGebied gebied = InTabel(Hoofdletters(Trim(eigenCode)));
   if (gebied.land == kNederland) {
     gebied.prov = Provincie(gebied.prov, provincies);

@@ -19,8 +19,8 @@ struct GciGebied {
 };
 
 // The province and country that an own province code stands for.
-[[nodiscard]] GciGebied GebiedVan(std::string_view eigenCode, const GciCodes& provincies,
-                                  const GciCodes& landen);
+[[nodiscard]] GciGebied GebiedVan(std::string_view eigenCode, const GciProvincies& provincies,
+                                  const GciLanden& landen);
 
 // How the contact service calls a place that others call otherwise.
 struct GciSynoniem {

@@ -11,6 +11,9 @@ namespace {
 constexpr std::string_view kTeVeelPlaatsen =
     "Het maximum van 32767 plaatsen voor de Contactdienst is bereikt";
 
+constexpr std::string_view kJuisteProvincie = "Is dit de juiste provincie voor plaatscode ";
+constexpr std::string_view kJuistePlaatsnaam = "Is dit de juiste plaatsnaam voor plaatscode ";
+
 // What there is of it, with commas between.
 std::string Lijst(std::initializer_list<std::string_view> delen) {
   std::string uit;
@@ -58,7 +61,7 @@ std::int16_t GciPlaatsToets::Zoek(const GciPlaats& plaats) {
   }
   for (const std::int16_t rij : rijen) {
     const std::string gevonden = Lijst({tabel.Naam(rij), tabel.Prov(rij), tabel.Land(rij)});
-    if (IsJuist("provincie", plaats, gevonden)) return rij;
+    if (IsJuist(kJuisteProvincie, plaats, gevonden)) return rij;
   }
   return 0;
 }
@@ -68,16 +71,16 @@ std::int16_t GciPlaatsToets::ZoekSynoniem(GciPlaats& plaats) {
   const GciSynoniem* synoniem = SynoniemVan(plaats.naam);
   if (!synoniem) return 0;
   const std::string gevonden = Lijst({synoniem->naam, synoniem->prov, synoniem->land});
-  if (!IsJuist("plaatsnaam", plaats, gevonden)) return 0;
+  if (!IsJuist(kJuistePlaatsnaam, plaats, gevonden)) return 0;
   plaats.naam = synoniem->naam;
   plaats.gebied = {std::string(synoniem->prov), std::string(synoniem->land)};
   return Zoek(plaats);
 }
 
-bool GciPlaatsToets::IsJuist(std::string_view wat, const GciPlaats& plaats,
+bool GciPlaatsToets::IsJuist(std::string_view vraag, const GciPlaats& plaats,
                              const std::string& gevonden) {
-  return gesprek_.Vraag("Is dit de juiste " + std::string(wat) + " voor plaatscode " +
-                        GetalTekst(plaats.nr) + " - " + plaats.naam + " ?\nGevonden: " + gevonden);
+  return gesprek_.Vraag(std::string(vraag) + GetalTekst(plaats.nr) + " - " + plaats.naam +
+                        " ?\nGevonden: " + gevonden);
 }
 
 std::int16_t GciPlaatsToets::VraagCorrectie(const GciPlaats& plaats) {

@@ -49,7 +49,7 @@ class GciPlaatsToets {
   [[nodiscard]] std::int16_t ZoekSynoniem(GciPlaats& plaats);
   [[nodiscard]] std::int16_t VraagCorrectie(const GciPlaats& plaats);
   [[nodiscard]] std::int16_t VraagToch(const GciPlaats& plaats);
-  [[nodiscard]] bool IsJuist(std::string_view wat, const GciPlaats& plaats,
+  [[nodiscard]] bool IsJuist(std::string_view vraag, const GciPlaats& plaats,
                              const std::string& gevonden);
 
   GciTabellen& tabellen_;

@@ -169,8 +169,8 @@ std::string ZonderAlias(std::string_view code) {
 
 }  // namespace
 
-std::string ProvincieNaam(std::string_view code, std::string_view land, const GciCodes& provincies,
-                          std::string_view gezocht) {
+std::string ProvincieNaam(std::string_view code, std::string_view land,
+                          const GciProvincies& provincies, std::string_view gezocht) {
   const std::string_view kaal = Trim(code);
   if (kaal.empty()) return {};
   if (const NaamRij* rij = InTabel(kaal, Trim(land))) {
@@ -181,7 +181,7 @@ std::string ProvincieNaam(std::string_view code, std::string_view land, const Gc
 }
 
 std::optional<std::string> ProvincieCode(std::string_view tekst, std::string_view land,
-                                         const GciCodes& provincies) {
+                                         const GciProvincies& provincies) {
   const std::string_view kaal = Trim(tekst);
   if (kaal.empty()) return std::string();
   if (const auto code = CodeInTabel(kaal, Trim(land))) return code;
@@ -192,14 +192,14 @@ std::optional<std::string> ProvincieCode(std::string_view tekst, std::string_vie
   return rij ? std::optional(std::string(rij->Prov())) : std::nullopt;
 }
 
-std::string LandNaam(std::string_view code, const GciCodes& landen) {
+std::string LandNaam(std::string_view code, const GciLanden& landen) {
   const std::string_view kaal = Trim(code);
   if (kaal.empty()) return {};
   if (GelijkZonderKast(kaal, kNederland)) return "Nederland";
   return landen.NaamVan(ZonderAlias(kaal)).value_or(std::string(kNaamloos));
 }
 
-std::optional<std::string> LandCode(std::string_view tekst, const GciCodes& landen) {
+std::optional<std::string> LandCode(std::string_view tekst, const GciLanden& landen) {
   const std::string_view kaal = Trim(tekst);
   if (kaal.empty()) return std::string();
   if (GelijkZonderKast(kaal, kNederland) || GelijkZonderKast(kaal, "Nederland")) {

@@ -62,10 +62,13 @@ class GciCodes {
   std::vector<Rij> rijen_;
 };
 
+using GciProvincies = GciCodes;
+using GciLanden = GciCodes;
+
 struct GciTabellen {
   GciPlaatsen plaatsen;
-  GciCodes provincies;
-  GciCodes landen;
+  GciProvincies provincies;
+  GciLanden landen;
 };
 
 }  // namespace lb77

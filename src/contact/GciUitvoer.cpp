@@ -14,6 +14,8 @@
 namespace lb77 {
 namespace {
 
+constexpr std::string_view kInzNietOpen = "Fout: Kan uitvoerbestand voor inzendergegevens ";
+constexpr std::string_view kFamNietOpen = "Fout: Kan uitvoerbestand voor reeksen ";
 constexpr std::string_view kRegelEinde = "\r\n";
 
 // Text of a line: what would end it is a blank.
@@ -31,7 +33,7 @@ std::string Veld(std::string_view tekst, std::size_t breedte) {
 
 // One of the two files on its way.
 struct Uitvoer {
-  std::string_view wat;  // in the message
+  std::string_view nietOpen;  // its message, up to its name
   const std::filesystem::path& doel;
   std::string_view inhoud;
 
@@ -41,8 +43,7 @@ struct Uitvoer {
     return pad;
   }
   [[nodiscard]] std::string NietOpen(const SysteemFout& fout) const {
-    return "Fout: Kan uitvoerbestand voor " + std::string(wat) + " " + PadTekst(doel) +
-           " niet openen\n" + fout.tekst;
+    return std::string(nietOpen) + PadTekst(doel) + " niet openen\n" + fout.tekst;
   }
 };
 
@@ -156,7 +157,7 @@ GciPaden GciPaden::In(const std::filesystem::path& map) {
 std::optional<std::string> SchrijfContact(const GciPaden& paden, std::string_view inz,
                                           std::string_view fam, Bestandswerk& werk) {
   return SchrijfAlle(
-      std::array<Uitvoer, 2>{{{"inzendergegevens", paden.inz, inz}, {"reeksen", paden.fam, fam}}},
+      std::array<Uitvoer, 2>{{{kInzNietOpen, paden.inz, inz}, {kFamNietOpen, paden.fam, fam}}},
       werk);
 }
 
