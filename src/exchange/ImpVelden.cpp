@@ -25,9 +25,7 @@ void ImpVelden::Zet(std::string_view veld, std::string_view waarde, std::int32_t
     rij->regels.clear();
   } else if (rij->waarde != waarde) {
     if (!IsNiets(rij->waarde)) {
-      for (const std::int32_t eerdere : rij->regels) {
-        if (eerdere != regel) kwijt(eerdere);
-      }
+      for (const std::int32_t eerdere : rij->regels) kwijt(eerdere);
     }
     rij->waarde = waarde;
     rij->regels.clear();

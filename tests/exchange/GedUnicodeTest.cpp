@@ -65,6 +65,7 @@ TEST_F(GedUnicodeTest, DeNaamInDeKopGeldtOokVoorEenBestandZonderAccenten) {
   }
   EXPECT_EQ(Van("0 HEAD\n1 CHARSET UTF-8\n0 TRLR\n"), Codering::Utf8);
   EXPECT_EQ(Van("0 HEAD\n1 CHAR UTF-8\n1 NOTE \xE9\n0 TRLR\n"), Codering::Utf8);
+  EXPECT_EQ(Van("0 HEAD\n1 NOTE \xE9\n1 CHAR UTF-8\n0 TRLR\n"), Codering::Utf8);
 }
 
 TEST_F(GedUnicodeTest, EenAndereNaamBeslistOok) {

@@ -62,6 +62,12 @@ TEST_F(ImpRestTest, WatHeelIsOpgeslagenStaatErNietIn) {
       1 MARR
       2 DATE 1875
       2 TYPE burgerlijk
+      0 @I2@ INDI
+      1 NAME Piet /Bos/
+      1 OCCU bakker
+      1 RELI RK
+      0 @F2@ FAM
+      1 HUSB @I2@
     )"),
             "");
   EXPECT_FALSE(std::filesystem::exists(RestPad()));
@@ -279,14 +285,42 @@ TEST_F(ImpRestTest, DeTekstIsUtf8UitElkeTekenset) {
   Importeer(Ged("0 @I1@ INDI\n1 XYZ Andr\xE9"));
   EXPECT_EQ(Kern(), "0 @I1@ INDI\n1 REFN 3\n1 XYZ André\n");
   Antwoord("Ja");
-  Importeer(Ged("0 @I1@ INDI\n1 XYZ André 中\n1 NAME 中 //\n1 NOTE 中\n2 CONT é\n1 NOTE é"));
-  EXPECT_EQ(Kern(), "0 @I1@ INDI\n1 REFN 4\n1 XYZ André 中\n1 NAME 中 //\n1 NOTE 中\n2 CONT é\n");
+  Importeer(
+      Ged("0 @I1@ INDI\n1 XYZ André 中\n1 NAME 中 //\n1 NOTE 中\n2 CONT é\n1 NOTE é\n1 NOTE a\n2 "
+          "CONC 中"));
+  EXPECT_EQ(Kern(),
+            "0 @I1@ INDI\n1 REFN 4\n1 XYZ André 中\n1 NAME 中 //\n1 NOTE 中\n2 CONT é\n1 NOTE a\n2 "
+            "CONC 中\n");
 }
 
-TEST_F(ImpRestTest, EenNaamDieInHetRecordLangerWordt) {
-  // the stored text has two characters for it
-  EXPECT_EQ(RestVan("0 @I1@ INDI\n1 NAME 12345678901234567890123456789\xC1 //\n"),
-            "0 @I1@ INDI\n1 REFN 2\n1 NAME 12345678901234567890123456789Á //\n");
+// The stored text has two characters for an accent that it does not know.
+TEST_F(ImpRestTest, EenTekstDieInHetRecordLangerWordt) {
+  const auto vol = [](std::size_t lengte) { return std::string(lengte - 2, 'x') + "\xC1y"; };
+  const auto utf8 = [](std::size_t lengte) { return std::string(lengte - 2, 'x') + "Áy"; };
+  EXPECT_EQ(RestVan("0 @I1@ INDI\n1 NAME " + vol(30) + " /" + vol(24) + "/\n1 OCCU " + vol(29) +
+                    "\n1 BIRT\n2 PLAC " + vol(24) + "\n0 @I2@ INDI\n1 NAME Jan /" + vol(25) +
+                    "/\n2 GIVN " + vol(29) + "\n1 OCCU " + vol(30) + "\n1 BIRT\n2 PLAC " + vol(25) +
+                    "\n1 NOTE " + vol(79) + "\n1 NOTE " + vol(80) +
+                    "\n0 @I3@ INDI\n1 NAME /Dam/\n2 GIVN " + vol(30)),
+            "0 @I1@ INDI\n1 REFN 2\n1 NAME " + utf8(30) + " /" + utf8(24) +
+                "/\n0 @I2@ INDI\n1 REFN 3\n1 NAME Jan /" + utf8(25) + "/\n1 OCCU " + utf8(30) +
+                "\n1 BIRT\n2 PLAC " + utf8(25) + "\n1 NOTE " + utf8(80) +
+                "\n0 @I3@ INDI\n1 REFN 4\n1 NAME /Dam/\n2 GIVN " + utf8(30) + "\n");
+}
+
+TEST_F(ImpRestTest, EenAdoptieInEenPeriodeEnEenSchema) {
+  EXPECT_EQ(RestVan(R"(
+      0 @M1@ SUBM
+      1 SCHEMA
+      2 INDI
+      0 @I1@ INDI
+      1 ADOP Y
+      2 DATE BET 1850 AND 1851
+      1 ADOP
+      2 DATE 1850/51
+    )"),
+            "0 @M1@ SUBM\n1 SCHEMA\n2 INDI\n0 @I1@ INDI\n1 REFN 2\n1 ADOP Y\n"
+            "2 DATE BET 1850 AND 1851\n1 ADOP\n2 DATE 1850/51\n");
 }
 
 TEST_F(ImpRestTest, DeRestZelfKanNietWordenIngelezen) {
