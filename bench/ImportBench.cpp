@@ -6,13 +6,16 @@
 #include <cstdint>
 #include <ctime>
 #include <fstream>
+#include <iterator>
 #include <limits>
 #include <string>
+#include <string_view>
 
 #include "GedcomMaker.h"
 #include "Inlezing.h"
 #include "KaalLezen.h"
 #include "Meetset.h"
+#include "exchange/RegelLezer.h"
 
 namespace lb77::bench {
 namespace {
@@ -21,6 +24,7 @@ constexpr std::uint64_t kZaad = 77;
 constexpr double kHoogsteVerhouding = 15;
 constexpr double kHoogsteMiB = 64;
 constexpr double kHoogsteJournaal = 1.10;
+constexpr double kHoogsteOmzetten = 2;
 constexpr int kGangen = 3;  // an import reads its file three times
 
 // What a task took: by the clock on the wall, and of the processor, which a busy machine leaves as
@@ -139,12 +143,63 @@ void BM_Journaal(benchmark::State& state) {
   if (met.MiB > kHoogsteJournaal * zonder.MiB) state.SkipWithError("meer dan 10% geheugen");
 }
 
+// The forms of a file that the conversion of Unicode is measured on.
+enum Vorm : std::int64_t { kAscii, kUtf8, kUtf16 };
+
+// The generated file with an accent on each of its letters e, a tenth of the text.
+std::string InUnicode(const std::filesystem::path& pad, Vorm vorm) {
+  std::ifstream bestand(pad, std::ios::binary);
+  std::string uit;
+  for (std::istreambuf_iterator<char> van(bestand), tot; van != tot; ++van) {
+    if (vorm == kUtf16) {
+      uit += *van == 'e' ? '\xE9' : *van;
+      uit += '\0';
+    } else if (vorm == kUtf8 && *van == 'e') {
+      uit += "\xC3\xA9";
+    } else {
+      uit += *van;
+    }
+  }
+  return uit;
+}
+
+std::size_t LeesMet(const std::filesystem::path& pad, Codering codering) {
+  RegelLezer lezer;
+  if (lezer.Open(pad)) return 0;
+  lezer.BeginMet(codering);
+  std::size_t tekens = 0;
+  std::string_view regel;
+  while (lezer.Volgende(regel)) tekens += regel.size();
+  return tekens;
+}
+
+// What the conversion of a Unicode file adds to its reading, beside a bare reading of it.
+void BM_Omzetten(benchmark::State& state) {
+  const TijdelijkeMap map;
+  const auto gedcom = map / "MEET.GED";
+  MaakGedcom(gedcom, 30000, 12000, kZaad);
+  const auto vorm = static_cast<Vorm>(state.range(0));
+  SchrijfBytes(gedcom, InUnicode(gedcom, vorm));
+  const Codering codering = vorm == kUtf16 ? Codering::Utf16Laag : Codering::Utf8;
+  const double kaal = Leestijd(gedcom, LeesKaal);
+  const double zonder =
+      Leestijd(gedcom, [](const auto& pad) { return LeesMet(pad, Codering::Bytes); });
+  double met = std::numeric_limits<double>::max();
+  for (auto _ : state) {
+    met = std::min(met, Leestijd(gedcom, [&](const auto& pad) { return LeesMet(pad, codering); }));
+  }
+  state.counters["ms"] = met * 1000;
+  state.counters["x_lezen"] = (met - zonder) / kaal;
+  if (met - zonder > kHoogsteOmzetten * kaal) state.SkipWithError("meer dan tweemaal lezen");
+}
+
 void Maten(benchmark::internal::Benchmark* proef) {
   proef->Args({3000, 1200})->Args({10000, 4000})->Args({30000, 12000});
   proef->Unit(benchmark::kMillisecond);
 }
 
 BENCHMARK(BM_KaalLezen)->Apply(Maten);
+BENCHMARK(BM_Omzetten)->Arg(kAscii)->Arg(kUtf8)->Arg(kUtf16)->Iterations(1);
 BENCHMARK(BM_Journaal)->Args({30000, 12000})->Iterations(9)->Unit(benchmark::kMillisecond);
 BENCHMARK(BM_Import)->Apply(Maten)->UseManualTime()->Complexity(benchmark::oN);
 

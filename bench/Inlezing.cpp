@@ -18,6 +18,7 @@ void LeesIn(const Meetset& set, const std::filesystem::path& gedcom, MetJournaal
   const Omgeving omgeving{paden.map.parent_path().parent_path(), klok, nergens, fout};
   Sessie sessie(omgeving, Instelling::VoorNu);
   bool gelukt = false;
+  sessie.bediener.HoudKlaar("ImpGedcom", Antwoord::Ja);
   sessie.bediener.Bij("ImpGedcom", [&](Formulier& form) {
     auto& import = dynamic_cast<ImpGedcom&>(form);
     import.Bestandsnaam.ZetPad(gedcom);

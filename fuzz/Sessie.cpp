@@ -67,7 +67,8 @@ void Sessie::MaakNieuw() {
   }
 }
 
-void Sessie::Importeer(const std::filesystem::path& gedcom) {
+void Sessie::Importeer(const std::filesystem::path& gedcom, Antwoord omzetten) {
+  bediener_.HoudKlaar("ImpGedcom", omzetten);
   bediener_.Bij("ImpGedcom", [&](Formulier& formulier) {
     dynamic_cast<Padvak&>(*formulier.Zoek("Bestandsnaam")).ZetPad(gedcom);
     Werk(bediener_, formulier).Druk("OKButton");

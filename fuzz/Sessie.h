@@ -34,8 +34,8 @@ class Sessie {
 
   // Writes record 1 of all four files.
   void MaakNieuw();
-  // Reads a GEDCOM file by the form of the program.
-  void Importeer(const std::filesystem::path& gedcom);
+  // Reads a GEDCOM file by the form of the program; one in Unicode is converted, or read as it stands.
+  void Importeer(const std::filesystem::path& gedcom, Antwoord omzetten = Antwoord::Ja);
 
   // How a report is asked; each bit is a choice of its dialog. A Parenteel by kBroersZussen is one by
   // generations.

@@ -28,10 +28,12 @@ void Bediener::MisluktUtf8(std::string_view reden) {
 // The last button of a box is the one that does nothing.
 Antwoord Bediener::Kies(Knoppen knoppen) {
   const std::vector<Antwoord> keuzen = Keuzen(knoppen);
+  const bool metNee = std::ranges::find(keuzen, Antwoord::Nee) != keuzen.end();
   const auto klaar = klaar_.find(open_.empty() ? std::string_view() : open_.back());
-  if (klaar == klaar_.end()) return keuzen.back();
+  const Antwoord zonder = lieverNee_ && metNee ? Antwoord::Nee : keuzen.back();
+  if (klaar == klaar_.end()) return zonder;
   const auto eerste = std::ranges::find_first_of(klaar->second, keuzen);
-  if (eerste == klaar->second.end()) return keuzen.back();
+  if (eerste == klaar->second.end()) return zonder;
   const Antwoord antwoord = *eerste;
   klaar->second.erase(eerste);
   return antwoord;

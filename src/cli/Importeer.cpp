@@ -21,6 +21,8 @@ int Importeer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
   const ImpGedcom* import = nullptr;
   bool gelukt = false;
   std::string reden = "Het bestand is niet ingelezen";
+  // A file in Unicode is converted.
+  sessie.bediener.HoudKlaar("ImpGedcom", Antwoord::Ja);
   sessie.bediener.Bij("ImpGedcom", [&](Formulier& form) {
     import = dynamic_cast<const ImpGedcom*>(&form);
     if (auto* veld = dynamic_cast<Padvak*>(form.Zoek("Bestandsnaam"))) {

@@ -22,6 +22,7 @@ int Parenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int IndexParenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int SchemaParenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Controle(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Contactdienst(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Verwantschap(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 // In Kaarten.cpp.
 int Personen(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
@@ -56,6 +57,7 @@ constexpr Opdracht kOpdrachten[] = {
     {"verwantschap", "zoekt hoe twee personen verwant zijn", {"SET", "PERSOON1", "PERSOON2"}, Extra::Tekstrapport, Verwantschap},
     {"selectie", "zoekt wat aan de keuzes van --zet voldoet: personen, relaties, plaatsen of opmerkingen", {"SET", "SOORT"}, Extra::Tekstrapport, Selectie},
     {"statistiek", "telt takken, families of een tijdbalk", {"SET", "SOORT"}, Extra::Tekstrapport, Statistiek},
+    {"contactdienst", "maakt de bestanden voor de HSK Contactdienst", {"SET"}, Extra::Tekstrapport, Contactdienst},
     {"zoek", "zoekt personen op een deel van hun naam", {"SET", "NAAM"}, Extra::Geen, Zoek},
     {"geschiedenis", "toont de bewerkingen van een set, of wat nummer N wijzigde", {"SET", "[N]"}, Extra::Geen, ToonGeschiedenis},
     {"ongedaan", "maakt de laatste bewerking ongedaan, of alle t/m nummer N", {"SET", "[N]"}, Extra::Geen, MaakOngedaan, false, true},

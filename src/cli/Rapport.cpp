@@ -1,6 +1,5 @@
 #include "cli/Rapport.h"
 
-#include <algorithm>
 #include <fstream>
 #include <optional>
 #include <ostream>
@@ -112,12 +111,7 @@ void Maker::VulIn(const RapportVorm& vorm, Formulier& form) {
     if (vulling.wat == Vulling::Niets) break;
     if (!Vul(werk, form, vulling)) goed = false;
   }
-  for (const std::string& zet : argumenten_.zet) {
-    if (!vorm.metZet) break;
-    const std::size_t teken = std::min(zet.find('='), zet.size());
-    const std::size_t achter = std::min(teken + 1, zet.size());
-    if (!werk.Zet(zet.substr(0, teken), zet.substr(achter))) goed = false;
-  }
+  if (vorm.metZet && !werk.ZetAlle(argumenten_.zet)) goed = false;
   if (goed) werk.Druk(vorm.knop);
 }
 

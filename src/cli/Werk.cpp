@@ -1,5 +1,8 @@
 #include "cli/Werk.h"
 
+#include <algorithm>
+#include <cstddef>
+
 #include "forms/Bijschrift.h"
 #include "script/Hand.h"
 #include "script/Verslag.h"
@@ -53,6 +56,16 @@ void Werk::Druk(std::string_view naam) {
 
 void Werk::Kies(std::string_view menuKeuze) {
   if (!formulier_.Gesloten()) static_cast<void>(Doe(InstructieSoort::Kies, menuKeuze, {}));
+}
+
+bool Werk::ZetAlle(std::span<const std::string> keuzen) {
+  bool goed = true;
+  for (const std::string& zet : keuzen) {
+    const std::size_t teken = std::min(zet.find('='), zet.size());
+    const std::size_t achter = std::min(teken + 1, zet.size());
+    if (!Zet(zet.substr(0, teken), zet.substr(achter))) goed = false;
+  }
+  return goed;
 }
 
 bool Werk::Zet(std::string_view naam, std::string_view waarde) {

@@ -1,6 +1,7 @@
 // What a user does on a form in an everyday command, by the names of its controls.
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -20,6 +21,8 @@ class Werk {
   // tick box or option. `waarde` is Windows-1252. False, and told, when the control did not take
   // all of it; also when the form has closed or another field holds the focus.
   [[nodiscard]] bool Zet(std::string_view naam, std::string_view waarde);
+  // The same for texts of the form NAAM=WAARDE. False when one of them was not taken.
+  [[nodiscard]] bool ZetAlle(std::span<const std::string> keuzen);
   void Druk(std::string_view naam);
   void Kies(std::string_view menuKeuze);
 

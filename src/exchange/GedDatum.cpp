@@ -5,6 +5,7 @@
 
 #include "exchange/GedBepaling.h"
 #include "exchange/GedDatumDeel.h"
+#include "exchange/GedDatumWoorden.h"
 #include "text/Getallen.h"
 #include "text/Maanden.h"
 #include "text/Tekens.h"
@@ -54,10 +55,12 @@ struct Lezing {
   GedDatumUitslag& uitslag;
 
   void Noteer(std::string_view fout) const {
+    uitslag.heel = false;
     uitslag.log.push_back(std::string(context).append(fout).append(gelezen));
   }
   [[nodiscard]] DatumDelen Deel(std::string_view tekst) const {
     const DatumDelen datum = GedDatumDeel(Trim(tekst));
+    if (!IsHeleDatum(Trim(tekst))) uitslag.heel = false;
     if (datum.dag != -1) return datum;
     Noteer(kOnbekend);
     return {};
@@ -73,6 +76,7 @@ void LeesDatums(std::string_view tekst, const Lezing& lezing) {
   } else if (en == std::string_view::npos) {
     uitslag.eerste = lezing.Deel(tekst);
   } else if (uitslag.corr != correctie::kTussen) {
+    uitslag.heel = false;
     uitslag.log.push_back("Fout in datum: AND zonder BETWEEN " + std::string(tekst));
   } else {
     uitslag.eerste = lezing.Deel(tekst.substr(0, en));
@@ -84,18 +88,22 @@ bool IsNegatief(const DatumDelen& datum) {
   return datum.dag < 0 || datum.jaar < 0;
 }
 
-}  // namespace
-
-GedDatumUitslag GedDatum(std::string_view tekst, std::string_view context) {
+// Reads `tekst`; log lines tell `gelezen`.
+GedDatumUitslag Lees(std::string_view tekst, std::string_view gelezen, std::string_view context) {
   GedDatumUitslag uitslag;
   const std::string groot = Hoofdletters(Trim(tekst));
   std::string_view rest = ZonderStaart(groot);
-  const Lezing lezing{tekst, context, uitslag};
+  const Lezing lezing{gelezen, context, uitslag};
   if (HeeftWoordAchteraan(groot, rest)) {
     lezing.Noteer(kOnbekend);
     return uitslag;
   }
-  if (rest.size() < kKortste) return uitslag;
+  const std::string_view staart = std::string_view(groot).substr(rest.size());
+  uitslag.heel = staart.empty() || staart == ".";
+  if (rest.size() < kKortste) {
+    uitslag.heel = groot.empty();
+    return uitslag;
+  }
   uitslag.corr = Bepaald(rest);
   if (uitslag.corr != correctie::kGeen) NeemBepalingAf(rest);
   LeesDatums(rest, lezing);
@@ -104,6 +112,18 @@ GedDatumUitslag GedDatum(std::string_view tekst, std::string_view context) {
   uitslag = {};
   lezing.Noteer(kOnbekend);
   return uitslag;
+}
+
+}  // namespace
+
+GedDatumUitslag GedDatum(std::string_view tekst, std::string_view context) {
+  return Lees(tekst, tekst, context);
+}
+
+GedDatumUitslag GedDatumOpnieuw(std::string_view tekst, std::string_view windows,
+                                std::string_view context, GedDatumUitslag eerder) {
+  GedDatumUitslag opnieuw = Lees(GedDatumWoorden(windows), tekst, context);
+  return opnieuw.log.size() < eerder.log.size() ? opnieuw : eerder;
 }
 
 std::string GedDatumTekst(const DatumDelen& datum) {

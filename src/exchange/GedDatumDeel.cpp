@@ -1,5 +1,6 @@
 #include "exchange/GedDatumDeel.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -62,6 +63,22 @@ DatumDelen GedDatumDeel(std::string_view tekst) {
     default:
       return kOnleesbaar;
   }
+}
+
+bool IsHeleDatum(std::string_view tekst) {
+  if (tekst.empty() || MetStreepjes(tekst)) return true;
+  std::string dicht(tekst);
+  std::erase(dicht, ' ');
+  const auto cijfers = [&dicht](std::size_t van) {
+    std::size_t tot = van;
+    while (tot < dicht.size() && IsCijfer(dicht[tot])) ++tot;
+    return tot - van;
+  };
+  const std::size_t dag = cijfers(0);
+  if (dag == dicht.size()) return dag == 3 || dag == 4;
+  if (dag > 2 || GedMaand(dicht.substr(dag, 3)) == 0) return false;
+  const std::size_t jaar = dicht.size() - std::min(dicht.size(), dag + 3);
+  return cijfers(dag + 3) == jaar && (jaar == 0 || jaar == 3 || jaar == 4);
 }
 
 }  // namespace lb77

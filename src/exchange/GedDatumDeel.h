@@ -11,4 +11,8 @@ namespace lb77 {
 // read; a part that is not given is 0.
 [[nodiscard]] DatumDelen GedDatumDeel(std::string_view tekst);
 
+// Does a date that could be read hold all of its text? Not so with a second year (‘1750/51’) and with
+// what the length alone let pass.
+[[nodiscard]] bool IsHeleDatum(std::string_view tekst);
+
 }  // namespace lb77

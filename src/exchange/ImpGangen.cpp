@@ -11,7 +11,11 @@ namespace {
 ImpUitslag Voer(int gang, ImpLoop& loop, RegelLezer& lezer) {
   lezer.Begin();
   if (gang == 1) return ImpAnalyse(loop, lezer);
-  if (gang == 2) return ImpRecords(loop).Voer(lezer);
+  if (gang == 2) {
+    ImpUitslag uitslag = ImpRecords(loop).Voer(lezer);
+    loop.tekens = lezer.Tekens();
+    return uitslag;
+  }
   // The counts are read once more: a file whose count is wrong is told of here too.
   static_cast<void>(loop.delen.persoon.AantalRecords());
   static_cast<void>(loop.delen.relatie.AantalRecords());

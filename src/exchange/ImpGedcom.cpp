@@ -11,6 +11,7 @@
 #include "app/Hoofdmodule.h"
 #include "app/Ongedaan.h"
 #include "exchange/EenmaalGesprek.h"
+#include "exchange/GedUnicode.h"
 #include "exchange/ImpGangen.h"
 #include "exchange/ImpTelling.h"
 #include "exchange/RegelLezer.h"
@@ -28,6 +29,8 @@ namespace lb77 {
 namespace {
 
 constexpr std::string_view kVoltooid = "Importeren voltooid";
+constexpr std::string_view kUnicodeVraag =
+    "Dit bestand is in Unicode opgeslagen. Omzetten naar de tekenset van het programma ?";
 
 // Moves at each write.
 std::uint64_t Schrijfstand(const Bestandenset& bestanden) {
@@ -192,8 +195,12 @@ ImpGedcom::Afloop ImpGedcom::Lees(const std::filesystem::path& bestand) {
   RegelLezer lezer;
   if (SysteemFout fout = lezer.Open(bestand)) return {.systeem = fout};
   const std::filesystem::path pad = LogPad();
-  // Reading from the log would empty it before a line of it was read.
-  if (IsZelfde(bestand, pad)) return {.systeem = FoutInGebruik()};
+  // Reading from the log would empty it before a line of it was read, and so would the rest.
+  const std::filesystem::path rest = VindPad(pad.parent_path() / kRestNaam);
+  for (const auto& uitvoer : {pad, rest, pad.parent_path() / kRestBezig}) {
+    if (IsZelfde(bestand, uitvoer)) return {.systeem = FoutInGebruik()};
+  }
+  KiesCodering(lezer);
   if (!Past(lezer, personen, relaties)) return {.gestopt = true};
   // A set from a DOS disk comes without it. What cannot be made shows itself at the log.
   std::error_code code;
@@ -208,11 +215,19 @@ ImpGedcom::Afloop ImpGedcom::Lees(const std::filesystem::path& bestand) {
                  hoofd_.schrijfwijze},
                 scherm},
                personen, relaties);
+  loop.omgezet = lezer.ZetOm();
+  loop.rest.Begin(rest, [&loop](std::string_view bron) { return loop.BronUtf8(bron); });
   const ImpUitslag uitslag = VoerGangen(loop, lezer);
   if (scherm.Afgebroken()) return {.afgebroken = true};
   if (uitslag.gestopt) return {.gestopt = true};
   if (lezer.Fout()) return {.systeem = lezer.Fout()};
   return {.systeem = Rond(uitslag, loop, log)};
+}
+
+void ImpGedcom::KiesCodering(RegelLezer& lezer) {
+  const Codering codering = CoderingVan(lezer);
+  const bool omzetten = codering != Codering::Bytes && hoofd_.gesprek.Vraag(kUnicodeVraag);
+  lezer.BeginMet(omzetten ? codering : Codering::Bytes);
 }
 
 bool ImpGedcom::Past(RegelLezer& lezer, std::int16_t personen, std::int16_t relaties) {
@@ -230,16 +245,31 @@ bool ImpGedcom::Past(RegelLezer& lezer, std::int16_t personen, std::int16_t rela
   return false;
 }
 
-SysteemFout ImpGedcom::Rond(const ImpUitslag& uitslag, const ImpLoop& loop, GedLog& log) {
+SysteemFout ImpGedcom::Rond(const ImpUitslag& uitslag, ImpLoop& loop, GedLog& log) {
   gelezenPersonen_ = loop.GedPersId.Aantal();
   gelezenRelaties_ = loop.GedRelId.Aantal();
   opmerkingenVol_ = loop.verliezen.IsVol();
   if (!uitslag.fout.empty()) hoofd_.gesprek.Waarschuw(uitslag.fout);
-  loop.verliezen.Noteer([&log](std::string_view regel) { log.Regel(regel); });
+  const auto noteer = [&log](std::string_view regel) { log.Regel(regel); };
+  loop.verliezen.Noteer(noteer);
+  SluitRest(loop.rest, log);
+  loop.tekens.Noteer(noteer);
   log.Regel(kVoltooid);
   Pass3box.Zet(true);
   gelukt_ = uitslag.fout.empty();
   return log.Sluit();
+}
+
+// A rest that could not be kept takes nothing from what was read.
+void ImpGedcom::SluitRest(ImpRest& rest, GedLog& log) {
+  const std::string naam(kRestNaam);
+  if (const SysteemFout fout = rest.Sluit()) {
+    log.Regel("LET OP: " + naam + " is niet geschreven: " + fout.tekst);
+    hoofd_.gesprek.Fout("Fout bij het schrijven van " + naam + "\n" + fout.tekst);
+  } else if (const std::int32_t aantal = rest.Aantal(); aantal > 0) {
+    log.Regel("LET OP: wat niet of niet heel is overgenomen staat in " + naam + ": " +
+              GetalTekst(aantal) + (aantal == 1 ? " regel" : " regels"));
+  }
 }
 
 void ImpGedcom::ToonGang(int nummer) {

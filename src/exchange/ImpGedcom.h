@@ -79,9 +79,12 @@ class ImpGedcom final : public Formulier {
   [[nodiscard]] Afloop LeesAlsHandeling(const std::filesystem::path& bestand);
   void VraagBehouden();
   [[nodiscard]] Afloop Lees(const std::filesystem::path& bestand);
+  // Asks whether a file in Unicode is to be converted; the reader stands at its first line then.
+  void KiesCodering(RegelLezer& lezer);
   // Shows what will be added. False, told, when the set has no room for it.
   [[nodiscard]] bool Past(RegelLezer& lezer, std::int16_t personen, std::int16_t relaties);
-  [[nodiscard]] SysteemFout Rond(const ImpUitslag& uitslag, const ImpLoop& loop, GedLog& log);
+  [[nodiscard]] SysteemFout Rond(const ImpUitslag& uitslag, ImpLoop& loop, GedLog& log);
+  void SluitRest(ImpRest& rest, GedLog& log);
   void ToonDoel();
   void ToonGang(int nummer);
   void StelVeilig();

@@ -1,11 +1,16 @@
 #include "exchange/ImpLoop.h"
 
 #include <cstddef>
+#include <utility>
 
 #include "exchange/GedGezindte.h"
 #include "exchange/GedPlaatsNaam.h"
+#include "text/Bestandstekst.h"
+#include "text/Dos437.h"
 #include "text/Getallen.h"
+#include "text/Gezindte.h"
 #include "text/Tekens.h"
+#include "text/Unicode.h"
 
 namespace lb77 {
 
@@ -54,6 +59,15 @@ std::int16_t ImpLoop::NieuweRelatie() {
   return ++laatsteRelatie_;
 }
 
+void ImpLoop::MerkBreedte(std::string_view windows, std::size_t breedte) {
+  // Stored text may take more room: what it has no character for is written with two.
+  if (!IsAscii(windows) && WindowsNaarDos(windows).size() > breedte) Merk();
+}
+
+std::string ImpLoop::BronUtf8(std::string_view bron) const {
+  return omgezet ? HeelUtf8(bron) : WindowsNaarUtf8(GedNaarWindows(tekenset, bron));
+}
+
 std::string ImpLoop::GedTekst(std::string_view tekst) {
   if (tekenset == GedTekenset::CP850) delen.melder.MeldDos850();
   return GedNaarWindows(tekenset, tekst);
@@ -61,6 +75,10 @@ std::string ImpLoop::GedTekst(std::string_view tekst) {
 
 GedDatumUitslag ImpLoop::Datum(std::string_view waarde) {
   GedDatumUitslag datum = GedDatum(waarde, context_);
+  if (!datum.log.empty()) {
+    const std::string windows = GedNaarWindows(tekenset, waarde);
+    datum = GedDatumOpnieuw(waarde, windows, context_, std::move(datum));
+  }
   for (const std::string& regel : datum.log) delen.melder.Log(regel);
   return datum;
 }
@@ -68,10 +86,14 @@ GedDatumUitslag ImpLoop::Datum(std::string_view waarde) {
 std::string ImpLoop::GedPlaats(std::string_view waarde) {
   const std::string tekst = GedTekst(Trim(waarde));
   const std::string_view naam = GedPlaatsNaam(tekst);
+  // What told that the place is not certain is lost.
+  if (naam != tekst) Merk();
   if (naam.empty()) return "0";
   if (naam.size() > kPlaatsnaam) TelVerlies(Verlies::Plaatsnaam);
+  MerkBreedte(naam, kPlaatsnaam);
   const std::int16_t nr = delen.plaats.NrOfNieuw(naam, "");
   if (nr > 0) return GetalTekst(nr);
+  Merk();
   Log(" - Plaats niet opgeslagen: " + std::string(naam));
   return "0";
 }
@@ -91,7 +113,12 @@ std::string ImpLoop::GedRelNr(std::string_view verwijzing) {
 }
 
 std::string ImpLoop::Gezindte(std::string_view waarde) {
-  return GedGezindte(GedTekst(Trim(waarde)), delen.schrijfwijze.gezindten);
+  const Gezindten& gezindten = delen.schrijfwijze.gezindten;
+  const std::string tekst = GedTekst(Trim(waarde));
+  std::string code = GedGezindte(tekst, gezindten);
+  // Of a word that the list does not have only the begin is stored.
+  if (tekst.size() > code.size() && GezindteCode(tekst, gezindten) != code) Merk();
+  return code;
 }
 
 }  // namespace lb77

@@ -1,6 +1,7 @@
 // One run of the import: what its three passes hand on to each other.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -11,7 +12,10 @@
 #include "exchange/GedRegel.h"
 #include "exchange/GedTekenset.h"
 #include "exchange/ImpMelder.h"
+#include "exchange/ImpRest.h"
+#include "exchange/ImpTekens.h"
 #include "exchange/ImpVerliezen.h"
+#include "exchange/Regelmerken.h"
 #include "store/Gegevens.h"
 
 namespace lb77 {
@@ -54,9 +58,18 @@ class ImpLoop {
   // Adds a log line: the context and what follows.
   void Log(std::string_view tekst) { delen.melder.Log(context_ + std::string(tekst)); }
 
-  // Counts a loss in the line at hand.
-  void TelVerlies(Verlies soort) { verliezen.Tel(soort, stand.regels); }
+  // Counts a loss in the line at hand, which is not stored whole then.
+  void TelVerlies(Verlies soort) {
+    verliezen.Tel(soort, stand.regels);
+    Merk();
+  }
+  // The line at hand is not stored, or not whole.
+  void Merk() { merken.Zet(stand.regels); }
+  // The same of one that gave a field a text, when the field has no room for all of it.
+  void MerkBreedte(std::string_view windows, std::size_t breedte);
 
+  // A line of the file in UTF-8.
+  [[nodiscard]] std::string BronUtf8(std::string_view bron) const;
   // A text of the file in Windows-1252.
   [[nodiscard]] std::string GedTekst(std::string_view tekst);
   // The value of a DATE line; what can't be read goes to the log.
@@ -73,8 +86,12 @@ class ImpLoop {
   GedIdTabel GedPersId;
   GedIdTabel GedRelId;
   GedTekenset tekenset = GedTekenset::Geen;
+  bool omgezet = false;  // the reader converts: no character set that the file names counts
   ImpStand stand;
   ImpVerliezen verliezen;
+  Regelmerken merken;  // of the lines that the second pass did not store whole
+  ImpRest rest;
+  ImpTekens tekens;  // lost in the lines of the second pass
 
  private:
   [[nodiscard]] std::string NrVan(const GedIdTabel& tabel, std::string_view verwijzing);

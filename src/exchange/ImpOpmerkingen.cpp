@@ -2,12 +2,15 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 
 #include "exchange/GedNaam.h"
 #include "exchange/GedRegel.h"
 #include "exchange/OpmAfbreken.h"
 #include "exchange/OpmTags.h"
 #include "store/Codes.h"
+#include "text/Bestandstekst.h"
+#include "text/Dos437.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"
 
@@ -32,11 +35,17 @@ constexpr std::array kTagwissels = {
     Tagwissel{"TEXT", ""},
 };
 constexpr std::string_view kNote = "NOTE";
+constexpr std::size_t kRegelBreedte = 80;
 // In which kinds of output an imported remark appears.
 // kept: a bit without a meaning is among them, and that of the Gezinsblad is not.
 constexpr std::int16_t kZonderBetekenis = 16;
 constexpr std::int16_t kBijProg =
     uitvoer::kKwartierstaat | uitvoer::kStamreeks | uitvoer::kGenealogie | kZonderBetekenis;
+
+// Stored text may take more room than its line has.
+bool PastInRecord(std::string_view regel) {
+  return IsAscii(regel) || WindowsNaarDos(regel).size() <= kRegelBreedte;
+}
 
 }  // namespace
 
@@ -54,23 +63,71 @@ ImpOpmerkingen::ImpOpmerkingen(ImpLoop& loop) : loop_(loop), rubrieken_(AlleOpmR
 
 ImpUitslag ImpOpmerkingen::Voer(RegelLezer& lezer) {
   loop_.BeginGang();
+  lezer_ = &lezer;
   std::string_view regel;
   while (!einde_ && lezer.Volgende(regel)) {
     loop_.TelRegel();
     const GedDelen delen = GedRegel(regel);
     if (!delen.fout.empty()) return {.fout = std::string(delen.fout)};
     ImpUitslag uitslag = delen.level == 0 ? NeemKop(delen) : NeemRegel(delen);
-    if (!uitslag.Gelukt()) return uitslag;
+    if (!uitslag.Gelukt()) {
+      LeesRest(lezer);
+      return uitslag;
+    }
   }
-  if (einde_) TelAchterSlot(lezer);
+  // A note that still waits goes nowhere.
+  loop_.rest.NootKwijt();
+  if (einde_) TelAchterSlot(lezer, loop_.stand.regels);
   return {};
 }
 
-void ImpOpmerkingen::TelAchterSlot(RegelLezer& lezer) {
-  std::string_view regel;
-  for (std::int32_t nr = loop_.stand.regels + 1; lezer.Volgende(regel); ++nr) {
-    if (!Trim(regel).empty()) loop_.verliezen.Tel(Verlies::AchterSlot, nr);
+void ImpOpmerkingen::TelAchterSlot(RegelLezer& lezer, std::int32_t regel) {
+  loop_.rest.BeginAchterSlot();
+  std::string_view tekst;
+  while (lezer.Volgende(tekst)) {
+    ++regel;
+    if (Trim(tekst).empty()) continue;
+    loop_.verliezen.Tel(Verlies::AchterSlot, regel);
+    loop_.rest.SchrijfAchterSlot(lezer.Bron());
   }
+}
+
+// No further note is stored: what the second pass left to this one is lost.
+void ImpOpmerkingen::LeesRest(RegelLezer& lezer) {
+  const ImpStand stand = loop_.stand;
+  std::string_view regel;
+  while (!einde_ && lezer.Volgende(regel)) {
+    ++loop_.stand.regels;
+    const GedDelen delen = GedRegel(regel);
+    if (!delen.fout.empty()) break;
+    const GedSoort soort = delen.level == 0 ? loop_.Kop(delen) : GedSoort::Anders;
+    einde_ = soort == GedSoort::Einde;
+    if (einde_) break;
+    NeemInRest(delen, soort);
+    SchrijfRest();
+  }
+  loop_.rest.BeginAchterSlot();
+  while (lezer.Volgende(regel)) {
+    if (!Trim(regel).empty()) loop_.rest.SchrijfAchterSlot(lezer.Bron());
+  }
+  loop_.stand = stand;
+}
+
+void ImpOpmerkingen::NeemInRest(const GedDelen& delen, GedSoort soort) {
+  const std::string_view bron = lezer_->Bron();
+  if (delen.level > 0) {
+    loop_.rest.Neem(delen.level, bron);
+    return;
+  }
+  std::int16_t nr = 0;
+  if (soort == GedSoort::Persoon) nr = loop_.PersoonNr();
+  if (soort == GedSoort::Relatie) nr = loop_.RelatieNr();
+  loop_.rest.NeemKop(bron, soort, nr);
+}
+
+// Of the line at hand, when it is no part of a note that waits.
+void ImpOpmerkingen::SchrijfRest() {
+  if (loop_.merken.Heeft(loop_.stand.regels) || lezer_->VerloorTekens()) loop_.rest.Schrijf();
 }
 
 ImpUitslag ImpOpmerkingen::NeemKop(const GedDelen& delen) {
@@ -78,12 +135,17 @@ ImpUitslag ImpOpmerkingen::NeemKop(const GedDelen& delen) {
   pad_.Zet(0, delen.tag);
   kwijt_ = delen.tag == kNote;
   if (kwijt_) loop_.TelVerlies(Verlies::NietOvergenomen);
-  einde_ = loop_.Kop(delen) == GedSoort::Einde;
+  const GedSoort soort = loop_.Kop(delen);
+  einde_ = soort == GedSoort::Einde;
+  if (einde_) return uitslag;
+  NeemInRest(delen, soort);
+  SchrijfRest();
   return uitslag;
 }
 
 ImpUitslag ImpOpmerkingen::NeemRegel(const GedDelen& delen) {
   if (IsVervolgTag(delen.tag)) {
+    NeemInRest(delen, GedSoort::Anders);
     NeemVervolg(delen);
     return {};
   }
@@ -94,16 +156,24 @@ ImpUitslag ImpOpmerkingen::NeemRegel(const GedDelen& delen) {
   const std::string& pad = pad_.Van(delen.level);
   if (pad == "INDI-NAME") ToonNaam(delen.waarde);
   ImpUitslag uitslag = Bewaar();
-  if (!uitslag.Gelukt()) return uitslag;
+  NeemInRest(delen, GedSoort::Anders);
+  if (!uitslag.Gelukt()) {
+    SchrijfRest();
+    return uitslag;
+  }
   Regel regel{pad_.Ouder(delen.level), pad, delen.tag, tag, {}, delen.waarde};
   if (gewisseld) regel.waarde = wissel->voor;
   regel.waarde += delen.waarde;
+  heel_ = !lezer_->VerloorTekens();
   if (!IsVreemd(regel.ouder)) {
     MaakOpmerking(regel);
     if (regel.tag == kNote) Wacht(regel);
   }
   kwijt_ = rubriek_ == 0 && regel.tag == kNote;
-  if (rubriek_ == 0) TelKwijt(regel.bron, regel.eigen);
+  if (rubriek_ == 0) {
+    TelKwijt(regel.bron, regel.eigen);
+    SchrijfRest();
+  }
   return {};
 }
 
@@ -123,14 +193,18 @@ bool ImpOpmerkingen::IsVreemd(std::string_view pad) const {
 
 void ImpOpmerkingen::NeemVervolg(const GedDelen& delen) {
   const std::string& ouder = pad_.Ouder(delen.level);
-  if (ouder.ends_with(kNote)) {
-    // Without a rubric the text goes nowhere; that of a note went with it.
-    if (rubriek_ == 0) {
-      if (!kwijt_ && !Trim(delen.waarde).empty()) loop_.TelVerlies(Verlies::Vervolg);
-      return;
-    }
+  const bool vanNoot = ouder.ends_with(kNote);
+  if (vanNoot && rubriek_ != 0) {
     if (delen.tag == "CONT") tekst_ += ' ';
     tekst_ += delen.waarde;
+    heel_ = heel_ && !lezer_->VerloorTekens();
+    loop_.rest.VervolgNoot();
+    return;
+  }
+  SchrijfRest();
+  if (vanNoot) {
+    // Without a rubric the text goes nowhere; that of a note went with it.
+    if (!kwijt_ && !Trim(delen.waarde).empty()) loop_.TelVerlies(Verlies::Vervolg);
   } else if (ouder != "SUBM" && ouder != "SUBM-ADDR") {
     loop_.delen.melder.Log("Vervolgregels worden alleen voor NOTES ondersteund...");
     std::string regel = "\t" + ouder + "-";
@@ -162,6 +236,8 @@ void ImpOpmerkingen::MaakOpmerking(Regel& regel) {
 
 std::string ImpOpmerkingen::AdoptieDatum(std::string_view waarde) {
   const GedDatumUitslag datum = loop_.Datum(waarde);
+  // The second date of a period has no place in the text.
+  heel_ = heel_ && datum.heel && datum.corr != correctie::kTussen;
   return std::string(1, datum.corr) + " " + GedDatumTekst(datum.eerste);
 }
 
@@ -171,10 +247,21 @@ void ImpOpmerkingen::Wacht(const Regel& regel) {
   tekst_ = rij != nullptr ? rij->voor : std::string_view();
   tekst_ += regel.waarde;
   regel_ = loop_.stand.regels;
+  if (rubriek_ != 0) loop_.rest.BeginNoot();
 }
 
 ImpUitslag ImpOpmerkingen::Bewaar() {
   if (rubriek_ == 0) return {};
+  ImpUitslag uitslag = BewaarNoot();
+  if (heel_ && uitslag.Gelukt()) {
+    loop_.rest.NootBewaard();
+  } else {
+    loop_.rest.NootKwijt();
+  }
+  return uitslag;
+}
+
+ImpUitslag ImpOpmerkingen::BewaarNoot() {
   PersoonLB77& persoon = loop_.delen.persoon;
   RelatieLB77& relatie = loop_.delen.relatie;
   if (rubriek_ > 0) {
@@ -190,8 +277,10 @@ ImpUitslag ImpOpmerkingen::Bewaar() {
 ImpUitslag ImpOpmerkingen::Schrijf(std::int16_t begin, std::int16_t persoon, std::int16_t relatie) {
   OpmLB77& opmerking = loop_.delen.opmerking;
   const std::string tekst = loop_.GedTekst(tekst_);
-  if (!PastGeheel(tekst)) loop_.verliezen.Tel(Verlies::OpmAfgekapt, regel_);
+  const bool geheel = PastGeheel(tekst);
+  if (!geheel) loop_.verliezen.Tel(Verlies::OpmAfgekapt, regel_);
   const OpmRegels regels = BreekAf(tekst);
+  heel_ = heel_ && geheel && std::ranges::all_of(regels, PastInRecord);
   const bool gelukt =
       opmerking.SchrijfOpmerking(regels, {}, 0, persoon, relatie, begin, kBijProg, rubriek_);
   rubriek_ = 0;

@@ -26,6 +26,9 @@ class ImpOpmerkingen {
 
   [[nodiscard]] ImpUitslag NeemKop(const GedDelen& delen);
   [[nodiscard]] ImpUitslag NeemRegel(const GedDelen& delen);
+  void NeemInRest(const GedDelen& delen, GedSoort soort);
+  void SchrijfRest();
+  void LeesRest(RegelLezer& lezer);
   void NeemVervolg(const GedDelen& delen);
   void MaakOpmerking(Regel& regel);
   void ToonNaam(std::string_view waarde);
@@ -33,16 +36,19 @@ class ImpOpmerkingen {
   [[nodiscard]] bool IsVreemd(std::string_view pad) const;
   void Wacht(const Regel& regel);
   void TelKwijt(std::string_view bron, std::string_view waarde);
-  void TelAchterSlot(RegelLezer& lezer);
+  void TelAchterSlot(RegelLezer& lezer, std::int32_t regel);
   [[nodiscard]] ImpUitslag Bewaar();
+  [[nodiscard]] ImpUitslag BewaarNoot();
   [[nodiscard]] ImpUitslag Schrijf(std::int16_t begin, std::int16_t persoon, std::int16_t relatie);
 
   ImpLoop& loop_;
+  const RegelLezer* lezer_ = nullptr;
   Padtabel<OpmRubriek> rubrieken_;
   GedPad pad_;
   std::string tekst_;         // of the note that waits, as the file has it
   std::int32_t regel_ = 0;    // in which that note begins
   std::int16_t rubriek_ = 0;  // of that note; 0 when none waits
+  bool heel_ = true;          // nothing of that note is lost already
   bool kwijt_ = false;        // the line at hand is a note that was not taken over
   bool einde_ = false;
 };

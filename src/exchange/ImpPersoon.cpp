@@ -37,12 +37,21 @@ char GeslachtVan(std::string_view waarde) {
   return letter == 'F' ? geslacht::kVrouw : geslacht::kOnbekend;
 }
 
+// A sex that the record can hold; none is not known.
+bool IsGeslacht(std::string_view waarde) {
+  const std::string_view woord = TrimLinks(waarde);
+  return woord.empty() ||
+         std::string_view("MFUNO?").find(Hoofdletter(woord.front())) != std::string_view::npos;
+}
+
 }  // namespace
 
 bool ImpPersoon::Begin(std::int16_t nr) {
   nr_ = nr;
   relaties_ = 0;
   gebCorr_ = ovlCorr_ = ' ';
+  velden_.Wis();
+  voorvoegsels_.clear();
   voornaam_.clear();
   achternaam_.clear();
   loop_.delen.volgers.HuidigPersoonNr = nr;
@@ -51,6 +60,18 @@ bool ImpPersoon::Begin(std::int16_t nr) {
 
 bool ImpPersoon::Bewaar() {
   return loop_.delen.persoon.Schrijf(nr_);
+}
+
+void ImpPersoon::ZetVeld(std::string_view veld, std::string_view waarde) {
+  velden_.Zet(veld, waarde, loop_.stand.regels,
+              [this](std::int32_t regel) { loop_.merken.Zet(regel); });
+  Zet(veld, waarde);
+}
+
+void ImpPersoon::RondAf() {
+  for (const Voorvoegsel& voorvoegsel : voorvoegsels_) {
+    if (!achternaam_.starts_with(voorvoegsel.tekst)) loop_.merken.Zet(voorvoegsel.regel);
+  }
 }
 
 bool ImpPersoon::Neem(const PersoonPad& pad, std::string_view waarde) {
@@ -63,7 +84,8 @@ bool ImpPersoon::Neem(const PersoonPad& pad, std::string_view waarde) {
       NeemNaamDeel(pad, waarde);
       break;
     case PersoonActie::Geslacht:
-      Zet(pad.veld, std::string(1, GeslachtVan(waarde)));
+      if (!IsGeslacht(waarde)) loop_.Merk();
+      ZetVeld(pad.veld, std::string(1, GeslachtVan(waarde)));
       break;
     case PersoonActie::GebDatum:
     case PersoonActie::DoopDatum:
@@ -77,21 +99,32 @@ bool ImpPersoon::Neem(const PersoonPad& pad, std::string_view waarde) {
       NeemPlaats(pad, waarde);
       break;
     case PersoonActie::Gezindte:
-      Zet(pad.veld, loop_.Gezindte(waarde));
+      ZetVeld(pad.veld, loop_.Gezindte(waarde));
       break;
     case PersoonActie::Beroep:
-      if (IsLanger(waarde, kBeroep)) loop_.TelVerlies(Verlies::Beroep);
-      Zet(pad.veld, loop_.GedTekst(Gesneden(waarde, kBeroep)));
+      NeemBeroep(pad, waarde);
       break;
     case PersoonActie::Ouders:
-      Zet(pad.veld, loop_.GedRelNr(waarde));
+      ZetVeld(pad.veld, loop_.GedRelNr(waarde));
       break;
     case PersoonActie::Relatie:
       return NeemRelatie(waarde);
     case PersoonActie::Niets:
+      if (pad.pad.ends_with("-SPFX")) NeemVoorvoegsel(waarde);
       break;
   }
   return true;
+}
+
+void ImpPersoon::NeemBeroep(const PersoonPad& pad, std::string_view waarde) {
+  if (IsLanger(waarde, kBeroep)) loop_.TelVerlies(Verlies::Beroep);
+  const std::string beroep = loop_.GedTekst(Gesneden(waarde, kBeroep));
+  loop_.MerkBreedte(beroep, kBeroep);
+  ZetVeld(pad.veld, beroep);
+}
+
+void ImpPersoon::NeemVoorvoegsel(std::string_view waarde) {
+  voorvoegsels_.push_back({loop_.stand.regels, GedNaarWindows(loop_.tekenset, Trim(waarde))});
 }
 
 void ImpPersoon::NeemNaam(const PersoonPad& pad, std::string_view waarde) {
@@ -103,15 +136,23 @@ void ImpPersoon::NeemNaam(const PersoonPad& pad, std::string_view waarde) {
   }
   loop_.stand.voornaam = loop_.GedTekst(naam.voornaam);
   loop_.stand.achternaam = loop_.GedTekst(naam.achternaam);
+  if (!Trim(naam.rest).empty()) loop_.Merk();
   if (naam.afgekapt) loop_.TelVerlies(Verlies::Naam);
   // One line, one loss.
   const bool ander =
       IsAnder(voornaam_, loop_.stand.voornaam) || IsAnder(achternaam_, loop_.stand.achternaam);
-  if (ander) loop_.TelVerlies(Verlies::Overschreven);
+  if (ander) TelOverschreven();
   voornaam_ = loop_.stand.voornaam;
   achternaam_ = loop_.stand.achternaam;
-  Zet("Voornaam", voornaam_);
-  Zet("Achternaam", achternaam_);
+  loop_.MerkBreedte(voornaam_, kVoornaam);
+  loop_.MerkBreedte(achternaam_, kAchternaam);
+  ZetVeld("Voornaam", voornaam_);
+  ZetVeld("Achternaam", achternaam_);
+}
+
+// The line at hand is counted; what was lost is that of an earlier one.
+void ImpPersoon::TelOverschreven() {
+  loop_.verliezen.Tel(Verlies::Overschreven, loop_.stand.regels);
 }
 
 void ImpPersoon::NeemNaamDeel(const PersoonPad& pad, std::string_view waarde) {
@@ -121,9 +162,10 @@ void ImpPersoon::NeemNaamDeel(const PersoonPad& pad, std::string_view waarde) {
   if (IsLanger(waarde, lengte)) loop_.TelVerlies(Verlies::Naam);
   getoond = loop_.GedTekst(Gesneden(waarde, lengte));
   std::string& opgeslagen = isVoornaam ? voornaam_ : achternaam_;
-  if (IsAnder(opgeslagen, getoond)) loop_.TelVerlies(Verlies::Overschreven);
+  if (IsAnder(opgeslagen, getoond)) TelOverschreven();
   opgeslagen = getoond;
-  Zet(pad.veld, getoond);
+  loop_.MerkBreedte(getoond, lengte);
+  ZetVeld(pad.veld, getoond);
 }
 
 void ImpPersoon::NeemDatum(const PersoonPad& pad, std::string_view waarde) {
@@ -135,19 +177,25 @@ void ImpPersoon::NeemDatum(const PersoonPad& pad, std::string_view waarde) {
   } else {
     ovlCorr_ = laatsteOvlCorr_ = datum.corr;
   }
-  if (geboorte) Zet("GebCorr", std::string(1, datum.corr));
-  if (overlijden) Zet("OvlCorr", std::string(1, datum.corr));
-  Zet(pad.veld, GedDatumTekst(datum.eerste));
+  const bool metCorr = geboorte || overlijden;
+  if (!datum.heel || (!metCorr && datum.corr != correctie::kGeen)) loop_.Merk();
+  if (geboorte) ZetVeld("GebCorr", std::string(1, datum.corr));
+  if (overlijden) ZetVeld("OvlCorr", std::string(1, datum.corr));
+  ZetVeld(pad.veld, GedDatumTekst(datum.eerste));
   if (datum.corr != correctie::kTussen) return;
   // The end of a period lies in the fields of the event behind it.
-  if (geboorte) Zet("DoopDatum", GedDatumTekst(datum.tweede));
-  if (overlijden) Zet("BegrDatum", GedDatumTekst(datum.tweede));
+  if (geboorte) ZetVeld("DoopDatum", GedDatumTekst(datum.tweede));
+  if (overlijden) ZetVeld("BegrDatum", GedDatumTekst(datum.tweede));
 }
 
 void ImpPersoon::NeemPlaats(const PersoonPad& pad, std::string_view waarde) {
-  if (pad.actie == PersoonActie::DoopPlaats && gebCorr_ == correctie::kTussen) return;
-  if (pad.actie == PersoonActie::BegrPlaats && ovlCorr_ == correctie::kTussen) return;
-  Zet(pad.veld, loop_.GedPlaats(waarde));
+  const bool vol = (pad.actie == PersoonActie::DoopPlaats && gebCorr_ == correctie::kTussen) ||
+                   (pad.actie == PersoonActie::BegrPlaats && ovlCorr_ == correctie::kTussen);
+  if (vol) {
+    loop_.Merk();
+  } else {
+    ZetVeld(pad.veld, loop_.GedPlaats(waarde));
+  }
 }
 
 bool ImpPersoon::NeemRelatie(std::string_view waarde) {
@@ -168,8 +216,9 @@ bool ImpPersoon::NeemRelatie(std::string_view waarde) {
       return ZetVijfde(relatie);
     case 6:
       loop_.delen.melder.Waarschuw("Meer dan 5 relaties voor Persoon " + GetalTekst(nr_));
-      return true;
+      [[fallthrough]];
     default:
+      loop_.Merk();
       return true;
   }
 }

@@ -4,8 +4,10 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "exchange/ImpLoop.h"
+#include "exchange/ImpVelden.h"
 #include "exchange/PersoonPaden.h"
 
 namespace lb77 {
@@ -17,6 +19,8 @@ class ImpPersoon {
 
   // Reads the empty record. False after a failure, which its class has told, as all here.
   [[nodiscard]] bool Begin(std::int16_t nr);
+  // No line of it follows any more.
+  void RondAf();
   // Writes the record.
   [[nodiscard]] bool Bewaar();
   // Takes a line over; `pad` is its row, `waarde` what stands behind its tag.
@@ -28,6 +32,9 @@ class ImpPersoon {
  private:
   void NeemNaam(const PersoonPad& pad, std::string_view waarde);
   void NeemNaamDeel(const PersoonPad& pad, std::string_view waarde);
+  void NeemBeroep(const PersoonPad& pad, std::string_view waarde);
+  void NeemVoorvoegsel(std::string_view waarde);
+  void TelOverschreven();
   void NeemDatum(const PersoonPad& pad, std::string_view waarde);
   void NeemPlaats(const PersoonPad& pad, std::string_view waarde);
   [[nodiscard]] bool NeemRelatie(std::string_view waarde);
@@ -36,11 +43,19 @@ class ImpPersoon {
   void Zet(std::string_view veld, std::string_view waarde) {
     loop_.delen.persoon.Zet(veld, waarde);
   }
+  // The same from the line at hand, which is lost when a later one gives the field something else.
+  void ZetVeld(std::string_view veld, std::string_view waarde);
 
   ImpLoop& loop_;
   std::int16_t nr_ = 0;
   int relaties_ = 0;
-  std::string voornaam_;  // as stored so far
+  struct Voorvoegsel {
+    std::int32_t regel;
+    std::string tekst;
+  };
+  ImpVelden velden_;
+  std::vector<Voorvoegsel> voorvoegsels_;  // which the surname should hold, too
+  std::string voornaam_;                   // as stored so far
   std::string achternaam_;
   char gebCorr_ = ' ';
   char ovlCorr_ = ' ';

@@ -13,6 +13,7 @@ namespace lb77 {
 namespace {
 
 constexpr std::string_view kSchema = "SUBM-SCHEMA";
+constexpr std::string_view kVoorvoegsel = "INDI-NAME-SPFX";
 // Whose value is no loss: the third pass has it, the name holds it too, or it tells of the file.
 constexpr std::array<std::string_view, 3> kZonderVerlies = {"ADDR", "SPFX", "DATE"};
 
@@ -40,15 +41,27 @@ ImpUitslag ImpRecords::Voer(RegelLezer& lezer) {
     pad_.Zet(delen.level, delen.tag);
     if (!(delen.level == 0 ? NeemKop(delen) : NeemRegel(delen))) return {.gestopt = true};
   }
+  // Without an end the last record keeps no field.
+  if (!einde_ && (InPersoon() || InRelatie())) MerkVanaf(kop_ + 1);
   return {};
 }
 
+void ImpRecords::MerkVanaf(std::int32_t regel) {
+  for (; regel <= loop_.stand.regels; ++regel) loop_.merken.Zet(regel);
+}
+
 bool ImpRecords::NeemKop(const GedDelen& delen) {
-  return BewaarRecord() && BeginRecord(loop_.Kop(delen));
+  if (!BewaarRecord()) return false;
+  kop_ = loop_.stand.regels;
+  if (!Trim(delen.waarde).empty()) loop_.Merk();
+  return BeginRecord(loop_.Kop(delen));
 }
 
 bool ImpRecords::BewaarRecord() {
-  if (InPersoon()) return persoon_.Bewaar();
+  if (InPersoon()) {
+    persoon_.RondAf();
+    return persoon_.Bewaar();
+  }
   return !InRelatie() || relatie_.Bewaar();
 }
 
@@ -68,10 +81,15 @@ bool ImpRecords::NeemRegel(GedDelen delen) {
     delen.tag = "BIRT";
     pad_.Zet(delen.level, delen.tag);
   }
-  if (IsVoorOpmerkingen(delen.tag)) return true;
+  if (IsVoorOpmerkingen(delen.tag)) {
+    // An adoption is told by what stands below it.
+    if (delen.tag != "ADOP" || !Trim(delen.waarde).empty()) loop_.Merk();
+    return true;
+  }
   const std::string& ouder = pad_.Ouder(delen.level);
   const std::string& pad = pad_.Van(delen.level);
   if (ouder == kSchema) {
+    loop_.Merk();
     LogEenmaal(schemaGemeld_, " - SCHEMA tags worden niet geïnterpreteerd: "_w, pad);
     return true;
   }
@@ -79,20 +97,33 @@ bool ImpRecords::NeemRegel(GedDelen delen) {
   // A level that was skipped may leave a path of a record that is not being built any more.
   if (groep == Groep::Persoon && InPersoon()) {
     if (const auto* rij = persoonPaden_.Zoek(pad)) {
-      if (rij->actie == PersoonActie::Niets) TelTekst(delen);
+      if (rij->actie == PersoonActie::Niets) {
+        TelTekst(delen);
+        if (rij->pad != kVoorvoegsel) MerkNiets(delen);
+      }
       return persoon_.Neem(*rij, delen.waarde);
     }
   } else if (groep == Groep::Relatie && InRelatie()) {
     if (const auto* rij = relatiePaden_.Zoek(pad)) {
-      if (rij->actie == RelatieActie::Niets) TelTekst(delen);
+      if (rij->actie == RelatieActie::Niets) {
+        TelTekst(delen);
+        MerkNiets(delen);
+      }
       return relatie_.Neem(*rij, delen.waarde, persoon_.LaatsteOvlCorr());
     }
   } else if (const auto* rij = overigePaden_.Zoek(pad)) {
     NeemOverig(rij->actie, delen.waarde);
+    if (rij->actie != OverigeActie::Tekenset) MerkNiets(delen);
     return true;
   }
+  loop_.Merk();
   LogOnbekend(groep, delen);
   return true;
+}
+
+// A line that is passed over is a loss when it says anything by itself.
+void ImpRecords::MerkNiets(const GedDelen& delen) {
+  if (!Trim(delen.waarde).empty()) loop_.Merk();
 }
 
 // A line that is there for those below it has no value but Y: the event took place.
@@ -106,7 +137,7 @@ void ImpRecords::TelTekst(const GedDelen& delen) {
 void ImpRecords::NeemOverig(OverigeActie actie, std::string_view waarde) {
   switch (actie) {
     case OverigeActie::Tekenset:
-      loop_.tekenset = GedTekensetVan(waarde);
+      if (!loop_.omgezet) loop_.tekenset = GedTekensetVan(waarde);
       break;
     case OverigeActie::BronNaam:
       loop_.stand.bron = loop_.GedTekst(waarde);

@@ -1,6 +1,7 @@
 // The second pass of the import: the records get their fields and links.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -31,6 +32,8 @@ class ImpRecords {
   [[nodiscard]] bool BeginRecord(GedSoort soort);
   [[nodiscard]] bool NeemRegel(GedDelen delen);
   void TelTekst(const GedDelen& delen);
+  void MerkNiets(const GedDelen& delen);
+  void MerkVanaf(std::int32_t regel);
   void NeemOverig(OverigeActie actie, std::string_view waarde);
   [[nodiscard]] bool InPersoon() const { return loop_.Context().starts_with("P-"); }
   [[nodiscard]] bool InRelatie() const { return loop_.Context().starts_with("R-"); }
@@ -45,6 +48,7 @@ class ImpRecords {
   Padtabel<RelatiePad> relatiePaden_;
   Padtabel<OverigPad> overigePaden_;
   GedPad pad_;
+  std::int32_t kop_ = 0;  // the line of the record that is being built
   bool einde_ = false;
   bool schemaGemeld_ = false;
   bool eigenTagGemeld_ = false;

@@ -4,6 +4,7 @@
 
 #include "store/Codes.h"
 #include "text/Getallen.h"
+#include "text/Tekens.h"
 
 namespace lb77 {
 
@@ -19,13 +20,26 @@ std::string KindVeld(int slot) {
   return "Kind" + GetalTekst(slot);
 }
 
+// Does the value say no more than that the event took place?
+bool IsBevestiging(std::string_view waarde) {
+  waarde = Trim(waarde);
+  return waarde.empty() || waarde == "Y";
+}
+
 }  // namespace
 
 bool ImpRelatie::Begin(std::int16_t nr) {
   nr_ = nr;
   kinderen_ = 0;
+  velden_.Wis();
   loop_.delen.volgers.HuidigRelatieNr = nr;
   return loop_.delen.relatie.Lees(nr);
+}
+
+void ImpRelatie::ZetVeld(std::string_view veld, std::string_view waarde) {
+  velden_.Zet(veld, waarde, loop_.stand.regels,
+              [this](std::int32_t regel) { loop_.merken.Zet(regel); });
+  Zet(veld, waarde);
 }
 
 bool ImpRelatie::Bewaar() {
@@ -33,10 +47,10 @@ bool ImpRelatie::Bewaar() {
 }
 
 bool ImpRelatie::Neem(const RelatiePad& pad, std::string_view waarde, char laatsteOvlCorr) {
-  if (!pad.vooraf.empty()) Zet(pad.vooraf, pad.waarde);
+  if (!pad.vooraf.empty()) ZetVeld(pad.vooraf, pad.waarde);
   switch (pad.actie) {
     case RelatieActie::Persoon:
-      Zet(pad.veld, loop_.GedPersNr(waarde));
+      ZetVeld(pad.veld, loop_.GedPersNr(waarde));
       break;
     case RelatieActie::Datum:
     case RelatieActie::HuwDatum:
@@ -44,14 +58,16 @@ bool ImpRelatie::Neem(const RelatiePad& pad, std::string_view waarde, char laats
       NeemDatum(pad, waarde, laatsteOvlCorr);
       break;
     case RelatieActie::Plaats:
-      Zet(pad.veld, loop_.GedPlaats(waarde));
+      ZetVeld(pad.veld, loop_.GedPlaats(waarde));
       break;
     case RelatieActie::Gezindte:
-      Zet(pad.veld, loop_.Gezindte(waarde));
+      ZetVeld(pad.veld, loop_.Gezindte(waarde));
       break;
     case RelatieActie::Kind:
       return NeemKind(waarde);
     case RelatieActie::Bond:
+      if (!IsBevestiging(waarde)) loop_.Merk();
+      break;
     case RelatieActie::Niets:
       break;
   }
@@ -60,12 +76,14 @@ bool ImpRelatie::Neem(const RelatiePad& pad, std::string_view waarde, char laats
 
 void ImpRelatie::NeemDatum(const RelatiePad& pad, std::string_view waarde, char laatsteOvlCorr) {
   const GedDatumUitslag datum = loop_.Datum(waarde);
-  Zet(pad.veld, GedDatumTekst(datum.eerste));
+  // No qualifier is stored.
+  if (!datum.heel || datum.corr != correctie::kGeen) loop_.Merk();
+  ZetVeld(pad.veld, GedDatumTekst(datum.eerste));
   if (pad.actie == RelatieActie::Datum) return;
   // kept: a marriage looks at the last death or burial, not at its own date, and the qualifier
   // itself is not stored.
   const char corr = pad.actie == RelatieActie::HuwDatumEigen ? datum.corr : laatsteOvlCorr;
-  if (corr == correctie::kTussen) Zet("KHuwDatum", GedDatumTekst(datum.tweede));
+  if (corr == correctie::kTussen) ZetVeld("KHuwDatum", GedDatumTekst(datum.tweede));
 }
 
 bool ImpRelatie::NeemKind(std::string_view waarde) {
@@ -73,11 +91,12 @@ bool ImpRelatie::NeemKind(std::string_view waarde) {
   const int nummer = ++kinderen_;
   if (nummer <= kInHoofdrecord) {
     Zet(KindVeld(nummer), kind);
-  } else if (nummer == kInHoofdrecord + 1) {
-    return MaakVervolg(kind);
-  } else if (nummer <= kHoogsteKind) {
-    return ZetInVervolg(kind);
-  } else if (nummer == kHoogsteKind + 1) {
+    return true;
+  }
+  if (nummer == kInHoofdrecord + 1) return MaakVervolg(kind);
+  if (nummer <= kHoogsteKind) return ZetInVervolg(kind);
+  loop_.Merk();
+  if (nummer == kHoogsteKind + 1) {
     loop_.delen.melder.Waarschuw("Meer dan 29 kinderen voor Relatie " + GetalTekst(nr_));
   }
   return true;

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "exchange/ImpLoop.h"
+#include "exchange/ImpVelden.h"
 #include "exchange/RelatiePaden.h"
 
 namespace lb77 {
@@ -30,10 +31,13 @@ class ImpRelatie {
   void Zet(std::string_view veld, std::string_view waarde) {
     loop_.delen.relatie.Zet(veld, waarde);
   }
+  // The same from the line at hand, which is lost when a later one gives the field something else.
+  void ZetVeld(std::string_view veld, std::string_view waarde);
 
   ImpLoop& loop_;
   std::int16_t nr_ = 0;
   int kinderen_ = 0;
+  ImpVelden velden_;
 };
 
 }  // namespace lb77

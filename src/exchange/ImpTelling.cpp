@@ -53,8 +53,10 @@ bool IsPlaats(PersoonActie actie) {
 // Follows the lines as the passes do.
 class Teller {
  public:
-  explicit Teller(Namen bekend)
+  // `windows`: the lines are in Windows-1252, whatever the file says.
+  Teller(Namen bekend, bool windows)
       : bekend_(std::move(bekend)),
+        windows_(windows),
         personen_(AllePersoonPaden()),
         relaties_(AlleRelatiePaden()),
         overige_(AlleOverigePaden()) {}
@@ -80,7 +82,7 @@ class Teller {
   void NeemRegel(const GedDelen& delen) {
     if (delen.tag == "PLAC") {
       if (IsPlaatsregel(pad_.Van(delen.level))) NeemPlaats(delen.waarde);
-    } else if (delen.tag == "CHAR") {
+    } else if (delen.tag == "CHAR" && !windows_) {
       const auto* rij = overige_.Zoek(pad_.Van(delen.level));
       if (rij && rij->actie == OverigeActie::Tekenset) tekenset_ = GedTekensetVan(delen.waarde);
     }
@@ -105,6 +107,7 @@ class Teller {
   static constexpr std::size_t kPlaatsnaam = plaatsveld::Naam.breedte;
 
   Namen bekend_;
+  bool windows_;
   Padtabel<PersoonPad> personen_;
   Padtabel<RelatiePad> relaties_;
   Padtabel<OverigPad> overige_;
@@ -121,7 +124,7 @@ std::string Aantal(int aantal, std::string_view een, std::string_view meer) {
 
 ImpTelling TelImport(RegelLezer& lezer, RecordBestand& plaatsen) {
   SysteemFout fout;
-  Teller teller(Bekend(plaatsen, fout));
+  Teller teller(Bekend(plaatsen, fout), lezer.ZetOm());
   std::string_view regel;
   while (lezer.Volgende(regel) && teller.Neem(regel)) {
   }

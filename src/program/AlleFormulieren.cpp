@@ -10,10 +10,10 @@ namespace {
 std::vector<FormulierRij> Verzameld() {
   std::vector<FormulierRij> uit;
   for (std::span<const FormulierRij> (*gebied)() :
-       {formulieren::App, formulieren::Exchange, formulieren::Output, formulieren::Entry,
-        formulieren::Ancestors, formulieren::Descendants, formulieren::Gezinsbladen,
-        formulieren::Checks, formulieren::Correctie, formulieren::Rapporten,
-        formulieren::Lijsten}) {
+       {formulieren::App, formulieren::Exchange, formulieren::Contact, formulieren::Output,
+        formulieren::Entry, formulieren::Ancestors, formulieren::Descendants,
+        formulieren::Gezinsbladen, formulieren::Checks, formulieren::Correctie,
+        formulieren::Rapporten, formulieren::Lijsten}) {
     const std::span<const FormulierRij> rijen = gebied();
     uit.insert(uit.end(), rijen.begin(), rijen.end());
   }

@@ -24,6 +24,7 @@
 #include "checks/CorrOpmAdm.h"
 #include "checks/CorrPlts.h"
 #include "checks/CorrVraag.h"
+#include "contact/ExpGCI.h"
 #include "descendants/GenPrs.h"
 #include "descendants/GezinSchPrs.h"
 #include "entry/StartRecord.h"
@@ -74,6 +75,7 @@ void Programma::HangOp() {
   menu_.Hang("SetupToetsen", [this, &gesprek] { gesprek.Toon<IniFunctie>(hoofd_); });
   menu_.Hang("SetupSysteem", [this, &gesprek] { gesprek.Toon<IniSysteem>(hoofd_); });
   menu_.Hang("InvPersRel", [this] { ToonPersonenEnRelaties(hoofd_); });
+  menu_.Hang("ExpHSK", [this] { static_cast<void>(ExporteerContact(hoofd_)); });
   menu_.Hang("ImportGedcom", [this, &gesprek] { gesprek.Toon<ImpGedcom>(hoofd_); });
   menu_.Hang("ViewTekst", [this, &gesprek] { gesprek.Toon<BekijkTekst>(hoofd_); });
   menu_.Hang("TekstKwst", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstTxtPrs, hoofd_); });

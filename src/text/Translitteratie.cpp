@@ -1,5 +1,6 @@
 #include "text/Translitteratie.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 
@@ -122,15 +123,44 @@ constexpr bool LigtInEen(const std::array<Bereik, N>& bereiken, char32_t codepun
   return false;
 }
 
-// The word at place `nr` (from 0); empty when there are fewer.
-std::string_view Woord(std::string_view woorden, char32_t nr) {
-  for (; nr > 0; --nr) {
-    const std::size_t blank = woorden.find(' ');
-    if (blank == std::string_view::npos) return {};
-    woorden.remove_prefix(blank + 1);
+// Calls `neem` with each character that has a word, and the word.
+template <class Neem>
+consteval void Doorloop(const Neem& neem) {
+  for (const Woordenreeks& reeks : kReeksen) {
+    char32_t codepunt = reeks.vanaf;
+    for (std::size_t begin = 0; begin < reeks.woorden.size(); ++codepunt) {
+      std::size_t eind = begin;
+      while (eind < reeks.woorden.size() && reeks.woorden[eind] != ' ') ++eind;
+      const bool leeg = eind == begin + 1 && reeks.woorden[begin] == '?';
+      if (!leeg) neem(codepunt, reeks.woorden.substr(begin, eind - begin));
+      begin = eind + 1;
+    }
   }
-  return woorden.substr(0, woorden.find(' '));
 }
+
+consteval std::size_t TelWoorden() {
+  std::size_t aantal = 0;
+  Doorloop([&aantal](char32_t, std::string_view) { ++aantal; });
+  return aantal;
+}
+
+struct Woord {
+  char32_t codepunt = 0;
+  std::string_view woord;
+};
+
+// All words, in the order of their characters.
+consteval auto MaakWoorden() {
+  std::array<Woord, TelWoorden()> woorden{};
+  std::size_t plaats = 0;
+  Doorloop([&](char32_t codepunt, std::string_view woord) {
+    if (plaats > 0 && woorden[plaats - 1].codepunt >= codepunt) throw "the rows are out of order";
+    woorden[plaats++] = {codepunt, woord};
+  });
+  return woorden;
+}
+
+constexpr auto kWoorden = MaakWoorden();
 
 }  // namespace
 
@@ -138,12 +168,8 @@ std::optional<std::string_view> Translitteratie(char32_t codepunt) {
   if (LigtInEen(kZonderBreedte, codepunt)) return std::string_view();
   if (LigtInEen(kBlanks, codepunt)) return std::string_view(" ");
   if (LigtIn(kVolleBreedte, codepunt)) return EnkelTeken(codepunt - kVolleBreedteAfstand);
-  for (const Woordenreeks& reeks : kReeksen) {
-    // No row is longer than the 256 points of its block.
-    if (codepunt < reeks.vanaf || codepunt - reeks.vanaf >= 256) continue;
-    const std::string_view woord = Woord(reeks.woorden, codepunt - reeks.vanaf);
-    if (!woord.empty() && woord != "?") return woord;
-  }
+  const auto* const rij = std::ranges::lower_bound(kWoorden, codepunt, {}, &Woord::codepunt);
+  if (rij != kWoorden.end() && rij->codepunt == codepunt) return rij->woord;
   return std::nullopt;
 }
 

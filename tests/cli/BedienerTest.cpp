@@ -59,6 +59,16 @@ TEST_F(BedienerToets, VragenKrijgenNeeOfAnnulerenEnWordenGemeld) {
   EXPECT_EQ(bediener_.Status(), 0);
 }
 
+TEST_F(BedienerToets, LieverNeeDanAnnulerenWaarBeideKunnen) {
+  bediener_.LieverNee();
+  const auto vraag = [this](Knoppen knoppen) {
+    return bediener_.Bericht(BerichtSoort::Vraag, knoppen, "Doorgaan?");
+  };
+  EXPECT_EQ(vraag(Knoppen::JaNeeAnnuleren), Antwoord::Nee);
+  EXPECT_EQ(vraag(Knoppen::JaNee), Antwoord::Nee);
+  EXPECT_EQ(vraag(Knoppen::OKAnnuleren), Antwoord::Annuleren);
+}
+
 TEST_F(BedienerToets, EenAntwoordDatKlaarligtIsVoorEenVraag) {
   const auto vraag = [this](Knoppen knoppen) {
     return bediener_.Bericht(BerichtSoort::Uitroep, knoppen, "Nieuw?");

@@ -41,11 +41,28 @@ TEST_F(ImporteerVolToets, EenVolOpmerkingenbestandZegtWatWelIsOpgeslagen) {
   EXPECT_EQ(Doe("importeer", argumenten), 1);
   EXPECT_EQ(uit_,
             "Opmerkingen vanaf persoon 5 zijn niet opgeslagen: het maximum van 32767 records is "
-            "bereikt\nImporteren voltooid\n");
+            "bereikt\n"
+            "LET OP: wat niet of niet heel is overgenomen staat in GEDCOM.RST: 1 regel\n"
+            "Importeren voltooid\n");
   EXPECT_NE(
       fout_.find("Opgeslagen zijn 2 personen en 1 relaties, en een deel van de opmerkingen\n"),
       std::string::npos)
       << fout_;
+}
+
+class ImporteerUnicodeToets : public OpdrachtToets {};
+
+TEST_F(ImporteerUnicodeToets, EenBestandInUnicodeWordtOmgezet) {
+  MaakFamilie(
+      "\xEF\xBB\xBF"
+      "0 HEAD\n0 @I1@ INDI\n1 NAME Zoë /中/\n0 TRLR\n");
+  EXPECT_NE(fout_.find("Omzetten naar de tekenset van het programma ? -> Ja\n"), std::string::npos);
+  EXPECT_EQ(uit_,
+            "LET OP: wat niet of niet heel is overgenomen staat in GEDCOM.RST: 1 regel\n"
+            "LET OP: teken U+4E2D niet overgenomen: 1 keer, voor het eerst in regel 3\n"
+            "Importeren voltooid\n");
+  EXPECT_EQ(Doe("toon", {"familie", "2"}), 0) << fout_;
+  EXPECT_NE(uit_.find("Zoë"), std::string::npos);
 }
 
 }  // namespace

@@ -23,7 +23,10 @@ constexpr std::string_view kGeenHeader = "Fout: Header van GEDCOM-bestand niet g
 
 TEST_F(ImpAnalyseTest, EenLeegBestand) {
   Geweigerd("", "GEDCOM Fout: Leeg bestand");
-  Geweigerd("\xEF\xBB\xBF", "GEDCOM Fout: Leeg bestand");
+  for (const char* antwoord : {"Ja", "Nee"}) {
+    Antwoord(antwoord);
+    Geweigerd("\xEF\xBB\xBF", "GEDCOM Fout: Leeg bestand");
+  }
   EXPECT_EQ(Aantallen(), "1 1 1 1");
 }
 

@@ -37,7 +37,9 @@ TEST_F(ImpLoopTest, Codepagina437WordtOnderBeideNamenOmgezet) {
 
 TEST_F(ImpLoopTest, AndereSetsLatenDeTekstZoalsHijIs) {
   for (const std::string_view set : {"ASCII", "WIN", "ANSI", "UTF-8", ""}) {
+    if (set == "UTF-8") Antwoord("Nee");
     Importeer(GedIn(set, "0 @I1@ INDI\n1 NAME Andr\xE9 //"));
+    Antwoord("");
   }
   for (std::int16_t nr = 2; nr <= 6; ++nr) EXPECT_EQ(Persoon(nr), "voor Andr\xE9");
 }

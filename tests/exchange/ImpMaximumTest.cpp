@@ -1,6 +1,8 @@
 // Files that no number is left for: the run ends in order, and what was stored stays readable.
 #include <gtest/gtest.h>
 
+#include "app/Start.h"
+#include "exchange/ImpGedcom.h"
 #include "exchange/ImportToets.h"
 #include "store/OpmVelden.h"
 #include "store/PersoonVelden.h"
@@ -101,6 +103,10 @@ TEST_F(ImpMaximum, VollePlaatsenWordenEenmaalGemeldEnBekendeGevonden) {
     )"),
             "! stop \"Het maximum van 10000 plaatsen is bereikt\"\n");
   EXPECT_EQ(LogRegels(), "P-I1 - Plaats niet opgeslagen: Bb\nP-I2 - Plaats niet opgeslagen: Cc\n");
+  EXPECT_EQ(
+      Rest(),
+      "0 HEAD\n1 CHAR UTF-8\n0 @I1@ INDI\n1 REFN 2\n1 DEAT\n2 PLAC Bb\n0 @I2@ INDI\n1 REFN 3\n"
+      "1 BIRT\n2 PLAC Cc\n0 TRLR\n");
   EXPECT_EQ(Persoon(2), "te 10000");
   EXPECT_EQ(Persoon(3), "te 2; te 10000");
   EXPECT_EQ(Plaats(2), "Delft");
@@ -118,17 +124,54 @@ TEST_F(ImpMaximum, OpmerkingenDiePassenWordenOpgeslagenEnDeImportStopt) {
       1 NAME Piet //
       1 NOTE een
       1 NOTE twee
+      2 CONT lang
+      1 XYZ iets
       1 NOTE drie
       0 @I2@ INDI
       1 NOTE vier
-    )"),
+      0 @F1@ FAM
+      1 NOTE vijf
+    )") + "1 NOTE zes\n",
             std::string(kMaximum) + "! uitroep \"Schrijffout bij Persoon 3\"");
   EXPECT_EQ(Persoon(3), "voor Piet; opm 4096");
   EXPECT_EQ(OpmBijPersoon(3), "4096 een\n");
   EXPECT_EQ(OpmBijPersoon(2), "4096 oud\n");
   EXPECT_EQ(LogRegels(),
+            "P-I1 - Onbekende tag: INDI-XYZ : iets\n"
             "Opmerkingen vanaf persoon 3 zijn niet opgeslagen: het maximum van 32767 records is "
             "bereikt\n");
+  // What no longer fitted is kept, on the line that failed and behind it.
+  EXPECT_EQ(Rest(),
+            "0 HEAD\n1 CHAR UTF-8\n0 @I1@ INDI\n1 REFN 3\n1 NOTE twee\n2 CONT lang\n1 XYZ iets\n"
+            "1 NOTE drie\n0 @I2@ INDI\n1 REFN 4\n1 NOTE vier\n0 @F1@ FAM\n1 REFN 2\n1 NOTE vijf\n"
+            "0 NOTE achter TRLR\n1 NOTE zes\n0 TRLR\n");
+}
+
+TEST_F(ImpMaximum, DeTellingBlijftWaarDeOpmerkingenOphielden) {
+  Bouw().OpmerkingBijPersoon(Bouw().Man("Jan", "Jansen"), 4096, {"oud"});
+  Vul("OPM", 96, opmveld::Rubriek.plaats, 32767, 0);
+  InSessie([](Hoofdmodule& hoofd) {
+    ASSERT_TRUE(hoofd.Opmerking.LeesAdmin());
+    ASSERT_TRUE(hoofd.Opmerking.SchrijfAdm(32767, 0, 32766));
+  });
+  SchrijfBytes(Bestand(), Ged("0 @I1@ INDI\n1 NOTE een\n0 @I2@ INDI\n0 @I3@ INDI"));
+  const Taak taak = [](Hoofdmodule& hoofd) {
+    ASSERT_TRUE(Start(hoofd));
+    ImpGedcom form(hoofd);
+    hoofd.gesprek.ToonModaal(form);
+  };
+  Verwacht(
+      "vul Bestandsnaam " + Bestand().string() +
+          "\ndruk OKButton\ndruk BackButton\ntoon RegelNr\ntoon AantalPersonen\ndruk BackButton",
+      taak, "+ ImpGedcom \"Importeer Gegevens - Gedcom\"\n" + std::string(kMaximum) + R"(
+      ! uitroep "Schrijffout bij Persoon 3"
+      ! info "Importeren voltooid"
+      + ToonTekst "Importeren - Resultaat"
+      - ToonTekst
+      = RegelNr "4"
+      = AantalPersonen "2"
+      - ImpGedcom
+    )");
 }
 
 }  // namespace

@@ -71,5 +71,16 @@ TEST_F(Telling, TeltEenPlaatsZoalsHijWordtOpgeslagen) {
             "Erbij komen 1 persoon, 0 relaties en 1 plaats");
 }
 
+TEST_F(Telling, InEenOmgezetBestandTeltDeNaamVanDeTekensetNiet) {
+  Importeer(Ged("0 @I1@ INDI\n1 BIRT\n2 PLAC \xC5s"));
+  SchrijfBytes(Bestand(), GedIn("ANSEL", "0 @I1@ INDI\n1 BIRT\n2 PLAC \xC3\x85s"));
+  InSessie([&](Hoofdmodule& hoofd) {
+    RegelLezer lezer;
+    ASSERT_FALSE(lezer.Open(Bestand()));
+    lezer.BeginMet(Codering::Utf8);
+    EXPECT_EQ(TelImport(lezer, hoofd.bestanden.Bestand(BestandSoort::Plaatsen)).plaatsen, 0);
+  });
+}
+
 }  // namespace
 }  // namespace lb77

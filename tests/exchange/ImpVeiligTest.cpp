@@ -15,7 +15,8 @@ class ImpVeilig : public ImportToets {
   void Speel(std::string_view draaiboek, std::string_view verslag,
              const std::function<void(Hoofdmodule&)>& daarna = {},
              const Plek& plek = Plek::current()) {
-    SchrijfBytes(Bestand(), Ged("0 @I1@ INDI\n1 NAME Jan //\n1 BIRT\n2 PLAC Delft\n0 @F1@ FAM"));
+    SchrijfBytes(Bestand(),
+                 Ged("0 @I1@ INDI\n1 NAME Jan //\n1 BIRT\n2 PLAC Delft\n1 XYZ iets\n0 @F1@ FAM"));
     const Taak taak = [this, &daarna](Hoofdmodule& hoofd) {
       ASSERT_TRUE(Start(hoofd));
       hoofd.ActieveSetNaam = "PROEF";
@@ -54,6 +55,8 @@ TEST_F(ImpVeilig, WatHalverwegeIsIngelezenGaatMetNeeWeerWeg) {
           R"(? vraag Ja/Nee "Wat is ingelezen behouden ?" -> Nee
              - ImpGedcom)");
     EXPECT_EQ(Aantallen(), "1 1 1 1");
+    EXPECT_FALSE(std::filesystem::exists(TekstMap() / "GEDCOM.RST"));
+    EXPECT_FALSE(std::filesystem::exists(TekstMap() / "GEDCOM.RS~"));
   }
 }
 

@@ -151,7 +151,9 @@ TEST_F(ImpVerliezenTest, DeRegelsStaanVoorHetSlotEnAchterDeAndere) {
             "P-I1 - Onbekende tag: INDI-XYZ : iets\r\n"
             "P-I1 - Onbekende tag: INDI-NOTE-SOUR-PAGE : c\r\n"
             "LET OP: verwijzing naar een record dat er niet is: 1 keer, voor het eerst in regel "
-            "4\r\nImporteren voltooid\r\n");
+            "4\r\n"
+            "LET OP: wat niet of niet heel is overgenomen staat in GEDCOM.RST: 3 regels\r\n"
+            "Importeren voltooid\r\n");
 }
 
 }  // namespace

@@ -133,17 +133,27 @@ void ImportToets::Importeer(std::string_view bytes, std::string_view gemeld, con
 void ImportToets::ImporteerMet(std::string_view bytes, std::string_view verslag, bool metViewer,
                                const Plek& plek) {
   SchrijfBytes(Bestand(), bytes);
-  const std::string draaiboek = "vul Bestandsnaam " + Bestand().string() + "\ndruk OKButton\n" +
-                                (metViewer ? "druk BackButton\n" : "") + "druk BackButton\n";
+  std::string draaiboek = "vul Bestandsnaam " + Bestand().string() + "\n";
+  std::string vraag;
+  if (!antwoord_.empty()) {
+    draaiboek += "antwoord " + antwoord_ + "\n";
+    vraag =
+        "\n? vraag Ja/Nee \"Dit bestand is in Unicode opgeslagen. Omzetten naar de tekenset van "
+        "het "
+        "programma ?\" -> " +
+        antwoord_;
+  }
+  draaiboek +=
+      std::string("druk OKButton\n") + (metViewer ? "druk BackButton\n" : "") + "druk BackButton\n";
   const Taak taak = [](Hoofdmodule& hoofd) {
     ASSERT_TRUE(Start(hoofd));
     ImpGedcom form(hoofd);
     hoofd.gesprek.ToonModaal(form);
   };
-  Verwacht(
-      draaiboek, taak,
-      "+ ImpGedcom \"Importeer Gegevens - Gedcom\"\n" + std::string(verslag) + "\n- ImpGedcom\n",
-      plek);
+  Verwacht(draaiboek, taak,
+           "+ ImpGedcom \"Importeer Gegevens - Gedcom\"" + vraag + "\n" + std::string(verslag) +
+               "\n- ImpGedcom\n",
+           plek);
 }
 
 std::string ImportToets::Log() const {
@@ -155,6 +165,14 @@ std::string ImportToets::LogRegels() const {
   std::erase(uit, '\r');
   constexpr std::string_view kSlot = "Importeren voltooid\n";
   if (uit.ends_with(kSlot)) uit.resize(uit.size() - kSlot.size());
+  const std::size_t rest = uit.rfind("LET OP: wat niet of niet heel is overgenomen staat in ");
+  if (rest != std::string::npos) uit.erase(rest, uit.find('\n', rest) + 1 - rest);
+  return uit;
+}
+
+std::string ImportToets::Rest() const {
+  std::string uit = LeesBytes(TekstMap() / "GEDCOM.RST");
+  std::erase(uit, '\r');
   return uit;
 }
 

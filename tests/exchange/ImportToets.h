@@ -28,8 +28,11 @@ class ImportToets : public FamilieToets {
 
   // The log as the dialog wrote it.
   [[nodiscard]] std::string Log() const;
-  // The lines of the log without their ends, each ended by a line feed, without the closing line.
+  // The lines of the log, each ended by a line feed, without the closing line and the one that tells
+  // of the rest file.
   [[nodiscard]] std::string LogRegels() const;
+  // The lines of the rest file, each ended by a line feed; empty without one.
+  [[nodiscard]] std::string Rest() const;
 
   // What one record holds, fields that are empty left out; a remark or place by its text.
   [[nodiscard]] std::string Persoon(std::int16_t nr);
@@ -44,8 +47,14 @@ class ImportToets : public FamilieToets {
   [[nodiscard]] std::filesystem::path Bestand() const { return Map() / "IN.GED"; }
   [[nodiscard]] std::filesystem::path TekstMap() const { return Map() / "PROEF" / "TEKST"; }
 
+  // The files of the imports from here on are Unicode; the question whether to convert gets this.
+  void Antwoord(std::string_view antwoord) { antwoord_ = antwoord; }
+
   // A session with the settings read, as the program starts.
   void InSessie(const Taak& taak);
+
+ private:
+  std::string antwoord_;
 };
 
 }  // namespace lb77

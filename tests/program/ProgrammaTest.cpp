@@ -154,6 +154,8 @@ TEST_F(Programmaloop, ElkeKeuzeDieTeKiezenIsToontZijnFormulier) {
       sluit
       kies ImportGedcom
       sluit
+      kies ExpHSK
+      sluit
       bestand
       kies ViewTekst
       kies AboutLB77
@@ -181,6 +183,8 @@ TEST_F(Programmaloop, ElkeKeuzeDieTeKiezenIsToontZijnFormulier) {
       - IniSysteem
       + ImpGedcom "Importeer Gegevens - Gedcom"
       - ImpGedcom
+      + ExpGCIParam "Exporteer in HSK Contactdienst formaat (GCI)"
+      - ExpGCIParam
       > openen "Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt|GEDCOM-bestanden (*.GED)|*.GED" -> -
       + OverLB77Form "Over LB77 voor Windows"
       - OverLB77Form

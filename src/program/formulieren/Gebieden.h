@@ -12,6 +12,7 @@ namespace lb77::formulieren {
 
 [[nodiscard]] std::span<const FormulierRij> App();
 [[nodiscard]] std::span<const FormulierRij> Exchange();
+[[nodiscard]] std::span<const FormulierRij> Contact();
 [[nodiscard]] std::span<const FormulierRij> Output();
 [[nodiscard]] std::span<const FormulierRij> Entry();
 [[nodiscard]] std::span<const FormulierRij> Ancestors();

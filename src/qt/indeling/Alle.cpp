@@ -9,8 +9,8 @@ std::vector<Indeling> Alle() {
   std::vector<Indeling> uit;
   for (std::vector<Indeling> (*gebied)() :
        {Sets, Instellen, Zoeken, Kaarten, Plaatsen, Wijzigen, Koppelen, Opmerkingen, Bekijken,
-        Kwartierstaat, Genealogie, Gezinsblad, Uitwisseling, Veiligheid, Controle, Correctie,
-        Rapporten, Lijsten}) {
+        Kwartierstaat, Genealogie, Gezinsblad, Uitwisseling, Contact, Veiligheid, Controle,
+        Correctie, Rapporten, Lijsten}) {
     std::vector<Indeling> deel = gebied();
     uit.insert(uit.end(), std::make_move_iterator(deel.begin()),
                std::make_move_iterator(deel.end()));

@@ -21,6 +21,7 @@ namespace lb77::indeling {
 [[nodiscard]] std::vector<Indeling> Gezinsblad();
 [[nodiscard]] std::vector<Indeling> Genealogie();
 [[nodiscard]] std::vector<Indeling> Uitwisseling();
+[[nodiscard]] std::vector<Indeling> Contact();
 [[nodiscard]] std::vector<Indeling> Veiligheid();
 [[nodiscard]] std::vector<Indeling> Controle();
 [[nodiscard]] std::vector<Indeling> Correctie();
