@@ -14,6 +14,7 @@
 #include "entry/ToonPlaatsen.h"
 #include "entry/ToonRelatie.h"
 #include "entry/VolgersBewaker.h"
+#include "forms/Hersteld.h"
 #include "forms/Kaart.h"
 #include "text/Getallen.h"
 
@@ -83,7 +84,7 @@ void Bevindingen::VulLijst() {
   for (const BevindingLijst::Regel& regel : lijst_.Regels()) {
     if (!regel.hersteld) ++open;
     if (gekozen && *gekozen != regel.bevinding.soort) continue;
-    rijen.push_back((regel.hersteld ? "[hersteld] " : "") + regel.bevinding.tekst);
+    rijen.push_back(std::string(regel.hersteld ? kHersteld : "") + regel.bevinding.tekst);
     getoond_.push_back(regel.bevinding);
   }
   BevindingenLijst.ZetRijen(std::move(rijen));

@@ -4,14 +4,17 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFocusEvent>
+#include <QFont>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QStringList>
+#include <cstddef>
 #include <string>
 #include <vector>
 
+#include "forms/Hersteld.h"
 #include "qt/Stijl.h"
 #include "qt/Vertaling.h"
 
@@ -139,8 +142,19 @@ class KeuzelijstElement final : public Element {
       rijen_ = lijst_.Rijen();
       vak_.clear();
       vak_.addItems(Vertaald(rijen_));
+      HaalHersteldeDoor();
     }
     if (vak_.currentRow() != lijst_.Index()) vak_.setCurrentRow(lijst_.Index());
+  }
+
+  void HaalHersteldeDoor() {
+    QFont door = vak_.font();
+    door.setStrikeOut(true);
+    for (int rij = 0; rij < vak_.count(); ++rij) {
+      if (rijen_[static_cast<std::size_t>(rij)].starts_with(kHersteld)) {
+        vak_.item(rij)->setFont(door);
+      }
+    }
   }
 
   Lijst& lijst_;

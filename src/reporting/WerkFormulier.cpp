@@ -34,7 +34,9 @@ void WerkFormulier::BijActiveren() {
   if (begin_ == WerkBegin::Vanzelf) Begin();
 }
 
+// A wish to stop the run before is none to stop this one.
 void WerkFormulier::Begin() {
+  WisStop();
   ZetBezig(true);
   Werk();
   ZetBezig(false);

@@ -44,7 +44,6 @@ void SchemaVerwantschap::Werk() {
   }
   VerwantRapport rapport(Hoofd(), MaakUitvoer(regels));
   ZetBezig(false);
-  WisStop();
   rapport.ZetTitel("Schema Verwantschap");
   Hoofd().gesprek.ToonModaal(rapport);
 }

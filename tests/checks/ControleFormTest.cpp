@@ -6,8 +6,10 @@
 #include <iterator>
 #include <set>
 
+#include "app/Start.h"
 #include "checks/ControleForm.h"
 #include "checks/ControleSessie.h"
+#include "steun/BezigKijker.h"
 #include "steun/Gouden.h"
 #include "store/Rubrieken.h"
 
@@ -175,6 +177,16 @@ TEST_F(ControleFormToets, DeTellerTeltOokVervolgrecords) {
   EXPECT_EQ(geteld_, "1");
   Rapport(kControleOpm);
   EXPECT_EQ(geteld_, "2");
+}
+
+TEST_F(ControleFormToets, AchterHetVerslagIsDeControleNietMeerBezig) {
+  BouwGoed();
+  BezigKijker kijker;
+  Sessie([](Hoofdmodule& hoofd) {
+    ASSERT_TRUE(Start(hoofd));
+    hoofd.gesprek.Toon<ControleForm>(kControlePrs, hoofd);
+  })(kijker);
+  EXPECT_EQ(kijker.Gezien(), "ToonTekst ");
 }
 
 TEST_F(ControleFormToets, DeVolgersBlijvenStaan) {

@@ -76,6 +76,12 @@ TEST_F(ControleOpm, EenEigenaarDieErNietIsOfEenVervolgrecordIs) {
                           "Opmerking 6 verwijst niet naar R-3"));
 }
 
+TEST_F(ControleOpm, EenEigenaarOnderNulIsErGeen) {
+  BouwOpmerkingen();
+  WijzigOpm(2, {{"BijRecord", "-2"}});
+  EXPECT_THAT(Regels(), ElementsAre("Opmerking 2 verwijst niet naar P-2"));
+}
+
 TEST_F(ControleOpm, EenRegelVanEenAndereRubriekHoortErNietBij) {
   BouwOpmerkingen();
   WijzigOpm(4, {{"Rubriek", std::to_string(persoonrubriek::kBeroep)}});
@@ -111,6 +117,18 @@ TEST_F(ControleOpm, EenKringEnEenVerkeerdeSchakelEindigen) {
                                     "Opmerking 4 verwijst niet naar P2"));
   WijzigOpm(2, {{"BijZelfde", "-7"}, {"VolgRegel", "-7"}});
   EXPECT_EQ(Regels().size(), 2u);
+}
+
+// As when records of the list are tested again on a file that was cut meanwhile.
+TEST_F(ControleOpm, AchterHetLaatsteRecordIsNietsOpgezocht) {
+  for (int i = 0; i < 90; ++i) bouw_.OpmerkingBijPersoon(2, persoonrubriek::kBeroep, {"een"});
+  ControleOpmRegels regels(bron_);
+  regels.Begin(3);
+  Zinnenlijst gevonden;
+  for (const std::int16_t nr : {std::int16_t{3}, std::int16_t{91}}) {
+    regels.Toets(nr, [&](const Bevinding& een) { gevonden.push_back(een.tekst); });
+  }
+  EXPECT_THAT(gevonden, ElementsAre("Opmerking 91 verwijst niet naar P2"));
 }
 
 TEST_F(ControleOpm, DeKaartVanEenBevindingIsDieVanDeEigenaar) {

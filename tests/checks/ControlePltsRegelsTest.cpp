@@ -148,5 +148,14 @@ TEST_F(ControlePlts, EenVolgendeGangZietDeBestandenZoalsZeDanZijn) {
   EXPECT_THAT(Bevindingen(regels), IsEmpty());
 }
 
+TEST_F(ControlePlts, EenVolgendeGangKentDeOudeNamenNietMeer) {
+  bouw_.Plaats("Delft", "ZH");
+  bouw_.Plaats("Delft", "NH");
+  ControlePltsRegels regels(bron_, Alleen(kDubbel));
+  EXPECT_EQ(Bevindingen(regels).size(), 1u);
+  EXPECT_TRUE(set_.Plaats.Wijzig(3, {{"Plaatsnaam", "Leiden"}}));
+  EXPECT_THAT(Bevindingen(regels), IsEmpty());
+}
+
 }  // namespace
 }  // namespace lb77

@@ -138,6 +138,17 @@ TEST_F(ControlePrs, EenOnbekendeOfOnleesbareOuderGeeftGeenRegel) {
   EXPECT_THAT(Regels(Alleen(kLeeftijdOuders)), IsEmpty());
 }
 
+// Damaged: such a year tells no age.
+TEST_F(ControlePrs, EenJaarOnderNulIsGeenLeeftijd) {
+  BouwGezin("", "");
+  bouw_.WijzigPersoon(2, {{"GebJaar", "-100"}});
+  bouw_.WijzigPersoon(3, {{"GebJaar", "-110"}});
+  bouw_.WijzigPersoon(4, {{"GebJaar", "-90"}});
+  EXPECT_THAT(Regels(Alleen(kLeeftijdOuders)), IsEmpty());
+  bouw_.WijzigPersoon(2, {{"BegrDatum", "00-00-1850"}});
+  EXPECT_THAT(Regels(), IsEmpty());
+}
+
 TEST_F(ControlePrs, EenRelatieVanDeOudersDieErNietIs) {
   Kind("00-00-1800");
   Kind("");

@@ -144,6 +144,17 @@ TEST_F(ControleRel, ZonderJaarVanHuwelijkOfGeboorteIsErNietsTeZeggen) {
                                     "Relatie 2: Vrouw jonger dan 18 jaar"));
 }
 
+// Damaged: such a year tells no age.
+TEST_F(ControleRel, EenJaarOnderNulIsGeenLeeftijd) {
+  BouwPaar("", "", {{"WetHuwJaar", "5"}});
+  bouw_.WijzigPersoon(2, {{"GebJaar", "-5"}});
+  bouw_.WijzigPersoon(3, {{"GebJaar", "-30"}});
+  EXPECT_THAT(Regels(), IsEmpty());
+  bouw_.WijzigRelatie(2, {{"WetHuwJaar", "-5"}});
+  bouw_.WijzigPersoon(2, {{"GebJaar", "1800"}});
+  EXPECT_THAT(Regels(), IsEmpty());
+}
+
 TEST_F(ControleRel, VijftienJaarVerschilMagNog) {
   BouwPaar("00-00-1800", "00-00-1815", {{"WHuwDatum", "00-00-1845"}});
   EXPECT_THAT(Regels(), IsEmpty());

@@ -152,6 +152,15 @@ TEST_P(CorrAdmTest, EenGatHoudtDeTellingNietTegen) {
   SpeeltHier("toon gevonden_aantal\ndruk BackButton", "= gevonden_aantal \"4\"");
 }
 
+// It can be read, and is mended by what is written over it.
+TEST_P(CorrAdmTest, EenAfgebrokenLaatsteRecordTeltMee) {
+  const std::filesystem::path pad = PadVanSoort(SetPaden::Van(Map(), "PROEF"), Soort());
+  std::string bytes = LeesBytes(pad);
+  bytes.pop_back();
+  SchrijfBytes(pad, bytes);
+  SpeeltHier("toon gevonden_aantal\ndruk BackButton", "= gevonden_aantal \"4\"");
+}
+
 // The system does not give its bytes, but it lies there.
 TEST_P(CorrAdmTest, EenOnleesbaarLaatsteRecordTeltMee) {
   MaakOnleesbaar(Soort(), 5);

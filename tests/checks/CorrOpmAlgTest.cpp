@@ -258,6 +258,14 @@ TEST_F(CorrOpmAlgTest, OokVanEenVrijRecordMoetHetNummerBijDeAndereSoortBestaan) 
   EXPECT_EQ(Bytes(), voor);
 }
 
+// A damaged number that nobody touches stays, and keeps nobody from mending another.
+TEST_F(CorrOpmAlgTest, EenEigenaarDieErNietIsHoudtEenAndereReparatieNietTegen) {
+  ZetGetal(kOpm, 2, opmveld::BijRecord, 99);
+  const Beeld voor = Bytes();
+  SpeeltOp(2, "vul VolgRegelTekst 5\ndruk OKButton", "");
+  VerwachtAlleen(voor, kOpm, 2, {{opmveld::VolgRegel, 5}});
+}
+
 TEST_F(CorrOpmAlgTest, WatNietTeLezenIsGaatNietOpen) {
   for (const int nr : {-1, 0, 1, 6}) {
     Verwacht("", Opmerking(static_cast<std::int16_t>(nr)),

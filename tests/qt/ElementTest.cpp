@@ -166,6 +166,23 @@ TEST_F(ElementTest, EenKeuzelijstVolgtMuisEnDubbelklik) {
   EXPECT_THAT(vorm.log, testing::Contains("dubbel Kieslijst"));
 }
 
+TEST_F(ElementTest, EenRijDieHersteldIsWordtDoorgehaald) {
+  vorm.Kieslijst.ZetRijen({"aap", "[hersteld] noot", "mies [hersteld] "});
+  Bekijk([&] {
+    const auto doorgehaald = [this] {
+      auto& lijst = Vind<QListWidget>("Kieslijst");
+      std::vector<bool> uit;
+      for (int rij = 0; rij < lijst.count(); ++rij) {
+        uit.push_back(lijst.item(rij)->font().strikeOut());
+      }
+      return uit;
+    };
+    EXPECT_THAT(doorgehaald(), ElementsAre(false, true, false));
+    Verander([&] { vorm.Kieslijst.ZetRijen({"[hersteld] aap", "noot"}); });
+    EXPECT_THAT(doorgehaald(), ElementsAre(true, false));
+  });
+}
+
 TEST_F(ElementTest, DeFocusAlleenKiestNietsInEenKeuzelijst) {
   vorm.Kieslijst.ZetRijen({"aap", "noot", "mies"});
   vorm.ZetEersteVeld(vorm.Vak);

@@ -106,6 +106,13 @@ TEST_F(KaartenTest, SchadeGeeftEenKaartMetWatErIs) {
       << relatie;
 }
 
+TEST_F(KaartenTest, EenNummerOnderNulStaatInGeenRij) {
+  const auto jan = bouw_.Man("Jan", "Smit", {{"Relatie1", "-4"}, {"Relatie2", "2"}});
+  const auto gezin = bouw_.Relatie(0, 0, {}, {{"Kind1", "5"}, {"Kind2", "-7"}, {"Kind3", "6"}});
+  EXPECT_NE(Persoon(jan).find("\nEigen relatie(s) : 2\n"), std::string::npos) << Persoon(jan);
+  EXPECT_NE(Relatie(gezin).find("\nKind(eren)       : 5 6\n"), std::string::npos) << Relatie(gezin);
+}
+
 TEST_F(KaartenTest, RecordEenIsGeenPartner) {
   const auto gezin = bouw_.Relatie(bouw_.Man("Jan", "Smit"), 0);
   bouw_.WijzigRelatie(gezin, {{"VrouwNr", "1"}});

@@ -185,6 +185,27 @@ TEST_F(KrtnTest, NummersOnderTweeGevenLeesfouten) {
         )~");
 }
 
+TEST_F(KrtnTest, EenReeksVanafEenBegintMetEenLeesfout) {
+  Speel(kRelKrtn,
+        "vul RecordNrRel(0) 1\ndruk OKButton\ndruk BackButton\ntoon RecordNrRel(0)\n"
+        "druk BackButton",
+        R"~(
+          + ToonTekst "Toon Relatiekaart"
+          - ToonTekst
+          = RecordNrRel(0) "1"
+          - RelKrtn
+        )~");
+  EXPECT_TRUE(LeesBytes(Temp("REL_KRT.TMP"))
+                  .starts_with("Leesfout bij relatierecord 1\r\nRelatienummer    :    2\r\n"));
+}
+
+TEST_F(KrtnTest, EenNummerNeemtAlleenCijfersAan) {
+  Speel(kPrsKrtn, "vul RecordNrPers(0) -3x\ntoon RecordNrPers(0)\ndruk BackButton",
+        "= RecordNrPers(0) \"3\"\n- PrsKrtn");
+  Speel(kRelKrtn, "vul RecordNrRel(1) 1a2\ntoon RecordNrRel(1)\ndruk BackButton",
+        "= RecordNrRel(1) \"12\"\n- RelKrtn");
+}
+
 TEST_F(KrtnTest, EenLegeReeksIsEenLeegBestand) {
   Speel(kPrsKrtn,
         "vul RecordNrPers(0) 1\nvul RecordNrPers(1)\ndruk OKButton\ntoon UitvoerBox\n"

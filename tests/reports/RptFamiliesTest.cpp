@@ -1,6 +1,7 @@
 // The distribution of family names by script.
 #include "reports/LijstKeten.h"
 #include "reports/RptFamilies.h"
+#include "steun/BezigKijker.h"
 
 namespace lb77 {
 namespace {
@@ -45,6 +46,19 @@ TEST_F(RptFamiliesToets, HetMinimumLigtTussenEenEnDuizend) {
     Speel("vul MinimumAantal " + minimum + "\ndruk OKButton\ndruk BackButton\ndruk BackButton",
           "+ ToonTekst \"Takkenverdeling\"\n- ToonTekst\n");
   }
+}
+
+TEST_F(RptFamiliesToets, HetMinimumNeemtAlleenCijfersAan) {
+  Speel("vul MinimumAantal -2a\ntoon MinimumAantal\ndruk BackButton", "= MinimumAantal \"2\"\n");
+}
+
+TEST_F(RptFamiliesToets, AchterDeLijstIsHetSchermNietMeerBezig) {
+  BezigKijker kijker;
+  Sessie([](Hoofdmodule& hoofd) {
+    ASSERT_TRUE(Start(hoofd));
+    hoofd.gesprek.Toon<RptFamilies>(hoofd);
+  })(kijker);
+  EXPECT_EQ(kijker.Gezien(), "ToonTekst ");
 }
 
 TEST_F(RptFamiliesToets, NaDeMeldingStaatDeFocusInHetVeld) {

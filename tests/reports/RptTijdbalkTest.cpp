@@ -46,6 +46,10 @@ TEST_F(RptTijdbalkToets, WieErNietIsIsGeenStamouder) {
   EXPECT_EQ(Lijst(), "");
 }
 
+TEST_F(RptTijdbalkToets, HetNummerNeemtAlleenCijfersAan) {
+  Speel("vul PersNr -2a\ntoon PersNr\ndruk BackButton", "= PersNr \"2\"\n");
+}
+
 TEST_F(RptTijdbalkToets, EenBestandDatNietKanSluitHetScherm) {
   Versper();
   Speel("vul PersNr 2\ndruk OKButton", NietOpen());

@@ -6,6 +6,7 @@
 #include "app/Start.h"
 #include "reports/SchemaVerwantschap.h"
 #include "reports/VerwantRapport.h"
+#include "steun/BezigKijker.h"
 #include "steun/FamilieToets.h"
 #include "steun/Gouden.h"
 #include "text/Getallen.h"
@@ -174,10 +175,13 @@ TEST_F(SchemaVerwantschapTest, ZoekenVultHetNummer) {
 
 TEST_F(SchemaVerwantschapTest, EscapeBreektHetZoekenAf) {
   Speel(std::string(kJanEnEls) +
-            "onderbreek 3\nantwoord Ja\ndruk OKButton\ntoon PersonenGedaan\ndruk BackButton",
+            "onderbreek 3\nantwoord Ja\ndruk OKButton\ntoon PersonenGedaan\n"
+            "druk OKButton\ndruk BackButton\ndruk BackButton",
         R"~(
           ? vraag Ja/Nee "Opbouw Afbreken ?" -> Ja
           = PersonenGedaan "1"
+          + VerwantRapport "Schema Verwantschap"
+          - VerwantRapport
           - SchemaVerwantschap
         )~");
 }
@@ -201,6 +205,15 @@ TEST_F(SchemaVerwantschapTest, ZonderHetTweedeBestandWordtHetVerslagTochGetoond)
             naar.string() +
             "\"\n! info \"De tekst is opgeslagen.\"\n- VerwantRapport\n- SchemaVerwantschap");
   EXPECT_EQ(LeesBytes(naar), kVerslag);
+}
+
+TEST_F(SchemaVerwantschapTest, AchterHetVerslagIsHetSchermNietMeerBezig) {
+  BezigKijker kijker({{"PersNr(0)", "2"}, {"PersNr(1)", "6"}});
+  Sessie([](Hoofdmodule& hoofd) {
+    ASSERT_TRUE(Start(hoofd));
+    hoofd.gesprek.Toon<SchemaVerwantschap>(hoofd);
+  })(kijker);
+  EXPECT_EQ(kijker.Gezien(), "VerwantRapport ");
 }
 
 TEST_F(SchemaVerwantschapTest, DeTellerBegintOpnieuw) {

@@ -109,6 +109,16 @@ TEST_F(SelectPrsToets, EenVerzoekOmTeStoppenToontNiets) {
         )");
 }
 
+TEST_F(SelectPrsToets, NaEenStopBegintHetZoekenOpnieuw) {
+  Speel(
+      "onderbreek 3\nantwoord Ja\nvul AchterNm dam\ndruk OKButton\ndruk OKButton\n"
+      "druk BackButton\ndruk BackButton",
+      R"(? vraag Ja/Nee "Opbouw Afbreken ?" -> Ja)"
+      "\n" +
+          std::string(kGetoond));
+  EXPECT_NE(Lijst().find("\r\n4 Personen gevonden."), std::string::npos);
+}
+
 TEST_F(SelectPrsToets, WieOnleesbaarIsWordtInStilteOvergeslagen) {
   MaakOnleesbaar(BestandSoort::Personen, 5);
   Speel("vul AchterNm dam\ndruk OKButton\ndruk BackButton\ndruk BackButton", kGetoond);

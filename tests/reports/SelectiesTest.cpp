@@ -269,6 +269,13 @@ TEST_F(SelectieRelaties, EenPartnerDieErNietIsPastNiet) {
   EXPECT_EQ(Welke(), "    2");
 }
 
+TEST_F(SelectieRelaties, EenPartnerDieEenVervolgrecordIsPastNiet) {
+  bouw_.Relatie(jan_, 0);
+  bouw_.WijzigPersoon(jan_, {{"GebCorr", "Z"}});
+  keus_.naam.voornaam = "Jan";
+  EXPECT_EQ(Welke(), "");
+}
+
 TEST_F(SelectieRelaties, EenVervolgrecordTeltNiet) {
   bouw_.Relatie(jan_, els_, {}, {{"HuwCorr", "Z"}});
   keus_.naam.voornaam = "Jan";
