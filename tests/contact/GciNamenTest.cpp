@@ -71,6 +71,11 @@ TEST(SplitsNamen, LaatHaakjesEnAndereNamenStaan) {
   EXPECT_EQ(Gesplitst({"van der Berg", "Jans(s)en"}), (Namen{"van der Berg", "Jans(s)en"}));
 }
 
+TEST(SplitsNamen, EenLeegDeelVraagtGeenRuimte) {
+  std::vector<GciReeks> reeksen = Van({"/Jansen", ",Bos"});
+  EXPECT_TRUE(SplitsNamen(reeksen, 2));
+}
+
 TEST(SplitsNamen, ZegtHetAlsErGeenRuimteMeerIs) {
   std::vector<GciReeks> reeksen = Van({"a/b/c"});
   EXPECT_TRUE(SplitsNamen(reeksen, 3));

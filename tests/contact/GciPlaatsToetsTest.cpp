@@ -58,6 +58,11 @@ TEST_F(GciPlaatsToetsTest, ElkeRijVanDezelfdeNaamWordtOpVolgordeGevraagd) {
           R"(? vraag Ja/Nee "Is dit de juiste provincie voor plaatscode 2 - Bergen ?\nGevonden: Bergen, B" -> Ja)"}));
 }
 
+TEST_F(GciPlaatsToetsTest, EenAnderLandIsEenVraag) {
+  EXPECT_EQ(Rij("Bergen", "", {kNee, kJa}), 2);
+  EXPECT_EQ(set_.Getoond().size(), 2U);
+}
+
 TEST_F(GciPlaatsToetsTest, NaNeeOpAlleRijenVolgtDeCorrectie) {
   EXPECT_EQ(Rij("Bergen", "NB", {kNee, kNee, kNee, kNee, kNee}), 0);
   EXPECT_EQ(set_.Getoond().size(), 5U);
