@@ -1,6 +1,5 @@
 #include "exchange/ExpMaakLyst.h"
 
-#include "entry/VolgersBewaker.h"
 #include "exchange/ExpLyst.h"
 #include "text/Getallen.h"
 
@@ -36,7 +35,6 @@ Verloop ExpMaakLyst::MaakVerloop(TellerRegel& aantal, TellerRegel& nummer) {
 }
 
 void ExpMaakLyst::Werk() {
-  const VolgersBewaker bewaker(Hoofd().volgers);
   const auto schrijf = [&](TekstSchrijver& uit) -> Uitslag {
     const Gegevens gegevens = Hoofd().MaakGegevens();
     const Uitslag personen = SchrijfPersonenLyst(uit, gegevens, selectie_.SelPersonen,

@@ -10,6 +10,7 @@
 
 namespace lb77 {
 
+// Leaving it by Terug stops a chain as any step of one: who shows it keeps the trackers.
 class ExpMaakLyst final : public WerkFormulier {
  public:
   ExpMaakLyst(Hoofdmodule& hoofd, const ExpSelectie& selectie);

@@ -1,5 +1,6 @@
 #include "exchange/ExportForm.h"
 
+#include "entry/VolgersBewaker.h"
 #include "exchange/ExpMaakLyst.h"
 #include "exchange/ExpSel.h"
 #include "output/ToonTekst.h"
@@ -81,6 +82,7 @@ void ExportForm::KiesRelButtonKlik() {
 }
 
 void ExportForm::ToonLijstButtonKlik() {
+  const VolgersBewaker bewaker(Hoofd().volgers);
   ExpMaakLyst maken(Hoofd(), selectie_);
   Hoofd().gesprek.ToonModaal(maken);
   if (!maken.Gelukt()) return;
