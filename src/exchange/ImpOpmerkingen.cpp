@@ -3,11 +3,13 @@
 #include <algorithm>
 #include <array>
 
+#include "exchange/EigenPaden.h"
 #include "exchange/GedNaam.h"
 #include "exchange/GedRegel.h"
 #include "exchange/OpmAfbreken.h"
 #include "exchange/OpmTags.h"
 #include "store/Codes.h"
+#include "store/OpmVelden.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"
 
@@ -57,7 +59,7 @@ ImpUitslag ImpOpmerkingen::Voer(RegelLezer& lezer) {
   std::string_view regel;
   while (!einde_ && lezer.Volgende(regel)) {
     loop_.TelRegel();
-    const GedDelen delen = GedRegel(regel);
+    const GedDelen delen = loop_.Ontleed(regel);
     if (!delen.fout.empty()) return {.fout = std::string(delen.fout)};
     ImpUitslag uitslag = delen.level == 0 ? NeemKop(delen) : NeemRegel(delen);
     if (!uitslag.Gelukt()) return uitslag;
@@ -87,6 +89,11 @@ ImpUitslag ImpOpmerkingen::NeemRegel(const GedDelen& delen) {
     NeemVervolg(delen);
     return {};
   }
+  if (NoemGebeurtenis(pad_, delen)) return {};
+  if (HoortBijOpmerking(delen.tag)) {
+    NeemEigen(delen);
+    return {};
+  }
   const auto* wissel = std::ranges::find(kTagwissels, delen.tag, &Tagwissel::tag);
   const bool gewisseld = wissel != kTagwissels.end();
   const std::string_view tag = gewisseld ? kNote : delen.tag;
@@ -95,6 +102,8 @@ ImpUitslag ImpOpmerkingen::NeemRegel(const GedDelen& delen) {
   if (pad == "INDI-NAME") ToonNaam(delen.waarde);
   ImpUitslag uitslag = Bewaar();
   if (!uitslag.Gelukt()) return uitslag;
+  // The kind of an event that was named stands in tags of our own.
+  if (delen.tag == "TYPE" && IsGenoemd(pad_.Ouder(delen.level))) return {};
   Regel regel{pad_.Ouder(delen.level), pad, delen.tag, tag, {}, delen.waarde};
   if (gewisseld) regel.waarde = wissel->voor;
   regel.waarde += delen.waarde;
@@ -131,6 +140,8 @@ void ImpOpmerkingen::NeemVervolg(const GedDelen& delen) {
     }
     if (delen.tag == "CONT") tekst_ += ' ';
     tekst_ += delen.waarde;
+    if (delen.tag == "CONT") regels_.emplace_back();
+    regels_.back() += delen.waarde;
   } else if (ouder != "SUBM" && ouder != "SUBM-ADDR") {
     loop_.delen.melder.Log("Vervolgregels worden alleen voor NOTES ondersteund...");
     std::string regel = "\t" + ouder + "-";
@@ -170,7 +181,34 @@ void ImpOpmerkingen::Wacht(const Regel& regel) {
   rubriek_ = rij != nullptr ? rij->rubriek : AlgemeneRubriek(regel.ouder);
   tekst_ = rij != nullptr ? rij->voor : std::string_view();
   tekst_ += regel.waarde;
+  regels_.assign(1, tekst_);
   regel_ = loop_.stand.regels;
+  prog_ = kBijProg;
+  vanOns_ = false;
+}
+
+// A rubric of another kind of owner than that of the record at hand is none.
+void ImpOpmerkingen::NeemEigen(const GedDelen& delen) {
+  const auto getal = NaarInt16(Getalwaarde(delen.waarde));
+  if (rubriek_ == 0 || !getal) return;
+  vanOns_ = true;
+  if (delen.tag == eigen::kProg) prog_ = *getal;
+  if (delen.tag == eigen::kRubriek && *getal != 0 && (*getal > 0) == (rubriek_ > 0)) {
+    rubriek_ = *getal;
+  }
+}
+
+OpmRegels ImpOpmerkingen::Regels() {
+  OpmRegels regels;
+  bool past = vanOns_ && regels_.size() <= regels.size();
+  for (std::size_t i = 0; past && i < regels_.size(); ++i) {
+    regels[i] = loop_.GedTekst(regels_[i]);
+    past = regels[i].size() <= opmveld::Tekstregel.breedte;
+  }
+  if (past) return regels;
+  const std::string tekst = loop_.GedTekst(tekst_);
+  if (!PastGeheel(tekst)) loop_.verliezen.Tel(Verlies::OpmAfgekapt, regel_);
+  return BreekAf(tekst);
 }
 
 ImpUitslag ImpOpmerkingen::Bewaar() {
@@ -189,11 +227,8 @@ ImpUitslag ImpOpmerkingen::Bewaar() {
 
 ImpUitslag ImpOpmerkingen::Schrijf(std::int16_t begin, std::int16_t persoon, std::int16_t relatie) {
   OpmLB77& opmerking = loop_.delen.opmerking;
-  const std::string tekst = loop_.GedTekst(tekst_);
-  if (!PastGeheel(tekst)) loop_.verliezen.Tel(Verlies::OpmAfgekapt, regel_);
-  const OpmRegels regels = BreekAf(tekst);
   const bool gelukt =
-      opmerking.SchrijfOpmerking(regels, {}, 0, persoon, relatie, begin, kBijProg, rubriek_);
+      opmerking.SchrijfOpmerking(Regels(), {}, 0, persoon, relatie, begin, prog_, rubriek_);
   rubriek_ = 0;
   if (gelukt) return {};
   // No later note would do better; where it stopped stands behind what the class has told.

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "exchange/ImpLoop.h"
+#include "exchange/ImpVast.h"
 #include "exchange/PersoonPaden.h"
 
 namespace lb77 {
@@ -30,15 +31,23 @@ class ImpPersoon {
   void NeemNaamDeel(const PersoonPad& pad, std::string_view waarde);
   void NeemDatum(const PersoonPad& pad, std::string_view waarde);
   void NeemPlaats(const PersoonPad& pad, std::string_view waarde);
+  // A tag of our own.
+  void NeemEigen(const PersoonPad& pad, std::string_view waarde);
   [[nodiscard]] bool NeemRelatie(std::string_view waarde);
   [[nodiscard]] bool MaakVervolg(std::string_view vierde);
   [[nodiscard]] bool ZetVijfde(std::string_view vijfde);
   void Zet(std::string_view veld, std::string_view waarde) {
     loop_.delen.persoon.Zet(veld, waarde);
   }
+  // The same for a field that another line may have told exactly.
+  void ZetVrij(std::string_view veld, std::string_view waarde) {
+    if (!vast_.Bevat(veld)) Zet(veld, waarde);
+  }
 
   ImpLoop& loop_;
   std::int16_t nr_ = 0;
+  std::int16_t plaats_ = 0;  // that the last link led to
+  ImpVast vast_;
   int relaties_ = 0;
   std::string voornaam_;  // as stored so far
   std::string achternaam_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "exchange/EigenPaden.h"
 #include "exchange/GedRegel.h"
 #include "exchange/OpmTags.h"
 #include "text/Letterlijk.h"
@@ -17,7 +18,7 @@ constexpr std::string_view kSchema = "SUBM-SCHEMA";
 constexpr std::array<std::string_view, 3> kZonderVerlies = {"ADDR", "SPFX", "DATE"};
 
 bool IsVoorOpmerkingen(std::string_view tag) {
-  return tag == "NOTE" || IsVervolgTag(tag) || WordtOpmerking(tag);
+  return tag == "NOTE" || IsVervolgTag(tag) || WordtOpmerking(tag) || HoortBijOpmerking(tag);
 }
 
 }  // namespace
@@ -35,7 +36,7 @@ ImpUitslag ImpRecords::Voer(RegelLezer& lezer) {
   std::string_view regel;
   while (!einde_ && lezer.Volgende(regel)) {
     loop_.TelRegel();
-    const GedDelen delen = GedRegel(regel);
+    const GedDelen delen = loop_.Ontleed(regel);
     if (!delen.fout.empty()) return {.fout = std::string(delen.fout)};
     pad_.Zet(delen.level, delen.tag);
     if (!(delen.level == 0 ? NeemKop(delen) : NeemRegel(delen))) return {.gestopt = true};
@@ -44,6 +45,8 @@ ImpUitslag ImpRecords::Voer(RegelLezer& lezer) {
 }
 
 bool ImpRecords::NeemKop(const GedDelen& delen) {
+  id_ = delen.id;
+  prov_.clear();
   return BewaarRecord() && BeginRecord(loop_.Kop(delen));
 }
 
@@ -68,7 +71,7 @@ bool ImpRecords::NeemRegel(GedDelen delen) {
     delen.tag = "BIRT";
     pad_.Zet(delen.level, delen.tag);
   }
-  if (IsVoorOpmerkingen(delen.tag)) return true;
+  if (NoemGebeurtenis(pad_, delen) || IsVoorOpmerkingen(delen.tag)) return true;
   const std::string& ouder = pad_.Ouder(delen.level);
   const std::string& pad = pad_.Van(delen.level);
   if (ouder == kSchema) {
@@ -91,7 +94,7 @@ bool ImpRecords::NeemRegel(GedDelen delen) {
     NeemOverig(rij->actie, delen.waarde);
     return true;
   }
-  LogOnbekend(groep, delen);
+  if (!loop_.eigen || !IsBekendInEigen(pad)) LogOnbekend(groep, delen);
   return true;
 }
 
@@ -110,6 +113,15 @@ void ImpRecords::NeemOverig(OverigeActie actie, std::string_view waarde) {
       break;
     case OverigeActie::BronNaam:
       loop_.stand.bron = loop_.GedTekst(waarde);
+      break;
+    case OverigeActie::EigenVorm:
+      loop_.eigen = true;
+      break;
+    case OverigeActie::PlaatsProv:
+      prov_ = loop_.GedTekst(Trim(waarde));
+      break;
+    case OverigeActie::PlaatsNaam:
+      loop_.NeemPlaatsRecord(id_, loop_.GedTekst(Trim(waarde)), prov_);
       break;
     case OverigeActie::Niets:
       break;

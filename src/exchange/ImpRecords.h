@@ -45,6 +45,8 @@ class ImpRecords {
   Padtabel<RelatiePad> relatiePaden_;
   Padtabel<OverigPad> overigePaden_;
   GedPad pad_;
+  std::string id_;    // of the record at hand
+  std::string prov_;  // of the place at hand
   bool einde_ = false;
   bool schemaGemeld_ = false;
   bool eigenTagGemeld_ = false;
