@@ -3,8 +3,74 @@
 
 namespace lb77::indeling {
 
+namespace {
+
+Blok Export(std::vector<Blok> namen, const char* start) {
+  return Kolom({
+      Velden(std::move(namen)),
+      Groep("Selectie", {Rij({"KiesAllesButton", "KiesPersButton", "KiesRelButton"}),
+                         Rij({"KiesGenButton", "KiesKwstButton", "KiesBronButton"}),
+                         Velden({Rij({"AantalPersonen", "AantalRelaties", "AantalBronnen"})}),
+                         "ToonLijstButton"}),
+      Groep("Voortgang", {Velden({Rij({"PersonenGedaan", "RelatiesGedaan", "BronnenGedaan"})})}),
+      Knoppen({start, "BackButton"}),
+  });
+}
+
+Blok Dump(const char* teller) {
+  return Kolom({
+      Velden({Rij({"Bestandsnaam", "BrowseButton"}), teller}),
+      Knoppen({"OKButton", "BackButton"}),
+  });
+}
+
+}  // namespace
+
 std::vector<Indeling> Uitwisseling() {
   return {
+      {"ExpGedcom", Export({Rij({"Bestandsnaam", "BrowseButton"}), "Utf8Box"}, "OKButton")},
+      {"ExpAscii", Export({Rij({"Bestandsnaam(0)", "BrowseButton(0)"}),
+                           Rij({"Bestandsnaam(1)", "BrowseButton(1)"}),
+                           Rij({"Bestandsnaam(2)", "BrowseButton(2)"})},
+                          "StartExportButton")},
+      {"ExpSelPers", Kolom({
+                         "VraagLabel",
+                         Tabel({
+                             Veld("RecordNrPers(*)"),
+                             Veld("VoorNmPersoon(*)", "Voornamen", 24),
+                             Veld("AchterNmPersoon(*)", "Achternaam", 20),
+                             Veld("PeriodePersoon(*)", "Periode", 10),
+                             Veld("ZoekPersButton(*)"),
+                         }),
+                         Knoppen({"OKButton", "BackButton"}),
+                     })},
+      {"ExpSelRel", Kolom({
+                        "VraagLabel",
+                        Rooster({
+                            Rij({"RecordNrRel(0)", Veld("RecordNrMan(0)", "", 6),
+                                 Veld("VoorNmMan(0)", "", 24), Veld("AchterNmMan(0)", "", 20)}),
+                            Rij({"", Veld("RecordNrVrouw(0)", "", 6),
+                                 Veld("VoorNmVrouw(0)", "", 24), Veld("AchterNmVrouw(0)", "", 20)}),
+                            Rij({"RecordNrRel(1)", Veld("RecordNrMan(1)", "", 6),
+                                 Veld("VoorNmMan(1)", "", 24), Veld("AchterNmMan(1)", "", 20)}),
+                            Rij({"", Veld("RecordNrVrouw(1)", "", 6),
+                                 Veld("VoorNmVrouw(1)", "", 24), Veld("AchterNmVrouw(1)", "", 20)}),
+                        }),
+                        Knoppen({"OKButton", "BackButton"}),
+                    })},
+      {"ExpMaakLyst", Kolom({
+                          "SchrijfLabel",
+                          Velden({
+                              Rij({"PersonenLabel", "Personen", "PersNrLabel", "PersoonsNr"}),
+                              Rij({"RelatiesLabel", "Relaties", "RelNrLabel", "RelatieNr"}),
+                          }),
+                          "GeduldLabel",
+                          Knoppen({"OKButton", "BackButton"}),
+                      })},
+      {"ExpDumpPers", Dump("PersonenGedaan")},
+      {"ExpDumpRel", Dump("RelatiesGedaan")},
+      {"ExpDumpPlts", Dump("PlaatsenGedaan")},
+      {"ExpDumpOpm", Dump("OpmerkingenGedaan")},
       {"ImpGedcom", Kolom({
                         Velden({Rij({"Bestandsnaam", "BrowseButton"})}),
                         "DoelLabel",
