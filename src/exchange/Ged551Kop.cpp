@@ -40,9 +40,6 @@ std::string Naam(const GedInzender& wie) {
 void SchrijfAdres(const GedInzender& wie, Ged551Regels& uit) {
   if (Trim(wie.adres).empty()) return;
   Veld(uit, 1, "ADDR", wie.adres, kAdres);
-  Veld(uit, 2, "CONT", std::string(Trim(wie.postcode)).append(" ").append(Trim(wie.plaats)),
-       kAdres);
-  Veld(uit, 2, "CONT", wie.land, kAdres);
   Veld(uit, 2, "ADR1", wie.adres, kAdres);
   Veld(uit, 2, "CITY", wie.plaats, kAdres);
   Veld(uit, 2, "POST", wie.postcode, kPostcode);
@@ -55,7 +52,6 @@ void SchrijfInzender(const GedInzender& wie, Ged551Regels& uit) {
   Veld(uit, 1, "NAME", naam.empty() ? "Onbekend" : naam, kNaam);
   SchrijfAdres(wie, uit);
   Veld(uit, 1, "PHON", wie.telefoon, kTelefoon);
-  uit.Regel(1, "LANG", "Dutch");
 }
 
 std::string Vandaag(const Tijdstip& nu) {

@@ -144,12 +144,18 @@ class Schrijver {
 
   void Gebeurtenissen() {
     if (velden_.HeeftInhoud(foto_.geboorte)) velden_.Gebeurtenis(foto_.geboorte);
-    Doop();
+    if (velden_.HeeftInhoud(foto_.doop)) velden_.Gebeurtenis(foto_.doop);
     if (velden_.HeeftInhoud(foto_.overlijden)) velden_.Gebeurtenis(foto_.overlijden);
     if (velden_.HeeftInhoud(foto_.begrafenis) || foto_.crematie) {
       velden_.Gebeurtenis(foto_.begrafenis,
                           [&] { velden_.Veld(2, eigen::kCrematie, foto_.crematie ? "1" : ""); });
     }
+  }
+
+  // Of the person: other programs pass over a religion below a baptism.
+  void Religie() {
+    if (!velden_.Gezindte(1, "RELI", foto_.religie)) return;
+    velden_.Opmerkingen(2, rubriek::kReligie, "INDI-RELI");
   }
 
   void Beroep() {
@@ -172,17 +178,6 @@ class Schrijver {
   }
 
  private:
-  // A religion without a baptism tells of the person.
-  void Doop() {
-    if (velden_.HeeftInhoud(foto_.doop)) {
-      velden_.Gebeurtenis(foto_.doop,
-                          [&] { static_cast<void>(velden_.Gezindte(2, "RELI", foto_.religie)); });
-      velden_.Opmerkingen(2, rubriek::kReligie, velden_.Pad());
-    } else if (velden_.Gezindte(1, "RELI", foto_.religie)) {
-      velden_.Opmerkingen(2, rubriek::kReligie, "INDI-RELI");
-    }
-  }
-
   void Relatie(std::string_view tag, std::int16_t nr) {
     if (mee_.relaties.Bevat(nr)) {
       velden_.regels.Verwijzing(1, tag, 'F', nr);
@@ -210,6 +205,7 @@ bool SchrijfGed551Persoon(std::int16_t nr, Ged551Velden& velden, const Ged551Mee
   schrijver.Naam();
   schrijver.Geslacht();
   schrijver.Gebeurtenissen();
+  schrijver.Religie();
   schrijver.Beroep();
   velden.RestOpmerkingen();
   schrijver.Relaties(relaties);

@@ -114,12 +114,11 @@ class Schrijver {
   void Kerk() {
     if (!metKerk_) return;
     velden_.Gebeurtenis(foto_.kerk, [&] {
-      if (foto_.gescheiden) {
-        velden_.Veld(2, eigen::kGezindte, foto_.religie);
-        return;
-      }
-      velden_.Veld(2, "TYPE", "Kerkelijk huwelijk");
-      static_cast<void>(velden_.Gezindte(2, "RELI", foto_.religie));
+      velden_.Veld(2, eigen::kGezindte, foto_.religie);
+      if (foto_.gescheiden) return;
+      std::string soort = "Kerkelijk huwelijk";
+      Voeg(soort, velden_.GezindteNaamVan(foto_.religie));
+      velden_.Veld(2, "TYPE", soort);
     });
     velden_.Opmerkingen(2, rubriek::kReligie, velden_.Pad());
   }

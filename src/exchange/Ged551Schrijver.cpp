@@ -24,7 +24,7 @@ constexpr EigenBetekenis kBetekenissen[] = {
     {eigen::kZeker, "onzekere plaats"},
     {eigen::kCorr, "correctiecode die DATE niet kent"},
     {eigen::kDatum, "datum die de standaard niet kent (staat er als zin)"},
-    {eigen::kGezindte, "code van een gezindte"},
+    {eigen::kGezindte, "code van een gezindte (RELI of TYPE geeft de naam)"},
     {eigen::kSoort, "code van een soort huwelijk (TYPE geeft de naam)"},
     {eigen::kGeslacht, "ander geslacht dan man of vrouw"},
     {eigen::kRubriek, "rubriek van een opmerking"},
@@ -103,7 +103,7 @@ void Ged551Schrijver::Slot() {
   uit_.Regel("0 TRLR");
 }
 
-void Ged551Schrijver::LogSlot(const ExpTelling& /*telling*/) {
+void Ged551Schrijver::LogSlot(const ExpTelling&) {
   log_.Regel(Totaal(personen_, "Personen geëxporteerd"_w));
   log_.Regel(Totaal(relaties_, "Relaties geëxporteerd"_w));
   log_.Regel(Totaal(mee_->plaatsen.Aantal(), "Plaatsen geëxporteerd"_w));

@@ -56,7 +56,6 @@ constexpr PersoonPad kPaden[] = {
     {"INDI-BAPM-_LBDATUM", Eigen, "DoopDatum"},
     {"INDI-BAPM-_LBPLTS", EigenPlaats, "DoopPlaats"},
     {"INDI-BAPM-_LBPLTS-_LBZEKER", EigenZeker, "DoopPlaats"},
-    {"INDI-BAPM-_LBGEZ", Eigen, "DoopReligie"},
     {"INDI-_LBGEZ", Eigen, "DoopReligie"},
     {"INDI-DEAT-_LBCORR", EigenCorr, "OvlCorr"},
     {"INDI-DEAT-_LBDATUM", Eigen, "OvlDatum"},

@@ -81,7 +81,6 @@ constexpr RelatiePad kPaden[] = {
     {"FAM-_LBKERK-_LBPLTS-_LBZEKER", EigenZeker, "KHuwPlaats", "", ""},
     {"FAM-_LBKERK-PLAC", Plaats, "KHuwPlaats", "", ""},
     {"FAM-_LBKERK-_LBGEZ", Eigen, "Religie", "", ""},
-    {"FAM-_LBKERK-RELI", Gezindte, "Religie", "", ""},
     {"FAM-_LBCHIL", Kind, "", "", ""},
 };
 
