@@ -5,8 +5,8 @@
 
 #include "app/Start.h"
 #include "exchange/ExpMaakLyst.h"
-#include "reports/KaartFamilie.h"
 #include "steun/FamilieToets.h"
+#include "steun/KaartFamilie.h"
 
 namespace lb77 {
 namespace {

@@ -4,8 +4,8 @@
 
 #include "app/Start.h"
 #include "exchange/ExpSel.h"
-#include "reports/KaartFamilie.h"
 #include "steun/FamilieToets.h"
+#include "steun/KaartFamilie.h"
 
 namespace lb77 {
 namespace {
