@@ -9,6 +9,7 @@
 #include "exchange/ExpUitvoer.h"
 #include "exchange/GedcomDatum.h"
 #include "exchange/GedcomOpmerkingen.h"
+#include "text/Getallen.h"
 
 namespace lb77 {
 
@@ -80,7 +81,7 @@ void SchrijfRijen(std::span<const GedcomRij<R>> rijen, const R& record, ExpUitvo
   for (const GedcomRij<R>& rij : rijen) {
     if (!rij.wanneer(record)) continue;
     if (rij.niveau > 0) {
-      std::string regel = std::to_string(rij.niveau);
+      std::string regel = GetalTekst(rij.niveau);
       regel.append(" ").append(rij.tag);
       // kept: an empty value leaves its blank at the end of the line.
       if (rij.waarde) regel.append(" ").append(rij.waarde(record));

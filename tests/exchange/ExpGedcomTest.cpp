@@ -5,6 +5,7 @@
 #include <string>
 
 #include "app/Start.h"
+#include "app/ZonderRechten.h"
 #include "exchange/ExpGedcom.h"
 #include "exchange/ImportToets.h"
 #include "steun/Gouden.h"
@@ -165,6 +166,25 @@ TEST_F(ExpGedcomToets, EenMapInDePlaatsVanHetBestandIsEenFout) {
 TEST_F(ExpGedcomToets, EenMapDieErNietIsIsEenWaarschuwing) {
   MaakFamilie();
   Mislukt(Map() / "WEG" / "UIT.GED", "! uitroep \"Bestand niet gevonden\"\n");
+}
+
+TEST_F(ExpGedcomToets, EenMapZonderRechtenIsEenFout) {
+  MaakFamilie();
+  const std::filesystem::path dicht = Map() / "DICHT";
+  std::filesystem::create_directories(dicht);
+  std::filesystem::create_directories(TekstMap());
+  std::filesystem::permissions(TekstMap(), std::filesystem::perms::all);
+  const Taak taak = [&dicht](Hoofdmodule& hoofd) {
+    ASSERT_TRUE(Start(hoofd));
+    hoofd.ActieveSetNaam = "PROEF";
+    const ZonderRechten zonder(dicht);
+    ExpGedcom form(hoofd);
+    hoofd.gesprek.ToonModaal(form);
+  };
+  Verwacht(
+      Naar(dicht / "UIT.GED") + kKies + "druk OKButton\ndruk BackButton\ndruk BackButton\n", taak,
+      std::string(kOpen) + kGekozen + "! stop \"Geen toegang\"\n" + kVerslag + "- ExpGedcom\n");
+  EXPECT_EQ(Log(), "Start export (20000101000000)\r\n");
 }
 
 TEST_F(ExpGedcomToets, EenBestandVanDeSetWordtNietVervangen) {

@@ -45,6 +45,10 @@ TEST_F(GedcomPersoonToets, EenKommaInDeNaamSplitstHaarOok) {
   EXPECT_EQ(Persoon(Bouw().Persoon('?', "", "Berg,")), "1 NAME /Berg,/\n2 SURN Berg\n");
 }
 
+TEST_F(GedcomPersoonToets, EenVoorvoegselZonderNaamHeeftGeenRegel) {
+  EXPECT_EQ(Persoon(Bouw().Persoon('?', "", ", van")), "1 NAME /, van/\n");
+}
+
 TEST_F(GedcomPersoonToets, VoornamenAlleenHebbenLegeStreepjes) {
   EXPECT_EQ(Persoon(Bouw().Persoon('?', "Jan", "")), "1 NAME Jan //\n2 GIVN Jan\n");
 }
@@ -155,7 +159,7 @@ TEST_F(GedcomPersoonToets, OverlijdenMetDatumOfPlaats) {
   EXPECT_EQ(Met({{"OvlCorr", "C"}}), "");
 }
 
-TEST_F(GedcomPersoonToets, BegrafenisOfCrematie) {
+TEST_F(GedcomPersoonToets, EenBegrafenisIsGeenCrematie) {
   EXPECT_EQ(Met({{"BegrDatum", "08-06-1950"}}), "1 BURI\n2 DATE 08 JUN 1950\n");
   EXPECT_EQ(Met({{"BegrPlaats", Pl("Gouda")}}), "1 BURI\n2 PLAC Gouda\n");
   EXPECT_EQ(Met({{"BegrDatum", "08-06-1950"}, {"BegrCrem", "1"}}), "1 CREM\n2 DATE 08 JUN 1950\n");
@@ -171,7 +175,7 @@ TEST_F(GedcomPersoonToets, OverledenTussenLaatDeBegrafenisWegMaarNietHaarPlaats)
   EXPECT_EQ(Met({{"OvlCorr", "T"}, {"BegrDatum", "00-00-1952"}, {"BegrCrem", "1"}}), "");
 }
 
-TEST_F(GedcomPersoonToets, BeroepInAnsel) {
+TEST_F(GedcomPersoonToets, EenBeroepGaatInAnsel) {
   EXPECT_EQ(Met({{"Beroep", "caf\xE9houder"}}),
             "1 OCCU caf\xE2"
             "ehouder\n");

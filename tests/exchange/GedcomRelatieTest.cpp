@@ -86,7 +86,7 @@ TEST_F(GedcomRelatieToets, DeSoortStaatOnderWatErVoorStaat) {
   EXPECT_EQ(Met({{"HuwSoort", "XX"}}), "2 LMAR XX\n");
 }
 
-TEST_F(GedcomRelatieToets, InzegeningOfScheiding) {
+TEST_F(GedcomRelatieToets, EenScheidingIsGeenInzegening) {
   EXPECT_EQ(Met({{"KHuwDatum", "02-04-1890"}, {"KHuwPlaats", Pl("Breda")}, {"Religie", "RK"}}),
             "1 ORDI\n2 DATE 02 APR 1890\n2 PLAC Breda\n2 RELI Rooms Katholiek\n");
   EXPECT_EQ(Met({{"KHuwPlaats", Pl("Delft")}}), "1 ORDI\n2 PLAC Delft\n");
