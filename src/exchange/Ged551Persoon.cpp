@@ -159,7 +159,7 @@ class Schrijver {
   }
 
   void Beroep() {
-    if (foto_.beroep.empty()) return;
+    if (!Ged551Regels::HeeftTekst(foto_.beroep)) return;
     velden_.Veld(1, "OCCU", foto_.beroep);
     velden_.Opmerkingen(2, rubriek::kBeroep, "INDI-OCCU");
   }

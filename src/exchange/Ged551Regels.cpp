@@ -1,5 +1,6 @@
 #include "exchange/Ged551Regels.h"
 
+#include <algorithm>
 #include <cstddef>
 
 #include "text/Getallen.h"
@@ -52,6 +53,11 @@ std::string Id(char soort, std::int16_t nr) {
 }
 
 }  // namespace
+
+bool Ged551Regels::HeeftTekst(std::string_view waarde) {
+  return std::ranges::any_of(waarde,
+                             [](char teken) { return teken != ' ' && !IsStuurteken(teken); });
+}
 
 void Ged551Regels::Begin() {
   uit_.Regel(std::string(kVolgordeTeken) + "0 HEAD");

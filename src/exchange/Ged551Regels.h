@@ -23,6 +23,9 @@ class Ged551Regels {
   // `uit` outlives it.
   explicit Ged551Regels(ExpUitvoer& uit) : uit_(uit) {}
 
+  // Is there more in it than blanks and control characters?
+  [[nodiscard]] static bool HeeftTekst(std::string_view waarde);
+
   // The first line, behind the byte-order mark.
   void Begin();
   void Regel(int level, std::string_view tag, std::string_view waarde = {});

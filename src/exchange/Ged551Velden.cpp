@@ -5,6 +5,7 @@
 #include "exchange/EigenPaden.h"
 #include "exchange/Ged551Plaats.h"
 #include "exchange/GedGezindte.h"
+#include "store/PlaatsVelden.h"
 #include "text/Getallen.h"
 #include "text/Gezindte.h"
 #include "text/Tekens.h"
@@ -25,7 +26,7 @@ void Ged551Velden::Begin(std::string_view record, std::int16_t opmRecord) {
 }
 
 void Ged551Velden::Veld(int level, std::string_view tag, std::string_view waarde) {
-  if (!waarde.empty()) regels.Regel(level, tag, waarde);
+  if (Ged551Regels::HeeftTekst(waarde)) regels.Regel(level, tag, waarde);
 }
 
 bool Ged551Velden::Heeft(std::int16_t rubriek) const {
@@ -35,7 +36,7 @@ bool Ged551Velden::Heeft(std::int16_t rubriek) const {
 }
 
 bool Ged551Velden::HeeftInhoud(const Ged551Gebeurtenis& deze) const {
-  return !deze.datum.IsLeeg() || !deze.tot.IsLeeg() || !deze.corr.empty() || deze.plaats != 0 ||
+  return !deze.datum.IsLeeg() || !deze.corr.empty() || deze.plaats != 0 ||
          Heeft(deze.rubriekDatum) || Heeft(deze.rubriekPlaats);
 }
 
@@ -66,12 +67,13 @@ bool Ged551Velden::Plaats(std::int16_t plaatsNr) {
     ++gemis.plaatsen;
     return false;
   }
-  const std::string naam = gegevens.plaats.Naam(nr);
-  const std::string prov = gegevens.plaats.Prov(nr);
+  const std::string naam = gegevens.plaats.Waarde(plaatsveld::Naam);
+  const std::string prov = gegevens.plaats.Waarde(plaatsveld::Prov);
   regels.Verwijzing(2, eigen::kPlaats, 'P', nr);
   Veld(3, eigen::kZeker, PlaatsZekerheid(plaatsNr));
-  Veld(2, "PLAC", naam.empty() ? "" : Ged551Plaats(naam, prov));
-  return !naam.empty();
+  const bool metNaam = Ged551Regels::HeeftTekst(naam);
+  if (metNaam) regels.Regel(2, "PLAC", Ged551Plaats(naam, prov));
+  return metNaam;
 }
 
 std::string Ged551Velden::GezindteNaamVan(std::string_view code) const {
@@ -85,7 +87,7 @@ bool Ged551Velden::Gezindte(int level, std::string_view tag, std::string_view co
     regels.Regel(level, eigen::kGezindte, code);
   }
   Veld(level, tag, naam);
-  return !naam.empty();
+  return Ged551Regels::HeeftTekst(naam);
 }
 
 void Ged551Velden::Opmerkingen(int level, std::int16_t rubriek, std::string_view pad) {

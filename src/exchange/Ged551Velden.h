@@ -58,7 +58,7 @@ class Ged551Velden {
   bool Gezindte(int level, std::string_view tag, std::string_view code);
   // The remarks of a rubric; `pad` is the path above them, as the import reads it.
   void Opmerkingen(int level, std::int16_t rubriek, std::string_view pad);
-  // A line when there is a value.
+  // A line when there is a text.
   void Veld(int level, std::string_view tag, std::string_view waarde);
 
   [[nodiscard]] const std::string& Pad() const { return pad_; }

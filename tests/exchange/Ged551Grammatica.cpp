@@ -159,7 +159,7 @@ bool IsWaarde(std::string_view waarde, std::string_view eis) {
   if (eis.empty()) return waarde.empty();
   if (eis.starts_with('@')) return IsVerwijzing(waarde) && waarde[1] == eis[1];
   if (eis == "date") return IsDatum(waarde);
-  if (eis == "tekst") return !waarde.empty();
+  if (eis == "tekst") return true;
   if (eis.starts_with('=')) {
     const std::string keuzen = "|" + std::string(eis.substr(1)) + "|";
     return keuzen.find("|" + std::string(waarde) + "|") != std::string::npos;

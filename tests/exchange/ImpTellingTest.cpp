@@ -72,6 +72,17 @@ TEST_F(Telling, TeltPlaatsenVanEenEigenBestandAlsRecords) {
       2 _LBALS BURI
       2 PLAC Utrecht
     )");
+  const std::string zonder = Ged(R"(
+      1 _LBVORM 1
+      0 @I1@ INDI
+      1 BIRT
+      2 _LBPLTS @P1@
+      2 PLAC Delft
+      0 @I2@ INDI
+      1 BIRT
+      2 PLAC Gouda
+    )");
+  EXPECT_EQ(Tel(zonder), "Erbij komen 2 personen, 0 relaties en 1 plaats");
   EXPECT_EQ(Tel(bestand), "Erbij komen 1 persoon, 0 relaties en 5 plaatsen");
   Bouw().Plaats("DEL@FT", "zh");
   EXPECT_EQ(Tel(bestand), "Erbij komen 1 persoon, 0 relaties en 4 plaatsen");
