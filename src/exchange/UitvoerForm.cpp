@@ -7,6 +7,7 @@
 #include "exchange/UitvoerNaam.h"
 #include "output/ToonTekst.h"
 #include "store/Paden.h"
+#include "store/SetPaden.h"
 #include "text/Getallen.h"
 #include "text/Pad.h"
 #include "text/Tekens.h"
@@ -148,7 +149,9 @@ bool UitvoerForm::IsBezet(std::size_t i) const {
   for (std::size_t ander = 0; ander < i; ++ander) {
     if (IsZelfdeBestand(pad, UitvoerPad(ander))) return true;
   }
-  return IsZelfdeBestand(pad, LogPad()) || IsEigenBestand(pad, hoofd_);
+  return IsZelfdeBestand(pad, LogPad()) ||
+         IsVanSet(pad, SetPaden::Van(hoofd_.Ini.DataDir(), hoofd_.ActieveSetNaam)) ||
+         !BeschermdeRol(pad, hoofd_.programmaMap, hoofd_.Ini).empty();
 }
 
 // A relative path is one in the program's directory.

@@ -1,22 +1,31 @@
 #include "exchange/UitvoerNaam.h"
 
-#include <string>
+#include <string_view>
 #include <system_error>
 
 #include "app/Bestandensets.h"
-#include "app/Hoofdmodule.h"
 #include "app/IniBestand.h"
+#include "app/KopiePlek.h"
 #include "store/Paden.h"
-#include "store/SetPaden.h"
 
 namespace lb77 {
 namespace {
 
-bool IsVanSet(const std::filesystem::path& bestand, const SetPaden& paden) {
-  for (const auto& pad : {paden.prs, paden.rlt, paden.opm, paden.plt, paden.centraal}) {
-    if (IsZelfdeBestand(bestand, VindPad(pad))) return true;
+// What the settings leave beside their file: the one being written, and one that was cut.
+constexpr std::string_view kResten[] = {"LIJNBOOM.TMP", "LIJNBOOM.OUD"};
+
+bool IsZelfde(const std::filesystem::path& bestand, const std::filesystem::path& ander) {
+  return IsZelfdeBestand(bestand, VindPad(ander));
+}
+
+// Is it that directory, or does it lie anywhere below it?
+bool LigtIn(const std::filesystem::path& bestand, const std::filesystem::path& map) {
+  std::error_code code;
+  std::filesystem::path plek = std::filesystem::weakly_canonical(bestand, code);
+  for (; plek.has_relative_path(); plek = plek.parent_path()) {
+    if (IsZelfde(plek, map)) return true;
   }
-  return IsZelfdeBestand(bestand.parent_path(), VindPad(paden.map / "JOURNAAL"));
+  return false;
 }
 
 }  // namespace
@@ -25,24 +34,38 @@ bool IsZelfdeBestand(const std::filesystem::path& een, const std::filesystem::pa
   std::error_code code;
   if (std::filesystem::equivalent(een, ander, code)) return true;
   const std::filesystem::path a = std::filesystem::weakly_canonical(een, code);
-  if (code) return false;
   const std::filesystem::path b = std::filesystem::weakly_canonical(ander, code);
-  return !code && a == b;
+  return !a.empty() && a == b;
 }
 
-bool IsEigenBestand(const std::filesystem::path& bestand, const Hoofdmodule& hoofd) {
-  for (const std::string_view naam : {kIniBestand, kIniReserve}) {
-    if (IsZelfdeBestand(bestand, VindPad(hoofd.programmaMap / naam))) return true;
-  }
-  if (hoofd.SetActief() &&
-      IsVanSet(bestand, SetPaden::Van(hoofd.Ini.DataDir(), hoofd.ActieveSetNaam))) {
-    return true;
-  }
-  for (int i = 1; i <= hoofd.Ini.AantalBestandenSets(); ++i) {
-    const std::string set = hoofd.Ini.bestandenset(i);
-    if (IsSetNaam(set) && IsVanSet(bestand, SetPaden::Van(hoofd.Ini.DataDir(), set))) return true;
+bool IsVanSet(const std::filesystem::path& bestand, const SetPaden& paden) {
+  for (const auto& pad : {paden.prs, paden.rlt, paden.plt, paden.opm, paden.centraal}) {
+    if (IsZelfde(bestand, pad)) return true;
   }
   return false;
+}
+
+std::string BeschermdeRol(const std::filesystem::path& bestand,
+                          const std::filesystem::path& programmaMap, const IniClass& ini) {
+  for (const std::string_view naam : {kIniBestand, kIniReserve, kKopiePad}) {
+    if (IsZelfde(bestand, programmaMap / naam)) return "het bestand met instellingen";
+  }
+  for (const std::string_view naam : kResten) {
+    if (IsZelfde(bestand, programmaMap / naam)) return "een reserve van de instellingen";
+  }
+  if (LigtIn(bestand, programmaMap / "KOPIE")) return "van een veiligheidskopie";
+  const int aantal = ini.AantalBestandenSets();
+  for (int i = 1; i <= aantal; ++i) {
+    const std::string set = ini.bestandenset(i);
+    if (!IsSetNaam(set)) continue;
+    const SetPaden paden = SetPaden::Van(ini.DataDir(), set);
+    if (IsVanSet(bestand, paden)) return "een bestand van bestandenset " + set;
+    for (const auto& map : KopieMappenIn(programmaMap, KopiePlek(programmaMap), set).mappen) {
+      if (LigtIn(bestand, map)) return "van een veiligheidskopie";
+    }
+    if (LigtIn(bestand, paden.map / "JOURNAAL")) return "van het journaal van bestandenset " + set;
+  }
+  return {};
 }
 
 }  // namespace lb77
