@@ -18,6 +18,7 @@ ExpMaakLyst::ExpMaakLyst(Hoofdmodule& hoofd, const ExpSelectie& selectie)
       Relaties(*this, kRelaties),
       RelatieNr(*this, kRelatieNr),
       selectie_(selectie) {
+  ZetHulpOnderwerp("exporteren");
   Koppel(OKButton, BackButton);
 }
 

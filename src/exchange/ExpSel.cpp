@@ -119,6 +119,7 @@ ExpSel::ExpSel(const ExpSelSoort& soort, Hoofdmodule& hoofd, SelectieLijst& lijs
       RecordNr(*this, 0, soort),
       soort_(soort),
       lijst_(lijst) {
+  ZetHulpOnderwerp("exporteren");
   ZetEersteVeld(RecordNr(0).RecordNr);
   RecordNr.Elk([this](int, ExpSelRij& rij) {
     rij.RecordNr.BijVerlaten([this, &rij] { return RecordNrVerlaten(rij); });

@@ -18,6 +18,7 @@ class ExpSchadeTest : public AsciiToets {
  protected:
   ExpSchadeTest() {
     BouwKaartFamilie(Bouw());
+    Bouw().WijzigRelatie(2, {{"OpmRecord", "0"}, {"OpmCode", "0"}});
     Bouw().OpmerkingBijPersoon(3, persoonrubriek::kBeroep, {"een", "twee", "drie"});
     Bouw().OpmerkingBijRelatie(2, relatierubriek::kOtrDatum, {"vier"});
     for (const auto& pad : Paden()) heel_.push_back(LeesBytes(pad));

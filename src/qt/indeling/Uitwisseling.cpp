@@ -1,4 +1,7 @@
 // Import and export.
+#include <string>
+#include <utility>
+
 #include "qt/indeling/Indelingen.h"
 
 namespace lb77::indeling {
@@ -14,6 +17,24 @@ Blok Export(std::vector<Blok> namen, const char* start) {
                          "ToonLijstButton"}),
       Groep("Voortgang", {Velden({Rij({"PersonenGedaan", "RelatiesGedaan", "BronnenGedaan"})})}),
       Knoppen({start, "BackButton"}),
+  });
+}
+
+// The man of a relation above the woman.
+Blok SelecteerRelaties() {
+  const auto partner = [](const std::string& wie, const std::string& rij, Blok voor) {
+    return Rij({std::move(voor), Veld("RecordNr" + wie + rij, "", 6),
+                Veld("VoorNm" + wie + rij, "", 24), Veld("AchterNm" + wie + rij, "", 20)});
+  };
+  return Kolom({
+      "VraagLabel",
+      Rooster({
+          partner("Man", "(0)", "RecordNrRel(0)"),
+          partner("Vrouw", "(0)", ""),
+          partner("Man", "(1)", "RecordNrRel(1)"),
+          partner("Vrouw", "(1)", ""),
+      }),
+      Knoppen({"OKButton", "BackButton"}),
   });
 }
 
@@ -44,20 +65,7 @@ std::vector<Indeling> Uitwisseling() {
                          }),
                          Knoppen({"OKButton", "BackButton"}),
                      })},
-      {"ExpSelRel", Kolom({
-                        "VraagLabel",
-                        Rooster({
-                            Rij({"RecordNrRel(0)", Veld("RecordNrMan(0)", "", 6),
-                                 Veld("VoorNmMan(0)", "", 24), Veld("AchterNmMan(0)", "", 20)}),
-                            Rij({"", Veld("RecordNrVrouw(0)", "", 6),
-                                 Veld("VoorNmVrouw(0)", "", 24), Veld("AchterNmVrouw(0)", "", 20)}),
-                            Rij({"RecordNrRel(1)", Veld("RecordNrMan(1)", "", 6),
-                                 Veld("VoorNmMan(1)", "", 24), Veld("AchterNmMan(1)", "", 20)}),
-                            Rij({"", Veld("RecordNrVrouw(1)", "", 6),
-                                 Veld("VoorNmVrouw(1)", "", 24), Veld("AchterNmVrouw(1)", "", 20)}),
-                        }),
-                        Knoppen({"OKButton", "BackButton"}),
-                    })},
+      {"ExpSelRel", SelecteerRelaties()},
       {"ExpMaakLyst", Kolom({
                           "SchrijfLabel",
                           Velden({
