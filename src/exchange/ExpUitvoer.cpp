@@ -31,20 +31,21 @@ std::string ZonderStuurtekens(std::string_view tekst) {
   return uit;
 }
 
+template <class IsBlanco>
+void ExpUitvoer::Voeg(std::string_view regel, const IsBlanco& isBlanco) {
+  if (fout_) return;
+  regel_ = regel;
+  for (char& teken : regel_) teken = isBlanco(teken) ? ' ' : teken;
+  regel_ += "\r\n";
+  fout_ = Schrijf(regel_);
+}
+
 void ExpUitvoer::Regel(std::string_view regel) {
-  Voeg(regel, IsStuurteken);
+  Voeg(regel, [](char teken) { return IsStuurteken(teken); });
 }
 
 void ExpUitvoer::Kolommen(std::string_view regel) {
-  Voeg(regel, IsStuurtekenInKolom);
-}
-
-void ExpUitvoer::Voeg(std::string_view regel, bool (*isBlanco)(char)) {
-  if (fout_) return;
-  regel_ = regel;
-  std::ranges::replace_if(regel_, isBlanco, ' ');
-  regel_ += "\r\n";
-  fout_ = Schrijf(regel_);
+  Voeg(regel, [](char teken) { return IsStuurtekenInKolom(teken); });
 }
 
 void ExpUitvoer::OnthoudFout(SysteemFout fout) {

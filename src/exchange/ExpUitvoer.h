@@ -34,7 +34,8 @@ class ExpUitvoer {
   void OnthoudFout(SysteemFout fout);
 
  private:
-  void Voeg(std::string_view regel, bool (*isBlanco)(char));
+  template <class IsBlanco>
+  void Voeg(std::string_view regel, const IsBlanco& isBlanco);
 
   SysteemFout fout_;
   std::string regel_;  // kept for its memory

@@ -17,6 +17,7 @@ void GedcomOpmerkingen::Neem(const std::string& id, std::int16_t opmRecord, std:
 }
 
 void GedcomOpmerkingen::SchrijfOpmRegels(int niveau, std::int16_t rubriek) {
+  if (!reeks_.Heeft(code_, rubriek)) return;  // as nearly always
   const OpmReeks::Inhoud inhoud = reeks_.Rubriek(code_, rubriek);
   std::string begin = GetalTekst(niveau) + " NOTE ";
   for (const std::string& tekst : inhoud.regels) {

@@ -17,9 +17,9 @@ namespace {
 namespace rubriek = persoonrubriek;
 using P = GedcomPersoon;
 
-std::string Naam(const P& p) {
-  return std::string(TrimLinks(GedcomTekst(p.voornaam) + " ")) + "/" + GedcomTekst(p.achternaam) +
-         "/";
+void Naam(const P& p, std::string& regel) {
+  regel.append(TrimLinks(GedcomTekst(p.voornaam) + " ")).append("/");
+  regel.append(GedcomTekst(p.achternaam)).append("/");
 }
 
 bool HeeftNaam(const P& p) {
@@ -27,8 +27,8 @@ bool HeeftNaam(const P& p) {
 }
 
 // kept: the prefix is not converted.
-std::string Achternaam(const P& p) {
-  return std::string(TrimLinks(p.voorvoegsel + " ")) + GedcomTekst(p.bareNaam);
+void Achternaam(const P& p, std::string& regel) {
+  regel.append(TrimLinks(p.voorvoegsel + " ")).append(GedcomTekst(p.bareNaam));
 }
 
 constexpr auto kHeeftAchternaam = HeeftTekstOf<&P::bareNaam, rubriek::kAchternaam, P>;
@@ -44,12 +44,12 @@ bool Is(const P& p) {
   return IsCode(p.geslacht, kGeslacht);
 }
 
-std::string GebDatum(const P& p) {
-  return GedcomDatumMetCode(p.gebCorr, p.geb.DatumGetal(), p.doop.DatumGetal());
+void GebDatum(const P& p, std::string& regel) {
+  regel += GedcomDatumMetCode(p.gebCorr, p.geb.DatumGetal(), p.doop.DatumGetal());
 }
 
-std::string OvlDatum(const P& p) {
-  return GedcomDatumMetCode(p.ovlCorr, p.ovl.DatumGetal(), p.begr.DatumGetal());
+void OvlDatum(const P& p, std::string& regel) {
+  regel += GedcomDatumMetCode(p.ovlCorr, p.ovl.DatumGetal(), p.begr.DatumGetal());
 }
 
 // A baptism is told unless its date is the end of the period of the birth, a burial likewise.
@@ -75,11 +75,11 @@ bool IsBegrafenis(const P& p) {
   return !p.crematie && p.begr.IsEr();
 }
 
-std::string Man(const P&) {
-  return "M";
+void Man(const P&, std::string& regel) {
+  regel += "M";
 }
-std::string Vrouw(const P&) {
-  return "F";
+void Vrouw(const P&, std::string& regel) {
+  regel += "F";
 }
 
 bool Altijd(const P&) {

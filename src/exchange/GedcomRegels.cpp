@@ -1,12 +1,17 @@
 #include "exchange/GedcomRegels.h"
 
+#include <algorithm>
+
 #include "text/Ansel.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
 
+// Most texts have nothing to convert.
 std::string GedcomTekst(std::string_view tekst) {
-  return WindowsNaarAnsel(tekst);
+  const bool ascii = std::ranges::all_of(
+      tekst, [](char teken) { return static_cast<unsigned char>(teken) < 0x80; });
+  return ascii ? std::string(tekst) : WindowsNaarAnsel(tekst);
 }
 
 std::string GedcomFeit::DatumGetal() const {

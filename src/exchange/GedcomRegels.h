@@ -9,7 +9,6 @@
 #include "exchange/ExpUitvoer.h"
 #include "exchange/GedcomDatum.h"
 #include "exchange/GedcomOpmerkingen.h"
-#include "text/Getallen.h"
 
 namespace lb77 {
 
@@ -18,8 +17,8 @@ namespace lb77 {
 
 // An event of a record.
 struct GedcomFeit {
-  std::int32_t datum = 0;  // jjjjmmdd; 0 for none
-  std::string plaats;
+  std::int32_t datum = 0;   // jjjjmmdd; 0 for none
+  std::string_view plaats;  // in the list of names
 
   [[nodiscard]] bool IsEr() const { return datum != 0 || !plaats.empty(); }
   // The date for GedcomDatum; the empty text for none.
@@ -32,11 +31,11 @@ void SchrijfVerwijzing(ExpUitvoer& uit, std::string_view tag, char soort, std::i
 // A line and the remarks behind it, of a record R.
 template <class R>
 struct GedcomRij {
-  int niveau;  // 0: no line, only the remarks
+  int niveau;  // one digit; 0: no line, only the remarks
   std::string_view tag;
   bool (*wanneer)(const R&);
-  std::string (*waarde)(const R&) = nullptr;  // none: the tag alone
-  std::int16_t rubriek = 0;                   // 0: no remarks
+  void (*waarde)(const R&, std::string& regel) = nullptr;  // adds it; none: the tag alone
+  std::int16_t rubriek = 0;                                // 0: no remarks
   int opmNiveau = 0;
 };
 
@@ -54,37 +53,37 @@ bool HeeftPlaats(const R& record) {
   return !(record.*kFeit).plaats.empty() || record.Heeft(kRubriek);
 }
 template <auto kFeit, class R>
-std::string Datum(const R& record) {
-  return GedcomDatum((record.*kFeit).DatumGetal());
+void Datum(const R& record, std::string& regel) {
+  regel += GedcomDatum((record.*kFeit).DatumGetal());
 }
 template <auto kFeit, class R>
-std::string Plaats(const R& record) {
-  return (record.*kFeit).plaats;
+void Plaats(const R& record, std::string& regel) {
+  regel += (record.*kFeit).plaats;
 }
 template <auto kTekst, std::int16_t kRubriek, class R>
 bool HeeftTekstOf(const R& record) {
   return !(record.*kTekst).empty() || record.Heeft(kRubriek);
 }
 template <auto kTekst, class R>
-std::string Tekst(const R& record) {
-  return GedcomTekst(record.*kTekst);
+void Tekst(const R& record, std::string& regel) {
+  regel += GedcomTekst(record.*kTekst);
 }
 // The text as it stands in the record.
 template <auto kTekst, class R>
-std::string Kaal(const R& record) {
-  return record.*kTekst;
+void Kaal(const R& record, std::string& regel) {
+  regel += record.*kTekst;
 }
 
 template <class R>
 void SchrijfRijen(std::span<const GedcomRij<R>> rijen, const R& record, ExpUitvoer& uit,
                   GedcomOpmerkingen& opmerkingen) {
+  std::string regel;
   for (const GedcomRij<R>& rij : rijen) {
     if (!rij.wanneer(record)) continue;
     if (rij.niveau > 0) {
-      std::string regel = GetalTekst(rij.niveau);
-      regel.append(" ").append(rij.tag);
+      regel.assign(1, static_cast<char>('0' + rij.niveau)).append(" ").append(rij.tag);
       // kept: an empty value leaves its blank at the end of the line.
-      if (rij.waarde) regel.append(" ").append(rij.waarde(record));
+      if (rij.waarde) rij.waarde(record, regel.append(" "));
       uit.Regel(regel);
     }
     if (rij.rubriek != 0) opmerkingen.SchrijfOpmRegels(rij.opmNiveau, rij.rubriek);

@@ -36,8 +36,8 @@ bool IsGehuwd(const R& r) {
   return !r.ongehuwd && (kHeeftHuwDatum(r) || kHeeftHuwPlaats(r));
 }
 
-std::string HuwDatum(const R& r) {
-  return GedcomDatumMetCode(r.huwCorr, r.whuw.DatumGetal(), r.khuw.DatumGetal());
+void HuwDatum(const R& r, std::string& regel) {
+  regel += GedcomDatumMetCode(r.huwCorr, r.whuw.DatumGetal(), r.khuw.DatumGetal());
 }
 
 // A church marriage is told unless its date is the end of the period of the civil one.

@@ -1,6 +1,5 @@
 #include "exchange/OpmReeks.h"
 
-#include <cstdlib>
 #include <unordered_set>
 #include <utility>
 
@@ -21,6 +20,7 @@ void OpmReeks::Lees(std::int16_t begin) {
   begin_ = begin;
   koppen_.clear();
   fout_.clear();
+  if (begin == 0) return;
   std::unordered_set<std::int16_t> geweest;
   std::int32_t stap = 0;
   for (std::int16_t nr = begin; nr != 0; nr = opmerking_.BijZelfde()) {
@@ -33,7 +33,7 @@ void OpmReeks::Lees(std::int16_t begin) {
 
 OpmReeks::Inhoud OpmReeks::Rubriek(std::int16_t code, std::int16_t rubriek) {
   Inhoud inhoud;
-  if (begin_ == 0 || (std::abs(int{code}) & std::abs(int{rubriek})) == 0) return inhoud;
+  if (!Heeft(code, rubriek)) return inhoud;
   const std::span<const Kop> koppen = Koppen(rubriek);
   for (std::size_t i = 0; i < koppen.size(); ++i) {
     const Einde einde = LeesRegels(koppen[i], inhoud.regels);

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdlib>
 #include <map>
 #include <span>
 #include <string>
@@ -28,6 +29,10 @@ class OpmReeks {
   void Lees(std::int16_t begin);
   [[nodiscard]] std::int16_t Begin() const { return begin_; }
 
+  // Has the owner anything of that rubric, as far as `code` tells?
+  [[nodiscard]] bool Heeft(std::int16_t code, std::int16_t rubriek) const {
+    return begin_ != 0 && (std::abs(int{code}) & std::abs(int{rubriek})) != 0;
+  }
   // Nothing for a rubric that `code` does not have.
   [[nodiscard]] Inhoud Rubriek(std::int16_t code, std::int16_t rubriek);
 

@@ -16,11 +16,13 @@ class PlaatsNamen {
   explicit PlaatsNamen(PlaatsLB77& plaats) : plaats_(plaats) {}
 
   // The name, without its qualifier, of a place number with or without one; empty when there is none.
+  // It stays where it is.
   [[nodiscard]] const std::string& Naam(std::int16_t plaatsNr);
 
  private:
   PlaatsLB77& plaats_;
   std::unordered_map<std::int16_t, std::string> namen_;  // by record number
+  const std::string geen_;
 };
 
 }  // namespace lb77
