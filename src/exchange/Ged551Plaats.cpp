@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 
 #include "text/Letterlijk.h"
 #include "text/Tekens.h"
@@ -51,14 +52,30 @@ std::string ZonderKomma(std::string_view tekst) {
   return uit;
 }
 
+const Gebied* GebiedVan(std::string_view prov) {
+  const auto* gebied = std::ranges::find(kGebieden, Hoofdletters(prov), &Gebied::code);
+  return gebied == kGebieden.end() ? nullptr : gebied;
+}
+
+// A known code between brackets behind a name, as imported places have it; empty when there is none.
+std::string_view CodeInNaam(std::string_view naam) {
+  const std::size_t haakje = naam.rfind(" (");
+  if (haakje == std::string_view::npos || haakje == 0 || !naam.ends_with(')')) return {};
+  const std::string_view code = naam.substr(haakje + 2, naam.size() - haakje - 3);
+  return GebiedVan(code) != nullptr ? code : std::string_view();
+}
+
 }  // namespace
 
 std::string Ged551Plaats(std::string_view naam, std::string_view prov) {
+  if (prov.empty()) {
+    prov = CodeInNaam(naam);
+    if (!prov.empty()) naam.remove_suffix(prov.size() + 3);
+  }
   std::string uit = ZonderKomma(naam);
   if (prov.empty()) return uit;
-  const std::string code = Hoofdletters(prov);
-  const auto* gebied = std::ranges::find(kGebieden, code, &Gebied::code);
-  if (gebied == kGebieden.end()) return uit + ", " + ZonderKomma(prov);
+  const Gebied* gebied = GebiedVan(prov);
+  if (gebied == nullptr) return uit + ", " + ZonderKomma(prov);
   return uit.append(", ").append(gebied->provincie).append(", ").append(gebied->land);
 }
 

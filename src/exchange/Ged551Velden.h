@@ -40,7 +40,7 @@ struct Ged551Gebeurtenis {
 // Works on one record at a time. References outlive it.
 class Ged551Velden {
  public:
-  Ged551Velden(Gegevens gegevens, Ged551Regels& uit, Ged551Opmerkingen& opmerkingen,
+  Ged551Velden(Gegevens delen, Ged551Regels& uit, Ged551Opmerkingen& opmerkingen,
                Ged551Gemis& telling);
 
   // Begins a record: its kind is the first part of all paths. Reads its remarks.

@@ -25,6 +25,16 @@ TEST(Ged551Plaats, ZonderCodeBlijftDeNaam) {
   EXPECT_EQ(Ged551Plaats("Schwerin", ""), "Schwerin");
 }
 
+TEST(Ged551Plaats, EenBekendeCodeTussenHaakjesIsErEen) {
+  EXPECT_EQ(Ged551Plaats("Delft (ZH)", ""), "Delft, Zuid-Holland, Nederland");
+  EXPECT_EQ(Ged551Plaats("Gent (b)", ""), "Gent, , België"_w);
+  EXPECT_EQ(Ged551Plaats("Delft (ZH)", "NH"), "Delft (ZH), Noord-Holland, Nederland");
+  EXPECT_EQ(Ged551Plaats("Delft (oud)", ""), "Delft (oud)");
+  EXPECT_EQ(Ged551Plaats("Delft (ZH) oost", ""), "Delft (ZH) oost");
+  EXPECT_EQ(Ged551Plaats("Delft ()", ""), "Delft ()");
+  EXPECT_EQ(Ged551Plaats(" (ZH)", ""), " (ZH)");
+}
+
 TEST(Ged551Plaats, EenKommaInDeNaamScheidtGeenDelen) {
   EXPECT_EQ(Ged551Plaats("Bergen, bij Alkmaar", "NH"),
             "Bergen; bij Alkmaar, Noord-Holland, Nederland");

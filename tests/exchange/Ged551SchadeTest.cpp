@@ -50,7 +50,7 @@ TEST_P(Ged551Schade, BreektDeStandaardNiet) {
 
 INSTANTIATE_TEST_SUITE_P(Zaden, Ged551Schade, ::testing::Range(1U, 9U));
 
-TEST(Ged551Kring, EenKetenDieRondloopteindigt) {
+TEST(Ged551Kring, EenKetenDieRondlooptEindigt) {
   ProefSet set;
   const std::int16_t nr = set.bouw.Man("", "X");
   set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kAlgemeen, {"een", "twee"}, 1);
