@@ -139,6 +139,8 @@ TEST_F(ExpSelTest, TweemaalDezelfdeReeksVerandertNiets) {
 
 TEST_F(ExpSelTest, ZonderEersteNummerBegintDeReeksBijTwee) {
   Reeks(4);
+  Speel(kExpSelPers, "vul RecordNrPers(0)\nvul RecordNrPers(1) 2\ndruk OKButton", "");
+  EXPECT_THAT(lijst_.Nummers(), ElementsAre(2));
   Speel(kExpSelPers, "vul RecordNrPers(0)\nvul RecordNrPers(1) 3\ndruk OKButton", "");
   EXPECT_THAT(lijst_.Nummers(), ElementsAre(2, 3));
 }
