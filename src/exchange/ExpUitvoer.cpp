@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <ios>
 #include <system_error>
 #include <utility>
@@ -23,6 +25,18 @@ bool IsStuurtekenInKolom(char teken) {
   return teken != '\t' && IsStuurteken(teken);
 }
 
+// Is there any byte below 32? Eight at a time, as nearly no text has one.
+bool HeeftStuurteken(std::string_view tekst) {
+  constexpr std::uint64_t kEnen = 0x0101010101010101;
+  constexpr std::uint64_t kHoogste = kEnen * 0x80;
+  for (; tekst.size() >= sizeof(std::uint64_t); tekst.remove_prefix(sizeof(std::uint64_t))) {
+    std::uint64_t acht = 0;
+    std::memcpy(&acht, tekst.data(), sizeof(acht));
+    if (((acht - kEnen * ' ') & ~acht & kHoogste) != 0) return true;
+  }
+  return std::ranges::any_of(tekst, IsStuurteken);
+}
+
 }  // namespace
 
 std::string ZonderStuurtekens(std::string_view tekst) {
@@ -35,7 +49,7 @@ template <class IsBlanco>
 void ExpUitvoer::Voeg(std::string_view regel, const IsBlanco& isBlanco) {
   if (fout_) return;
   regel_ = regel;
-  for (char& teken : regel_) teken = isBlanco(teken) ? ' ' : teken;
+  if (HeeftStuurteken(regel_)) std::ranges::replace_if(regel_, isBlanco, ' ');
   regel_ += "\r\n";
   fout_ = Schrijf(regel_);
 }

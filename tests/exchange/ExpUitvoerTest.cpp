@@ -41,6 +41,24 @@ TEST_F(ExpUitvoerToets, EenStuurtekenWordtEenSpatie) {
   EXPECT_EQ(Inhoud(), "a  b c d   \x7F\xFF\r\n");
 }
 
+// Wherever it stands in a line of any length, and whatever stands before it.
+TEST_F(ExpUitvoerToets, EenStuurtekenWordtOveralGevonden) {
+  for (std::size_t lengte = 1; lengte < 20; ++lengte) {
+    for (std::size_t plek = 0; plek < lengte; ++plek) {
+      for (const char teken : {'\0', '\x01', '\x1F', '\x20', '\x7F', '\x80', '\xFF'}) {
+        for (const char vulling : {'a', '\x20', '\xFF'}) {
+          std::string regel(lengte, vulling);
+          regel[plek] = teken;
+          FaalUitvoer uit;
+          uit.Regel(regel);
+          if (static_cast<unsigned char>(teken) < 32) regel[plek] = ' ';
+          ASSERT_EQ(uit.Regels(), regel + "\n");
+        }
+      }
+    }
+  }
+}
+
 TEST_F(ExpUitvoerToets, TussenKolommenBlijftEenTab) {
   ASSERT_FALSE(uit_.Open(Pad()));
   uit_.Kolommen("a\tb\nc\t");
