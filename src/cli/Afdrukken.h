@@ -3,9 +3,7 @@
 
 #include <filesystem>
 #include <iosfwd>
-#include <string>
 
-#include "app/IniClass.h"
 #include "store/SysteemFout.h"
 
 namespace lb77 {
@@ -17,11 +15,5 @@ void DrukUit(const std::filesystem::path& bron, std::ostream& uit);
 // written to.
 [[nodiscard]] SysteemFout BewaarAls(const std::filesystem::path& bron,
                                     const std::filesystem::path& naar);
-
-// What that file is to the program when no output may replace it: "het bestand met instellingen",
-// "een bestand van bestandenset FAM". Empty for any other file.
-[[nodiscard]] std::string BeschermdeRol(const std::filesystem::path& bestand,
-                                        const std::filesystem::path& programmaMap,
-                                        const IniClass& ini);
 
 }  // namespace lb77

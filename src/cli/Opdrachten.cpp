@@ -6,6 +6,10 @@ namespace lb77 {
 int Sets(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Nieuw(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Importeer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Exporteer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+// In Uitdraai.cpp.
+int Uitdraai(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Ascii(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Bladen(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 // In Lijsten.cpp.
 int Selectie(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
@@ -42,6 +46,9 @@ constexpr Opdracht kOpdrachten[] = {
     {"sets", "toont de bestandensets", {}, Extra::Geen, Sets},
     {"nieuw", "maakt een bestandenset", {"SET", "[OMSCHRIJVING]"}, Extra::Geen, Nieuw, true},
     {"importeer", "leest een GEDCOM-bestand in", {"SET"}, Extra::Bestand, Importeer, false, true},
+    {"exporteer", "schrijft personen en relaties naar een GEDCOM-bestand", {"SET"}, Extra::ExportGedcom, Exporteer},
+    {"uitdraai", "schrijft alle personen, relaties, plaatsen en opmerkingen in kolommen", {"SET"}, Extra::Uitdraai, Uitdraai},
+    {"ascii", "schrijft personen, relaties en opmerkingen in velden van vaste breedte", {"SET"}, Extra::Export, Ascii},
     {"kwartierstaat", "schrijft de Kwartierstaat van een persoon", {"SET", "PERSOON"}, Extra::Rapport, Kwartierstaat},
     {"index-kwartierstaat", "schrijft de index op een Kwartierstaat", {"SET", "PERSOON"}, Extra::Rapport, IndexKwartierstaat},
     {"schema-kwartierstaat", "tekent de Kwartierstaat van een persoon", {"SET", "PERSOON"}, Extra::Rapport, SchemaKwartierstaat},

@@ -31,18 +31,33 @@ inline constexpr std::size_t kMeesteWoorden = 3;
 struct OpdrachtArgumenten {
   // In the order of the command's words; left-out ones are "".
   std::vector<std::string> woorden = std::vector<std::string>(kMeesteWoorden);
-  std::filesystem::path bestand;  // of `importeer`
+  std::filesystem::path bestand;  // of `importeer` and `exporteer`
   bool html = false;
   std::optional<std::filesystem::path> naar;  // --uit, --naar or --van
   std::vector<std::string> zet;               // NAAM=WAARDE
   bool bewaar = false;                        // --bewaar: the choices hold for later runs too
   bool toch = false;                          // --toch: also when another run has the set
-  bool behoud = false;                        // --behoud, of `herstel`
+  std::string personen;                       // --personen, --relaties: VAN-TOT; both "" is all
+  std::string relaties;
+  bool utf8 = false;    // --utf8, of `exporteer`
+  bool behoud = false;  // --behoud, of `herstel`
 };
 
 // What a command accepts beside its words. A Tekstrapport has no form in HTML,
 // the choices of a Controle are not kept.
-enum class Extra { Geen, Bestand, Rapport, Tekstrapport, Controle, Behoud, Kopie, Terug };
+enum class Extra {
+  Geen,
+  Bestand,
+  Export,
+  Uitdraai,
+  ExportGedcom,
+  Rapport,
+  Tekstrapport,
+  Controle,
+  Behoud,
+  Kopie,
+  Terug
+};
 
 // Gives the exit status: 0, or 1 after an error.
 using OpdrachtFunctie = int(const Omgeving&, const OpdrachtArgumenten&);

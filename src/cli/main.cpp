@@ -34,9 +34,12 @@ struct Regel {
   std::string draaiboek;
   std::string bestand;
   std::string naar;
+  std::string personen;
+  std::string relaties;
   std::vector<std::string> woorden = std::vector<std::string>(kMeesteWoorden);
   std::vector<std::string> zet;
   bool html = false;
+  bool utf8 = false;
   bool bewaar = false;
   bool echo = false;
   bool toch = false;
@@ -55,6 +58,22 @@ std::string InWindows(const std::string& utf8) {
   return *tekst;
 }
 
+// A range of record numbers: "2-40", or one number.
+std::string IsReeks(const std::string& reeks) {
+  const std::size_t streep = reeks.find('-');
+  const bool cijfers = reeks.find_first_not_of("0123456789-") == std::string::npos;
+  const bool heel = !reeks.empty() && reeks.front() != '-' && reeks.back() != '-';
+  return cijfers && heel && streep == reeks.rfind('-') ? std::string() : "VAN-TOT verwacht";
+}
+
+void VoegReeksenToe(CLI::App& sub, Regel& regel) {
+  const auto reeks = [&sub](const char* naam, std::string& waarde, const char* uitleg) {
+    sub.add_option(naam, waarde, uitleg)->type_name("VAN-TOT")->check(IsReeks);
+  };
+  reeks("--personen", regel.personen, "alleen deze personen");
+  reeks("--relaties", regel.relaties, "alleen deze relaties");
+}
+
 void VoegWoordenToe(CLI::App& sub, const Opdracht& opdracht, Regel& regel) {
   sub.get_help_ptr()->group(kKeuzes);
   for (std::size_t i = 0; i < opdracht.woorden.size() && !opdracht.woorden[i].empty(); ++i) {
@@ -66,6 +85,12 @@ void VoegWoordenToe(CLI::App& sub, const Opdracht& opdracht, Regel& regel) {
   if (opdracht.extra == Extra::Bestand) {
     sub.add_option("BESTAND", regel.bestand, "het GEDCOM-bestand")->required();
   }
+  const bool gedcom = opdracht.extra == Extra::ExportGedcom;
+  if (gedcom) {
+    sub.add_option("BESTAND", regel.bestand, "het bestand dat wordt gemaakt")->required();
+  }
+  if (gedcom || opdracht.extra == Extra::Export) VoegReeksenToe(sub, regel);
+  if (gedcom) sub.add_flag("--utf8", regel.utf8, "GEDCOM 5.5.1 in UTF-8, voor programma's van nu");
   if (opdracht.schrijft) {
     sub.add_flag("--toch", regel.toch, "ook als de bestandenset al in gebruik is");
   }
@@ -75,6 +100,9 @@ void VoegWoordenToe(CLI::App& sub, const Opdracht& opdracht, Regel& regel) {
   if (opdracht.extra == Extra::Kopie) {
     sub.add_option("--naar", regel.naar, "maak de kopie in deze map")->type_name("MAP");
     sub.add_flag("--bewaar", regel.bewaar, "ook de volgende kopieën");
+  }
+  if (opdracht.extra == Extra::Export || opdracht.extra == Extra::Uitdraai) {
+    sub.add_option("--naar", regel.naar, "schrijf de bestanden in deze map")->type_name("MAP");
   }
   if (opdracht.extra == Extra::Terug) {
     sub.add_option("--van", regel.naar, "ook uit deze map")->type_name("MAP");
@@ -106,6 +134,9 @@ OpdrachtArgumenten Argumenten(const Regel& regel) {
   argumenten.bewaar = regel.bewaar;
   argumenten.toch = regel.toch;
   argumenten.behoud = regel.behoud;
+  argumenten.personen = regel.personen;
+  argumenten.relaties = regel.relaties;
+  argumenten.utf8 = regel.utf8;
   if (!regel.naar.empty()) argumenten.naar = PadVanUtf8(regel.naar);
   return argumenten;
 }

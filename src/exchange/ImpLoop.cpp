@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "exchange/EigenPaden.h"
 #include "exchange/GedGezindte.h"
 #include "exchange/GedPlaatsNaam.h"
 #include "text/Bestandstekst.h"
@@ -22,7 +23,10 @@ constexpr std::size_t kPlaatsnaam = 25;
 }  // namespace
 
 ImpLoop::ImpLoop(const ImpDelen& delen_, std::int16_t laatstePersoon, std::int16_t laatsteRelatie)
-    : delen(delen_), laatstePersoon_(laatstePersoon), laatsteRelatie_(laatsteRelatie) {}
+    : delen(delen_),
+      plaatsen_(delen_.plaats),
+      laatstePersoon_(laatstePersoon),
+      laatsteRelatie_(laatsteRelatie) {}
 
 void ImpLoop::BeginGang() {
   // The names and the source stay, until a line of this pass brings others.
@@ -33,6 +37,14 @@ void ImpLoop::BeginGang() {
 
 void ImpLoop::TelRegel() {
   if (++stand.regels % kRegelsPerVerversing == 0) delen.melder.Ververs(stand);
+}
+
+GedDelen ImpLoop::Ontleed(std::string_view regel) {
+  GedDelen delen = GedRegel(regel);
+  if (!eigen || delen.waarde.find("@@") == std::string_view::npos) return delen;
+  waarde_ = MetEnkeleAt(delen.waarde);
+  delen.waarde = waarde_;
+  return delen;
 }
 
 GedSoort ImpLoop::Kop(const GedDelen& regel) {
@@ -81,6 +93,18 @@ GedDatumUitslag ImpLoop::Datum(std::string_view waarde) {
   }
   for (const std::string& regel : datum.log) delen.melder.Log(regel);
   return datum;
+}
+
+void ImpLoop::NeemPlaatsRecord(std::string_view id, std::string_view naam, std::string_view prov) {
+  const std::int16_t nr = plaatsen_.Neem(naam, prov);
+  if (nr == 0) Log(" - Plaats niet opgeslagen: " + std::string(naam));
+  plaatsId_.Voeg(id, nr);
+}
+
+std::int16_t ImpLoop::EigenPlaats(std::string_view verwijzing) {
+  const std::int16_t nr = plaatsId_.NrVan(verwijzing);
+  if (nr == 0) TelVerlies(Verlies::Verwijzing);
+  return nr;
 }
 
 std::string ImpLoop::GedPlaats(std::string_view waarde) {

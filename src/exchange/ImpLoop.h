@@ -12,6 +12,7 @@
 #include "exchange/GedRegel.h"
 #include "exchange/GedTekenset.h"
 #include "exchange/ImpMelder.h"
+#include "exchange/ImpPlaatsen.h"
 #include "exchange/ImpRest.h"
 #include "exchange/ImpTekens.h"
 #include "exchange/ImpVerliezen.h"
@@ -42,6 +43,9 @@ class ImpLoop {
   void BeginGang();
   // Counts a line, and now and then brings the progress fields up to date.
   void TelRegel();
+  // The parts of a line. In a file of ours "@@" in its value stands for one "@"; the value is then
+  // valid until the next call.
+  [[nodiscard]] GedDelen Ontleed(std::string_view regel);
   // Notes a line of level 0: its count and the context of log lines. The number of its record
   // becomes PersoonNr or RelatieNr.
   GedSoort Kop(const GedDelen& regel);
@@ -74,6 +78,10 @@ class ImpLoop {
   [[nodiscard]] std::string GedTekst(std::string_view tekst);
   // The value of a DATE line; what can't be read goes to the log.
   [[nodiscard]] GedDatumUitslag Datum(std::string_view waarde);
+  // Takes a place record of a file of ours, by its id.
+  void NeemPlaatsRecord(std::string_view id, std::string_view naam, std::string_view prov);
+  // The number of the place that a link to such a record means; 0 for none.
+  [[nodiscard]] std::int16_t EigenPlaats(std::string_view verwijzing);
   // The number of a place, as text, which is added when it is new; "0" for none.
   [[nodiscard]] std::string GedPlaats(std::string_view waarde);
   // The record number of a pointer as text; "0" for none.
@@ -87,6 +95,7 @@ class ImpLoop {
   GedIdTabel GedRelId;
   GedTekenset tekenset = GedTekenset::Geen;
   bool omgezet = false;  // the reader converts: no character set that the file names counts
+  bool eigen = false;    // the file is one of ours, which doubles an "@" as the standard asks
   ImpStand stand;
   ImpVerliezen verliezen;
   Regelmerken merken;  // of the lines that the second pass did not store whole
@@ -96,6 +105,9 @@ class ImpLoop {
  private:
   [[nodiscard]] std::string NrVan(const GedIdTabel& tabel, std::string_view verwijzing);
 
+  GedIdTabel plaatsId_;
+  ImpPlaatsen plaatsen_;
+  std::string waarde_;  // of the line at hand, where it differs from what the file has
   std::string context_;
   std::int16_t laatstePersoon_;
   std::int16_t laatsteRelatie_;

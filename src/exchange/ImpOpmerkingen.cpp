@@ -4,11 +4,13 @@
 #include <array>
 #include <cstddef>
 
+#include "exchange/EigenPaden.h"
 #include "exchange/GedNaam.h"
 #include "exchange/GedRegel.h"
 #include "exchange/OpmAfbreken.h"
 #include "exchange/OpmTags.h"
 #include "store/Codes.h"
+#include "store/OpmVelden.h"
 #include "text/Bestandstekst.h"
 #include "text/Dos437.h"
 #include "text/Getallen.h"
@@ -67,7 +69,7 @@ ImpUitslag ImpOpmerkingen::Voer(RegelLezer& lezer) {
   std::string_view regel;
   while (!einde_ && lezer.Volgende(regel)) {
     loop_.TelRegel();
-    const GedDelen delen = GedRegel(regel);
+    const GedDelen delen = loop_.Ontleed(regel);
     if (!delen.fout.empty()) return {.fout = std::string(delen.fout)};
     ImpUitslag uitslag = delen.level == 0 ? NeemKop(delen) : NeemRegel(delen);
     if (!uitslag.Gelukt()) {
@@ -149,6 +151,11 @@ ImpUitslag ImpOpmerkingen::NeemRegel(const GedDelen& delen) {
     NeemVervolg(delen);
     return {};
   }
+  if (NoemGebeurtenis(pad_, delen)) return {};
+  if (HoortBijOpmerking(delen.tag)) {
+    NeemEigen(delen);
+    return {};
+  }
   const auto* wissel = std::ranges::find(kTagwissels, delen.tag, &Tagwissel::tag);
   const bool gewisseld = wissel != kTagwissels.end();
   const std::string_view tag = gewisseld ? kNote : delen.tag;
@@ -161,6 +168,8 @@ ImpUitslag ImpOpmerkingen::NeemRegel(const GedDelen& delen) {
     SchrijfRest();
     return uitslag;
   }
+  // The kind of an event that was named stands in tags of our own.
+  if (delen.tag == "TYPE" && IsGenoemd(pad_.Ouder(delen.level))) return {};
   Regel regel{pad_.Ouder(delen.level), pad, delen.tag, tag, {}, delen.waarde};
   if (gewisseld) regel.waarde = wissel->voor;
   regel.waarde += delen.waarde;
@@ -197,6 +206,8 @@ void ImpOpmerkingen::NeemVervolg(const GedDelen& delen) {
   if (vanNoot && rubriek_ != 0) {
     if (delen.tag == "CONT") tekst_ += ' ';
     tekst_ += delen.waarde;
+    if (delen.tag == "CONT") regels_.emplace_back();
+    regels_.back() += delen.waarde;
     heel_ = heel_ && !lezer_->VerloorTekens();
     loop_.rest.VervolgNoot();
     return;
@@ -246,8 +257,40 @@ void ImpOpmerkingen::Wacht(const Regel& regel) {
   rubriek_ = rij != nullptr ? rij->rubriek : AlgemeneRubriek(regel.ouder);
   tekst_ = rij != nullptr ? rij->voor : std::string_view();
   tekst_ += regel.waarde;
+  regels_.assign(1, tekst_);
   regel_ = loop_.stand.regels;
+  prog_ = kBijProg;
+  vanOns_ = false;
   if (rubriek_ != 0) loop_.rest.BeginNoot();
+}
+
+// A rubric of another kind of owner than that of the record at hand is none.
+void ImpOpmerkingen::NeemEigen(const GedDelen& delen) {
+  const auto getal = NaarInt16(Getalwaarde(delen.waarde));
+  if (rubriek_ == 0 || !getal) return;
+  vanOns_ = true;
+  if (delen.tag == eigen::kProg) prog_ = *getal;
+  if (delen.tag == eigen::kRubriek && *getal != 0 && (*getal > 0) == (rubriek_ > 0)) {
+    rubriek_ = *getal;
+  }
+}
+
+OpmRegels ImpOpmerkingen::Regels() {
+  OpmRegels regels;
+  bool past = vanOns_ && regels_.size() <= regels.size();
+  for (std::size_t i = 0; past && i < regels_.size(); ++i) {
+    regels[i] = loop_.GedTekst(regels_[i]);
+    past = regels[i].size() <= opmveld::Tekstregel.breedte;
+  }
+  if (!past) {
+    const std::string tekst = loop_.GedTekst(tekst_);
+    const bool geheel = PastGeheel(tekst);
+    if (!geheel) loop_.verliezen.Tel(Verlies::OpmAfgekapt, regel_);
+    heel_ = heel_ && geheel;
+    regels = BreekAf(tekst);
+  }
+  heel_ = heel_ && std::ranges::all_of(regels, PastInRecord);
+  return regels;
 }
 
 ImpUitslag ImpOpmerkingen::Bewaar() {
@@ -276,13 +319,8 @@ ImpUitslag ImpOpmerkingen::BewaarNoot() {
 
 ImpUitslag ImpOpmerkingen::Schrijf(std::int16_t begin, std::int16_t persoon, std::int16_t relatie) {
   OpmLB77& opmerking = loop_.delen.opmerking;
-  const std::string tekst = loop_.GedTekst(tekst_);
-  const bool geheel = PastGeheel(tekst);
-  if (!geheel) loop_.verliezen.Tel(Verlies::OpmAfgekapt, regel_);
-  const OpmRegels regels = BreekAf(tekst);
-  heel_ = heel_ && geheel && std::ranges::all_of(regels, PastInRecord);
   const bool gelukt =
-      opmerking.SchrijfOpmerking(regels, {}, 0, persoon, relatie, begin, kBijProg, rubriek_);
+      opmerking.SchrijfOpmerking(Regels(), {}, 0, persoon, relatie, begin, prog_, rubriek_);
   rubriek_ = 0;
   if (gelukt) return {};
   // No later note would do better; where it stopped stands behind what the class has told.

@@ -4,12 +4,14 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "exchange/GedPad.h"
 #include "exchange/ImpLoop.h"
 #include "exchange/OpmRubrieken.h"
 #include "exchange/Padtabel.h"
 #include "exchange/RegelLezer.h"
+#include "store/OpmLB77.h"
 
 namespace lb77 {
 
@@ -30,6 +32,8 @@ class ImpOpmerkingen {
   void SchrijfRest();
   void LeesRest(RegelLezer& lezer);
   void NeemVervolg(const GedDelen& delen);
+  // What a tag of our own tells of the note that waits.
+  void NeemEigen(const GedDelen& delen);
   void MaakOpmerking(Regel& regel);
   void ToonNaam(std::string_view waarde);
   [[nodiscard]] std::string AdoptieDatum(std::string_view waarde);
@@ -39,17 +43,23 @@ class ImpOpmerkingen {
   void TelAchterSlot(RegelLezer& lezer, std::int32_t regel);
   [[nodiscard]] ImpUitslag Bewaar();
   [[nodiscard]] ImpUitslag BewaarNoot();
+  // The lines to store; a note of ours keeps its own. What they leave out makes the note one that is
+  // not whole.
+  [[nodiscard]] OpmRegels Regels();
   [[nodiscard]] ImpUitslag Schrijf(std::int16_t begin, std::int16_t persoon, std::int16_t relatie);
 
   ImpLoop& loop_;
   const RegelLezer* lezer_ = nullptr;
   Padtabel<OpmRubriek> rubrieken_;
   GedPad pad_;
-  std::string tekst_;         // of the note that waits, as the file has it
-  std::int32_t regel_ = 0;    // in which that note begins
-  std::int16_t rubriek_ = 0;  // of that note; 0 when none waits
-  bool heel_ = true;          // nothing of that note is lost already
-  bool kwijt_ = false;        // the line at hand is a note that was not taken over
+  std::string tekst_;                // of the note that waits, as the file has it
+  std::vector<std::string> regels_;  // the same, line by line
+  std::int32_t regel_ = 0;           // in which that note begins
+  std::int16_t prog_ = 0;            // the outputs in which it is used
+  bool vanOns_ = false;              // its lines stay as they are
+  std::int16_t rubriek_ = 0;         // of that note; 0 when none waits
+  bool heel_ = true;                 // nothing of that note is lost already
+  bool kwijt_ = false;               // the line at hand is a note that was not taken over
   bool einde_ = false;
 };
 

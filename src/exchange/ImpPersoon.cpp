@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "exchange/EigenPaden.h"
 #include "exchange/GedNaam.h"
 #include "store/Codes.h"
 #include "store/PersoonVelden.h"
@@ -29,6 +30,11 @@ bool IsAnder(std::string_view oud, std::string_view nieuw) {
   return !oud.empty() && oud != nieuw;
 }
 
+bool IsEigen(PersoonActie actie) {
+  return actie == PersoonActie::Eigen || actie == PersoonActie::EigenCorr ||
+         actie == PersoonActie::EigenPlaats || actie == PersoonActie::EigenZeker;
+}
+
 // The sex by its first letter.
 char GeslachtVan(std::string_view waarde) {
   const std::string_view woord = TrimLinks(waarde);
@@ -52,6 +58,7 @@ bool ImpPersoon::Begin(std::int16_t nr) {
   gebCorr_ = ovlCorr_ = ' ';
   velden_.Wis();
   voorvoegsels_.clear();
+  vast_.Wis();
   voornaam_.clear();
   achternaam_.clear();
   loop_.delen.volgers.HuidigPersoonNr = nr;
@@ -75,6 +82,11 @@ void ImpPersoon::RondAf() {
 }
 
 bool ImpPersoon::Neem(const PersoonPad& pad, std::string_view waarde) {
+  if (IsEigen(pad.actie)) {
+    NeemEigen(pad, waarde);
+    return true;
+  }
+  if (vast_.Bevat(pad.veld)) return true;
   switch (pad.actie) {
     case PersoonActie::Naam:
       NeemNaam(pad, waarde);
@@ -109,6 +121,10 @@ bool ImpPersoon::Neem(const PersoonPad& pad, std::string_view waarde) {
       break;
     case PersoonActie::Relatie:
       return NeemRelatie(waarde);
+    case PersoonActie::Eigen:
+    case PersoonActie::EigenCorr:
+    case PersoonActie::EigenPlaats:
+    case PersoonActie::EigenZeker:
     case PersoonActie::Niets:
       if (pad.pad.ends_with("-SPFX")) NeemVoorvoegsel(waarde);
       break;
@@ -125,6 +141,22 @@ void ImpPersoon::NeemBeroep(const PersoonPad& pad, std::string_view waarde) {
 
 void ImpPersoon::NeemVoorvoegsel(std::string_view waarde) {
   voorvoegsels_.push_back({loop_.stand.regels, GedNaarWindows(loop_.tekenset, Trim(waarde))});
+}
+
+void ImpPersoon::NeemEigen(const PersoonPad& pad, std::string_view waarde) {
+  std::string tekst = loop_.GedTekst(Trim(waarde));
+  // A continuation record is no person: no line can make one.
+  if (pad.actie == PersoonActie::EigenCorr && IsCode(tekst, correctie::kVervolg)) return;
+  if (pad.actie == PersoonActie::EigenPlaats) {
+    plaats_ = loop_.EigenPlaats(waarde);
+    tekst = GetalTekst(plaats_);
+  } else if (pad.actie == PersoonActie::EigenZeker) {
+    tekst = GetalTekst(MetBepaling(plaats_, tekst));
+  }
+  vast_.Voeg(pad.veld);
+  if (pad.veld == "Achternaam") achternaam_ = tekst;
+  if (pad.veld == "Voornaam") voornaam_ = tekst;
+  Zet(pad.veld, tekst);
 }
 
 void ImpPersoon::NeemNaam(const PersoonPad& pad, std::string_view waarde) {
@@ -179,13 +211,13 @@ void ImpPersoon::NeemDatum(const PersoonPad& pad, std::string_view waarde) {
   }
   const bool metCorr = geboorte || overlijden;
   if (!datum.heel || (!metCorr && datum.corr != correctie::kGeen)) loop_.Merk();
-  if (geboorte) ZetVeld("GebCorr", std::string(1, datum.corr));
-  if (overlijden) ZetVeld("OvlCorr", std::string(1, datum.corr));
+  if (geboorte) ZetVrij("GebCorr", std::string(1, datum.corr));
+  if (overlijden) ZetVrij("OvlCorr", std::string(1, datum.corr));
   ZetVeld(pad.veld, GedDatumTekst(datum.eerste));
   if (datum.corr != correctie::kTussen) return;
   // The end of a period lies in the fields of the event behind it.
-  if (geboorte) ZetVeld("DoopDatum", GedDatumTekst(datum.tweede));
-  if (overlijden) ZetVeld("BegrDatum", GedDatumTekst(datum.tweede));
+  if (geboorte) ZetVrij("DoopDatum", GedDatumTekst(datum.tweede));
+  if (overlijden) ZetVrij("BegrDatum", GedDatumTekst(datum.tweede));
 }
 
 void ImpPersoon::NeemPlaats(const PersoonPad& pad, std::string_view waarde) {

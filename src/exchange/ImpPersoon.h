@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "exchange/ImpLoop.h"
+#include "exchange/ImpVast.h"
 #include "exchange/ImpVelden.h"
 #include "exchange/PersoonPaden.h"
 
@@ -37,6 +38,8 @@ class ImpPersoon {
   void TelOverschreven();
   void NeemDatum(const PersoonPad& pad, std::string_view waarde);
   void NeemPlaats(const PersoonPad& pad, std::string_view waarde);
+  // A tag of our own.
+  void NeemEigen(const PersoonPad& pad, std::string_view waarde);
   [[nodiscard]] bool NeemRelatie(std::string_view waarde);
   [[nodiscard]] bool MaakVervolg(std::string_view vierde);
   [[nodiscard]] bool ZetVijfde(std::string_view vijfde);
@@ -45,9 +48,15 @@ class ImpPersoon {
   }
   // The same from the line at hand, which is lost when a later one gives the field something else.
   void ZetVeld(std::string_view veld, std::string_view waarde);
+  // The same for a field that another line may have told exactly.
+  void ZetVrij(std::string_view veld, std::string_view waarde) {
+    if (!vast_.Bevat(veld)) ZetVeld(veld, waarde);
+  }
 
   ImpLoop& loop_;
   std::int16_t nr_ = 0;
+  std::int16_t plaats_ = 0;  // that the last link led to
+  ImpVast vast_;
   int relaties_ = 0;
   struct Voorvoegsel {
     std::int32_t regel;

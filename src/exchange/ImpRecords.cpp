@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "exchange/EigenPaden.h"
 #include "exchange/GedRegel.h"
 #include "exchange/OpmTags.h"
 #include "text/Letterlijk.h"
@@ -18,7 +19,7 @@ constexpr std::string_view kVoorvoegsel = "INDI-NAME-SPFX";
 constexpr std::array<std::string_view, 3> kZonderVerlies = {"ADDR", "SPFX", "DATE"};
 
 bool IsVoorOpmerkingen(std::string_view tag) {
-  return tag == "NOTE" || IsVervolgTag(tag) || WordtOpmerking(tag);
+  return tag == "NOTE" || IsVervolgTag(tag) || WordtOpmerking(tag) || HoortBijOpmerking(tag);
 }
 
 }  // namespace
@@ -36,7 +37,7 @@ ImpUitslag ImpRecords::Voer(RegelLezer& lezer) {
   std::string_view regel;
   while (!einde_ && lezer.Volgende(regel)) {
     loop_.TelRegel();
-    const GedDelen delen = GedRegel(regel);
+    const GedDelen delen = loop_.Ontleed(regel);
     if (!delen.fout.empty()) return {.fout = std::string(delen.fout)};
     pad_.Zet(delen.level, delen.tag);
     if (!(delen.level == 0 ? NeemKop(delen) : NeemRegel(delen))) return {.gestopt = true};
@@ -53,6 +54,8 @@ void ImpRecords::MerkVanaf(std::int32_t regel) {
 bool ImpRecords::NeemKop(const GedDelen& delen) {
   if (!BewaarRecord()) return false;
   kop_ = loop_.stand.regels;
+  id_ = delen.id;
+  prov_.clear();
   if (!Trim(delen.waarde).empty()) loop_.Merk();
   return BeginRecord(loop_.Kop(delen));
 }
@@ -81,6 +84,7 @@ bool ImpRecords::NeemRegel(GedDelen delen) {
     delen.tag = "BIRT";
     pad_.Zet(delen.level, delen.tag);
   }
+  if (NoemGebeurtenis(pad_, delen)) return true;
   if (IsVoorOpmerkingen(delen.tag)) {
     // An adoption is told by what stands below it.
     if (delen.tag != "ADOP" || !Trim(delen.waarde).empty()) loop_.Merk();
@@ -116,6 +120,7 @@ bool ImpRecords::NeemRegel(GedDelen delen) {
     if (rij->actie != OverigeActie::Tekenset) MerkNiets(delen);
     return true;
   }
+  if (loop_.eigen && IsBekendInEigen(pad)) return true;
   loop_.Merk();
   LogOnbekend(groep, delen);
   return true;
@@ -141,6 +146,15 @@ void ImpRecords::NeemOverig(OverigeActie actie, std::string_view waarde) {
       break;
     case OverigeActie::BronNaam:
       loop_.stand.bron = loop_.GedTekst(waarde);
+      break;
+    case OverigeActie::EigenVorm:
+      loop_.eigen = true;
+      break;
+    case OverigeActie::PlaatsProv:
+      prov_ = loop_.GedTekst(Trim(waarde));
+      break;
+    case OverigeActie::PlaatsNaam:
+      loop_.NeemPlaatsRecord(id_, loop_.GedTekst(Trim(waarde)), prov_);
       break;
     case OverigeActie::Niets:
       break;

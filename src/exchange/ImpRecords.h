@@ -49,6 +49,8 @@ class ImpRecords {
   Padtabel<OverigPad> overigePaden_;
   GedPad pad_;
   std::int32_t kop_ = 0;  // the line of the record that is being built
+  std::string id_;        // of the record at hand
+  std::string prov_;      // of the place at hand
   bool einde_ = false;
   bool schemaGemeld_ = false;
   bool eigenTagGemeld_ = false;

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "exchange/EigenPaden.h"
 #include "store/Codes.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"
@@ -15,6 +16,11 @@ constexpr int kInHoofdrecord = 15;
 constexpr int kHoogsteKind = 29;
 // Slot n of the continuation holds child n + 14.
 constexpr int kVerschuiving = 14;
+
+bool IsEigen(RelatieActie actie) {
+  return actie == RelatieActie::Eigen || actie == RelatieActie::EigenCorr ||
+         actie == RelatieActie::EigenPlaats || actie == RelatieActie::EigenZeker;
+}
 
 std::string KindVeld(int slot) {
   return "Kind" + GetalTekst(slot);
@@ -32,6 +38,7 @@ bool ImpRelatie::Begin(std::int16_t nr) {
   nr_ = nr;
   kinderen_ = 0;
   velden_.Wis();
+  vast_.Wis();
   loop_.delen.volgers.HuidigRelatieNr = nr;
   return loop_.delen.relatie.Lees(nr);
 }
@@ -47,6 +54,11 @@ bool ImpRelatie::Bewaar() {
 }
 
 bool ImpRelatie::Neem(const RelatiePad& pad, std::string_view waarde, char laatsteOvlCorr) {
+  if (IsEigen(pad.actie)) {
+    NeemEigen(pad, waarde);
+    return true;
+  }
+  if (vast_.Bevat(pad.veld)) return true;
   if (!pad.vooraf.empty()) ZetVeld(pad.vooraf, pad.waarde);
   switch (pad.actie) {
     case RelatieActie::Persoon:
@@ -65,6 +77,13 @@ bool ImpRelatie::Neem(const RelatiePad& pad, std::string_view waarde, char laats
       break;
     case RelatieActie::Kind:
       return NeemKind(waarde);
+    case RelatieActie::EigenHuwDatum:
+      NeemEigenDatum(waarde);
+      break;
+    case RelatieActie::Eigen:
+    case RelatieActie::EigenCorr:
+    case RelatieActie::EigenPlaats:
+    case RelatieActie::EigenZeker:
     case RelatieActie::Bond:
       if (!IsBevestiging(waarde)) loop_.Merk();
       break;
@@ -74,10 +93,31 @@ bool ImpRelatie::Neem(const RelatiePad& pad, std::string_view waarde, char laats
   return true;
 }
 
+void ImpRelatie::NeemEigen(const RelatiePad& pad, std::string_view waarde) {
+  std::string tekst = loop_.GedTekst(Trim(waarde));
+  // A continuation record is no relation: no line can make one.
+  if (pad.actie == RelatieActie::EigenCorr && IsCode(tekst, correctie::kVervolg)) return;
+  if (pad.actie == RelatieActie::EigenPlaats) {
+    plaats_ = loop_.EigenPlaats(waarde);
+    tekst = GetalTekst(plaats_);
+  } else if (pad.actie == RelatieActie::EigenZeker) {
+    tekst = GetalTekst(MetBepaling(plaats_, tekst));
+  }
+  vast_.Voeg(pad.veld);
+  Zet(pad.veld, tekst);
+}
+
+void ImpRelatie::NeemEigenDatum(std::string_view waarde) {
+  const GedDatumUitslag datum = loop_.Datum(waarde);
+  ZetVrij("HuwCorr", std::string(1, datum.corr));
+  Zet("WHuwDatum", GedDatumTekst(datum.eerste));
+  if (datum.corr == correctie::kTussen) ZetVrij("KHuwDatum", GedDatumTekst(datum.tweede));
+}
+
 void ImpRelatie::NeemDatum(const RelatiePad& pad, std::string_view waarde, char laatsteOvlCorr) {
   const GedDatumUitslag datum = loop_.Datum(waarde);
-  // No qualifier is stored.
-  if (!datum.heel || datum.corr != correctie::kGeen) loop_.Merk();
+  // No qualifier is stored; one of ours stands in a tag of our own as well.
+  if (!datum.heel || (datum.corr != correctie::kGeen && !loop_.eigen)) loop_.Merk();
   ZetVeld(pad.veld, GedDatumTekst(datum.eerste));
   if (pad.actie == RelatieActie::Datum) return;
   // kept: a marriage looks at the last death or burial, not at its own date, and the qualifier

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "exchange/ImpLoop.h"
+#include "exchange/ImpVast.h"
 #include "exchange/ImpVelden.h"
 #include "exchange/RelatiePaden.h"
 
@@ -25,6 +26,8 @@ class ImpRelatie {
 
  private:
   void NeemDatum(const RelatiePad& pad, std::string_view waarde, char laatsteOvlCorr);
+  void NeemEigen(const RelatiePad& pad, std::string_view waarde);
+  void NeemEigenDatum(std::string_view waarde);
   [[nodiscard]] bool NeemKind(std::string_view waarde);
   [[nodiscard]] bool MaakVervolg(std::string_view kind);
   [[nodiscard]] bool ZetInVervolg(std::string_view kind);
@@ -33,9 +36,15 @@ class ImpRelatie {
   }
   // The same from the line at hand, which is lost when a later one gives the field something else.
   void ZetVeld(std::string_view veld, std::string_view waarde);
+  // The same for a field that another line may have told exactly.
+  void ZetVrij(std::string_view veld, std::string_view waarde) {
+    if (!vast_.Bevat(veld)) ZetVeld(veld, waarde);
+  }
 
   ImpLoop& loop_;
   std::int16_t nr_ = 0;
+  std::int16_t plaats_ = 0;  // that the last link led to
+  ImpVast vast_;
   int kinderen_ = 0;
   ImpVelden velden_;
 };

@@ -3,14 +3,17 @@
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
+#include "exchange/EigenPaden.h"
 #include "exchange/GedKop.h"
 #include "exchange/GedPad.h"
 #include "exchange/GedPlaatsNaam.h"
 #include "exchange/GedRegel.h"
 #include "exchange/GedTekenset.h"
+#include "exchange/ImpPlaatsen.h"
 #include "exchange/OverigePaden.h"
 #include "exchange/Padtabel.h"
 #include "exchange/PersoonPaden.h"
@@ -26,10 +29,18 @@ namespace lb77 {
 
 namespace {
 
-using Namen = std::unordered_set<std::string>;
+// The places of the set: their names, and how many there are of each likeness.
+struct Bekenden {
+  std::unordered_set<std::string> namen;
+  std::unordered_map<std::string, int> gelijken;
+};
 
-Namen Bekend(RecordBestand& plaatsen, SysteemFout& fout) {
-  Namen namen;
+std::string Opgeslagen(std::string_view record, const Veld& veld) {
+  return DosNaarWindows(Trim(record.substr(veld.plaats, veld.breedte)));
+}
+
+Bekenden Bekend(RecordBestand& plaatsen, SysteemFout& fout) {
+  Bekenden bekend;
   std::string bytes(plaatsen.RecordLengte(), '\0');
   for (std::int32_t nr = 2; nr <= kHoogstePlaats; ++nr) {
     Leesuitslag uitslag = plaatsen.Lees(nr, bytes);
@@ -38,11 +49,11 @@ Namen Bekend(RecordBestand& plaatsen, SysteemFout& fout) {
       continue;
     }
     if (uitslag.gelezen == 0) break;
-    const std::string_view naam =
-        std::string_view(bytes).substr(plaatsveld::Naam.plaats, plaatsveld::Naam.breedte);
-    namen.insert(PlaatsIndex::Sleutel(DosNaarWindows(Trim(naam))));
+    const std::string naam = Opgeslagen(bytes, plaatsveld::Naam);
+    bekend.namen.insert(PlaatsIndex::Sleutel(naam));
+    ++bekend.gelijken[PlaatsGelijkenis(naam, Opgeslagen(bytes, plaatsveld::Prov))];
   }
-  return namen;
+  return bekend;
 }
 
 bool IsPlaats(PersoonActie actie) {
@@ -54,7 +65,7 @@ bool IsPlaats(PersoonActie actie) {
 class Teller {
  public:
   // `windows`: the lines are in Windows-1252, whatever the file says.
-  Teller(Namen bekend, bool windows)
+  Teller(Bekenden bekend, bool windows)
       : bekend_(std::move(bekend)),
         windows_(windows),
         personen_(AllePersoonPaden()),
@@ -66,11 +77,13 @@ class Teller {
     const GedDelen delen = GedRegel(regel);
     if (!delen.fout.empty()) return false;
     pad_.Zet(delen.level, delen.tag == "_ORIG" ? "BIRT" : delen.tag);
+    if (NoemGebeurtenis(pad_, delen)) return true;
     if (delen.level > 0) {
       NeemRegel(delen);
       return true;
     }
     soort_ = GedSoortVan(delen.tag);
+    prov_.clear();
     if (soort_ == GedSoort::Persoon) ++telling.personen;
     if (soort_ == GedSoort::Relatie) ++telling.relaties;
     return soort_ != GedSoort::Einde;
@@ -80,12 +93,29 @@ class Teller {
 
  private:
   void NeemRegel(const GedDelen& delen) {
+    if (delen.level == 1) gekend_.clear();
     if (delen.tag == "PLAC") {
-      if (IsPlaatsregel(pad_.Van(delen.level))) NeemPlaats(delen.waarde);
+      // A link to a place record tells the place before it is named.
+      const bool gekend = pad_.Ouder(delen.level) == gekend_;
+      if (!gekend && IsPlaatsregel(pad_.Van(delen.level))) NeemPlaats(delen.waarde);
+    } else if (delen.tag == eigen::kPlaats) {
+      gekend_ = pad_.Ouder(delen.level);
+    } else if (pad_.Van(0) == eigen::kPlaats) {
+      NeemPlaatsRecord(delen);
     } else if (delen.tag == "CHAR" && !windows_) {
       const auto* rij = overige_.Zoek(pad_.Van(delen.level));
       if (rij && rij->actie == OverigeActie::Tekenset) tekenset_ = GedTekensetVan(delen.waarde);
     }
+  }
+
+  void NeemPlaatsRecord(const GedDelen& delen) {
+    const std::string waarde = GedNaarWindows(tekenset_, MetEnkeleAt(Trim(delen.waarde)));
+    if (delen.tag == eigen::kProv) prov_ = waarde;
+    if (delen.tag != "NAME") return;
+    int& gelijken = bekend_.gelijken[PlaatsGelijkenis(waarde, prov_)];
+    const bool nieuw = gelijken == 0 || PlaatsIndex::Sleutel(waarde).empty();
+    telling.plaatsen += nieuw ? 1 : 0;
+    gelijken -= nieuw ? 0 : 1;
   }
 
   [[nodiscard]] bool IsPlaatsregel(std::string_view pad) const {
@@ -101,13 +131,15 @@ class Teller {
     const std::string tekst = GedNaarWindows(tekenset_, Trim(waarde));
     const std::string_view naam = GedPlaatsNaam(tekst);
     std::string sleutel = PlaatsIndex::Sleutel(Trim(naam.substr(0, kPlaatsnaam)));
-    if (!sleutel.empty() && bekend_.insert(std::move(sleutel)).second) ++telling.plaatsen;
+    if (!sleutel.empty() && bekend_.namen.insert(std::move(sleutel)).second) ++telling.plaatsen;
   }
 
   static constexpr std::size_t kPlaatsnaam = plaatsveld::Naam.breedte;
 
-  Namen bekend_;
+  Bekenden bekend_;
   bool windows_;
+  std::string prov_;    // of the place record at hand
+  std::string gekend_;  // the path above the last link to such a record
   Padtabel<PersoonPad> personen_;
   Padtabel<RelatiePad> relaties_;
   Padtabel<OverigPad> overige_;

@@ -59,6 +59,10 @@ constexpr OpmRubriek kRubrieken[] = {
     {"FAM-ANUL-DATE", relatie::kAlgemeen, "Opm_Datum_Scheiding: "},
     {"FAM-DIV-PLAC", relatie::kAlgemeen, "Opm_Plaats_Scheiding: "},
     {"FAM-ANUL-PLAC", relatie::kAlgemeen, "Opm_Plaats_Scheiding: "},
+    {"FAM-_LBWET", relatie::kWetHuwDatum, ""},
+    {"FAM-_LBWET-PLAC", relatie::kWetHuwPlaats, ""},
+    {"FAM-_LBKERK", relatie::kKHuwDatum, ""},
+    {"FAM-_LBKERK-PLAC", relatie::kKHuwPlaats, ""},
 };
 
 }  // namespace

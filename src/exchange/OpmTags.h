@@ -5,6 +5,8 @@
 #include <array>
 #include <string_view>
 
+#include "exchange/EigenPaden.h"
+
 namespace lb77 {
 
 // ADOP is one for what stands below it.
@@ -12,6 +14,11 @@ constexpr bool WordtOpmerking(std::string_view tag) {
   constexpr std::array<std::string_view, 8> kTags = {"_COMM", "_ALIA", "RFN",  "AFN",
                                                      "SOUR",  "CAUS",  "TYPE", "ADOP"};
   return std::ranges::find(kTags, tag) != kTags.end();
+}
+
+// A tag of our own, below a note and behind its text.
+constexpr bool HoortBijOpmerking(std::string_view tag) {
+  return tag == eigen::kRubriek || tag == eigen::kProg;
 }
 
 constexpr bool IsVervolgTag(std::string_view tag) {

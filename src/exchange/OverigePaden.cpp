@@ -23,7 +23,8 @@ constexpr OverigPad kPaden[] = {
     {"SUBM-CHAN", Niets},           {"SUBM-CHAN-DATE", Niets},      {"SUBM-FILE", Niets},
     {"SUBN-DESC", Niets},           {"SUBN-ORDI", Niets},           {"SOUR-AUTH", Niets},
     {"SOUR-PUBL", Niets},           {"SOUR-REPO", Niets},           {"REPO-NAME", Niets},
-    {"REPO-ADDR", Niets},
+    {"REPO-ADDR", Niets},           {"HEAD-_LBVORM", EigenVorm},    {"_LBPLTS-_LBPROV", PlaatsProv},
+    {"_LBPLTS-NAME", PlaatsNaam},
 };
 
 }  // namespace

@@ -9,7 +9,11 @@ namespace lb77 {
 enum class OverigeActie {
   Tekenset,  // the character set of the file
   BronNaam,  // shown while the import runs
-  Niets      // known, and passed over
+  // Of a file of our own.
+  EigenVorm,   // that it is one
+  PlaatsProv,  // the province of the place that its name follows
+  PlaatsNaam,  // a place
+  Niets        // known, and passed over
 };
 
 struct OverigPad {

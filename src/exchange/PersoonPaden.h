@@ -22,7 +22,12 @@ enum class PersoonActie {
   Beroep,  // 30 characters
   Ouders,
   Relatie,  // the next of at most five
-  Niets     // known, and passed over
+  // Tags of our own. The fields that they set stay as they tell.
+  Eigen,        // the value as it stands
+  EigenCorr,    // a correction code
+  EigenPlaats,  // a link to a place of the file
+  EigenZeker,   // the qualifier of the place just linked to
+  Niets         // known, and passed over
 };
 
 // `veld` is the name by which Zet knows the field, where an action has one.

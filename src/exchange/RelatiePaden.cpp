@@ -62,6 +62,26 @@ constexpr RelatiePad kPaden[] = {
     {"FAM-EVEN", Niets, "", "", ""},
     {"FAM-CHAN", Niets, "", "", ""},
     {"FAM-CHAN-DATE", Niets, "", "", ""},
+    // Tags of our own, and the events that they name.
+    {"FAM-MARB-_LBDATUM", Eigen, "OtrDatum", "", ""},
+    {"FAM-MARB-_LBPLTS", EigenPlaats, "OtrPlaats", "", ""},
+    {"FAM-MARB-_LBPLTS-_LBZEKER", EigenZeker, "OtrPlaats", "", ""},
+    {"FAM-_LBWET-_LBBOND", Eigen, "HuwSwPs", "", ""},
+    {"FAM-_LBWET-_LBSOORT", Eigen, "HuwSoort", "", ""},
+    {"FAM-_LBWET-_LBCORR", EigenCorr, "HuwCorr", "", ""},
+    {"FAM-_LBWET-_LBDATUM", Eigen, "WHuwDatum", "", ""},
+    {"FAM-_LBWET-_LBTOT", Eigen, "KHuwDatum", "", ""},
+    {"FAM-_LBWET-DATE", EigenHuwDatum, "WHuwDatum", "", ""},
+    {"FAM-_LBWET-_LBPLTS", EigenPlaats, "WHuwPlaats", "", ""},
+    {"FAM-_LBWET-_LBPLTS-_LBZEKER", EigenZeker, "WHuwPlaats", "", ""},
+    {"FAM-_LBWET-PLAC", Plaats, "WHuwPlaats", "", ""},
+    {"FAM-_LBKERK-_LBDATUM", Eigen, "KHuwDatum", "", ""},
+    {"FAM-_LBKERK-DATE", Datum, "KHuwDatum", "", ""},
+    {"FAM-_LBKERK-_LBPLTS", EigenPlaats, "KHuwPlaats", "", ""},
+    {"FAM-_LBKERK-_LBPLTS-_LBZEKER", EigenZeker, "KHuwPlaats", "", ""},
+    {"FAM-_LBKERK-PLAC", Plaats, "KHuwPlaats", "", ""},
+    {"FAM-_LBKERK-_LBGEZ", Eigen, "Religie", "", ""},
+    {"FAM-_LBCHIL", Kind, "", "", ""},
 };
 
 }  // namespace

@@ -15,6 +15,12 @@ enum class RelatieActie {
   Gezindte,
   Bond,  // only the kind of the bond or the divorce
   Kind,  // the next of at most 29
+  // Tags of our own, as for a person.
+  Eigen,
+  EigenCorr,
+  EigenHuwDatum,  // civil marriage with its own qualifier; a second date goes to the church
+  EigenPlaats,
+  EigenZeker,
   Niets  // known, and passed over
 };
 

@@ -29,6 +29,9 @@
 #include "descendants/GezinSchPrs.h"
 #include "entry/StartRecord.h"
 #include "entry/ToonPlaatsen.h"
+#include "exchange/ExpAscii.h"
+#include "exchange/ExpDump.h"
+#include "exchange/ExpGedcom.h"
 #include "exchange/ImpGedcom.h"
 #include "output/BekijkTekst.h"
 #include "reports/Krtn.h"
@@ -77,6 +80,8 @@ void Programma::HangOp() {
   menu_.Hang("InvPersRel", [this] { ToonPersonenEnRelaties(hoofd_); });
   menu_.Hang("ExpHSK", [this] { static_cast<void>(ExporteerContact(hoofd_)); });
   menu_.Hang("ImportGedcom", [this, &gesprek] { gesprek.Toon<ImpGedcom>(hoofd_); });
+  HangExportOp();
+  menu_.Hang("ExportGedcom", [this, &gesprek] { gesprek.Toon<ExpGedcom>(hoofd_); });
   menu_.Hang("ViewTekst", [this, &gesprek] { gesprek.Toon<BekijkTekst>(hoofd_); });
   menu_.Hang("TekstKwst", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstTxtPrs, hoofd_); });
   menu_.Hang("IndexKwst", [this, &gesprek] { gesprek.Toon<KwstPrs>(kKwstIdxPrs, hoofd_); });
@@ -97,6 +102,15 @@ void Programma::HangOp() {
   menu_.Hang("VeiligTerugzetten", [this, &gesprek] { gesprek.Toon<KopieTerugzetten>(hoofd_); });
   menu_.Hang("VeiligPlaats", [this, &gesprek] { gesprek.Toon<KopiePlaats>(hoofd_); });
   menu_.Hang("AboutLB77", [&gesprek] { gesprek.Toon<OverLB77Form>(); });
+}
+
+void Programma::HangExportOp() {
+  Gesprek& gesprek = hoofd_.gesprek;
+  menu_.Hang("ExportAscii", [this, &gesprek] { gesprek.Toon<ExpAscii>(hoofd_); });
+  menu_.Hang("DumpPrs", [this, &gesprek] { gesprek.Toon<ExpDump>(kExpDumpPers, hoofd_); });
+  menu_.Hang("DumpRel", [this, &gesprek] { gesprek.Toon<ExpDump>(kExpDumpRel, hoofd_); });
+  menu_.Hang("DumpPlts", [this, &gesprek] { gesprek.Toon<ExpDump>(kExpDumpPlts, hoofd_); });
+  menu_.Hang("DumpOpm", [this, &gesprek] { gesprek.Toon<ExpDump>(kExpDumpOpm, hoofd_); });
 }
 
 void Programma::HangControlesOp() {

@@ -26,6 +26,7 @@ class Programma {
 
  private:
   void HangOp();
+  void HangExportOp();
   void HangControlesOp();
   void HangRapportenOp();
 

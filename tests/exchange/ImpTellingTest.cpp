@@ -52,6 +52,46 @@ TEST_F(Telling, ZegtWatDeImportDoet) {
   EXPECT_EQ(Tel(Ged(kFamilie)), "Erbij komen 2 personen, 1 relatie en 0 plaatsen");
 }
 
+TEST_F(Telling, TeltPlaatsenVanEenEigenBestandAlsRecords) {
+  const std::string bestand = Ged(R"(
+      1 _LBVORM 1
+      0 @P1@ _LBPLTS
+      1 _LBPROV ZH
+      1 NAME Del@@ft
+      0 @P2@ _LBPLTS
+      1 NAME Del@@ft
+      0 @P3@ _LBPLTS
+      1 NAME
+      0 @I1@ INDI
+      1 BIRT
+      2 _LBPLTS @P1@
+      2 PLAC Del@@ft, Zuid-Holland, Nederland
+      1 DEAT
+      2 PLAC Gouda
+      1 CREM
+      2 _LBALS BURI
+      2 PLAC Utrecht
+    )");
+  const std::string zonder = Ged(R"(
+      1 _LBVORM 1
+      0 @I1@ INDI
+      1 BIRT
+      2 _LBPLTS @P1@
+      2 PLAC Delft
+      0 @I2@ INDI
+      1 BIRT
+      2 PLAC Gouda
+    )");
+  EXPECT_EQ(Tel(zonder), "Erbij komen 2 personen, 0 relaties en 1 plaats");
+  EXPECT_EQ(Tel(bestand), "Erbij komen 1 persoon, 0 relaties en 5 plaatsen");
+  Bouw().Plaats("DEL@FT", "zh");
+  EXPECT_EQ(Tel(bestand), "Erbij komen 1 persoon, 0 relaties en 4 plaatsen");
+  // The name of Gouda is looked for among those of all places.
+  Importeer(bestand, R"(! uitroep "Plaatsrecord4 is incompleet.")");
+  EXPECT_EQ(Aantallen(), "2 1 6 1");
+  EXPECT_EQ(Tel(bestand), "Erbij komen 1 persoon, 0 relaties en 1 plaats");
+}
+
 TEST_F(Telling, EindigtBijTRLREnBijEenRegelDieGeenGedcomIs) {
   EXPECT_EQ(Tel("0 HEAD\n0 @I1@ INDI\n0 TRLR\n0 @I2@ INDI\n"),
             "Erbij komen 1 persoon, 0 relaties en 0 plaatsen");

@@ -68,7 +68,11 @@ class FormulierenTest : public Formulierproef, public testing::WithParamInterfac
 TEST_P(FormulierenTest, GaatOpenToontAllesLooptRondEnSluit) {
   GemaaktFormulier gemaakt = Maak();
   ASSERT_EQ(gemaakt.formulier->Naam(), GetParam().naam);
-  StaDubbelToe({"SchemaVerwantschap ZoekButton(0) ZoekButton(1)"});
+  StaDubbelToe({"SchemaVerwantschap ZoekButton(0) ZoekButton(1)",
+                "ExpGedcom BrowseButton KiesBronButton", "ExpGedcom ToonLijstButton BackButton",
+                "ExpAscii BrowseButton(0) BrowseButton(1)",
+                "ExpAscii BrowseButton(0) BrowseButton(2)",
+                "ExpAscii BrowseButton(0) KiesBronButton", "ExpAscii ToonLijstButton BackButton"});
   Beproef(*gemaakt.formulier);
 }
 

@@ -3,9 +3,9 @@
 
 #include <algorithm>
 
-#include "reports/KaartFamilie.h"
 #include "reports/Kaarten.h"
 #include "steun/Gouden.h"
+#include "steun/KaartFamilie.h"
 #include "steun/ProefSet.h"
 
 namespace lb77 {

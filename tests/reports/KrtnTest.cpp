@@ -4,9 +4,9 @@
 #include <filesystem>
 
 #include "app/Start.h"
-#include "reports/KaartFamilie.h"
 #include "reports/Krtn.h"
 #include "steun/FamilieToets.h"
+#include "steun/KaartFamilie.h"
 
 namespace lb77 {
 namespace {

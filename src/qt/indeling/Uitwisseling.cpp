@@ -1,10 +1,84 @@
 // Import and export.
+#include <string>
+#include <utility>
+
 #include "qt/indeling/Indelingen.h"
 
 namespace lb77::indeling {
 
+namespace {
+
+Blok Export(std::vector<Blok> namen, const char* start) {
+  return Kolom({
+      Velden(std::move(namen)),
+      Groep("Selectie", {Rij({"KiesAllesButton", "KiesPersButton", "KiesRelButton"}),
+                         Rij({"KiesGenButton", "KiesKwstButton", "KiesBronButton"}),
+                         Velden({Rij({"AantalPersonen", "AantalRelaties", "AantalBronnen"})}),
+                         "ToonLijstButton"}),
+      Groep("Voortgang", {Velden({Rij({"PersonenGedaan", "RelatiesGedaan", "BronnenGedaan"})})}),
+      Knoppen({start, "BackButton"}),
+  });
+}
+
+// The man of a relation above the woman.
+Blok SelecteerRelaties() {
+  const auto partner = [](const std::string& wie, const std::string& rij, Blok voor) {
+    return Rij({std::move(voor), Veld("RecordNr" + wie + rij, "", 6),
+                Veld("VoorNm" + wie + rij, "", 24), Veld("AchterNm" + wie + rij, "", 20)});
+  };
+  return Kolom({
+      "VraagLabel",
+      Rooster({
+          partner("Man", "(0)", "RecordNrRel(0)"),
+          partner("Vrouw", "(0)", ""),
+          partner("Man", "(1)", "RecordNrRel(1)"),
+          partner("Vrouw", "(1)", ""),
+      }),
+      Knoppen({"OKButton", "BackButton"}),
+  });
+}
+
+Blok Dump(const char* teller) {
+  return Kolom({
+      Velden({Rij({"Bestandsnaam", "BrowseButton"}), teller}),
+      Knoppen({"OKButton", "BackButton"}),
+  });
+}
+
+}  // namespace
+
 std::vector<Indeling> Uitwisseling() {
   return {
+      {"ExpGedcom", Export({Rij({"Bestandsnaam", "BrowseButton"}), "Utf8Box"}, "OKButton")},
+      {"ExpAscii", Export({Rij({"Bestandsnaam(0)", "BrowseButton(0)"}),
+                           Rij({"Bestandsnaam(1)", "BrowseButton(1)"}),
+                           Rij({"Bestandsnaam(2)", "BrowseButton(2)"})},
+                          "StartExportButton")},
+      {"ExpSelPers", Kolom({
+                         "VraagLabel",
+                         Tabel({
+                             Veld("RecordNrPers(*)"),
+                             Veld("VoorNmPersoon(*)", "Voornamen", 24),
+                             Veld("AchterNmPersoon(*)", "Achternaam", 20),
+                             Veld("PeriodePersoon(*)", "Periode", 10),
+                             Veld("ZoekPersButton(*)"),
+                         }),
+                         Knoppen({"OKButton", "BackButton"}),
+                     })},
+      {"ExpSelRel", SelecteerRelaties()},
+      {"ExpMaakLyst", Kolom({
+                          "SchrijfLabel",
+                          Velden({
+                              Rij({"PersonenLabel", "Personen", "PersNrLabel", "PersoonsNr"}),
+                              Rij({"RelatiesLabel", "Relaties", "RelNrLabel", "RelatieNr"}),
+                          }),
+                          "GeduldLabel",
+                          Knoppen({"OKButton", "BackButton"}),
+                      })},
+      {"ExpDumpPers", Dump("PersonenGedaan")},
+      {"ExpDumpRel", Dump("RelatiesGedaan")},
+      {"ExpDumpPlts", Dump("PlaatsenGedaan")},
+      {"ExpDumpOpm", Dump("OpmerkingenGedaan")},
       {"ImpGedcom", Kolom({
                         Velden({Rij({"Bestandsnaam", "BrowseButton"})}),
                         "DoelLabel",

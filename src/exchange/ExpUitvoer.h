@@ -1,0 +1,67 @@
+// Where an export writes its lines: its files and its log.
+#pragma once
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <string_view>
+
+#include "store/SysteemFout.h"
+
+namespace lb77 {
+
+// Lines that each end in CR LF. Behind the first failure nothing more is written, and Fout() tells
+// why: a run asks it between two records.
+class ExpUitvoer {
+ public:
+  ExpUitvoer() = default;
+  virtual ~ExpUitvoer() = default;
+  ExpUitvoer(const ExpUitvoer&) = delete;
+  ExpUitvoer& operator=(const ExpUitvoer&) = delete;
+
+  // Adds a line. A byte below 32, from a damaged record or a pasted text, goes out as a blank: in a
+  // line it would be taken for its end.
+  void Regel(std::string_view regel);
+  // The same for a line of columns: a TAB between two of them stays. Texts must have had theirs
+  // taken out by ZonderStuurtekens.
+  void Kolommen(std::string_view regel);
+
+  [[nodiscard]] const SysteemFout& Fout() const { return fout_; }
+
+ protected:
+  // Takes bytes; what it gives is the first failure.
+  [[nodiscard]] virtual SysteemFout Schrijf(std::string_view bytes) = 0;
+  void OnthoudFout(SysteemFout fout);
+
+ private:
+  template <class IsBlanco>
+  void Voeg(std::string_view regel, const IsBlanco& isBlanco);
+
+  SysteemFout fout_;
+  std::string regel_;  // kept for its memory
+};
+
+// The text with a blank for each byte below 32.
+[[nodiscard]] std::string ZonderStuurtekens(std::string_view tekst);
+
+// Lines into a file.
+class ExpBestand final : public ExpUitvoer {
+ public:
+  // What was written is there, closed or not.
+  ~ExpBestand() override;
+
+  // Begins the file, in place of one of that name; its directory is not made.
+  [[nodiscard]] SysteemFout Open(const std::filesystem::path& pad);
+  // Writes what is still in memory and closes. The first failure of all writing; none when the file
+  // was never opened.
+  [[nodiscard]] SysteemFout Sluit();
+
+ private:
+  [[nodiscard]] SysteemFout Schrijf(std::string_view bytes) override;
+  void Leeg();
+
+  std::ofstream bestand_;
+  std::string buffer_;  // what the file has yet to get
+};
+
+}  // namespace lb77

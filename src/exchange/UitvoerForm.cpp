@@ -1,0 +1,183 @@
+#include "exchange/UitvoerForm.h"
+
+#include <algorithm>
+#include <string>
+#include <system_error>
+
+#include "exchange/UitvoerNaam.h"
+#include "output/ToonTekst.h"
+#include "store/Paden.h"
+#include "store/SetPaden.h"
+#include "text/Getallen.h"
+#include "text/Pad.h"
+#include "text/Tekens.h"
+
+namespace lb77 {
+namespace {
+
+constexpr std::int16_t kEersteRecord = 2;
+
+// "jjjjmmdduummss".
+std::string Stempel(const Tijdstip& nu) {
+  std::string uit = NulGevuld(nu.jaar, 4);
+  for (const int deel : {nu.maand, nu.dag, nu.uur, nu.minuut, nu.seconde}) {
+    uit += NulGevuld(deel, 2);
+  }
+  return uit;
+}
+
+}  // namespace
+
+bool UitvoerBestanden::Mislukt() const {
+  return log_.Fout() || std::ranges::any_of(uit_, [](const ExpBestand& uit) {
+           return static_cast<bool>(uit.Fout());
+         });
+}
+
+SysteemFout UitvoerBestanden::SluitUit() {
+  SysteemFout eerste;
+  for (ExpBestand& uit : uit_) {
+    if (SysteemFout fout = uit.Sluit(); fout && !eerste) eerste = fout;
+  }
+  return eerste;
+}
+
+UitvoerForm::UitvoerForm(const UitvoerSoort& soort, Hoofdmodule& hoofd)
+    : Formulier(soort.naam, soort.titel), soort_(soort), hoofd_(hoofd) {
+  ZetHulpOnderwerp(soort.hulp);
+  for (const UitvoerVeld& veld : soort.velden) {
+    UitvoerRij& rij = Uitvoeren.emplace_back(*this, veld);
+    rij.Bestandsnaam.BijWijziging([this] { start_->ZetIngeschakeld(true); });
+    rij.BrowseButton.BijKlik([this, &rij] { BrowseButtonKlik(rij); });
+  }
+  ZetEersteVeld(Uitvoeren.front().Bestandsnaam);
+}
+
+void UitvoerForm::Koppel(Knop& start, Knop& terug) {
+  start_ = &start;
+  start.BijKlik([this] { StartKlik(); });
+  terug.BijKlik([this] { Sluit(); });
+}
+
+void UitvoerForm::BijLaden() {
+  for (std::size_t i = 0; i < Uitvoeren.size(); ++i) {
+    const std::string naam = hoofd_.ActieveSetNaam + std::string(soort_.velden[i].einde);
+    Uitvoeren[i].Bestandsnaam.ZetPad(hoofd_.Ini.TekstDir() / PadVan(naam));
+  }
+}
+
+void UitvoerForm::BijActiveren() {
+  if (AantalRecords() >= kEersteRecord) return;
+  hoofd_.gesprek.Waarschuw(soort_.leeg);
+  Sluit();
+}
+
+std::string UitvoerForm::Naam(std::size_t i) const {
+  return std::string(Trim(Uitvoeren.at(i).Bestandsnaam.Tekst()));
+}
+
+void UitvoerForm::BrowseButtonKlik(UitvoerRij& rij) {
+  const auto pad = hoofd_.gesprek.VraagBestand(
+      {BestandsWijze::Opslaan, std::string(soort_.filter), hoofd_.Ini.TekstDir()});
+  if (!pad) return;
+  rij.Bestandsnaam.ZetPad(*pad);
+  start_->ZetIngeschakeld(true);
+}
+
+void UitvoerForm::StartKlik() {
+  if (!HeeftNamen() || !MagBeginnen()) return;
+  WisVoortgang();
+  ZetBezig(true);
+  bool metLog = false;
+  const SysteemFout fout = Voer(metLog);
+  ZetBezig(false);
+  WisStop();
+  if (fout) {
+    MeldFout(fout);
+  } else {
+    MeldVoltooid();
+  }
+  start_->ZetIngeschakeld(false);
+  if (metLog) hoofd_.gesprek.Toon<ToonTekst>(hoofd_, LogPad(), "Exporteren - Resultaat");
+  if (!fout) Sluit();
+}
+
+bool UitvoerForm::HeeftNamen() {
+  for (std::size_t i = 0; i < Uitvoeren.size(); ++i) {
+    if (!Naam(i).empty()) continue;
+    hoofd_.gesprek.Waarschuw("Geen bestandsnaam opgegeven");
+    return false;
+  }
+  return true;
+}
+
+// Whatever fails, the log is what the user is shown, so it is begun ahead of the outputs.
+SysteemFout UitvoerForm::Voer(bool& metLog) {
+  UitvoerBestanden bestanden(Uitvoeren.size());
+  if (SysteemFout fout = OpenLog(bestanden.Log())) return fout;
+  metLog = true;
+  SysteemFout fout = VoerMetLog(bestanden);
+  static_cast<void>(bestanden.SluitUit());
+  const SysteemFout logFout = bestanden.Log().Sluit();
+  return fout ? fout : logFout;
+}
+
+SysteemFout UitvoerForm::VoerMetLog(UitvoerBestanden& bestanden) {
+  bestanden.Log().Regel("Start export (" + Stempel(hoofd_.klok.Nu()) + ")");
+  if (SysteemFout fout = OpenUit(bestanden)) return fout;
+  Schrijf(bestanden);
+  if (SysteemFout fout = bestanden.SluitUit()) return fout;
+  SchrijfLogSlot(bestanden.Log());
+  return {};
+}
+
+// All names are looked at before the first file is emptied, and each once more: two outputs that are
+// not there yet may be one, on a disk that knows no upper and lower case.
+SysteemFout UitvoerForm::OpenUit(UitvoerBestanden& bestanden) {
+  for (std::size_t i = 0; i < Uitvoeren.size(); ++i) {
+    if (IsBezet(i)) return FoutInGebruik();
+  }
+  for (std::size_t i = 0; i < Uitvoeren.size(); ++i) {
+    if (IsBezet(i)) return FoutInGebruik();
+    if (SysteemFout fout = bestanden.Uit(i).Open(UitvoerPad(i))) return fout;
+  }
+  return {};
+}
+
+bool UitvoerForm::IsBezet(std::size_t i) const {
+  const std::filesystem::path pad = UitvoerPad(i);
+  for (std::size_t ander = 0; ander < i; ++ander) {
+    if (IsZelfdeBestand(pad, UitvoerPad(ander))) return true;
+  }
+  return IsZelfdeBestand(pad, LogPad()) ||
+         IsVanSet(pad, SetPaden::Van(hoofd_.Ini.DataDir(), hoofd_.ActieveSetNaam)) ||
+         !BeschermdeRol(pad, hoofd_.programmaMap, hoofd_.Ini).empty();
+}
+
+// A relative path is one in the program's directory.
+std::filesystem::path UitvoerForm::UitvoerPad(std::size_t i) const {
+  const Padvak& veld = Uitvoeren.at(i).Bestandsnaam;
+  const std::string naam = Naam(i);
+  return VindPad(hoofd_.programmaMap / (naam == veld.Tekst() ? veld.Pad() : PadVan(naam)));
+}
+
+std::filesystem::path UitvoerForm::LogPad() const {
+  return VindPad(hoofd_.Ini.TekstDir() / soort_.log);
+}
+
+SysteemFout UitvoerForm::OpenLog(ExpBestand& log) {
+  const std::filesystem::path pad = LogPad();
+  std::error_code code;
+  std::filesystem::create_directories(pad.parent_path(), code);
+  return code ? FoutVan(code) : log.Open(pad);
+}
+
+void UitvoerForm::MeldFout(const SysteemFout& fout) {
+  if (fout.nummer == kBestandNietGevonden) {
+    hoofd_.gesprek.Waarschuw(fout.tekst);
+  } else {
+    hoofd_.gesprek.Fout(fout.tekst);
+  }
+}
+
+}  // namespace lb77

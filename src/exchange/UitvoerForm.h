@@ -1,0 +1,112 @@
+// The dialog of an export: the names of its files, the run with its log, and how that ends.
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <filesystem>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "app/Hoofdmodule.h"
+#include "exchange/ExpUitvoer.h"
+#include "forms/Formulier.h"
+
+namespace lb77 {
+
+// The name of one file: its field with the button beside it, and how the name that is offered ends
+// behind that of the set.
+struct UitvoerVeld {
+  std::string_view naam;
+  std::string_view bijschrift;
+  std::string_view knop;
+  std::string_view einde;
+};
+
+// What tells one export from another.
+struct UitvoerSoort {
+  std::string_view naam;
+  std::string_view titel;
+  std::string_view hulp;  // chapter of the manual
+  std::span<const UitvoerVeld> velden;
+  std::string_view filter;  // of the file question
+  std::string_view leeg;    // the message of a file that has nothing to export
+  std::string_view log;     // the name of the log
+};
+
+struct UitvoerRij {
+  UitvoerRij(Formulier& formulier, const UitvoerVeld& veld)
+      : Bestandsnaam(formulier, veld.naam, veld.bijschrift),
+        BrowseButton(formulier, veld.knop, "&Browse") {}
+
+  Padvak Bestandsnaam;
+  Knop BrowseButton;
+};
+
+// The files of a run, open.
+class UitvoerBestanden {
+ public:
+  explicit UitvoerBestanden(std::size_t aantal) : uit_(aantal) {}
+
+  [[nodiscard]] ExpBestand& Uit(std::size_t i) { return uit_.at(i); }
+  [[nodiscard]] ExpBestand& Log() { return log_; }
+  // Has any writing failed?
+  [[nodiscard]] bool Mislukt() const;
+  // Closes the outputs, not the log; the first failure.
+  [[nodiscard]] SysteemFout SluitUit();
+
+ private:
+  std::deque<ExpBestand> uit_;
+  ExpBestand log_;
+};
+
+// A derived form declares its further controls and hands its buttons over. It closes behind a run
+// that came to its end. Behind one that failed it stays, its log is shown, and its start button works
+// again when a file has been named anew; what was written stands.
+class UitvoerForm : public Formulier {
+ public:
+  std::deque<UitvoerRij> Uitvoeren;
+
+ protected:
+  // `soort` must outlive the form.
+  UitvoerForm(const UitvoerSoort& soort, Hoofdmodule& hoofd);
+
+  void Koppel(Knop& start, Knop& terug);
+  void BijLaden() override;
+  void BijActiveren() override;
+  [[nodiscard]] Hoofdmodule& Hoofd() { return hoofd_; }
+  // The name of an output as the user gave it, trimmed.
+  [[nodiscard]] std::string Naam(std::size_t i) const;
+
+  // The highest record of the file that must hold something.
+  [[nodiscard]] virtual std::int16_t AantalRecords() = 0;
+  // What else must hold before a run; a False has been told.
+  [[nodiscard]] virtual bool MagBeginnen() { return true; }
+  // Puts the running counts to 0.
+  virtual void WisVoortgang() = 0;
+  // Writes the outputs. It may end at a failure, which the files keep.
+  virtual void Schrijf(UitvoerBestanden& bestanden) = 0;
+  // Behind the closing of the outputs: all that ends the log.
+  virtual void SchrijfLogSlot(ExpUitvoer& log) = 0;
+  // The run has ended well.
+  virtual void MeldVoltooid() {}
+
+ private:
+  void BrowseButtonKlik(UitvoerRij& rij);
+  void StartKlik();
+  [[nodiscard]] bool HeeftNamen();
+  [[nodiscard]] SysteemFout Voer(bool& metLog);
+  [[nodiscard]] SysteemFout VoerMetLog(UitvoerBestanden& bestanden);
+  [[nodiscard]] SysteemFout OpenUit(UitvoerBestanden& bestanden);
+  [[nodiscard]] bool IsBezet(std::size_t i) const;
+  [[nodiscard]] std::filesystem::path UitvoerPad(std::size_t i) const;
+  [[nodiscard]] std::filesystem::path LogPad() const;
+  [[nodiscard]] SysteemFout OpenLog(ExpBestand& log);
+  void MeldFout(const SysteemFout& fout);
+
+  const UitvoerSoort& soort_;
+  Hoofdmodule& hoofd_;
+  Knop* start_ = nullptr;
+};
+
+}  // namespace lb77

@@ -1,0 +1,222 @@
+// The dialog of the fixed-width export, by script; with it all that exports of a selection share.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "exchange/ExpAscii.h"
+#include "exchange/ExportToets.h"
+#include "steun/Gouden.h"
+#include "steun/VolleSchijf.h"
+
+namespace lb77 {
+namespace {
+
+class ExpAsciiTest : public ExportToets {
+ protected:
+  void Speel(std::string_view draaiboek, std::string_view verslag,
+             const Plek& plek = Plek::current()) {
+    SpeelForm<ExpAscii>(
+        draaiboek, "+ ExpAscii \"Exporteer in ASCII formaat\"\n" + Regels(verslag) + "- ExpAscii\n",
+        plek);
+  }
+};
+
+constexpr std::string_view kKiesAlles = "druk KiesAllesButton\ndruk OKButton\ndruk OKButton\n";
+constexpr std::string_view kGekozen =
+    "! uitroep \"Druk in de volgende schermen steeds op VOEG TOE\"\n"
+    "+ ExpSelPers \"Exporteer gegevens - Selecteer Personen\"\n- ExpSelPers\n"
+    "+ ExpSelRel \"Exporteer gegevens - Selecteer Relaties\"\n- ExpSelRel\n";
+constexpr std::string_view kResultaat = "+ ToonTekst \"Exporteren - Resultaat\"\n- ToonTekst\n";
+
+std::string Samen(std::initializer_list<std::string_view> delen) {
+  std::string uit;
+  for (const std::string_view deel : delen) uit += deel;
+  return uit;
+}
+
+TEST_F(ExpAsciiTest, SchrijftDeDrieBestandenEnHetLog) {
+  MaakFamilie();
+  Speel(Samen({kKiesAlles, "toon AantalPersonen\ntoon AantalRelaties\ntoon AantalBronnen\n",
+               "druk StartExportButton\ndruk BackButton"}),
+        Samen({kGekozen,
+               "= AantalPersonen \"6\"\n= AantalRelaties \"5\"\n= AantalBronnen \"0\"\n"
+               "! info \"Exporteren voltooid\"\n",
+               kResultaat}));
+  for (const std::string_view naam : {"PROEF_PRS.TXT", "PROEF_RLT.TXT", "PROEF_OPM.TXT"}) {
+    VerwachtGouden("ascii/" + std::string(naam), Tekst(naam));
+  }
+  EXPECT_EQ(Tekst("EXPORT.LOG"),
+            "Start export (20000101000000)\r\nTotaal 6 Personen ge\xEBxporteerd\r\n"
+            "Totaal 5 Relaties ge\xEBxporteerd\r\nTotaal 0 Bronnen ge\xEBxpoteerd\r\n"
+            "Exporteren voltooid\r\n");
+}
+
+TEST_F(ExpAsciiTest, EenLeegBestandSluitHetScherm) {
+  Speel("", "! uitroep \"Export uit een leeg bestand is niet mogelijk\"");
+}
+
+TEST_F(ExpAsciiTest, VraagtOmNamenEnOmEenSelectie) {
+  MaakFamilie();
+  Speel(
+      "druk StartExportButton\nvul Bestandsnaam(2) \" \"\ndruk StartExportButton\n"
+      "vul Bestandsnaam(0)\nvul Bestandsnaam(2) x.txt\ndruk StartExportButton\n"
+      "toon PersonenGedaan\ndruk BackButton",
+      R"(
+    ! uitroep "Geen gegevens geselecteerd"
+    ! uitroep "Geen bestandsnaam opgegeven"
+    ! uitroep "Geen bestandsnaam opgegeven"
+    = PersonenGedaan ""
+  )");
+  EXPECT_FALSE(std::filesystem::exists(TekstMap() / "EXPORT.LOG"));
+}
+
+TEST_F(ExpAsciiTest, SchrijftAlleenWatGekozenIs) {
+  MaakFamilie();
+  Speel(
+      "druk KiesPersButton\nvul RecordNrPers(0) 3\nvul RecordNrPers(1) 3\ndruk OKButton\n"
+      "druk KiesRelButton\ndruk BackButton\ntoon AantalPersonen\ntoon AantalRelaties\n"
+      "druk StartExportButton\ndruk BackButton",
+      Samen({"+ ExpSelPers \"Exporteer gegevens - Selecteer Personen\"\n- ExpSelPers\n"
+             "+ ExpSelRel \"Exporteer gegevens - Selecteer Relaties\"\n- ExpSelRel\n"
+             "= AantalPersonen \"1\"\n= AantalRelaties \"0\"\n! info \"Exporteren voltooid\"\n",
+             kResultaat}));
+  EXPECT_EQ(Tekst("PROEF_PRS.TXT").substr(0, 15), "    3VCornelia ");
+  EXPECT_EQ(Tekst("PROEF_PRS.TXT").size(), 318U);
+  EXPECT_EQ(Tekst("PROEF_RLT.TXT"), "");
+  EXPECT_EQ(Tekst("PROEF_OPM.TXT"), "");
+}
+
+TEST_F(ExpAsciiTest, ToontDeLijstVanWatGekozenIs) {
+  MaakFamilie();
+  Speel(Samen({"druk ToonLijstButton\ntoon UitvoerBox\ndruk BackButton\n", kKiesAlles,
+               "druk ToonLijstButton\ndruk BackButton\nonderbreek 1\nantwoord Ja\n"
+               "druk ToonLijstButton\ndruk BackButton\ndruk BackButton"}),
+        Samen({R"(
+    + ExpMaakLyst "Exporteren - Geselecteerde records"
+    - ExpMaakLyst
+    + ToonTekst "Exporteren - Geselecteerde records"
+    = UitvoerBox "Geselecteerde Persoonsrecords:\nGeselecteerde Relatierecords:"
+    - ToonTekst
+    )",
+               kGekozen, R"(
+    + ExpMaakLyst "Exporteren - Geselecteerde records"
+    - ExpMaakLyst
+    + ToonTekst "Exporteren - Geselecteerde records"
+    - ToonTekst
+    + ExpMaakLyst "Exporteren - Geselecteerde records"
+    ? vraag Ja/Nee "Opbouw Afbreken ?" -> Ja
+    - ExpMaakLyst
+  )"}));
+  EXPECT_EQ(huidig_, 4);
+}
+
+TEST_F(ExpAsciiTest, WatVanHetProgrammaIsWordtNietOverschreven) {
+  MaakFamilie();
+  SchrijfBytes(Map() / "ANDER" / "ANDER.PRS", "ander");
+  SchrijfBytes(Map() / "PROEF" / "JOURNAAL" / "00000001.HND", "journaal");
+  SchrijfBytes(Map() / "LB77_INI.BAK", "reserve");
+  const std::string eigen[] = {(Map() / "PROEF" / "PROEF.PRS").string(),
+                               (Map() / "PROEF" / "proef.opm").string(),
+                               (Map() / "PROEF" / "PROEF.RLT").string(),
+                               (Map() / "PROEF" / "PROEF.PLT").string(),
+                               (Map() / "PLAATS.PLT").string(),
+                               (Map() / "ANDER" / "ANDER.PRS").string(),
+                               (Map() / "PROEF" / "JOURNAAL" / "00000001.HND").string(),
+                               "LIJNBOOM.INI",
+                               "lb77_ini.bak",
+                               (TekstMap() / "EXPORT.LOG").string(),
+                               (TekstMap() / "PROEF_PRS.TXT").string()};
+  SchrijfBytes(TekstMap() / "PROEF_PRS.TXT", "eerder");
+  for (const std::string& naam : eigen) {
+    const std::string voor = LeesBytes(Map() / naam);
+    Speel(Samen({kKiesAlles, "vul Bestandsnaam(1) ", naam,
+                 "\ndruk StartExportButton\ndruk BackButton\ndruk BackButton"}),
+          Samen({kGekozen, "! stop \"Bestand is in gebruik\"\n", kResultaat}));
+    if (naam.ends_with("EXPORT.LOG")) continue;
+    EXPECT_EQ(LeesBytes(Map() / naam), voor) << naam;
+    EXPECT_EQ(Tekst("PROEF_PRS.TXT"), "eerder") << naam;
+  }
+}
+
+TEST_F(ExpAsciiTest, TweeNamenVoorEenBestandDatErNogNietIs) {
+  MaakFamilie();
+  Speel(Samen({kKiesAlles,
+               "vul Bestandsnaam(0) nieuw.txt\nvul Bestandsnaam(2) ./nieuw.txt\n"
+               "druk StartExportButton\ndruk BackButton\nvul Bestandsnaam(2) NIEUW.TXT\n"
+               "druk StartExportButton\ndruk BackButton\ndruk BackButton"}),
+        Samen({kGekozen, "! stop \"Bestand is in gebruik\"\n", kResultaat,
+               "! stop \"Bestand is in gebruik\"\n", kResultaat}));
+}
+
+TEST_F(ExpAsciiTest, NaEenMislukkingStartHijPasMetEenAndereNaam) {
+  MaakFamilie();
+  const std::string pad = (Map() / "opm.txt").string();
+  Speel(Samen({kKiesAlles, "vul Bestandsnaam(2) ", Map().string(),
+               "\ndruk StartExportButton\ndruk BackButton\ntoon StartExportButton\nbestand ", pad,
+               "\ndruk BrowseButton(2)\ntoon StartExportButton\ntoon Bestandsnaam(2)\n"
+               "druk StartExportButton\ndruk BackButton"}),
+        Samen({kGekozen, "! stop \"Pad is een directory\"\n", kResultaat,
+               "= StartExportButton \"&Start Export\" [uit]\n"
+               "> opslaan \"ASCII-bestanden (*.TXT)|*.TXT|Alle Bestanden (*.*)|*.*\" -> \"",
+               pad, "\"\n= StartExportButton \"&Start Export\"\n= Bestandsnaam(2) \"", pad,
+               "\"\n! info \"Exporteren voltooid\"\n", kResultaat}));
+  EXPECT_EQ(LeesBytes(pad),
+            "000P20000200001Naar zijn\r\n000P20000200002grootvader\r\n"
+            "000R2000-800001akte 12\r\n");
+}
+
+TEST_F(ExpAsciiTest, ZonderLogBegintHijNiet) {
+  MaakFamilie();
+  std::filesystem::create_directories(TekstMap() / "EXPORT.LOG");
+  Speel(Samen({kKiesAlles, "druk StartExportButton\ndruk BackButton"}),
+        Samen({kGekozen, "! stop \"Pad is een directory\"\n"}));
+  EXPECT_FALSE(std::filesystem::exists(TekstMap() / "PROEF_PRS.TXT"));
+}
+
+TEST_F(ExpAsciiTest, EenMapZonderRechtenWordtGemeld) {
+  MaakFamilie();
+  Speel(Samen({kKiesAlles,
+               "vul Bestandsnaam(0) LIJNBOOM.INI/uit.txt\ndruk StartExportButton\n"
+               "druk BackButton\ndruk BackButton"}),
+        Samen({kGekozen, "! stop \"Pad niet gevonden\"\n", kResultaat}));
+}
+
+TEST_F(ExpAsciiTest, EenVolleSchijfLaatStaanWatErStond) {
+  MaakFamilie();
+  Speel(Samen({kKiesAlles, "druk StartExportButton\ndruk BackButton"}),
+        Samen({kGekozen, "! info \"Exporteren voltooid\"\n", kResultaat}));
+  const std::string personen = Tekst("PROEF_PRS.TXT");
+  const std::string relaties = Tekst("PROEF_RLT.TXT");
+  for (std::size_t ruimte = 100; ruimte < std::max(personen.size(), relaties.size());
+       ruimte += 89) {
+    const VolleSchijf schijf(ruimte);
+    Speel(Samen({kKiesAlles, "druk StartExportButton\ndruk BackButton\ndruk BackButton"}),
+          Samen({kGekozen, "! stop \"Bestand te groot\"\n", kResultaat}));
+    EXPECT_EQ(Tekst("PROEF_PRS.TXT"), personen.substr(0, ruimte));
+    EXPECT_EQ(Tekst("PROEF_RLT.TXT"), relaties.substr(0, ruimte));
+    EXPECT_EQ(Tekst("EXPORT.LOG"), "Start export (20000101000000)\r\n");
+  }
+}
+
+TEST_F(ExpAsciiTest, EenNaamMetSpatiesEromheenIsDieNaam) {
+  MaakFamilie();
+  Speel(Samen({kKiesAlles,
+               "vul Bestandsnaam(1) \"  rel.txt \"\ndruk StartExportButton\n"
+               "druk BackButton"}),
+        Samen({kGekozen, "! info \"Exporteren voltooid\"\n", kResultaat}));
+  EXPECT_TRUE(std::filesystem::exists(Map() / "rel.txt"));
+}
+
+TEST_F(ExpAsciiTest, EenOnleesbarePersoonHeeftGeenRegel) {
+  MaakFamilie();
+  MaakOnleesbaar(BestandSoort::Personen, 3);
+  Speel(Samen({"druk KiesPersButton\nvul RecordNrPers(1) 5\ndruk OKButton\n",
+               "druk StartExportButton\ndruk BackButton"}),
+        Samen({"+ ExpSelPers \"Exporteer gegevens - Selecteer Personen\"\n- ExpSelPers\n"
+               "! stop \"Fout bij het lezen van Persoonsrecord 3\\nFout van de schijf\"\n"
+               "! info \"Exporteren voltooid\"\n",
+               kResultaat}));
+  EXPECT_EQ(Tekst("PROEF_PRS.TXT").size(), 3 * 318U);
+}
+
+}  // namespace
+}  // namespace lb77

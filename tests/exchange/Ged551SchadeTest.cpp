@@ -1,0 +1,80 @@
+// Damaged records make no file that breaks the standard, and no run that does not end.
+#include <gtest/gtest.h>
+
+#include <random>
+
+#include "exchange/Ged551Grammatica.h"
+#include "exchange/Ged551Toets.h"
+#include "exchange/Ged551Vulling.h"
+#include "store/Rubrieken.h"
+
+namespace lb77 {
+namespace {
+
+class Ged551Schade : public ::testing::TestWithParam<unsigned> {};
+
+// Every third record of each file gets bytes that mean nothing.
+void Beschadig(ProefSet& set, unsigned zaad) {
+  std::mt19937 toeval(zaad);
+  for (const BestandSoort soort : {BestandSoort::Personen, BestandSoort::Relaties,
+                                   BestandSoort::Plaatsen, BestandSoort::Opmerkingen}) {
+    RecordBestand& bestand = set.bestanden.Bestand(soort);
+    std::string bytes(bestand.RecordLengte(), '\0');
+    for (std::int32_t nr = 2; bestand.Lees(nr, bytes).gelezen == bytes.size(); ++nr) {
+      if (toeval() % 3 != 0) continue;
+      // Numbers that are often low lead from record to record.
+      for (char& byte : bytes) byte = static_cast<char>(toeval() % (toeval() % 2 == 0 ? 4 : 256));
+      ASSERT_FALSE(bestand.Schrijf(nr, bytes));
+    }
+  }
+}
+
+std::string MetCrLf(std::string_view regels) {
+  std::string uit;
+  for (const char teken : regels) uit.append(teken == '\n' ? "\r" : "").append(1, teken);
+  return uit;
+}
+
+TEST_P(Ged551Schade, BreektDeStandaardNiet) {
+  ProefSet set;
+  VulMetToeval(set, GetParam());
+  Beschadig(set, GetParam());
+  const Ged551Uitvoer uitvoer = Exporteer551(set);
+  EXPECT_EQ(GrammaticaFouten(MetCrLf(uitvoer.bestand), false), std::vector<std::string>());
+  static_cast<void>(set.Getoond());
+  ProefSet nieuw;
+  static_cast<void>(LeesIn(nieuw, AlsWindows(uitvoer.bestand)));
+  static_cast<void>(nieuw.Getoond());
+  EXPECT_GT(nieuw.Persoon.AantalRecords(), 2);
+}
+
+INSTANTIATE_TEST_SUITE_P(Zaden, Ged551Schade, ::testing::Range(1U, 9U));
+
+TEST(Ged551Kring, EenKetenDieRondlooptEindigt) {
+  ProefSet set;
+  const std::int16_t nr = set.bouw.Man("", "X");
+  set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kAlgemeen, {"een", "twee"}, 1);
+  const std::int16_t begin = 2;
+  ASSERT_TRUE(set.Opmerking.Wijzig(3, {{"VolgRegel", begin}}));
+  ASSERT_TRUE(set.Opmerking.Wijzig(begin, {{"BijZelfde", begin}}));
+  const Ged551Uitvoer uitvoer = Exporteer551(set);
+  EXPECT_EQ(uitvoer.Van("0 @I2@ INDI"),
+            "1 NAME /X/\n2 SURN X\n1 SEX M\n1 NOTE een\n2 CONT twee\n2 _LBPROG 1\n");
+  EXPECT_NE(uitvoer.log.find("al bij een ander staat: 2 keer"), std::string::npos) << uitvoer.log;
+}
+
+TEST(Ged551Kring, EenKetenVanMeerDanTienRegelsWordtVerdeeld) {
+  ProefSet set;
+  const std::int16_t nr = set.bouw.Man("", "X");
+  const std::vector<std::string> tien(10, "regel");
+  set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kAlgemeen, tien, 1);
+  set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kAlgemeen, {"elf"}, 2);
+  ASSERT_TRUE(set.Opmerking.Wijzig(11, {{"VolgRegel", 12}}));
+  ASSERT_TRUE(set.Opmerking.Wijzig(2, {{"BijZelfde", 0}}));
+  EXPECT_TRUE(Exporteer551(set)
+                  .Van("0 @I2@ INDI")
+                  .ends_with("2 CONT regel\n2 _LBPROG 1\n1 NOTE elf\n2 _LBPROG 1\n"));
+}
+
+}  // namespace
+}  // namespace lb77

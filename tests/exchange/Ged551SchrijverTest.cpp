@@ -1,0 +1,298 @@
+// The lines of records, and what the log tells at the end.
+#include <gtest/gtest.h>
+
+#include "exchange/FaalUitvoer.h"
+#include "exchange/Ged551Schrijver.h"
+#include "exchange/Ged551Toets.h"
+#include "store/Rubrieken.h"
+#include "text/Letterlijk.h"
+
+namespace lb77 {
+namespace {
+
+class Ged551SchrijverTest : public ::testing::Test {
+ protected:
+  std::string Persoon(std::int16_t nr) {
+    return Exporteer551(set).Van("0 @I" + std::to_string(nr) + "@ INDI");
+  }
+  std::string Relatie(std::int16_t nr) {
+    return Exporteer551(set).Van("0 @F" + std::to_string(nr) + "@ FAM");
+  }
+
+  ProefSet set;
+};
+
+TEST_F(Ged551SchrijverTest, DeKopNoemtVersieTekensetEnVormVanPlaatsen) {
+  set.bouw.Man("Jan", "Jansen");
+  EXPECT_EQ(Exporteer551(set).Van("\xEF\xBB\xBF"
+                                  "0 HEAD"),
+            "1 SOUR LB77\n2 VERS " LB77_VERSIE
+            "\n2 NAME LB77\n1 DATE 5 MAR 2024\n2 TIME 14:07:09\n1 SUBM @S1@\n1 FILE PROEF.GED\n"
+            "1 COPR Jan de Boer\n1 GEDC\n2 VERS 5.5.1\n2 FORM LINEAGE-LINKED\n1 CHAR UTF-8\n"
+            "1 LANG Dutch\n1 _LBVORM 1\n1 PLAC\n2 FORM City, Province, Country\n");
+  EXPECT_EQ(Exporteer551(set).Van("0 @S1@ SUBM"),
+            "1 NAME Jan de Boer\n1 ADDR Kerkstraat 1\n"
+            "2 ADR1 Kerkstraat 1\n2 CITY Delft\n2 POST 1234 AB\n2 CTRY Nederland\n"
+            "1 PHON 015-1234567\n");
+  EXPECT_TRUE(Exporteer551(set).bestand.ends_with("\n0 TRLR\n"));
+}
+
+TEST_F(Ged551SchrijverTest, EenAchternaamHeeftZijnVoorvoegselApart) {
+  set.bouw.Man("Jan", "Van den Berg");
+  set.bouw.Man("", "Jansen");
+  set.bouw.Vrouw("An", "");
+  set.bouw.Persoon('?', "", "");
+  EXPECT_EQ(Persoon(2),
+            "1 NAME Jan /Van den Berg/\n2 GIVN Jan\n2 _LBACHT Van den Berg\n2 SPFX Van den\n"
+            "2 SURN Berg\n1 SEX M\n");
+  EXPECT_EQ(Persoon(3), "1 NAME /Jansen/\n2 SURN Jansen\n1 SEX M\n");
+  EXPECT_EQ(Persoon(4), "1 NAME An //\n2 GIVN An\n1 SEX F\n");
+  EXPECT_EQ(Persoon(5), "");
+}
+
+// The sort form leaves a second word out that is no prefix: the name keeps it.
+TEST_F(Ged551SchrijverTest, HetVoorvoegselIsAlleenWatVooraanStaat) {
+  set.bouw.Man("Jan", "van Oranje Nassau");
+  set.bouw.Man("Jan", "Berg, van");
+  set.bouw.Man("Jan", "van  Berg");
+  EXPECT_EQ(Persoon(2),
+            "1 NAME Jan /van Oranje Nassau/\n2 GIVN Jan\n2 _LBACHT van Oranje Nassau\n2 SPFX van\n"
+            "2 SURN Oranje Nassau\n1 SEX M\n");
+  EXPECT_EQ(Persoon(3), "1 NAME Jan /Berg, van/\n2 GIVN Jan\n2 SURN Berg, van\n1 SEX M\n");
+  EXPECT_EQ(Persoon(4),
+            "1 NAME Jan /van  Berg/\n2 GIVN Jan\n2 _LBACHT van  Berg\n2 SPFX van\n2 SURN Berg\n"
+            "1 SEX M\n");
+}
+
+TEST_F(Ged551SchrijverTest, TekensDieIetsBetekenenStaanHeelInEenEigenTag) {
+  set.bouw.Persoon('Q', "A/B", "C/D", {{"Beroep", "e@f"}});
+  EXPECT_EQ(Persoon(2),
+            "1 NAME A-B /C-D/\n2 _LBVOOR A/B\n2 GIVN A-B\n2 _LBACHT C/D\n2 SURN C-D\n"
+            "1 _LBGESL Q\n1 SEX U\n1 OCCU e@@f\n");
+}
+
+TEST_F(Ged551SchrijverTest, EenGebeurtenisHeeftDatumPlaatsEnEenDoop) {
+  set.schrijfwijze.gezindten[1] = "NHNederlands Hervormd";
+  const std::int16_t delft = set.bouw.Plaats("Delft", "ZH");
+  const std::int16_t gent = set.bouw.Plaats("Gent", "B");
+  set.bouw.Man("", "X",
+               {{"GebDatum", "31-08-1880"},
+                {"GebCorr", "C"},
+                {"GebPlaats", delft},
+                {"DoopDatum", "12-10-1880"},
+                {"DoopPlaats", gent + 10000},
+                {"DoopReligie", "NH"},
+                {"OvlDatum", "00-00-1962"},
+                {"OvlPlaats", delft + 20000},
+                {"BegrDatum", "00-03-1962"}});
+  EXPECT_EQ(
+      Persoon(2),
+      "1 NAME /X/\n2 SURN X\n1 SEX M\n"
+      "1 BIRT\n2 DATE ABT 31 AUG 1880\n2 _LBPLTS @P2@\n2 PLAC Delft, Zuid-Holland, Nederland\n"
+      "1 BAPM\n2 DATE 12 OCT 1880\n2 _LBPLTS @P3@\n"
+      "3 _LBZEKER verm.\n2 PLAC Gent, , Belgi\xC3\xAB\n"
+      "1 DEAT\n2 DATE 1962\n2 _LBPLTS @P2@\n3 _LBZEKER (?)\n"
+      "2 PLAC Delft, Zuid-Holland, Nederland\n"
+      "1 BURI\n2 DATE MAR 1962\n1 RELI Nederlands Hervormd\n");
+  EXPECT_EQ(Exporteer551(set).Van("0 @P3@ _LBPLTS"), "1 _LBPROV B\n1 NAME Gent\n");
+}
+
+TEST_F(Ged551SchrijverTest, EenPeriodeEindigtInDeVelderachterHaar) {
+  const std::int16_t delft = set.bouw.Plaats("Delft");
+  set.bouw.Man("", "X",
+               {{"GebDatum", "00-00-1890"},
+                {"GebCorr", "T"},
+                {"DoopDatum", "31-12-1895"},
+                {"DoopPlaats", delft},
+                {"OvlDatum", "00-00-1960"},
+                {"OvlCorr", "T"},
+                {"BegrDatum", "00-00-1962"}});
+  EXPECT_EQ(Persoon(2),
+            "1 NAME /X/\n2 SURN X\n1 SEX M\n1 BIRT\n2 DATE BET 1890 AND 31 DEC 1895\n"
+            "1 BAPM\n2 _LBPLTS @P2@\n2 PLAC Delft\n1 DEAT\n2 DATE BET 1960 AND 1962\n");
+}
+
+TEST_F(Ged551SchrijverTest, EenReligieIsVanDePersoon) {
+  set.schrijfwijze.gezindten[1] = "NHNederlands Hervormd";
+  set.bouw.Man("", "X", {{"DoopReligie", "NH"}});
+  set.bouw.Man("", "Y", {{"DoopReligie", "nh"}});
+  EXPECT_EQ(Persoon(2), "1 NAME /X/\n2 SURN X\n1 SEX M\n1 RELI Nederlands Hervormd\n");
+  EXPECT_EQ(Persoon(3), "1 NAME /Y/\n2 SURN Y\n1 SEX M\n1 _LBGEZ nh\n1 RELI Nederlands Hervormd\n");
+}
+
+TEST_F(Ged551SchrijverTest, EenCrematieHeetOokVoorDeImportEenBegrafenis) {
+  set.bouw.Man("", "X", {{"BegrCrem", 1}});
+  EXPECT_EQ(Persoon(2), "1 NAME /X/\n2 SURN X\n1 SEX M\n1 CREM\n2 _LBALS BURI\n2 _LBCREM 1\n");
+}
+
+TEST_F(Ged551SchrijverTest, ElkeOpmerkingStaatBijHaarRubriek) {
+  const std::int16_t nr = set.bouw.Man("Jan", "X", {{"GebDatum", "00-00-1890"}});
+  set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kGebDatum, {"een", "twee"}, 7);
+  set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kGebDatum, {"drie"}, 64);
+  set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kVoornaam, {"vier"}, 1);
+  set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kAlgemeen, {"vijf"}, 1);
+  set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kBeroep, {"zes"}, 1);
+  set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kOvlPlaats, {"zeven"}, 1);
+  EXPECT_EQ(Persoon(nr),
+            "1 NAME Jan /X/\n2 GIVN Jan\n2 SURN X\n2 NOTE vier\n3 _LBRUBR 2\n3 _LBPROG 1\n1 SEX M\n"
+            "1 BIRT\n2 DATE 1890\n2 NOTE een\n3 CONT twee\n3 _LBPROG 7\n2 NOTE drie\n3 _LBPROG 64\n"
+            "1 DEAT\n2 NOTE zeven\n3 _LBRUBR 128\n3 _LBPROG 1\n"
+            "1 NOTE vijf\n2 _LBPROG 1\n1 NOTE zes\n2 _LBRUBR 2048\n2 _LBPROG 1\n");
+}
+
+TEST_F(Ged551SchrijverTest, OpmerkingenBijPlaatsBeroepEnReligieStaanOnderHunRegel) {
+  set.schrijfwijze.gezindten[1] = "NHNederlands Hervormd";
+  const std::int16_t delft = set.bouw.Plaats("Delft");
+  const std::int16_t nr =
+      set.bouw.Man("", "X", {{"GebPlaats", delft}, {"Beroep", "smid"}, {"DoopReligie", "NH"}});
+  set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kGebPlaats, {"een"}, 1);
+  set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kBeroep, {"twee"}, 1);
+  set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kReligie, {"drie"}, 1);
+  EXPECT_EQ(Persoon(nr),
+            "1 NAME /X/\n2 SURN X\n1 SEX M\n1 BIRT\n2 _LBPLTS @P2@\n2 PLAC Delft\n3 NOTE een\n"
+            "4 _LBPROG 1\n1 RELI Nederlands Hervormd\n2 NOTE drie\n3 _LBRUBR 64\n3 _LBPROG 1\n"
+            "1 OCCU smid\n2 NOTE twee\n3 _LBPROG 1\n");
+}
+
+TEST_F(Ged551SchrijverTest, EenRelatieHeeftPersonenKinderenEnGebeurtenissen) {
+  set.schrijfwijze.gezindten[1] = "NHNederlands Hervormd";
+  const std::int16_t man = set.bouw.Man("", "X");
+  const std::int16_t vrouw = set.bouw.Vrouw("", "Y");
+  const std::int16_t kind = set.bouw.Man("", "Z");
+  const std::int16_t nr = set.bouw.Relatie(man, vrouw, {kind},
+                                           {{"OtrDatum", "01-05-1900"},
+                                            {"WHuwDatum", "12-05-1900"},
+                                            {"HuwCorr", "V"},
+                                            {"KHuwDatum", "13-05-1900"},
+                                            {"Religie", "NH"}});
+  EXPECT_EQ(
+      Relatie(nr),
+      "1 HUSB @I2@\n1 WIFE @I3@\n1 CHIL @I4@\n1 MARB\n2 DATE 1 MAY 1900\n"
+      "1 MARR\n2 _LBALS _LBWET\n2 TYPE Burgerlijk huwelijk\n2 DATE BEF 12 MAY 1900\n"
+      "1 MARR\n2 _LBALS _LBKERK\n2 _LBGEZ NH\n2 TYPE Kerkelijk huwelijk, Nederlands Hervormd\n"
+      "2 DATE 13 MAY 1900\n");
+  EXPECT_EQ(Persoon(kind), "1 NAME /Z/\n2 SURN Z\n1 SEX M\n1 FAMC @F2@\n");
+  EXPECT_EQ(Persoon(vrouw), "1 NAME /Y/\n2 SURN Y\n1 SEX F\n1 FAMS @F2@\n");
+}
+
+TEST_F(Ged551SchrijverTest, DeSoortVanEenRelatieIsHaarTYPE) {
+  set.schrijfwijze.gezindten[1] = "GGGemengd";
+  set.bouw.Relatie(0, 0, {}, {{"HuwSwPs", 1}, {"HuwSoort", "GG"}});
+  set.bouw.Relatie(0, 0, {}, {{"HuwSwPs", 2}});
+  set.bouw.Relatie(0, 0, {}, {{"HuwSoort", "GG"}});
+  set.bouw.Relatie(0, 0, {}, {{"WHuwDatum", "00-00-1900"}});
+  EXPECT_EQ(Relatie(2),
+            "1 MARR\n2 _LBALS _LBWET\n2 _LBBOND Sw\n2 _LBSOORT GG\n2 TYPE Samenwonen, Gemengd\n");
+  EXPECT_EQ(Relatie(3),
+            "1 MARR\n2 _LBALS _LBWET\n2 _LBBOND Ps\n2 TYPE Geregistreerd partnerschap\n");
+  EXPECT_EQ(Relatie(4), "1 MARR\n2 _LBALS _LBWET\n2 _LBSOORT GG\n2 TYPE Gemengd\n");
+  EXPECT_EQ(Relatie(5), "1 MARR\n2 _LBALS _LBWET\n2 DATE 1900\n");
+}
+
+TEST_F(Ged551SchrijverTest, EenScheidingIsGeenKerkelijkHuwelijk) {
+  const std::int16_t nr =
+      set.bouw.Relatie(0, 0, {}, {{"KHuwSch", 1}, {"KHuwDatum", "00-00-1910"}, {"Religie", "NH"}});
+  set.bouw.OpmerkingBijRelatie(nr, relatierubriek::kKHuwDatum, {"een"}, 1);
+  set.bouw.OpmerkingBijRelatie(nr, relatierubriek::kReligie, {"twee"}, 1);
+  set.bouw.OpmerkingBijRelatie(nr, relatierubriek::kAlgemeen, {"drie"}, 1);
+  EXPECT_EQ(Relatie(nr),
+            "1 DIV\n2 _LBALS _LBKERK\n2 _LBGEZ NH\n2 DATE 1910\n2 NOTE een\n3 _LBPROG 1\n"
+            "2 NOTE twee\n3 _LBRUBR -128\n3 _LBPROG 1\n1 NOTE drie\n2 _LBPROG 1\n");
+}
+
+TEST_F(Ged551SchrijverTest, LegePlekkenTussenVerwijzingenBlijven) {
+  const std::int16_t man = set.bouw.Man("", "X");
+  const std::int16_t kind = set.bouw.Man("", "Z");
+  set.bouw.Relatie(man, 0, {kind, kind});
+  set.bouw.Relatie(man, 0);
+  set.bouw.WijzigPersoon(man, {{"Relatie1", "0"}});
+  set.bouw.WijzigRelatie(2, {{"Kind1", "0"}});
+  EXPECT_EQ(Persoon(man), "1 NAME /X/\n2 SURN X\n1 SEX M\n1 _LBFAMS\n1 FAMS @F3@\n");
+  EXPECT_EQ(Relatie(2), "1 HUSB @I2@\n1 _LBCHIL\n1 CHIL @I3@\n");
+}
+
+TEST_F(Ged551SchrijverTest, VerwijzingenBuitenDeSelectieWordenGeteld) {
+  const std::int16_t man = set.bouw.Man("", "X");
+  const std::int16_t vrouw = set.bouw.Vrouw("", "Y");
+  const std::int16_t kind = set.bouw.Man("", "Z");
+  set.bouw.Plaats("Ongebruikt");
+  const std::int16_t delft = set.bouw.Plaats("Delft");
+  set.bouw.WijzigPersoon(man, {{"GebPlaats", GetalTekst(delft)}});
+  set.bouw.Relatie(man, vrouw, {kind});
+  ExpSelectie selectie;
+  ASSERT_TRUE(selectie.SelPersonen.Voeg(man));
+  ASSERT_TRUE(selectie.SelRelaties.Voeg(2));
+  const Ged551Uitvoer uitvoer = Exporteer551(set, selectie);
+  EXPECT_EQ(uitvoer.Van("0 @F2@ FAM"), "1 HUSB @I2@\n");
+  EXPECT_EQ(uitvoer.bestand.find("Ongebruikt"), std::string::npos);
+  EXPECT_EQ(uitvoer.log,
+            "Soort bestand: GEDCOM 5.5.1, tekenset UTF-8\nTotaal 1 Personen geëxporteerd\n"
+            "Totaal 1 Relaties geëxporteerd\nTotaal 1 Plaatsen geëxporteerd\n"
+            "LET OP: verwijzing naar een record dat niet mee is uitgevoerd: 2 keer\n"
+            "Exporteren voltooid\n"_w);
+  EXPECT_NE(Exporteer551(set).bestand.find("Ongebruikt"), std::string::npos);
+}
+
+TEST_F(Ged551SchrijverTest, WatBeschadigdIsWordtGeteld) {
+  const std::int16_t nr = set.bouw.Man(
+      "", "A\tB", {{"GebPlaats", "77"}, {"GebJaar", "-5"}, {"OpmRecord", "99"}, {"Ouders", "9"}});
+  const std::int16_t vol = set.bouw.Man("", "Y", {{"Relatie3", "-2"}});
+  set.bouw.Relatie(0, 0);
+  ExpSelectie selectie = AllesVan(set);
+  ASSERT_TRUE(selectie.SelPersonen.Voeg(50));
+  ASSERT_TRUE(selectie.SelRelaties.Voeg(50));
+  const Ged551Uitvoer uitvoer = Exporteer551(set, selectie);
+  EXPECT_EQ(uitvoer.Van("0 @I" + GetalTekst(nr) + "@ INDI"),
+            "1 NAME /A B/\n2 SURN A B\n1 SEX M\n1 BIRT\n");
+  EXPECT_EQ(uitvoer.Van("0 @I" + GetalTekst(vol) + "@ INDI"), "1 NAME /Y/\n2 SURN Y\n1 SEX M\n");
+  EXPECT_EQ(uitvoer.log,
+            "Soort bestand: GEDCOM 5.5.1, tekenset UTF-8\n"
+            "Leesfout bij Persoonsrecord 50. Record niet geëxporteerd.\n"
+            "Leesfout bij Relatierecord 50. Record niet geëxporteerd.\n"
+            "Totaal 2 Personen geëxporteerd\nTotaal 1 Relaties geëxporteerd\n"
+            "Totaal 0 Plaatsen geëxporteerd\n"
+            "LET OP: verwijzing naar een record dat niet mee is uitgevoerd: 1 keer\n"
+            "LET OP: verwijzing naar een plaats die er niet is: 1 keer\n"
+            "LET OP: datum met getallen die geen datum zijn: 1 keer\n"
+            "LET OP: vervolgrecord dat niet te lezen is: 1 keer\n"
+            "LET OP: opmerking die niet te lezen is of al bij een ander staat: 1 keer\n"
+            "LET OP: stuurteken in een tekst, een spatie geworden: 2 keer\n"
+            "Exporteren voltooid\n"_w);
+}
+
+TEST_F(Ged551SchrijverTest, HetVerslagNoemtWatAndereProgrammasOverslaan) {
+  const std::int16_t delft = set.bouw.Plaats("Delft");
+  const std::int16_t nr = set.bouw.Man("", "X",
+                                       {{"GebPlaats", delft + 10000},
+                                        {"GebCorr", "X"},
+                                        {"OvlDatum", "12-00-1890"},
+                                        {"DoopReligie", "Q"}});
+  set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kVoornaam, {"een"}, 1);
+  EXPECT_EQ(Exporteer551(set).log,
+            "Soort bestand: GEDCOM 5.5.1, tekenset UTF-8\nTotaal 1 Personen geëxporteerd\n"
+            "Totaal 0 Relaties geëxporteerd\nTotaal 1 Plaatsen geëxporteerd\n"
+            "Andere programma's slaan deze eigen tags over:\n"
+            " _LBZEKER - onzekere plaats: 1 keer\n"
+            " _LBCORR - correctiecode die DATE niet kent: 1 keer\n"
+            " _LBDATUM - datum die de standaard niet kent (staat er als zin): 1 keer\n"
+            " _LBRUBR - rubriek van een opmerking: 1 keer\n"
+            " _LBPROG - uitvoer waarin een opmerking staat: 1 keer\n"
+            "Exporteren voltooid\n"_w);
+}
+
+TEST_F(Ged551SchrijverTest, EenVervolgrecordIsGeenPersoonEnGeenRelatie) {
+  const std::int16_t man = set.bouw.Man("", "X");
+  std::vector<std::int16_t> kinderen(16, set.bouw.Man("", "Z"));
+  set.bouw.Relatie(man, 0, kinderen);
+  for (int i = 0; i < 4; ++i) set.bouw.Relatie(man, 0);
+  const Ged551Uitvoer uitvoer = Exporteer551(set);
+  EXPECT_NE(uitvoer.log.find("Totaal 2 Personen"), std::string::npos);
+  EXPECT_NE(uitvoer.log.find("Totaal 5 Relaties"), std::string::npos);
+  EXPECT_EQ(uitvoer.log.find("Leesfout"), std::string::npos);
+  EXPECT_TRUE(uitvoer.Van("0 @I2@ INDI")
+                  .ends_with("1 FAMS @F2@\n1 FAMS @F4@\n1 FAMS @F5@\n"
+                             "1 FAMS @F6@\n1 FAMS @F7@\n"));
+}
+
+}  // namespace
+}  // namespace lb77

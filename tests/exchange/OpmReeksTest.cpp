@@ -1,0 +1,166 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdint>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "exchange/OpmReeks.h"
+#include "steun/ProefSet.h"
+#include "store/Rubrieken.h"
+
+namespace lb77 {
+namespace {
+
+using Regels = std::vector<std::string>;
+namespace rubriek = persoonrubriek;
+
+class OpmReeksToets : public ::testing::Test {
+ protected:
+  static Regels Tien(const std::string& begin) {
+    Regels regels;
+    for (int i = 1; i <= 10; ++i) regels.push_back(begin + std::to_string(i));
+    return regels;
+  }
+  void Opmerking(std::int16_t rubriek, const Regels& regels) {
+    set_.bouw.OpmerkingBijPersoon(persoon_, rubriek, regels);
+  }
+  OpmReeks::Inhoud Lees(std::int16_t rubriek) {
+    EXPECT_TRUE(set_.Persoon.Lees(persoon_));
+    const std::int16_t code = set_.Persoon.OpmCode();
+    OpmReeks reeks(set_.Opmerking);
+    reeks.Lees(set_.Persoon.OpmRecord());
+    return reeks.Rubriek(code, rubriek);
+  }
+  // The lines as the record class gives them one by one.
+  Regels EenVoorEen(std::int16_t rubriek) {
+    EXPECT_TRUE(set_.Persoon.Lees(persoon_));
+    const std::int16_t code = set_.Persoon.OpmCode();
+    const std::int16_t begin = set_.Persoon.OpmRecord();
+    Regels uit;
+    for (std::int16_t k = 1; k < 1000; ++k) {
+      const std::string tekst = set_.Opmerking.OpmerkingTekst(code, begin, rubriek, k, false);
+      if (tekst.empty()) break;
+      uit.push_back(tekst);
+      if (tekst.starts_with(">> ")) break;
+    }
+    return uit;
+  }
+  void Zet(std::int16_t nr, std::string_view veld, int waarde) {
+    ASSERT_TRUE(set_.Opmerking.Wijzig(nr, {{veld, std::to_string(waarde)}}));
+  }
+
+  ProefSet set_;
+  std::int16_t persoon_ = set_.bouw.Man("Jan", "Jansen");
+};
+
+TEST_F(OpmReeksToets, EenRubriekHeeftDeRegelsVanZijnEersteOpmerking) {
+  Opmerking(rubriek::kBeroep, {"smid"});
+  Opmerking(rubriek::kAlgemeen, {"een", "twee"});
+  EXPECT_EQ(Lees(rubriek::kAlgemeen).regels, (Regels{"een", "twee"}));
+  EXPECT_EQ(Lees(rubriek::kBeroep).regels, Regels{"smid"});
+  EXPECT_TRUE(Lees(rubriek::kVoornaam).regels.empty());
+}
+
+TEST_F(OpmReeksToets, EenTweedeOpmerkingKomtAlleenAchterTienRegels) {
+  Opmerking(rubriek::kAlgemeen, Tien("a"));
+  Opmerking(rubriek::kAlgemeen, {"b"});
+  Opmerking(rubriek::kAlgemeen, {"c"});
+  const OpmReeks::Inhoud inhoud = Lees(rubriek::kAlgemeen);
+  Regels verwacht = Tien("a");
+  verwacht.emplace_back("b");
+  EXPECT_EQ(inhoud.regels, verwacht);
+  EXPECT_EQ(inhoud.over, 1U);
+}
+
+TEST_F(OpmReeksToets, AchterEenKorteOpmerkingBlijvenErOver) {
+  Opmerking(rubriek::kAlgemeen, {"a"});
+  Opmerking(rubriek::kAlgemeen, Tien("b"));
+  Opmerking(rubriek::kBeroep, {"smid"});
+  EXPECT_EQ(Lees(rubriek::kAlgemeen).regels, Regels{"a"});
+  EXPECT_EQ(Lees(rubriek::kAlgemeen).over, 1U);
+  EXPECT_EQ(Lees(rubriek::kBeroep).over, 0U);
+}
+
+TEST_F(OpmReeksToets, EenRubriekDieDeCodeNietHeeftWordtNietGezocht) {
+  Opmerking(rubriek::kAlgemeen, {"a"});
+  set_.bouw.WijzigPersoon(persoon_, {{"OpmCode", "1"}});
+  EXPECT_TRUE(Lees(rubriek::kAlgemeen).regels.empty());
+}
+
+TEST_F(OpmReeksToets, EenKettingDieAfbreektZegtDat) {
+  Opmerking(rubriek::kAlgemeen, {"a"});
+  Zet(2, "BijZelfde", 99);
+  set_.bouw.WijzigPersoon(persoon_, {{"OpmCode", "4098"}});
+  EXPECT_EQ(Lees(rubriek::kAlgemeen).regels, Regels{"a"});
+  EXPECT_EQ(Lees(rubriek::kVoornaam).regels,
+            Regels{">> Verkeerde verwijzing: opm-record 99 bestaat niet <<"});
+  EXPECT_EQ(Lees(rubriek::kVoornaam).over, 0U);
+}
+
+TEST_F(OpmReeksToets, EenRegelDieErNietIsBreektDeOpmerkingAf) {
+  Opmerking(rubriek::kAlgemeen, {"a", "b", "c"});
+  Opmerking(rubriek::kAlgemeen, {"d"});
+  Zet(3, "VolgRegel", 1);
+  EXPECT_EQ(Lees(rubriek::kAlgemeen).regels,
+            (Regels{"a", "b", ">> Verkeerde verwijzing: opm-record 1 bestaat niet <<"}));
+  EXPECT_EQ(Lees(rubriek::kAlgemeen).over, 0U);
+}
+
+TEST_F(OpmReeksToets, EenKettingInEenKringKomtEenmaalRond) {
+  Opmerking(rubriek::kAlgemeen, Tien("a"));
+  Zet(2, "BijZelfde", 2);
+  Regels verwacht = Tien("a");
+  verwacht.emplace_back(">> Verkeerde verwijzing: opm-record 2 bestaat niet <<");
+  EXPECT_EQ(Lees(rubriek::kAlgemeen).regels, verwacht);
+}
+
+TEST_F(OpmReeksToets, RegelsInEenKringHoudenOp) {
+  Opmerking(rubriek::kAlgemeen, {"a", "b"});
+  Zet(3, "VolgRegel", 2);
+  EXPECT_EQ(Lees(rubriek::kAlgemeen).regels, EenVoorEen(rubriek::kAlgemeen));
+  EXPECT_LE(Lees(rubriek::kAlgemeen).regels.size(), 11U);
+}
+
+TEST_F(OpmReeksToets, EenBeginDatGeenRecordIsZegtDat) {
+  Opmerking(rubriek::kAlgemeen, {"a"});
+  for (const int begin : {1, -5, 4, 32767}) {
+    set_.bouw.WijzigPersoon(persoon_, {{"OpmRecord", std::to_string(begin)}});
+    EXPECT_EQ(Lees(rubriek::kAlgemeen).regels, EenVoorEen(rubriek::kAlgemeen)) << begin;
+    EXPECT_EQ(Lees(rubriek::kAlgemeen).regels.size(), 1U) << begin;
+  }
+  set_.bouw.WijzigPersoon(persoon_, {{"OpmRecord", "0"}});
+  EXPECT_TRUE(Lees(rubriek::kAlgemeen).regels.empty());
+}
+
+// Whatever the links, as long as no remark comes back.
+TEST_F(OpmReeksToets, DeRegelsZijnDieVanHetRecordEenVoorEen) {
+  std::mt19937 toeval(77);
+  constexpr std::int16_t kRubrieken[] = {1, 2, 4096};
+  for (int keer = 0; keer < 12; ++keer) {
+    const std::size_t aantal = 1 + toeval() % 12;
+    Opmerking(kRubrieken[toeval() % 3], [&] {
+      Regels regels = Tien(std::to_string(keer) + " ");
+      regels.resize(std::min<std::size_t>(aantal, 10));
+      return regels;
+    }());
+    for (const std::int16_t deze : kRubrieken) {
+      EXPECT_EQ(Lees(deze).regels, EenVoorEen(deze)) << keer << " " << deze;
+    }
+  }
+  const std::int16_t laatste = set_.Opmerking.AantalRecords();
+  for (int keer = 0; keer < 200; ++keer) {
+    const auto nr = static_cast<std::int16_t>(2 + toeval() % static_cast<unsigned>(laatste - 1));
+    ASSERT_TRUE(set_.Opmerking.Lees(nr));
+    const std::string oud = std::to_string(set_.Opmerking.VolgRegel());
+    Zet(nr, "VolgRegel", static_cast<int>(toeval() % static_cast<unsigned>(laatste + 3)));
+    for (const std::int16_t deze : kRubrieken) {
+      ASSERT_EQ(Lees(deze).regels, EenVoorEen(deze)) << nr << " " << deze;
+    }
+    ASSERT_TRUE(set_.Opmerking.Wijzig(nr, {{"VolgRegel", oud}}));
+  }
+}
+
+}  // namespace
+}  // namespace lb77
