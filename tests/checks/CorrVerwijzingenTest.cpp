@@ -160,6 +160,12 @@ TEST_F(CorrAlgTest, ElkVeldVanEenRelatieVraagtZijnSoortRecord) {
     )");
 }
 
+// It can be read, but is nobody.
+TEST_F(CorrAlgTest, RecordEenHeeftGeenNaam) {
+  ZetGetal(kRlt, 2, relatieveld::ManNr, 1);
+  Relatie(2, "toon PersNrManNaam\ndruk BackButton", "= PersNrManNaam \"?????\"");
+}
+
 TEST_F(CorrAlgTest, DeNaamVolgtHetNummer) {
   Relatie(2,
           "vul PersNrMan 3\ntoon PersNrManNaam\nvul PersNrMan\ntoon PersNrManNaam\n"
