@@ -47,6 +47,30 @@ class NeeGesprek : public Gesprek {
   int getoond_ = 0;
 };
 
+// Takes the dialog for each place, and sees whether the form below waits meanwhile.
+class Corrector final : public NeeGesprek {
+ public:
+  Antwoord Bericht(BerichtSoort soort, Knoppen knoppen, std::string_view tekst) override {
+    if (knoppen == Knoppen::JaNeeAnnuleren) return Antwoord::Ja;
+    return NeeGesprek::Bericht(soort, knoppen, tekst);
+  }
+  void Ververs(Formulier& formulier) override {
+    werk_ = &formulier;
+    bezig_ += formulier.Bezig() ? "" : "Ververst zonder werk. ";
+  }
+  [[nodiscard]] const std::string& Bezig() const { return bezig_; }
+
+ protected:
+  void Voer(Formulier& formulier) override {
+    bezig_ += formulier.Naam() + (werk_->Bezig() ? " bezig. " : " wacht. ");
+    NeeGesprek::Voer(formulier);
+  }
+
+ private:
+  const Formulier* werk_ = nullptr;
+  std::string bezig_;
+};
+
 class ContactToets : public FamilieToets {
  protected:
   ContactToets();
