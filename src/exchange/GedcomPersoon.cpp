@@ -148,7 +148,9 @@ GedcomPersoon HaalPersoon(const Gegevens& gegevens, PlaatsNamen& plaatsen, Gespr
   p.geslacht = persoon.Geslacht();
   p.voornaam = persoon.VoorNaamTrue();
   p.achternaam = persoon.AchterNaamTrue();
-  SplitsNaam(persoon.AchterNaamVVC(), p);
+  // A name of one word sorts as it is.
+  const bool heelWoord = p.achternaam.find(' ') == std::string::npos;
+  SplitsNaam(heelWoord ? p.achternaam : persoon.AchterNaamVVC(), p);
   p.beroep = persoon.beroep();
   p.religie = GezindteNaam(persoon.Religie(), gegevens.schrijfwijze.gezindten);
   p.gebCorr = persoon.GebCorr();
