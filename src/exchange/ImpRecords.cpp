@@ -117,13 +117,17 @@ bool ImpRecords::NeemRegel(GedDelen delen) {
     }
   } else if (const auto* rij = overigePaden_.Zoek(pad)) {
     NeemOverig(rij->actie, delen.waarde);
-    if (rij->actie != OverigeActie::Tekenset) MerkNiets(delen);
+    if (WordtNietBewaard(rij->actie)) MerkNiets(delen);
     return true;
   }
   if (loop_.eigen && IsBekendInEigen(pad)) return true;
   loop_.Merk();
   LogOnbekend(groep, delen);
   return true;
+}
+
+bool ImpRecords::WordtNietBewaard(OverigeActie actie) {
+  return actie == OverigeActie::Niets || actie == OverigeActie::BronNaam;
 }
 
 // A line that is passed over is a loss when it says anything by itself.

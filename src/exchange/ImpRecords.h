@@ -32,6 +32,7 @@ class ImpRecords {
   [[nodiscard]] bool BeginRecord(GedSoort soort);
   [[nodiscard]] bool NeemRegel(GedDelen delen);
   void TelTekst(const GedDelen& delen);
+  [[nodiscard]] static bool WordtNietBewaard(OverigeActie actie);
   void MerkNiets(const GedDelen& delen);
   void MerkVanaf(std::int32_t regel);
   void NeemOverig(OverigeActie actie, std::string_view waarde);

@@ -6,8 +6,8 @@
 #include <string_view>
 
 #include "app/Start.h"
-#include "steun/KaartFamilie.h"
 #include "steun/FamilieToets.h"
+#include "steun/KaartFamilie.h"
 #include "store/Rubrieken.h"
 
 namespace lb77 {

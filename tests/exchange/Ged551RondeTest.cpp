@@ -26,7 +26,9 @@ void Rond(ProefSet& set, bool metTerugwegen) {
   EXPECT_EQ(GrammaticaFouten(MetCrLf(uitvoer.bestand), metTerugwegen), std::vector<std::string>());
   ProefSet nieuw;
   nieuw.schrijfwijze = set.schrijfwijze;
-  EXPECT_EQ(LeesIn(nieuw, AlsWindows(uitvoer.bestand)), "");
+  std::string niet;
+  EXPECT_EQ(LeesIn(nieuw, uitvoer.bestand, &niet), "");
+  EXPECT_EQ(niet, "");
   const std::vector<std::string> eerst = Beschrijf(set);
   const std::vector<std::string> daarna = Beschrijf(nieuw);
   ASSERT_EQ(eerst.size(), daarna.size());

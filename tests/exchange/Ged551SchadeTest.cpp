@@ -43,7 +43,7 @@ TEST_P(Ged551Schade, BreektDeStandaardNiet) {
   EXPECT_EQ(GrammaticaFouten(MetCrLf(uitvoer.bestand), false), std::vector<std::string>());
   static_cast<void>(set.Getoond());
   ProefSet nieuw;
-  static_cast<void>(LeesIn(nieuw, AlsWindows(uitvoer.bestand)));
+  static_cast<void>(LeesIn(nieuw, uitvoer.bestand));
   static_cast<void>(nieuw.Getoond());
   EXPECT_GT(nieuw.Persoon.AantalRecords(), 2);
 }

@@ -6,6 +6,7 @@
 
 #include "exchange/FaalUitvoer.h"
 #include "exchange/Ged551Schrijver.h"
+#include "exchange/GedUnicode.h"
 #include "exchange/ImpGangen.h"
 #include "store/OpmVelden.h"
 #include "store/PersoonVelden.h"
@@ -166,22 +167,24 @@ Ged551Uitvoer Exporteer551(ProefSet& set, const ExpSelectie& selectie) {
   return {uit.Regels(), log.Regels()};
 }
 
-std::string AlsWindows(std::string_view utf8) {
-  constexpr std::string_view kMerk = "\xEF\xBB\xBF";
-  if (utf8.starts_with(kMerk)) utf8.remove_prefix(kMerk.size());
-  return Utf8NaarWindows(utf8).value_or("");
-}
-
-std::string LeesIn(ProefSet& set, std::string_view bytes) {
+std::string LeesIn(ProefSet& set, std::string_view bytes, std::string* niet) {
   const std::filesystem::path pad = set.map / "IN.GED";
+  const std::filesystem::path rest = set.map / "IN.RST";
   SchrijfBytes(pad, bytes);
   RegelLezer lezer;
   if (lezer.Open(pad)) return "niet te openen\n";
+  lezer.BeginMet(CoderingVan(lezer));
   Meldlog melder;
   ImpLoop loop({GegevensVan(set), melder}, set.Persoon.AantalRecords(),
                set.Relatie.AantalRecords());
+  loop.omgezet = lezer.ZetOm();
+  loop.rest.Begin(rest, [&loop](std::string_view bron) { return loop.BronUtf8(bron); });
   const ImpUitslag uitslag = VoerGangen(loop, lezer);
-  loop.verliezen.Noteer([&](std::string_view regel) { melder.Log(regel); });
+  const auto noteer = [&](std::string_view regel) { melder.Log(regel); };
+  loop.verliezen.Noteer(noteer);
+  loop.tekens.Noteer(noteer);
+  if (loop.rest.Sluit()) melder.Log("de rest is niet geschreven");
+  if (niet != nullptr) *niet = LeesBytes(rest);
   return melder.tekst + uitslag.fout + (uitslag.gestopt ? "gestopt\n" : "");
 }
 

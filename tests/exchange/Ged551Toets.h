@@ -26,11 +26,9 @@ struct Ged551Uitvoer {
   return Exporteer551(set, AllesVan(set));
 }
 
-// The file as the import reads it: in Windows-1252, without a byte-order mark.
-[[nodiscard]] std::string AlsWindows(std::string_view utf8);
 // Runs the passes of the import over a file of these bytes; gives its log and warnings, each line
-// ended by a line feed.
-std::string LeesIn(ProefSet& set, std::string_view bytes);
+// ended by a line feed; in `niet` the lines that were not stored whole.
+std::string LeesIn(ProefSet& set, std::string_view bytes, std::string* niet = nullptr);
 
 // All that a set holds, a line a record or remark. Links are told by the place of their record among
 // the persons or relations, as the numbers may differ.
