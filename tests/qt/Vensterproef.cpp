@@ -12,7 +12,7 @@ namespace lb77 {
 
 namespace {
 
-constexpr int kNoodrem = 60000;  // milliseconds: a window that nobody closes
+constexpr int kNoodrem = 240000;  // milliseconds: a window that nobody closes, on a machine that builds
 
 // One step each time that the event loop is at rest.
 class Stappen {
