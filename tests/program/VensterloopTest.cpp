@@ -204,6 +204,22 @@ TEST_F(VensterloopTest, HetStartbladDoetHetDagelijkseWerk) {
   EXPECT_EQ(LeesBytes(Map() / "GEZIEN.TXT"), "PROEF,2\r\n");
 }
 
+TEST_F(VensterloopTest, DeHandleidingStaatInHetMenu) {
+  MaakFamilie();
+  opstart_.programmaMap = Map();
+  Verwacht("kies Handleid\nkies KeuzeAfsluiten", Venster(), R"~(
+      + MenuWindow "LB77 voor Windows"
+      ! uitroep "De handleiding (handleiding.html) is niet bij het programma gevonden"
+      - MenuWindow)~");
+  SchrijfBytes(Map() / "handleiding.html", "x");
+  Verwacht("kies Handleid\nkies KeuzeAfsluiten", Venster(),
+           R"~(
+      + MenuWindow "LB77 voor Windows"
+      ! info "De handleiding staat in )~" +
+               (Map() / "handleiding.html").string() + R"~("
+      - MenuWindow)~");
+}
+
 // Lower case names, no TEKST, and the places in the data directory alone.
 TEST_F(VensterloopTest, EenSetVanEenDosDiskGaatOpenEnWerkt) {
   MaakFamilie();
