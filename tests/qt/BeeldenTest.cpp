@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QRegularExpression>
 
 #include "Toetsenbord.h"
 #include "app/Klok.h"
@@ -18,7 +19,8 @@ namespace {
 QString Bestandsnaam(const QWidget& venster) {
   QString naam = venster.objectName();
   if (naam == QLatin1String("ToonTekst")) naam = venster.windowTitle();
-  return naam.toLower().replace(u' ', u'-') + QStringLiteral(".png");
+  naam.replace(QRegularExpression(QStringLiteral("[^A-Za-z0-9]+")), QStringLiteral("-"));
+  return naam.toLower() + QStringLiteral(".png");
 }
 
 class BeeldenTest : public Toetsenbord {

@@ -22,10 +22,8 @@ TEST_F(HulpTest, VraagtHetOnderwerpVanHetFormulierWaarDeFocusOokStaat) {
          Toets(Qt::Key_F1);
          vorm.GaNaar(vorm.OKButton);
          Toets(Qt::Key_F1);
-         QTest::keyClick(&Bovenste(), Qt::Key_F1);
-         EXPECT_THAT(gevraagd, ElementsAre("proeven", "proeven", "proeven"));
          Toets(Qt::Key_F1, Qt::ShiftModifier);
-         EXPECT_EQ(gevraagd.size(), 3U);
+         EXPECT_THAT(gevraagd, ElementsAre("proeven", "proeven"));
          Toets(Qt::Key_Escape);
        }});
 }
@@ -41,7 +39,7 @@ TEST_F(HulpTest, DoetNietsZonderHandleiding) {
 
 TEST_F(HulpTest, GeldtNietVoorEenFormulierDatBezigIs) {
   gesprek.BijHulp([this](const Formulier& een) { gevraagd.push_back(een.HulpOnderwerp()); });
-  vorm.bijOK = [this] { QTest::keyClick(&Bovenste(), Qt::Key_F1); };
+  vorm.bijOK = [this] { Toets(Qt::Key_F1); };
   Voer(vorm, {[this] {
          vorm.GaNaar(vorm.OKButton);
          Toets(Qt::Key_Space);

@@ -55,10 +55,11 @@ bool Toetsenbord::Kan(QWidget& venster) {
   if (IsKlaarzetten(een.soort)) return true;
   if (!venster.isVisible() || !venster.isActiveWindow()) return false;
   const auto* widget = venster.findChild<QWidget*>(NaarQt(een.naam));
-  const bool kan = een.soort == InstructieSoort::Kies
-                       ? dynamic_cast<Hoofdvenster*>(&venster) != nullptr
-                       : widget && widget->isVisible() && (een.soort == InstructieSoort::Toon ||
-                                                           widget->focusPolicy() != Qt::NoFocus);
+  const bool kan =
+      een.soort == InstructieSoort::Kies
+          ? dynamic_cast<Hoofdvenster*>(&venster) != nullptr
+          : widget && widget->isVisible() &&
+                (een.soort == InstructieSoort::Toon || widget->focusPolicy() != Qt::NoFocus);
   if (kan) gewacht_ = 0;
   return kan;
 }
