@@ -167,10 +167,15 @@ TEST_P(ElkFormulier, HeeftEenPlekInDeHandleiding) {
   });
 }
 
-TEST(AlleFormulieren, OokHetHoofdvensterHeeftEenPlekInDeHandleiding) {
-  const std::set<std::string> plekken = Plekken();
-  EXPECT_TRUE(plekken.contains("starten"));
-  EXPECT_FALSE(plekken.contains(""));
+class Hoofdhulp : public ProgrammaToets {};
+
+TEST_F(Hoofdhulp, OokHetHoofdvensterHeeftEenPlekInDeHandleiding) {
+  MaakFamilie();
+  const SpeelUitslag uitslag = Speel("", Met([](lb77::Programma& programma) {
+                                       const std::string& plek = programma.Menu().HulpOnderwerp();
+                                       EXPECT_TRUE(Plekken().contains(plek)) << plek;
+                                     }));
+  EXPECT_EQ(uitslag.status, 0) << uitslag.reden;
 }
 
 TEST_P(ElkFormulier, NoemtZijnHulponderwerp) {
