@@ -22,6 +22,8 @@ KwstBereken::KwstBereken(Hoofdmodule& hoofd, const KwstOpties& opties, KwstTabel
           [&](const Verloop& verloop) {
             return BouwKwst(tabel, opties, hoofd.Persoon, hoofd.Relatie, hoofd.volgers, verloop);
           },
-          BijVol()) {}
+          BijVol()) {
+  ZetHulpOnderwerp("kwartierstaat");
+}
 
 }  // namespace lb77

@@ -55,6 +55,8 @@ KwstTemp::KwstTemp(const KwstTempSoort& soort, Hoofdmodule& hoofd, const KwstOpt
     : SchrijfForm(soort.vorm, hoofd, {pad, soort.doorlopend || opties.KwInHTML, opties.KwProbandNr},
                   [&](TekstSchrijver& uit, const Verloop& verloop) {
                     return soort.schrijf(hoofd, opties, tabel, uit, verloop);
-                  }) {}
+                  }) {
+  ZetHulpOnderwerp("kwartierstaat");
+}
 
 }  // namespace lb77

@@ -10,6 +10,10 @@ namespace lb77 {
 // The sample family, in one of these directories.
 inline constexpr const char* kVoorbeeldGedcom = "voorbeeld/oranje-nassau.ged";
 
+// The manual as a page for a browser, and as it was written where no page could be made.
+inline constexpr const char* kHandleidingPagina = "handleiding.html";
+inline constexpr const char* kHandleidingTekst = "handleiding.md";
+
 // The directories to look in, for a program whose executable lies in `executable`: beside it, on a
 // stick for instance, and where a package installs.
 [[nodiscard]] std::vector<std::filesystem::path> InstallatieMappen(

@@ -117,7 +117,7 @@ constexpr MenuRij kMenu[] = {
     {"VeiligTerugzetten", "Veiligheidskopie &terugzetten", "MenuVeiligheid"},
     {"VeiligPlaats", "&Plaats van de kopieën"_w, "MenuVeiligheid"},
     {"MenuHelp", "&Help", "", Menu},
-    {"Handleid", "&Handleiding", "MenuHelp", Geen},
+    {"Handleid", "&Handleiding", "MenuHelp"},
     {"AboutLB77", "&Over LB77 voor Windows", "MenuHelp"},
 };
 // clang-format on
@@ -153,6 +153,7 @@ std::string TeOngedaan(const Bestandenset& bestanden) {
 
 MenuWindow::MenuWindow(Hoofdmodule& hoofd)
     : Formulier("MenuWindow", "LB77 voor Windows"), hoofd_(hoofd) {
+  ZetHulpOnderwerp("starten");
   for (const MenuRij& rij : kMenu) {
     keuzes_.emplace_back(*this, rij.naam, rij.bijschrift, rij.menu).ZetIngeschakeld(false);
   }

@@ -8,6 +8,7 @@ namespace lb77 {
 
 NieuweSet::NieuweSet(Hoofdmodule& hoofd, MenuWindow& menu)
     : Formulier("NieuweSet", "Nieuwe Bestandenset"), hoofd_(hoofd), menu_(menu) {
+  ZetHulpOnderwerp("bestandensets");
   ZetEersteVeld(SetNaam);
   SetNaam.BijVerlaten([this] { return SetNaamVerlaten(); });
   OKButton.BijKlik([this] { OKButtonKlik(); });

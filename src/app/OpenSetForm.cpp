@@ -7,6 +7,7 @@ namespace lb77 {
 OpenSetForm::OpenSetForm(Hoofdmodule& hoofd, MenuWindow& menu)
     // kept: the title is spelled as users know it
     : Formulier("OpenSetForm", "Open Bestandendset"), hoofd_(hoofd), menu_(menu) {
+  ZetHulpOnderwerp("bestandensets");
   ZetEersteVeld(SetPicklist);
   OKButton.BijKlik([this] { OKButtonKlik(); });
   CancelButton.BijKlik([this] { CancelButtonKlik(); });

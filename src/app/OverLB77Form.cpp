@@ -3,6 +3,7 @@
 namespace lb77 {
 
 OverLB77Form::OverLB77Form() : Formulier("OverLB77Form", "Over LB77 voor Windows") {
+  ZetHulpOnderwerp("starten");
   ZetEersteVeld(OKButton);
   OKButton.BijKlik([this] { Sluit(); });
 }

@@ -27,6 +27,7 @@ std::string SetSleutel(int index) {
 VerwijderSetForm::VerwijderSetForm(Hoofdmodule& hoofd, MenuWindow& menu)
     // kept: the title is spelled as users know it
     : Formulier("VerwijderSetForm", "Verwijder Bestandendset"), hoofd_(hoofd), menu_(menu) {
+  ZetHulpOnderwerp("bestandensets");
   ZetEersteVeld(SetPicklist);
   OKButton.BijKlik([this] { OKButtonKlik(); });
   CancelButton.BijKlik([this] { CancelButtonKlik(); });

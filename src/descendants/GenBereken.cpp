@@ -18,6 +18,8 @@ GenBereken::GenBereken(Hoofdmodule& hoofd, const GenOpties& opties, GenTabel& ta
                     return BouwGen(tabel, opties, hoofd.Persoon, hoofd.Relatie, hoofd.volgers,
                                    verloop);
                   },
-                  {}) {}
+                  {}) {
+  ZetHulpOnderwerp("genealogie");
+}
 
 }  // namespace lb77

@@ -10,6 +10,7 @@ GenSchBlok::GenSchBlok(Hoofdmodule& hoofd, const GenTabel& tabel, bool centreren
       tabel_(tabel),
       centreren_(centreren),
       rijen_(rijen) {
+  ZetHulpOnderwerp("genealogie");
   Koppel(OKButton, BackButton);
 }
 

@@ -58,6 +58,8 @@ GenTemp::GenTemp(const GenTempSoort& soort, Hoofdmodule& hoofd, const GenRun& ru
                   {pad, soort.doorlopend || run.opties.GenInHTML, run.opties.GenStamouderNr},
                   [&](TekstSchrijver& uit, const Verloop& verloop) {
                     return soort.schrijf(hoofd, run, uit, verloop);
-                  }) {}
+                  }) {
+  ZetHulpOnderwerp("genealogie");
+}
 
 }  // namespace lb77

@@ -13,6 +13,7 @@ GezinMaakTemp::GezinMaakTemp(Hoofdmodule& hoofd, const GezinOpties& opties,
     : WerkFormulier("GezinMaakTemp", "Gezinsblad Schrijven", hoofd),
       opties_(opties),
       pad_(std::move(pad)) {
+  ZetHulpOnderwerp("gezinsblad");
   Koppel(OKButton, BackButton);
 }
 

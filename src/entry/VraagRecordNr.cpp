@@ -8,6 +8,7 @@ namespace lb77 {
 
 VraagRecordNr::VraagRecordNr(std::string_view titel, Controle controle)
     : Formulier("VraagRecordNr", titel) {
+  ZetHulpOnderwerp("zoeken");
   RecordNr.ZetFilter(AlleenCijfers);
   RecordNr.ZetEnter(EnterSoort::OK);
   if (controle) {

@@ -46,6 +46,7 @@ bool LeesPagina(Tekstpaginas& paginas, int kolom, int rij, std::vector<std::stri
 
 TekstVenster::TekstVenster(Hoofdmodule& hoofd, std::string_view naam, std::string_view titel)
     : Formulier(naam, titel), hoofd_(hoofd) {
+  ZetHulpOnderwerp("bekijken");
   MoveButton.Elk([this](int nummer, Knop& knop) {
     knop.ZetBijschrift(StapVan(nummer).bijschrift);
     MoveButton(nummer).BijKlik([this, nummer] { MoveButtonKlik(nummer); });

@@ -1,10 +1,12 @@
 #include "program/Vensterloop.h"
 
+#include "app/Handleiding.h"
 #include "app/SetOpenen.h"
 #include "app/Welkom.h"
 #include "entry/StartRecord.h"
 #include "entry/ToonPersoon.h"
 #include "entry/ZoekPersoon.h"
+#include "forms/Hulpgever.h"
 #include "program/Programma.h"
 #include "program/Wegen.h"
 
@@ -34,12 +36,39 @@ void HangStartbladOp(Programma& programma, Wegen& wegen) {
   menu.BijBestand([&wegen](const std::filesystem::path& bestand) { wegen.LeesGedcom(bestand); });
 }
 
+// Shows the manual by its menu entry and by F1 in every form, for as long as the session lives.
+class Handleidingsweg {
+ public:
+  Handleidingsweg(Programma& programma, const std::vector<std::filesystem::path>& installatie)
+      : hoofd_(programma.Hoofd()),
+        installatie_(installatie),
+        hulp_(dynamic_cast<Hulpgever*>(&hoofd_.gesprek)) {
+    programma.Menu().Hang("Handleid", [this] { Toon({}); });
+    if (hulp_) hulp_->BijHulp([this](const Formulier& vorm) { Toon(vorm.HulpOnderwerp()); });
+  }
+  ~Handleidingsweg() {
+    if (hulp_) hulp_->BijHulp(nullptr);
+  }
+  Handleidingsweg(const Handleidingsweg&) = delete;
+  Handleidingsweg& operator=(const Handleidingsweg&) = delete;
+
+ private:
+  void Toon(std::string_view onderwerp) {
+    ToonHandleiding(hoofd_.gesprek, installatie_, hoofd_.Ini.TempDir(), onderwerp);
+  }
+
+  Hoofdmodule& hoofd_;
+  const std::vector<std::filesystem::path>& installatie_;
+  Hulpgever* hulp_;
+};
+
 }  // namespace
 
 void VoerVoorGebruiker(Gesprek& gesprek, const Klok& klok, const Opstart& opstart) {
   Programma programma(gesprek, klok, opstart.programmaMap);
   Wegen wegen(programma.Hoofd(), programma.Menu(), opstart.installatie);
   HangStartbladOp(programma, wegen);
+  const Handleidingsweg handleiding(programma, opstart.installatie);
   std::optional<Weg> eerst;
   if (IsEersteKeer(opstart.programmaMap)) {
     Welkom welkom(programma.Hoofd());

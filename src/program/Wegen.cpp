@@ -1,18 +1,22 @@
 #include "program/Wegen.h"
 
+#include <sstream>
 #include <string>
 #include <string_view>
 #include <system_error>
 #include <utility>
 
 #include "app/Bestandensets.h"
+#include "app/HeelBestand.h"
 #include "app/InWelkeSet.h"
 #include "app/Installatie.h"
 #include "app/NieuweSet.h"
 #include "app/OudeSetForm.h"
 #include "app/SetMaken.h"
+#include "app/Start.h"
 #include "exchange/ImpGedcom.h"
 #include "text/Pad.h"
+#include "text/Tekens.h"
 
 namespace lb77 {
 
@@ -28,6 +32,22 @@ std::string VoorbeeldRij(const IniClass& ini) {
     if (ini.BestandenSetOms(i) == kVoorbeeldOms) return ini.SetOmschrijving(i);
   }
   return {};
+}
+
+// Who has no denominations yet gets those that the sample uses: without them their names would be
+// cut to two letters.
+void NeemGezindten(Hoofdmodule& hoofd, const std::filesystem::path& instellingen) {
+  if (!hoofd.Ini.IniWaarde("Namenfile", "Gez1").empty()) return;
+  std::string tekst;
+  if (LeesHeelBestand(instellingen, tekst)) return;
+  std::istringstream regels(tekst);
+  for (std::string regel; std::getline(regels, regel);) {
+    if (regel.ends_with('\r')) regel.pop_back();
+    const std::size_t plek = regel.find('=');
+    if (!regel.starts_with("Gez") || plek == std::string::npos) continue;
+    hoofd.Ini.IniZet("Namenfile", regel.substr(0, plek), Trim(regel.substr(plek + 1)));
+  }
+  VulGezindten(hoofd);
 }
 
 }  // namespace
@@ -79,6 +99,7 @@ void Wegen::ToonVoorbeeld() {
   const std::string naam = VrijeSetNaam(hoofd_, kVoorbeeldSet);
   if (!KanNieuweSetZijn(hoofd_, naam)) return;
   if (!MaakSet(hoofd_, menu_, naam, std::string(kVoorbeeldOms))) return;
+  NeemGezindten(hoofd_, bestand->parent_path() / "LIJNBOOM.INI");
   hoofd_.gesprek.Toon<ImpGedcom>(hoofd_, *bestand, ImpWijze::Vanzelf);
 }
 

@@ -68,6 +68,8 @@ class Binder final : public QObject, private Bezorger, private Vensterhouder {
 
   // Runs one of the form's operations, keeps what it throws, and brings the window up to date.
   void Verwerk(const std::function<void()>& doe);
+  // F1: the chapter of the manual about this form.
+  void GeefHulp();
   [[nodiscard]] bool Geblokkeerd() const;
   [[nodiscard]] bool Afgelopen() const;
   // True when the key needs nothing more.

@@ -7,6 +7,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 
+#include "forms/Hulpgever.h"
 #include "qt/Binder.h"
 #include "qt/Bladzijde.h"
 #include "qt/Toetsen.h"
@@ -89,6 +90,11 @@ bool Binder::GaNaar(Element& element) {
 }
 
 bool Binder::VerwerkToets(Element* element, const QKeyEvent& toets) {
+  // With Shift it types a text of the settings.
+  if (toets.key() == Qt::Key_F1 && toets.modifiers() == Qt::NoModifier) {
+    if (!toets.isAutoRepeat()) GeefHulp();
+    return true;
+  }
   const auto gebeurtenis = NaarToets(toets);
   if (!gebeurtenis) {
     const bool alt = toets.modifiers().testFlag(Qt::AltModifier);  // Alt+F4 is the window's own
@@ -104,6 +110,11 @@ bool Binder::VerwerkToets(Element* element, const QKeyEvent& toets) {
   if (klaar || formulier_.Gesloten() || fout_) return true;
   if (element && EigenToets(*element, toets)) return true;
   return false;
+}
+
+void Binder::GeefHulp() {
+  auto* const hulp = dynamic_cast<Hulpgever*>(&gesprek_);
+  if (hulp && !verversend_ && !Geblokkeerd()) Verwerk([&] { hulp->GeefHulp(formulier_); });
 }
 
 // A key that the form leaves to the control.

@@ -1,10 +1,13 @@
 #include "qt/QtGesprek.h"
 
+#include <QDesktopServices>
+#include <QUrl>
 #include <algorithm>
 
 #include "qt/Berichtvenster.h"
 #include "qt/Bestandsvenster.h"
 #include "qt/Drukker.h"
+#include "qt/Vertaling.h"
 
 namespace lb77 {
 
@@ -51,6 +54,10 @@ std::optional<std::filesystem::path> QtGesprek::VraagBestand(const BestandsVraag
 
 bool QtGesprek::DrukAf(const Afdruk& afdruk) {
   return Daarover([&](QWidget* ouder) { return VraagEnDrukAf(ouder, afdruk); });
+}
+
+bool QtGesprek::OpenInBrowser(const std::filesystem::path& pad) {
+  return QDesktopServices::openUrl(QUrl::fromLocalFile(PadNaarQt(pad)));
 }
 
 void QtGesprek::Ververs(Formulier& formulier) {

@@ -86,6 +86,7 @@ Krtn::Krtn(const KrtnSoort& soort, Hoofdmodule& hoofd)
       VraagLabel(*this, "VraagLabel", soort.vraag),
       RecordNr(*this, 0, soort),
       soort_(soort) {
+  ZetHulpOnderwerp("kaarten");
   ZetEersteVeld(RecordNr(0).RecordNr);
   RecordNr.Elk([this](int, KrtnRij& rij) {
     rij.RecordNr.BijVerlaten([this, &rij] { return RecordNrVerlaten(rij); });

@@ -25,6 +25,7 @@ VerwantPersoon::VerwantPersoon(InvoerFormulier& formulier, int nummer)
 
 SchemaVerwantschap::SchemaVerwantschap(Hoofdmodule& hoofd)
     : WerkFormulier("SchemaVerwantschap", "Schema Verwantschap", hoofd, WerkBegin::OpKnop) {
+  ZetHulpOnderwerp("verwantschap");
   ZetEersteVeld(Personen(0).Persoon.RecordNr);
   Koppel(OKButton, BackButton);
 }

@@ -9,7 +9,9 @@ VerwantBestanden VerwantBestandenVan(const Hoofdmodule& hoofd) {
 }
 
 VerwantRapport::VerwantRapport(Hoofdmodule& hoofd, bool metUitvoer)
-    : TekstVenster(hoofd, "VerwantRapport", "Resultaat Verwantschap"), metUitvoer_(metUitvoer) {}
+    : TekstVenster(hoofd, "VerwantRapport", "Resultaat Verwantschap"), metUitvoer_(metUitvoer) {
+  ZetHulpOnderwerp("verwantschap");
+}
 
 void VerwantRapport::BijLaden() {
   const VerwantBestanden bestanden = VerwantBestandenVan(hoofd_);

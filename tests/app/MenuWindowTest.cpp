@@ -87,7 +87,7 @@ TEST_F(Hoofdvenster, MetEenSetWerktAllesBehalveWatGeenActieHeeft) {
              }
              EXPECT_EQ(uit,
                        "ImportDBase ImportAscii ExpVVF ExpTiny InvoerAkten RefInvoer TekstVerwant "
-                       "UitvAkte Handleid ");
+                       "UitvAkte ");
            }),
            "");
 }

@@ -3,12 +3,16 @@
 
 #include <map>
 #include <set>
+#include <sstream>
 
 #include "forms/Bijschrift.h"
 #include "program/AlleFormulieren.h"
 #include "program/ProgrammaToets.h"
 #include "script/Verslag.h"
 #include "steun/Gouden.h"
+#include "steun/Plekken.h"
+#include "steun/TijdelijkeMap.h"
+#include "text/Tekens.h"
 
 namespace lb77 {
 
@@ -135,6 +139,44 @@ const std::map<std::string_view, std::string_view> kHulpOnderwerpen = {
     {"Welkom", "starten"},           {"OudeSetForm", "oude-bestanden"},
     {"InWelkeSet", "gedcom"},
 };
+
+// The places of the manual that a link can lead to: its headings, and the ones named beside them.
+std::set<std::string> Plekken() {
+  std::set<std::string> uit;
+  std::istringstream handleiding(LeesBytes(BronMap() / "docs/handleiding.md"));
+  for (std::string regel; std::getline(handleiding, regel);) {
+    if (regel.starts_with("## ")) {
+      std::string plek;
+      for (const char teken : regel.substr(3)) {
+        if (IsLetter(teken) || IsCijfer(teken) || teken == '-') plek += KleineLetter(teken);
+        if (teken == ' ') plek += '-';
+      }
+      uit.insert(plek);
+    }
+    constexpr std::string_view kBegin = "<a id=\"";
+    if (!regel.starts_with(kBegin)) continue;
+    uit.insert(regel.substr(kBegin.size(), regel.find('"', kBegin.size()) - kBegin.size()));
+  }
+  return uit;
+}
+
+TEST_P(ElkFormulier, HeeftEenPlekInDeHandleiding) {
+  static const std::set<std::string> plekken = Plekken();
+  MetForm([](Formulier& formulier) {
+    EXPECT_TRUE(plekken.contains(formulier.HulpOnderwerp())) << formulier.HulpOnderwerp();
+  });
+}
+
+class Hoofdhulp : public ProgrammaToets {};
+
+TEST_F(Hoofdhulp, OokHetHoofdvensterHeeftEenPlekInDeHandleiding) {
+  MaakFamilie();
+  const SpeelUitslag uitslag = Speel("", Met([](lb77::Programma& programma) {
+                                       const std::string& plek = programma.Menu().HulpOnderwerp();
+                                       EXPECT_TRUE(Plekken().contains(plek)) << plek;
+                                     }));
+  EXPECT_EQ(uitslag.status, 0) << uitslag.reden;
+}
 
 TEST_P(ElkFormulier, NoemtZijnHulponderwerp) {
   const auto rij = kHulpOnderwerpen.find(GetParam().naam);

@@ -70,6 +70,34 @@ TEST_F(VensterloopTest, DeVoorbeeldfamilieStaatErZonderVerdereVragen) {
       - MenuWindow)~");
 }
 
+TEST_F(VensterloopTest, HetVoorbeeldBrengtZijnGezindtenMeeVoorWieErGeenHeeft) {
+  SchrijfBytes(Map() / "voorbeeld/oranje-nassau.ged",
+               "0 HEAD\n1 CHAR ANSEL\n0 @I1@ INDI\n1 NAME Jan /van Dam/\n1 SEX M\n1 BAPM\n"
+               "2 DATE 1 FEB 1900\n1 RELI Nederlands Hervormd\n0 TRLR\n");
+  SchrijfBytes(Map() / "voorbeeld/LIJNBOOM.INI",
+               "[Namenfile]\r\nGez1=RKRooms-Katholiek\r\nGez2=NHNederlands Hervormd\r\n\r\n"
+               "[Genealogie]\r\nDatumForm=1\r\n");
+  constexpr std::string_view kBoek = R"(druk Voorbeeldfamilie
+                                        kies TekstKwst
+                                        vul RecordNr 2
+                                        druk OKButton
+                                        druk OKButton
+                                        toon UitvoerBox
+                                        druk BackButton
+                                        kies KeuzeAfsluiten)";
+  EXPECT_EQ(Speel(kBoek, Venster()).reden, "");
+  EXPECT_NE(verslag_.find("ged.Nederlands Hervormd 1-2-1900"), std::string::npos) << verslag_;
+  EXPECT_NE(Bytes("LIJNBOOM.INI").find("\r\nGez2=NHNederlands Hervormd\r\n"), std::string::npos);
+}
+
+TEST_F(VensterloopTest, DieErAlZijnBlijven) {
+  SchrijfBytes(Map() / "voorbeeld/oranje-nassau.ged", kGedcom);
+  SchrijfBytes(Map() / "voorbeeld/LIJNBOOM.INI", "[Namenfile]\r\nGez1=RKRooms-Katholiek\r\n");
+  SchrijfBytes(opstart_.programmaMap / "LIJNBOOM.INI", "[Namenfile]\r\nGez1=DGDoopsgezind\r\n");
+  EXPECT_EQ(Speel("druk Voorbeeldfamilie\nkies KeuzeAfsluiten", Venster()).reden, "");
+  EXPECT_NE(Bytes("LIJNBOOM.INI").find("\r\nGez1=DGDoopsgezind\r\n"), std::string::npos);
+}
+
 TEST_F(VensterloopTest, EenVoorbeeldDatErAlIsWordtGeopendEnNietNogEensGemaakt) {
   SchrijfBytes(Map() / "voorbeeld/oranje-nassau.ged", kGedcom);
   SchrijfBytes(opstart_.programmaMap / "DATA/ORANJE/van mij", "");
@@ -202,6 +230,22 @@ TEST_F(VensterloopTest, HetStartbladDoetHetDagelijkseWerk) {
       - ToonPersoon
       - MenuWindow)~");
   EXPECT_EQ(LeesBytes(Map() / "GEZIEN.TXT"), "PROEF,2\r\n");
+}
+
+TEST_F(VensterloopTest, DeHandleidingStaatInHetMenu) {
+  MaakFamilie();
+  opstart_.programmaMap = Map();
+  Verwacht("kies Handleid\nkies KeuzeAfsluiten", Venster(), R"~(
+      + MenuWindow "LB77 voor Windows"
+      ! uitroep "De handleiding (handleiding.html) is niet bij het programma gevonden"
+      - MenuWindow)~");
+  SchrijfBytes(Map() / "handleiding.html", "x");
+  Verwacht("kies Handleid\nkies KeuzeAfsluiten", Venster(),
+           R"~(
+      + MenuWindow "LB77 voor Windows"
+      ! info "De handleiding staat in )~" +
+               (Map() / "handleiding.html").string() + R"~("
+      - MenuWindow)~");
 }
 
 // Lower case names, no TEKST, and the places in the data directory alone.

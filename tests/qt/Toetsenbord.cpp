@@ -55,9 +55,11 @@ bool Toetsenbord::Kan(QWidget& venster) {
   if (IsKlaarzetten(een.soort)) return true;
   if (!venster.isVisible() || !venster.isActiveWindow()) return false;
   const auto* widget = venster.findChild<QWidget*>(NaarQt(een.naam));
-  const bool kan = een.soort == InstructieSoort::Kies
-                       ? dynamic_cast<Hoofdvenster*>(&venster) != nullptr
-                       : widget && widget->isVisible() && widget->focusPolicy() != Qt::NoFocus;
+  const bool kan =
+      een.soort == InstructieSoort::Kies
+          ? dynamic_cast<Hoofdvenster*>(&venster) != nullptr
+          : widget && widget->isVisible() &&
+                (een.soort == InstructieSoort::Toon || widget->focusPolicy() != Qt::NoFocus);
   if (kan) gewacht_ = 0;
   return kan;
 }
@@ -85,9 +87,15 @@ void Toetsenbord::Doe(const Instructie& een) {
     case InstructieSoort::Sluit:
     case InstructieSoort::Bestand:
     case InstructieSoort::Onderbreek:
-    case InstructieSoort::Toon:
       ADD_FAILURE() << "not for the keyboard: " << een.tekst;
+      return;
+    case InstructieSoort::Toon:
+      return Toon(een);
   }
+}
+
+void Toetsenbord::Toon(const Instructie& een) {
+  ADD_FAILURE() << "not for the keyboard: " << een.tekst;
 }
 
 // Onward, and back from the last control of a form, which some fields lead to.

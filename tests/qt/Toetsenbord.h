@@ -21,6 +21,8 @@ class Toetsenbord : public Vensterproef {
   [[nodiscard]] bool Klaar() const { return volgende_ == instructies_.size(); }
   // The line at which the script stands.
   [[nodiscard]] std::string Hier() const;
+  // What the script wants shown; here a failure.
+  virtual void Toon(const Instructie& een);
 
  private:
   void Kijk();
