@@ -18,8 +18,6 @@
 namespace lb77 {
 namespace {
 
-constexpr int kPeriode = 50;  // years
-
 std::string MetNr(std::string_view naam, std::int16_t nr) {
   return std::string(naam) + " (P" + GetalTekst(nr) + ")";
 }
@@ -90,18 +88,13 @@ Leven LevenVan(const Nazaat& nazaat, Nazaten& nazaten) {
   return leven;
 }
 
-struct Periodetelling {
-  std::int64_t aantal = 0;
-  std::int64_t zeker = 0;
-};
-
 // By the first year of the period.
 using Periodes = std::map<int, Periodetelling>;
 
 // The first year of the period of a year, also of one before the year 0.
 int PeriodeVan(int jaar) {
-  const int rest = jaar % kPeriode;
-  return jaar - (rest < 0 ? rest + kPeriode : rest);
+  const int rest = jaar % kTijdbalkPeriode;
+  return jaar - (rest < 0 ? rest + kTijdbalkPeriode : rest);
 }
 
 // kept: only where a life begins and where it ends, not what lies between.
@@ -171,26 +164,33 @@ Uitslag SchrijfFamilies(int minimum, PersoonLB77& persoon, TekstSchrijver& uit,
   return Einde::Klaar;
 }
 
+bool TelTijdbalk(std::int16_t stamouder, PersoonLB77& persoon, RelatieLB77& relatie,
+                 const Verloop& verloop, Tijdbalk& tijdbalk) {
+  Nazaten nazaten(persoon, relatie);
+  const auto wie = nazaten.Vind(stamouder);
+  std::vector<Telling> tellingen;
+  if (wie && !nazaten.Loop(*wie, std::nullopt, verloop, tellingen)) return false;
+  for (const Telling& telling : tellingen) {
+    Tel(tijdbalk.periodes, LevenVan(nazaten[telling.wie], nazaten), telling.keer);
+  }
+  tijdbalk.afstammelingen = Som(tellingen);
+  return true;
+}
+
 Uitslag SchrijfTijdbalk(std::int16_t stamouder, PersoonLB77& persoon, RelatieLB77& relatie,
                         TekstSchrijver& uit, const Verloop& verloop) {
   uit.VolleRegel("Populatiegrafiek van afstammelingen van " +
                  MetNr(NaamVan(persoon, stamouder), stamouder));
   uit.LegeRegel();
-  Nazaten nazaten(persoon, relatie);
-  const auto wie = nazaten.Vind(stamouder);
-  std::vector<Telling> tellingen;
-  if (wie && !nazaten.Loop(*wie, std::nullopt, verloop, tellingen)) return Einde::Afgebroken;
-  Periodes periodes;
-  for (const Telling& telling : tellingen) {
-    Tel(periodes, LevenVan(nazaten[telling.wie], nazaten), telling.keer);
-  }
-  for (const auto& [periode, telling] : periodes) {
-    uit.VolleRegel("Periode : " + GetalTekst(periode) + "-" + GetalTekst(periode + kPeriode - 1) +
-                   " : " + GetalTekst(telling.aantal) + " (waarvan zeker " +
-                   GetalTekst(telling.zeker) + ")");
+  Tijdbalk tijdbalk;
+  if (!TelTijdbalk(stamouder, persoon, relatie, verloop, tijdbalk)) return Einde::Afgebroken;
+  for (const auto& [periode, telling] : tijdbalk.periodes) {
+    uit.VolleRegel("Periode : " + GetalTekst(periode) + "-" +
+                   GetalTekst(periode + kTijdbalkPeriode - 1) + " : " + GetalTekst(telling.aantal) +
+                   " (waarvan zeker " + GetalTekst(telling.zeker) + ")");
   }
   uit.LegeRegel();
-  uit.VolleRegel("Totaal : " + Afstammelingen(Som(tellingen)));
+  uit.VolleRegel("Totaal : " + Afstammelingen(tijdbalk.afstammelingen));
   uit.LegeRegel();
   return Einde::Klaar;
 }
