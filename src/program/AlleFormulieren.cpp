@@ -12,8 +12,8 @@ std::vector<FormulierRij> Verzameld() {
   for (std::span<const FormulierRij> (*gebied)() :
        {formulieren::App, formulieren::Exchange, formulieren::Output, formulieren::Entry,
         formulieren::Ancestors, formulieren::Descendants, formulieren::Gezinsbladen,
-        formulieren::Checks, formulieren::Correctie, formulieren::Rapporten,
-        formulieren::Lijsten}) {
+        formulieren::Checks, formulieren::Correctie, formulieren::Rapporten, formulieren::Lijsten,
+        formulieren::Beelden}) {
     const std::span<const FormulierRij> rijen = gebied();
     uit.insert(uit.end(), rijen.begin(), rijen.end());
   }

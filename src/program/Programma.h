@@ -28,6 +28,7 @@ class Programma {
   void HangOp();
   void HangControlesOp();
   void HangRapportenOp();
+  void HangBeeldenOp();
 
   Hoofdmodule hoofd_;
   MenuWindow menu_;

@@ -21,7 +21,8 @@ bool IsInvoer(BedieningSoort soort) {
 }
 
 bool IsLijst(BedieningSoort soort) {
-  return soort == BedieningSoort::Keuzevak || soort == BedieningSoort::Keuzelijst;
+  return soort == BedieningSoort::Keuzevak || soort == BedieningSoort::Keuzelijst ||
+         soort == BedieningSoort::Beeldvlak;
 }
 
 bool IsDrukbaar(BedieningSoort soort) {
@@ -89,6 +90,7 @@ bool Binder::GaNaar(Element& element) {
 }
 
 bool Binder::VerwerkToets(Element* element, const QKeyEvent& toets) {
+  if (element && !Geblokkeerd() && element->NeemToets(toets)) return true;
   const auto gebeurtenis = NaarToets(toets);
   if (!gebeurtenis) {
     const bool alt = toets.modifiers().testFlag(Qt::AltModifier);  // Alt+F4 is the window's own
@@ -122,6 +124,7 @@ bool Binder::EigenToets(Element& element, const QKeyEvent& toets) {
     case BedieningSoort::Label:
     case BedieningSoort::Keuzevak:
     case BedieningSoort::Keuzelijst:
+    case BedieningSoort::Beeldvlak:
     case BedieningSoort::Tekstpagina:
     case BedieningSoort::Teller:
     case BedieningSoort::MenuKeuze:

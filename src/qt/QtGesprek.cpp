@@ -5,6 +5,7 @@
 #include "qt/Berichtvenster.h"
 #include "qt/Bestandsvenster.h"
 #include "qt/Drukker.h"
+#include "qt/Tekenaar.h"
 
 namespace lb77 {
 
@@ -51,6 +52,11 @@ std::optional<std::filesystem::path> QtGesprek::VraagBestand(const BestandsVraag
 
 bool QtGesprek::DrukAf(const Afdruk& afdruk) {
   return Daarover([&](QWidget* ouder) { return VraagEnDrukAf(ouder, afdruk); });
+}
+
+std::optional<std::string> QtGesprek::MaakPdf(const std::filesystem::path& pad,
+                                              const Tekening& tekening, const Vellen& vellen) {
+  return SchrijfPdf(pad, tekening, vellen);
 }
 
 void QtGesprek::Ververs(Formulier& formulier) {

@@ -27,6 +27,9 @@ class QtGesprek final : public Gesprek {
   bool BerichtMetVinkje(std::string_view tekst, std::string_view vinkje) override;
   std::optional<std::filesystem::path> VraagBestand(const BestandsVraag& vraag) override;
   bool DrukAf(const Afdruk& afdruk) override;
+  [[nodiscard]] std::optional<std::string> MaakPdf(const std::filesystem::path& pad,
+                                                   const Tekening& tekening,
+                                                   const Vellen& vellen) override;
   void Ververs(Formulier& formulier) override;
   [[nodiscard]] bool StopGevraagd(Formulier& formulier) override;
 
