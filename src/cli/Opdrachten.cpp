@@ -28,6 +28,11 @@ int SchemaParenteel(const Omgeving& omgeving, const OpdrachtArgumenten& argument
 int Controle(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Contactdienst(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Verwantschap(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+// In Beelden.cpp.
+int Waaier(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Kwartierboom(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int Stamboom(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
+int TijdbalkBeeld(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 // In Kaarten.cpp.
 int Personen(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
 int Relaties(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten);
@@ -58,6 +63,10 @@ constexpr Opdracht kOpdrachten[] = {
     {"parenteel", "schrijft alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, Parenteel},
     {"index-parenteel", "schrijft de index op alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, IndexParenteel},
     {"schema-parenteel", "tekent alle nakomelingen van een persoon", {"SET", "PERSOON"}, Extra::Rapport, SchemaParenteel},
+    {"waaier", "tekent de voorouders van een persoon in ringen, als SVG", {"SET", "PERSOON"}, Extra::Tekstrapport, Waaier},
+    {"kwartierboom", "tekent de voorouders van een persoon als boom, als SVG", {"SET", "PERSOON"}, Extra::Tekstrapport, Kwartierboom},
+    {"stamboom", "tekent alle nakomelingen van een persoon als boom, als SVG", {"SET", "PERSOON"}, Extra::Tekstrapport, Stamboom},
+    {"tijdbalk", "tekent wanneer de nakomelingen van een persoon leefden, als SVG", {"SET", "PERSOON"}, Extra::Tekstrapport, TijdbalkBeeld},
     {"controle", "zoekt fouten in de personen, relaties, plaatsen of opmerkingen, of in alle vier", {"SET", "[SOORT]"}, Extra::Controle, Controle},
     {"personen", "schrijft de kaarten van de personen VAN t/m TOT", {"SET", "VAN", "TOT"}, Extra::Tekstrapport, Personen},
     {"relaties", "schrijft de kaarten van de relaties VAN t/m TOT", {"SET", "VAN", "TOT"}, Extra::Tekstrapport, Relaties},

@@ -13,6 +13,7 @@
 #include "cli/Werkmap.h"
 #include "output/Tekstpaginas.h"
 #include "output/ToonTekst.h"
+#include "pictures/BeeldForm.h"
 #include "reporting/HTMLParam.h"
 #include "reports/VerwantRapport.h"
 #include "text/Getallen.h"
@@ -63,6 +64,7 @@ class Maker {
   [[nodiscard]] bool VindPersonen();
   [[nodiscard]] bool VindPlaatsen();
   void VulIn(const RapportVorm& vorm, Formulier& form);
+  [[nodiscard]] bool VulKeuzen(const RapportVorm& vorm, Werk& werk, const Formulier& form);
   [[nodiscard]] bool Vul(Werk& werk, const Formulier& form, const VeldVulling& vulling);
   [[nodiscard]] bool VulLinks(Werk& werk, const Formulier& form);
   void BereidWandelingVoor();
@@ -111,8 +113,35 @@ void Maker::VulIn(const RapportVorm& vorm, Formulier& form) {
     if (vulling.wat == Vulling::Niets) break;
     if (!Vul(werk, form, vulling)) goed = false;
   }
-  if (vorm.metZet && !werk.ZetAlle(argumenten_.zet)) goed = false;
-  if (goed) werk.Druk(vorm.knop);
+  if (vorm.metZet && !VulKeuzen(vorm, werk, form)) goed = false;
+  if (!goed) return;
+  if (auto* beeld = dynamic_cast<BeeldForm*>(&form)) {
+    if (beeld->MaakBestand()) Lever(beeld->Pad());
+    return;
+  }
+  werk.Druk(vorm.knop);
+}
+
+// Of two forms with choices the first takes those that it has, the last all that are left.
+bool Maker::VulKeuzen(const RapportVorm& vorm, Werk& werk, const Formulier& form) {
+  const auto later = [](const RapportVorm* een, const RapportVorm* eind) {
+    return std::any_of(een + 1, eind, [](const RapportVorm& andere) { return andere.metZet; });
+  };
+  const bool laatste = !later(&vorm, rapport_.vormen.data() + rapport_.vormen.size());
+  bool goed = true;
+  std::vector<std::string> over;
+  for (const std::string& zet : argumenten_.zet) {
+    const std::size_t teken = std::min(zet.find('='), zet.size());
+    const std::size_t achter = std::min(teken + 1, zet.size());
+    const std::string naam = zet.substr(0, teken);
+    if (!laatste && !form.Zoek(naam)) {
+      over.push_back(zet);
+    } else if (!werk.Zet(naam, zet.substr(achter))) {
+      goed = false;
+    }
+  }
+  if (!laatste) argumenten_.zet = std::move(over);
+  return goed;
 }
 
 bool Maker::Vul(Werk& werk, const Formulier& form, const VeldVulling& vulling) {

@@ -22,6 +22,7 @@ enum class BedieningSoort {
   Vinkje,
   Keuzevak,
   Keuzelijst,
+  Beeldvlak,
   Tekstpagina,
   Teller,
   MenuKeuze,

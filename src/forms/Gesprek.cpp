@@ -20,6 +20,11 @@ void Gesprek::ToonModaal(Formulier& formulier) {
   formulier.Beeindig();
 }
 
+std::optional<std::string> Gesprek::MaakPdf(const std::filesystem::path&, const Tekening&,
+                                            const Vellen&) {
+  return "Een PDF wordt alleen in het venster van LB77 gemaakt.";
+}
+
 void Gesprek::HaalWeg(Getoond& getoond) {
   if (!std::exchange(getoond.weg, true)) Dicht(*getoond.formulier);
 }

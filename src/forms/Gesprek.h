@@ -11,6 +11,8 @@
 namespace lb77 {
 
 class Formulier;
+struct Tekening;
+struct Vellen;
 
 // The symbol of a message box: none, information, exclamation mark (warnings), question mark,
 // stop symbol (errors).
@@ -55,6 +57,12 @@ class Gesprek {
 
   // Sends pages to the printer; False when the user cancelled or the printer failed.
   virtual bool DrukAf(const Afdruk& afdruk) = 0;
+
+  // Writes a drawing as a PDF with a page for each sheet; what went wrong, nothing when all of it is
+  // written. Without a window there is nobody who can.
+  [[nodiscard]] virtual std::optional<std::string> MaakPdf(const std::filesystem::path& pad,
+                                                           const Tekening& tekening,
+                                                           const Vellen& vellen);
 
   // Repaints a form during long work; cheap enough to be called for every record. What the user
   // does meanwhile is dropped, but for a stop request, which Formulier keeps.

@@ -13,7 +13,7 @@ std::vector<FormulierRij> Verzameld() {
        {formulieren::App, formulieren::Exchange, formulieren::Contact, formulieren::Output,
         formulieren::Entry, formulieren::Ancestors, formulieren::Descendants,
         formulieren::Gezinsbladen, formulieren::Checks, formulieren::Correctie,
-        formulieren::Rapporten, formulieren::Lijsten}) {
+        formulieren::Rapporten, formulieren::Lijsten, formulieren::Beelden}) {
     const std::span<const FormulierRij> rijen = gebied();
     uit.insert(uit.end(), rijen.begin(), rijen.end());
   }

@@ -34,6 +34,7 @@
 #include "exchange/ExpGedcom.h"
 #include "exchange/ImpGedcom.h"
 #include "output/BekijkTekst.h"
+#include "pictures/BeeldPrs.h"
 #include "reports/Krtn.h"
 #include "reports/RptFamilies.h"
 #include "reports/RptTakken.h"
@@ -96,6 +97,7 @@ void Programma::HangOp() {
   menu_.Hang("SchemaGezin", [this, &gesprek] { gesprek.Toon<GezinSchPrs>(hoofd_); });
   HangControlesOp();
   HangRapportenOp();
+  HangBeeldenOp();
   menu_.Hang("VeiligOngedaan", [this] { MaakLaatsteOngedaan(hoofd_.MaakOpslag()); });
   menu_.Hang("VeiligGeschiedenis", [this, &gesprek] { gesprek.Toon<Geschiedenis>(hoofd_); });
   menu_.Hang("VeiligKopie", [this, &gesprek] { MaakVeiligheidskopie(KopieVan(hoofd_), gesprek); });
@@ -142,6 +144,16 @@ void Programma::HangRapportenOp() {
   menu_.Hang("RapportTakken", [this, &gesprek] { gesprek.Toon<RptTakken>(hoofd_); });
   menu_.Hang("RapportFamilies", [this, &gesprek] { gesprek.Toon<RptFamilies>(hoofd_); });
   menu_.Hang("RapportTijdbalk", [this, &gesprek] { gesprek.Toon<RptTijdbalk>(hoofd_); });
+}
+
+void Programma::HangBeeldenOp() {
+  Gesprek& gesprek = hoofd_.gesprek;
+  menu_.Hang("BeeldWaaier",
+             [this, &gesprek] { gesprek.Toon<KwartierBeeldPrs>(kWaaierPrs, hoofd_); });
+  menu_.Hang("BeeldKwartier",
+             [this, &gesprek] { gesprek.Toon<KwartierBeeldPrs>(kKwartierPrs, hoofd_); });
+  menu_.Hang("BeeldStam", [this, &gesprek] { gesprek.Toon<StamBeeldPrs>(hoofd_); });
+  menu_.Hang("BeeldTijd", [this, &gesprek] { gesprek.Toon<TijdBeeldPrs>(hoofd_); });
 }
 
 void VoerProgramma(Gesprek& gesprek, const Klok& klok, const std::filesystem::path& programmaMap) {

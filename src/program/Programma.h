@@ -29,6 +29,7 @@ class Programma {
   void HangExportOp();
   void HangControlesOp();
   void HangRapportenOp();
+  void HangBeeldenOp();
 
   Hoofdmodule hoofd_;
   MenuWindow menu_;

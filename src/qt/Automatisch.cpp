@@ -65,7 +65,8 @@ class Maker {
     const Blok blok = indeling::Veld(bediening.Naam());
     if (bediening.Soort() == BedieningSoort::Knop && bediening.Prompt().empty()) {
       knoppen_.push_back(blok);
-    } else if (bediening.Soort() == BedieningSoort::Tekstpagina) {
+    } else if (bediening.Soort() == BedieningSoort::Tekstpagina ||
+               bediening.Soort() == BedieningSoort::Beeldvlak) {
       SluitVelden();
       delen_.push_back(blok);
     } else if (IsPaar(bediening, volgende)) {

@@ -30,7 +30,7 @@ constexpr QSize kKader{16, 48};     // what a frame and a task bar take
 bool HeeftBladzijde(const Formulier& formulier) {
   const auto& alle = formulier.Bedieningen();
   return std::any_of(alle.begin(), alle.end(), [](const Bediening* een) {
-    return een->Soort() == BedieningSoort::Tekstpagina;
+    return een->Soort() == BedieningSoort::Tekstpagina || een->Soort() == BedieningSoort::Beeldvlak;
   });
 }
 

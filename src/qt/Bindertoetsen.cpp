@@ -22,7 +22,8 @@ bool IsInvoer(BedieningSoort soort) {
 }
 
 bool IsLijst(BedieningSoort soort) {
-  return soort == BedieningSoort::Keuzevak || soort == BedieningSoort::Keuzelijst;
+  return soort == BedieningSoort::Keuzevak || soort == BedieningSoort::Keuzelijst ||
+         soort == BedieningSoort::Beeldvlak;
 }
 
 bool IsDrukbaar(BedieningSoort soort) {
@@ -95,6 +96,7 @@ bool Binder::VerwerkToets(Element* element, const QKeyEvent& toets) {
     if (!toets.isAutoRepeat()) GeefHulp();
     return true;
   }
+  if (element && !Geblokkeerd() && element->NeemToets(toets)) return true;
   const auto gebeurtenis = NaarToets(toets);
   if (!gebeurtenis) {
     const bool alt = toets.modifiers().testFlag(Qt::AltModifier);  // Alt+F4 is the window's own
@@ -133,6 +135,7 @@ bool Binder::EigenToets(Element& element, const QKeyEvent& toets) {
     case BedieningSoort::Label:
     case BedieningSoort::Keuzevak:
     case BedieningSoort::Keuzelijst:
+    case BedieningSoort::Beeldvlak:
     case BedieningSoort::Tekstpagina:
     case BedieningSoort::Teller:
     case BedieningSoort::MenuKeuze:

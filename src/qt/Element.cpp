@@ -3,6 +3,7 @@
 #include <QSizePolicy>
 
 #include "forms/Weergave.h"
+#include "qt/Beeldelement.h"
 #include "qt/Keuzeelementen.h"
 #include "qt/Toonelementen.h"
 #include "qt/Veldelementen.h"
@@ -74,6 +75,8 @@ std::unique_ptr<Element> MaakElement(Bediening& bediening, Bezorger& bezorger, Q
       return MaakKeuzevakElement(static_cast<Lijst&>(bediening), bezorger, ouder);
     case BedieningSoort::Keuzelijst:
       return MaakKeuzelijstElement(static_cast<Lijst&>(bediening), bezorger, ouder);
+    case BedieningSoort::Beeldvlak:
+      return MaakBeeldElement(static_cast<Beeldvlak&>(bediening), bezorger, ouder);
     case BedieningSoort::Tekstpagina:
       return MaakPaginaElement(static_cast<Tekstpagina&>(bediening), ouder);
     case BedieningSoort::Teller:

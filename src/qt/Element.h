@@ -1,6 +1,7 @@
 // The widget of one control.
 #pragma once
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QString>
 #include <QWidget>
@@ -32,6 +33,8 @@ class Element {
 
   // Brings the widget in line with the control; raises no event.
   void Bijwerken();
+  // A key that the widget has for itself, ahead of the form; False leaves it to the form.
+  [[nodiscard]] virtual bool NeemToets(const QKeyEvent&) { return false; }
   // Types text at the cursor. False when the control takes no text.
   [[nodiscard]] virtual bool Typ(const QString&) { return false; }
 

@@ -29,6 +29,7 @@ constexpr int kNummer = 6;       // characters of a button for a number
 bool IsHoog(const Bediening& bediening) {
   return bediening.Soort() == BedieningSoort::Keuzelijst ||
          bediening.Soort() == BedieningSoort::Tekstblok ||
+         bediening.Soort() == BedieningSoort::Beeldvlak ||
          bediening.Soort() == BedieningSoort::Tekstpagina;
 }
 

@@ -7,6 +7,7 @@
 #include "qt/Berichtvenster.h"
 #include "qt/Bestandsvenster.h"
 #include "qt/Drukker.h"
+#include "qt/Tekenaar.h"
 #include "qt/Vertaling.h"
 
 namespace lb77 {
@@ -58,6 +59,11 @@ bool QtGesprek::DrukAf(const Afdruk& afdruk) {
 
 bool QtGesprek::OpenInBrowser(const std::filesystem::path& pad) {
   return QDesktopServices::openUrl(QUrl::fromLocalFile(PadNaarQt(pad)));
+}
+
+std::optional<std::string> QtGesprek::MaakPdf(const std::filesystem::path& pad,
+                                              const Tekening& tekening, const Vellen& vellen) {
+  return SchrijfPdf(pad, tekening, vellen);
 }
 
 void QtGesprek::Ververs(Formulier& formulier) {

@@ -29,6 +29,9 @@ class QtGesprek final : public Gesprek, public Hulpgever {
   std::optional<std::filesystem::path> VraagBestand(const BestandsVraag& vraag) override;
   bool DrukAf(const Afdruk& afdruk) override;
   [[nodiscard]] bool OpenInBrowser(const std::filesystem::path& pad) override;
+  [[nodiscard]] std::optional<std::string> MaakPdf(const std::filesystem::path& pad,
+                                                   const Tekening& tekening,
+                                                   const Vellen& vellen) override;
   void Ververs(Formulier& formulier) override;
   [[nodiscard]] bool StopGevraagd(Formulier& formulier) override;
 

@@ -19,8 +19,6 @@
 namespace lb77 {
 namespace {
 
-constexpr int kPeriode = 50;  // years
-
 std::string MetNr(std::string_view naam, std::int16_t nr) {
   return std::string(naam) + " (P" + GetalTekst(nr) + ")";
 }
@@ -91,18 +89,13 @@ Leven LevenVan(const Nazaat& nazaat, Nazaten& nazaten) {
   return leven;
 }
 
-struct Periodetelling {
-  std::int64_t aantal = 0;
-  std::int64_t zeker = 0;
-};
-
 // By the first year of the period.
 using Periodes = std::map<int, Periodetelling>;
 
 // The first year of the period of a year, also of one before the year 0.
 int PeriodeVan(int jaar) {
-  const int rest = jaar % kPeriode;
-  return jaar - (rest < 0 ? rest + kPeriode : rest);
+  const int rest = jaar % kTijdbalkPeriode;
+  return jaar - (rest < 0 ? rest + kTijdbalkPeriode : rest);
 }
 
 // kept: only where a life begins and where it ends, not what lies between.
@@ -172,26 +165,33 @@ Uitslag SchrijfFamilies(int minimum, RecordBron& bron, TekstSchrijver& uit,
   return Einde::Klaar;
 }
 
+bool TelTijdbalk(std::int16_t stamouder, RecordBron& bron, const Verloop& verloop,
+                 Tijdbalk& tijdbalk) {
+  Nazaten nazaten(bron.Personen().record, bron.Relaties().record);
+  const auto wie = nazaten.Vind(stamouder);
+  std::vector<Telling> tellingen;
+  if (wie && !nazaten.Loop(*wie, std::nullopt, verloop, tellingen)) return false;
+  for (const Telling& telling : tellingen) {
+    Tel(tijdbalk.periodes, LevenVan(nazaten[telling.wie], nazaten), telling.keer);
+  }
+  tijdbalk.afstammelingen = Som(tellingen);
+  return true;
+}
+
 Uitslag SchrijfTijdbalk(std::int16_t stamouder, RecordBron& bron, TekstSchrijver& uit,
                         const Verloop& verloop) {
   uit.VolleRegel("Populatiegrafiek van afstammelingen van " +
                  MetNr(NaamVan(bron.Personen().record, stamouder), stamouder));
   uit.LegeRegel();
-  Nazaten nazaten(bron.Personen().record, bron.Relaties().record);
-  const auto wie = nazaten.Vind(stamouder);
-  std::vector<Telling> tellingen;
-  if (wie && !nazaten.Loop(*wie, std::nullopt, verloop, tellingen)) return Einde::Afgebroken;
-  Periodes periodes;
-  for (const Telling& telling : tellingen) {
-    Tel(periodes, LevenVan(nazaten[telling.wie], nazaten), telling.keer);
-  }
-  for (const auto& [periode, telling] : periodes) {
-    uit.VolleRegel("Periode : " + GetalTekst(periode) + "-" + GetalTekst(periode + kPeriode - 1) +
-                   " : " + GetalTekst(telling.aantal) + " (waarvan zeker " +
-                   GetalTekst(telling.zeker) + ")");
+  Tijdbalk tijdbalk;
+  if (!TelTijdbalk(stamouder, bron, verloop, tijdbalk)) return Einde::Afgebroken;
+  for (const auto& [periode, telling] : tijdbalk.periodes) {
+    uit.VolleRegel("Periode : " + GetalTekst(periode) + "-" +
+                   GetalTekst(periode + kTijdbalkPeriode - 1) + " : " + GetalTekst(telling.aantal) +
+                   " (waarvan zeker " + GetalTekst(telling.zeker) + ")");
   }
   uit.LegeRegel();
-  uit.VolleRegel("Totaal : " + Afstammelingen(Som(tellingen)));
+  uit.VolleRegel("Totaal : " + Afstammelingen(tijdbalk.afstammelingen));
   uit.LegeRegel();
   return Einde::Klaar;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 
 #include "reporting/Verloop.h"
 
@@ -21,6 +22,24 @@ class TekstSchrijver;
 // surnames there are so far.
 [[nodiscard]] Uitslag SchrijfFamilies(int minimum, RecordBron& bron, TekstSchrijver& uit,
                                       const Verloop& verloop);
+
+// How many of the descendants of a person were born or died in a period, and of how many both is
+// known; who is one in two ways counts twice.
+struct Periodetelling {
+  std::int64_t aantal = 0;
+  std::int64_t zeker = 0;
+};
+
+struct Tijdbalk {
+  std::map<int, Periodetelling> periodes;  // by the first year; where there is nobody there is none
+  std::int64_t afstammelingen = 0;
+};
+
+inline constexpr int kTijdbalkPeriode = 50;  // years
+
+// Counts them, himself included. False when it was stopped.
+[[nodiscard]] bool TelTijdbalk(std::int16_t stamouder, RecordBron& bron, const Verloop& verloop,
+                               Tijdbalk& tijdbalk);
 
 // When a person who can be read and his descendants lived, by half centuries.
 [[nodiscard]] Uitslag SchrijfTijdbalk(std::int16_t stamouder, RecordBron& bron, TekstSchrijver& uit,

@@ -22,6 +22,7 @@ namespace lb77::formulieren {
 [[nodiscard]] std::span<const FormulierRij> Correctie();
 [[nodiscard]] std::span<const FormulierRij> Rapporten();
 [[nodiscard]] std::span<const FormulierRij> Lijsten();
+[[nodiscard]] std::span<const FormulierRij> Beelden();
 
 inline constexpr std::int16_t kVoorbeeldPersoon = 2;
 

@@ -10,7 +10,7 @@ std::vector<Indeling> Alle() {
   for (std::vector<Indeling> (*gebied)() :
        {Sets, Instellen, Zoeken, Kaarten, Plaatsen, Wijzigen, Koppelen, Opmerkingen, Bekijken,
         Kwartierstaat, Genealogie, Gezinsblad, Uitwisseling, Contact, Veiligheid, Controle,
-        Correctie, Rapporten, Lijsten}) {
+        Correctie, Rapporten, Lijsten, Beelden}) {
     std::vector<Indeling> deel = gebied();
     uit.insert(uit.end(), std::make_move_iterator(deel.begin()),
                std::make_move_iterator(deel.end()));

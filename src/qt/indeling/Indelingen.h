@@ -27,6 +27,7 @@ namespace lb77::indeling {
 [[nodiscard]] std::vector<Indeling> Correctie();
 [[nodiscard]] std::vector<Indeling> Rapporten();
 [[nodiscard]] std::vector<Indeling> Lijsten();
+[[nodiscard]] std::vector<Indeling> Beelden();
 
 // What every form has that asks for a person.
 [[nodiscard]] Blok PersoonPrompt();
