@@ -79,8 +79,10 @@ class ImpGedcom final : public Formulier {
   [[nodiscard]] Afloop LeesAlsHandeling(const std::filesystem::path& bestand);
   void VraagBehouden();
   [[nodiscard]] Afloop Lees(const std::filesystem::path& bestand);
-  // Shows what will be added. False, told, when the set has no room for it.
+  // Shows what will be added. False when the user stopped it, and, told, when the set has no room.
   [[nodiscard]] bool Past(RegelLezer& lezer, std::int16_t personen, std::int16_t relaties);
+  // The test for a stop: True when the user asked for it and was sure. A No forgets it.
+  [[nodiscard]] bool Afbreken();
   [[nodiscard]] SysteemFout Rond(const ImpUitslag& uitslag, const ImpLoop& loop, GedLog& log);
   void ToonDoel();
   void ToonGang(int nummer);
