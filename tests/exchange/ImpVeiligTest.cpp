@@ -115,8 +115,8 @@ TEST_F(ImpVeilig, AfbrekenEindigtBijEenRecordEnHetLogZegtHet) {
                 - ToonTekst
                 - ImpGedcom)");
   EXPECT_EQ(LeesBytes(TekstMap() / "GEDCOM.LOG"), "Importeren afgebroken bij regel 256\r\n");
-  EXPECT_EQ(Persoon(12), "voor P11; seks M");
-  EXPECT_EQ(Persoon(13).find("P12"), std::string::npos);
+  EXPECT_EQ(Persoon(13), "voor P12; seks M");
+  EXPECT_EQ(Persoon(14).find("P13"), std::string::npos);
 }
 
 TEST_F(ImpVeilig, OokHetTellenVoorafKanAfgebrokenWorden) {
