@@ -55,7 +55,7 @@ TEST_F(ZoekPrsToetsenTest, AanDeRandSlaatDePijlHetBladOm) {
   EXPECT_EQ(Focus(Keer(45, "toets Down")), "41");
 }
 
-TEST_F(ZoekPrsToetsenTest, PageDownEnPageUpBladerenEnHoudenDeRij) {
+TEST_F(ZoekPrsToetsenTest, DeBladtoetsenBladerenEnHoudenDeRij) {
   Reeks(40);
   EXPECT_EQ(Pagina("toets PageDown"), Nummers(17, 31));
   EXPECT_EQ(Pagina("toets PageDown\ntoets PageUp"), Nummers(2, 16));

@@ -87,18 +87,19 @@ class TekstZoekenTest : public ::testing::Test {
 };
 
 TEST_F(TekstZoekenTest, EnterGaatNaarDeVolgendePlaatsEnAchterDeLaatsteNaarDeEerste) {
-  Lees(std::string("een\ntwee Müller\n"_w) + Gelijk(70, "") + "MULLER muller\n", [](ToonTekst& toon) {
-    Zoek(toon, "müller"_w);
-    EXPECT_EQ(Stand(toon), "1,1 1 5 6");
-    EXPECT_EQ(toon.ZoekLabel.Bijschrift(), "regel 2");
-    toon.Klik(toon.ZoekButton);
-    EXPECT_EQ(Stand(toon), "1,2 3 0 6");
-    EXPECT_EQ(toon.ZoekLabel.Bijschrift(), "regel 73");
-    EXPECT_TRUE(toon.Toets(&toon.ZoekButton, {.code = toets::kF1 + 2}));
-    EXPECT_EQ(Stand(toon), "1,2 3 7 6");
-    Zoek(toon, "muller");
-    EXPECT_EQ(Stand(toon), "1,1 1 5 6");
-  });
+  Lees(std::string("een\ntwee Müller\n"_w) + Gelijk(70, "") + "MULLER muller\n",
+       [](ToonTekst& toon) {
+         Zoek(toon, "müller"_w);
+         EXPECT_EQ(Stand(toon), "1,1 1 5 6");
+         EXPECT_EQ(toon.ZoekLabel.Bijschrift(), "regel 2");
+         toon.Klik(toon.ZoekButton);
+         EXPECT_EQ(Stand(toon), "1,2 3 0 6");
+         EXPECT_EQ(toon.ZoekLabel.Bijschrift(), "regel 73");
+         EXPECT_TRUE(toon.Toets(&toon.ZoekButton, {.code = toets::kF1 + 2}));
+         EXPECT_EQ(Stand(toon), "1,2 3 7 6");
+         Zoek(toon, "muller");
+         EXPECT_EQ(Stand(toon), "1,1 1 5 6");
+       });
 }
 
 TEST_F(TekstZoekenTest, EenTrefferRechtsToontZijnKolom) {
