@@ -77,7 +77,7 @@ ZoekPrs::ZoekPrs(Hoofdmodule& hoofd) : Formulier("ZoekPrs", "Zoek Persoon"), hoo
   Personen.Elk([this](int, ZoekRij& rij) {
     rij.RecordNrPrs.BijKlik([this, &rij] { RecordNrPrsKlik(rij); });
     for (Teller* deel : {&rij.VoorNmPrs, &rij.AchterNmPrs, &rij.Periode}) {
-      deel->BijDubbelklik([this, &rij] { Klik(rij.RecordNrPrs); });
+      deel->BijDubbelklik([this, &rij] { DeelDubbelklik(rij); });
     }
     rij.InfoPersoon.BijKlik([this, &rij] { InfoPersoonKlik(rij); });
     rij.NaarPa.BijKlik([this, &rij] { NaarPaKlik(rij); });

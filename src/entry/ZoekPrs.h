@@ -94,6 +94,8 @@ class ZoekPrs final : public Formulier, public Bladeraar {
   void NaarNrKlik();
   void FilterButtonKlik();
   void RecordNrPrsKlik(const ZoekRij& rij);
+  // On a name or the years.
+  void DeelDubbelklik(const ZoekRij& rij) { RecordNrPrsKlik(rij); }
   void InfoPersoonKlik(const ZoekRij& rij);
   void NaarPaKlik(const ZoekRij& rij);
   void NaarMaKlik(const ZoekRij& rij);
