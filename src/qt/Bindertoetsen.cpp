@@ -20,6 +20,11 @@ bool IsInvoer(BedieningSoort soort) {
          soort == BedieningSoort::Padvak;
 }
 
+// To the ends of a field's text, which are the field's own.
+bool IsRand(int code) {
+  return code == toets::kHome || code == toets::kEnd;
+}
+
 bool IsLijst(BedieningSoort soort) {
   return soort == BedieningSoort::Keuzevak || soort == BedieningSoort::Keuzelijst;
 }
@@ -91,6 +96,7 @@ bool Binder::GaNaar(Element& element) {
 bool Binder::VerwerkToets(Element* element, const QKeyEvent& toets) {
   const auto gebeurtenis = NaarToets(toets);
   if (!gebeurtenis) {
+    if (CtrlToets(toets)) return true;
     const bool alt = toets.modifiers().testFlag(Qt::AltModifier);  // Alt+F4 is the window's own
     return (IsEenmalig(toets) && !alt) || IsAlt(toets);
   }
@@ -98,7 +104,8 @@ bool Binder::VerwerkToets(Element* element, const QKeyEvent& toets) {
   // A blank that is held presses once.
   const bool drukbaar = element && IsDrukbaar(element->Bron().Soort());
   if (drukbaar && gebeurtenis->code == toets::kSpatie && toets.isAutoRepeat()) return true;
-  if (Blader(gebeurtenis->code)) return true;
+  const bool inVeld = element && IsInvoer(element->Bron().Soort());
+  if (!(inVeld && IsRand(gebeurtenis->code)) && Blader(gebeurtenis->code)) return true;
   bool klaar = false;
   Verwerk([&] { klaar = formulier_.Toets(element ? &element->Bron() : nullptr, *gebeurtenis); });
   if (klaar || formulier_.Gesloten() || fout_) return true;
@@ -134,11 +141,8 @@ bool Binder::EigenToets(Element& element, const QKeyEvent& toets) {
 // A sheet that is higher than its window scrolls first; at its edge the key goes to the form, which
 // may turn the page.
 bool Binder::Blader(int code) {
-  for (auto& [bediening, element] : elementen_) {
-    if (bediening->Soort() != BedieningSoort::Tekstpagina) continue;
-    return static_cast<Bladzijde&>(element->Widget()).Rol(code);
-  }
-  return false;
+  Bladzijde* const blad = Blad();
+  return blad && blad->Rol(code);
 }
 
 void Binder::ToetsInVenster(const QKeyEvent& toets) {

@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+#include "forms/Bureaublad.h"
 #include "forms/Gesprek.h"
 #include "qt/Binder.h"
 #include "qt/VensterInstellingen.h"
@@ -15,7 +16,7 @@ namespace lb77 {
 
 // Shows forms, boxes and questions with the toolkit. Forms lie in a stack; only the top one is
 // reached by the user. An application object must exist.
-class QtGesprek final : public Gesprek {
+class QtGesprek final : public Gesprek, public Bureaublad {
  public:
   // `map` is the program's directory, where window sizes are kept; empty keeps none.
   explicit QtGesprek(const std::filesystem::path& map = {});
@@ -27,6 +28,9 @@ class QtGesprek final : public Gesprek {
   bool BerichtMetVinkje(std::string_view tekst, std::string_view vinkje) override;
   std::optional<std::filesystem::path> VraagBestand(const BestandsVraag& vraag) override;
   bool DrukAf(const Afdruk& afdruk) override;
+  [[nodiscard]] bool OpenInBrowser(const std::filesystem::path& pad) override;
+  [[nodiscard]] std::optional<std::filesystem::path> VraagOpslag(
+      const BestandsVraag& vraag, const std::filesystem::path& naam) override;
   void Ververs(Formulier& formulier) override;
   [[nodiscard]] bool StopGevraagd(Formulier& formulier) override;
 

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "forms/Bijschrift.h"
+#include "forms/Leesformulier.h"
 #include "qt/Bladzijde.h"
 #include "qt/Stijl.h"
 #include "qt/Vertaling.h"
@@ -144,7 +145,10 @@ class PaginaElement final : public Element {
   QWidget& Muisvlak() const override { return *blad_.viewport(); }
 
  private:
-  void Toon() override { blad_.ZetTekst(NaarQt(pagina_.Waarde())); }
+  void Toon() override {
+    blad_.ZetTekst(NaarQt(pagina_.Waarde()));
+    if (const auto* vind = dynamic_cast<const Vindpagina*>(&pagina_)) blad_.Merk(vind->Gemerkt());
+  }
 
   Tekstpagina& pagina_;
   Bladzijde& blad_;
