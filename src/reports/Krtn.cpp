@@ -116,7 +116,9 @@ bool Krtn::RecordNrVerlaten(KrtnRij& rij) {
 void Krtn::ZoekPersButtonKlik(KrtnRij& rij) {
   const VolgersBewaker bewaker(Hoofd().volgers);
   const std::int32_t nr = VraagZoekPersoon(Hoofd());
-  if (nr > 0) Toon(rij, GetalTekst(nr));
+  if (nr < 1) return;
+  Toon(rij, GetalTekst(nr));
+  ZetFocus(OKButton);
 }
 
 void Krtn::OKButtonKlik() {
