@@ -192,6 +192,16 @@ void MenuWindow::BijActiveren() {
   if (begin_) KeuzesKlik(std::exchange(begin_, nullptr));
 }
 
+std::string MenuWindow::WaaromGrijs(const Bediening& bediening) const {
+  const std::optional<std::size_t> rij = VindRij(bediening.Naam());
+  if (!rij) return {};
+  if (kMenu[*rij].werking != Werking::Menu && !bediening.HeeftKlik()) {
+    return "Dit onderdeel is er in deze versie niet";
+  }
+  return kMenu[*rij].stand == SetAanwezig ? "Er is nog geen bestandenset; maak er eerst een"
+                                          : "Open eerst een bestandenset";
+}
+
 // A button of the start page.
 void MenuWindow::KnopKlik(const std::function<void()>& start) {
   KeuzesKlik(start);

@@ -13,6 +13,7 @@
 #include "app/Startblad.h"
 #include "forms/Bestandsontvanger.h"
 #include "forms/Formulier.h"
+#include "forms/Redengever.h"
 #include "forms/Weergave.h"
 
 namespace lb77 {
@@ -20,7 +21,7 @@ namespace lb77 {
 // Knows the names, captions and states of all entries; what an entry starts is hung on it from
 // above. An entry without an action is disabled. One window for the whole life of the program: its
 // load opens the set that was used last, its end stores where it stood.
-class MenuWindow final : public Formulier, public Bestandsontvanger {
+class MenuWindow final : public Formulier, public Bestandsontvanger, public Redengever {
  public:
   explicit MenuWindow(Hoofdmodule& hoofd);
 
@@ -42,6 +43,7 @@ class MenuWindow final : public Formulier, public Bestandsontvanger {
   }
   [[nodiscard]] bool Neemt(const std::filesystem::path& bestand) const override;
   void Ontvang(const std::filesystem::path& bestand) override;
+  [[nodiscard]] std::string WaaromGrijs(const Bediening& bediening) const override;
 
   // Enables what the state of the session allows, and names the action that would be undone.
   void ZetMenu();

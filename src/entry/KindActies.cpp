@@ -8,6 +8,7 @@
 #include "entry/KoppelVragen.h"
 #include "entry/Koppelingen.h"
 #include "entry/Ordenen.h"
+#include "entry/WijzigPersoon.h"
 #include "store/Handeling.h"
 #include "store/PersoonVelden.h"
 #include "text/Getallen.h"
@@ -78,6 +79,12 @@ void VoegKindToeZonderVraag(Hoofdmodule& hoofd, std::int16_t relatie) {
   if (const std::int16_t kind = VraagKind(hoofd, kKindErbij); kind > 0) {
     Verplaats(hoofd, kind, 0, relatie, Omschrijving(" toegevoegd aan relatie ", kind, relatie));
   }
+  hoofd.volgers.HuidigRelatieNr = relatie;
+}
+
+void VoerKindIn(Hoofdmodule& hoofd, std::int16_t relatie) {
+  hoofd.volgers.HuidigPersoonNr = -1;
+  hoofd.gesprek.Toon<WijzigPersoon>(hoofd, relatie);
   hoofd.volgers.HuidigRelatieNr = relatie;
 }
 

@@ -15,6 +15,8 @@ void VoegKindToe(Hoofdmodule& hoofd, std::int16_t relatie);
 // kept: the same without a look at other parents, as children behind the fifteenth are added. A
 // child that has them stays with them too, until the checks tell.
 void VoegKindToeZonderVraag(Hoofdmodule& hoofd, std::int16_t relatie);
+// Enters a new person who is a child of the relation from the start, with the surname of his father.
+void VoerKindIn(Hoofdmodule& hoofd, std::int16_t relatie);
 // Asks a child and takes him out of the relation.
 // kept: behind the fifteenth child the prompt is the one for adding (`metKindErbij`).
 void HaalKindWeg(Hoofdmodule& hoofd, std::int16_t relatie, bool metKindErbij);

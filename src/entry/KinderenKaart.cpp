@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "entry/KindActies.h"
 #include "entry/ToonPersoon.h"
 #include "text/Getallen.h"
 
@@ -47,6 +48,7 @@ KinderenKaart::KinderenKaart(std::string_view naam, std::string_view titel, Hoof
       [this](int, KindRij& rij) { rij.NaarKind.BijKlik([this, &rij] { NaarKindKlik(rij); }); });
   ErbijButton.BijKlik([this] { ErbijButtonKlik(); });
   ErafButton.BijKlik([this] { ErafButtonKlik(); });
+  NieuwKindButton.BijKlik([this] { NieuwKindButtonKlik(); });
 }
 
 void KinderenKaart::HangOp(Knop& terug) {
@@ -116,6 +118,11 @@ void KinderenKaart::ErbijButtonKlik() {
 void KinderenKaart::ErafButtonKlik() {
   HaalWeg();
   LaadOpnieuw(ErafButton);
+}
+
+void KinderenKaart::NieuwKindButtonKlik() {
+  VoerKindIn(Hoofd(), relatie_);
+  LaadOpnieuw(NieuwKindButton);
 }
 
 void KinderenKaart::NaarPersoon(int nr, std::string_view geen) {

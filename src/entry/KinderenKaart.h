@@ -37,6 +37,7 @@ class KinderenKaart : public KaartOp<InvoerFormulier> {
   Regels<KindRij, kRijen> Kinderen;
   Knop ErbijButton{*this, "ErbijButton", "&Erbij"};
   Knop ErafButton{*this, "ErafButton", "Er&af"};
+  Knop NieuwKindButton{*this, "NieuwKindButton", "Nieuw &Kind..."};
 
  protected:
   KinderenKaart(std::string_view naam, std::string_view titel, Hoofdmodule& hoofd,
@@ -63,6 +64,7 @@ class KinderenKaart : public KaartOp<InvoerFormulier> {
   void NaarKindKlik(const KindRij& rij);
   void ErbijButtonKlik();
   void ErafButtonKlik();
+  void NieuwKindButtonKlik();
   void TerugKlik();
   void NaarPersoon(int nr, std::string_view geen);
 

@@ -36,7 +36,7 @@ bool PersoonVak::NrVak::OpVerlaten() {
 void PersoonVak::NrVak::OpToets(ToetsGebeurtenis& toets) {
   if (toets.code == toets::kF2 && !toets.shift) {
     toets.verwerkt = true;
-    static_cast<void>(geheel_.Zoek());
+    if (geheel_.Zoek() && geheel_.soort_.danOK) geheel_.GaNaarOK();
   } else {
     InvoerVak::OpToets(toets);
   }
@@ -118,6 +118,10 @@ bool PersoonVak::Zoek() {
   formulier_.Bewerkt(RecordNr, NrTekst(*nr));
   ToonNamen(*nr);
   return true;
+}
+
+void PersoonVak::GaNaarOK() {
+  if (Bediening* const ok = formulier_.Zoek("OKButton")) formulier_.GaNaar(*ok);
 }
 
 bool PersoonVak::VulNrUitNaam(std::string_view geslacht) {

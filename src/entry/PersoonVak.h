@@ -21,9 +21,10 @@ enum class PersoonControle {
 // What tells one group of these fields from another.
 struct PersoonVakSoort {
   PersoonControle controle = PersoonControle::Geldig;
-  bool leegWist = true;            // an empty number empties the names
-  bool alleenAnders = false;       // a number that is as it was when it got the focus is let be
-  bool naamInvoer = true;          // the names can be typed
+  bool leegWist = true;       // an empty number empties the names
+  bool alleenAnders = false;  // a number that is as it was when it got the focus is let be
+  bool naamInvoer = true;     // the names can be typed
+  bool danOK = false;         // who has been found by F2 is what the form asked for: OK is next
   std::string_view onbekend = {};  // for a name that is not known; without it only an unreadable
                                    // person has a text in its place
   std::string_view nr = "RecordNr";
@@ -81,6 +82,7 @@ class PersoonVak {
 
  private:
   [[nodiscard]] bool NrVerlaten();
+  void GaNaarOK();
   [[nodiscard]] std::string OfOnbekend(const std::string& naam) const;
 
   InvoerFormulier& formulier_;

@@ -1,7 +1,6 @@
 #include "entry/WijzigPersoon.h"
 
 #include <cstddef>
-#include <utility>
 #include <vector>
 
 #include "app/NietVeilig.h"
@@ -23,8 +22,8 @@ constexpr std::string_view kVader(&geslacht::kMan, 1);
 constexpr std::string_view kMoeder(&geslacht::kVrouw, 1);
 }  // namespace
 
-WijzigPersoon::WijzigPersoon(Hoofdmodule& hoofd)
-    : InvoerFormulier("WijzigPersoon", "Wijzig Persoon", hoofd) {
+WijzigPersoon::WijzigPersoon(Hoofdmodule& hoofd, std::int16_t ouders)
+    : InvoerFormulier("WijzigPersoon", "Wijzig Persoon", hoofd), ouders_(ouders) {
   ZetHulpOnderwerp("personen");
   ZetEersteVeld(Geslacht);
   ZetLeesnamen();
@@ -38,31 +37,6 @@ WijzigPersoon::WijzigPersoon(Hoofdmodule& hoofd)
   RelNrOuders.BijVerlaten([this] { return RelNrOudersVerlaten(); });
   Opslaan.BijKlik([this] { OpslaanKlik(); });
   BackButton.BijKlik([this] { BackButtonKlik(); });
-}
-
-void WijzigPersoon::ZetLeesnamen() {
-  const std::pair<Bediening*, std::string_view> namen[] = {
-      {&GebCorr, "Correctie van de geboortedatum"},
-      {&GebDatum, "Geboortedatum"},
-      {&GebPlts.Nm, "Geboorteplaats"},
-      {&GebPlts.Nr, "Nummer van de geboorteplaats"},
-      {&DoopDatum, "Doopdatum"},
-      {&DoopPlts.Nm, "Doopplaats"},
-      {&DoopPlts.Nr, "Nummer van de doopplaats"},
-      {&Religie.Code, "Gezindte"},
-      {&OvlCorr, "Correctie van de overlijdensdatum"},
-      {&OvlDatum, "Overlijdensdatum"},
-      {&OvlPlts.Nm, "Overlijdensplaats"},
-      {&OvlPlts.Nr, "Nummer van de overlijdensplaats"},
-      {&BegrDatum, "Datum van begraven of crematie"},
-      {&BegrPlts.Nm, "Plaats van begraven of crematie"},
-      {&BegrPlts.Nr, "Nummer van de plaats van begraven of crematie"},
-      {&Pa.VoorNm, "Voornamen van de vader"},
-      {&Pa.AchterNm, "Achternaam van de vader"},
-      {&Ma.VoorNm, "Voornamen van de moeder"},
-      {&Ma.AchterNm, "Achternaam van de moeder"},
-  };
-  for (const auto& [bediening, naam] : namen) bediening->ZetLeesnaam(naam);
 }
 
 // In the order in which they are stored.
@@ -112,7 +86,16 @@ void WijzigPersoon::BijLaden() {
   AlgPersOpmTekst.ZetTekst(
       Hoofd().Opmerking.OpmerkingTekst(opmCode, opmRecord, persoonrubriek::kAlgemeen, 1, false));
   ToonPeriodes();
+  if (ouders_ > 0 && !bestaat_) VulAlsKind();
   Hoofd().volgers.HuidigPersoonNr = nr_;
+}
+
+// The surname is the father's, until the user types another.
+void WijzigPersoon::VulAlsKind() {
+  RelNrOuders.ToonNr(ouders_);
+  ToonOuders(ouders_);
+  PersoonLB77& persoon = Hoofd().Persoon;
+  if (Pa.Nr() > 1 && persoon.Lees(Pa.Nr())) AchterNm.ZetTekst(persoon.AchterNaamTrue());
 }
 
 bool WijzigPersoon::NeemRecord() {

@@ -26,7 +26,8 @@ class Koppelingen;
 // there is none.
 class WijzigPersoon final : public InvoerFormulier {
  public:
-  explicit WijzigPersoon(Hoofdmodule& hoofd);
+  // `ouders` is the relation that a new person is a child of, 0 for none.
+  explicit WijzigPersoon(Hoofdmodule& hoofd, std::int16_t ouders = 0);
 
   Teller RecordNr{*this, "RecordNr", "Persoonsnummer:"};
   InvoerVak Geslacht{*this, "Geslacht", "Geslacht:"};
@@ -71,6 +72,7 @@ class WijzigPersoon final : public InvoerFormulier {
   void ToonOuders(std::int16_t relatie);
   void ToonPartners();
   void ToonPeriodes();
+  void VulAlsKind();
 
   // Entering and leaving a field.
   void GeslachtBetreden();
@@ -100,6 +102,7 @@ class WijzigPersoon final : public InvoerFormulier {
   void BackButtonKlik();
 
   RecordVelden velden_;
+  std::int16_t ouders_;     // whose child is entered
   std::int16_t nr_ = -1;    // what RecordNr shows
   bool bestaat_ = false;    // the record is there
   std::string OudGeslacht;  // what stood there when the field got the focus

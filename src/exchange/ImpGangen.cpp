@@ -31,6 +31,7 @@ ImpUitslag VoerGangen(ImpLoop& loop, RegelLezer& lezer) {
     if (!uitslag.fout.empty()) continue;
     uitslag = Voer(gang, loop, lezer);
     loop.delen.melder.Ververs(loop.stand);
+    loop.delen.melder.BijRecordEinde();
     if (uitslag.gestopt || lezer.Fout()) break;
   }
   return uitslag;

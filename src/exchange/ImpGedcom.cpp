@@ -71,9 +71,12 @@ class ImpGedcom::Scherm final : public ImpMelder {
     formulier_.AchterNm.ZetTekst(stand.achternaam);
     formulier_.BronNm.ZetTekst(stand.bron);
     gesprek_.Ververs(formulier_);
-    if (!gesprek_.StopGevraagd(formulier_)) return;
+    if (afgebroken_ || !formulier_.Afbreken()) return;
     afgebroken_ = true;
-    lezer_.Breek({kGeenToegang, "Afgebroken"});
+    log_.Regel("Importeren afgebroken bij regel " + GetalTekst(stand.regels));
+  }
+  void BijRecordEinde() override {
+    if (afgebroken_) lezer_.Breek({kGeenToegang, "Afgebroken"});
   }
 
  private:
@@ -148,7 +151,8 @@ void ImpGedcom::OKButtonKlik() {
   ZetBezig(false);
   WisStop();
   for (Label* label : labels_) label->ZetZichtbaar(false);
-  if ((afloop.gestopt || afloop.afgebroken) && !afloop.systeem) return;
+  if (afloop.gestopt && !afloop.systeem) return;
+  if (afloop.afgebroken && !afloop.systeem) return ToonLog();
   if (wijze_ == ImpWijze::Vanzelf && gelukt_ && !afloop.systeem) return Sluit();
   if (afloop.systeem) {
     MeldFout(afloop.systeem);
@@ -218,7 +222,7 @@ ImpGedcom::Afloop ImpGedcom::Lees(const std::filesystem::path& bestand) {
   loop.omgezet = lezer.ZetOm();
   loop.rest.Begin(rest, [&loop](std::string_view bron) { return loop.BronUtf8(bron); });
   const ImpUitslag uitslag = VoerGangen(loop, lezer);
-  if (scherm.Afgebroken()) return {.afgebroken = true};
+  if (scherm.Afgebroken()) return {.afgebroken = true, .systeem = log.Sluit()};
   if (uitslag.gestopt) return {.gestopt = true};
   if (lezer.Fout()) return {.systeem = lezer.Fout()};
   return {.systeem = Rond(uitslag, loop, log)};
@@ -231,17 +235,29 @@ void ImpGedcom::KiesCodering(RegelLezer& lezer) {
 }
 
 bool ImpGedcom::Past(RegelLezer& lezer, std::int16_t personen, std::int16_t relaties) {
-  const ImpTelling telling = TelImport(lezer, hoofd_.bestanden.Bestand(BestandSoort::Plaatsen));
+  TellingLabel.ZetBijschrift("Het bestand wordt geteld ...");
+  hoofd_.gesprek.Ververs(*this);
+  bool afgebroken = false;
+  const ImpTelling telling = TelImport(lezer, hoofd_.bestanden.Bestand(BestandSoort::Plaatsen),
+                                       [&] { return !(afgebroken = Afbreken()); });
+  TellingLabel.ZetBijschrift(afgebroken ? "" : TellingTekst(telling));
+  if (afgebroken) return false;
   if (telling.fout) {
     hoofd_.gesprek.Fout("Fout bij het tellen van de plaatsen\n" + telling.fout.tekst);
   }
   lezer.Begin();
-  TellingLabel.ZetBijschrift(TellingTekst(telling));
   hoofd_.gesprek.Ververs(*this);
   if (personen + telling.personen <= kMaxRecords && relaties + telling.relaties <= kMaxRecords) {
     return true;
   }
   hoofd_.gesprek.Fout(kMaximumBereikt);
+  return false;
+}
+
+bool ImpGedcom::Afbreken() {
+  if (!hoofd_.gesprek.StopGevraagd(*this)) return false;
+  if (hoofd_.gesprek.Vraag("Import afbreken ?")) return true;
+  WisStop();
   return false;
 }
 

@@ -81,8 +81,10 @@ class ImpGedcom final : public Formulier {
   [[nodiscard]] Afloop Lees(const std::filesystem::path& bestand);
   // Asks whether a file in Unicode is to be converted; the reader stands at its first line then.
   void KiesCodering(RegelLezer& lezer);
-  // Shows what will be added. False, told, when the set has no room for it.
+  // Shows what will be added. False when the user stopped it, and, told, when the set has no room.
   [[nodiscard]] bool Past(RegelLezer& lezer, std::int16_t personen, std::int16_t relaties);
+  // The test for a stop: True when the user asked for it and was sure. A No forgets it.
+  [[nodiscard]] bool Afbreken();
   [[nodiscard]] SysteemFout Rond(const ImpUitslag& uitslag, ImpLoop& loop, GedLog& log);
   void SluitRest(ImpRest& rest, GedLog& log);
   void ToonDoel();

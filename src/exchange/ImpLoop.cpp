@@ -48,6 +48,7 @@ GedDelen ImpLoop::Ontleed(std::string_view regel) {
 }
 
 GedSoort ImpLoop::Kop(const GedDelen& regel) {
+  delen.melder.BijRecordEinde();
   const GedSoort soort = GedSoortVan(regel.tag);
   if (soort == GedSoort::Persoon) {
     persoonNr_ = GedPersId.Nr(static_cast<std::size_t>(stand.personen++));

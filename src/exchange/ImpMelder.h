@@ -36,6 +36,8 @@ class ImpMelder {
   virtual void BeginGang(int nummer) = 0;
   // Brings the progress fields up to date.
   virtual void Ververs(const ImpStand& stand) = 0;
+  // A record has ended: here an import that the user stopped ends.
+  virtual void BijRecordEinde() {}
 };
 
 }  // namespace lb77

@@ -29,6 +29,8 @@ namespace lb77 {
 
 namespace {
 
+constexpr std::int32_t kRegelsPerVraag = 1024;
+
 // The places of the set: their names, and how many there are of each likeness.
 struct Bekenden {
   std::unordered_set<std::string> namen;
@@ -154,11 +156,13 @@ std::string Aantal(int aantal, std::string_view een, std::string_view meer) {
 
 }  // namespace
 
-ImpTelling TelImport(RegelLezer& lezer, RecordBestand& plaatsen) {
+ImpTelling TelImport(RegelLezer& lezer, RecordBestand& plaatsen,
+                     const std::function<bool()>& gaatDoor) {
   SysteemFout fout;
   Teller teller(Bekend(plaatsen, fout), lezer.ZetOm());
   std::string_view regel;
-  while (lezer.Volgende(regel) && teller.Neem(regel)) {
+  for (std::int32_t nr = 1; lezer.Volgende(regel) && teller.Neem(regel); ++nr) {
+    if (nr % kRegelsPerVraag == 0 && gaatDoor && !gaatDoor()) break;
   }
   teller.telling.fout = std::move(fout);
   return std::move(teller.telling);

@@ -1,6 +1,7 @@
 // What an import will add, counted before anything is written.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "exchange/RegelLezer.h"
@@ -17,8 +18,9 @@ struct ImpTelling {
 };
 
 // Reads the file from where the reader stands; an error in it ends the count, and is left to the
-// passes to tell.
-[[nodiscard]] ImpTelling TelImport(RegelLezer& lezer, RecordBestand& plaatsen);
+// passes to tell. `gaatDoor` is asked now and then; False ends the count as well.
+[[nodiscard]] ImpTelling TelImport(RegelLezer& lezer, RecordBestand& plaatsen,
+                                   const std::function<bool()>& gaatDoor = {});
 
 // "Erbij komen 2 personen, 1 relatie en 3 plaatsen"
 [[nodiscard]] std::string TellingTekst(const ImpTelling& telling);

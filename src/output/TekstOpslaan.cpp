@@ -1,13 +1,15 @@
 #include "output/TekstOpslaan.h"
 
-#include "output/Tekstpaginas.h"
+#include "forms/Bureaublad.h"
 
 namespace lb77 {
 
-bool SlaTekstOp(Gesprek& gesprek, const std::filesystem::path& tekst, const BestandsVraag& vraag) {
-  const auto naar = gesprek.VraagBestand(vraag);
+bool SlaTekstOp(Gesprek& gesprek, const std::filesystem::path& tekst, const BestandsVraag& vraag,
+                const std::filesystem::path& naam, Tekencode code) {
+  auto* const bureaublad = naam.empty() ? nullptr : dynamic_cast<Bureaublad*>(&gesprek);
+  const auto naar = bureaublad ? bureaublad->VraagOpslag(vraag, naam) : gesprek.VraagBestand(vraag);
   if (!naar) return false;
-  if (const SysteemFout fout = KopieerTekst(tekst, *naar)) {
+  if (const SysteemFout fout = KopieerTekst(tekst, *naar, code)) {
     gesprek.Fout("Fout bij het opslaan van de tekst.\n" + fout.tekst);
     return false;
   }

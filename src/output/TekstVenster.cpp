@@ -1,11 +1,16 @@
 #include "output/TekstVenster.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <utility>
 
+#include "forms/Bureaublad.h"
 #include "output/TekstOpslaan.h"
 #include "text/Getallen.h"
+#include "text/Pad.h"
+#include "text/Zoekvorm.h"
 
 namespace lb77 {
 
@@ -27,6 +32,9 @@ constexpr int kOmlaagKnop = 4;
 
 constexpr std::string_view kHTMLFilter =
     "Alle Bestanden (*.*)|*.*|Internetbestanden (*.htm)|*.htm|Internetbestanden (*.html)|*.html";
+
+// What a name of a file may not hold on every system.
+constexpr std::string_view kVerbodenInNaam = "/\\:*?\"<>|";
 
 const Stap& StapVan(int knop) {
   return kStappen.at(static_cast<std::size_t>(knop - 1));
@@ -57,6 +65,10 @@ TekstVenster::TekstVenster(Hoofdmodule& hoofd, std::string_view naam, std::strin
     PrintButton(nummer).BijKlik([this, nummer] { PrintButtonKlik(nummer); });
   }
   SaveButton.BijKlik([this] { SaveButtonKlik(); });
+  BrowserButton.BijKlik([this] { BrowserButtonKlik(); });
+  ZoekTekst.BijToets([this](ToetsGebeurtenis& toets) { ZoekTekstToets(toets); });
+  ZoekTekst.BijWijziging([this] { ZoekLabel.ZetBijschrift(""); });
+  ZoekButton.BijKlik([this] { ZoekButtonKlik(); });
   BackButton.BijKlik([this] { Sluit(); });
 }
 
@@ -67,6 +79,11 @@ void TekstVenster::Toon(const std::filesystem::path& pad, bool HTMLUitvoer) {
   const bool leesbaar = paginas_.Open(pad);
   PrintButton.Elk([leesbaar](int, Knop& knop) { knop.ZetIngeschakeld(leesbaar); });
   SaveButton.ZetIngeschakeld(leesbaar);
+  // A page for the browser says itself in what it is written.
+  UTF8Box.ZetZichtbaar(!HTMLUitvoer);
+  BrowserButton.ZetZichtbaar(HTMLUitvoer && leesbaar &&
+                             dynamic_cast<Bureaublad*>(&hoofd_.gesprek) != nullptr);
+  zoekVanaf_ = {};
   ToonPagina();
   Knop& omlaag = MoveButton(kOmlaagKnop);
   ZetEersteVeld(omlaag.Ingeschakeld() ? omlaag : BackButton);
@@ -85,6 +102,7 @@ void TekstVenster::ToonPagina() {
   } else {
     UitvoerBox.ZetRegels({"Fout: " + paginas_.Fout().tekst});
   }
+  UitvoerBox.Merk({});
   XY_label.ZetBijschrift("pagina " + GetalTekst(kolom_) + "," + GetalTekst(rij_));
   MoveButton(1).ZetIngeschakeld(kolom_ > 1);
   MoveButton(2).ZetIngeschakeld(kolom_ < paginas_.Kolommen());
@@ -103,7 +121,51 @@ void TekstVenster::Ga(int kolommen, int rijen) {
   if (kolom < 1 || kolom > paginas_.Kolommen() || rij < 1 || rij > paginas_.Rijen()) return;
   kolom_ = kolom;
   rij_ = rij;
+  zoekVanaf_ = {static_cast<std::uint64_t>(rij - 1) * Tekstpaginas::kRegels, 0, 0};
   ToonPagina();
+}
+
+Bediening* TekstVenster::BijCtrl(char letter) {
+  switch (letter) {
+    case 'P':
+      return &PrintButton(2);
+    case 'S':
+      return &SaveButton;
+    case 'F':
+      return &ZoekTekst;
+    default:
+      return nullptr;
+  }
+}
+
+void TekstVenster::ZoekTekstToets(ToetsGebeurtenis& toets) {
+  if (toets.code != toets::kEnter && toets.code != toets::kNumEnter) return;
+  toets.verwerkt = true;
+  ZoekButtonKlik();
+}
+
+void TekstVenster::ZoekButtonKlik() {
+  const std::string vorm = Zoekvorm(ZoekTekst.Tekst());
+  if (vorm.empty()) return ZetFocus(ZoekTekst);
+  const auto plek = paginas_.Zoek(vorm, zoekVanaf_);
+  if (plek) {
+    Toon(*plek);
+  } else {
+    ZoekLabel.ZetBijschrift(paginas_.Fout() ? "Fout: " + paginas_.Fout().tekst : "Niet gevonden");
+  }
+}
+
+void TekstVenster::Toon(const Tekstpaginas::Plek& plek) {
+  constexpr std::uint64_t kRegels = Tekstpaginas::kRegels;
+  constexpr std::uint64_t kBreedte = Tekstpaginas::kBreedte;
+  rij_ = static_cast<int>(plek.regel / kRegels) + 1;
+  kolom_ = static_cast<int>(plek.kolom / kBreedte) + 1;
+  ToonPagina();
+  const std::uint64_t kolom = plek.kolom % kBreedte;
+  UitvoerBox.Merk({static_cast<int>(plek.regel % kRegels), static_cast<int>(kolom),
+                   static_cast<int>(std::min(plek.lengte, kBreedte - kolom))});
+  ZoekLabel.ZetBijschrift("regel " + GetalTekst(static_cast<std::int64_t>(plek.regel + 1)));
+  zoekVanaf_ = {plek.regel, plek.kolom + 1, 0};
 }
 
 void TekstVenster::BijToets(ToetsGebeurtenis& toets) {
@@ -112,6 +174,16 @@ void TekstVenster::BijToets(ToetsGebeurtenis& toets) {
     int kolommen;
     int rijen;
   };
+  constexpr int kF3 = toets::kF1 + 2;
+  const bool inTekst = FocusVeld() == &ZoekTekst;  // there a key moves among the letters
+  if (toets.code == kF3) {
+    toets.verwerkt = true;
+    return ZoekButtonKlik();
+  }
+  if (!inTekst && (toets.code == toets::kHome || toets.code == toets::kEnd)) {
+    toets.verwerkt = true;
+    return Ga(0, toets.code == toets::kHome ? 1 - rij_ : paginas_.Rijen() - rij_);
+  }
   constexpr std::array<Toetsstap, 6> kToetsen = {{
       {toets::kLinks, -1, 0},
       {toets::kRechts, 1, 0},
@@ -121,7 +193,7 @@ void TekstVenster::BijToets(ToetsGebeurtenis& toets) {
       {toets::kPageDown, 0, 1},
   }};
   for (const Toetsstap& stap : kToetsen) {
-    if (stap.code != toets.code) continue;
+    if (stap.code != toets.code || (inTekst && stap.kolommen != 0)) continue;
     toets.verwerkt = true;
     Ga(stap.kolommen, stap.rijen);
     return;
@@ -168,8 +240,26 @@ void TekstVenster::DrukAf(const Afdruk& afdruk) {
 void TekstVenster::SaveButtonKlik() {
   const std::string_view filter = HTMLUitvoer_ ? kHTMLFilter : kTekstFilter;
   const BestandsVraag vraag{BestandsWijze::Opslaan, std::string(filter), hoofd_.Ini.TekstDir()};
+  const bool utf8 = UTF8Box.Bruikbaar() && UTF8Box.Gekozen();
   // Told either way; the viewer stays.
-  static_cast<void>(SlaTekstOp(hoofd_.gesprek, Uitvoer().Pad(), vraag));
+  static_cast<void>(SlaTekstOp(hoofd_.gesprek, Uitvoer().Pad(), vraag, Opslagnaam(),
+                               utf8 ? Tekencode::Utf8 : Tekencode::Zelfde));
+}
+
+// A report is called what its title says.
+std::filesystem::path TekstVenster::Opslagnaam() const {
+  std::string naam(Titel());
+  for (char& teken : naam) {
+    if (kVerbodenInNaam.find(teken) != std::string_view::npos) teken = '-';
+  }
+  return PadVan(naam + (HTMLUitvoer_ ? ".htm" : ".txt"));
+}
+
+void TekstVenster::BrowserButtonKlik() {
+  auto* const bureaublad = dynamic_cast<Bureaublad*>(&hoofd_.gesprek);
+  if (bureaublad && !bureaublad->OpenInBrowser(paginas_.Pad())) {
+    hoofd_.gesprek.Waarschuw("Er is geen browser gevonden om het verslag te tonen.");
+  }
 }
 
 }  // namespace lb77

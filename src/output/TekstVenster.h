@@ -1,4 +1,4 @@
-// What the viewers of text share: the page, moving over the pages, printing and saving.
+// What the viewers of text share: the page, moving over the pages, searching, printing and saving.
 #pragma once
 
 #include <filesystem>
@@ -8,8 +8,10 @@
 #include <vector>
 
 #include "app/Hoofdmodule.h"
+#include "forms/Bladeraar.h"
 #include "forms/Formulier.h"
 #include "forms/Gesprek.h"
+#include "forms/Leesformulier.h"
 #include "forms/Rij.h"
 #include "output/Tekstpaginas.h"
 
@@ -23,15 +25,25 @@ inline constexpr std::string_view kTekstFilter =
 inline constexpr std::string_view kPrintFout = "Fout bij het printen van de tekst.";
 
 // Shows one page of a file. MoveButton 1 to 4 and the arrow keys go left, right, up and down,
-// PageUp and PageDown up and down; PrintButton 1 prints this page, 2 all pages.
-class TekstVenster : public Formulier {
+// PageUp, PageDown and the wheel up and down, Home and End to the first and the last row of pages;
+// PrintButton 1 prints this page, 2 all pages. Enter in ZoekTekst and F3 go to the next place that
+// holds its text, case and accents aside, and behind the last to the first.
+class TekstVenster : public Formulier, public Bladeraar, public Leesformulier {
  public:
-  Tekstpagina UitvoerBox{*this, "UitvoerBox"};
+  Tekstvak ZoekTekst{*this, "ZoekTekst", "&Zoek in de tekst:", 60};
+  Knop ZoekButton{*this, "ZoekButton", "&Volgende"};
+  Label ZoekLabel{*this, "ZoekLabel"};
+  Vindpagina UitvoerBox{*this, "UitvoerBox"};
   Label XY_label{*this, "XY_label", "pagina 99,99"};
   Rij<Knop, 4> MoveButton{*this, "MoveButton", 1, std::string_view{}};
   Rij<Knop, 2> PrintButton{*this, "PrintButton", 1, std::string_view{}};
+  Vinkje UTF8Box{*this, "UTF8Box", "in &UTF-8"};
   Knop SaveButton{*this, "SaveButton", "&Opslaan Als"};
+  Knop BrowserButton{*this, "BrowserButton", "Open in bro&wser"};
   Knop BackButton{*this, "BackButton", "&Terug"};
+
+  void Blader(int stap) override { Ga(0, stap); }
+  [[nodiscard]] Bediening* BijCtrl(char letter) override;
 
  protected:
   TekstVenster(Hoofdmodule& hoofd, std::string_view naam, std::string_view titel);
@@ -49,6 +61,11 @@ class TekstVenster : public Formulier {
   void MoveButtonKlik(int nummer);
   void PrintButtonKlik(int nummer);
   void SaveButtonKlik();
+  void BrowserButtonKlik();
+  void ZoekTekstToets(ToetsGebeurtenis& toets);
+  void ZoekButtonKlik();
+  void Toon(const Tekstpaginas::Plek& plek);
+  [[nodiscard]] std::filesystem::path Opslagnaam() const;
   void Ga(int kolommen, int rijen);
   void ToonPagina();
   [[nodiscard]] Tekstpaginas& Uitvoer() { return uitvoer_ ? *uitvoer_ : paginas_; }
@@ -59,6 +76,7 @@ class TekstVenster : public Formulier {
 
   Tekstpaginas paginas_;
   std::optional<Tekstpaginas> uitvoer_;  // what is printed and saved, when it is not what is shown
+  Tekstpaginas::Plek zoekVanaf_;         // where the next search begins
   bool HTMLUitvoer_ = false;
   int kolom_ = 1;
   int rij_ = 1;

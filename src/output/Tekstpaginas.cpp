@@ -11,6 +11,9 @@
 
 #include "output/Regelstroom.h"
 #include "text/Getallen.h"
+#include "text/Unicode.h"
+#include "text/Utf8.h"
+#include "text/Zoekvorm.h"
 
 namespace lb77 {
 
@@ -40,6 +43,25 @@ std::string DeelVanRegel(Regelstroom& stroom, std::uint64_t links) {
   }
   std::replace(uit.begin(), uit.end(), '\0', ' ');
   return uit;
+}
+
+// Where the present line holds `vorm`, from column `kolom` on. A line of any length is searched piece
+// by piece: what a hit might begin in is kept for the next.
+std::optional<Tekstpaginas::Plek> ZoekInRegel(Regelstroom& stroom, std::string_view vorm,
+                                              std::uint64_t regel, std::uint64_t kolom) {
+  std::string tekst;
+  std::uint64_t begin = 0;  // the column of `tekst`
+  for (std::string_view stuk = stroom.Stuk(); !stuk.empty(); stuk = stroom.Stuk()) {
+    tekst += stuk;
+    const std::uint64_t vanaf = kolom > begin ? kolom - begin : 0;
+    const Zoekplek plek = VindVorm(tekst, vorm, static_cast<std::size_t>(vanaf));
+    if (plek.Gevonden()) return Tekstpaginas::Plek{regel, begin + plek.begin, plek.lengte};
+    // A character has one letter of the form at least.
+    const std::size_t over = std::min(tekst.size(), vorm.size());
+    begin += tekst.size() - over;
+    tekst.erase(0, tekst.size() - over);
+  }
+  return std::nullopt;
 }
 
 }  // namespace
@@ -97,7 +119,64 @@ bool Tekstpaginas::Lees(int kolom, int rij, std::vector<std::string>& regels) {
   return !fout_;
 }
 
+std::optional<Tekstpaginas::Plek> Tekstpaginas::Zoek(std::string_view vorm, const Plek& vanaf) {
+  if (fout_ || StempelVan(pad_) != stempel_) Tel();
+  if (fout_ || vorm.empty()) return std::nullopt;
+  constexpr std::uint64_t kEinde = std::numeric_limits<std::uint64_t>::max();
+  if (auto plek = ZoekTot(vorm, vanaf, kEinde)) return plek;
+  if (fout_) return std::nullopt;
+  return ZoekTot(vorm, {}, vanaf.regel);
+}
+
+// Up to and with line `tot`.
+std::optional<Tekstpaginas::Plek> Tekstpaginas::ZoekTot(std::string_view vorm, const Plek& vanaf,
+                                                        std::uint64_t tot) {
+  const std::uint64_t rij = vanaf.regel / kRegels;
+  if (rij >= rijBegin_.size()) return std::nullopt;
+  Regelstroom stroom;
+  if (stroom.Open(pad_, rijBegin_.at(static_cast<std::size_t>(rij)))) {
+    for (std::uint64_t regel = rij * kRegels; regel <= tot && stroom.VolgendeRegel(); ++regel) {
+      if (regel < vanaf.regel) continue;
+      const std::uint64_t kolom = regel == vanaf.regel ? vanaf.kolom : 0;
+      if (auto plek = ZoekInRegel(stroom, vorm, regel, kolom)) return plek;
+    }
+  }
+  fout_ = stroom.Fout();
+  return std::nullopt;
+}
+
 namespace {
+
+// Is this text UTF-8, with a character beyond ASCII?
+bool IsUtf8(const std::filesystem::path& pad) {
+  Regelstroom stroom;
+  if (!stroom.Open(pad)) return false;
+  constexpr std::size_t kLangste = 4;  // bytes of a character
+  bool meer = false;
+  std::string rest;
+  while (stroom.VolgendeRegel()) {
+    rest.clear();
+    for (std::string_view stuk = stroom.Stuk(); !stuk.empty(); stuk = stroom.Stuk()) {
+      rest += stuk;
+      std::size_t plaats = 0;
+      // A character may go on in the next piece.
+      while (plaats + kLangste <= rest.size()) {
+        const std::size_t lengte = LeesUtf8(rest, plaats).lengte;
+        if (lengte == 0) return false;
+        meer = meer || lengte > 1;
+        plaats += lengte;
+      }
+      rest.erase(0, plaats);
+    }
+    for (std::size_t plaats = 0; plaats < rest.size();) {
+      const std::size_t lengte = LeesUtf8(rest, plaats).lengte;
+      if (lengte == 0) return false;
+      meer = meer || lengte > 1;
+      plaats += lengte;
+    }
+  }
+  return meer;
+}
 
 // A name beside that of the file which nothing has yet.
 std::filesystem::path VrijeNaamNaast(const std::filesystem::path& pad) {
@@ -109,8 +188,16 @@ std::filesystem::path VrijeNaamNaast(const std::filesystem::path& pad) {
   }
 }
 
+bool Schrijf(std::ofstream& uit, std::string_view stuk, bool omzetten) {
+  const std::string nieuw = omzetten ? WindowsNaarUtf8(stuk) : std::string();
+  const std::string_view bytes = omzetten ? std::string_view(nieuw) : stuk;
+  return static_cast<bool>(uit.write(bytes.data(), static_cast<std::streamsize>(bytes.size())));
+}
+
 // Writes the copy; what went wrong, or success.
-SysteemFout SchrijfKopie(const std::filesystem::path& van, const std::filesystem::path& naar) {
+SysteemFout SchrijfKopie(const std::filesystem::path& van, const std::filesystem::path& naar,
+                         Tekencode code) {
+  const bool omzetten = code == Tekencode::Utf8 && !IsUtf8(van);
   Regelstroom stroom;
   if (!stroom.Open(van)) return stroom.Fout();
   errno = 0;
@@ -119,9 +206,7 @@ SysteemFout SchrijfKopie(const std::filesystem::path& van, const std::filesystem
   while (uit && stroom.VolgendeRegel()) {
     // No read behind a write that failed: it would hide why.
     std::string_view stuk = stroom.Stuk();
-    while (!stuk.empty() && uit.write(stuk.data(), static_cast<std::streamsize>(stuk.size()))) {
-      stuk = stroom.Stuk();
-    }
+    while (!stuk.empty() && Schrijf(uit, stuk, omzetten)) stuk = stroom.Stuk();
     uit << "\r\n";
   }
   uit.close();
@@ -131,9 +216,10 @@ SysteemFout SchrijfKopie(const std::filesystem::path& van, const std::filesystem
 
 }  // namespace
 
-SysteemFout KopieerTekst(const std::filesystem::path& van, const std::filesystem::path& naar) {
+SysteemFout KopieerTekst(const std::filesystem::path& van, const std::filesystem::path& naar,
+                         Tekencode tekencode) {
   const std::filesystem::path ernaast = VrijeNaamNaast(naar);
-  SysteemFout fout = SchrijfKopie(van, ernaast);
+  SysteemFout fout = SchrijfKopie(van, ernaast, tekencode);
   std::error_code code;
   if (!fout) {
     std::filesystem::rename(ernaast, naar, code);

@@ -3,7 +3,9 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "store/SysteemFout.h"
@@ -33,9 +35,21 @@ class Tekstpaginas {
   // empty. On a failed read False and no lines, and Fout() tells why.
   [[nodiscard]] bool Lees(int kolom, int rij, std::vector<std::string>& regels);
 
+  // A place in the whole text: line and column from 0.
+  struct Plek {
+    std::uint64_t regel = 0;
+    std::uint64_t kolom = 0;
+    std::uint64_t lengte = 0;
+  };
+  // The first place at or behind `vanaf` that holds `vorm` (a text/Zoekvorm), else the first in the
+  // text; nothing when it stands nowhere. A failed read ends the search, and Fout() tells why.
+  [[nodiscard]] std::optional<Plek> Zoek(std::string_view vorm, const Plek& vanaf);
+
   [[nodiscard]] const SysteemFout& Fout() const { return fout_; }
 
  private:
+  [[nodiscard]] std::optional<Plek> ZoekTot(std::string_view vorm, const Plek& vanaf,
+                                            std::uint64_t tot);
   // By which a file shows that it has changed.
   struct Stempel {
     std::uintmax_t grootte = 0;
@@ -52,9 +66,13 @@ class Tekstpaginas {
   SysteemFout fout_;
 };
 
-// Copies a text line by line, each line ended by CR LF. It is written beside `naar` and takes its
+// The bytes of a copy: those of the text, or the same in UTF-8.
+enum class Tekencode { Zelfde, Utf8 };
+
+// Copies a text line by line, each line ended by CR LF. A text that is UTF-8 already stays so. It is written beside `naar` and takes its
 // place when all is well; after a failure what `naar` held is as it was. No other file is touched.
 [[nodiscard]] SysteemFout KopieerTekst(const std::filesystem::path& van,
-                                       const std::filesystem::path& naar);
+                                       const std::filesystem::path& naar,
+                                       Tekencode code = Tekencode::Zelfde);
 
 }  // namespace lb77

@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 #include "qt/Berichtvenster.h"
 #include "qt/Vertaling.h"
@@ -100,10 +101,11 @@ QStringList Naamfilters(std::string_view filter) {
   return uit;
 }
 
-std::optional<std::filesystem::path> KiesBestand(QWidget* ouder, const BestandsVraag& vraag,
-                                                 VensterInstellingen& instellingen) {
-  QFileDialog venster(ouder, Titel(vraag.wijze), Beginmap(vraag, instellingen));
-  ZetWijze(venster, vraag);
+namespace {
+
+std::optional<std::filesystem::path> Kies(QFileDialog& venster, const BestandsVraag& vraag,
+                                          const std::string& sleutel,
+                                          VensterInstellingen& instellingen) {
   venster.setLabelText(QFileDialog::Reject, QStringLiteral("&Annuleren"));
   venster.setLabelText(QFileDialog::FileName, QStringLiteral("Bestands&naam:"));
   venster.setLabelText(QFileDialog::FileType, QStringLiteral("Soort bestand:"));
@@ -115,10 +117,51 @@ std::optional<std::filesystem::path> KiesBestand(QWidget* ouder, const BestandsV
       pad = MetUitgang(pad, venster.selectedNameFilter());
       if (!MagOverschrijven(venster, pad)) continue;
     }
-    instellingen.BewaarLaatsteMap(vraag.filter, QFileInfo(pad).absolutePath());
+    instellingen.BewaarLaatsteMap(sleutel, QFileInfo(pad).absolutePath());
     return PadVanQt(QDir::toNativeSeparators(pad));
   }
   return std::nullopt;
+}
+
+// Where files are saved is remembered apart from where they are opened.
+std::string OpslagSleutel(const BestandsVraag& vraag) {
+  return "opslaan|" + vraag.filter;
+}
+
+QString Opslagmap(const BestandsVraag& vraag, const VensterInstellingen& instellingen) {
+  for (const QString& map : {instellingen.LaatsteMap(OpslagSleutel(vraag)),
+                             QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)}) {
+    if (!map.isEmpty() && QDir(map).exists()) return map;
+  }
+  return QDir::homePath();
+}
+
+// The kind of file that the name already has.
+void KiesSoort(QFileDialog& venster, const QString& naam) {
+  const QString patroon = QStringLiteral("(*.%1").arg(QFileInfo(naam).suffix());
+  for (const QString& filter : venster.nameFilters()) {
+    if (filter.contains(patroon, Qt::CaseInsensitive)) return venster.selectNameFilter(filter);
+  }
+}
+
+}  // namespace
+
+std::optional<std::filesystem::path> KiesBestand(QWidget* ouder, const BestandsVraag& vraag,
+                                                 VensterInstellingen& instellingen) {
+  QFileDialog venster(ouder, Titel(vraag.wijze), Beginmap(vraag, instellingen));
+  ZetWijze(venster, vraag);
+  return Kies(venster, vraag, vraag.filter, instellingen);
+}
+
+std::optional<std::filesystem::path> KiesOpslag(QWidget* ouder, const BestandsVraag& vraag,
+                                                const std::filesystem::path& naam,
+                                                VensterInstellingen& instellingen) {
+  QFileDialog venster(ouder, Titel(vraag.wijze), Opslagmap(vraag, instellingen));
+  ZetWijze(venster, vraag);
+  const QString voorstel = PadNaarQt(naam);
+  KiesSoort(venster, voorstel);
+  venster.selectFile(voorstel);
+  return Kies(venster, vraag, OpslagSleutel(vraag), instellingen);
 }
 
 }  // namespace lb77

@@ -18,6 +18,13 @@ namespace lb77 {
                                                                const BestandsVraag& vraag,
                                                                VensterInstellingen& instellingen);
 
+// The same for a file to write that has a name already: it and its kind are filled in. It begins
+// where the user last saved a file of such a kind, and the first time among his documents.
+[[nodiscard]] std::optional<std::filesystem::path> KiesOpslag(QWidget* ouder,
+                                                              const BestandsVraag& vraag,
+                                                              const std::filesystem::path& naam,
+                                                              VensterInstellingen& instellingen);
+
 // "naam|patroon|naam|patroon" as the toolkit's filters. A pattern is given in lower and in upper
 // case too, for file systems that tell them apart; "*.*" is every file.
 [[nodiscard]] QStringList Naamfilters(std::string_view filter);

@@ -76,8 +76,12 @@ void Binder::MaakVenster(QWidget* ouder) {
     MaakElementen(*inhoud);
     PasIn();
   }
-  if (const auto maat = instellingen_.Maat(formulier_.Naam()))
-    venster_->resize(maat->boundedTo(Ruimte()));
+  // What it needs now may be more than what it was given before, with smaller letters.
+  const QSize nodig = hoofd_ ? venster_->minimumSizeHint() : venster_->size();
+  if (const auto maat = instellingen_.Maat(formulier_.Naam())) {
+    venster_->resize(maat->expandedTo(nodig).boundedTo(Ruimte()));
+  }
+  if (hoofd_) hoofd_->ZetPlek();
 }
 
 void Binder::MaakElementen(QWidget& inhoud) {
@@ -212,7 +216,20 @@ void Binder::Klik(Bediening& bediening) {
 }
 
 void Binder::Dubbelklik(Bediening& bediening) {
-  if (!Geblokkeerd()) Verwerk([&] { formulier_.Dubbelklik(bediening); });
+  if (Geblokkeerd()) return;
+  Bediening* const ok = bediening.HeeftDubbelklik() ? nullptr : OKVoorLijst();
+  Verwerk([&] {
+    if (ok) {
+      formulier_.Klik(*ok);
+    } else {
+      formulier_.Dubbelklik(bediening);
+    }
+  });
+}
+
+Bediening* Binder::OKVoorLijst() const {
+  Bediening* const ok = formulier_.Zoek("OKButton");
+  return ok && ok->Bruikbaar() ? ok : nullptr;
 }
 
 void Binder::Kies(Lijst& lijst, int index) {

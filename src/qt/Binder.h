@@ -20,6 +20,7 @@
 
 namespace lb77 {
 
+class Bladzijde;
 class Hoofdvenster;
 
 // One form and its window. Everything that the user does goes to the form by its own operations,
@@ -58,6 +59,7 @@ class Binder final : public QObject, private Bezorger, private Vensterhouder {
   void Bewerkt(Invoerveld& veld, const std::string& tekst, bool geweigerd) override;
   void SluitVenster() override;
   void ToetsInVenster(const QKeyEvent& toets) override;
+  void Gerold(int stap) override;
   void Verplaatst(QPoint plek) override;
   void BestandGebracht(const std::filesystem::path& bestand) override;
 
@@ -76,6 +78,13 @@ class Binder final : public QObject, private Bezorger, private Vensterhouder {
   bool VerwerkToets(Element* element, const QKeyEvent& toets);
   bool EigenToets(Element& element, const QKeyEvent& toets);
   bool Blader(int code);
+  // A key with Ctrl in a form that is read. True when it needs nothing more.
+  bool CtrlToets(const QKeyEvent& toets);
+  [[nodiscard]] Bladzijde* Blad() const;
+  bool KiesRegel(Bediening& bediening);
+  // The OK that a double click in a list presses which has nothing of its own; null when it can't.
+  [[nodiscard]] Bediening* OKVoorLijst() const;
+  bool LoopInRooster(Element& element, int code);
   // Asks the form for the focus; True when it now has it.
   bool GaNaar(Element& element);
   void FocusGekregen(Element& element);

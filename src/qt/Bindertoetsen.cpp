@@ -3,9 +3,13 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QFocusEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
+#include <QPoint>
 #include <QScopedValueRollback>
+#include <QScrollArea>
 #include <QScrollBar>
+#include <cstdlib>
 
 #include "forms/Hulpgever.h"
 #include "qt/Binder.h"
@@ -16,9 +20,17 @@ namespace lb77 {
 
 namespace {
 
+constexpr int kZelfdeRegel = 6;  // pixels between the middles of what stands on one line
+constexpr int kMeer = 1 << 20;   // more than any window
+
 bool IsInvoer(BedieningSoort soort) {
   return soort == BedieningSoort::Tekstvak || soort == BedieningSoort::Tekstblok ||
          soort == BedieningSoort::Padvak;
+}
+
+// To the ends of a field's text, which are the field's own.
+bool IsRand(int code) {
+  return code == toets::kHome || code == toets::kEnd;
 }
 
 bool IsLijst(BedieningSoort soort) {
@@ -29,6 +41,24 @@ bool IsLijst(BedieningSoort soort) {
 bool IsDrukbaar(BedieningSoort soort) {
   return soort == BedieningSoort::Knop || soort == BedieningSoort::Optie ||
          soort == BedieningSoort::Vinkje || soort == BedieningSoort::Wissellabel;
+}
+
+// Up and down are the field's own, or the list's.
+bool LooptInRooster(BedieningSoort soort) {
+  return soort == BedieningSoort::Tekstvak || soort == BedieningSoort::Padvak ||
+         soort == BedieningSoort::Knop || soort == BedieningSoort::Vinkje;
+}
+
+// Where the eye finds a control: the left end of its line.
+QPoint Begin(const QWidget& widget, const QWidget& venster) {
+  return widget.mapTo(&venster, QPoint(0, widget.height() / 2));
+}
+
+// A form that is larger than the screen scrolls along with the focus.
+void BrengInBeeld(QWidget& widget) {
+  for (QWidget* om = widget.parentWidget(); om; om = om->parentWidget()) {
+    if (auto* rol = qobject_cast<QScrollArea*>(om)) rol->ensureWidgetVisible(&widget);
+  }
 }
 
 // The user's own moves; the toolkit's other reasons are windows and menus that come and go.
@@ -99,6 +129,7 @@ bool Binder::VerwerkToets(Element* element, const QKeyEvent& toets) {
   if (element && !Geblokkeerd() && element->NeemToets(toets)) return true;
   const auto gebeurtenis = NaarToets(toets);
   if (!gebeurtenis) {
+    if (CtrlToets(toets)) return true;
     const bool alt = toets.modifiers().testFlag(Qt::AltModifier);  // Alt+F4 is the window's own
     return (IsEenmalig(toets) && !alt) || IsAlt(toets);
   }
@@ -106,10 +137,13 @@ bool Binder::VerwerkToets(Element* element, const QKeyEvent& toets) {
   // A blank that is held presses once.
   const bool drukbaar = element && IsDrukbaar(element->Bron().Soort());
   if (drukbaar && gebeurtenis->code == toets::kSpatie && toets.isAutoRepeat()) return true;
-  if (Blader(gebeurtenis->code)) return true;
+  const bool inVeld = element && IsInvoer(element->Bron().Soort());
+  if (!(inVeld && IsRand(gebeurtenis->code)) && Blader(gebeurtenis->code)) return true;
+  if (element && gebeurtenis->code == toets::kEnter && KiesRegel(element->Bron())) return true;
   bool klaar = false;
   Verwerk([&] { klaar = formulier_.Toets(element ? &element->Bron() : nullptr, *gebeurtenis); });
   if (klaar || formulier_.Gesloten() || fout_) return true;
+  if (element && LoopInRooster(*element, gebeurtenis->code)) return true;
   if (element && EigenToets(*element, toets)) return true;
   return false;
 }
@@ -117,6 +151,41 @@ bool Binder::VerwerkToets(Element* element, const QKeyEvent& toets) {
 void Binder::GeefHulp() {
   auto* const hulp = dynamic_cast<Hulpgever*>(&gesprek_);
   if (hulp && !verversend_ && !Geblokkeerd()) Verwerk([&] { hulp->GeefHulp(formulier_); });
+}
+
+// Enter on the chosen line of a list does what a double click does; False when there is none.
+bool Binder::KiesRegel(Bediening& bediening) {
+  if (bediening.Soort() != BedieningSoort::Keuzelijst) return false;
+  if (static_cast<const Lijst&>(bediening).Index() < 0) return false;
+  if (!bediening.HeeftDubbelklik() && !OKVoorLijst()) return false;
+  Dubbelklik(bediening);
+  return true;
+}
+
+// Up and Down go to the nearest line of controls above or below, and there to the control that
+// begins most nearly in the same column.
+bool Binder::LoopInRooster(Element& element, int code) {
+  if (code != toets::kOmhoog && code != toets::kOmlaag) return false;
+  if (!LooptInRooster(element.Bron().Soort())) return false;
+  const QPoint hier = Begin(element.Widget(), *venster_);
+  const int kant = code == toets::kOmlaag ? 1 : -1;
+  Element* beste = nullptr;
+  QPoint plek;
+  for (const auto& [bediening, ander] : elementen_) {
+    if (!bediening->Bruikbaar() || !bediening->KanFocus()) continue;
+    const QPoint daar = Begin(ander->Widget(), *venster_);
+    const int hoogte = (daar.y() - hier.y()) * kant;
+    if (hoogte <= element.Widget().height() / 2) continue;
+    const int verschil = beste ? hoogte - (plek.y() - hier.y()) * kant : -kMeer;
+    const bool zelfdeRegel = std::abs(verschil) < kZelfdeRegel;
+    const bool dichter = std::abs(daar.x() - hier.x()) < std::abs(plek.x() - hier.x());
+    if (verschil <= -kZelfdeRegel || (zelfdeRegel && dichter)) {
+      beste = ander.get();
+      plek = daar;
+    }
+  }
+  if (beste) GaNaar(*beste);
+  return true;
 }
 
 // A key that the form leaves to the control.
@@ -148,11 +217,8 @@ bool Binder::EigenToets(Element& element, const QKeyEvent& toets) {
 // A sheet that is higher than its window scrolls first; at its edge the key goes to the form, which
 // may turn the page.
 bool Binder::Blader(int code) {
-  for (auto& [bediening, element] : elementen_) {
-    if (bediening->Soort() != BedieningSoort::Tekstpagina) continue;
-    return static_cast<Bladzijde&>(element->Widget()).Rol(code);
-  }
-  return false;
+  Bladzijde* const blad = Blad();
+  return blad && blad->Rol(code);
 }
 
 void Binder::ToetsInVenster(const QKeyEvent& toets) {
@@ -181,7 +247,13 @@ void Binder::VolgFocus() {
   if (blijft && rust && rust->Bron().Bruikbaar()) return;
   const QScopedValueRollback<bool> eigen(eigenFocus_, true);
   const bool muis = QApplication::mouseButtons() != Qt::NoButton;
+  // Else only a Tab of the toolkit's own would show who has it.
+  venster_->setAttribute(Qt::WA_KeyboardFocusChange);
   doel->setFocus(muis ? Qt::MouseFocusReason : Qt::TabFocusReason);
+  // Before its window is active the toolkit would select nothing, and what is typed must replace.
+  auto* const regel = qobject_cast<QLineEdit*>(doel);
+  if (regel && !muis) regel->selectAll();
+  BrengInBeeld(*doel);
 }
 
 }  // namespace lb77

@@ -1,6 +1,10 @@
 #include "qt/Bladzijde.h"
 
+#include <QApplication>
+#include <QClipboard>
 #include <QScrollBar>
+#include <QTextBlock>
+#include <QTextCursor>
 #include <algorithm>
 
 #include "forms/Toets.h"
@@ -12,14 +16,16 @@ namespace {
 
 constexpr int kWit = 14;  // pixels between the edge of the sheet and its text
 constexpr int kZichtbareRegels = 34;
+constexpr qreal kKleinste = 6;  // points
+constexpr qreal kGrootste = 40;
 
 }  // namespace
 
-Bladzijde::Bladzijde(QWidget* ouder) : QPlainTextEdit(ouder) {
+Bladzijde::Bladzijde(QWidget* ouder) : QPlainTextEdit(ouder), begin_(font().pointSizeF()) {
   setReadOnly(true);
   setUndoRedoEnabled(false);
   setLineWrapMode(QPlainTextEdit::NoWrap);
-  setFont(VasteLetter(font().pointSizeF()));
+  setFont(VasteLetter(begin_));
   setFocusPolicy(Qt::ClickFocus);
   document()->setDocumentMargin(kWit);
   ZetPapier(*this);
@@ -27,7 +33,74 @@ Bladzijde::Bladzijde(QWidget* ouder) : QPlainTextEdit(ouder) {
 }
 
 void Bladzijde::ZetTekst(const QString& tekst) {
-  if (tekst != toPlainText()) setPlainText(tekst);
+  if (tekst == toPlainText()) return;
+  setPlainText(tekst);
+  gemerkt_ = {};  // the mark went with the text
+}
+
+void Bladzijde::Merk(const Vindpagina::Plek& plek) {
+  if (plek == gemerkt_) return;
+  gemerkt_ = plek;
+  QTextCursor merk(document());
+  if (plek.lengte > 0) {
+    merk = QTextCursor(document()->findBlockByNumber(plek.regel));
+    const int ruimte = std::max(merk.block().length() - 1 - plek.kolom, 0);
+    merk.movePosition(QTextCursor::Right, QTextCursor::MoveAnchor, plek.kolom);
+    merk.movePosition(QTextCursor::Right, QTextCursor::KeepAnchor, std::min(plek.lengte, ruimte));
+  }
+  setTextCursor(merk);
+  // The selection pales while the focus is elsewhere.
+  QTextEdit::ExtraSelection kleur;
+  kleur.cursor = merk;
+  kleur.format.setBackground(QColor(0xff, 0xe0, 0x66));
+  kleur.format.setForeground(Qt::black);
+  setExtraSelections({kleur});
+  if (plek.lengte > 0) ensureCursorVisible();
+}
+
+bool Bladzijde::CtrlToets(const QKeyEvent& toets) {
+  switch (toets.key()) {
+    case Qt::Key_C:
+    case Qt::Key_Insert:
+      Kopieer();
+      return true;
+    case Qt::Key_A:
+      selectAll();
+      return true;
+    case Qt::Key_Plus:
+    case Qt::Key_Equal:
+      Vergroot(1);
+      return true;
+    case Qt::Key_Minus:
+      Vergroot(-1);
+      return true;
+    case Qt::Key_0:
+      Vergroot(0);
+      return true;
+    default:
+      return false;
+  }
+}
+
+void Bladzijde::Kopieer() {
+  if (textCursor().hasSelection()) {
+    copy();
+  } else {
+    QApplication::clipboard()->setText(toPlainText());
+  }
+}
+
+void Bladzijde::Vergroot(int stap) {
+  const qreal punten = stap == 0 ? begin_ : font().pointSizeF() + stap;
+  setFont(VasteLetter(std::clamp(punten, kKleinste, kGrootste)));
+  LegInMidden();
+}
+
+void Bladzijde::wheelEvent(QWheelEvent* wiel) {
+  if (!wiel->modifiers().testFlag(Qt::ControlModifier)) return QPlainTextEdit::wheelEvent(wiel);
+  const int draai = wiel->angleDelta().y();
+  if (draai != 0) Vergroot(draai > 0 ? 1 : -1);
+  wiel->accept();
 }
 
 bool Bladzijde::Rol(int code) {
@@ -64,12 +137,16 @@ QSize Bladzijde::sizeHint() const {
   return {breedte + 2, kZichtbareRegels * fontMetrics().lineSpacing() + 2 * kWit};
 }
 
-// On a wide screen the sheet lies in the middle.
 void Bladzijde::resizeEvent(QResizeEvent* maat) {
+  LegInMidden();
+  QPlainTextEdit::resizeEvent(maat);
+}
+
+// On a wide screen.
+void Bladzijde::LegInMidden() {
   const int over = width() - sizeHint().width();
   const int rand = std::max(over / 2, 0);
   setViewportMargins(rand, 0, rand, 0);
-  QPlainTextEdit::resizeEvent(maat);
 }
 
 }  // namespace lb77

@@ -1,9 +1,13 @@
 // The viewer's page: 80 columns by 69 lines of fixed pitch, as it will stand on paper.
 #pragma once
 
+#include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <QResizeEvent>
 #include <QSize>
+#include <QWheelEvent>
+
+#include "forms/Leesformulier.h"
 
 namespace lb77 {
 
@@ -19,10 +23,26 @@ class Bladzijde final : public QPlainTextEdit {
   void ZetTekst(const QString& tekst);
   // Scrolls by a virtual key code: lines, screens, or to an end. False when it can go no further.
   bool Rol(int code);
+  // Marks a place, which is selected too, and brings it in view. Length 0 takes the mark away.
+  void Merk(const Vindpagina::Plek& plek);
+  // Ctrl with a key that is the sheet's own: C copies what is selected, else the whole page, A selects
+  // it all, plus, minus and 0 set the size of its letters. False for any other.
+  bool CtrlToets(const QKeyEvent& toets);
   [[nodiscard]] QSize sizeHint() const override;
 
  protected:
+  // With Ctrl the wheel sets the size; at an edge of the sheet it is the window's.
+  void wheelEvent(QWheelEvent* wiel) override;
   void resizeEvent(QResizeEvent* maat) override;
+
+ private:
+  // Steps larger or smaller; 0 is the size of the beginning.
+  void Vergroot(int stap);
+  void Kopieer();
+  void LegInMidden();
+
+  qreal begin_;  // points
+  Vindpagina::Plek gemerkt_;
 };
 
 }  // namespace lb77

@@ -17,4 +17,18 @@ void Dialoog::keyPressEvent(QKeyEvent* toets) {
   houder_.ToetsInVenster(*toets);
 }
 
+// A fine wheel turns a notch in many small steps.
+void Dialoog::wheelEvent(QWheelEvent* wiel) {
+  const int draai = wiel->angleDelta().y();
+  if ((draai > 0) != (gedraaid_ > 0)) gedraaid_ = 0;
+  gedraaid_ += draai;
+  if (gedraaid_ > -QWheelEvent::DefaultDeltasPerStep &&
+      gedraaid_ < QWheelEvent::DefaultDeltasPerStep) {
+    return;
+  }
+  const int stap = gedraaid_ > 0 ? -1 : 1;
+  gedraaid_ = 0;
+  houder_.Gerold(stap);
+}
+
 }  // namespace lb77

@@ -4,6 +4,7 @@
 #include <QCloseEvent>
 #include <QDialog>
 #include <QKeyEvent>
+#include <QWheelEvent>
 
 #include "qt/Vensterhouder.h"
 
@@ -19,9 +20,11 @@ class Dialoog final : public QDialog {
  protected:
   void closeEvent(QCloseEvent* sluiten) override;
   void keyPressEvent(QKeyEvent* toets) override;
+  void wheelEvent(QWheelEvent* wiel) override;
 
  private:
   Vensterhouder& houder_;
+  int gedraaid_ = 0;  // of the wheel, less than a notch
 };
 
 }  // namespace lb77

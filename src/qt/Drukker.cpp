@@ -1,11 +1,12 @@
 #include "qt/Drukker.h"
 
 #include <QFontMetricsF>
+#include <QPageLayout>
 #include <QPainter>
-#include <QPrintDialog>
 #include <QPrinter>
 #include <algorithm>
 
+#include "qt/Afdrukvenster.h"
 #include "qt/Berichtvenster.h"
 #include "qt/Bladzijde.h"
 #include "qt/Stijl.h"
@@ -17,6 +18,10 @@ namespace {
 
 constexpr int kGrootsteLetter = 12;  // points
 constexpr int kPuntenPerInch = 72;
+constexpr qreal kMarge = 10;  // mm
+constexpr qreal kVoet = 8;    // mm
+constexpr qreal kMmPerInch = 25.4;
+constexpr int kVoetLetter = 9;  // points
 
 bool Past(const QFont& letter, QPagedPaintDevice& papier, QSizeF vlak) {
   const QFontMetricsF maten(letter, &papier);
@@ -24,13 +29,31 @@ bool Past(const QFont& letter, QPagedPaintDevice& papier, QSizeF vlak) {
          maten.lineSpacing() * kBladRegels <= vlak.height();
 }
 
-void DrukPagina(QPainter& verf, const std::vector<std::string>& regels) {
-  const QFontMetricsF maten(verf.font(), verf.device());
-  qreal y = maten.ascent();
+void DrukPagina(QPainter& verf, const Velindeling& vel, const std::vector<std::string>& regels) {
+  verf.setFont(vel.letter);
+  const QFontMetricsF maten(vel.letter, verf.device());
+  qreal y = vel.tekst.top() + maten.ascent();
   for (const std::string& regel : regels) {
-    verf.drawText(QPointF(0, y), NaarQt(regel));
+    verf.drawText(QPointF(vel.tekst.left(), y), NaarQt(regel));
     y += maten.lineSpacing();
   }
+}
+
+void DrukVoet(QPainter& verf, const Velindeling& vel, qsizetype nummer, qsizetype totaal) {
+  verf.setFont(vel.voetletter);
+  verf.drawText(vel.voet, Qt::AlignRight | Qt::AlignBottom,
+                QStringLiteral("%1 van %2").arg(nummer).arg(totaal));
+}
+
+bool IsLeeg(const std::vector<std::string>& pagina) {
+  return std::ranges::all_of(pagina, [](const std::string& regel) {
+    return regel.find_first_not_of(" \t") == std::string::npos;
+  });
+}
+
+// So many millimetres must come on top of what the device leaves white by itself.
+qreal Erbij(qreal marge, qreal dotsPerMm) {
+  return std::max(kMarge - marge, 0.0) * dotsPerMm;
 }
 
 }  // namespace
@@ -44,13 +67,48 @@ QFont Drukletter(QPagedPaintDevice& papier, QSizeF vlak, int dpi) {
   return letter;
 }
 
+Afdruk ZonderLegeVellen(const Afdruk& afdruk) {
+  Afdruk uit = afdruk;
+  std::erase_if(uit.paginas, IsLeeg);
+  return uit;
+}
+
+void StelPapierIn(QPagedPaintDevice& papier) {
+  papier.setPageSize(QPageSize(QPageSize::A4));
+  papier.setPageOrientation(QPageLayout::Portrait);
+  papier.setPageMargins(QMarginsF(kMarge, kMarge, kMarge, kMarge), QPageLayout::Millimeter);
+}
+
+Velindeling DeelIn(QPagedPaintDevice& papier) {
+  const QMarginsF wit = papier.pageLayout().margins(QPageLayout::Millimeter);
+  const qreal x = papier.logicalDpiX() / kMmPerInch;
+  const qreal y = papier.logicalDpiY() / kMmPerInch;
+  const QRectF vlak = QRectF(0, 0, papier.width(), papier.height())
+                          .adjusted(Erbij(wit.left(), x), Erbij(wit.top(), y),
+                                    -Erbij(wit.right(), x), -Erbij(wit.bottom(), y));
+  Velindeling vel;
+  vel.tekst = vlak.adjusted(0, 0, 0, -kVoet * y);
+  vel.voet = QRectF(QPointF(vlak.left(), vel.tekst.bottom()), vlak.bottomRight());
+  vel.letter = Drukletter(papier, vel.tekst.size(), papier.logicalDpiY());
+  vel.voetletter = vel.letter;
+  vel.voetletter.setPixelSize(std::max(kVoetLetter * papier.logicalDpiY() / kPuntenPerInch, 1));
+  // The block of text stands in the middle of the sheet.
+  const qreal breedte = QFontMetricsF(vel.letter, &papier).horizontalAdvance(u'0') * kBladKolommen;
+  const qreal rand = std::max((vlak.width() - breedte) / 2, 0.0);
+  vel.tekst.adjust(rand, 0, -rand, 0);
+  vel.voet.adjust(rand, 0, -rand, 0);
+  return vel;
+}
+
 bool Druk(QPagedPaintDevice& papier, const Afdruk& afdruk) {
   QPainter verf;
   if (!verf.begin(&papier)) return false;
-  verf.setFont(Drukletter(papier, QSizeF(papier.width(), papier.height()), papier.logicalDpiY()));
-  for (const std::vector<std::string>& pagina : afdruk.paginas) {
-    if (&pagina != &afdruk.paginas.front() && !papier.newPage()) return false;
-    DrukPagina(verf, pagina);
+  const Velindeling vel = DeelIn(papier);
+  const auto totaal = static_cast<qsizetype>(afdruk.paginas.size());
+  for (qsizetype nummer = 1; nummer <= totaal; ++nummer) {
+    if (nummer > 1 && !papier.newPage()) return false;
+    DrukPagina(verf, vel, afdruk.paginas[static_cast<std::size_t>(nummer - 1)]);
+    DrukVoet(verf, vel, nummer, totaal);
   }
   return verf.end();
 }
@@ -64,14 +122,15 @@ bool DrukOfMeld(QWidget* ouder, QPagedPaintDevice& papier, const Afdruk& afdruk)
   return false;
 }
 
-bool VraagEnDrukAf(QWidget* ouder, const Afdruk& afdruk) {
-  QPrinter printer(QPrinter::HighResolution);
-  printer.setDocName(NaarQt(afdruk.titel));
-  QPrintDialog vraag(&printer, ouder);
-  vraag.setWindowTitle(QStringLiteral("Afdrukken"));
-  vraag.setOption(QAbstractPrintDialog::PrintPageRange, false);
-  if (vraag.exec() != QDialog::Accepted) return false;
-  return DrukOfMeld(ouder, printer, afdruk);
+bool VraagEnDrukAf(QWidget* ouder, const Afdruk& afdruk, VensterInstellingen& instellingen) {
+  const Afdruk vol = ZonderLegeVellen(afdruk);
+  if (vol.paginas.empty()) {
+    static_cast<void>(ToonBericht(ouder, BerichtSoort::Uitroep, Knoppen::OK,
+                                  "Hier staat niets om af te drukken."));
+    return false;
+  }
+  Afdrukvenster venster(ouder, vol, instellingen);
+  return venster.exec() == QDialog::Accepted;
 }
 
 }  // namespace lb77

@@ -3,21 +3,40 @@
 
 #include <QFont>
 #include <QPagedPaintDevice>
+#include <QRectF>
 #include <QSizeF>
 #include <QWidget>
 
 #include "forms/Gesprek.h"
+#include "qt/VensterInstellingen.h"
 
 namespace lb77 {
 
-// Asks for a printer over `ouder` (may be null) and prints; False when the user cancelled, or the
-// printer failed and the user was told.
-[[nodiscard]] bool VraagEnDrukAf(QWidget* ouder, const Afdruk& afdruk);
+// Shows the sheets over `ouder` (may be null), and prints them when the user says so; False when he
+// left, or when nothing stands on them, which he is told. What he kept as PDF instead is not printed.
+[[nodiscard]] bool VraagEnDrukAf(QWidget* ouder, const Afdruk& afdruk,
+                                 VensterInstellingen& instellingen);
+
+// The pages on which something stands.
+[[nodiscard]] Afdruk ZonderLegeVellen(const Afdruk& afdruk);
+
+// A4, upright, with margins of 10 mm, or more where the device needs them.
+void StelPapierIn(QPagedPaintDevice& papier);
+
+// Where the text stands on a sheet, in dots of the paint area, and its letter. At least 10 mm of white
+// stand around it, however little the device asks; below it is the number of the sheet.
+struct Velindeling {
+  QRectF tekst;
+  QRectF voet;
+  QFont letter;
+  QFont voetletter;
+};
+[[nodiscard]] Velindeling DeelIn(QPagedPaintDevice& papier);
 
 // Druk, with a box over `ouder` when it fails.
 [[nodiscard]] bool DrukOfMeld(QWidget* ouder, QPagedPaintDevice& papier, const Afdruk& afdruk);
 
-// Draws each page on a sheet of its own; False when the device failed.
+// Draws each page on a sheet of its own, with its number and the total; False when the device failed.
 [[nodiscard]] bool Druk(QPagedPaintDevice& papier, const Afdruk& afdruk);
 
 // The largest letter, at most 12 points, in which 80 columns by 69 lines fit `vlak` (in dots of

@@ -1,7 +1,6 @@
 #include "qt/Hoofdvenster.h"
 
 #include <QGuiApplication>
-#include <QKeySequence>
 #include <QList>
 #include <QMenuBar>
 #include <QMimeData>
@@ -14,7 +13,9 @@
 #include <string_view>
 
 #include "forms/Bestandsontvanger.h"
+#include "forms/Redengever.h"
 #include "qt/Indelingskeuze.h"
+#include "qt/Menutoetsen.h"
 #include "qt/Vertaling.h"
 #include "qt/Voorblad.h"
 
@@ -23,15 +24,6 @@ namespace lb77 {
 namespace {
 
 constexpr QSize kBeginmaat{900, 560};
-
-// The entries that have a key of their own.
-struct Sneltoets {
-  std::string_view keuze;
-  QKeySequence::StandardKey toets;
-};
-constexpr Sneltoets kSneltoetsen[] = {
-    {"VeiligOngedaan", QKeySequence::Undo},
-};
 
 std::vector<MenuKeuze*> Keuzes(const Formulier& formulier) {
   std::vector<MenuKeuze*> uit;
@@ -52,12 +44,14 @@ const Statusbalk* ZoekStatus(const Formulier& formulier) {
   return nullptr;
 }
 
-// A stored place on a screen that is no longer there would hide the window.
-bool InBeeld(QPoint plek) {
-  const auto schermen = QGuiApplication::screens();
-  return std::any_of(schermen.begin(), schermen.end(), [plek](const QScreen* scherm) {
-    return scherm->availableGeometry().adjusted(0, 0, -60, -60).contains(plek);
-  });
+constexpr QSize kKader{4, 40};  // what a frame takes beside the window, and a title above it
+
+// The screen that a stored place lies on; null when it is no longer there.
+const QScreen* SchermVan(QPoint plek) {
+  for (const QScreen* scherm : QGuiApplication::screens()) {
+    if (scherm->availableGeometry().contains(plek)) return scherm;
+  }
+  return nullptr;
 }
 
 // The one file that is dragged, when the form takes it; else empty.
@@ -91,8 +85,18 @@ Hoofdvenster::Hoofdvenster(Formulier& formulier, Vensterhouder& houder, Bezorger
   if (const Statusbalk* balk = ZoekStatus(formulier)) status_->setObjectName(NaarQt(balk->Naam()));
   setAcceptDrops(true);
   resize(kBeginmaat);
-  const auto& plek = formulier.Positie();
-  if (plek && InBeeld({plek->x, plek->y})) move(plek->x, plek->y);
+}
+
+// On a screen that is no longer there the window system finds it a place.
+void Hoofdvenster::ZetPlek() {
+  const auto& plek = formulier_.Positie();
+  const QScreen* const scherm = plek ? SchermVan({plek->x, plek->y}) : nullptr;
+  if (!scherm) return;
+  const QRect ruimte = scherm->availableGeometry();
+  const QPoint uiterste =
+      ruimte.topLeft() + QPoint(std::max(0, ruimte.width() - width() - kKader.width()),
+                                std::max(0, ruimte.height() - height() - kKader.height()));
+  move(std::min(plek->x, uiterste.x()), std::min(plek->y, uiterste.y()));
 }
 
 bool Hoofdvenster::IsMenu(const MenuKeuze& keuze) const {
@@ -119,9 +123,8 @@ void Hoofdvenster::MaakKeuze(MenuKeuze& keuze, Bezorger& bezorger) {
     connect(actie, &QAction::triggered, this, [&keuze, &bezorger] { bezorger.Klik(keuze); });
   }
   actie->setObjectName(NaarQt(keuze.Naam()));
-  for (const Sneltoets& sneltoets : kSneltoetsen) {
-    if (sneltoets.keuze == keuze.Naam()) actie->setShortcut(sneltoets.toets);
-  }
+  actie->setShortcut(SneltoetsVan(keuze.Naam()));
+  if (ouder && BegintGroep(keuze.Naam())) ouder->insertSeparator(actie);
   actie->setMenuRole(QAction::NoRole);
   keuzes_.push_back({&keuze, actie});
 }
@@ -135,12 +138,18 @@ void Hoofdvenster::Bijwerken() {
     keuze.actie->setText(NaarQt(keuze.bron->Bijschrift()));
     keuze.actie->setEnabled(keuze.bron->Ingeschakeld());
     keuze.actie->setVisible(keuze.bron->Zichtbaar());
-    keuze.actie->setStatusTip(NaarQt(keuze.bron->Toelichting()));
+    keuze.actie->setStatusTip(Statustekst(*keuze.bron));
   }
   const Statusbalk* balk = ZoekStatus(formulier_);
   const QString tekst = balk ? NaarQt(balk->Tekst()) : QString();
   if (status_->text() != tekst) status_->setText(tekst);
   voorblad_->ZetTekst(NaarQt(formulier_.Titel()), tekst);
+}
+
+QString Hoofdvenster::Statustekst(const MenuKeuze& keuze) const {
+  const auto* const redengever = dynamic_cast<const Redengever*>(&formulier_);
+  if (keuze.Ingeschakeld() || !redengever) return NaarQt(keuze.Toelichting());
+  return NaarQt(redengever->WaaromGrijs(keuze));
 }
 
 QAction* Hoofdvenster::Actie(std::string_view naam) const {

@@ -28,6 +28,8 @@ class Hoofdvenster final : public QMainWindow {
 
   // Where the form's own controls lie, those that are no menu.
   [[nodiscard]] QWidget& Inhoud() const;
+  // Puts the window where the form wants it, as near as its screen lets it be seen whole.
+  void ZetPlek();
   // Brings menus and status bar in line with the form.
   void Bijwerken();
   // The action or menu of an entry, null when the form has no entry of that name.
@@ -47,6 +49,8 @@ class Hoofdvenster final : public QMainWindow {
   };
   void MaakMenus(Bezorger& bezorger);
   void MaakKeuze(MenuKeuze& keuze, Bezorger& bezorger);
+  // What the status bar says of an entry under the mouse or the arrow keys.
+  [[nodiscard]] QString Statustekst(const MenuKeuze& keuze) const;
   [[nodiscard]] bool IsMenu(const MenuKeuze& keuze) const;
 
   Formulier& formulier_;

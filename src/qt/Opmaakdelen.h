@@ -3,7 +3,9 @@
 
 #include <QHBoxLayout>
 #include <QWidget>
+#include <string>
 
+#include "forms/Formulier.h"
 #include "qt/Element.h"
 
 namespace lb77::opmaak {
@@ -27,6 +29,13 @@ inline bool IsSmal(const Element& element) {
   return soort == BedieningSoort::Knop || soort == BedieningSoort::Keuzevak ||
          element.Widget().maximumWidth() < QWIDGETSIZE_MAX;
 }
+
+// What is said of a control that has no words of its own: those of its line and its column.
+void GeefLeesnaam(Bediening& bediening, const std::string& woorden);
+// The words before a control, else those on it.
+[[nodiscard]] std::string WatErVoorStaat(const Bediening& eerste);
+// A name that the form has more than once gets a number.
+void MaakLeesnamenUniek(const Formulier& formulier);
 
 inline QHBoxLayout* NieuweRij() {
   auto* rij = new QHBoxLayout;

@@ -12,6 +12,8 @@
 #include "qt/Indelingskeuze.h"
 #include "qt/Opmaakdelen.h"
 #include "qt/Stijl.h"
+#include "qt/Vertaling.h"
+#include "text/Getallen.h"
 #include "text/Tekens.h"
 
 namespace lb77 {
@@ -50,6 +52,12 @@ Opmaker::Opmaker(const Formulier& formulier, QWidget& ouder,
     : formulier_(formulier), ouder_(ouder), element_(std::move(element)) {}
 
 void Opmaker::Maak(const Blok& blok, QBoxLayout& in) {
+  Plaats(blok, in);
+  LijnAllesUit();
+  MaakLeesnamenUniek(formulier_);
+}
+
+void Opmaker::Plaats(const Blok& blok, QBoxLayout& in) {
   switch (blok.soort) {
     case Blok::Soort::Veld:
       Velden(indeling::Velden({blok}), in);
@@ -87,19 +95,34 @@ std::vector<Element*> Opmaker::Elementen(const Blok& blok) const {
 void Opmaker::Kolom(const Blok& blok, QBoxLayout& in) {
   QVBoxLayout* kolom = NieuweKolom();
   in.addLayout(kolom);
-  for (const Blok& deel : blok.delen) Maak(deel, *kolom);
+  // The buttons stay at the bottom of a window that was made larger, and the rest together.
+  const bool hoog = HeeftHoog(blok);
+  for (const Blok& deel : blok.delen) {
+    if (deel.soort == Blok::Soort::Knoppen && !hoog) kolom->addStretch(1);
+    Plaats(deel, *kolom);
+  }
+}
+
+bool Opmaker::HeeftHoog(const Blok& blok) const {
+  const std::vector<Element*> elementen = Elementen(blok);
+  return std::any_of(elementen.begin(), elementen.end(),
+                     [](const Element* een) { return IsHoog(een->Bron()); });
 }
 
 void Opmaker::Rij(const Blok& blok, QBoxLayout& in) {
   QHBoxLayout* rij = NieuweRij();
   in.addLayout(rij);
+  ++naast_;
   for (const Blok& deel : blok.delen) {
     if (deel.soort != Blok::Soort::Veld) {
-      Maak(deel, *rij);
+      Plaats(deel, *rij);
+      const bool los = deel.soort != Blok::Soort::Groep && !HeeftHoog(deel);
+      if (los) rij->itemAt(rij->count() - 1)->setAlignment(Qt::AlignTop);
     } else {
       for (Element* element : Elementen(deel)) Naast(*element, *rij);
     }
   }
+  --naast_;
 }
 
 void Opmaker::Naast(Element& element, QBoxLayout& in) {
@@ -112,7 +135,9 @@ void Opmaker::Groep(const Blok& blok, QBoxLayout& in) {
   in.addWidget(groep);
   auto* kolom = NieuweKolom();
   groep->setLayout(kolom);
-  for (const Blok& deel : blok.delen) Maak(deel, *kolom);
+  ++diepte_;
+  for (const Blok& deel : blok.delen) Plaats(deel, *kolom);
+  --diepte_;
 }
 
 void Opmaker::Knoppen(const Blok& blok, QBoxLayout& in) {
@@ -145,6 +170,7 @@ void Opmaker::Velden(const Blok& blok, QBoxLayout& in) {
   for (const Blok& deel : blok.delen) {
     Veldrij(deel, {*rooster, rooster->rowCount(), 2 * paren + (uitleg ? 1 : 0), uitleg});
   }
+  Onthoud(*rooster, true);
 }
 
 // A field and what is to be said about it.
@@ -180,7 +206,7 @@ void Opmaker::Veldrij(const Blok& blok, Roosterregel regel) {
   } else {
     auto* kolom = NieuweKolom();
     regel.rooster.addLayout(kolom, regel.nummer, 0, 1, regel.kolommen);
-    Maak(blok, *kolom);
+    Plaats(blok, *kolom);
   }
 }
 
@@ -189,16 +215,22 @@ void Opmaker::Samen(const std::vector<Element*>& elementen, Roosterregel regel) 
   QHBoxLayout* rij = NieuweRij();
   regel.rooster.addLayout(rij, regel.nummer, 1, 1, regel.Veldbreedte());
   Element& eerste = *elementen.front();
-  if (HeeftPrompt(eerste.Bron())) {
-    regel.rooster.addWidget(&eerste.MaakPrompt(ouder_), regel.nummer, 0);
-    rij->addWidget(&eerste.Widget());
-  } else if (IsOpschrift(eerste.Bron())) {
+  const bool opschrift = !HeeftPrompt(eerste.Bron()) && IsOpschrift(eerste.Bron());
+  if (opschrift) {
     regel.rooster.addWidget(&eerste.Widget(), regel.nummer, 0);
   } else {
+    if (HeeftPrompt(eerste.Bron())) {
+      regel.rooster.addWidget(&eerste.MaakPrompt(ouder_), regel.nummer, 0);
+    }
     rij->addWidget(&eerste.Widget());
   }
-  for (auto it = elementen.begin() + 1; it != elementen.end(); ++it) Naast(**it, *rij);
-  if (std::all_of(elementen.begin() + 1, elementen.end(), [](Element* e) { return IsSmal(*e); })) {
+  const std::string wie = WatErVoorStaat(eerste.Bron());
+  for (auto it = elementen.begin() + 1; it != elementen.end(); ++it) {
+    GeefLeesnaam((*it)->Bron(), wie);
+    Naast(**it, *rij);
+  }
+  const auto velden = elementen.begin() + (opschrift ? 1 : 0);
+  if (std::all_of(velden, elementen.end(), [](Element* e) { return IsSmal(*e); })) {
     rij->addStretch(1);
   }
 }
@@ -262,6 +294,10 @@ static QString Kop(const Blok& blok, const std::vector<Element*>& elementen) {
   return gelijk && elementen.size() > 1 ? QString::fromStdString(eerste.Bijschrift()) : QString();
 }
 
+static std::string Regelnaam(const QString& kop, int regel) {
+  return (kop.isEmpty() ? std::string("regel") : VanQt(kop).tekst) + " " + GetalTekst(regel);
+}
+
 void Opmaker::Tabelkolom(const Blok& blok, int kolom, QGridLayout& rooster) {
   const std::vector<Element*> elementen = Elementen(blok);
   const QString kop = Kop(blok, elementen);
@@ -277,6 +313,7 @@ void Opmaker::Tabelkolom(const Blok& blok, int kolom, QGridLayout& rooster) {
     if (kop.isEmpty() && HeeftPrompt(element->Bron())) cel->addWidget(&element->MaakPrompt(ouder_));
     cel->addWidget(&element->Widget());
     MaakCel(*element, blok, KnopTekens(elementen));
+    GeefLeesnaam(element->Bron(), Regelnaam(kop, regel - 1));
     const bool smal = blok.breedte > 0 && blok.breedte <= kSmalleKolom;
     if (element->Bron().Soort() == BedieningSoort::Teller && !smal) {
       rooster.setColumnStretch(kolom, 1);

@@ -5,6 +5,7 @@
 #include <QGridLayout>
 #include <QWidget>
 #include <functional>
+#include <string>
 #include <vector>
 
 #include "forms/Formulier.h"
@@ -24,6 +25,7 @@ class Opmaker {
   void Maak(const Blok& blok, QBoxLayout& in);
 
  private:
+  void Plaats(const Blok& blok, QBoxLayout& in);
   void Kolom(const Blok& blok, QBoxLayout& in);
   void Rij(const Blok& blok, QBoxLayout& in);
   void Groep(const Blok& blok, QBoxLayout& in);
@@ -57,16 +59,32 @@ class Opmaker {
   [[nodiscard]] std::vector<Roosterkolom> Roosterkolommen(const Blok& blok) const;
   // Has the cell something that takes what room there is?
   [[nodiscard]] bool IsBreed(const Blok& cel) const;
+  [[nodiscard]] std::string Regelwoorden(const Blok& regel) const;
   // A cell of a grid: the prompt in the left one of its two columns.
   void Cel(const Blok& blok, QGridLayout& rooster, int regel, int kolom);
   // A widget with its prompt, if it has one, before it.
   void Naast(Element& element, QBoxLayout& in);
 
   [[nodiscard]] std::vector<Element*> Elementen(const Blok& blok) const;
+  // Does anything in it take what height there is?
+  [[nodiscard]] bool HeeftHoog(const Blok& blok) const;
+
+  // A grid whose prompts begin at a left edge that others share.
+  struct Zijde {
+    QGridLayout* rooster;
+    int diepte;   // frames around it
+    bool velden;  // its prompts stand in the even columns
+  };
+  void Onthoud(QGridLayout& rooster, bool velden);
+  void LijnUit(const std::vector<QGridLayout*>& roosters, int kolom);
+  void LijnAllesUit();
 
   const Formulier& formulier_;
   QWidget& ouder_;
   std::function<Element&(const Bediening&)> element_;
+  std::vector<Zijde> zijden_;
+  int diepte_ = 0;  // frames around what is being placed
+  int naast_ = 0;   // rows of blocks around it: its left edge is its own
 };
 
 }  // namespace lb77

@@ -3,6 +3,7 @@
 #include <QDesktopServices>
 #include <QUrl>
 #include <algorithm>
+#include <system_error>
 
 #include "qt/Berichtvenster.h"
 #include "qt/Bestandsvenster.h"
@@ -11,6 +12,22 @@
 #include "qt/Vertaling.h"
 
 namespace lb77 {
+
+namespace {
+
+// A browser tells a page by its name: what is called otherwise gets a copy beside it, where its links
+// still lead to its other pages.
+std::filesystem::path VoorBrowser(const std::filesystem::path& pad) {
+  const QString uitgang = PadNaarQt(pad.extension()).toLower();
+  if (uitgang == QLatin1String(".htm") || uitgang == QLatin1String(".html")) return pad;
+  std::filesystem::path pagina = pad;
+  pagina.replace_extension(".htm");
+  std::error_code code;
+  std::filesystem::copy_file(pad, pagina, std::filesystem::copy_options::overwrite_existing, code);
+  return code ? pad : pagina;
+}
+
+}  // namespace
 
 QtGesprek::QtGesprek(const std::filesystem::path& map) : instellingen_(map) {}
 
@@ -54,11 +71,16 @@ std::optional<std::filesystem::path> QtGesprek::VraagBestand(const BestandsVraag
 }
 
 bool QtGesprek::DrukAf(const Afdruk& afdruk) {
-  return Daarover([&](QWidget* ouder) { return VraagEnDrukAf(ouder, afdruk); });
+  return Daarover([&](QWidget* ouder) { return VraagEnDrukAf(ouder, afdruk, instellingen_); });
 }
 
 bool QtGesprek::OpenInBrowser(const std::filesystem::path& pad) {
-  return QDesktopServices::openUrl(QUrl::fromLocalFile(PadNaarQt(pad)));
+  return QDesktopServices::openUrl(QUrl::fromLocalFile(PadNaarQt(VoorBrowser(pad))));
+}
+
+std::optional<std::filesystem::path> QtGesprek::VraagOpslag(const BestandsVraag& vraag,
+                                                            const std::filesystem::path& naam) {
+  return Daarover([&](QWidget* ouder) { return KiesOpslag(ouder, vraag, naam, instellingen_); });
 }
 
 std::optional<std::string> QtGesprek::MaakPdf(const std::filesystem::path& pad,

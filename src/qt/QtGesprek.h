@@ -7,6 +7,7 @@
 #include <memory>
 #include <vector>
 
+#include "forms/Bureaublad.h"
 #include "forms/Gesprek.h"
 #include "forms/Hulpgever.h"
 #include "qt/Binder.h"
@@ -16,7 +17,7 @@ namespace lb77 {
 
 // Shows forms, boxes and questions with the toolkit. Forms lie in a stack; only the top one is
 // reached by the user. An application object must exist.
-class QtGesprek final : public Gesprek, public Hulpgever {
+class QtGesprek final : public Gesprek, public Bureaublad, public Hulpgever {
  public:
   // `map` is the program's directory, where window sizes are kept; empty keeps none.
   explicit QtGesprek(const std::filesystem::path& map = {});
@@ -32,6 +33,8 @@ class QtGesprek final : public Gesprek, public Hulpgever {
   [[nodiscard]] std::optional<std::string> MaakPdf(const std::filesystem::path& pad,
                                                    const Tekening& tekening,
                                                    const Vellen& vellen) override;
+  [[nodiscard]] std::optional<std::filesystem::path> VraagOpslag(
+      const BestandsVraag& vraag, const std::filesystem::path& naam) override;
   void Ververs(Formulier& formulier) override;
   [[nodiscard]] bool StopGevraagd(Formulier& formulier) override;
 

@@ -8,6 +8,7 @@
 #include "qt/Opmaakdelen.h"
 #include "qt/Opmaker.h"
 #include "qt/Stijl.h"
+#include "qt/Vertaling.h"
 #include "text/Tekens.h"
 
 namespace lb77 {
@@ -49,6 +50,17 @@ std::vector<Opmaker::Roosterkolom> Opmaker::Roosterkolommen(const Blok& blok) co
   return uit;
 }
 
+// The words that begin a line.
+std::string Opmaker::Regelwoorden(const Blok& regel) const {
+  const std::vector<Element*> elementen = Elementen(regel);
+  return elementen.empty() ? std::string() : WatErVoorStaat(elementen.front()->Bron());
+}
+
+static std::string Kopwoorden(const std::vector<std::string>& koppen, std::size_t kolom) {
+  if (kolom >= koppen.size() || koppen[kolom].empty()) return {};
+  return VanQt(QString::fromStdString(koppen[kolom])).tekst + " ";
+}
+
 // What room is left goes to the columns that can use it; a heading stands above the fields.
 void Opmaker::Rooster(const Blok& blok, QBoxLayout& in) {
   auto* rooster = new QGridLayout;
@@ -70,12 +82,16 @@ void Opmaker::Rooster(const Blok& blok, QBoxLayout& in) {
   int nummer = 1;
   for (const Blok& regel : blok.delen) {
     int kolom = 0;
+    const std::string wie = Regelwoorden(regel);
     for (const Blok& cel : regel.delen) {
       Cel(cel, *rooster, nummer, kolom);
+      const std::string kop = Kopwoorden(blok.koppen, static_cast<std::size_t>(kolom));
+      for (Element* element : Elementen(cel)) GeefLeesnaam(element->Bron(), kop + wie);
       kolom += cel.kolommen;
     }
     ++nummer;
   }
+  Onthoud(*rooster, false);
 }
 
 // A button with a mark is as small as it can be, beside the field that it belongs to; one with a

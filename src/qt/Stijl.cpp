@@ -25,6 +25,8 @@ class Huisstijl final : public QProxyStyle {
   int styleHint(StyleHint vraag, const QStyleOption* keuze, const QWidget* widget,
                 QStyleHintReturn* uit) const override {
     if (vraag == SH_DialogButtonLayout) return QDialogButtonBox::WinLayout;
+    // A greyed entry is reached too, and the status bar says why it is grey.
+    if (vraag == SH_Menu_AllowActiveAndDisabled) return 1;
     return QProxyStyle::styleHint(vraag, keuze, widget, uit);
   }
 };

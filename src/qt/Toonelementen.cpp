@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "forms/Bijschrift.h"
+#include "forms/Leesformulier.h"
 #include "qt/Bladzijde.h"
 #include "qt/Stijl.h"
 #include "qt/Vertaling.h"
@@ -118,14 +119,25 @@ class WisselElement final : public Element {
   Wisselvlak& label_;
 };
 
+// Never narrower than its value, unless the layout says how wide it is.
+class Waarde final : public QLabel {
+ public:
+  using QLabel::QLabel;
+  [[nodiscard]] QSize sizeHint() const override {
+    return QLabel::sizeHint().expandedTo({TekenBreedte(*this, kTellerBreedte), 0});
+  }
+  [[nodiscard]] QSize minimumSizeHint() const override {
+    return QLabel::minimumSizeHint().expandedTo({TekenBreedte(*this, kTellerBreedte), 0});
+  }
+};
+
 class TellerElement final : public Element {
  public:
   TellerElement(Teller& teller, QWidget& ouder)
-      : Element(teller), teller_(teller), label_(*new QLabel(&ouder)) {
+      : Element(teller), teller_(teller), label_(*new Waarde(&ouder)) {
     ZetWidget(label_);
     label_.setTextFormat(Qt::PlainText);
     label_.setFont(Vet(label_.font()));
-    ZetTekenBreedte(label_, kTellerBreedte, false);
   }
 
  private:
@@ -144,7 +156,10 @@ class PaginaElement final : public Element {
   QWidget& Muisvlak() const override { return *blad_.viewport(); }
 
  private:
-  void Toon() override { blad_.ZetTekst(NaarQt(pagina_.Waarde())); }
+  void Toon() override {
+    blad_.ZetTekst(NaarQt(pagina_.Waarde()));
+    if (const auto* vind = dynamic_cast<const Vindpagina*>(&pagina_)) blad_.Merk(vind->Gemerkt());
+  }
 
   Tekstpagina& pagina_;
   Bladzijde& blad_;

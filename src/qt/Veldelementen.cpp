@@ -124,7 +124,11 @@ class RegelElement final : public VeldElement {
     regel_.setSelection(static_cast<int>(stuk.van), static_cast<int>(stuk.lengte));
   }
   void Voeg(const QString& tekst) override { regel_.insert(tekst); }
-  void Schrijf(const QString& tekst) override { regel_.setText(tekst); }
+  // Of a text that is wider than its field the beginning is seen, unless the user is at work in it.
+  void Schrijf(const QString& tekst) override {
+    regel_.setText(tekst);
+    if (!regel_.hasFocus()) regel_.home(false);
+  }
   void ZetAlleenLezen(bool alleenLezen) override {
     if (regel_.isReadOnly() == alleenLezen) return;
     regel_.setReadOnly(alleenLezen);

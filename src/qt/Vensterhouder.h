@@ -19,6 +19,8 @@ class Vensterhouder {
   virtual void SluitVenster() = 0;
   // A key that no control has the focus for.
   virtual void ToetsInVenster(const QKeyEvent& toets) = 0;
+  // The wheel was turned a notch where no control wanted it: back (-1) or on (1).
+  virtual void Gerold(int stap) = 0;
   virtual void Verplaatst(QPoint plek) = 0;
   // A file that was dropped on the window, which its form takes.
   virtual void BestandGebracht(const std::filesystem::path& bestand) = 0;

@@ -13,6 +13,7 @@ namespace {
 // Names typed instead of a number stay.
 constexpr PersoonVakSoort kPersoon = {.controle = PersoonControle::Tonen,
                                       .leegWist = false,
+                                      .danOK = true,
                                       .nrBijschrift = "Persoonsnummer:",
                                       .voorBijschrift = "Voornamen:",
                                       .achterBijschrift = "Achternaam:"};
@@ -68,7 +69,7 @@ void PersoonPrompt::OKButtonKlik() {
 }
 
 void PersoonPrompt::ZoekButtonKlik() {
-  static_cast<void>(Persoon.Zoek());
+  if (Persoon.Zoek()) ZetFocus(OKButton);
 }
 
 }  // namespace lb77

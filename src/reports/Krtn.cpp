@@ -120,7 +120,9 @@ void Krtn::ToonErnaast(KrtnRij& rij) {
 void Krtn::ZoekPersButtonKlik(KrtnRij& rij) {
   const VolgersBewaker bewaker(Hoofd().volgers);
   const std::int32_t nr = VraagZoekPersoon(Hoofd());
-  if (nr > 0) Toon(rij, GetalTekst(nr));
+  if (nr < 1) return;
+  Toon(rij, GetalTekst(nr));
+  ZetFocus(OKButton);
 }
 
 void Krtn::OKButtonKlik() {

@@ -31,7 +31,9 @@ bool RptStamouder::IsGenoeg() {
 void RptStamouder::ZoekButtonKlik() {
   const VolgersBewaker bewaker(Hoofd().volgers);
   const std::int32_t nr = VraagZoekPersoon(Hoofd());
-  if (nr > 0) Bewerkt(PersNr, NrTekst(nr));
+  if (nr < 1) return;
+  Bewerkt(PersNr, NrTekst(nr));
+  if (Bediening* const ok = Zoek("OKButton")) ZetFocus(*ok);
 }
 
 }  // namespace lb77

@@ -159,5 +159,25 @@ TEST_F(KwstPrompt, DeZoekknopEnF2VullenHetNummer) {
     )");
 }
 
+TEST_F(KwstPrompt, WieGekozenHeeftStaatOpOK) {
+  for (const std::string zoek : {"druk ZoekButton", "toets RecordNr F2"}) {
+    Speel(zoek + "\ndruk RecordNrPrs(8)\ntoon\ntoets Escape", R"(
+      + KwstTxtPrs "Nummer Proband"
+      + ZoekPrs "Zoek Persoon"
+      - ZoekPrs
+      : KwstTxtPrs "Nummer Proband"
+      = VraagLabel "Geef het Persoonsnummer van de Proband"
+      = RecordNr "9"
+      = VoorNm "Gerrit"
+      = AchterNm "van Dam"
+      = OKButton "&OK"
+      = ZoekButton "&Zoek Persoon"
+      = BackButton "&Terug"
+      * OKButton
+      - KwstTxtPrs
+    )");
+  }
+}
+
 }  // namespace
 }  // namespace lb77

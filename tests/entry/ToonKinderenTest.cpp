@@ -55,6 +55,32 @@ TEST_F(ToonKinderenTest, EenNaamDieOntbreektIsOnbekend) {
   )");
 }
 
+TEST_F(ToonKinderenTest, EenNieuwKindHeeftZijnOudersEnDeAchternaamVanZijnVader) {
+  Gezin();
+  OpKinderen(
+      "druk NieuwKindButton\ntoon AchterNm\ntoon RelNrOuders\ntoon VoorNmPa\n"
+      "vul VoorNm Mina\ndruk Opslaan\ntoon VoorNmKind(2)\ntoon AchterNmKind(2)",
+      R"(
+    + WijzigPersoon "Wijzig Persoon"
+    = AchterNm "Vos"
+    = RelNrOuders "2"
+    = VoorNmPa "Jan"
+    - WijzigPersoon
+    = VoorNmKind(2) "Mina"
+    = AchterNmKind(2) "Vos"
+  )");
+}
+
+TEST_F(ToonKinderenTest, EenNieuwKindDatNietWordtOpgeslagenIsErNiet) {
+  Gezin();
+  OpKinderen("druk NieuwKindButton\ndruk BackButton\ntoon NaarKind(2)\ntoon RecordNr", R"(
+    + WijzigPersoon "Wijzig Persoon"
+    - WijzigPersoon
+    = NaarKind(2) "" [verborgen]
+    = RecordNr "2"
+  )");
+}
+
 TEST_F(ToonKinderenTest, EenGatInDeLijstIsEenLegeRegel) {
   Gezin();
   Bouw().WijzigRelatie(2, {{"Kind3", "4"}, {"Kind2", "-7"}});

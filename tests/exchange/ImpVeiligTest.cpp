@@ -15,8 +15,13 @@ class ImpVeilig : public ImportToets {
   void Speel(std::string_view draaiboek, std::string_view verslag,
              const std::function<void(Hoofdmodule&)>& daarna = {},
              const Plek& plek = Plek::current()) {
-    SchrijfBytes(Bestand(),
-                 Ged("0 @I1@ INDI\n1 NAME Jan //\n1 BIRT\n2 PLAC Delft\n1 XYZ iets\n0 @F1@ FAM"));
+    SpeelBytes(Ged("0 @I1@ INDI\n1 NAME Jan //\n1 BIRT\n2 PLAC Delft\n1 XYZ iets\n0 @F1@ FAM"),
+               draaiboek, verslag, daarna, plek);
+  }
+  void SpeelBytes(std::string_view bytes, std::string_view draaiboek, std::string_view verslag,
+                  const std::function<void(Hoofdmodule&)>& daarna = {},
+                  const Plek& plek = Plek::current()) {
+    SchrijfBytes(Bestand(), bytes);
     const Taak taak = [this, &daarna](Hoofdmodule& hoofd) {
       ASSERT_TRUE(Start(hoofd));
       hoofd.ActieveSetNaam = "PROEF";
@@ -51,8 +56,12 @@ TEST_F(ImpVeilig, IsEenBewerkingMetDeNaamVanHetBestand) {
 
 TEST_F(ImpVeilig, WatHalverwegeIsIngelezenGaatMetNeeWeerWeg) {
   for (const char* toets : {"1", "2", "3"}) {
-    Speel("onderbreek " + std::string(toets) + "\nantwoord Nee\ndruk OKButton\ndruk BackButton",
-          R"(? vraag Ja/Nee "Wat is ingelezen behouden ?" -> Nee
+    Speel("onderbreek " + std::string(toets) +
+              "\nantwoord Ja\nantwoord Nee\ndruk OKButton\ndruk BackButton\ndruk BackButton",
+          R"(? vraag Ja/Nee "Import afbreken ?" -> Ja
+             ? vraag Ja/Nee "Wat is ingelezen behouden ?" -> Nee
+             + ToonTekst "Importeren - Resultaat"
+             - ToonTekst
              - ImpGedcom)");
     EXPECT_EQ(Aantallen(), "1 1 1 1");
     EXPECT_FALSE(std::filesystem::exists(TekstMap() / "GEDCOM.RST"));
@@ -61,8 +70,17 @@ TEST_F(ImpVeilig, WatHalverwegeIsIngelezenGaatMetNeeWeerWeg) {
 }
 
 TEST_F(ImpVeilig, WatHalverwegeIsIngelezenBlijftMetJa) {
-  Speel("onderbreek 1\nantwoord Ja\ndruk OKButton\ntoon Pass1box\ndruk BackButton",
-        R"(? vraag Ja/Nee "Wat is ingelezen behouden ?" -> Ja
+  Speel(R"(onderbreek 1
+           antwoord Ja
+           antwoord Ja
+           druk OKButton
+           druk BackButton
+           toon Pass1box
+           druk BackButton)",
+        R"(? vraag Ja/Nee "Import afbreken ?" -> Ja
+           ? vraag Ja/Nee "Wat is ingelezen behouden ?" -> Ja
+           + ToonTekst "Importeren - Resultaat"
+           - ToonTekst
            = Pass1box uit [uit]
            - ImpGedcom)",
         [](Hoofdmodule& hoofd) {
@@ -71,9 +89,59 @@ TEST_F(ImpVeilig, WatHalverwegeIsIngelezenBlijftMetJa) {
   EXPECT_EQ(Aantallen(), "2 2 1 1");
 }
 
+TEST_F(ImpVeilig, WieTochNietAfbreektLeestVerder) {
+  Speel("onderbreek 1\nantwoord Nee\ndruk OKButton\ndruk BackButton\ndruk BackButton",
+        R"(? vraag Ja/Nee "Import afbreken ?" -> Nee)" + std::string(kKlaar));
+  EXPECT_EQ(Aantallen(), "2 2 2 1");
+}
+
+// A long file: the question comes in the middle of a record, which is stored whole.
+TEST_F(ImpVeilig, AfbrekenEindigtBijEenRecordEnHetLogZegtHet) {
+  std::string regels;
+  for (int i = 1; i <= 20; ++i) {
+    regels += "0 @I" + std::to_string(i) + "@ INDI\n1 NAME P" + std::to_string(i) + " //\n";
+    for (int n = 0; n < 20; ++n) regels += "1 NOTE x\n";
+    regels += "1 SEX M\n";
+  }
+  const std::string bytes = Ged(regels);
+  // 462 lines: three tests in each pass and one behind it; the second pass is stopped at line 256.
+  SpeelBytes(bytes, R"(onderbreek 6
+                       antwoord Ja
+                       antwoord Ja
+                       druk OKButton
+                       druk BackButton
+                       druk BackButton)",
+             R"(? vraag Ja/Nee "Import afbreken ?" -> Ja
+                ? vraag Ja/Nee "Wat is ingelezen behouden ?" -> Ja
+                + ToonTekst "Importeren - Resultaat"
+                - ToonTekst
+                - ImpGedcom)");
+  EXPECT_EQ(LeesBytes(TekstMap() / "GEDCOM.LOG"), "Importeren afgebroken bij regel 256\r\n");
+  EXPECT_EQ(Persoon(13), "voor P12; seks M");
+  EXPECT_EQ(Persoon(14).find("P13"), std::string::npos);
+}
+
+TEST_F(ImpVeilig, OokHetTellenVoorafKanAfgebrokenWorden) {
+  std::string regels = "0 @I1@ INDI\n";
+  for (int n = 0; n < 1100; ++n) regels += "1 NOTE x\n";
+  SpeelBytes(Ged(regels), "onderbreek 1\nantwoord Ja\ndruk OKButton\ndruk BackButton",
+             R"(? vraag Ja/Nee "Import afbreken ?" -> Ja
+                - ImpGedcom)");
+  EXPECT_EQ(Aantallen(), "1 1 1 1");
+}
+
 TEST_F(ImpVeilig, DeTellingStaatErVoorErGeschrevenWordt) {
-  Speel("onderbreek 1\nantwoord Nee\ndruk OKButton\ntoon TellingLabel\ndruk BackButton",
-        R"(? vraag Ja/Nee "Wat is ingelezen behouden ?" -> Nee
+  Speel(R"(onderbreek 1
+           antwoord Ja
+           antwoord Nee
+           druk OKButton
+           druk BackButton
+           toon TellingLabel
+           druk BackButton)",
+        R"(? vraag Ja/Nee "Import afbreken ?" -> Ja
+           ? vraag Ja/Nee "Wat is ingelezen behouden ?" -> Nee
+           + ToonTekst "Importeren - Resultaat"
+           - ToonTekst
            = TellingLabel "Erbij komen 1 persoon, 1 relatie en 1 plaats"
            - ImpGedcom)");
 }

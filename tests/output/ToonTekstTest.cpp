@@ -59,6 +59,9 @@ TEST_F(ToonTekstTest, ToontDeEersteBladzijde) {
            Toont("een\r\ntwee\r\n"), R"(
       + ToonTekst "Rapport"
       : ToonTekst "Rapport"
+      = ZoekTekst ""
+      = ZoekButton "&Volgende"
+      = ZoekLabel ""
       = UitvoerBox "een\ntwee"
       = XY_label "pagina 1,1"
       = MoveButton(1) "Naar &links" [uit]
@@ -67,7 +70,9 @@ TEST_F(ToonTekstTest, ToontDeEersteBladzijde) {
       = MoveButton(4) "O&mlaag" [uit]
       = PrintButton(1) "&Print deze"
       = PrintButton(2) "Print &Alles"
+      = UTF8Box uit
       = SaveButton "&Opslaan Als"
+      = BrowserButton "Open in bro&wser" [verborgen]
       = BackButton "&Terug"
       * BackButton
       - ToonTekst
@@ -105,6 +110,9 @@ TEST_F(ToonTekstTest, EenBestandDatErNietIsMeldtWaarom) {
            ToontBestand(), R"(
       + ToonTekst "Rapport"
       : ToonTekst "Rapport"
+      = ZoekTekst ""
+      = ZoekButton "&Volgende"
+      = ZoekLabel ""
       = UitvoerBox "Fout: Bestand niet gevonden"
       = XY_label "pagina 1,1"
       = MoveButton(1) "Naar &links" [uit]
@@ -113,7 +121,9 @@ TEST_F(ToonTekstTest, EenBestandDatErNietIsMeldtWaarom) {
       = MoveButton(4) "O&mlaag" [uit]
       = PrintButton(1) "&Print deze" [uit]
       = PrintButton(2) "Print &Alles" [uit]
+      = UTF8Box uit
       = SaveButton "&Opslaan Als" [uit]
+      = BrowserButton "Open in bro&wser" [verborgen]
       = BackButton "&Terug"
       * BackButton
       - ToonTekst

@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 
 #include "Vensterproef.h"
@@ -15,6 +16,8 @@ namespace lb77 {
 namespace {
 
 constexpr const char* kGedcom = "GEDCOM-bestanden (*.GED)|*.GED|Alle Bestanden (*.*)|*.*";
+
+constexpr const char* kTekst = "Alle Bestanden (*.*)|*.*|Tekstbestanden (*.txt)|*.txt";
 
 class BestandsvensterTest : public Vensterproef {
  protected:
@@ -38,6 +41,19 @@ class BestandsvensterTest : public Vensterproef {
   std::optional<std::filesystem::path> Vraag(BestandsWijze wijze,
                                              const std::filesystem::path& beginmap,
                                              const std::function<void(QFileDialog&)>& doe) {
+    return Kijkend(doe, [&] {
+      return KiesBestand(nullptr, {wijze, kGedcom, beginmap}, instellingen_);
+    });
+  }
+  // The same for a file to save under a name.
+  std::optional<std::filesystem::path> Opslag(const std::filesystem::path& naam,
+                                              const std::function<void(QFileDialog&)>& doe) {
+    const BestandsVraag vraag{BestandsWijze::Opslaan, kTekst, PadVanQt(map_.path())};
+    return Kijkend(doe, [&] { return KiesOpslag(nullptr, vraag, naam, instellingen_); });
+  }
+  using Antwoordpad = std::optional<std::filesystem::path>;
+  static Antwoordpad Kijkend(const std::function<void(QFileDialog&)>& doe,
+                             const std::function<Antwoordpad()>& vraag) {
     QTimer kijk;
     QObject::connect(&kijk, &QTimer::timeout, &kijk, [&] {
       auto* venster = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
@@ -46,7 +62,7 @@ class BestandsvensterTest : public Vensterproef {
       doe(*venster);
     });
     kijk.start(1);
-    return KiesBestand(nullptr, {wijze, kGedcom, beginmap}, instellingen_);
+    return vraag();
   }
   static void Kies(QFileDialog& venster, const char* naam) {
     venster.findChild<QLineEdit*>()->setText(QLatin1String(naam));
@@ -113,6 +129,34 @@ TEST_F(BestandsvensterTest, DeLaatsteMapWordtVoorHetzelfdeFilterOnthouden) {
     EXPECT_EQ(v.directory().absolutePath(), map_.path());
     v.reject();
   }));
+}
+
+TEST_F(BestandsvensterTest, OpslaanVultNaamEnSoortInEnBegintBijDeDocumenten) {
+  const QByteArray thuis = qgetenv("HOME");
+  qputenv("HOME", map_.path().toLocal8Bit());
+  const QString documenten = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  ASSERT_TRUE(QDir().mkpath(documenten));
+  EXPECT_FALSE(Opslag("Kwartierstaat.txt", [&](QFileDialog& v) {
+    EXPECT_EQ(v.findChild<QLineEdit*>()->text(), QString("Kwartierstaat.txt"));
+    EXPECT_EQ(v.selectedNameFilter(), QString("Tekstbestanden (*.txt *.TXT)"));
+    EXPECT_EQ(v.directory().canonicalPath(), QDir(documenten).canonicalPath());
+    v.reject();
+  }));
+  qputenv("HOME", thuis);
+}
+
+TEST_F(BestandsvensterTest, OpslaanBegintDaarnaWaarHetLaatstWasEnOpenenNiet) {
+  EXPECT_EQ(Opslag("een.txt",
+                   [&](QFileDialog& v) {
+                     v.findChild<QLineEdit*>()->setText(map_.filePath("onder/een"));
+                     static_cast<QDialog&>(v).accept();
+                   }),
+            Pad("onder") / "een.txt");
+  EXPECT_FALSE(Opslag("twee.txt", [&](QFileDialog& v) {
+    EXPECT_EQ(v.directory().absolutePath(), map_.filePath("onder"));
+    v.reject();
+  }));
+  EXPECT_EQ(instellingen_.LaatsteMap(kTekst), QString());
 }
 
 TEST(Naamfilters, PatronenStaanErInBeideKasten) {

@@ -2,14 +2,23 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPdfWriter>
 #include <QPrintDialog>
+#include <QPrinter>
+#include <QProcess>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QtTest/QTest>
+#include <functional>
 
+#include "qt/Afdrukvenster.h"
 #include "qt/Bladzijde.h"
 #include "qt/Drukker.h"
 
@@ -85,14 +94,151 @@ TEST_F(DrukkerTest, EenFoutWordtGemeld) {
   EXPECT_TRUE(DrukOfMeld(nullptr, goed, Proefdruk(1)));
 }
 
-TEST_F(DrukkerTest, AnnulerenDruktNietsAf) {
-  QTimer::singleShot(0, qApp, [] {
-    auto* vraag = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
-    ASSERT_TRUE(vraag);
-    EXPECT_EQ(vraag->windowTitle(), QString("Afdrukken"));
-    vraag->reject();
+// The margins and the block of text in millimetres.
+TEST_F(DrukkerTest, OmDeTekstIsTienMillimeterWitEnHijStaatRechtopOpA4) {
+  for (const qreal eigen : {0.0, 10.0, 15.0}) {
+    QPdfWriter papier(Pad("marge.pdf"));
+    StelPapierIn(papier);
+    papier.setPageMargins(QMarginsF(eigen, eigen, eigen, eigen), QPageLayout::Millimeter);
+    EXPECT_EQ(papier.pageLayout().pageSize().id(), QPageSize::A4);
+    EXPECT_EQ(papier.pageLayout().orientation(), QPageLayout::Portrait);
+    const qreal mm = papier.logicalDpiX() / 25.4;
+    const Velindeling vel = DeelIn(papier);
+    const qreal wit = std::max(eigen, 10.0);
+    EXPECT_GE(vel.tekst.left() / mm + eigen, wit - 0.1) << eigen;
+    EXPECT_NEAR(vel.tekst.top() / mm + eigen, wit, 0.1) << eigen;
+    EXPECT_LE(vel.tekst.right() / mm + eigen, 210 - wit + 0.1) << eigen;
+    EXPECT_LE(vel.voet.bottom() / mm + eigen, 297 - wit + 0.1) << eigen;
+    EXPECT_GE(vel.voet.top(), vel.tekst.bottom()) << eigen;
+    const QFontMetricsF maten(vel.letter, &papier);
+    EXPECT_LE(maten.horizontalAdvance(u'W') * kBladKolommen, vel.tekst.width() + 1);
+    EXPECT_LE(maten.lineSpacing() * kBladRegels, vel.tekst.height());
+    EXPECT_GE(maten.lineSpacing() * kBladRegels, vel.tekst.height() * 0.9) << "te klein";
+  }
+}
+
+TEST_F(DrukkerTest, EenVelWaarNietsOpStaatWordtNietGedrukt) {
+  Afdruk afdruk = Proefdruk(4);
+  afdruk.paginas[1] = {"", "   "};
+  afdruk.paginas[2] = {};
+  EXPECT_EQ(ZonderLegeVellen(afdruk).paginas.size(), 2U);
+  EXPECT_EQ(ZonderLegeVellen(afdruk).titel, afdruk.titel);
+}
+
+TEST_F(DrukkerTest, OpElkVelStaatHetNummerVanHetTotaalEnDeTekstKomtErGoedUit) {
+  Afdruk afdruk = Proefdruk(2);
+  afdruk.paginas[1] = {"Zo\xEB M\xFCller \x97 \x80 5", "+--+", "|  |"};
+  ASSERT_TRUE(SchrijfPdf(Pad("tekst.pdf"), afdruk));
+  QProcess lezer;
+  lezer.start("pdftotext", {"-layout", Pad("tekst.pdf"), "-"});
+  if (!lezer.waitForStarted()) GTEST_SKIP() << "pdftotext ontbreekt";
+  ASSERT_TRUE(lezer.waitForFinished());
+  const QString tekst = QString::fromUtf8(lezer.readAllStandardOutput());
+  for (const QString& deel : {QString("1 van 2"), QString("2 van 2"), QString(80, u'W'),
+                              QString::fromUtf8("Zoë Müller — € 5"), QString("+--+")}) {
+    EXPECT_TRUE(tekst.contains(deel)) << qPrintable(deel);
+  }
+}
+
+TEST_F(DrukkerTest, EenPdfDieNietGeschrevenKanWordenLaatHetBestandZoalsHetWas) {
+  EXPECT_FALSE(SchrijfPdf(Pad("geen/map/druk.pdf"), Proefdruk(1)));
+}
+
+// Presses a button in the preview, and then does something with what that opens.
+class AfdrukvensterTest : public DrukkerTest {
+ protected:
+  template <class Venster>
+  void Met(const char* knop, const std::function<void(Venster&)>& doe) {
+    QObject::connect(&kijk_, &QTimer::timeout, &kijk_, [this, knop, doe] {
+      QWidget* boven = QApplication::activeModalWidget();
+      if (auto* venster = qobject_cast<Venster*>(boven)) {
+        doe(*venster);
+      } else if (auto* box = qobject_cast<QMessageBox*>(boven)) {
+        boxen_ += box->text();
+        box->accept();
+      } else if (auto* beeld = dynamic_cast<Afdrukvenster*>(boven)) {
+        if (++keren_ > 1) return beeld->reject();
+        // Not from here: the clock stands still while its own tick is at work.
+        auto* druk = beeld->findChild<QPushButton*>(QLatin1String(knop));
+        QMetaObject::invokeMethod(
+            druk, [druk] { druk->click(); }, Qt::QueuedConnection);
+      }
+    });
+    kijk_.start(5);
+  }
+  bool Vraag(const Afdruk& afdruk) { return VraagEnDrukAf(nullptr, afdruk, instellingen_); }
+
+  VensterInstellingen instellingen_{std::filesystem::path(map_.path().toStdString())};
+  QTimer kijk_;
+  QStringList boxen_;
+  int keren_ = 0;
+};
+
+TEST_F(AfdrukvensterTest, AnnulerenVanDePrinterGaatTerugNaarHetVoorbeeldEnDruktNietsAf) {
+  QString titel;
+  Met<QPrintDialog>("Afdrukken", [&](QPrintDialog& vraag) {
+    titel = vraag.windowTitle();
+    vraag.reject();
   });
-  EXPECT_FALSE(VraagEnDrukAf(nullptr, Proefdruk(1)));
+  EXPECT_FALSE(Vraag(Proefdruk(1)));
+  EXPECT_EQ(titel, QString("Afdrukken"));
+  EXPECT_EQ(keren_, 2);
+}
+
+TEST_F(AfdrukvensterTest, DePrinterKrijgtDeVellenDieErStaan) {
+  Met<QPrintDialog>("Afdrukken", [&](QPrintDialog& vraag) {
+    vraag.printer()->setOutputFormat(QPrinter::PdfFormat);
+    vraag.printer()->setOutputFileName(Pad("printer.pdf"));
+    if (auto* naam = vraag.findChild<QLineEdit*>("filename")) naam->setText(Pad("printer.pdf"));
+    static_cast<QDialog&>(vraag).accept();
+  });
+  Afdruk afdruk = Proefdruk(3);
+  afdruk.paginas[1].clear();
+  EXPECT_TRUE(Vraag(afdruk));
+  EXPECT_EQ(Paginas(Pad("printer.pdf")), 2);
+}
+
+TEST_F(AfdrukvensterTest, AlsPdfOpslaanSteltDeTitelVoorEnBlijftInHetVoorbeeld) {
+  QString voorstel;
+  Met<QFileDialog>("AlsPdf", [&](QFileDialog& vraag) {
+    auto* naam = vraag.findChild<QLineEdit*>();
+    voorstel = naam->text();
+    naam->setText(Pad("bewaard.pdf"));
+    static_cast<QDialog&>(vraag).accept();
+  });
+  Afdruk afdruk = Proefdruk(2);
+  afdruk.titel = "Proef: a/b";
+  EXPECT_FALSE(Vraag(afdruk));
+  EXPECT_EQ(voorstel, QString("Proef- a-b.pdf"));
+  EXPECT_EQ(Paginas(Pad("bewaard.pdf")), 2);
+  EXPECT_EQ(boxen_, QStringList("De tekst is opgeslagen."));
+}
+
+TEST_F(AfdrukvensterTest, HetVoorbeeldBladertDoorDeVellen) {
+  const Afdruk afdruk = Proefdruk(2);
+  Afdrukvenster venster(nullptr, afdruk, instellingen_);
+  venster.show();
+  const auto knop = [&](const char* naam) {
+    return venster.findChild<QPushButton*>(QLatin1String(naam));
+  };
+  const auto* vel = venster.findChild<QLabel*>("Vel");
+  EXPECT_EQ(vel->text(), QString("vel 1 van 2"));
+  EXPECT_FALSE(knop("VorigVel")->isEnabled());
+  QTest::mouseClick(knop("VolgendVel"), Qt::LeftButton);
+  EXPECT_EQ(vel->text(), QString("vel 2 van 2"));
+  EXPECT_FALSE(knop("VolgendVel")->isEnabled());
+  QTest::mouseClick(knop("VorigVel"), Qt::LeftButton);
+  EXPECT_EQ(vel->text(), QString("vel 1 van 2"));
+  venster.grab().save(QStringLiteral("schermen/Afdrukvoorbeeld.png"));
+}
+
+TEST_F(AfdrukvensterTest, WaarNietsStaatValtNietsAfTeDrukken) {
+  Met<QPrintDialog>("Afdrukken", [](QPrintDialog& vraag) { vraag.reject(); });
+  Afdruk afdruk = Proefdruk(1);
+  afdruk.paginas[0] = {""};
+  EXPECT_FALSE(Vraag(afdruk));
+  EXPECT_EQ(boxen_, QStringList("Hier staat niets om af te drukken."));
+  EXPECT_EQ(keren_, 0);
 }
 
 }  // namespace

@@ -221,7 +221,9 @@ TEST_F(KrtnTest, EenLegeReeksIsEenLeegBestand) {
 TEST_F(KrtnTest, ZoekenVultHetVeldErnaast) {
   Speel(kPrsKrtn,
         "druk ZoekPersButton(1)\ndruk RecordNrPrs(2)\ntoon RecordNrPers(1)\ntoon Naam(1)\n"
-        "druk ZoekPersButton(0)\ndruk BackButton\ntoon RecordNrPers(0)\ndruk BackButton",
+        "druk ZoekPersButton(0)\ndruk BackButton\ntoon RecordNrPers(0)\n"
+        "druk ZoekPersButton(0)\ndruk RecordNrPrs(1)\ntoets Shift+Tab\ntoets Space\n"
+        "druk BackButton\ndruk BackButton",
         R"~(
           + ZoekPrs "Zoek Persoon"
           - ZoekPrs
@@ -230,6 +232,10 @@ TEST_F(KrtnTest, ZoekenVultHetVeldErnaast) {
           + ZoekPrs "Zoek Persoon"
           - ZoekPrs
           = RecordNrPers(0) "2"
+          + ZoekPrs "Zoek Persoon"
+          - ZoekPrs
+          + ZoekPrs "Zoek Persoon"
+          - ZoekPrs
           - PrsKrtn
         )~");
   EXPECT_EQ(huidig_.first, 4);

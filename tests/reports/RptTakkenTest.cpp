@@ -73,6 +73,21 @@ TEST_F(RptTakkenToets, ZoekenVultHetNummer) {
         )");
 }
 
+TEST_F(RptTakkenToets, NaHetZoekenStaatDeFocusOpOK) {
+  Speel("druk ZoekButton\ndruk RecordNrPrs(1)\ntoon\ndruk BackButton", R"(
+          + ZoekPrs "Zoek Persoon"
+          - ZoekPrs
+          : RptTakken "Rapport Takkenverdeling"
+          = UitlegLabel "De takkenverdeling brengt het aantal nakomelingen en aangetrouwden in beeld van de kinderen van de opgegeven persoon."
+          = PersNr "2"
+          = ZoekButton "&Zoek Persoon"
+          = AantalTakken ""
+          = OKButton "&OK"
+          = BackButton "&Terug"
+          * OKButton
+        )");
+}
+
 TEST_F(RptTakkenToets, EenBestandDatNietKanSluitHetScherm) {
   Versper();
   Speel("vul PersNr 2\ndruk OKButton", NietOpen());

@@ -5,8 +5,10 @@ namespace lb77::indeling {
 
 Blok TekstVenster() {
   return Kolom({
+      Rij({"ZoekTekst", "ZoekButton", "ZoekLabel"}),
       "UitvoerBox",
-      Knoppen({"MoveButton(*)", "XY_label"}, {"PrintButton(*)", "SaveButton", "BackButton"}),
+      Knoppen({"MoveButton(*)", "XY_label"},
+              {"PrintButton(*)", "UTF8Box", "SaveButton", "BrowserButton", "BackButton"}),
   });
 }
 

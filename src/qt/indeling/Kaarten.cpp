@@ -127,8 +127,10 @@ std::vector<Indeling> Kaarten() {
       {"ToonPersoon", Persoon()},
       {"ToonRelatie", Relatie()},
       {"ToonKinderen",
-       Kinderen(Knoppen({"ErbijButton", "ErafButton", "KindVolg"}, {"MeerButton", "BackButton"}))},
-      {"MeerKinderen", Kinderen(Knoppen({"ErbijButton", "ErafButton"}, {"BackButton"}))},
+       Kinderen(Knoppen({"ErbijButton", "ErafButton", "NieuwKindButton", "KindVolg"},
+                        {"MeerButton", "BackButton"}))},
+      {"MeerKinderen",
+       Kinderen(Knoppen({"ErbijButton", "ErafButton", "NieuwKindButton"}, {"BackButton"}))},
   };
 }
 

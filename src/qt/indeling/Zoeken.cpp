@@ -22,6 +22,7 @@ Blok PersonenLijst() {
 std::vector<Indeling> Zoeken() {
   return {
       {"ZoekPrs", Kolom({
+                      Rij({"Zoeknaam", "Treffers"}),
                       PersonenLijst(),
                       Knoppen({"Vorige", "Volgende", "NaarNr", "FilterButton"}, {"BackButton"}),
                   })},
