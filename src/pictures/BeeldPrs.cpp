@@ -12,6 +12,7 @@
 #include "descendants/GenSchParam.h"
 #include "pictures/Boombeeld.h"
 #include "pictures/Waaier.h"
+#include "reports/RecordGang.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"
 
@@ -137,6 +138,9 @@ void TijdBeeldPrs::Keten(std::int16_t persoonNr) {
 TijdBereken::TijdBereken(Hoofdmodule& hoofd, std::int16_t stamouder, Tijdbalk& tijdbalk)
     : BerekenForm(kTijdBereken, hoofd,
                   [&hoofd, stamouder, &tijdbalk](const Verloop& verloop) -> Uitslag {
+                    if (!LeesHoofdrecord(hoofd.Persoon, stamouder)) {
+                      return Leesfout{BestandSoort::Personen, stamouder};
+                    }
                     RecordBron bron(hoofd.MaakOpslag());
                     const bool heel = TelTijdbalk(stamouder, bron, verloop, tijdbalk);
                     hoofd.volgers.HuidigPersoonNr = 0;

@@ -72,8 +72,10 @@ TEST_F(BeeldenToets, HetBestandIsHetBeeld) {
 }
 
 TEST_F(BeeldenToets, EenPersoonDieErNietIsGeeftGeenBeeld) {
-  EXPECT_EQ(Doe("waaier", Van("99")), 1);
-  EXPECT_EQ(uit_, "");
+  for (const std::string_view opdracht : {"waaier", "kwartierboom", "stamboom", "tijdbalk"}) {
+    EXPECT_EQ(Doe(opdracht, Van("99")), 1) << opdracht;
+    EXPECT_EQ(uit_, "") << opdracht;
+  }
 }
 
 }  // namespace

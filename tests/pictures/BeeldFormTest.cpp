@@ -41,7 +41,8 @@ class BeeldFormToets : public FamilieToets {
       hoofd.gesprek.ToonModaal(prompt);
       gebleven_ = hoofd.volgers.HuidigPersoonNr;
     };
-    Verwacht("vul RecordNr " + std::to_string(nr) + "\ndruk OKButton\n" + std::string(draaiboek),
+    Verwacht(vooraf_ + "vul RecordNr " + std::to_string(nr) + "\ndruk OKButton\n" +
+                 std::string(draaiboek),
              taak, verslag);
   }
   void SpeelWaaier(int nr, std::string_view draaiboek, std::string_view verslag) {
@@ -53,6 +54,7 @@ class BeeldFormToets : public FamilieToets {
   }
   [[nodiscard]] std::string Bestand(std::string_view naam) const { return LeesBytes(Map() / naam); }
 
+  std::string vooraf_;  // instructions ahead of the prompt
   std::int16_t gebleven_ = -2;
 };
 
@@ -162,6 +164,30 @@ TEST_F(BeeldFormToets, DePopulatiegrafiekTeltDeNazaten) {
       - TijdBeeld
       - TijdPrs
     )"));
+}
+
+TEST_F(BeeldFormToets, ZonderStamouderIsErGeenPopulatiegrafiek) {
+  Speel<TijdBeeldPrs>(1, "", Regels(R"(
+      + TijdPrs "Populatiegrafiek"
+      + TijdBereken "Opbouwen Populatiegrafiek"
+      ! stop "Persoonsrecord 1 kan niet worden gelezen. Er is geen verslag gemaakt."
+      - TijdBereken
+      - TijdPrs
+    )"));
+  EXPECT_EQ(gebleven_, -1);
+}
+
+// A stop leaves the form open, so that the user sees how far it came.
+TEST_F(BeeldFormToets, EenStopVanHetTellenToontGeenBeeld) {
+  vooraf_ = "onderbreek 1\nantwoord Ja\n";
+  Speel<TijdBeeldPrs>(2, "druk BackButton", Regels(R"(
+      + TijdPrs "Populatiegrafiek"
+      + TijdBereken "Opbouwen Populatiegrafiek"
+      ? vraag Ja/Nee "Opbouw Afbreken ?" -> Ja
+      - TijdBereken
+      - TijdPrs
+    )"));
+  EXPECT_EQ(gebleven_, -1);
 }
 
 TEST_F(BeeldFormToets, HetBeeldWordtOpgeslagenAlsSvg) {
