@@ -202,8 +202,21 @@ SysteemFout Bestandsgreep::Vergrendel() {
   return GetLastError() == ERROR_NOT_SUPPORTED ? SysteemFout{} : LaatsteFout();
 }
 
-SysteemFout MapVeiligstellen(const std::filesystem::path&) {
-  return {};
+// Names need no help to reach the disk there.
+SysteemFout MapVeiligstellen(const std::filesystem::path& map) {
+  const wchar_t* naam = map.empty() ? L"." : map.c_str();
+  return GetFileAttributesW(naam) == INVALID_FILE_ATTRIBUTES ? LaatsteFout() : SysteemFout{};
+}
+
+bool VerwijderVanSchijf(const std::filesystem::path& pad, std::error_code& code) {
+  if (std::filesystem::remove(pad, code)) return true;
+  // The library's last attempt is that of a file, which a directory answers with a refusal.
+  std::error_code onbekend;
+  if (code && std::filesystem::is_directory(pad, onbekend) &&
+      !std::filesystem::is_empty(pad, onbekend)) {
+    code = std::make_error_code(std::errc::directory_not_empty);
+  }
+  return false;
 }
 
 std::filesystem::path ProgrammaMap() {
@@ -294,6 +307,10 @@ SysteemFout Bestandsgreep::Vergrendel() {
   }
   vergrendeld_ = true;
   return {};
+}
+
+bool VerwijderVanSchijf(const std::filesystem::path& pad, std::error_code& code) {
+  return std::filesystem::remove(pad, code);
 }
 
 std::filesystem::path ProgrammaMap() {

@@ -48,7 +48,7 @@ std::string Vergelijkbaar(std::string tekst) {
   std::size_t schijf = 0;
   while ((schijf = tekst.find(":\\", schijf)) != std::string::npos) {
     while (schijf < tekst.size() && tekst[schijf] != '"' && tekst[schijf] != '\n') {
-      if (tekst[schijf] == '\\') tekst[schijf] = '/';
+      if (tekst[schijf] == '\\' && tekst.substr(schijf + 1, 1) != "n") tekst[schijf] = '/';
       ++schijf;
     }
   }

@@ -8,6 +8,7 @@
 #include <string>
 #include <utility>
 
+#include "steun/Bestandsstelsel.h"
 #include "steun/TijdelijkeMap.h"
 #include "store/Platform.h"
 
@@ -76,7 +77,8 @@ TEST_F(PlatformTest, EenBestandDatAlleenTeLezenIsGaatNietOpen) {
 }
 
 TEST_F(PlatformTest, EenProgrammaDatDraaitGaatNietOpenOmTeSchrijven) {
-  const SysteemFout fout = greep.Open(ProgrammaMap() / "lb77-store-tests");
+  const SysteemFout fout =
+      greep.Open(ProgrammaMap() / (std::string("lb77-store-tests") + kProgrammaEind));
   EXPECT_EQ(fout.nummer, kGeenToegang);
   EXPECT_EQ(fout.tekst, "Bestand is in gebruik");
 }
@@ -141,6 +143,7 @@ TEST_F(PlatformTest, EenNieuwBestandMagErNogNietZijn) {
   EXPECT_EQ(greep.Open(map / "nieuw", Openwijze::Nieuw).nummer, kBestandBestaatAl);
   EXPECT_FALSE(greep.IsOpen());
   EXPECT_EQ(LeesBytes(map / "nieuw"), "nu");
+  if (!kKoppelingen) return;
   std::filesystem::create_symlink(map / "nergens", map / "koppeling");
   EXPECT_EQ(greep.Open(map / "koppeling", Openwijze::Nieuw).tekst, "Bestand bestaat al");
 }
@@ -169,8 +172,21 @@ TEST_F(PlatformTest, DeNamenInEenDirectoryGaanNaarDeSchijf) {
   EXPECT_EQ(MapVeiligstellen(map / "weg").nummer, kBestandNietGevonden);
 }
 
+TEST_F(PlatformTest, VerwijderenZegtWatHetTegenhoudt) {
+  std::error_code code;
+  EXPECT_FALSE(VerwijderVanSchijf(map / "weg", code));
+  EXPECT_FALSE(code);
+  SchrijfBytes(map / "vol/bestand", "x");
+  EXPECT_FALSE(VerwijderVanSchijf(map / "vol", code));
+  EXPECT_EQ(FoutVan(code).tekst, "Directory is niet leeg");
+  EXPECT_TRUE(VerwijderVanSchijf(map / "vol/bestand", code));
+  EXPECT_TRUE(VerwijderVanSchijf(map / "vol", code));
+  EXPECT_FALSE(std::filesystem::exists(map / "vol"));
+}
+
 TEST_F(PlatformTest, DeProgrammamapIsDieVanHetProgramma) {
-  EXPECT_TRUE(std::filesystem::exists(ProgrammaMap() / "lb77-store-tests"));
+  EXPECT_TRUE(
+      std::filesystem::exists(ProgrammaMap() / (std::string("lb77-store-tests") + kProgrammaEind)));
 }
 
 #ifndef _WIN32
