@@ -4,7 +4,7 @@
 #include <system_error>
 
 #include "store/Paden.h"
-#include "store/Platform.h"
+#include "store/PlatformNamen.h"
 #include "store/SetPaden.h"
 #include "store/SysteemFout.h"
 #include "text/Getallen.h"

@@ -208,17 +208,6 @@ SysteemFout MapVeiligstellen(const std::filesystem::path& map) {
   return GetFileAttributesW(naam) == INVALID_FILE_ATTRIBUTES ? LaatsteFout() : SysteemFout{};
 }
 
-bool VerwijderVanSchijf(const std::filesystem::path& pad, std::error_code& code) {
-  if (std::filesystem::remove(pad, code)) return true;
-  // The library's last attempt is that of a file, which a directory answers with a refusal.
-  std::error_code onbekend;
-  if (code && std::filesystem::is_directory(pad, onbekend) &&
-      !std::filesystem::is_empty(pad, onbekend)) {
-    code = std::make_error_code(std::errc::directory_not_empty);
-  }
-  return false;
-}
-
 std::filesystem::path ProgrammaMap() {
   std::wstring naam(32768, L'\0');
   const DWORD lengte = GetModuleFileNameW(nullptr, naam.data(), static_cast<DWORD>(naam.size()));
@@ -307,10 +296,6 @@ SysteemFout Bestandsgreep::Vergrendel() {
   }
   vergrendeld_ = true;
   return {};
-}
-
-bool VerwijderVanSchijf(const std::filesystem::path& pad, std::error_code& code) {
-  return std::filesystem::remove(pad, code);
 }
 
 std::filesystem::path ProgrammaMap() {

@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <filesystem>
 #include <span>
-#include <system_error>
 
 #include "store/Stukken.h"
 #include "store/SysteemFout.h"
@@ -73,10 +72,6 @@ class Bestandsgreep {
 // Brings the names in a directory to the disk itself: what was made, renamed or removed in it. Does
 // nothing where the system has no such operation.
 [[nodiscard]] SysteemFout MapVeiligstellen(const std::filesystem::path& map);
-
-// As std::filesystem::remove: true when it has removed a file, a link or an empty directory; no error
-// for what was not there. A directory with something in it is told as such on every system.
-[[nodiscard]] bool VerwijderVanSchijf(const std::filesystem::path& pad, std::error_code& code);
 
 // The directory of the running executable; the current directory when the system does not tell.
 std::filesystem::path ProgrammaMap();

@@ -131,7 +131,7 @@ TEST_F(Sets, ElkBestandDatNietOpenGaatHeeftZijnMelding) {
 }
 
 TEST_F(Sets, ZonderEigenPlaatsenWordtHetCentraleBestandGebruikt) {
-  if (!ZonderRechten::kKan) GTEST_SKIP();
+  if (!ZonderRechten::kKan) GTEST_SKIP() << ZonderRechten::kWaarom;
   const std::filesystem::path centraal = map_ / "DATA/PLAATS.PLT";
   std::filesystem::rename(map_ / "DATA/EEN/EEN.PLT", centraal);
   constexpr auto kVoorElk = std::filesystem::perms(0666);

@@ -164,7 +164,7 @@ TEST_F(IniBestand, DeMakerZietWatErStaat) {
 }
 
 TEST_F(IniBestand, EenVolleSchijfLaatHetBestandEnDeReserveStaan) {
-  if (!VolleSchijf::kKan) GTEST_SKIP();
+  if (!VolleSchijf::kKan) GTEST_SKIP() << VolleSchijf::kWaarom;
   EXPECT_EQ(SchrijfNieuw("een").stap, SchrijfStap::Klaar);
   EXPECT_EQ(SchrijfNieuw("twee").stap, SchrijfStap::Klaar);
   {
@@ -179,7 +179,7 @@ TEST_F(IniBestand, EenVolleSchijfLaatHetBestandEnDeReserveStaan) {
 }
 
 TEST_F(IniBestand, DeMeldingVanEenVolleSchijfKomtOpHetScherm) {
-  if (!VolleSchijf::kKan) GTEST_SKIP();
+  if (!VolleSchijf::kKan) GTEST_SKIP() << VolleSchijf::kWaarom;
   ZetIni("[Systeem]\nSetOms=bewaard\n");
   Verwacht(
       "", Met([](Hoofdmodule& hoofd) {
@@ -193,8 +193,8 @@ TEST_F(IniBestand, DeMeldingVanEenVolleSchijfKomtOpHetScherm) {
 }
 
 TEST_F(IniBestand, InEenDirectoryZonderRechtenWordtHetBestandZelfOverschreven) {
-  if (!VolleSchijf::kKan) GTEST_SKIP();
-  if (!ZonderRechten::kKan) GTEST_SKIP();
+  if (!VolleSchijf::kKan) GTEST_SKIP() << VolleSchijf::kWaarom;
+  if (!ZonderRechten::kKan) GTEST_SKIP() << ZonderRechten::kWaarom;
   Schrijf("LIJNBOOM.INI", "een");
   std::filesystem::permissions(map_ / "LIJNBOOM.INI", std::filesystem::perms(0666));
   const ZonderRechten rechten(map_);
@@ -206,7 +206,7 @@ TEST_F(IniBestand, InEenDirectoryZonderRechtenWordtHetBestandZelfOverschreven) {
 }
 
 TEST_F(IniBestand, EenBestandZonderRechtenWordtNietGelezenEnNietGeschreven) {
-  if (!ZonderRechten::kKan) GTEST_SKIP();
+  if (!ZonderRechten::kKan) GTEST_SKIP() << ZonderRechten::kWaarom;
   Schrijf("LIJNBOOM.INI", "een");
   std::filesystem::permissions(map_ / "LIJNBOOM.INI", std::filesystem::perms(0));
   {

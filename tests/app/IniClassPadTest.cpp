@@ -76,7 +76,7 @@ TEST_F(IniKlassePad, AnnulerenBijHetSchrijvenVraagtHetEindeVanHetProgramma) {
 }
 
 TEST_F(IniKlassePad, EenBestandZonderRechtenHoudtHetProgrammaTegenEnBlijftStaan) {
-  if (!ZonderRechten::kKan) GTEST_SKIP();
+  if (!ZonderRechten::kKan) GTEST_SKIP() << ZonderRechten::kWaarom;
   ZetIni("[Systeem]\nSetOms=bewaard\n");
   std::filesystem::permissions(map_ / "LIJNBOOM.INI", std::filesystem::perms(0));
   {

@@ -134,7 +134,7 @@ TEST_F(NieuweSetVenster, OudeBestandenOnderEenAndereKastWordenOokOvergenomen) {
 }
 
 TEST_F(NieuweSetVenster, EenBestandDatNietGemaaktKanWordenHeeftZijnMelding) {
-  if (!ZonderRechten::kKan) GTEST_SKIP();
+  if (!ZonderRechten::kKan) GTEST_SKIP() << ZonderRechten::kWaarom;
   std::filesystem::create_directories(map_ / "DATA/ABC/TEKST");
   {
     const ZonderRechten rechten(map_ / "DATA/ABC");
@@ -265,7 +265,7 @@ TEST_F(NieuweSetVenster, EenLeegBestandDatNietGeschrevenKanWordenBlijftLeeg) {
 }
 
 TEST_F(NieuweSetVenster, EenBestandDatNietBekekenKanWordenBlijftZoalsHetIs) {
-  if (!ZonderRechten::kKan) GTEST_SKIP();
+  if (!ZonderRechten::kKan) GTEST_SKIP() << ZonderRechten::kWaarom;
   std::filesystem::create_directories(map_ / "DATA/ABC/TEKST");
   Schrijf("dicht/ABC.PRS", "oude personen");
   std::filesystem::create_symlink(map_ / "dicht/ABC.PRS", map_ / "DATA/ABC/ABC.PRS");

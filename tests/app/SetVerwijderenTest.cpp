@@ -89,7 +89,7 @@ TEST_F(VanSchijf, EenSetOnderEenAndereKastGaatOok) {
 }
 
 TEST_F(VanSchijf, ZonderRechtenHeeftElkBestandEnElkeDirectoryZijnMelding) {
-  if (!ZonderRechten::kKan) GTEST_SKIP();
+  if (!ZonderRechten::kKan) GTEST_SKIP() << ZonderRechten::kWaarom;
   std::filesystem::create_directory(Pad("INDEX"));
   {
     const ZonderRechten rechten(map_ / "DATA/ABC");

@@ -4,13 +4,17 @@
 #endif
 
 #include <array>
+#include <chrono>
 #include <cstdlib>
+#include <fstream>
 #include <string>
+#include <thread>
 #include <utility>
 
 #include "steun/Bestandsstelsel.h"
 #include "steun/TijdelijkeMap.h"
 #include "store/Platform.h"
+#include "store/PlatformNamen.h"
 
 using namespace lb77;
 
@@ -182,6 +186,23 @@ TEST_F(PlatformTest, VerwijderenZegtWatHetTegenhoudt) {
   EXPECT_TRUE(VerwijderVanSchijf(map / "vol/bestand", code));
   EXPECT_TRUE(VerwijderVanSchijf(map / "vol", code));
   EXPECT_FALSE(std::filesystem::exists(map / "vol"));
+}
+
+TEST_F(PlatformTest, EenBestandDatEvenOpenIsWordtTochVervangen) {
+  SchrijfBytes(map / "oud", "oud");
+  SchrijfBytes(map / "nieuw", "nieuw");
+  std::ifstream lezer(map / "oud");
+  std::thread gaat([&lezer] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    lezer.close();
+  });
+  std::error_code code;
+  HernoemOpSchijf(map / "nieuw", map / "oud", code);
+  gaat.join();
+  EXPECT_FALSE(code) << code.message();
+  EXPECT_EQ(LeesBytes(map / "oud"), "nieuw");
+  HernoemOpSchijf(map / "weg", map / "oud", code);
+  EXPECT_EQ(FoutVan(code).nummer, kBestandNietGevonden);
 }
 
 TEST_F(PlatformTest, DeProgrammamapIsDieVanHetProgramma) {
