@@ -113,6 +113,10 @@ function(lb77_toets naam)
   endif()
   add_test(NAME ${naam} COMMAND lb77-${naam}-tests)
   set_property(GLOBAL APPEND PROPERTY LB77_TOETSEN ${naam})
-  set_tests_properties(${naam} PROPERTIES TIMEOUT 300 FIXTURES_REQUIRED getoond ENVIRONMENT
+  set(tijd 300)
+  if(CMAKE_CROSSCOMPILING)
+    set(tijd 900)  # under an emulator
+  endif()
+  set_tests_properties(${naam} PROPERTIES TIMEOUT ${tijd} FIXTURES_REQUIRED getoond ENVIRONMENT
     "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp")
 endfunction()

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "store/Platform.h"
+#include "store/PlatformNamen.h"
 
 namespace lb77 {
 
@@ -80,7 +81,7 @@ SysteemFout Bestandswerk::Koppel(const std::filesystem::path& bestand,
 SysteemFout Bestandswerk::Hernoem(const std::filesystem::path& van,
                                   const std::filesystem::path& naar) {
   std::error_code code;
-  std::filesystem::rename(van, naar, code);
+  HernoemOpSchijf(van, naar, code);
   return FoutVan(code);
 }
 

@@ -4,6 +4,7 @@
 #include <system_error>
 
 #include "store/Paden.h"
+#include "store/PlatformNamen.h"
 #include "store/SetPaden.h"
 #include "store/SysteemFout.h"
 #include "text/Getallen.h"
@@ -15,7 +16,7 @@ namespace {
 
 SysteemFout VerwijderBestand(const std::filesystem::path& pad) {
   std::error_code code;
-  if (std::filesystem::remove(pad, code)) return {};
+  if (VerwijderVanSchijf(pad, code)) return {};
   if (!code) code = std::make_error_code(std::errc::no_such_file_or_directory);
   return FoutVan(code);
 }
@@ -63,8 +64,8 @@ void VerwijderLegeMap(Gesprek& gesprek, const std::filesystem::path& gevraagd,
                       std::string_view naam) {
   const std::filesystem::path map = VindPad(gevraagd);
   std::error_code code;
-  std::filesystem::remove(map, code);
-  if (code) MeldMap(gesprek, map, "data", naam, FoutVan(code).tekst);
+  if (!VerwijderVanSchijf(map, code) && code)
+    MeldMap(gesprek, map, "data", naam, FoutVan(code).tekst);
 }
 
 }  // namespace

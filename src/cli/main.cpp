@@ -206,13 +206,16 @@ void BeschrijfRegel(CLI::App& app, Regel& regel) {
   }
 }
 
-int Hoofd(int argc, char** argv) {
+int Hoofd(const std::vector<std::string>& woorden) {
+  const Opdrachtvenster venster;
   OverleefVertrokkenLezer();
   CLI::App app("LB77: stamboomprogramma, op de opdrachtregel");
   Regel regel;
   BeschrijfRegel(app, regel);
   try {
-    app.parse(argc, argv);
+    std::vector<const char*> argv;
+    for (const std::string& woord : woorden) argv.push_back(woord.c_str());
+    app.parse(static_cast<int>(argv.size()), argv.data());
     const int status = Voer(app, regel);
     std::cout.flush();
     // Whoever has read enough hears nothing more.
@@ -236,5 +239,5 @@ int Hoofd(int argc, char** argv) {
 }  // namespace lb77
 
 int main(int argc, char** argv) {
-  return lb77::Hoofd(argc, argv);
+  return lb77::Hoofd(lb77::Opdrachtwoorden(argc, argv));
 }

@@ -14,7 +14,12 @@ SysteemFout GedLog::Open(const std::filesystem::path& pad) {
   if (code) return FoutVan(code);
   errno = 0;
   bestand_.open(pad, std::ios::binary | std::ios::trunc);
-  return bestand_ ? SysteemFout{} : StroomFout();
+  if (bestand_) return {};
+  SysteemFout fout = StroomFout();
+  // Some systems only say that a directory may not be written.
+  return std::filesystem::is_directory(pad, code)
+             ? FoutVan(std::make_error_code(std::errc::is_a_directory))
+             : fout;
 }
 
 void GedLog::Regel(std::string_view regel) {

@@ -10,6 +10,7 @@
 #include <system_error>
 
 #include "output/Regelstroom.h"
+#include "store/PlatformNamen.h"
 #include "text/Getallen.h"
 #include "text/Unicode.h"
 #include "text/Utf8.h"
@@ -222,7 +223,7 @@ SysteemFout KopieerTekst(const std::filesystem::path& van, const std::filesystem
   SysteemFout fout = SchrijfKopie(van, ernaast, tekencode);
   std::error_code code;
   if (!fout) {
-    std::filesystem::rename(ernaast, naar, code);
+    HernoemOpSchijf(ernaast, naar, code);
     fout = FoutVan(code);
   }
   if (fout) std::filesystem::remove(ernaast, code);

@@ -5,6 +5,8 @@
 #include <limits>
 #include <system_error>
 
+#include "store/PlatformNamen.h"
+
 namespace lb77 {
 
 namespace fs = std::filesystem;
@@ -78,7 +80,7 @@ SysteemFout SchijfJournaalMap::Hernoem(const std::string& van, const std::string
   // A file that is open can't be renamed on every system.
   greep_.Sluit();
   std::error_code code;
-  fs::rename(map_ / van, map_ / naar, code);
+  HernoemOpSchijf(map_ / van, map_ / naar, code);
   return FoutVan(code);
 }
 

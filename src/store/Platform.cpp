@@ -202,8 +202,10 @@ SysteemFout Bestandsgreep::Vergrendel() {
   return GetLastError() == ERROR_NOT_SUPPORTED ? SysteemFout{} : LaatsteFout();
 }
 
-SysteemFout MapVeiligstellen(const std::filesystem::path&) {
-  return {};
+// Names need no help to reach the disk there.
+SysteemFout MapVeiligstellen(const std::filesystem::path& map) {
+  const wchar_t* naam = map.empty() ? L"." : map.c_str();
+  return GetFileAttributesW(naam) == INVALID_FILE_ATTRIBUTES ? LaatsteFout() : SysteemFout{};
 }
 
 std::filesystem::path ProgrammaMap() {

@@ -267,7 +267,7 @@ constexpr std::string_view kNietTeSchrijven =
     R"(? uitroep OK/Annuleren "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\nGeen toegang" -> )";
 
 TEST_F(AlleenLezen, MetInstellingenDieNietTeSchrijvenZijnGaatHetProgrammaDoor) {
-  if (!ZonderRechten::kKan) GTEST_SKIP();
+  if (!ZonderRechten::kKan) GTEST_SKIP() << ZonderRechten::kWaarom;
   const std::string voor = Ini();
   {
     const ZonderRechten rechten(map_);
@@ -283,7 +283,7 @@ TEST_F(AlleenLezen, MetInstellingenDieNietTeSchrijvenZijnGaatHetProgrammaDoor) {
 }
 
 TEST_F(AlleenLezen, AnnulerenBijHetOpstartenEindigtHetProgrammaVoorHetVenster) {
-  if (!ZonderRechten::kKan) GTEST_SKIP();
+  if (!ZonderRechten::kKan) GTEST_SKIP() << ZonderRechten::kWaarom;
   const ZonderRechten rechten(map_);
   Verwacht("antwoord Annuleren", Sessie(), std::string(kNietTeSchrijven) + "Annuleren");
 }

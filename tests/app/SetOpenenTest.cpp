@@ -31,7 +31,7 @@ constexpr std::string_view kVraag =
     "voltooid.\\nOngedaan maken ?\" -> ";
 
 void SetOpenen::OpentZonderRechten(const std::string& antwoord, const std::string& melding) {
-  if (!ZonderRechten::kKan) GTEST_SKIP();
+  if (!ZonderRechten::kKan) GTEST_SKIP() << ZonderRechten::kWaarom;
   LaatOnvoltooid("TWEE");
   for (const char* naam : {"TWEE.PRS", "TWEE.RLT", "TWEE.OPM", "TWEE.PLT"}) {
     std::filesystem::permissions(map_ / "DATA/TWEE" / naam, std::filesystem::perms(0666));

@@ -19,6 +19,7 @@ namespace lb77 {
 class ZonderRechten {
  public:
   static constexpr bool kKan = false;
+  static constexpr const char* kWaarom = "hier weigert een directory niets";
   explicit ZonderRechten(const std::filesystem::path&,
                          std::filesystem::perms = std::filesystem::perms(0555)) {}
 };
@@ -29,6 +30,7 @@ class ZonderRechten {
 class ZonderRechten {
  public:
   static constexpr bool kKan = true;
+  static constexpr const char* kWaarom = "";
   explicit ZonderRechten(std::filesystem::path map,
                          std::filesystem::perms rechten = std::filesystem::perms(0555))
       : map_(std::move(map)), wie_(geteuid()) {

@@ -1,4 +1,5 @@
 #include "OpdrachtToets.h"
+#include "steun/Bestandsstelsel.h"
 
 namespace lb77 {
 namespace {
@@ -99,11 +100,12 @@ TEST_F(BewarenToets, UitWeigertWatVanHetProgrammaIs) {
   for (const auto& [pad, rol] : gevallen) {
     OpdrachtArgumenten argumenten = Verslag();
     argumenten.naar = pad;
-    if (pad.filename() == "lb77_ini.bak") std::filesystem::create_symlink("LB77_INI.BAK", pad);
+    const bool koppeling = kKastTelt && pad.filename() == "lb77_ini.bak";
+    if (koppeling) std::filesystem::create_symlink("LB77_INI.BAK", pad);
     EXPECT_EQ(Doe("kwartierstaat", argumenten), 1) << pad;
     EXPECT_NE(fout_.find(" is " + rol + " en wordt niet overschreven\n"), std::string::npos)
         << fout_;
-    std::filesystem::remove(map_ / "lb77_ini.bak");
+    if (koppeling) std::filesystem::remove(pad);
   }
   EXPECT_EQ(Inhoud(), voor);
 }

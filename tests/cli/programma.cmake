@@ -1,9 +1,10 @@
-# Exit statuses and output of lb77-cli, run as a program: -DPROGRAMMA=... -DMAP=...
+# Exit statuses and output of lb77-cli, run as a program: -DPROGRAMMA=... -DMAP=... and, where it takes
+# another program to run it, -DLOPER=...
 file(REMOVE_RECURSE ${MAP})
 file(MAKE_DIRECTORY ${MAP})
 
 function(verwacht status patroon)
-  execute_process(COMMAND ${PROGRAMMA} ${ARGN} RESULT_VARIABLE uitslag OUTPUT_VARIABLE uit
+  execute_process(COMMAND ${LOPER} ${PROGRAMMA} ${ARGN} RESULT_VARIABLE uitslag OUTPUT_VARIABLE uit
     ERROR_VARIABLE fout)
   if(NOT uitslag EQUAL status)
     message(SEND_ERROR "lb77-cli ${ARGN}: status ${uitslag}, not ${status}\n${uit}${fout}")
@@ -33,6 +34,13 @@ if(EXISTS ${MAP}/weg)
 endif()
 verwacht(0 "nieuw IniBestand" --map ${MAP}/weg nieuw PROEF)
 verwacht(0 "nieuw IniBestand" --map ${MAP} nieuw PROEF "Mijn proef")
+# Letters of any language, whatever the code page of the system.
+set(ENV{LC_ALL} C.UTF-8)
+verwacht(2 "Ж: bevat een teken dat LB77 niet kan opslaan" --map ${MAP} zoek PROEF Ж)
+verwacht(2 "de map Ж van Zoë is geen map" --map "${MAP}/de map Ж van Zoë" sets)
+file(MAKE_DIRECTORY "${MAP}/de map Ж van Zoë")
+verwacht(0 "nieuw IniBestand" --map "${MAP}/de map Ж van Zoë" nieuw EEN "Zoë")
+verwacht(0 "EEN +Zoë +0 personen" --map "${MAP}/de map Ж van Zoë" sets)
 verwacht(0 "PROEF +Mijn proef +0 personen, 0 relaties" --map ${MAP} sets)
 verwacht(1 "staat niet in de lijst" --map ${MAP} zoek WEG iets)
 verwacht(0 "Er is niets te herstellen" --map ${MAP} herstel PROEF --behoud)
@@ -46,7 +54,7 @@ verwacht(0 "= Statusbalk .Actieve bestandenset: PROEF,Mijn proef." --map ${MAP}
 # A directory as the caller sees it, and output that cannot be written.
 get_filename_component(BOVEN ${MAP} DIRECTORY)
 get_filename_component(NAAM ${MAP} NAME)
-execute_process(COMMAND ${PROGRAMMA} --map ${NAAM} sets WORKING_DIRECTORY ${BOVEN}
+execute_process(COMMAND ${LOPER} ${PROGRAMMA} --map ${NAAM} sets WORKING_DIRECTORY ${BOVEN}
   RESULT_VARIABLE uitslag OUTPUT_VARIABLE uit)
 if(uitslag OR NOT uit MATCHES "PROEF")
   message(SEND_ERROR "lb77-cli --map ${NAAM} sets: status ${uitslag}\n${uit}")
@@ -55,7 +63,7 @@ endif()
 file(WRITE ${MAP}/een.ged "0 HEAD\n1 CHAR ANSI\n0 @I1@ INDI\n1 NAME Jan /Dam/\n0 TRLR\n")
 verwacht(0 "" --map ${MAP} importeer PROEF ${MAP}/een.ged)
 find_program(SH sh)
-if(SH)
+if(SH AND NOT LOPER)
   file(MAKE_DIRECTORY ${MAP}/tmp)
   foreach(opdracht "zoek PROEF Dam" "kwartierstaat PROEF 2")
     execute_process(WORKING_DIRECTORY ${MAP} ERROR_VARIABLE fout
@@ -72,7 +80,7 @@ if(SH)
     message(SEND_ERROR "lb77-cli leaves ${resten}")
   endif()
 endif()
-if(EXISTS /dev/full)
+if(EXISTS /dev/full AND NOT LOPER)
   execute_process(COMMAND ${PROGRAMMA} --map ${MAP} sets OUTPUT_FILE /dev/full
     RESULT_VARIABLE uitslag ERROR_VARIABLE fout)
   if(NOT uitslag EQUAL 1 OR NOT fout MATCHES "de uitvoer kon niet worden geschreven")

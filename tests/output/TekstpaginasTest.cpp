@@ -96,7 +96,7 @@ TEST_F(TekstpaginasTest, EenMislukteKopieLaatHetOudeBestand) {
 }
 
 TEST_F(TekstpaginasTest, EenKopieZonderRuimteZegtWaaromEnLaatHetOudeBestand) {
-  if (!VolleSchijf::kKan) GTEST_SKIP();
+  if (!VolleSchijf::kKan) GTEST_SKIP() << VolleSchijf::kWaarom;
   SchrijfBytes(map_ / "oud.txt", "oud");
   for (const std::size_t lengte : {2000, 500000}) {  // noticed at the end, and on the way
     SchrijfBytes(map_ / "in.txt", std::string(lengte, 'x') + "\n" + std::string(lengte, 'y'));

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "reporting/Tijdelijk.h"
+#include "script/Verslag.h"
 #include "steun/NepGesprek.h"
 #include "steun/TijdelijkeMap.h"
 
@@ -39,8 +40,10 @@ TEST(Verslagbestand, ZegtWelkBestandNietGemaaktKanWorden) {
   const TijdelijkeMap map;
   NepGesprek gesprek;
   EXPECT_EQ(SchrijfVerslag({map.Pad()}, gesprek, Klaar), Einde::Schrijffout);
-  EXPECT_EQ(gesprek.Neem(), (std::vector<std::string>{"! stop \"Kan tijdelijk bestand " +
-                                                      map.Pad().string() + " niet openen\""}));
+  EXPECT_EQ(
+      gesprek.Neem(),
+      (std::vector<std::string>{
+          "! stop " + Aangehaald("Kan tijdelijk bestand " + map.Pad().string() + " niet openen")}));
 }
 
 TEST(Verslagbestand, ZegtDatDeSchijfVolIsOokNaEenLeesfoutMaarEenStopBlijftEenStop) {

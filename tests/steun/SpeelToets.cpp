@@ -5,6 +5,7 @@
 #include "script/Instructie.h"
 #include "script/Verslag.h"
 #include "steun/Plekken.h"
+#include "steun/Vergelijkbaar.h"
 #include "text/Tekens.h"
 
 namespace lb77 {
@@ -35,28 +36,6 @@ SpeelUitslag SpeelToets::Speel(std::string_view draaiboek, const Programma& prog
                      [&](std::string_view regel) { verslag_ += std::string(regel) + '\n'; },
                      {.basismap = basismap_, .echo = echo_, .getoond = NoteerGetoond});
 }
-
-namespace {
-
-// Paths in a transcript read alike on each system: there with a slash for each backslash, as texts
-// that a test puts together from both.
-std::string Vergelijkbaar(std::string tekst) {
-#ifdef _WIN32
-  for (std::size_t i = tekst.find("\\\\"); i != std::string::npos; i = tekst.find("\\\\", i)) {
-    tekst.replace(i, 2, "/");
-  }
-  std::size_t schijf = 0;
-  while ((schijf = tekst.find(":\\", schijf)) != std::string::npos) {
-    while (schijf < tekst.size() && tekst[schijf] != '"' && tekst[schijf] != '\n') {
-      if (tekst[schijf] == '\\') tekst[schijf] = '/';
-      ++schijf;
-    }
-  }
-#endif
-  return tekst;
-}
-
-}  // namespace
 
 void SpeelToets::Verwacht(std::string_view draaiboek, const Programma& programma,
                           std::string_view verslag, const Plek& plek) {

@@ -15,7 +15,8 @@ namespace lb77 {
 class VolleSchijf {
  public:
   static constexpr bool kKan = false;
-  explicit VolleSchijf(unsigned) {}
+  static constexpr const char* kWaarom = "hier is geen grens aan een bestand";
+  explicit VolleSchijf(unsigned long long) {}
 };
 
 #else
@@ -24,6 +25,7 @@ class VolleSchijf {
 class VolleSchijf {
  public:
   static constexpr bool kKan = true;
+  static constexpr const char* kWaarom = "";
   explicit VolleSchijf(rlim_t bytes) : signaal_(std::signal(SIGXFSZ, SIG_IGN)) {
     getrlimit(RLIMIT_FSIZE, &oud_);
     const rlimit klein{bytes, oud_.rlim_max};

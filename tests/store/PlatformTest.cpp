@@ -4,12 +4,17 @@
 #endif
 
 #include <array>
+#include <chrono>
 #include <cstdlib>
+#include <fstream>
 #include <string>
+#include <thread>
 #include <utility>
 
+#include "steun/Bestandsstelsel.h"
 #include "steun/TijdelijkeMap.h"
 #include "store/Platform.h"
+#include "store/PlatformNamen.h"
 
 using namespace lb77;
 
@@ -76,7 +81,8 @@ TEST_F(PlatformTest, EenBestandDatAlleenTeLezenIsGaatNietOpen) {
 }
 
 TEST_F(PlatformTest, EenProgrammaDatDraaitGaatNietOpenOmTeSchrijven) {
-  const SysteemFout fout = greep.Open(ProgrammaMap() / "lb77-store-tests");
+  const SysteemFout fout =
+      greep.Open(ProgrammaMap() / (std::string("lb77-store-tests") + kProgrammaEind));
   EXPECT_EQ(fout.nummer, kGeenToegang);
   EXPECT_EQ(fout.tekst, "Bestand is in gebruik");
 }
@@ -141,6 +147,7 @@ TEST_F(PlatformTest, EenNieuwBestandMagErNogNietZijn) {
   EXPECT_EQ(greep.Open(map / "nieuw", Openwijze::Nieuw).nummer, kBestandBestaatAl);
   EXPECT_FALSE(greep.IsOpen());
   EXPECT_EQ(LeesBytes(map / "nieuw"), "nu");
+  if (!kKoppelingen) return;
   std::filesystem::create_symlink(map / "nergens", map / "koppeling");
   EXPECT_EQ(greep.Open(map / "koppeling", Openwijze::Nieuw).tekst, "Bestand bestaat al");
 }
@@ -169,8 +176,38 @@ TEST_F(PlatformTest, DeNamenInEenDirectoryGaanNaarDeSchijf) {
   EXPECT_EQ(MapVeiligstellen(map / "weg").nummer, kBestandNietGevonden);
 }
 
+TEST_F(PlatformTest, VerwijderenZegtWatHetTegenhoudt) {
+  std::error_code code;
+  EXPECT_FALSE(VerwijderVanSchijf(map / "weg", code));
+  EXPECT_FALSE(code);
+  SchrijfBytes(map / "vol/bestand", "x");
+  EXPECT_FALSE(VerwijderVanSchijf(map / "vol", code));
+  EXPECT_EQ(FoutVan(code).tekst, "Directory is niet leeg");
+  EXPECT_TRUE(VerwijderVanSchijf(map / "vol/bestand", code));
+  EXPECT_TRUE(VerwijderVanSchijf(map / "vol", code));
+  EXPECT_FALSE(std::filesystem::exists(map / "vol"));
+}
+
+TEST_F(PlatformTest, EenBestandDatEvenOpenIsWordtTochVervangen) {
+  SchrijfBytes(map / "oud", "oud");
+  SchrijfBytes(map / "nieuw", "nieuw");
+  std::ifstream lezer(map / "oud");
+  std::thread gaat([&lezer] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    lezer.close();
+  });
+  std::error_code code;
+  HernoemOpSchijf(map / "nieuw", map / "oud", code);
+  gaat.join();
+  EXPECT_FALSE(code) << code.message();
+  EXPECT_EQ(LeesBytes(map / "oud"), "nieuw");
+  HernoemOpSchijf(map / "weg", map / "oud", code);
+  EXPECT_EQ(FoutVan(code).nummer, kBestandNietGevonden);
+}
+
 TEST_F(PlatformTest, DeProgrammamapIsDieVanHetProgramma) {
-  EXPECT_TRUE(std::filesystem::exists(ProgrammaMap() / "lb77-store-tests"));
+  EXPECT_TRUE(
+      std::filesystem::exists(ProgrammaMap() / (std::string("lb77-store-tests") + kProgrammaEind)));
 }
 
 #ifndef _WIN32

@@ -18,5 +18,5 @@ TEST(SetPadenTest, AllePadenVanEenSet) {
 }
 
 TEST(SetPadenTest, DeNaamStaatInHoofdletters) {
-  EXPECT_EQ(SetPaden::Van("/d", "zoë"_w).prs, std::filesystem::path("/d/ZOË/ZOË.PRS"));
+  EXPECT_EQ(SetPaden::Van("/d", "zoë"_w).prs, std::filesystem::path(u8"/d/ZOË/ZOË.PRS"));
 }
