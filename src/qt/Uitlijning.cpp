@@ -32,6 +32,15 @@ int Kolombreedte(const QGridLayout& rooster, int kolom) {
   return breedte;
 }
 
+// Asked of the grids themselves: what the frames around them know of it may be old.
+int Breedste(const std::vector<QGridLayout*>& roosters) {
+  int breedte = 0;
+  for (const QGridLayout* een : roosters) {
+    breedte = std::max(breedte, een->totalMinimumSize().width());
+  }
+  return breedte;
+}
+
 // What a grid asks is known to the frames around it by their own hints, which they keep.
 void ZetBreedte(QGridLayout& rooster, int kolom, int breedte, const QWidget& tot) {
   rooster.setColumnMinimumWidth(kolom, breedte);
@@ -52,13 +61,13 @@ void Opmaker::Onthoud(QGridLayout& rooster, bool velden) {
 void Opmaker::LijnUit(const std::vector<QGridLayout*>& roosters, int kolom) {
   int breedte = 0;
   for (const QGridLayout* een : roosters) breedte = std::max(breedte, Kolombreedte(*een, kolom));
-  const int voor = ouder_.layout()->totalMinimumSize().width();
+  const int voor = Breedste(roosters);
   for (QGridLayout* een : roosters) {
     // A grid of lists and buttons has no prompts to bring in line.
     if (Kolombreedte(*een, kolom) > 0) ZetBreedte(*een, kolom, breedte, ouder_);
   }
-  const int na = ouder_.layout()->totalMinimumSize().width();
-  if (na <= std::max(voor, kSmalsteScherm)) return;
+  const int ruimte = kSmalsteScherm - kRanden - kKader;
+  if (Breedste(roosters) <= std::max(voor, ruimte)) return;
   for (QGridLayout* een : roosters) ZetBreedte(*een, kolom, 0, ouder_);
 }
 
