@@ -13,8 +13,9 @@ namespace lb77 {
 
 namespace {
 
-constexpr int kSmalsteScherm =
-    1008;  // pixels of the smallest screen, without the frame of a window
+constexpr int kSmalsteScherm = 1008;  // pixels, without the frame of a window
+constexpr int kRanden = 40;           // that the edges of a window take
+constexpr int kKader = 48;            // that those of a frame in it take
 
 // What the widest thing asks that stands in this column alone.
 int Kolombreedte(const QGridLayout& rooster, int kolom) {
