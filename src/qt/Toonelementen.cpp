@@ -124,9 +124,6 @@ class WisselElement final : public Element {
 class Waarde final : public QLabel {
  public:
   using QLabel::QLabel;
-  [[nodiscard]] QSize sizeHint() const override {
-    return QLabel::sizeHint().expandedTo({TekenBreedte(*this, kTellerBreedte), 0});
-  }
   [[nodiscard]] QSize minimumSizeHint() const override {
     const QSize eigen = QLabel::minimumSizeHint();
     return {std::clamp(eigen.width(), TekenBreedte(*this, kTellerBreedte),
