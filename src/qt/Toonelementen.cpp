@@ -23,7 +23,7 @@ namespace {
 
 constexpr int kLangeTekst = 70;     // characters; a longer label wraps
 constexpr int kTellerBreedte = 10;  // characters kept free for a value
-constexpr int kLangeWaarde = 30;    // a longer one gives way to the screen
+constexpr int kLangeWaarde = 36;    // a longer one gives way to the screen
 
 class KlikLabel final : public QLabel {
  public:
