@@ -33,13 +33,13 @@ class TekstVenster : public Formulier, public Bladeraar, public Leesformulier {
   Tekstvak ZoekTekst{*this, "ZoekTekst", "&Zoek in de tekst:", 60};
   Knop ZoekButton{*this, "ZoekButton", "&Volgende"};
   Label ZoekLabel{*this, "ZoekLabel"};
+  Vinkje UTF8Box{*this, "UTF8Box", "Opslaan in &UTF-8"};
+  Knop BrowserButton{*this, "BrowserButton", "Open in bro&wser"};
   Vindpagina UitvoerBox{*this, "UitvoerBox"};
   Label XY_label{*this, "XY_label", "pagina 99,99"};
   Rij<Knop, 4> MoveButton{*this, "MoveButton", 1, std::string_view{}};
   Rij<Knop, 2> PrintButton{*this, "PrintButton", 1, std::string_view{}};
-  Vinkje UTF8Box{*this, "UTF8Box", "in &UTF-8"};
   Knop SaveButton{*this, "SaveButton", "&Opslaan Als"};
-  Knop BrowserButton{*this, "BrowserButton", "Open in bro&wser"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 
   void Blader(int stap) override { Ga(0, stap); }

@@ -18,8 +18,8 @@ namespace {
 
 constexpr int kGrootsteLetter = 12;  // points
 constexpr int kPuntenPerInch = 72;
-constexpr qreal kMarge = 10;  // mm
-constexpr qreal kVoet = 8;    // mm
+constexpr qreal kMarge = 10.5;  // mm; a device rounds to its own steps
+constexpr qreal kVoet = 8;      // mm
 constexpr qreal kMmPerInch = 25.4;
 constexpr int kVoetLetter = 9;  // points
 

@@ -20,7 +20,7 @@ namespace lb77 {
 // The pages on which something stands.
 [[nodiscard]] Afdruk ZonderLegeVellen(const Afdruk& afdruk);
 
-// A4, upright, with margins of 10 mm, or more where the device needs them.
+// A4, upright, with margins of at least 10 mm, or more where the device needs them.
 void StelPapierIn(QPagedPaintDevice& papier);
 
 // Where the text stands on a sheet, in dots of the paint area, and its letter. At least 10 mm of white

@@ -14,9 +14,8 @@ namespace {
 
 // A number or a mark tells nobody what it is about.
 bool ZegtNiets(const Bediening& bediening, const std::string& naam) {
-  const bool codenaam = naam == bediening.Naam() && naam != ZonderSneltoets(bediening.Bijschrift());
-  return codenaam ||
-         (naam == bediening.Bijschrift() && std::all_of(naam.begin(), naam.end(), IsCijfer));
+  if (naam != ZonderSneltoets(bediening.Bijschrift())) return naam == bediening.Naam();
+  return std::all_of(naam.begin(), naam.end(), IsCijfer);
 }
 
 }  // namespace

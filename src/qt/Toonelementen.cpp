@@ -23,6 +23,7 @@ namespace {
 
 constexpr int kLangeTekst = 70;     // characters; a longer label wraps
 constexpr int kTellerBreedte = 10;  // characters kept free for a value
+constexpr int kLangeWaarde = 36;    // a longer one gives way to the screen
 
 class KlikLabel final : public QLabel {
  public:
@@ -119,15 +120,15 @@ class WisselElement final : public Element {
   Wisselvlak& label_;
 };
 
-// Never narrower than its value, unless the layout says how wide it is.
+// Never narrower than its value, unless that is very long or the layout says how wide it is.
 class Waarde final : public QLabel {
  public:
   using QLabel::QLabel;
-  [[nodiscard]] QSize sizeHint() const override {
-    return QLabel::sizeHint().expandedTo({TekenBreedte(*this, kTellerBreedte), 0});
-  }
   [[nodiscard]] QSize minimumSizeHint() const override {
-    return QLabel::minimumSizeHint().expandedTo({TekenBreedte(*this, kTellerBreedte), 0});
+    const QSize eigen = QLabel::minimumSizeHint();
+    return {std::clamp(eigen.width(), TekenBreedte(*this, kTellerBreedte),
+                       TekenBreedte(*this, kLangeWaarde)),
+            eigen.height()};
   }
 };
 

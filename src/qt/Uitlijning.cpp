@@ -13,8 +13,9 @@ namespace lb77 {
 
 namespace {
 
-constexpr int kSmalsteScherm =
-    1008;  // pixels of the smallest screen, without the frame of a window
+constexpr int kSmalsteScherm = 1008;  // pixels, without the frame of a window
+constexpr int kRanden = 40;           // that the edges of a window take
+constexpr int kKader = 48;            // that those of a frame in it take
 
 // What the widest thing asks that stands in this column alone.
 int Kolombreedte(const QGridLayout& rooster, int kolom) {
@@ -28,6 +29,15 @@ int Kolombreedte(const QGridLayout& rooster, int kolom) {
     if (begin == kolom && kolommen == 1) {
       breedte = std::max(breedte, rooster.itemAt(i)->sizeHint().width());
     }
+  }
+  return breedte;
+}
+
+// Asked of the grids themselves: what the frames around them know of it may be old.
+int Breedste(const std::vector<QGridLayout*>& roosters) {
+  int breedte = 0;
+  for (const QGridLayout* een : roosters) {
+    breedte = std::max(breedte, een->totalMinimumSize().width());
   }
   return breedte;
 }
@@ -52,13 +62,13 @@ void Opmaker::Onthoud(QGridLayout& rooster, bool velden) {
 void Opmaker::LijnUit(const std::vector<QGridLayout*>& roosters, int kolom) {
   int breedte = 0;
   for (const QGridLayout* een : roosters) breedte = std::max(breedte, Kolombreedte(*een, kolom));
-  const int voor = ouder_.layout()->totalMinimumSize().width();
+  const int voor = Breedste(roosters);
   for (QGridLayout* een : roosters) {
     // A grid of lists and buttons has no prompts to bring in line.
     if (Kolombreedte(*een, kolom) > 0) ZetBreedte(*een, kolom, breedte, ouder_);
   }
-  const int na = ouder_.layout()->totalMinimumSize().width();
-  if (na <= std::max(voor, kSmalsteScherm)) return;
+  const int ruimte = kSmalsteScherm - kRanden - kKader;
+  if (Breedste(roosters) <= std::max(voor, ruimte)) return;
   for (QGridLayout* een : roosters) ZetBreedte(*een, kolom, 0, ouder_);
 }
 

@@ -62,6 +62,8 @@ TEST_F(ToonTekstTest, ToontDeEersteBladzijde) {
       = ZoekTekst ""
       = ZoekButton "&Volgende"
       = ZoekLabel ""
+      = UTF8Box uit
+      = BrowserButton "Open in bro&wser" [verborgen]
       = UitvoerBox "een\ntwee"
       = XY_label "pagina 1,1"
       = MoveButton(1) "Naar &links" [uit]
@@ -70,9 +72,7 @@ TEST_F(ToonTekstTest, ToontDeEersteBladzijde) {
       = MoveButton(4) "O&mlaag" [uit]
       = PrintButton(1) "&Print deze"
       = PrintButton(2) "Print &Alles"
-      = UTF8Box uit
       = SaveButton "&Opslaan Als"
-      = BrowserButton "Open in bro&wser" [verborgen]
       = BackButton "&Terug"
       * BackButton
       - ToonTekst
@@ -113,6 +113,8 @@ TEST_F(ToonTekstTest, EenBestandDatErNietIsMeldtWaarom) {
       = ZoekTekst ""
       = ZoekButton "&Volgende"
       = ZoekLabel ""
+      = UTF8Box uit
+      = BrowserButton "Open in bro&wser" [verborgen]
       = UitvoerBox "Fout: Bestand niet gevonden"
       = XY_label "pagina 1,1"
       = MoveButton(1) "Naar &links" [uit]
@@ -121,9 +123,7 @@ TEST_F(ToonTekstTest, EenBestandDatErNietIsMeldtWaarom) {
       = MoveButton(4) "O&mlaag" [uit]
       = PrintButton(1) "&Print deze" [uit]
       = PrintButton(2) "Print &Alles" [uit]
-      = UTF8Box uit
       = SaveButton "&Opslaan Als" [uit]
-      = BrowserButton "Open in bro&wser" [verborgen]
       = BackButton "&Terug"
       * BackButton
       - ToonTekst

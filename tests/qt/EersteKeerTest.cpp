@@ -26,8 +26,8 @@
 namespace lb77 {
 namespace {
 
-constexpr QPoint kPlek(40, 60);
-constexpr QSize kMaat(960, 640);
+constexpr QPoint kPlek(70, 110);
+constexpr QSize kMaat(940, 600);
 
 class EersteKeerTest : public Toetsenbord {
  protected:

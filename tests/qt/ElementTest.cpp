@@ -233,7 +233,8 @@ TEST_F(ElementTest, DeLeesnaamIsDePromptOfHetBijschrift) {
   Bekijk([&] {
     EXPECT_EQ(Vind("Een").accessibleName(), QString("Eerste veld:"));
     EXPECT_EQ(Vind("OKButton").accessibleName(), QString("OK"));
-    EXPECT_EQ(Vind("PersNr(1)").accessibleName(), QString("Nr"));
+    EXPECT_EQ(Vind("PersNr(0)").accessibleName(), QString("Nr"));
+    EXPECT_EQ(Vind("PersNr(1)").accessibleName(), QString("Nr 2"));
   });
 }
 

@@ -4,7 +4,9 @@
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QImage>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QPushButton>
 
 #include "Proefvorm.h"
@@ -165,6 +167,98 @@ TEST_F(FocusTest, EenVastgehoudenSpatieDruktEenKeer) {
     QApplication::sendEvent(&Vind("OKButton"), &herhaald);
   }});
   EXPECT_EQ(std::count(vorm.log.begin(), vorm.log.end(), "klik OKButton"), 1);
+}
+
+// A list that leaves its double click to the OK of its form.
+class Kiesvorm final : public Formulier {
+ public:
+  Kiesvorm() : Formulier("Kiesvorm", "Kies") {
+    Lijst.ZetRijen({"een", "twee"});
+    Lijst.ZetIndex(1);
+    OKButton.BijKlik([this] { ++keer; });
+    BackButton.BijKlik([this] { Sluit(); });
+    ZetEersteVeld(Lijst);
+  }
+  Keuzelijst Lijst{*this, "Lijst", "Lijst:"};
+  Knop OKButton{*this, "OKButton", "&OK"};
+  Knop BackButton{*this, "BackButton", "&Terug"};
+  int keer = 0;
+  using Formulier::ZetFocus;
+};
+
+TEST_F(FocusTest, EnterEnDubbelklikInEenLijstDrukkenOpOK) {
+  Kiesvorm kies;
+  Voer(kies, {[&] {
+                Toets(Qt::Key_Return);
+                EXPECT_EQ(kies.keer, 1);
+                auto& lijst = Vind<QListWidget>("Lijst");
+                emit lijst.itemDoubleClicked(lijst.item(1));
+                EXPECT_EQ(kies.keer, 2);
+                kies.OKButton.ZetIngeschakeld(false);
+                kies.ZetFocus(kies.Lijst);
+                Toets(Qt::Key_F8);
+                Toets(Qt::Key_Return);
+                EXPECT_EQ(kies.keer, 2);
+              },
+              [&] { Toets(Qt::Key_Escape); }});
+}
+
+TEST_F(FocusTest, EnterInEenLijstDoetWatHaarDubbelklikDoet) {
+  vorm.Kieslijst.ZetRijen({"een", "twee"});
+  vorm.Kieslijst.ZetIndex(1);
+  vorm.ZetEersteVeld(vorm.Kieslijst);
+  Speel({[&] { Toets(Qt::Key_Return); }});
+  EXPECT_THAT(vorm.log, testing::Contains("dubbel Kieslijst"));
+  EXPECT_EQ(std::count(vorm.log.begin(), vorm.log.end(), "klik OKButton"), 0);
+}
+
+TEST_F(FocusTest, EnterInEenLijstZonderKeuzeGaatVerder) {
+  vorm.Kieslijst.ZetRijen({"een", "twee"});
+  vorm.ZetEersteVeld(vorm.Kieslijst);
+  Speel({[&] {
+    Toets(Qt::Key_Return);
+    EXPECT_EQ(Focus(), "PersNr(0)");
+  }});
+  EXPECT_EQ(std::count(vorm.log.begin(), vorm.log.end(), "klik OKButton"), 0);
+}
+
+TEST_F(FocusTest, OpEnNeerGaanNaarDeRegelErbovenEnEronder) {
+  vorm.ZetEersteVeld(vorm.Cijfers);
+  Speel({[&] {
+    Toets(Qt::Key_Down);
+    EXPECT_EQ(Focus(), "Groot");
+    Toets(Qt::Key_Up);
+    Toets(Qt::Key_Up);
+    EXPECT_EQ(Focus(), "Een");
+    Toets(Qt::Key_Up);
+    EXPECT_EQ(Focus(), "Een");
+  }});
+}
+
+TEST_F(FocusTest, OpEnNeerVragenHetHetFormulier) {
+  vorm.eenGoed = false;
+  Speel({[&] {
+    Toets(Qt::Key_Down);
+    EXPECT_EQ(Focus(), "Een");
+  }});
+  EXPECT_THAT(boxen, ElementsAre("Een is fout"));
+}
+
+TEST_F(FocusTest, InEenVensterDatNetOpenIsZietMenWaarDeFocusIs) {
+  vorm.ZetEersteVeld(vorm.OKButton);
+  Speel({[&] {
+    QWidget& knop = Vind("OKButton");
+    ASSERT_EQ(Focus(), "OKButton");
+    const QImage met = knop.grab().toImage();
+    vorm.ZetFocus(vorm.Vak);
+    Toets(Qt::Key_F8);
+    ASSERT_EQ(Focus(), "Vak");
+    EXPECT_NE(knop.grab().toImage(), met);
+    const QImage vak = Vind("Vak").grab().toImage();
+    vorm.ZetFocus(vorm.Een);
+    Toets(Qt::Key_F8);
+    EXPECT_NE(Vind("Vak").grab().toImage(), vak);
+  }});
 }
 
 TEST_F(FocusTest, EnterOpEenKnopDruktHem) {

@@ -7,8 +7,7 @@
 #include <utility>
 #include <vector>
 
-#include "Formulierproef.h"
-#include "app/Klok.h"
+#include "Programmaproef.h"
 #include "forms/Rijnaam.h"
 #include "program/AlleFormulieren.h"
 #include "program/Programma.h"
@@ -23,46 +22,9 @@
 namespace lb77 {
 namespace {
 
-class FormulierenTest : public Formulierproef, public testing::WithParamInterface<FormulierRij> {
+class FormulierenTest : public Programmaproef, public testing::WithParamInterface<FormulierRij> {
  protected:
-  void SetUp() override {
-    programma_.emplace(gesprek, klok_, map_.Pad());
-    ASSERT_TRUE(programma_->Start());
-    MaakSet();
-  }
-
-  // A set with a family of three.
-  void MaakSet() {
-    Hoofdmodule& hoofd = programma_->Hoofd();
-    const SetPaden paden = SetPaden::Van(map_ / "DATA", "ORANJE");
-    std::filesystem::create_directories(paden.tekst);
-    ASSERT_FALSE(hoofd.bestanden.OpenSet(paden));
-    ASSERT_TRUE(hoofd.Persoon.NieuwAdm());
-    ASSERT_TRUE(hoofd.Relatie.NieuwAdm());
-    ASSERT_TRUE(hoofd.Opmerking.NieuwAdm());
-    ASSERT_TRUE(hoofd.Plaats.NieuwAdm());
-    BouwFamilie bouw(hoofd.Persoon, hoofd.Relatie, hoofd.Plaats, hoofd.Opmerking);
-    const auto willem = bouw.Man("Willem", "van Oranje", {{"GebDatum", "24-04-1533"}});
-    const auto charlotte = bouw.Vrouw("Charlotte", "de Bourbon");
-    const auto louise = bouw.Vrouw("Louise Juliana", "van Nassau", {{"GebDatum", "31-03-1576"}});
-    static_cast<void>(bouw.Relatie(willem, charlotte, {louise}));
-    bouw.OpmerkingBijPersoon(willem, persoonrubriek::kVoornaam, {"Bijgenaamd de Zwijger"}, 0);
-    hoofd.ActieveSetNaam = "ORANJE";
-    hoofd.Ini.IniZet("Sets", "Set1", "ORANJE,De familie van Oranje");
-  }
-
-  // Makes the form; the one that asks for a file gets one.
-  GemaaktFormulier Maak() {
-    if (GetParam().naam == "BekijkTekst") {
-      SchrijfBytes(map_ / "brief.txt", "Geachte familie,\r\n");
-      Bestand(map_ / "brief.txt");
-    }
-    return GetParam().maak(*programma_);
-  }
-
-  TijdelijkeMap map_;
-  VasteKlok klok_{{2026, 1, 2, 3, 4, 5}};
-  std::optional<Programma> programma_;
+  GemaaktFormulier Maak() { return Programmaproef::Maak(GetParam()); }
 };
 
 TEST_P(FormulierenTest, GaatOpenToontAllesLooptRondEnSluit) {

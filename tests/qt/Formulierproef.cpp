@@ -14,7 +14,8 @@
 namespace lb77 {
 
 void Formulierproef::Bewaar(QWidget& venster, std::string_view naam) {
-  const QDir map(BouwMap() / "schermen");
+  const QString elders = qEnvironmentVariable("LB77_SCHERMEN");
+  const QDir map = elders.isEmpty() ? QDir(BouwMap() / "schermen") : QDir(elders);
   map.mkpath(QStringLiteral("."));
   EXPECT_TRUE(venster.grab().save(map.filePath(NaarQt(naam) + QStringLiteral(".png"))));
 }

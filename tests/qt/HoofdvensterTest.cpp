@@ -4,20 +4,23 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTest>
 #include <QUrl>
 
 #include "Vensterproef.h"
 #include "forms/Bestandsontvanger.h"
+#include "forms/Redengever.h"
 #include "qt/Hoofdvenster.h"
 
 namespace lb77 {
 namespace {
 
-class Menuvorm : public Formulier {
+class Menuvorm : public Formulier, public Redengever {
  public:
   Menuvorm() : Formulier("MenuWindow", "LB77 voor Windows") {
     Open.BijKlik([this] { log.emplace_back("open"); });
@@ -35,6 +38,9 @@ class Menuvorm : public Formulier {
   Statusbalk Status{*this, "Statusbalk"};
 
   using Formulier::Sluit;
+  [[nodiscard]] std::string WaaromGrijs(const Bediening& bediening) const override {
+    return "Grijs: " + bediening.Naam();
+  }
   std::vector<std::string> log;
   bool magSluiten = true;
 
@@ -55,8 +61,10 @@ TEST_F(HoofdvensterTest, DeMenusStaanZoalsHetFormulierZegt) {
          ASSERT_EQ(balk.size(), 2);
          EXPECT_EQ(balk[0]->text(), QString("&Bestand"));
          const auto bestand = balk[0]->menu()->actions();
-         ASSERT_EQ(bestand.size(), 3);
-         EXPECT_EQ(bestand[1]->menu()->actions().value(0), &Actie("SetupGebruiker"));
+         ASSERT_EQ(bestand.size(), 5);
+         EXPECT_TRUE(bestand[1]->isSeparator());
+         EXPECT_TRUE(bestand[3]->isSeparator());
+         EXPECT_EQ(bestand[2]->menu()->actions().value(0), &Actie("SetupGebruiker"));
          EXPECT_EQ(Hoofd().Actie("Onbekend"), nullptr);
          Actie("KeuzeAfsluiten").trigger();
        }});
@@ -74,14 +82,28 @@ TEST_F(HoofdvensterTest, DeStatusregelZegtWatEenEntryNuZouDoen) {
        }});
 }
 
-TEST_F(HoofdvensterTest, OngedaanHeeftEenToetsVanZichzelf) {
+TEST_F(HoofdvensterTest, DeStatusregelZegtWaaromEenEntryGrijsIs) {
+  vorm.Open.ZetToelichting("Opent");
+  vorm.Open.ZetIngeschakeld(false);
+  Voer(vorm, {[&] {
+         EXPECT_EQ(Actie("OpenSet").statusTip(), "Grijs: OpenSet");
+         QMenu* const bestand = Hoofd().menuBar()->actions().value(0)->menu();
+         bestand->setActiveAction(&Actie("OpenSet"));
+         EXPECT_EQ(bestand->activeAction(), &Actie("OpenSet"));
+         Actie("KeuzeAfsluiten").trigger();
+       }});
+}
+
+TEST_F(HoofdvensterTest, HetDagelijkseWerkHeeftEigenToetsen) {
   Voer(vorm, {[&] {
                 EXPECT_EQ(Actie("VeiligOngedaan").shortcut(), QKeySequence(Qt::CTRL | Qt::Key_Z));
-                EXPECT_TRUE(Actie("OpenSet").shortcut().isEmpty());
+                EXPECT_EQ(Actie("OpenSet").shortcut(), QKeySequence(Qt::CTRL | Qt::Key_O));
+                EXPECT_TRUE(Actie("SetupGebruiker").shortcut().isEmpty());
                 QTest::keyClick(&Hoofd(), Qt::Key_Z, Qt::ControlModifier);
+                QTest::keyClick(&Hoofd(), Qt::Key_O, Qt::ControlModifier);
               },
               [&] { Actie("KeuzeAfsluiten").trigger(); }});
-  EXPECT_THAT(vorm.log, testing::ElementsAre("ongedaan"));
+  EXPECT_THAT(vorm.log, testing::ElementsAre("ongedaan", "open"));
 }
 
 TEST_F(HoofdvensterTest, EenKeuzeVoertHaarHandelingUit) {
@@ -141,6 +163,16 @@ TEST_F(HoofdvensterTest, EenPlekBuitenHetSchermWordtNietGenomen) {
   Voer(vorm, {[&] {
          EXPECT_GT(Bovenste().pos().x(), -1000);
          EXPECT_LT(Bovenste().pos().y(), 2000);
+         Actie("KeuzeAfsluiten").trigger();
+       }});
+}
+
+TEST_F(HoofdvensterTest, EenPlekAanDeRandWordtZoDatHetHeleVensterErOpPast) {
+  vorm.ZetPositie({1000, 700});
+  Voer(vorm, {[&] {
+         const QRect scherm = Bovenste().screen()->availableGeometry();
+         EXPECT_TRUE(scherm.contains(Bovenste().frameGeometry()));
+         EXPECT_GE(Bovenste().frameGeometry().right(), scherm.right() - 8);
          Actie("KeuzeAfsluiten").trigger();
        }});
 }

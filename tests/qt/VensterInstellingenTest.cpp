@@ -66,6 +66,27 @@ TEST_F(VenstermaatTest, EenFormulierKomtTerugInDeMaatDieHetKreeg) {
   }
 }
 
+TEST_F(VenstermaatTest, EenKleinereMaatDanDeInhoudVraagtGeldtNiet) {
+  const QTemporaryDir map;
+  QSize eigen;
+  {
+    Proefvorm vorm(gesprek);
+    vorm.bijActief = [&] {
+      eigen = Bovenste().size();
+      vorm.Sluit();
+    };
+    gesprek.ToonModaal(vorm);
+  }
+  VensterInstellingen(PadVanQt(map.path())).BewaarMaat("Proefvorm", {40, 30});
+  QtGesprek metMap(PadVanQt(map.path()));
+  Proefvorm vorm(metMap);
+  vorm.bijActief = [&] {
+    EXPECT_EQ(Bovenste().size(), eigen);
+    vorm.Sluit();
+  };
+  metMap.ToonModaal(vorm);
+}
+
 TEST_F(VenstermaatTest, DeMaatVanEenGroterSchermWordtOpDezeAfgekapt) {
   const QTemporaryDir map;
   VensterInstellingen(PadVanQt(map.path())).BewaarMaat("Proefvorm", {5000, 4000});

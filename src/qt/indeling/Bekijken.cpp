@@ -5,10 +5,9 @@ namespace lb77::indeling {
 
 Blok TekstVenster() {
   return Kolom({
-      Rij({"ZoekTekst", "ZoekButton", "ZoekLabel"}),
+      Rij({"ZoekTekst", "ZoekButton", "ZoekLabel", "UTF8Box", "BrowserButton"}),
       "UitvoerBox",
-      Knoppen({"MoveButton(*)", "XY_label"},
-              {"PrintButton(*)", "UTF8Box", "SaveButton", "BrowserButton", "BackButton"}),
+      Knoppen({"MoveButton(*)", "XY_label"}, {"PrintButton(*)", "SaveButton", "BackButton"}),
   });
 }
 

@@ -1,0 +1,98 @@
+// Every form with letters of three sizes: no text is cut off, and all of it can be reached.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QScrollArea>
+#include <tuple>
+
+#include "Programmaproef.h"
+#include "qt/Binder.h"
+
+namespace lb77 {
+namespace {
+
+using Geval = std::tuple<FormulierRij, int>;
+
+class LeesbaarTest : public Programmaproef, public testing::WithParamInterface<Geval> {
+ protected:
+  void SetUp() override {
+    QFont letter = vorige_;
+    letter.setPointSize(std::get<1>(GetParam()));
+    QApplication::setFont(letter);
+    Programmaproef::SetUp();
+  }
+  void TearDown() override { QApplication::setFont(vorige_); }
+
+  QFont vorige_ = QApplication::font();
+  VensterInstellingen instellingen_{{}};
+};
+
+// What a text asks at least.
+QSize Nodig(const QWidget& widget, const QString& tekst) {
+  return widget.fontMetrics().size(Qt::TextShowMnemonic, tekst);
+}
+
+std::string Wat(const QWidget& widget, const QString& tekst) {
+  return widget.objectName().toStdString() + ": " + tekst.toStdString();
+}
+
+void VerwachtRuimte(const QWidget& widget, const QString& tekst, int rand) {
+  const QSize nodig = Nodig(widget, tekst);
+  EXPECT_GE(widget.width(), nodig.width() + rand) << Wat(widget, tekst);
+  EXPECT_GE(widget.height(), nodig.height()) << Wat(widget, tekst);
+}
+
+void VerwachtLabelHeel(const QLabel& label) {
+  if (label.text().isEmpty()) return;
+  if (!label.wordWrap()) return VerwachtRuimte(label, label.text(), 0);
+  EXPECT_GE(label.height(), label.heightForWidth(label.width())) << Wat(label, label.text());
+}
+
+void VerwachtTekstHeel(QWidget& venster) {
+  for (const QLabel* label : venster.findChildren<QLabel*>()) {
+    if (label->isVisible()) VerwachtLabelHeel(*label);
+  }
+  for (const QAbstractButton* knop : venster.findChildren<QAbstractButton*>()) {
+    const bool eigen = !knop->objectName().startsWith(QLatin1String("qt_"));
+    if (knop->isVisible() && eigen) VerwachtRuimte(*knop, knop->text(), 4);
+  }
+  for (const QComboBox* vak : venster.findChildren<QComboBox*>()) {
+    if (!vak->isVisible()) continue;
+    EXPECT_GE(vak->width(), vak->sizeHint().width()) << Wat(*vak, {});
+  }
+  for (const QGroupBox* groep : venster.findChildren<QGroupBox*>()) {
+    if (groep->isVisible()) VerwachtRuimte(*groep, groep->title(), 0);
+  }
+}
+
+TEST_P(LeesbaarTest, GeenTekstIsAfgesneden) {
+  GemaaktFormulier gemaakt = Maak(std::get<0>(GetParam()));
+  ASSERT_TRUE(gemaakt.formulier->Laad());
+  Binder binder(*gemaakt.formulier, gesprek, instellingen_, nullptr);
+  binder.Toon();
+  QTimer::singleShot(0, qApp, [&] {
+    QWidget& venster = Bovenste();
+    const QSize scherm = venster.screen()->availableSize();
+    EXPECT_LE(venster.width(), scherm.width());
+    EXPECT_LE(venster.height(), scherm.height());
+    VerwachtTekstHeel(venster);
+    Bewaar(venster, gemaakt.formulier->Naam() + "-" + std::to_string(std::get<1>(GetParam())));
+    Toets(Qt::Key_Escape);
+  });
+  binder.Voer();
+}
+
+INSTANTIATE_TEST_SUITE_P(Alle, LeesbaarTest,
+                         testing::Combine(testing::ValuesIn(AlleFormulieren()),
+                                          testing::Values(11, 14, 18)),
+                         [](const auto& geval) {
+                           return std::string(std::get<0>(geval.param).naam) + "Op" +
+                                  std::to_string(std::get<1>(geval.param));
+                         });
+
+}  // namespace
+}  // namespace lb77
