@@ -1,6 +1,6 @@
 #include "program/Wegen.h"
 
-#include <sstream>
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -40,8 +40,10 @@ void NeemGezindten(Hoofdmodule& hoofd, const std::filesystem::path& instellingen
   if (!hoofd.Ini.IniWaarde("Namenfile", "Gez1").empty()) return;
   std::string tekst;
   if (LeesHeelBestand(instellingen, tekst)) return;
-  std::istringstream regels(tekst);
-  for (std::string regel; std::getline(regels, regel);) {
+  for (std::size_t begin = 0; begin < tekst.size();) {
+    const std::size_t eind = std::min(tekst.find('\n', begin), tekst.size());
+    std::string regel = tekst.substr(begin, eind - begin);
+    begin = eind + 1;
     if (regel.ends_with('\r')) regel.pop_back();
     const std::size_t plek = regel.find('=');
     if (!regel.starts_with("Gez") || plek == std::string::npos) continue;
