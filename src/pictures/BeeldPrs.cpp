@@ -12,7 +12,7 @@
 #include "descendants/GenSchParam.h"
 #include "pictures/Boombeeld.h"
 #include "pictures/Waaier.h"
-#include "reports/RecordGang.h"
+#include "reporting/RecordGang.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"
 
