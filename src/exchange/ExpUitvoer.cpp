@@ -16,6 +16,7 @@ namespace lb77 {
 namespace {
 
 constexpr std::size_t kBlok = std::size_t{64} * 1024;
+constexpr std::string_view kRegeleinde = "\r\n";
 
 bool IsStuurteken(char teken) {
   return static_cast<unsigned char>(teken) < ' ';
@@ -48,10 +49,12 @@ std::string ZonderStuurtekens(std::string_view tekst) {
 template <class IsBlanco>
 void ExpUitvoer::Voeg(std::string_view regel, const IsBlanco& isBlanco) {
   if (fout_) return;
-  regel_ = regel;
-  if (HeeftStuurteken(regel_)) std::ranges::replace_if(regel_, isBlanco, ' ');
-  regel_ += "\r\n";
-  fout_ = Schrijf(regel_);
+  if (HeeftStuurteken(regel)) {
+    zuiver_ = regel;
+    std::ranges::replace_if(zuiver_, isBlanco, ' ');
+    regel = zuiver_;
+  }
+  Schrijf(regel);
 }
 
 void ExpUitvoer::Regel(std::string_view regel) {
@@ -93,10 +96,9 @@ SysteemFout ExpBestand::Sluit() {
   return Fout();
 }
 
-SysteemFout ExpBestand::Schrijf(std::string_view bytes) {
-  buffer_ += bytes;
+void ExpBestand::Schrijf(std::string_view regel) {
+  buffer_.append(regel).append(kRegeleinde);
   if (buffer_.size() >= kBlok) Leeg();
-  return Fout();
 }
 
 void ExpBestand::Leeg() {

@@ -29,8 +29,8 @@ class ExpUitvoer {
   [[nodiscard]] const SysteemFout& Fout() const { return fout_; }
 
  protected:
-  // Takes bytes; what it gives is the first failure.
-  [[nodiscard]] virtual SysteemFout Schrijf(std::string_view bytes) = 0;
+  // Takes a line and ends it. A failure goes to OnthoudFout.
+  virtual void Schrijf(std::string_view regel) = 0;
   void OnthoudFout(SysteemFout fout);
 
  private:
@@ -38,7 +38,7 @@ class ExpUitvoer {
   void Voeg(std::string_view regel, const IsBlanco& isBlanco);
 
   SysteemFout fout_;
-  std::string regel_;  // kept for its memory
+  std::string zuiver_;  // a line whose control characters were taken out
 };
 
 // The text with a blank for each byte below 32.
@@ -57,7 +57,7 @@ class ExpBestand final : public ExpUitvoer {
   [[nodiscard]] SysteemFout Sluit();
 
  private:
-  [[nodiscard]] SysteemFout Schrijf(std::string_view bytes) override;
+  void Schrijf(std::string_view regel) override;
   void Leeg();
 
   std::ofstream bestand_;

@@ -81,9 +81,10 @@ void SchrijfRijen(std::span<const GedcomRij<R>> rijen, const R& record, ExpUitvo
   for (const GedcomRij<R>& rij : rijen) {
     if (!rij.wanneer(record)) continue;
     if (rij.niveau > 0) {
-      regel.assign(1, static_cast<char>('0' + rij.niveau)).append(" ").append(rij.tag);
+      regel.assign({static_cast<char>('0' + rij.niveau), ' '});
+      regel += rij.tag;
       // kept: an empty value leaves its blank at the end of the line.
-      if (rij.waarde) rij.waarde(record, regel.append(" "));
+      if (rij.waarde) rij.waarde(record, regel += ' ');
       uit.Regel(regel);
     }
     if (rij.rubriek != 0) opmerkingen.SchrijfOpmRegels(rij.opmNiveau, rij.rubriek);

@@ -2,8 +2,9 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
-#include <unordered_map>
+#include <vector>
 
 #include "store/PlaatsLB77.h"
 
@@ -21,7 +22,7 @@ class PlaatsNamen {
 
  private:
   PlaatsLB77& plaats_;
-  std::unordered_map<std::int16_t, std::string> namen_;  // by record number
+  std::vector<std::unique_ptr<const std::string>> namen_;  // by record number
   const std::string geen_;
 };
 

@@ -47,7 +47,6 @@ UitvoerForm::UitvoerForm(const UitvoerSoort& soort, Hoofdmodule& hoofd)
   ZetHulpOnderwerp(soort.hulp);
   for (const UitvoerVeld& veld : soort.velden) {
     UitvoerRij& rij = Uitvoeren.emplace_back(*this, veld);
-    rij.Bestandsnaam.BijWijziging([this] { start_->ZetIngeschakeld(true); });
     rij.BrowseButton.BijKlik([this, &rij] { BrowseButtonKlik(rij); });
   }
   ZetEersteVeld(Uitvoeren.front().Bestandsnaam);

@@ -62,7 +62,7 @@ class UitvoerBestanden {
 
 // A derived form declares its further controls and hands its buttons over. It closes behind a run
 // that came to its end. Behind one that failed it stays, its log is shown, and its start button works
-// again when a file has been named anew; what was written stands.
+// again when a file has been picked by Browse; what was written stands.
 class UitvoerForm : public Formulier {
  public:
   std::deque<UitvoerRij> Uitvoeren;

@@ -148,7 +148,9 @@ constexpr TekstTabel kNaarDos = MaakNaarDos();
 }  // namespace
 
 std::string DosNaarWindows(std::string_view dos) {
-  return ZetOm(dos, kVanDos);
+  std::string uit(dos);
+  for (char& teken : uit) teken = kVanDos[static_cast<unsigned char>(teken)];
+  return uit;
 }
 
 std::string WindowsNaarDos(std::string_view windows) {

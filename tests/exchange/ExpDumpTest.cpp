@@ -6,6 +6,7 @@
 
 #include "exchange/ExpDump.h"
 #include "exchange/ExportToets.h"
+#include "steun/BezigKijker.h"
 #include "steun/Gouden.h"
 #include "steun/VolleSchijf.h"
 
@@ -91,14 +92,19 @@ TEST_F(ExpDumpTest, BladertNaarEenBestand) {
 
 TEST_F(ExpDumpTest, EenPadDatNietKanWordtGemeldEnLaatHetLogZien) {
   MaakFamilie();
+  const std::string weg = (Map() / "WEG" / "UIT.TXT").string();
   Speel(kExpDumpPers,
         "vul Bestandsnaam " + Map().string() +
             "\ndruk OKButton\ndruk BackButton\ntoon OKButton\n"
-            "vul Bestandsnaam WEG/UIT.TXT\ntoon OKButton\ndruk OKButton\ndruk BackButton\n"
+            "vul Bestandsnaam UIT.TXT\ntoon OKButton\nbestand " +
+            weg +
+            "\ndruk BrowseButton\ntoon OKButton\ndruk OKButton\ndruk BackButton\n"
             "druk BackButton",
         "! stop \"Pad is een directory\"\n" + std::string(kResultaat) +
-            "= OKButton \"&Start Export\" [uit]\n= OKButton \"&Start Export\"\n"
-            "! uitroep \"Bestand niet gevonden\"\n" +
+            "= OKButton \"&Start Export\" [uit]\n= OKButton \"&Start Export\" [uit]\n"
+            "> opslaan \"Export-bestanden (*.TXT)|*.TXT|Alle Bestanden (*.*)|*.*|"
+            "Tekstbestanden (*.txt)|*.txt\" -> \"" +
+            weg + "\"\n= OKButton \"&Start Export\"\n" + "! uitroep \"Bestand niet gevonden\"\n" +
             std::string(kResultaat));
   EXPECT_EQ(Log(), "Start export (20000101000000)\r\n");
 }
@@ -117,6 +123,18 @@ TEST_F(ExpDumpTest, HetLogBegintMetDatumEnTijd) {
       "druk OKButton\ndruk BackButton", programma,
       "+ ExpDumpPlts \"Uitdraai Plaatsbestand\"\n" + std::string(kResultaat) + "- ExpDumpPlts\n");
   EXPECT_TRUE(Log().starts_with("Start export (20261102090507)\r\n")) << Log();
+}
+
+TEST_F(ExpDumpTest, BijHetLogIsHijNietMeerBezig) {
+  MaakFamilie();
+  BezigKijker kijker;
+  const VasteKlok klok({2026, 11, 2, 9, 5, 7});
+  Hoofdmodule hoofd(kijker, klok, Map());
+  ASSERT_FALSE(hoofd.bestanden.OpenSet(SetPaden::Van(Map(), "PROEF")));
+  ASSERT_TRUE(Start(hoofd));
+  hoofd.ActieveSetNaam = "PROEF";
+  kijker.Toon<ExpDump>(kExpDumpPlts, hoofd);
+  EXPECT_EQ(kijker.Gezien(), "ToonTekst ");
 }
 
 TEST_F(ExpDumpTest, EenVolleSchijfLaatStaanWatErStond) {

@@ -50,8 +50,13 @@ class ExpGedcomToets : public ImportToets {
   // A run that fails once it has begun, and leaves the dialog open.
   void Mislukt(const std::filesystem::path& pad, const std::string& gemeld,
                const Plek& plek = Plek::current()) {
-    Speel(Naar(pad) + kKies + "druk OKButton\ndruk BackButton\ntoon OKButton\ndruk BackButton\n",
-          kGekozen + gemeld + kVerslag + "= OKButton \"&Start Export\" [uit]\n", plek);
+    Speel(Naar(pad) + kKies +
+              "druk OKButton\ndruk BackButton\ntoon OKButton\n"
+              "toon PersonenGedaan\ntoon RelatiesGedaan\ntoon BronnenGedaan\ndruk BackButton\n",
+          kGekozen + gemeld + kVerslag +
+              "= OKButton \"&Start Export\" [uit]\n"
+              "= PersonenGedaan \"0\"\n= RelatiesGedaan \"0\"\n= BronnenGedaan \"0\"\n",
+          plek);
   }
   [[nodiscard]] std::filesystem::path Uit() const { return Map() / "UIT.GED"; }
 
@@ -207,12 +212,13 @@ TEST_F(ExpGedcomToets, EenVolleSchijfLaatStaanWatErStaat) {
     ExpGedcom form(hoofd);
     hoofd.gesprek.ToonModaal(form);
   };
-  Verwacht(
-      Naar(Uit()) +
-          "druk KiesPersButton\ndruk OKButton\ndruk OKButton\ndruk BackButton\ndruk BackButton\n",
-      taak, std::string(kOpen) + R"~(
+  Verwacht(Naar(Uit()) +
+               "druk KiesPersButton\ndruk OKButton\ntoon AantalPersonen\ndruk OKButton\n"
+               "druk BackButton\ndruk BackButton\n",
+           taak, std::string(kOpen) + R"~(
       + ExpSelPers "Exporteer gegevens - Selecteer Personen"
       - ExpSelPers
+      = AantalPersonen "4000"
       ! stop "Bestand te groot"
 )~" + kVerslag + "- ExpGedcom\n");
   EXPECT_EQ(std::filesystem::file_size(Uit()), 150000U);

@@ -27,11 +27,10 @@ class FaalUitvoer final : public ExpUitvoer {
   }
 
  private:
-  [[nodiscard]] SysteemFout Schrijf(std::string_view bytes) override {
-    if (aantal_ >= ruimte_) return {kSchijfVol, "Schijf vol"};
+  void Schrijf(std::string_view regel) override {
+    if (aantal_ >= ruimte_) return OnthoudFout({kSchijfVol, "Schijf vol"});
     ++aantal_;
-    regels_.append(bytes.substr(0, bytes.size() - 2)).append("\n");
-    return {};
+    regels_.append(regel).append("\n");
   }
 
   std::size_t ruimte_ = std::numeric_limits<std::size_t>::max();

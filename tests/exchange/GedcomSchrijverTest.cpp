@@ -158,6 +158,20 @@ TEST_F(GedcomSchrijverToets, WatAchterEenKorteOpmerkingKomtWordtEenmaalGeteld) {
             "opmerking bij een rubriek)\n");
 }
 
+TEST_F(GedcomSchrijverToets, VanElkePersoonTellenDeWeggelatenOpmerkingenMee) {
+  const std::int16_t een = Bouw().Persoon('?', "", "");
+  const std::int16_t twee = Bouw().Persoon('?', "", "");
+  for (const std::int16_t nr : {een, twee}) {
+    Bouw().OpmerkingBijPersoon(nr, rubriek::kBeroep, {"a"});
+    Bouw().OpmerkingBijPersoon(nr, rubriek::kBeroep, {"b"});
+  }
+  EXPECT_EQ(Persoon(een), "1 OCCU \n2 NOTE a\n");
+  EXPECT_EQ(Persoon(twee), "1 OCCU \n2 NOTE a\n");
+  EXPECT_EQ(LogEinde(),
+            "Exporteren voltooid\nLET OP: 2 opmerkingen zijn niet uitgevoerd (tweede of volgende "
+            "opmerking bij een rubriek)\n");
+}
+
 TEST_F(GedcomSchrijverToets, OpmerkingenVanEenRelatieTellenNietMee) {
   const std::int16_t nr = Bouw().Relatie(0, 0);
   Bouw().OpmerkingBijRelatie(nr, relatierubriek::kOtrDatum, {"a"});

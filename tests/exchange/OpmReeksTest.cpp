@@ -74,6 +74,15 @@ TEST_F(OpmReeksToets, EenTweedeOpmerkingKomtAlleenAchterTienRegels) {
   EXPECT_EQ(inhoud.over, 1U);
 }
 
+TEST_F(OpmReeksToets, EenLegeRegelBeeindigtDeOpmerking) {
+  Opmerking(rubriek::kAlgemeen, {"een", "twee", "drie"});
+  ASSERT_TRUE(set_.Persoon.Lees(persoon_));
+  const std::int16_t tweede = static_cast<std::int16_t>(set_.Persoon.OpmRecord() + 1);
+  ASSERT_TRUE(set_.Opmerking.Wijzig(tweede, {{"Tekstregel", " "}}));
+  EXPECT_EQ(Lees(rubriek::kAlgemeen).regels, Regels{"een"});
+  EXPECT_EQ(EenVoorEen(rubriek::kAlgemeen), Regels{"een"});
+}
+
 TEST_F(OpmReeksToets, AchterEenKorteOpmerkingBlijvenErOver) {
   Opmerking(rubriek::kAlgemeen, {"a"});
   Opmerking(rubriek::kAlgemeen, Tien("b"));
@@ -97,6 +106,19 @@ TEST_F(OpmReeksToets, EenKettingDieAfbreektZegtDat) {
   EXPECT_EQ(Lees(rubriek::kVoornaam).regels,
             Regels{">> Verkeerde verwijzing: opm-record 99 bestaat niet <<"});
   EXPECT_EQ(Lees(rubriek::kVoornaam).over, 0U);
+}
+
+TEST_F(OpmReeksToets, DeFoutVanEenKettingBlijftBijHaarEigenaar) {
+  const std::int16_t ander = set_.bouw.Man("Piet", "Pietersen");
+  Opmerking(rubriek::kAlgemeen, {"a"});
+  set_.bouw.OpmerkingBijPersoon(ander, rubriek::kBeroep, {"smid"});
+  Zet(2, "BijZelfde", 99);
+  constexpr auto kCode = static_cast<std::int16_t>(rubriek::kBeroep | rubriek::kVoornaam);
+  OpmReeks reeks(set_.Opmerking);
+  reeks.Lees(2);
+  EXPECT_EQ(reeks.Rubriek(kCode, rubriek::kVoornaam).regels.size(), 1U);
+  reeks.Lees(3);
+  EXPECT_TRUE(reeks.Rubriek(kCode, rubriek::kVoornaam).regels.empty());
 }
 
 TEST_F(OpmReeksToets, EenRegelDieErNietIsBreektDeOpmerkingAf) {
