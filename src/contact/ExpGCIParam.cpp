@@ -131,7 +131,7 @@ void ExpGCIParam::Bewaar() {
   ini.IniZet("GCI", "MetCorrectie", JaNee(OokCorrectiesBox.Gekozen()));
   ini.IniZet("GCI", "GebPlaatsKind", JaNee(opties_.gebPlaatsKind));
   ini.IniZet("GCI", "PublicatieMag", GetalTekst(PublicatieBox.Index() + 1));
-  if (!opties_.email.empty()) ini.IniZet("INTERNET", "Email", opties_.email);
+  ini.IniZet("INTERNET", "Email", opties_.email);
   ini.IniSchrijf();
 }
 

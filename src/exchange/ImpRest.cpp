@@ -18,6 +18,10 @@ namespace {
 constexpr std::string_view kAchterSlot = "0 NOTE achter TRLR";
 constexpr std::string_view kTekenset = "1 CHAR UTF-8";
 
+bool IsHoofd(std::string_view bron) {
+  return GedSoortVan(GedRegel(bron).tag) == GedSoort::Hoofd;
+}
+
 // The line that tells of the input's characters; those of this file are its own.
 bool IsTekenset(int level, std::string_view bron) {
   return level == 1 && GedRegel(bron).tag == "CHAR";
@@ -70,7 +74,8 @@ void ImpRest::SchrijfOuders(int level) {
   for (int i = 0; i < level; ++i) {
     Regel& regel = boven_[static_cast<std::size_t>(i)];
     if (!regel.aanwezig || regel.geschreven) continue;
-    SchrijfBron(IsTekenset(i, regel.tekst) ? kTekenset : regel.tekst);
+    const bool tekenset = IsTekenset(i, regel.tekst) && IsHoofd(boven_.front().tekst);
+    SchrijfBron(tekenset ? kTekenset : regel.tekst);
     regel.geschreven = true;
     if (i == 0 && nr_ != 0) SchrijfRegel("1 REFN " + GetalTekst(nr_));
   }

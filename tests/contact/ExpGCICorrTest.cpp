@@ -221,6 +221,9 @@ TEST_F(ExpGCICorrTest, EenKlikOpWatIntussenVeranderdeTeltNiet) {
               "\ntoon GCICodeKnop(1)\ntoon FilterPlaatsnaam\ndruk BackButton",
           "= GCICodeKnop(1) \"21\"\n= FilterPlaatsnaam \"Oord 2\"\n");
   }
+  // Its page is the first one, although there are more.
+  Speel("typ FilterPlaatsnaam Oo\ndruk VolgendeButton\ntoon GCICodeKnop(1)\ndruk BackButton",
+        "= GCICodeKnop(1) \"1\"\n");
 }
 
 TEST_F(ExpGCICorrTest, DeFilterknopZietOokWatNogNetIsGetypt) {

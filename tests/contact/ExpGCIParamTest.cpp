@@ -194,6 +194,14 @@ TEST_F(ExpGCIParamTest, HetVoorbeeldadresTeltAlsLeeg) {
   EXPECT_NE(Ini().find("[INTERNET]\r\nEmail=\r\n"), std::string::npos);
 }
 
+// No other text without an address passes the field.
+TEST_F(ExpGCIParamTest, HetVoorbeeldadresHaaltEenBewaardAdresWeg) {
+  SchrijfIni("MaxGat=20\r\n[INTERNET]\r\nEmail=ik@example.org\r\n");
+  Speel("vul EmailAdres naam@example.org\ndruk StartExportButton", "", true);
+  EXPECT_EQ(opties_.email, "");
+  EXPECT_NE(Ini().find("[INTERNET]\r\nEmail=\r\n"), std::string::npos) << Ini();
+}
+
 TEST_F(ExpGCIParamTest, BewaartNietsAlsDatNietIsGewenst) {
   SchrijfBytes(Map() / "LIJNBOOM.INI", "[Systeem]\r\nSet=PROEF\r\nOpslaanVelden=N\r\n");
   const std::string voor = Ini();

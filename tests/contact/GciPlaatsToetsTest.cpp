@@ -106,6 +106,12 @@ TEST_F(GciPlaatsToetsTest, EenAangenomenSynoniemZonderRijGaatVerderMetZijnNaam) 
   EXPECT_EQ(tabellen_.plaatsen.Land(7), "B");
 }
 
+TEST_F(GciPlaatsToetsTest, EenAangenomenSynoniemWordtMetZijnNaamOvergeslagen) {
+  EXPECT_EQ(Rij("Luik", "B", {kJa, kNee, kNee}), 0);
+  static_cast<void>(set_.Getoond());
+  EXPECT_EQ(toets_.Overgeslagen(), Regels{"Li\xE8ge"});
+}
+
 TEST_F(GciPlaatsToetsTest, EenAangenomenSynoniemVraagtOokNaarAndereProvincies) {
   EXPECT_EQ(Rij("Batavia", "", {kJa, kJa}), 6);
   EXPECT_EQ(

@@ -90,6 +90,7 @@ INSTANTIATE_TEST_SUITE_P(Cijfers, GedDatumWoordenTest, ::testing::ValuesIn(kCijf
 // What is not certain stays as it is, in capitals.
 constexpr Rij kBlijft[] = {
     {"", ""},
+    {"3 december 50", "3 DECEMBER 50"},
     {"3/12/1950", "3/12/1950"},
     {"3-12.1950", "3-12.1950"},
     {"3-12-50", "3-12-50"},

@@ -247,15 +247,21 @@ TEST_F(ImpRestTest, NotenEnRegelsVanAndereRecordsHebbenGeenNummer) {
 TEST_F(ImpRestTest, WatVanHetBestandZelfVerteltMaaktGeenRestMaarStaatErWelIn) {
   const std::string kop =
       "0 HEAD\n1 SOUR ANDER\n2 VERS 1\n1 CHAR WIN\n2 VERS 2\n1 DATE 1 JAN 2000\n0 @M1@ SUBM\n1 "
-      "NAME Jan\n";
+      "NAME Jan\n0 @N1@ SUBN\n1 FAMF Vos\n";
   Importeer(kop + "0 @I1@ INDI\n1 NAME Jan //\n0 TRLR\n");
   EXPECT_EQ(Rest(), "");
   EXPECT_FALSE(std::filesystem::exists(BezigPad()));
   Importeer(kop + "0 @I1@ INDI\n1 XYZ iets\n0 TRLR\n");
   EXPECT_EQ(Kern(),
             "1 SOUR ANDER\n2 VERS 1\n1 CHAR UTF-8\n2 VERS 2\n1 DATE 1 JAN 2000\n0 @M1@ SUBM\n"
-            "1 NAME Jan\n0 @I1@ INDI\n1 REFN 3\n1 XYZ iets\n");
+            "1 NAME Jan\n0 @N1@ SUBN\n1 FAMF Vos\n0 @I1@ INDI\n1 REFN 3\n1 XYZ iets\n");
   EXPECT_NE(Log().find("GEDCOM.RST: 1 regel\r\n"), std::string::npos);
+}
+
+TEST_F(ImpRestTest, AlleenDeTekensetVanDeKopIsDieVanHetBestand) {
+  EXPECT_EQ(RestVan("0 @I1@ INDI\n1 CHAR kalm"), "0 @I1@ INDI\n1 REFN 2\n1 CHAR kalm\n");
+  Importeer("0 HEAD\n1 SOUR ANDER\n2 CHAR WIN\n0 @I1@ INDI\n1 XYZ iets\n0 TRLR\n");
+  EXPECT_NE(Rest().find("\n2 CHAR WIN\n"), std::string::npos) << Rest();
 }
 
 TEST_F(ImpRestTest, EenNieuweImportZonderRestHaaltDeOudeWeg) {
@@ -293,6 +299,11 @@ TEST_F(ImpRestTest, DeTekstIsUtf8UitElkeTekenset) {
             "CONC 中\n");
 }
 
+TEST_F(ImpRestTest, EenOvergeslagenNiveauHeeftGeenRegelVanDeVorigeBovenZich) {
+  EXPECT_EQ(RestVan("0 @I1@ INDI\n1 BIRT\n2 DATE 1 JAN 1900\n1 DEAT\n3 FOO bar"),
+            "0 @I1@ INDI\n1 REFN 2\n1 DEAT\n3 FOO bar\n");
+}
+
 // The stored text has two characters for an accent that it does not know.
 TEST_F(ImpRestTest, EenTekstDieInHetRecordLangerWordt) {
   const auto vol = [](std::size_t lengte) { return std::string(lengte - 2, 'x') + "\xC1y"; };
@@ -301,11 +312,13 @@ TEST_F(ImpRestTest, EenTekstDieInHetRecordLangerWordt) {
                     "\n1 BIRT\n2 PLAC " + vol(24) + "\n0 @I2@ INDI\n1 NAME Jan /" + vol(25) +
                     "/\n2 GIVN " + vol(29) + "\n1 OCCU " + vol(30) + "\n1 BIRT\n2 PLAC " + vol(25) +
                     "\n1 NOTE " + vol(79) + "\n1 NOTE " + vol(80) +
-                    "\n0 @I3@ INDI\n1 NAME /Dam/\n2 GIVN " + vol(30)),
+                    "\n0 @I3@ INDI\n1 NAME /Dam/\n2 GIVN " + vol(30) +
+                    "\n0 @I4@ INDI\n1 NAME Jan /" + vol(25) + "/"),
             "0 @I1@ INDI\n1 REFN 2\n1 NAME " + utf8(30) + " /" + utf8(24) +
                 "/\n0 @I2@ INDI\n1 REFN 3\n1 NAME Jan /" + utf8(25) + "/\n1 OCCU " + utf8(30) +
                 "\n1 BIRT\n2 PLAC " + utf8(25) + "\n1 NOTE " + utf8(80) +
-                "\n0 @I3@ INDI\n1 REFN 4\n1 NAME /Dam/\n2 GIVN " + utf8(30) + "\n");
+                "\n0 @I3@ INDI\n1 REFN 4\n1 NAME /Dam/\n2 GIVN " + utf8(30) +
+                "\n0 @I4@ INDI\n1 REFN 5\n1 NAME Jan /" + utf8(25) + "/\n");
 }
 
 TEST_F(ImpRestTest, EenAdoptieInEenPeriodeEnEenSchema) {

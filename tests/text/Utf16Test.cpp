@@ -41,6 +41,7 @@ TEST(Utf16Test, EenHalfPaarWordtHetVervangendeTeken) {
   EXPECT_EQ(Gelezen("\xD8\0\0b"sv, Bytevolgorde::HoogEerst), "\uFFFDb");
   EXPECT_EQ(Gelezen("\xD8\0\xD8\0\xDC\0"sv, Bytevolgorde::HoogEerst), "\uFFFD\U00010000");
   EXPECT_EQ(Gelezen("\0a\xD8\0"sv, Bytevolgorde::HoogEerst), "a\uFFFD");
+  EXPECT_EQ(Gelezen("\xD8\0\0b\0c\0d\0e\0f"sv, Bytevolgorde::HoogEerst), "\uFFFDbcdef");
 }
 
 TEST(Utf16Test, EenLosseByteAanHetEindVervalt) {
