@@ -42,7 +42,10 @@ void HernoemOpSchijf(const std::filesystem::path& van, const std::filesystem::pa
                      std::error_code& code) {
   std::filesystem::rename(van, naar, code);
   std::error_code onbekend;
-  if (!IsGeweigerd(code) || std::filesystem::is_directory(naar, onbekend)) return;
+  if (IsGeweigerd(code) && std::filesystem::is_directory(naar, onbekend)) {
+    code = std::make_error_code(std::errc::is_a_directory);
+    return;
+  }
   for (int poging = 1; IsGeweigerd(code) && poging < kPogingen; ++poging) {
     std::this_thread::sleep_for(kTussenpoos);
     std::filesystem::rename(van, naar, code);
