@@ -21,8 +21,9 @@ constexpr std::chrono::milliseconds kTussenpoos(10);
 
 // Told of a file that somebody has open, and of one that may never be touched.
 bool IsGeweigerd(const std::error_code& code) {
-  return code.category() == std::system_category() &&
-         (code.value() == ERROR_SHARING_VIOLATION || code.value() == ERROR_ACCESS_DENIED);
+  const bool isOpen =
+      code.category() == std::system_category() && code.value() == ERROR_SHARING_VIOLATION;
+  return isOpen || code == std::errc::permission_denied;
 }
 
 }  // namespace
