@@ -186,6 +186,7 @@ int Voer(const CLI::App& app, const Regel& regel) {
 
 void BeschrijfRegel(CLI::App& app, Regel& regel) {
   MaakNederlands(app);
+  app.allow_windows_style_options(false);  // a path may begin with a slash
   app.require_subcommand(1);
   app.set_version_flag("--version", "LB77 " LB77_VERSIE, "toont de versie");
   app.add_option("--map", regel.map, "de map van het programma en zijn instellingen")

@@ -14,12 +14,7 @@ SysteemFout GedLog::Open(const std::filesystem::path& pad) {
   if (code) return FoutVan(code);
   errno = 0;
   bestand_.open(pad, std::ios::binary | std::ios::trunc);
-  if (bestand_) return {};
-  SysteemFout fout = StroomFout();
-  // Some systems only say that a directory may not be written.
-  return std::filesystem::is_directory(pad, code)
-             ? FoutVan(std::make_error_code(std::errc::is_a_directory))
-             : fout;
+  return bestand_ ? SysteemFout{} : StroomFout(pad);
 }
 
 void GedLog::Regel(std::string_view regel) {

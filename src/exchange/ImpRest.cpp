@@ -129,7 +129,7 @@ void ImpRest::ZetOpen() {
   errno = 0;
   bestand_.open(bezig_, std::ios::binary | std::ios::trunc);
   if (!bestand_) {
-    fout_ = StroomFout();
+    fout_ = StroomFout(bezig_);
     return;
   }
   SchrijfRegel("0 HEAD");

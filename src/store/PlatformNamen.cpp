@@ -21,8 +21,9 @@ constexpr std::chrono::milliseconds kTussenpoos(10);
 
 // Told of a file that somebody has open, and of one that may never be touched.
 bool IsGeweigerd(const std::error_code& code) {
-  return code.category() == std::system_category() &&
-         (code.value() == ERROR_SHARING_VIOLATION || code.value() == ERROR_ACCESS_DENIED);
+  const bool isOpen =
+      code.category() == std::system_category() && code.value() == ERROR_SHARING_VIOLATION;
+  return isOpen || code == std::errc::permission_denied;
 }
 
 }  // namespace
@@ -42,7 +43,10 @@ void HernoemOpSchijf(const std::filesystem::path& van, const std::filesystem::pa
                      std::error_code& code) {
   std::filesystem::rename(van, naar, code);
   std::error_code onbekend;
-  if (!IsGeweigerd(code) || std::filesystem::is_directory(naar, onbekend)) return;
+  if (IsGeweigerd(code) && std::filesystem::is_directory(naar, onbekend)) {
+    code = std::make_error_code(std::errc::is_a_directory);
+    return;
+  }
   for (int poging = 1; IsGeweigerd(code) && poging < kPogingen; ++poging) {
     std::this_thread::sleep_for(kTussenpoos);
     std::filesystem::rename(van, naar, code);

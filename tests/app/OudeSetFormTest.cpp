@@ -1,5 +1,6 @@
 #include "app/OudeSetForm.h"
 #include "app/SessieToets.h"
+#include "steun/Bestandsstelsel.h"
 #include "store/Platform.h"
 
 namespace lb77 {
@@ -78,6 +79,7 @@ TEST_F(OudeSetVenster, EenMapZonderFamilieWordtGemeld) {
 }
 
 TEST_F(OudeSetVenster, TerPlaatseBlijvenZijWaarZijStaanEnHoudenHunNaam) {
+  if (!kKoppelingen) GTEST_SKIP() << kZonderKoppelingen;
   Speelt(R"(antwoord Nee Ja
             vul OudeMap disk
             druk TerPlaatse

@@ -66,18 +66,22 @@ TEST_F(WelkomVenster, ElkeWegMaaktDeInstellingenEnWordtOnthouden) {
 TEST_F(WelkomVenster, BlijftStaanAlsDeInstellingenNietTeMakenZijn) {
   Schrijf("bezet", "");
   map_ /= "bezet";
-  Verwacht("antwoord OK\ndruk NieuweFamilie\ndruk BackButton", Toont(), kOpen + std::string(R"(
-      ? uitroep OK/Annuleren "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\nPad niet gevonden" -> OK
-      - Welkom)"));
+  Verwacht("antwoord OK\ndruk NieuweFamilie\ndruk BackButton", Toont(),
+           kOpen + std::string(R"(
+      ? uitroep OK/Annuleren "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\n)") +
+               kAchterBestand + R"(" -> OK
+      - Welkom)");
   EXPECT_FALSE(gekozen_);
 }
 
 TEST_F(WelkomVenster, WieDanStoptKiestNiets) {
   Schrijf("bezet", "");
   map_ /= "bezet";
-  Verwacht("antwoord Annuleren\ndruk NieuweFamilie", Toont(), kOpen + std::string(R"(
-      ? uitroep OK/Annuleren "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\nPad niet gevonden" -> Annuleren
-      - Welkom)"));
+  Verwacht("antwoord Annuleren\ndruk NieuweFamilie", Toont(),
+           kOpen + std::string(R"(
+      ? uitroep OK/Annuleren "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\n)") +
+               kAchterBestand + R"(" -> Annuleren
+      - Welkom)");
   EXPECT_FALSE(gekozen_);
 }
 

@@ -3,6 +3,7 @@
 
 #include "contact/ContactToets.h"
 #include "contact/GciLezer.h"
+#include "script/Verslag.h"
 #include "steun/NepGesprek.h"
 #include "steun/TijdelijkeMap.h"
 
@@ -108,12 +109,13 @@ TEST_F(GciLezerTest, EenBestandDatErNietIsHeeftZijnMelding) {
        {kGciPlaatsenBestand, kGciProvinciesBestand, kGciLandenBestand}) {
     EXPECT_EQ(Lees(bestand), GciLezing::Mislukt);
   }
-  const std::string map = map_.Pad().string();
-  EXPECT_EQ(gesprek_.Neem(),
-            (std::vector<std::string>{
-                "! stop \"Kan GCI-plaatsenbestand " + map + "/GCIPLT!!.DBF niet openen\"",
-                "! stop \"Kan GCI-provinciebestand " + map + "/GCIPRV!!.DBF niet openen\"",
-                "! stop \"Kan GCI-landenbestand " + map + "/GCILND!!.DBF niet openen\""}));
+  const auto regel = [this](const std::string& soort, const char* naam) {
+    return "! stop " +
+           Aangehaald("Kan GCI-" + soort + " " + (map_ / naam).string() + " niet openen");
+  };
+  EXPECT_EQ(gesprek_.Neem(), (std::vector<std::string>{regel("plaatsenbestand", "GCIPLT!!.DBF"),
+                                                       regel("provinciebestand", "GCIPRV!!.DBF"),
+                                                       regel("landenbestand", "GCILND!!.DBF")}));
   EXPECT_TRUE(rijen_.empty());
 }
 

@@ -3,6 +3,7 @@
 
 #include "contact/ContactToets.h"
 #include "contact/GciUitvoer.h"
+#include "steun/Bestandsstelsel.h"
 #include "steun/TijdelijkeMap.h"
 
 namespace lb77 {
@@ -184,7 +185,7 @@ TEST(GciPaden, VindenBestandenOokInKleineLetters) {
   const TijdelijkeMap map;
   SchrijfBytes(map / "contact.inz", "");
   const GciPaden paden = GciPaden::In(map.Pad());
-  EXPECT_EQ(paden.inz, map / "contact.inz");
+  EXPECT_EQ(paden.inz, map / (kKastTelt ? "contact.inz" : "CONTACT.INZ"));
   EXPECT_EQ(paden.fam, map / "CONTACT.FAM");
   EXPECT_EQ(paden.log, map / "GCI.LOG");
 }

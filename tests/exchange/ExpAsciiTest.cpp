@@ -4,6 +4,7 @@
 
 #include "exchange/ExpAscii.h"
 #include "exchange/ExportToets.h"
+#include "steun/Bestandsstelsel.h"
 #include "steun/Gouden.h"
 #include "steun/VolleSchijf.h"
 
@@ -172,11 +173,13 @@ TEST_F(ExpAsciiTest, ZonderLogBegintHijNiet) {
 }
 
 TEST_F(ExpAsciiTest, EenMapZonderRechtenWordtGemeld) {
+  // What is not found is a warning; there a file in the way is no more than that.
+  constexpr std::string_view kSoort = kKastTelt ? "! stop \"" : "! uitroep \"";
   MaakFamilie();
   Speel(Samen({kKiesAlles,
                "vul Bestandsnaam(0) LIJNBOOM.INI/uit.txt\ndruk StartExportButton\n"
                "druk BackButton\ndruk BackButton"}),
-        Samen({kGekozen, "! stop \"Pad niet gevonden\"\n", kResultaat}));
+        Samen({kGekozen, kSoort, kAchterBestand, "\"\n", kResultaat}));
 }
 
 TEST_F(ExpAsciiTest, EenVolleSchijfLaatStaanWatErStond) {

@@ -26,7 +26,7 @@ class ExpDumpTest : public ExportToets {
   // The log, with the path of the output as just its name.
   [[nodiscard]] std::string Log() const {
     std::string log = Tekst("UITDRAAI.LOG");
-    const std::string map = TekstMap().string() + "/";
+    const std::string map = (TekstMap() / "").string();
     if (const std::size_t plek = log.find(map); plek != std::string::npos) {
       log.erase(plek, map.size());
     }

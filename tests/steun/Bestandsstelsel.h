@@ -11,6 +11,8 @@ inline constexpr bool kKastTelt = false;
 inline constexpr bool kKoppelingen = false;
 // Are the rights of a file those of its owner, its group and all others?
 inline constexpr bool kRechten = false;
+// What lies behind a file that is no directory: there the system looks no further than the name.
+inline constexpr const char* kAchterBestand = "Bestand niet gevonden";
 // Behind the name of a program.
 inline constexpr const char* kProgrammaEind = ".exe";
 
@@ -19,6 +21,7 @@ inline constexpr const char* kProgrammaEind = ".exe";
 inline constexpr bool kKastTelt = true;
 inline constexpr bool kKoppelingen = true;
 inline constexpr bool kRechten = true;
+inline constexpr const char* kAchterBestand = "Pad niet gevonden";
 inline constexpr const char* kProgrammaEind = "";
 
 #endif

@@ -201,6 +201,9 @@ TEST_F(PlatformTest, EenBestandDatEvenOpenIsWordtTochVervangen) {
   gaat.join();
   EXPECT_FALSE(code) << code.message();
   EXPECT_EQ(LeesBytes(map / "oud"), "nieuw");
+  std::filesystem::create_directory(map / "map");
+  HernoemOpSchijf(map / "oud", map / "map", code);
+  EXPECT_EQ(FoutVan(code).tekst, "Pad is een directory");
   HernoemOpSchijf(map / "weg", map / "oud", code);
   EXPECT_EQ(FoutVan(code).nummer, kBestandNietGevonden);
 }
