@@ -57,7 +57,7 @@ constexpr BerekenSoort kTijdBereken{"TijdBereken",
                                     "Opbouwen Populatiegrafiek",
                                     "Opbouwen van de populatiegrafiek.",
                                     {"Nazaten", "NazatenLabel", "Aantal nazaten:"},
-                                    ""};
+                                    "beelden"};
 
 }  // namespace
 

@@ -12,8 +12,8 @@
 #include "steun/Gouden.h"
 #include "steun/Plekken.h"
 #include "steun/TijdelijkeMap.h"
-#include "text/Tekens.h"
 #include "steun/Vergelijkbaar.h"
+#include "text/Tekens.h"
 
 namespace lb77 {
 

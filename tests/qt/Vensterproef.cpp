@@ -12,7 +12,8 @@ namespace lb77 {
 
 namespace {
 
-constexpr int kNoodrem = 240000;  // milliseconds: a window that nobody closes, on a machine that builds
+// Milliseconds: a window that nobody closes, on a machine that builds.
+constexpr int kNoodrem = 240000;
 
 // One step each time that the event loop is at rest.
 class Stappen {
