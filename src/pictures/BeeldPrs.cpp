@@ -57,7 +57,7 @@ constexpr BerekenSoort kTijdBereken{"TijdBereken",
                                     "Opbouwen Populatiegrafiek",
                                     "Opbouwen van de populatiegrafiek.",
                                     {"Nazaten", "NazatenLabel", "Aantal nazaten:"},
-                                    "beelden"};
+                                    ""};
 
 }  // namespace
 
@@ -146,7 +146,9 @@ TijdBereken::TijdBereken(Hoofdmodule& hoofd, std::int16_t stamouder, Tijdbalk& t
                     hoofd.volgers.HuidigPersoonNr = 0;
                     return heel ? Einde::Klaar : Einde::Afgebroken;
                   },
-                  {}) {}
+                  {}) {
+  ZetHulpOnderwerp("beelden");
+}
 
 Tekening TekenTijdbalk(const Tijdbalk& tijdbalk, const BeeldKeuzen& keuzen,
                        const std::string& titel) {
