@@ -4,6 +4,7 @@
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QScrollArea>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -98,7 +99,7 @@ void Binder::MaakElementen(QWidget& inhoud) {
   kolom->setContentsMargins(kRand, kRand, kRand, kRand);
   Opmaker opmaker(formulier_, inhoud,
                   [this](const Bediening& een) -> Element& { return *elementen_.at(&een); });
-  opmaker.Maak(IndelingVoor(formulier_), *kolom);
+  voet_ = opmaker.Maak(IndelingVoor(formulier_), *kolom);
   if (hoofd_) kolom->addStretch(1);
   MaakBeginblad(inhoud);
   for (auto& [bediening, element] : elementen_) Luister(*element);
@@ -120,24 +121,51 @@ QSize Binder::Ruimte() const {
   return (scherm ? scherm->availableSize() : kKleinsteScherm) - kKader;
 }
 
-// A form that is larger than a small screen gets scroll bars.
+// A form that is larger than a small screen gets scroll bars; its buttons stay in sight.
 void Binder::PasIn() {
   const QSize ruimte = Ruimte();
-  QLayout& rand = *venster_->layout();
-  QWidget* inhoud = rand.itemAt(0)->widget();
-  const QSize nodig = inhoud->minimumSizeHint();
-  if (nodig.width() > ruimte.width() || nodig.height() > ruimte.height()) {
-    auto* rol = new QScrollArea(venster_.get());
-    rol->setFrameShape(QFrame::NoFrame);
-    rol->setWidgetResizable(true);
-    rol->setFocusPolicy(Qt::NoFocus);
-    delete rand.replaceWidget(inhoud, rol);
-    rol->setWidget(inhoud);
-  }
+  QWidget& inhoud = *venster_->layout()->itemAt(0)->widget();
+  BreekVoet(ruimte.width() - 2 * kRand);
   // The title can be read as well.
   const int titel = TekenBreedte(*venster_, static_cast<int>(formulier_.Titel().size()));
-  const QSize maat = inhoud->sizeHint().expandedTo({titel + kTitelknoppen, 0});
+  QSize maat = inhoud.sizeHint().expandedTo({titel + kTitelknoppen, 0});
+  const QSize nodig = inhoud.minimumSizeHint();
+  if (nodig.width() > ruimte.width() || nodig.height() > ruimte.height()) {
+    const int balk = venster_->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    maat += QSize(balk, balk + kRand);
+    LaatRollen(inhoud);
+  }
   venster_->resize(maat.boundedTo(ruimte));
+}
+
+// A row of buttons that is wider than the screen becomes two, one below the other.
+void Binder::BreekVoet(int breedte) {
+  if (!voet_ || voet_->minimumSize().width() <= breedte) return;
+  auto* links = new QHBoxLayout;
+  links->setSpacing(voet_->spacing());
+  while (voet_->count() > 0 && voet_->itemAt(0)->widget()) links->addItem(voet_->takeAt(0));
+  links->addStretch(1);
+  auto* rechts = new QHBoxLayout;
+  rechts->setSpacing(voet_->spacing());
+  while (voet_->count() > 0) rechts->addItem(voet_->takeAt(0));
+  voet_->setDirection(QBoxLayout::TopToBottom);
+  voet_->addLayout(links);
+  voet_->addLayout(rechts);
+}
+
+void Binder::LaatRollen(QWidget& inhoud) {
+  auto& rand = static_cast<QBoxLayout&>(*venster_->layout());
+  auto* rol = new QScrollArea(venster_.get());
+  rol->setFrameShape(QFrame::NoFrame);
+  rol->setWidgetResizable(true);
+  rol->setFocusPolicy(Qt::NoFocus);
+  delete rand.replaceWidget(&inhoud, rol);
+  rol->setWidget(&inhoud);
+  if (!voet_) return;
+  static_cast<QLayout*>(voet_->parent())->removeItem(voet_);
+  voet_->setParent(nullptr);
+  voet_->setContentsMargins(kRand, kRand / 2, kRand, kRand);
+  rand.addLayout(voet_);
 }
 
 Element* Binder::ElementVan(const QObject* waar) const {

@@ -1,6 +1,7 @@
 // Turns any form into a window.
 #pragma once
 
+#include <QBoxLayout>
 #include <QEventLoop>
 #include <QObject>
 #include <QSize>
@@ -91,12 +92,15 @@ class Binder final : public QObject, private Bezorger, private Vensterhouder {
   void VolgFocus();
   [[nodiscard]] QSize Ruimte() const;
   void PasIn();
+  void BreekVoet(int breedte);
+  void LaatRollen(QWidget& inhoud);
 
   Formulier& formulier_;
   Gesprek& gesprek_;
   VensterInstellingen& instellingen_;
   std::unique_ptr<QWidget> venster_;
   Hoofdvenster* hoofd_ = nullptr;
+  QBoxLayout* voet_ = nullptr;  // the row of buttons at the bottom, if it has one
   std::map<const Bediening*, std::unique_ptr<Element>> elementen_;
   std::map<const QObject*, Element*> bronnen_;
   const Bediening* gevolgd_ = nullptr;  // whom the focus last followed

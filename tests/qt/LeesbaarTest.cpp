@@ -69,6 +69,17 @@ void VerwachtTekstHeel(QWidget& venster) {
   }
 }
 
+// What a window is left by is never to be looked for.
+void VerwachtUitgangInZicht(const QWidget& venster) {
+  for (const char* naam : {"OKButton", "BackButton"}) {
+    const auto* knop = venster.findChild<QAbstractButton*>(QLatin1String(naam));
+    if (!knop || !knop->isVisible()) continue;
+    const QRect plek(knop->mapTo(&venster, QPoint()), knop->size());
+    EXPECT_TRUE(venster.rect().contains(plek)) << naam;
+    EXPECT_TRUE(knop->visibleRegion().contains(knop->rect())) << naam;
+  }
+}
+
 TEST_P(LeesbaarTest, GeenTekstIsAfgesneden) {
   GemaaktFormulier gemaakt = Maak(std::get<0>(GetParam()));
   ASSERT_TRUE(gemaakt.formulier->Laad());
@@ -80,6 +91,7 @@ TEST_P(LeesbaarTest, GeenTekstIsAfgesneden) {
     EXPECT_LE(venster.width(), scherm.width());
     EXPECT_LE(venster.height(), scherm.height());
     VerwachtTekstHeel(venster);
+    VerwachtUitgangInZicht(venster);
     Bewaar(venster, gemaakt.formulier->Naam() + "-" + std::to_string(std::get<1>(GetParam())));
     Toets(Qt::Key_Escape);
   });
