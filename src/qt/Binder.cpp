@@ -3,8 +3,6 @@
 #include <QCoreApplication>
 #include <QScopedValueRollback>
 #include <QScreen>
-#include <QScrollArea>
-#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -14,6 +12,7 @@
 #include "qt/Dialoog.h"
 #include "qt/Hoofdvenster.h"
 #include "qt/Indelingskeuze.h"
+#include "qt/Inpassen.h"
 #include "qt/Opmaker.h"
 #include "qt/Stijl.h"
 #include "qt/Vertaling.h"
@@ -121,51 +120,12 @@ QSize Binder::Ruimte() const {
   return (scherm ? scherm->availableSize() : kKleinsteScherm) - kKader;
 }
 
-// A form that is larger than a small screen gets scroll bars; its buttons stay in sight.
+// The title can be read as well.
 void Binder::PasIn() {
   const QSize ruimte = Ruimte();
-  QWidget& inhoud = *venster_->layout()->itemAt(0)->widget();
-  BreekVoet(ruimte.width() - 2 * kRand);
-  // The title can be read as well.
   const int titel = TekenBreedte(*venster_, static_cast<int>(formulier_.Titel().size()));
-  QSize maat = inhoud.sizeHint().expandedTo({titel + kTitelknoppen, 0});
-  const QSize nodig = inhoud.minimumSizeHint();
-  if (nodig.width() > ruimte.width() || nodig.height() > ruimte.height()) {
-    const int balk = venster_->style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    maat += QSize(balk, balk + kRand);
-    LaatRollen(inhoud);
-  }
-  venster_->resize(maat.boundedTo(ruimte));
-}
-
-// A row of buttons that is wider than the screen becomes two, one below the other.
-void Binder::BreekVoet(int breedte) {
-  if (!voet_ || voet_->minimumSize().width() <= breedte) return;
-  auto* links = new QHBoxLayout;
-  links->setSpacing(voet_->spacing());
-  while (voet_->count() > 0 && voet_->itemAt(0)->widget()) links->addItem(voet_->takeAt(0));
-  links->addStretch(1);
-  auto* rechts = new QHBoxLayout;
-  rechts->setSpacing(voet_->spacing());
-  while (voet_->count() > 0) rechts->addItem(voet_->takeAt(0));
-  voet_->setDirection(QBoxLayout::TopToBottom);
-  voet_->addLayout(links);
-  voet_->addLayout(rechts);
-}
-
-void Binder::LaatRollen(QWidget& inhoud) {
-  auto& rand = static_cast<QBoxLayout&>(*venster_->layout());
-  auto* rol = new QScrollArea(venster_.get());
-  rol->setFrameShape(QFrame::NoFrame);
-  rol->setWidgetResizable(true);
-  rol->setFocusPolicy(Qt::NoFocus);
-  delete rand.replaceWidget(&inhoud, rol);
-  rol->setWidget(&inhoud);
-  if (!voet_) return;
-  static_cast<QLayout*>(voet_->parent())->removeItem(voet_);
-  voet_->setParent(nullptr);
-  voet_->setContentsMargins(kRand, kRand / 2, kRand, kRand);
-  rand.addLayout(voet_);
+  const QSize maat = lb77::PasIn(*venster_, voet_, ruimte, kRand);
+  venster_->resize(maat.expandedTo({titel + kTitelknoppen, 0}).boundedTo(ruimte));
 }
 
 Element* Binder::ElementVan(const QObject* waar) const {

@@ -92,8 +92,6 @@ class Binder final : public QObject, private Bezorger, private Vensterhouder {
   void VolgFocus();
   [[nodiscard]] QSize Ruimte() const;
   void PasIn();
-  void BreekVoet(int breedte);
-  void LaatRollen(QWidget& inhoud);
 
   Formulier& formulier_;
   Gesprek& gesprek_;

@@ -7,6 +7,8 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QScrollArea>
+#include <QScrollBar>
+#include <string_view>
 #include <tuple>
 
 #include "Programmaproef.h"
@@ -26,6 +28,12 @@ class LeesbaarTest : public Programmaproef, public testing::WithParamInterface<G
     Programmaproef::SetUp();
   }
   void TearDown() override { QApplication::setFont(vorige_); }
+
+  // With the largest letters the forms with most in them may be wider than the smallest screen.
+  bool MoetInDeBreedtePassen() const {
+    const std::string_view naam = std::get<0>(GetParam()).naam;
+    return std::get<1>(GetParam()) == 11 || naam == "Welkom" || naam == "WijzigPersoon";
+  }
 
   QFont vorige_ = QApplication::font();
   VensterInstellingen instellingen_{{}};
@@ -80,6 +88,13 @@ void VerwachtUitgangInZicht(const QWidget& venster) {
   }
 }
 
+bool RoltOpzij(const QWidget& venster) {
+  for (const QScrollArea* rol : venster.findChildren<QScrollArea*>()) {
+    if (rol->horizontalScrollBar()->maximum() > 0) return true;
+  }
+  return false;
+}
+
 TEST_P(LeesbaarTest, GeenTekstIsAfgesneden) {
   GemaaktFormulier gemaakt = Maak(std::get<0>(GetParam()));
   ASSERT_TRUE(gemaakt.formulier->Laad());
@@ -92,6 +107,9 @@ TEST_P(LeesbaarTest, GeenTekstIsAfgesneden) {
     EXPECT_LE(venster.height(), scherm.height());
     VerwachtTekstHeel(venster);
     VerwachtUitgangInZicht(venster);
+    if (MoetInDeBreedtePassen()) {
+      EXPECT_FALSE(RoltOpzij(venster));
+    }
     Bewaar(venster, gemaakt.formulier->Naam() + "-" + std::to_string(std::get<1>(GetParam())));
     Toets(Qt::Key_Escape);
   });
