@@ -33,9 +33,6 @@ constexpr int kOmlaagKnop = 4;
 constexpr std::string_view kHTMLFilter =
     "Alle Bestanden (*.*)|*.*|Internetbestanden (*.htm)|*.htm|Internetbestanden (*.html)|*.html";
 
-// What a name of a file may not hold on every system.
-constexpr std::string_view kVerbodenInNaam = "/\\:*?\"<>|";
-
 const Stap& StapVan(int knop) {
   return kStappen.at(static_cast<std::size_t>(knop - 1));
 }
@@ -248,11 +245,7 @@ void TekstVenster::SaveButtonKlik() {
 
 // A report is called what its title says.
 std::filesystem::path TekstVenster::Opslagnaam() const {
-  std::string naam(Titel());
-  for (char& teken : naam) {
-    if (kVerbodenInNaam.find(teken) != std::string_view::npos) teken = '-';
-  }
-  return PadVan(naam + (HTMLUitvoer_ ? ".htm" : ".txt"));
+  return lb77::Opslagnaam(Titel(), HTMLUitvoer_ ? ".htm" : ".txt");
 }
 
 void TekstVenster::BrowserButtonKlik() {
