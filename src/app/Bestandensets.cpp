@@ -12,13 +12,15 @@ namespace lb77 {
 namespace {
 
 // Names that are devices on some system, whatever stands behind a full stop.
-constexpr std::string_view kApparaten[] = {"CON", "PRN", "AUX", "NUL"};
+constexpr std::string_view kApparaten[] = {"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$"};
 constexpr std::string_view kPoorten[] = {"COM", "LPT"};
+constexpr std::string_view kHogeCijfers = "\xB9\xB2\xB3";  // one, two and three raised count too
 
 bool IsApparaat(std::string_view naam) {
   const std::string stam = Hoofdletters(TrimRechts(naam.substr(0, naam.find('.'))));
   if (std::ranges::find(kApparaten, stam) != std::end(kApparaten)) return true;
-  return stam.size() == 4 && IsCijfer(stam[3]) &&
+  return stam.size() == 4 &&
+         (IsCijfer(stam[3]) || kHogeCijfers.find(stam[3]) != std::string_view::npos) &&
          std::ranges::find(kPoorten, stam.substr(0, 3)) != std::end(kPoorten);
 }
 

@@ -10,6 +10,7 @@
 #include "app/SetMaken.h"
 #include "store/Paden.h"
 #include "store/Platform.h"
+#include "store/PlatformNamen.h"
 #include "text/Getallen.h"
 #include "text/Pad.h"
 #include "text/Tekens.h"
@@ -171,11 +172,11 @@ SysteemFout KopieerOudeSet(const OudeSet& set, const SetPaden& doel) {
   std::error_code code;
   SysteemFout fout = KopieerIn(set, doel, wording);
   if (!fout) {
-    fs::rename(wording, map, code);
+    HernoemOpSchijf(wording, map, code);
     fout = FoutVan(code);
   }
   if (!fout) return MapVeiligstellen(map.parent_path());
-  fs::remove_all(wording, code);  // all of it was made just now
+  VerwijderMapVanSchijf(wording, code);  // all of it was made just now
   return fout;
 }
 
@@ -192,7 +193,9 @@ SysteemFout KoppelOudeSet(const OudeSet& set, const SetPaden& doel) {
   if (staatEr) return {};
   fs::create_directory_symlink(fs::absolute(set.map), VindPad(doel.map), code);
   SysteemFout fout = FoutVan(code);
-  if (fout && !set.centraal.empty()) fs::remove(plaatsen, code);  // it was made just now
+  if (fout && !set.centraal.empty()) {
+    static_cast<void>(VerwijderVanSchijf(plaatsen, code));  // it was made just now
+  }
   return fout;
 }
 

@@ -55,7 +55,7 @@ void VerwijderMap(Gesprek& gesprek, const std::filesystem::path& gevraagd, std::
                   std::string_view naam) {
   const std::filesystem::path map = VindPad(gevraagd);
   std::error_code code;
-  std::filesystem::remove_all(map, code);
+  VerwijderMapVanSchijf(map, code);
   if (code) MeldMap(gesprek, map, soort, naam, FoutVan(code).tekst);
 }
 
@@ -74,8 +74,7 @@ void VerwijderSetVanSchijf(Gesprek& gesprek, const std::filesystem::path& data,
                            std::string_view naam) {
   const SetPaden paden = SetPaden::Van(data, naam);
   const std::filesystem::path map = VindPad(paden.map);
-  std::error_code code;
-  if (std::filesystem::is_symlink(map, code)) {
+  if (IsKoppeling(map)) {
     MeldMap(gesprek, map, "data", naam, "Het is een koppeling naar een andere directory");
     return;
   }

@@ -83,7 +83,7 @@ SysteemFout ExpBestand::Open(const std::filesystem::path& pad) {
   if (std::filesystem::is_fifo(staat)) return FoutGeenBestand();
   errno = 0;
   bestand_.open(pad, std::ios::binary | std::ios::trunc);
-  return bestand_ ? SysteemFout{} : StroomFout();
+  return bestand_ ? SysteemFout{} : StroomFout(pad);
 }
 
 SysteemFout ExpBestand::Sluit() {

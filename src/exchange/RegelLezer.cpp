@@ -49,7 +49,7 @@ SysteemFout RegelLezer::Open(const std::filesystem::path& pad) {
   bestand_.rdbuf()->pubsetbuf(nullptr, 0);
   errno = 0;
   bestand_.open(pad, std::ios::binary);
-  if (!bestand_) return StroomFout();
+  if (!bestand_) return StroomFout(pad);
   blok_.resize(kBlok);
   codering_ = Codering::Bytes;
   Begin();

@@ -220,13 +220,14 @@ SysteemFout SchrijfKopie(const std::filesystem::path& van, const std::filesystem
 SysteemFout KopieerTekst(const std::filesystem::path& van, const std::filesystem::path& naar,
                          Tekencode tekencode) {
   const std::filesystem::path ernaast = VrijeNaamNaast(naar);
+  if (IsTeLang(ernaast)) return FoutVan(std::make_error_code(std::errc::filename_too_long));
   SysteemFout fout = SchrijfKopie(van, ernaast, tekencode);
   std::error_code code;
   if (!fout) {
     HernoemOpSchijf(ernaast, naar, code);
     fout = FoutVan(code);
   }
-  if (fout) std::filesystem::remove(ernaast, code);
+  if (fout) static_cast<void>(VerwijderVanSchijf(ernaast, code));
   return fout;
 }
 

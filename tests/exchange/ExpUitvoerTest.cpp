@@ -34,6 +34,10 @@ TEST_F(ExpUitvoerToets, RegelsEindigenOpCRenLF) {
   EXPECT_EQ(Inhoud(), "een\r\n\r\ntwee \r\n");
 }
 
+TEST_F(ExpUitvoerToets, EenTeLangeNaamWordtZoGenoemd) {
+  EXPECT_EQ(uit_.Open(map_.Pad() / std::string(300, 'x')).tekst, "Bestandsnaam te lang");
+}
+
 TEST_F(ExpUitvoerToets, EenStuurtekenWordtEenSpatie) {
   ASSERT_FALSE(uit_.Open(Pad()));
   uit_.Regel("a\r\nb\0c\td\x1F \x20\x7F\xFF"sv);
