@@ -1,7 +1,6 @@
 #include "contact/GciUitvoer.h"
 
 #include <algorithm>
-#include <array>
 #include <system_error>
 
 #include "store/Paden.h"
@@ -31,17 +30,19 @@ std::string Veld(std::string_view tekst, std::size_t breedte) {
   return Links(InRegel(Trim(tekst)), breedte);
 }
 
+std::filesystem::path MetEind(std::filesystem::path pad, std::string_view eind) {
+  return pad += eind;
+}
+
 // One of the two files on its way.
 struct Uitvoer {
   std::string_view nietOpen;  // its message, up to its name
   const std::filesystem::path& doel;
   std::string_view inhoud;
 
-  [[nodiscard]] std::filesystem::path Ernaast() const {
-    std::filesystem::path pad = doel;
-    pad += ".nieuw";
-    return pad;
-  }
+  [[nodiscard]] std::filesystem::path Ernaast() const { return MetEind(doel, ".nieuw"); }
+  // Where that of an earlier run waits until both new ones are there.
+  [[nodiscard]] std::filesystem::path Opzij() const { return MetEind(doel, ".oud"); }
   [[nodiscard]] std::string NietOpen(const SysteemFout& fout) const {
     return std::string(nietOpen) + PadTekst(doel) + " niet openen\n" + fout.tekst;
   }
@@ -77,21 +78,42 @@ std::optional<std::string> SchrijfErnaast(const Uitvoer& uitvoer, Bestandswerk& 
   return std::nullopt;
 }
 
-template <std::size_t N>
-std::optional<std::string> SchrijfAlle(const std::array<Uitvoer, N>& alle, Bestandswerk& werk) {
-  std::optional<std::string> melding;
-  for (const Uitvoer& uitvoer : alle) {
-    if (!melding) melding = SchrijfErnaast(uitvoer, werk);
+// What stood there before the first took its place, or nothing when nothing did.
+SysteemFout ZetTerug(const Uitvoer& eerste, bool was, Bestandswerk& werk) {
+  return was ? werk.Hernoem(eerste.Opzij(), eerste.doel) : werk.Verwijder(eerste.doel);
+}
+
+// The first takes its place, then the second. When that fails the first gives it back.
+std::optional<std::string> NeemPlaats(const Uitvoer& eerste, const Uitvoer& tweede,
+                                      Bestandswerk& werk) {
+  std::error_code code;
+  const bool was = std::filesystem::exists(std::filesystem::symlink_status(eerste.doel, code));
+  if (was) {
+    if (SysteemFout fout = werk.Hernoem(eerste.doel, eerste.Opzij())) return eerste.NietOpen(fout);
   }
-  for (const Uitvoer& uitvoer : alle) {
-    if (melding) break;
-    if (SysteemFout fout = werk.Hernoem(uitvoer.Ernaast(), uitvoer.doel)) {
-      melding = uitvoer.NietOpen(fout);
+  for (const Uitvoer* uitvoer : {&eerste, &tweede}) {
+    const SysteemFout fout = werk.Hernoem(uitvoer->Ernaast(), uitvoer->doel);
+    if (!fout) continue;
+    std::string melding = uitvoer->NietOpen(fout);
+    if (SysteemFout terug = ZetTerug(eerste, was, werk)) {
+      melding += "\nFout bij het terugzetten van " + PadTekst(eerste.doel) + "\n" + terug.tekst;
     }
+    return melding;
   }
+  if (was) static_cast<void>(werk.Verwijder(eerste.Opzij()));
+  return std::nullopt;
+}
+
+std::optional<std::string> SchrijfBeide(const Uitvoer& eerste, const Uitvoer& tweede,
+                                        Bestandswerk& werk) {
+  std::optional<std::string> melding = SchrijfErnaast(eerste, werk);
+  if (!melding) melding = SchrijfErnaast(tweede, werk);
+  if (!melding) melding = NeemPlaats(eerste, tweede, werk);
   if (!melding) return melding;
-  // One that never came, or has its place already, is none to remove.
-  for (const Uitvoer& uitvoer : alle) static_cast<void>(werk.Verwijder(uitvoer.Ernaast()));
+  // One that never came, or had its place for a moment, is none to remove.
+  for (const Uitvoer* uitvoer : {&eerste, &tweede}) {
+    static_cast<void>(werk.Verwijder(uitvoer->Ernaast()));
+  }
   return melding;
 }
 
@@ -156,9 +178,7 @@ GciPaden GciPaden::In(const std::filesystem::path& map) {
 
 std::optional<std::string> SchrijfContact(const GciPaden& paden, std::string_view inz,
                                           std::string_view fam, Bestandswerk& werk) {
-  return SchrijfAlle(
-      std::array<Uitvoer, 2>{{{kInzNietOpen, paden.inz, inz}, {kFamNietOpen, paden.fam, fam}}},
-      werk);
+  return SchrijfBeide({kInzNietOpen, paden.inz, inz}, {kFamNietOpen, paden.fam, fam}, werk);
 }
 
 std::string LogTekst(const GciVerslag& verslag, const GciPaden& paden) {
