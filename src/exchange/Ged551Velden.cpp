@@ -83,7 +83,7 @@ std::string Ged551Velden::GezindteNaamVan(std::string_view code) const {
 bool Ged551Velden::Gezindte(int level, std::string_view tag, std::string_view code) {
   if (code.empty()) return false;
   const std::string naam = GezindteNaamVan(code);
-  if (Trim(GedGezindte(naam, gegevens.schrijfwijze.gezindten)) != code) {
+  if (naam != code || Trim(GedGezindte(naam, gegevens.schrijfwijze.gezindten)) != code) {
     regels.Regel(level, eigen::kGezindte, code);
   }
   Veld(level, tag, naam);

@@ -53,8 +53,8 @@ class Ged551Velden {
   [[nodiscard]] bool HeeftInhoud(const Ged551Gebeurtenis& deze) const;
   // The lines of an event; `meer` adds lines between its head and its date.
   void Gebeurtenis(const Ged551Gebeurtenis& deze, const std::function<void()>& meer = {});
-  // A line with the name of a code, and before it the code where the name does not tell it. True when
-  // there is a name.
+  // A line with the name of a code, and before it the code where there may be doubt: who reads it may
+  // have another list. True when there is a name.
   bool Gezindte(int level, std::string_view tag, std::string_view code);
   // The remarks of a rubric; `pad` is the path above them, as the import reads it.
   void Opmerkingen(int level, std::int16_t rubriek, std::string_view pad);

@@ -93,7 +93,7 @@ TEST_F(Ged551SchrijverTest, EenGebeurtenisHeeftDatumPlaatsEnEenDoop) {
       "3 _LBZEKER verm.\n2 PLAC Gent, , Belgi\xC3\xAB\n"
       "1 DEAT\n2 DATE 1962\n2 _LBPLTS @P2@\n3 _LBZEKER (?)\n"
       "2 PLAC Delft, Zuid-Holland, Nederland\n"
-      "1 BURI\n2 DATE MAR 1962\n1 RELI Nederlands Hervormd\n");
+      "1 BURI\n2 DATE MAR 1962\n1 _LBGEZ NH\n1 RELI Nederlands Hervormd\n");
   EXPECT_EQ(Exporteer551(set).Van("0 @P3@ _LBPLTS"), "1 _LBPROV B\n1 NAME Gent\n");
 }
 
@@ -116,7 +116,7 @@ TEST_F(Ged551SchrijverTest, EenReligieIsVanDePersoon) {
   set.schrijfwijze.gezindten[1] = "NHNederlands Hervormd";
   set.bouw.Man("", "X", {{"DoopReligie", "NH"}});
   set.bouw.Man("", "Y", {{"DoopReligie", "nh"}});
-  EXPECT_EQ(Persoon(2), "1 NAME /X/\n2 SURN X\n1 SEX M\n1 RELI Nederlands Hervormd\n");
+  EXPECT_EQ(Persoon(2), "1 NAME /X/\n2 SURN X\n1 SEX M\n1 _LBGEZ NH\n1 RELI Nederlands Hervormd\n");
   EXPECT_EQ(Persoon(3), "1 NAME /Y/\n2 SURN Y\n1 SEX M\n1 _LBGEZ nh\n1 RELI Nederlands Hervormd\n");
 }
 
@@ -150,7 +150,8 @@ TEST_F(Ged551SchrijverTest, OpmerkingenBijPlaatsBeroepEnReligieStaanOnderHunRege
   set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kReligie, {"drie"}, 1);
   EXPECT_EQ(Persoon(nr),
             "1 NAME /X/\n2 SURN X\n1 SEX M\n1 BIRT\n2 _LBPLTS @P2@\n2 PLAC Delft\n3 NOTE een\n"
-            "4 _LBPROG 1\n1 RELI Nederlands Hervormd\n2 NOTE drie\n3 _LBRUBR 64\n3 _LBPROG 1\n"
+            "4 _LBPROG 1\n1 _LBGEZ NH\n1 RELI Nederlands Hervormd\n2 NOTE drie\n3 _LBRUBR 64\n3 "
+            "_LBPROG 1\n"
             "1 OCCU smid\n2 NOTE twee\n3 _LBPROG 1\n");
 }
 
