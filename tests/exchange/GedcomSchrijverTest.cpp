@@ -144,6 +144,19 @@ TEST_F(GedcomSchrijverToets, DeVolgendeOpmerkingGaatDoorAchterTienRegels) {
             "opmerking bij een rubriek)\n");
 }
 
+// A chain that runs into the remarks of a relation: what is left out is counted for persons.
+TEST_F(GedcomSchrijverToets, OpmerkingenOnderEenRelatieTellenNietAlsWeggelaten) {
+  const std::int16_t nr = Bouw().Persoon('?', "", "");
+  for (int i = 0; i < 2; ++i) {
+    Bouw().OpmerkingBijPersoon(nr, relatierubriek::kOtrDatum, {"r" + std::to_string(i)});
+  }
+  Bouw().WijzigPersoon(nr, {{"OpmCode", "2"}});
+  const std::int16_t relatie = Bouw().Relatie(0, 0);
+  EXPECT_EQ(Persoon(nr), "2 GIVN \n");
+  EXPECT_EQ(Relatie(relatie), "1 MARB\n2 DATE 0000\n3 NOTE r0\n2 PLAC \n");
+  EXPECT_EQ(LogEinde(), "Exporteren voltooid\n");
+}
+
 TEST_F(GedcomSchrijverToets, WatAchterEenKorteOpmerkingKomtWordtEenmaalGeteld) {
   const std::int16_t een = Bouw().Persoon('?', "", "");
   const std::int16_t twee = Bouw().Persoon('?', "", "");
