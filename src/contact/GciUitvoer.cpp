@@ -1,8 +1,12 @@
 #include "contact/GciUitvoer.h"
 
 #include <algorithm>
+#include <array>
+#include <span>
 #include <system_error>
+#include <vector>
 
+#include "app/PlaatsNemen.h"
 #include "store/Paden.h"
 #include "text/Getallen.h"
 #include "text/Letterlijk.h"
@@ -30,19 +34,12 @@ std::string Veld(std::string_view tekst, std::size_t breedte) {
   return Links(InRegel(Trim(tekst)), breedte);
 }
 
-std::filesystem::path MetEind(std::filesystem::path pad, std::string_view eind) {
-  return pad += eind;
-}
-
 // One of the two files on its way.
 struct Uitvoer {
   std::string_view nietOpen;  // its message, up to its name
   const std::filesystem::path& doel;
   std::string_view inhoud;
 
-  [[nodiscard]] std::filesystem::path Ernaast() const { return MetEind(doel, ".nieuw"); }
-  // Where that of an earlier run waits until both new ones are there.
-  [[nodiscard]] std::filesystem::path Opzij() const { return MetEind(doel, ".oud"); }
   [[nodiscard]] std::string NietOpen(const SysteemFout& fout) const {
     return std::string(nietOpen) + PadTekst(doel) + " niet openen\n" + fout.tekst;
   }
@@ -66,7 +63,7 @@ SysteemFout MaakPlaats(const std::filesystem::path& doel) {
 
 std::optional<std::string> SchrijfErnaast(const Uitvoer& uitvoer, Bestandswerk& werk) {
   if (SysteemFout fout = MaakPlaats(uitvoer.doel)) return uitvoer.NietOpen(fout);
-  const SchrijfUitslag uitslag = werk.Maak(uitvoer.Ernaast(), uitvoer.inhoud);
+  const SchrijfUitslag uitslag = werk.Maak(Ernaast(uitvoer.doel), uitvoer.inhoud);
   switch (uitslag.stap) {
     case SchrijfStap::Openen:
       return uitvoer.NietOpen(uitslag.fout);
@@ -78,42 +75,20 @@ std::optional<std::string> SchrijfErnaast(const Uitvoer& uitvoer, Bestandswerk& 
   return std::nullopt;
 }
 
-// What stood there before the first took its place, or nothing when nothing did.
-SysteemFout ZetTerug(const Uitvoer& eerste, bool was, Bestandswerk& werk) {
-  return was ? werk.Hernoem(eerste.Opzij(), eerste.doel) : werk.Verwijder(eerste.doel);
-}
-
-// The first takes its place, then the second. When that fails the first gives it back.
-std::optional<std::string> NeemPlaats(const Uitvoer& eerste, const Uitvoer& tweede,
-                                      Bestandswerk& werk) {
-  std::error_code code;
-  const bool was = std::filesystem::exists(std::filesystem::symlink_status(eerste.doel, code));
-  if (was) {
-    if (SysteemFout fout = werk.Hernoem(eerste.doel, eerste.Opzij())) return eerste.NietOpen(fout);
+// Both, or neither.
+std::optional<std::string> SchrijfAlle(std::span<const Uitvoer> alle, Bestandswerk& werk) {
+  std::optional<std::string> melding;
+  std::vector<std::filesystem::path> plaatsen;
+  for (const Uitvoer& uitvoer : alle) {
+    plaatsen.push_back(uitvoer.doel);
+    if (!melding) melding = SchrijfErnaast(uitvoer, werk);
   }
-  for (const Uitvoer* uitvoer : {&eerste, &tweede}) {
-    const SysteemFout fout = werk.Hernoem(uitvoer->Ernaast(), uitvoer->doel);
-    if (!fout) continue;
-    std::string melding = uitvoer->NietOpen(fout);
-    if (SysteemFout terug = ZetTerug(eerste, was, werk)) {
-      melding += "\nFout bij het terugzetten van " + PadTekst(eerste.doel) + "\n" + terug.tekst;
+  if (!melding) {
+    if (const auto fout = NeemPlaatsen(plaatsen, werk)) {
+      melding = alle[fout->welke].NietOpen(fout->fout) + NietTerugTekst(*fout, plaatsen);
     }
-    return melding;
   }
-  if (was) static_cast<void>(werk.Verwijder(eerste.Opzij()));
-  return std::nullopt;
-}
-
-std::optional<std::string> SchrijfBeide(const Uitvoer& eerste, const Uitvoer& tweede,
-                                        Bestandswerk& werk) {
-  std::optional<std::string> melding = SchrijfErnaast(eerste, werk);
-  if (!melding) melding = SchrijfErnaast(tweede, werk);
-  if (!melding) melding = NeemPlaats(eerste, tweede, werk);
-  if (!melding) return melding;
-  // One that never came, or had its place for a moment, is none to remove.
-  for (const Uitvoer* uitvoer : {&eerste, &tweede}) {
-    static_cast<void>(werk.Verwijder(uitvoer->Ernaast()));
-  }
+  if (melding) RuimErnaast(plaatsen, werk);
   return melding;
 }
 
@@ -178,7 +153,9 @@ GciPaden GciPaden::In(const std::filesystem::path& map) {
 
 std::optional<std::string> SchrijfContact(const GciPaden& paden, std::string_view inz,
                                           std::string_view fam, Bestandswerk& werk) {
-  return SchrijfBeide({kInzNietOpen, paden.inz, inz}, {kFamNietOpen, paden.fam, fam}, werk);
+  const std::array<Uitvoer, 2> beide{
+      {{kInzNietOpen, paden.inz, inz}, {kFamNietOpen, paden.fam, fam}}};
+  return SchrijfAlle(beide, werk);
 }
 
 std::string LogTekst(const GciVerslag& verslag, const GciPaden& paden) {
@@ -200,13 +177,16 @@ std::string LogTekst(const GciVerslag& verslag, const GciPaden& paden) {
 
 std::optional<std::string> SchrijfLog(const GciPaden& paden, std::string_view tekst,
                                       Bestandswerk& werk) {
-  const Uitvoer log{"", paden.log, tekst};
-  SysteemFout fout = MaakPlaats(log.doel);
-  if (!fout) fout = werk.Maak(log.Ernaast(), tekst).fout;
-  if (!fout) fout = werk.Hernoem(log.Ernaast(), log.doel);
-  if (!fout) return std::nullopt;
-  static_cast<void>(werk.Verwijder(log.Ernaast()));
-  return NietGeschreven(log.doel, fout);
+  const std::array<std::filesystem::path, 1> plaats{paden.log};
+  SysteemFout fout = MaakPlaats(paden.log);
+  if (!fout) fout = werk.Maak(Ernaast(paden.log), tekst).fout;
+  if (!fout) {
+    const auto niet = NeemPlaatsen(plaats, werk);
+    if (!niet) return std::nullopt;
+    fout = niet->fout;
+  }
+  RuimErnaast(plaats, werk);
+  return NietGeschreven(paden.log, fout);
 }
 
 }  // namespace lb77
