@@ -157,6 +157,17 @@ TEST_F(ExpGedcomToets, DeInzenderIsDeGebruikerVanDeInstellingen) {
             "2 POST 1234 AB\r\n2 CITY Breda\r\n2 CTRY Nederland\r\n1 PHON 076\r\n");
 }
 
+TEST_F(ExpGedcomToets, BladertNaarEenBestand) {
+  MaakFamilie();
+  const std::string vraag =
+      "> opslaan \"GEDCOM-bestanden (*.GED)|*.GED|Alle Bestanden (*.*)|*.*|"
+      "Tekstbestanden (*.txt)|*.txt\" -> ";
+  Speel("bestand " + Uit().string() +
+            "\ndruk BrowseButton\nbestand\ndruk BrowseButton\ntoon Bestandsnaam\ndruk BackButton\n",
+        vraag + "\"" + Uit().string() + "\"\n" + vraag + "-\n= Bestandsnaam \"" + Uit().string() +
+            "\"\n");
+}
+
 TEST_F(ExpGedcomToets, VraagtEenNaamEnDaarnaEenKeuze) {
   MaakFamilie();
   Speel(
