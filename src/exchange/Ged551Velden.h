@@ -43,8 +43,9 @@ class Ged551Velden {
   Ged551Velden(Gegevens delen, Ged551Regels& uit, Ged551Opmerkingen& opmerkingen,
                Ged551Gemis& telling);
 
-  // Begins a record: its kind is the first part of all paths. Reads its remarks.
-  void Begin(std::string_view record, std::int16_t opmRecord);
+  // Begins a record: its kind is the first part of all paths. Reads its remarks, and the buffers of all
+  // records are lost.
+  void Begin(std::string_view record, std::int16_t nr, std::int16_t opmRecord);
   // The remarks that no line has taken, as remarks of the whole record.
   void RestOpmerkingen();
 
