@@ -46,8 +46,9 @@ struct GciPaden {
   [[nodiscard]] static GciPaden In(const std::filesystem::path& map);
 };
 
-// Makes both files; each takes its place when both are whole. What went wrong, as the user reads it,
-// and then neither is there but for one that was there before.
+// Makes both files; each takes its place when both are whole. What went wrong, as the user reads it:
+// then those that were there before are there again, unless the text says that one could not be put
+// back (it is beside its place as .oud).
 [[nodiscard]] std::optional<std::string> SchrijfContact(const GciPaden& paden, std::string_view inz,
                                                         std::string_view fam, Bestandswerk& werk);
 

@@ -53,7 +53,7 @@ std::int16_t ExpDump::AantalRecords() {
 }
 
 void ExpDump::Schrijf(UitvoerBestanden& bestanden) {
-  aantal_ = SchrijfDump(soort_, Hoofd().MaakGegevens(), bestanden.Uit(0), bestanden.Log(),
+  aantal_ = SchrijfDump(soort_, Records(), bestanden.Uit(0), bestanden.Log(),
                         {[&bestanden] { return !bestanden.Mislukt(); },
                          [this](std::int32_t aantal) {
                            Gedaan.ZetTekst(GetalTekst(aantal));

@@ -86,6 +86,12 @@ SysteemFout ExpBestand::Open(const std::filesystem::path& pad) {
   return bestand_ ? SysteemFout{} : StroomFout(pad);
 }
 
+SysteemFout ExpBestand::Toets(const std::filesystem::path& pad) {
+  errno = 0;
+  const std::fstream bestand(pad, std::ios::binary | std::ios::in | std::ios::out);
+  return bestand ? SysteemFout{} : StroomFout();
+}
+
 SysteemFout ExpBestand::Sluit() {
   Leeg();
   if (bestand_.is_open()) {

@@ -33,4 +33,8 @@ void GedcomOpmerkingen::SchrijfOpmRegels(int niveau, std::int16_t rubriek) {
   if (rubriek > 0 && geteld_.insert(rubriek).second) weggelaten_ += inhoud.over;
 }
 
+void GedcomOpmerkingen::SlaOver(std::int16_t rubriek) {
+  if (reeks_.Heeft(code_, rubriek)) overgeslagen_ += reeks_.Koppen(rubriek).size();
+}
+
 }  // namespace lb77

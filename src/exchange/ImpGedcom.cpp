@@ -31,6 +31,10 @@ namespace {
 constexpr std::string_view kVoltooid = "Importeren voltooid";
 constexpr std::string_view kUnicodeVraag =
     "Dit bestand is in Unicode opgeslagen. Omzetten naar de tekenset van het programma ?";
+constexpr std::string_view kNietOmgezet =
+    "LET OP: het bestand is in Unicode en is niet omgezet; letters met accenten kunnen verkeerd "
+    "zijn "
+    "overgenomen";
 
 // Moves at each write.
 std::uint64_t Schrijfstand(const Bestandenset& bestanden) {
@@ -230,7 +234,9 @@ ImpGedcom::Afloop ImpGedcom::Lees(const std::filesystem::path& bestand) {
 
 void ImpGedcom::KiesCodering(RegelLezer& lezer) {
   const Codering codering = CoderingVan(lezer);
-  const bool omzetten = codering != Codering::Bytes && hoofd_.gesprek.Vraag(kUnicodeVraag);
+  const bool unicode = codering != Codering::Bytes;
+  const bool omzetten = unicode && hoofd_.gesprek.Vraag(kUnicodeVraag);
+  nietOmgezet_ = unicode && !omzetten;
   lezer.BeginMet(omzetten ? codering : Codering::Bytes);
 }
 
@@ -270,6 +276,7 @@ SysteemFout ImpGedcom::Rond(const ImpUitslag& uitslag, ImpLoop& loop, GedLog& lo
   loop.verliezen.Noteer(noteer);
   SluitRest(loop.rest, log);
   loop.tekens.Noteer(noteer);
+  if (nietOmgezet_ && gelezenPersonen_ + gelezenRelaties_ > 0) log.Regel(kNietOmgezet);
   log.Regel(kVoltooid);
   Pass3box.Zet(true);
   gelukt_ = uitslag.fout.empty();

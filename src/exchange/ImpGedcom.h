@@ -99,6 +99,7 @@ class ImpGedcom final : public Formulier {
   const ImpWijze wijze_;
   bool gelukt_ = false;
   bool opmerkingenVol_ = false;
+  bool nietOmgezet_ = false;  // a Unicode file is read as bytes
   std::size_t gelezenPersonen_ = 0;
   std::size_t gelezenRelaties_ = 0;
   std::array<Label*, 3> labels_{&Pass1Label, &Pass2Label, &Pass3Label};

@@ -7,6 +7,7 @@
 #include "store/Codes.h"
 #include "store/PersoonVelden.h"
 #include "text/Getallen.h"
+#include "text/Gezindte.h"
 #include "text/Tekens.h"
 
 namespace lb77 {
@@ -86,7 +87,10 @@ bool ImpPersoon::Neem(const PersoonPad& pad, std::string_view waarde) {
     NeemEigen(pad, waarde);
     return true;
   }
-  if (vast_.Bevat(pad.veld)) return true;
+  if (vast_.Bevat(pad.veld)) {
+    if (pad.actie == PersoonActie::Gezindte) HerzieGezindte(pad, waarde);
+    return true;
+  }
   switch (pad.actie) {
     case PersoonActie::Naam:
       NeemNaam(pad, waarde);
@@ -157,6 +161,20 @@ void ImpPersoon::NeemEigen(const PersoonPad& pad, std::string_view waarde) {
   if (pad.veld == "Achternaam") achternaam_ = tekst;
   if (pad.veld == "Voornaam") voornaam_ = tekst;
   Zet(pad.veld, tekst);
+}
+
+// A code may stand for another name here than it did where it was written, or for none.
+void ImpPersoon::HerzieGezindte(const PersoonPad& pad, std::string_view waarde) {
+  const Gezindten& gezindten = loop_.delen.schrijfwijze.gezindten;
+  const std::string naam = loop_.GedTekst(Trim(waarde));
+  const std::string vast = loop_.delen.persoon.Religie();
+  if (GelijkZonderKast(GezindteNaam(vast, gezindten), naam)) return;
+  const std::string code = GezindteCode(naam, gezindten);
+  if (!Trim(code).empty()) {
+    Zet(pad.veld, code);
+  } else if (!GelijkZonderKast(vast, naam)) {
+    loop_.Merk();
+  }
 }
 
 void ImpPersoon::NeemNaam(const PersoonPad& pad, std::string_view waarde) {

@@ -31,7 +31,7 @@ TEST_F(ImpEigenTest, EenEigenTagGaatVoorDeRegelErachter) {
       2 _LBDATUM 12-00-1890
       2 DATE (12-?-1890)
       1 _LBGEZ zz
-      1 RELI Nederlands Hervormd
+      1 RELI Zondagszwijger
     )"),
             "");
   EXPECT_EQ(Persoon(2), "voor A/B; achter van C/D; seks Q; geb Q 12-00-1890; religie zz");
