@@ -46,18 +46,11 @@ Startblad::Startblad(Formulier& formulier, Hoofdmodule& hoofd)
       OpenButton(formulier, "OpenButton", "&Familie openen die er al is"),
       hoofd_(hoofd) {
   GezienLijst.BijDubbelklik([this] { GezienLijstDubbelklik(); });
-  GezienLijst.BijToets([this](ToetsGebeurtenis& toets) { GezienLijstToets(toets); });
 }
 
 void Startblad::GezienLijstDubbelklik() const {
   const int index = GezienLijst.Index();
   if (index >= 0 && bijPersoon_) bijPersoon_(inLijst_.at(static_cast<std::size_t>(index)));
-}
-
-void Startblad::GezienLijstToets(ToetsGebeurtenis& toets) const {
-  if (toets.code != toets::kEnter && toets.code != toets::kNumEnter) return;
-  toets.verwerkt = true;
-  GezienLijstDubbelklik();
 }
 
 void Startblad::WerkBij() {

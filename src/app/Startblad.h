@@ -44,7 +44,6 @@ class Startblad {
     int aantal = 0;
   };
   void GezienLijstDubbelklik() const;
-  void GezienLijstToets(ToetsGebeurtenis& toets) const;
   void ToonSet();
   void ToonGezien();
   // Takes over who was seen when the set was last used, and keeps who was seen since.
