@@ -5,6 +5,7 @@
 
 #include "store/Bestandenset.h"
 #include "store/SetPaden.h"
+#include "text/Getallen.h"
 #include "text/Tekens.h"
 
 namespace lb77 {
@@ -109,6 +110,28 @@ bool OpenSetVanRij(Hoofdmodule& hoofd, MenuWindow& menu, std::string_view rij) {
   }
   menu.ZetMenu();
   return true;
+}
+
+std::string OpenSetNaam(const Hoofdmodule& hoofd) {
+  return hoofd.SetActief() ? hoofd.ActieveSetNaam : std::string();
+}
+
+void HeropenSet(Hoofdmodule& hoofd, MenuWindow& menu, const std::string& naam) {
+  if (naam.empty() || hoofd.SetActief()) return;
+  static_cast<void>(OpenSetVanRij(hoofd, menu, naam));
+}
+
+void HaalUitLijst(Hoofdmodule& hoofd, int index) {
+  const auto sleutel = [](int nummer) { return "Set" + GetalTekst(nummer); };
+  const int aantal = hoofd.Ini.AantalBestandenSets();
+  for (int j = index; j < aantal; ++j) {
+    hoofd.Ini.IniZet("Sets", sleutel(j),
+                     hoofd.Ini.bestandenset(j + 1) + "," + hoofd.Ini.BestandenSetOms(j + 1));
+  }
+  hoofd.Ini.IniZet("Sets", sleutel(aantal), "");
+  hoofd.Ini.IniZet("Systeem", "Set", "");
+  hoofd.Ini.IniZet("Systeem", "SetOms", "");
+  hoofd.Ini.IniSchrijf();
 }
 
 }  // namespace lb77

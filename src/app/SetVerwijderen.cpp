@@ -3,6 +3,7 @@
 #include <string>
 #include <system_error>
 
+#include "store/JournaalPlek.h"
 #include "store/Paden.h"
 #include "store/PlatformNamen.h"
 #include "store/SetPaden.h"
@@ -84,7 +85,7 @@ void VerwijderSetVanSchijf(Gesprek& gesprek, const std::filesystem::path& data,
   VerwijderPlaatsen(gesprek, paden.plt);
   VerwijderMap(gesprek, paden.tekst, "TEKST", naam);
   VerwijderMap(gesprek, paden.index, "INDEX", naam);
-  VerwijderMap(gesprek, paden.map / "JOURNAAL", "JOURNAAL", naam);
+  VerwijderMap(gesprek, JournaalPlek(map, naam), "JOURNAAL", naam);
   VerwijderLegeMap(gesprek, paden.map, naam);
 }
 

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -52,6 +53,8 @@ class Startblad {
   int Geteld(BestandSoort soort, Tel tel);
   [[nodiscard]] std::string TellingTekst();
   [[nodiscard]] std::string WijzigingTekst() const;
+  // When a file of the set was last changed, by whatever program.
+  [[nodiscard]] std::optional<Tijdstip> LaatsteBestand() const;
 
   Hoofdmodule& hoofd_;
   std::function<void(std::int16_t)> bijPersoon_;
