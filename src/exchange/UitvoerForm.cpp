@@ -86,6 +86,7 @@ void UitvoerForm::BrowseButtonKlik(UitvoerRij& rij) {
 void UitvoerForm::StartKlik() {
   if (!HeeftNamen() || !MagBeginnen()) return;
   WisVoortgang();
+  gestopt_ = false;
   ZetBezig(true);
   bool metLog = false;
   const SysteemFout fout = Voer(metLog);
@@ -93,12 +94,20 @@ void UitvoerForm::StartKlik() {
   WisStop();
   if (fout) {
     MeldFout(fout);
-  } else {
+  } else if (!gestopt_) {
     MeldVoltooid();
   }
   start_->ZetIngeschakeld(false);
   if (metLog) hoofd_.gesprek.Toon<ToonTekst>(hoofd_, LogPad(), "Exporteren - Resultaat");
-  if (!fout) Sluit();
+  if (!fout && !gestopt_) Sluit();
+}
+
+bool UitvoerForm::Doorgaan(const UitvoerBestanden& bestanden) {
+  if (bestanden.Mislukt()) return false;
+  if (!hoofd_.gesprek.StopGevraagd(*this)) return true;
+  gestopt_ = hoofd_.gesprek.Vraag("Opbouw Afbreken ?");
+  WisStop();
+  return !gestopt_;
 }
 
 bool UitvoerForm::HeeftNamen() {
@@ -126,7 +135,11 @@ SysteemFout UitvoerForm::VoerMetLog(UitvoerBestanden& bestanden) {
   if (SysteemFout fout = OpenUit(bestanden)) return fout;
   Schrijf(bestanden);
   if (SysteemFout fout = bestanden.SluitUit()) return fout;
-  SchrijfLogSlot(bestanden.Log());
+  if (gestopt_) {
+    bestanden.Log().Regel("Exporteren afgebroken");
+  } else {
+    SchrijfLogSlot(bestanden.Log());
+  }
   return {};
 }
 

@@ -61,8 +61,8 @@ class UitvoerBestanden {
 };
 
 // A derived form declares its further controls and hands its buttons over. It closes behind a run
-// that came to its end. Behind one that failed it stays, its log is shown, and its start button works
-// again when a file has been picked by Browse; what was written stands.
+// that came to its end. Behind one that failed or was stopped it stays, its log is shown, and its start
+// button works again when a file has been picked by Browse; what was written stands.
 class UitvoerForm : public Formulier {
  public:
   std::deque<UitvoerRij> Uitvoeren;
@@ -90,6 +90,9 @@ class UitvoerForm : public Formulier {
   virtual void SchrijfLogSlot(ExpUitvoer& log) = 0;
   // The run has ended well.
   virtual void MeldVoltooid() {}
+  // The test of the walk before each record: False when an output has failed, and when the user
+  // stops the run. A run that was stopped ends its log with that.
+  [[nodiscard]] bool Doorgaan(const UitvoerBestanden& bestanden);
 
  private:
   void BrowseButtonKlik(UitvoerRij& rij);
@@ -107,6 +110,7 @@ class UitvoerForm : public Formulier {
   const UitvoerSoort& soort_;
   Hoofdmodule& hoofd_;
   Knop* start_ = nullptr;
+  bool gestopt_ = false;
 };
 
 }  // namespace lb77
