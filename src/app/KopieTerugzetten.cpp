@@ -1,10 +1,12 @@
 #include "app/KopieTerugzetten.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 
 #include "app/NietVeilig.h"
 #include "app/SetOpenen.h"
+#include "text/Getallen.h"
 
 namespace lb77 {
 
@@ -17,10 +19,31 @@ KopieTerugzetten::KopieTerugzetten(Hoofdmodule& hoofd)
 }
 
 void KopieTerugzetten::BijLaden() {
-  rijen_ = KopieVan(hoofd_).Lijst();
+  OKButton.ZetIngeschakeld(false);
+}
+
+void KopieTerugzetten::BijActiveren() {
+  ZetBezig(true);
+  const bool geteld = Tel();
+  ZetBezig(false);
+  WisStop();
+  TellingLabel.ZetBijschrift("");
+  if (!geteld) return Sluit();
   KopieLijst.MaakLeeg();
   for (const KopieRij& rij : rijen_) KopieLijst.VoegToe(KopieTekst(rij));
   OKButton.ZetIngeschakeld(!rijen_.empty());
+}
+
+bool KopieTerugzetten::Tel() {
+  bool gestopt = false;
+  rijen_ = KopieVan(hoofd_).Lijst([&](std::size_t nummer, std::size_t aantal) {
+    TellingLabel.ZetBijschrift("Kopie " + GetalTekst(static_cast<std::int64_t>(nummer)) + " van " +
+                               GetalTekst(static_cast<std::int64_t>(aantal)) + " wordt geteld ...");
+    hoofd_.gesprek.Ververs(*this);
+    gestopt = hoofd_.gesprek.StopGevraagd(*this);
+    return !gestopt;
+  });
+  return !gestopt;
 }
 
 void KopieTerugzetten::OKButtonKlik() {

@@ -10,19 +10,24 @@
 
 namespace lb77 {
 
-// The last copy stands first.
+// Counts the copies when it becomes active, which may take a while, and can be left meanwhile. The last
+// copy stands first.
 class KopieTerugzetten final : public Formulier {
  public:
   explicit KopieTerugzetten(Hoofdmodule& hoofd);
 
   Keuzelijst KopieLijst{*this, "KopieLijst", "Veiligheidskopieën:"_w};
+  Label TellingLabel{*this, "TellingLabel"};
   Knop OKButton{*this, "OKButton", "Terug&zetten"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 
  protected:
   void BijLaden() override;
+  void BijActiveren() override;
 
  private:
+  // False when the user wants to leave.
+  [[nodiscard]] bool Tel();
   void OKButtonKlik();
 
   Hoofdmodule& hoofd_;

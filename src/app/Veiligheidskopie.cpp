@@ -263,9 +263,11 @@ std::optional<KopieTelling> Veiligheidskopie::Tel(const fs::path& kopie) {
   return telling;
 }
 
-std::vector<KopieRij> Veiligheidskopie::Lijst() {
+std::vector<KopieRij> Veiligheidskopie::Lijst(const Doorgaan& doorgaan) {
+  const std::vector<fs::path> kopieen = Kopieen();
   std::vector<KopieRij> rijen;
-  for (const fs::path& kopie : Kopieen()) {
+  for (const fs::path& kopie : kopieen) {
+    if (doorgaan && !doorgaan(rijen.size() + 1, kopieen.size())) break;
     std::string naam = Naam(kopie);
     std::string tijd = TijdVan(naam);
     rijen.push_back({std::move(naam), std::move(tijd), Tel(kopie)});

@@ -1,7 +1,9 @@
 // Safety copies of an open file set: made, listed, and put back.
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -67,8 +69,10 @@ class Veiligheidskopie {
   [[nodiscard]] SysteemFout Maak();
   // The same, unless the last one holds these very bytes.
   [[nodiscard]] SysteemFout MaakZonodig();
-  // All of them, in all places, the last one first.
-  [[nodiscard]] std::vector<KopieRij> Lijst();
+  // Asked before each copy is counted, from 1; False ends there.
+  using Doorgaan = std::function<bool(std::size_t nummer, std::size_t aantal)>;
+  // All of them, in all places, the last one first. Counting reads each person and relation of each.
+  [[nodiscard]] std::vector<KopieRij> Lijst(const Doorgaan& doorgaan = {});
   // The last one; empty when there is none.
   [[nodiscard]] std::filesystem::path Laatste() const;
   // Makes the four files what they are in that copy, as one action, after a copy of what is there.

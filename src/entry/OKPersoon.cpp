@@ -13,6 +13,7 @@ OKPersoon::OKPersoon(Hoofdmodule& hoofd, std::string_view voornaam, std::string_
   const std::string naam = std::string(Trim(voornaam)) + " " + std::string(Trim(achternaam));
   naam_ = Trim(naam);
   InfoTekst.ZetAlleenLezen(true);
+  InfoTekst.ZetLeesnaam("Gegevens van de persoon");
   JaButton.BijKlik([this] { Sluit(); });
   NeeButton.BijKlik([this] { NeeButtonKlik(); });
   ZetEersteVeld(JaButton);

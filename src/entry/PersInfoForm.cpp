@@ -10,6 +10,7 @@ PersInfoForm::PersInfoForm(Hoofdmodule& hoofd)
     : Formulier("PersInfoForm", "Info Persoon"), hoofd_(hoofd) {
   ZetHulpOnderwerp("zoeken");
   InfoTekst.ZetAlleenLezen(true);
+  InfoTekst.ZetLeesnaam("Gegevens van de persoon");
   OKButton.BijKlik([this] { Sluit(); });
   ZetEersteVeld(OKButton);
 }

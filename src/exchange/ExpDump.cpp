@@ -54,7 +54,7 @@ std::int16_t ExpDump::AantalRecords() {
 
 void ExpDump::Schrijf(UitvoerBestanden& bestanden) {
   aantal_ = SchrijfDump(soort_, Records(), bestanden.Uit(0), bestanden.Log(),
-                        {[&bestanden] { return !bestanden.Mislukt(); },
+                        {[this, &bestanden] { return Doorgaan(bestanden); },
                          [this](std::int32_t aantal) {
                            Gedaan.ZetTekst(GetalTekst(aantal));
                            Hoofd().gesprek.Ververs(*this);

@@ -50,7 +50,7 @@ bool ExportForm::MagBeginnen() {
 void ExportForm::Schrijf(UitvoerBestanden& bestanden) {
   schrijver_ = MaakSchrijver(bestanden);
   telling_ = LoopSelectie(*schrijver_, selectie_,
-                          {[&bestanden] { return !bestanden.Mislukt(); },
+                          {[this, &bestanden] { return Doorgaan(bestanden); },
                            [this](const ExpTelling& telling) {
                              ToonGedaan(telling);
                              Hoofd().gesprek.Ververs(*this);

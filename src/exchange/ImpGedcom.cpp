@@ -29,6 +29,8 @@ namespace lb77 {
 namespace {
 
 constexpr std::string_view kVoltooid = "Importeren voltooid";
+constexpr std::string_view kLogNaam = "GEDCOM.LOG";
+constexpr std::string_view kJournaalMap = "JOURNAAL";
 constexpr std::string_view kUnicodeVraag =
     "Dit bestand is in Unicode opgeslagen. Omzetten naar de tekenset van het programma ?";
 constexpr std::string_view kNietOmgezet =
@@ -59,6 +61,12 @@ void NoteerStop(const ImpUitslag& uitslag, GedLog& log) {
   log.Regel(
       "LET OP: zonder gegevens gebleven: " + Aantal(uitslag.legePersonen, "persoon", "personen") +
       " en " + Aantal(uitslag.legeRelaties, "relatie", "relaties"));
+}
+
+// The reason with the file that it is about, for one that is not the user's own.
+SysteemFout Bij(SysteemFout fout, std::string_view bestand) {
+  if (fout) fout.tekst.append(" (").append(bestand).append(")");
+  return fout;
 }
 
 bool IsZelfde(const std::filesystem::path& bestand, const std::filesystem::path& ander) {
@@ -188,7 +196,7 @@ void ImpGedcom::WisVoortgang() {
   for (Teller* teller : tellers_) teller->ZetTekst("");
   for (Vinkje* vinkje : vinkjes_) vinkje->Zet(false);
   TellingLabel.ZetBijschrift("");
-  gelukt_ = opmerkingenVol_ = false;
+  gelukt_ = opmerkingenVol_ = heeftLog_ = false;
   gelezenPersonen_ = gelezenRelaties_ = 0;
 }
 
@@ -201,7 +209,9 @@ ImpGedcom::Afloop ImpGedcom::LeesAlsHandeling(const std::filesystem::path& besta
   const std::uint64_t stand = Schrijfstand(hoofd_.bestanden);
   Handeling handeling(hoofd_.bestanden, "GEDCOM ingelezen: " + PadTekst(bestand.filename()));
   Afloop afloop = Lees(bestand);
-  if (SysteemFout fout = handeling.Voltooi(); fout && !afloop.systeem) afloop.systeem = fout;
+  if (SysteemFout fout = handeling.Voltooi(); fout && !afloop.systeem) {
+    afloop.systeem = Bij(std::move(fout), kJournaalMap);
+  }
   const bool geschreven = Schrijfstand(hoofd_.bestanden) != stand;
   if (afloop.afgebroken && geschreven && !afloop.systeem) VraagBehouden();
   return afloop;
@@ -215,24 +225,41 @@ void ImpGedcom::VraagBehouden() {
   static_cast<void>(MaakOngedaan(hoofd_.MaakOpslag(), laatste->nummer));
 }
 
+// Reading from the log would empty it before a line of it was read, and so would the rest.
+SysteemFout ImpGedcom::OpenInvoer(RegelLezer& lezer, const std::filesystem::path& bestand) const {
+  const std::filesystem::path log = LogPad();
+  for (const auto& uitvoer :
+       {log, VindPad(log.parent_path() / kRestNaam), log.parent_path() / kRestBezig}) {
+    if (IsZelfde(bestand, uitvoer)) return FoutInGebruik();
+  }
+  return lezer.Open(bestand);
+}
+
+// What stood there is the log of an earlier run.
+void ImpGedcom::NoteerFout(const SysteemFout& fout, const std::filesystem::path& bestand) {
+  GedLog log;
+  if (IsZelfde(bestand, LogPad()) || log.Open(LogPad())) return;
+  log.Regel("Importeren mislukt: " + Bij(fout, PadTekst(bestand.filename())).tekst);
+  heeftLog_ = !log.Sluit();
+}
+
 ImpGedcom::Afloop ImpGedcom::Lees(const std::filesystem::path& bestand) {
   const std::int16_t personen = hoofd_.Persoon.AantalRecords();
   const std::int16_t relaties = hoofd_.Relatie.AantalRecords();
   RegelLezer lezer;
-  if (SysteemFout fout = lezer.Open(bestand)) return {.systeem = fout};
-  const std::filesystem::path pad = LogPad();
-  // Reading from the log would empty it before a line of it was read, and so would the rest.
-  const std::filesystem::path rest = VindPad(pad.parent_path() / kRestNaam);
-  for (const auto& uitvoer : {pad, rest, pad.parent_path() / kRestBezig}) {
-    if (IsZelfde(bestand, uitvoer)) return {.systeem = FoutInGebruik()};
+  if (SysteemFout fout = OpenInvoer(lezer, bestand)) {
+    NoteerFout(fout, bestand);
+    return {.systeem = fout};
   }
+  const std::filesystem::path pad = LogPad();
   KiesCodering(lezer);
   if (!Past(lezer, personen, relaties)) return {.gestopt = true};
   // A set from a DOS disk comes without it. What cannot be made shows itself at the log.
   std::error_code code;
   std::filesystem::create_directories(pad.parent_path(), code);
   GedLog log;
-  if (SysteemFout fout = log.Open(pad)) return {.systeem = fout};
+  if (SysteemFout fout = log.Open(pad)) return {.systeem = Bij(std::move(fout), kLogNaam)};
+  heeftLog_ = true;
   Scherm scherm(*this, log, lezer);
   // A place file that is full or damaged would say so at each of thousands of lines.
   EenmaalGesprek eenmaal(hoofd_.gesprek);
@@ -242,12 +269,13 @@ ImpGedcom::Afloop ImpGedcom::Lees(const std::filesystem::path& bestand) {
                 scherm},
                personen, relaties);
   loop.omgezet = lezer.ZetOm();
-  loop.rest.Begin(rest, [&loop](std::string_view bron) { return loop.BronUtf8(bron); });
+  loop.rest.Begin(VindPad(pad.parent_path() / kRestNaam),
+                  [&loop](std::string_view bron) { return loop.BronUtf8(bron); });
   const ImpUitslag uitslag = VoerGangen(loop, lezer);
-  if (scherm.Afgebroken()) return {.afgebroken = true, .systeem = log.Sluit()};
+  if (scherm.Afgebroken()) return {.afgebroken = true, .systeem = Bij(log.Sluit(), kLogNaam)};
   if (uitslag.gestopt) {
     SluitVerslag(uitslag, loop, log);
-    return {.gestopt = true, .systeem = log.Sluit()};
+    return {.gestopt = true, .systeem = Bij(log.Sluit(), kLogNaam)};
   }
   if (lezer.Fout()) return {.systeem = lezer.Fout()};
   return {.systeem = Rond(uitslag, loop, log)};
@@ -308,7 +336,7 @@ SysteemFout ImpGedcom::Rond(const ImpUitslag& uitslag, ImpLoop& loop, GedLog& lo
   log.Regel(kVoltooid);
   Pass3box.Zet(true);
   gelukt_ = uitslag.fout.empty();
-  return log.Sluit();
+  return Bij(log.Sluit(), kLogNaam);
 }
 
 // A rest that could not be kept takes nothing from what was read.
@@ -339,18 +367,19 @@ void ImpGedcom::StelVeilig() {
 
 void ImpGedcom::MeldFout(const SysteemFout& fout) {
   if (fout.nummer == kBestandNietGevonden) {
-    hoofd_.gesprek.Waarschuw("Bestand niet gevonden");
+    hoofd_.gesprek.Waarschuw(fout.tekst);
   } else {
     hoofd_.gesprek.Fout("Leesfout: " + fout.tekst);
   }
 }
 
 void ImpGedcom::ToonLog() {
+  if (!heeftLog_) return;
   hoofd_.gesprek.Toon<ToonTekst>(hoofd_, LogPad(), "Importeren - Resultaat");
 }
 
 std::filesystem::path ImpGedcom::LogPad() const {
-  return VindPad(hoofd_.Ini.TekstDir() / "GEDCOM.LOG");
+  return VindPad(hoofd_.Ini.TekstDir() / kLogNaam);
 }
 
 }  // namespace lb77

@@ -78,6 +78,11 @@ class ImpGedcom final : public Formulier {
   [[nodiscard]] Afloop Importeer();
   [[nodiscard]] Afloop LeesAlsHandeling(const std::filesystem::path& bestand);
   void VraagBehouden();
+  // Opens what is to be read, unless this import writes it.
+  [[nodiscard]] SysteemFout OpenInvoer(RegelLezer& lezer,
+                                       const std::filesystem::path& bestand) const;
+  // A log of this import that tells nothing but that.
+  void NoteerFout(const SysteemFout& fout, const std::filesystem::path& bestand);
   [[nodiscard]] Afloop Lees(const std::filesystem::path& bestand);
   // Asks whether a file in Unicode is to be converted; the reader stands at its first line then.
   void KiesCodering(RegelLezer& lezer);
@@ -99,6 +104,7 @@ class ImpGedcom final : public Formulier {
   const std::filesystem::path begin_;
   const ImpWijze wijze_;
   bool gelukt_ = false;
+  bool heeftLog_ = false;  // the log is that of the last import
   bool opmerkingenVol_ = false;
   bool nietOmgezet_ = false;  // a Unicode file is read as bytes
   std::size_t gelezenPersonen_ = 0;

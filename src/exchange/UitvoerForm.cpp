@@ -96,6 +96,7 @@ void UitvoerForm::StartKlik() {
   if (!HeeftNamen() || !MagBeginnen()) return;
   WisVoortgang();
   records_.Begin();
+  gestopt_ = false;
   ZetBezig(true);
   bool metLog = false;
   const SysteemFout fout = Voer(metLog);
@@ -103,12 +104,20 @@ void UitvoerForm::StartKlik() {
   WisStop();
   if (fout) {
     MeldFout(fout);
-  } else {
+  } else if (!gestopt_) {
     MeldVoltooid();
   }
   start_->ZetIngeschakeld(false);
   if (metLog) hoofd_.gesprek.Toon<ToonTekst>(hoofd_, LogPad(), "Exporteren - Resultaat");
-  if (!fout) Sluit();
+  if (!fout && !gestopt_) Sluit();
+}
+
+bool UitvoerForm::Doorgaan(const UitvoerBestanden& bestanden) {
+  if (bestanden.Mislukt()) return false;
+  if (!hoofd_.gesprek.StopGevraagd(*this)) return true;
+  gestopt_ = hoofd_.gesprek.Vraag("Opbouw Afbreken ?");
+  WisStop();
+  return !gestopt_;
 }
 
 bool UitvoerForm::HeeftNamen() {
@@ -129,7 +138,7 @@ SysteemFout UitvoerForm::Voer(bool& metLog) {
   SysteemFout fout = VoerMetLog(bestanden);
   static_cast<void>(bestanden.SluitUit());
   Bestandswerk werk;
-  if (fout) RuimErnaast(ernaast_, werk);
+  if (fout || gestopt_) RuimErnaast(ernaast_, werk);
   const SysteemFout logFout = bestanden.Log().Sluit();
   return fout ? fout : logFout;
 }
@@ -141,6 +150,10 @@ SysteemFout UitvoerForm::VoerMetLog(UitvoerBestanden& bestanden) {
   if (SysteemFout fout = bestanden.SluitUit()) return fout;
   // A log that is full has ended the run.
   if (SysteemFout fout = bestanden.Log().Fout()) return fout;
+  if (gestopt_) {
+    bestanden.Log().Regel("Exporteren afgebroken");
+    return {};
+  }
   Bestandswerk werk;
   if (const auto fout = NeemPlaatsen(ernaast_, werk)) {
     return {fout->fout.nummer, fout->fout.tekst + NietTerugTekst(*fout, ernaast_)};

@@ -86,9 +86,9 @@ class UitvoerBestanden {
 };
 
 // A derived form declares its further controls and hands its buttons over. It closes behind a run
-// that came to its end. Behind one that failed it stays, its log is shown, and its start button works
-// again when a file has been picked by Browse; what was written stands, unless it was written beside
-// its place.
+// that came to its end. Behind one that failed or was stopped it stays, its log is shown, and its start
+// button works again when a file has been picked by Browse; what was written stands, unless it was
+// written beside its place.
 class UitvoerForm : public Formulier {
  public:
   std::deque<UitvoerRij> Uitvoeren;
@@ -120,6 +120,9 @@ class UitvoerForm : public Formulier {
   virtual void SchrijfLogSlot(ExpUitvoer& log) = 0;
   // The run has ended well.
   virtual void MeldVoltooid() {}
+  // The test of the walk before each record: False when an output has failed, and when the user
+  // stops the run. A run that was stopped ends its log with that.
+  [[nodiscard]] bool Doorgaan(const UitvoerBestanden& bestanden);
 
  private:
   void BrowseButtonKlik(UitvoerRij& rij);
@@ -140,6 +143,7 @@ class UitvoerForm : public Formulier {
   UitvoerRecords records_;
   Knop* start_ = nullptr;
   std::vector<std::filesystem::path> ernaast_;  // the places of what the run writes beside them
+  bool gestopt_ = false;
 };
 
 }  // namespace lb77

@@ -33,14 +33,6 @@ QString KaleNaam(const QString& naam) {
   return haak > 0 ? naam.left(haak) : naam;
 }
 
-QString Beginmap(const BestandsVraag& vraag, const VensterInstellingen& instellingen) {
-  QString gevraagd = PadNaarQt(vraag.beginmap);
-  if (!gevraagd.isEmpty() && QDir(gevraagd).exists()) return gevraagd;
-  QString laatste = instellingen.LaatsteMap(vraag.filter);
-  if (!laatste.isEmpty() && QDir(laatste).exists()) return laatste;
-  return QDir::homePath();
-}
-
 void ZetWijze(QFileDialog& venster, const BestandsVraag& vraag) {
   venster.setOption(QFileDialog::DontConfirmOverwrite);
   switch (vraag.wijze) {
@@ -103,8 +95,35 @@ QStringList Naamfilters(std::string_view filter) {
 
 namespace {
 
+// Where files are saved is remembered apart from where they are opened.
+std::string Sleutel(const BestandsVraag& vraag) {
+  return vraag.wijze == BestandsWijze::Opslaan ? "opslaan|" + vraag.filter : vraag.filter;
+}
+
+// Does it hold a file of the first kind that the question is about?
+bool HeeftZulke(const QString& map, const BestandsVraag& vraag) {
+  const QString eerste = NaarQt(vraag.filter).section(u'|', 1, 1);
+  return !QDir(map).entryList(Patronen(eerste).split(u' '), QDir::Files).isEmpty();
+}
+
+// The first of these that is there.
+QString Beginmap(const BestandsVraag& vraag, const VensterInstellingen& instellingen) {
+  const auto plek = QStandardPaths::writableLocation;
+  const QString gevraagd = PadNaarQt(vraag.beginmap);
+  QStringList mappen{instellingen.LaatsteMap(Sleutel(vraag))};
+  if (vraag.wijze == BestandsWijze::Map) mappen.prepend(gevraagd);
+  if (vraag.wijze == BestandsWijze::Openen) {
+    if (!gevraagd.isEmpty() && HeeftZulke(gevraagd, vraag)) mappen += gevraagd;
+    mappen += plek(QStandardPaths::DownloadLocation);
+  }
+  mappen += plek(QStandardPaths::DocumentsLocation);
+  for (const QString& map : mappen) {
+    if (!map.isEmpty() && QDir(map).exists()) return map;
+  }
+  return QDir::homePath();
+}
+
 std::optional<std::filesystem::path> Kies(QFileDialog& venster, const BestandsVraag& vraag,
-                                          const std::string& sleutel,
                                           VensterInstellingen& instellingen) {
   venster.setLabelText(QFileDialog::Reject, QStringLiteral("&Annuleren"));
   venster.setLabelText(QFileDialog::FileName, QStringLiteral("Bestands&naam:"));
@@ -117,23 +136,10 @@ std::optional<std::filesystem::path> Kies(QFileDialog& venster, const BestandsVr
       pad = MetUitgang(pad, venster.selectedNameFilter());
       if (!MagOverschrijven(venster, pad)) continue;
     }
-    instellingen.BewaarLaatsteMap(sleutel, QFileInfo(pad).absolutePath());
+    instellingen.BewaarLaatsteMap(Sleutel(vraag), QFileInfo(pad).absolutePath());
     return PadVanQt(QDir::toNativeSeparators(pad));
   }
   return std::nullopt;
-}
-
-// Where files are saved is remembered apart from where they are opened.
-std::string OpslagSleutel(const BestandsVraag& vraag) {
-  return "opslaan|" + vraag.filter;
-}
-
-QString Opslagmap(const BestandsVraag& vraag, const VensterInstellingen& instellingen) {
-  for (const QString& map : {instellingen.LaatsteMap(OpslagSleutel(vraag)),
-                             QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)}) {
-    if (!map.isEmpty() && QDir(map).exists()) return map;
-  }
-  return QDir::homePath();
 }
 
 // The kind of file that the name already has.
@@ -150,18 +156,18 @@ std::optional<std::filesystem::path> KiesBestand(QWidget* ouder, const BestandsV
                                                  VensterInstellingen& instellingen) {
   QFileDialog venster(ouder, Titel(vraag.wijze), Beginmap(vraag, instellingen));
   ZetWijze(venster, vraag);
-  return Kies(venster, vraag, vraag.filter, instellingen);
+  return Kies(venster, vraag, instellingen);
 }
 
 std::optional<std::filesystem::path> KiesOpslag(QWidget* ouder, const BestandsVraag& vraag,
                                                 const std::filesystem::path& naam,
                                                 VensterInstellingen& instellingen) {
-  QFileDialog venster(ouder, Titel(vraag.wijze), Opslagmap(vraag, instellingen));
+  QFileDialog venster(ouder, Titel(vraag.wijze), Beginmap(vraag, instellingen));
   ZetWijze(venster, vraag);
   const QString voorstel = PadNaarQt(naam);
   KiesSoort(venster, voorstel);
   venster.selectFile(voorstel);
-  return Kies(venster, vraag, OpslagSleutel(vraag), instellingen);
+  return Kies(venster, vraag, instellingen);
 }
 
 }  // namespace lb77

@@ -13,7 +13,9 @@
 namespace lb77 {
 
 // Asks over `ouder` (may be null); empty when the user cancelled. A file that would be written
-// over is asked about. The directory is remembered for the next question with the same filter.
+// over is asked about. It begins where the user last chose a file of such a kind, for opening or for
+// saving; the first time where the question says if there is one to open, else among his downloads, or
+// his documents. A directory is asked for from where the question says.
 [[nodiscard]] std::optional<std::filesystem::path> KiesBestand(QWidget* ouder,
                                                                const BestandsVraag& vraag,
                                                                VensterInstellingen& instellingen);

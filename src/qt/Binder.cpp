@@ -54,6 +54,9 @@ void Binder::Verdwijn() {
   if (venster_->isVisible() && !venster_->isMaximized()) {
     instellingen_.BewaarMaat(formulier_.Naam(), venster_->size());
   }
+  if (hoofd_ && venster_->isVisible()) {
+    instellingen_.BewaarVol(formulier_.Naam(), venster_->isMaximized());
+  }
   ++diepte_;
   venster_->hide();
   --diepte_;
@@ -136,7 +139,7 @@ Element* Binder::ElementVan(const QObject* waar) const {
 void Binder::Toon() {
   ++diepte_;
   venster_->setFocus(Qt::OtherFocusReason);  // else the toolkit chooses a first field of its own
-  if (HeeftBladzijde(formulier_)) {
+  if (HeeftBladzijde(formulier_) || (hoofd_ && instellingen_.IsVol(formulier_.Naam()))) {
     venster_->showMaximized();
   } else {
     venster_->show();

@@ -2,12 +2,14 @@
 
 #include <QSizePolicy>
 
+#include "forms/Bijschrift.h"
 #include "forms/Weergave.h"
 #include "qt/Beeldelement.h"
 #include "qt/Keuzeelementen.h"
 #include "qt/Toonelementen.h"
 #include "qt/Veldelementen.h"
 #include "qt/Vertaling.h"
+#include "text/Tekens.h"
 
 namespace lb77 {
 
@@ -24,6 +26,26 @@ void ZetVlaggen(QWidget& widget, const Bediening& bediening) {
   if (widget.isEnabledTo(widget.parentWidget()) != bediening.Ingeschakeld()) {
     widget.setEnabled(bediening.Ingeschakeld());
   }
+}
+
+// Empty for a control without words, whose name is that of the code.
+std::string Woorden(const Bediening& bediening) {
+  const std::string naam = bediening.Leesnaam();
+  if (naam != bediening.Naam()) return naam;
+  const std::string prompt = bediening.Prompt();
+  const std::string gezien = ZonderSneltoets(prompt.empty() ? bediening.Bijschrift() : prompt);
+  return Trim(gezien) == naam ? naam : std::string();
+}
+
+// A name stands in the place of what a label shows, so a value is part of its name.
+std::string Gehoord(const Bediening& bediening) {
+  if (bediening.KanFocus()) return bediening.Leesnaam();
+  const std::string woorden = Woorden(bediening);
+  if (bediening.Soort() == BedieningSoort::Tekstpagina) {
+    return woorden.empty() ? "Bladzijde" : woorden;
+  }
+  if (bediening.Soort() != BedieningSoort::Teller) return woorden;
+  return std::string(Trim(woorden + " " + bediening.Waarde()));
 }
 
 }  // namespace
@@ -45,7 +67,7 @@ QLabel& Element::MaakPrompt(QWidget& ouder) {
 
 void Element::Bijwerken() {
   ZetVlaggen(*widget_, bediening_);
-  const QString leesnaam = NaarQt(bediening_.Leesnaam());
+  const QString leesnaam = NaarQt(Gehoord(bediening_));
   if (widget_->accessibleName() != leesnaam) widget_->setAccessibleName(leesnaam);
   if (prompt_) {
     ZetVlaggen(*prompt_, bediening_);

@@ -8,8 +8,12 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStringList>
+#include <QStyle>
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <vector>
@@ -24,7 +28,8 @@ namespace {
 
 constexpr int kNummer = 6;  // characters of a button for a number
 constexpr int kLijstRegels = 8;
-constexpr int kLijstBreedte = 44;  // characters
+constexpr int kLijstBreedte = 44;    // characters
+constexpr qsizetype kGemeten = 500;  // rows of a long list; a row takes the toolkit microseconds
 
 class KnopElement : public Element {
  public:
@@ -103,6 +108,25 @@ class Lijstvak final : public QListWidget {
  public:
   using QListWidget::QListWidget;
 
+  void ZetRegels(const QStringList& rijen) {
+    clear();
+    addItems(rijen);
+    breedste_ = 0;
+    for (const QString& rij : Langste(rijen)) {
+      breedste_ = std::max(breedste_, fontMetrics().horizontalAdvance(rij));
+    }
+    breedste_ += 2 * (style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, this) + 1);
+    // All rows are taken to be as large as the first, and the bar goes as far as that.
+    if (count() > 0) item(0)->setSizeHint({breedste_, sizeHintForRow(0)});
+    updateGeometry();
+    if (isVisible()) VerbreedVenster();
+  }
+  // As wide as its widest row.
+  [[nodiscard]] QSize sizeHint() const override {
+    const int breedte = breedste_ + 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    return QListWidget::sizeHint().expandedTo({breedte, 0});
+  }
+
  protected:
   void focusInEvent(QFocusEvent* focus) override {
     const QSignalBlocker stil(this);
@@ -110,6 +134,33 @@ class Lijstvak final : public QListWidget {
     QListWidget::focusInEvent(focus);
     if (leeg) setCurrentRow(-1);
   }
+
+ private:
+  // The rows with the most characters, among which the widest is.
+  static QStringList Langste(QStringList rijen) {
+    const auto lengte = [](const QString& een, const QString& ander) {
+      return een.size() > ander.size();
+    };
+    const qsizetype aantal = std::min(rijen.size(), kGemeten);
+    std::partial_sort(rijen.begin(), rijen.begin() + aantal, rijen.end(), lengte);
+    rijen.resize(aantal);
+    return rijen;
+  }
+  // Rows that come when the window is there already; it stays on its screen.
+  void VerbreedVenster() {
+    QWidget& venster = *window();
+    const int tekort = sizeHint().width() - width();
+    if (tekort <= 0 || !venster.screen() || venster.isMaximized()) return;
+    const QRect ruimte = venster.screen()->availableGeometry();
+    const int kader = venster.frameGeometry().width() - venster.width();
+    const int breed = std::min(venster.width() + tekort, ruimte.width() - kader);
+    if (breed <= venster.width()) return;
+    venster.resize(breed, venster.height());
+    const int uiterste = ruimte.right() + 1 - breed - kader;
+    venster.move(std::max(ruimte.left(), std::min(venster.x(), uiterste)), venster.y());
+  }
+
+  int breedste_ = 0;
 };
 
 class KeuzelijstElement final : public Element {
@@ -140,8 +191,7 @@ class KeuzelijstElement final : public Element {
     const QSignalBlocker stil(vak_);
     if (rijen_ != lijst_.Rijen()) {
       rijen_ = lijst_.Rijen();
-      vak_.clear();
-      vak_.addItems(Vertaald(rijen_));
+      vak_.ZetRegels(Vertaald(rijen_));
       HaalHersteldeDoor();
     }
     if (vak_.currentRow() != lijst_.Index()) vak_.setCurrentRow(lijst_.Index());
@@ -158,7 +208,7 @@ class KeuzelijstElement final : public Element {
   }
 
   Lijst& lijst_;
-  QListWidget& vak_;
+  Lijstvak& vak_;
   std::vector<std::string> rijen_;
 };
 

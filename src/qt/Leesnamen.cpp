@@ -20,9 +20,10 @@ bool ZegtNiets(const Bediening& bediening, const std::string& naam) {
 
 }  // namespace
 
-// What a number button shows is said behind its name.
+// What a number button shows is said behind its name. A field that can only be read has one too.
 void GeefLeesnaam(Bediening& bediening, const std::string& woorden) {
-  if (!bediening.KanFocus() || woorden.empty()) return;
+  const bool veld = bediening.KanFocus() || dynamic_cast<const Invoerveld*>(&bediening);
+  if (!veld || woorden.empty()) return;
   if (ZegtNiets(bediening, bediening.Leesnaam())) bediening.ZetLeesnaam(woorden);
 }
 

@@ -1,13 +1,18 @@
 #include "qt/Tekenaar.h"
 
+#include <QBuffer>
+#include <QByteArray>
 #include <QFontMetricsF>
 #include <QPainterPath>
 #include <QPdfWriter>
 #include <QPolygonF>
-#include <QSaveFile>
 #include <algorithm>
+#include <system_error>
 
 #include "qt/Vertaling.h"
+#include "store/Platform.h"
+#include "store/PlatformNamen.h"
+#include "store/SysteemFout.h"
 
 namespace lb77 {
 
@@ -172,8 +177,41 @@ void TekenVel(QPainter& verf, const Tekening& tekening, const Vellen& vellen, st
   if (vellen.vellen.size() > 1) TekenMerken(verf, vellen, i);
 }
 
-std::string Reden(const QSaveFile& bestand) {
-  return VanQt(bestand.errorString()).tekst;
+// Beside it until it is whole: what stood there stays when it can't be.
+SysteemFout ZetNeer(const std::filesystem::path& pad, const QByteArray& bytes) {
+  std::filesystem::path naast = pad;
+  naast += ".~";
+  std::error_code code;
+  std::filesystem::remove(naast, code);  // left by a run that was killed
+  Bestandsgreep greep;
+  SysteemFout fout = greep.Open(naast, Openwijze::Nieuw);
+  if (!fout) fout = greep.Schrijf(0, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+  if (!fout) fout = greep.Veiligstellen();
+  greep.Sluit();
+  if (!fout) {
+    HernoemOpSchijf(naast, pad, code);
+    fout = FoutVan(code);
+  }
+  if (fout) std::filesystem::remove(naast, code);
+  return fout;
+}
+
+// False when the toolkit could not hold the pages.
+bool DrukVellen(QPdfWriter& papier, const Tekening& tekening, const Vellen& vellen) {
+  papier.setResolution(kStippen);
+  papier.setTitle(NaarQt(tekening.titel));
+  papier.setPageSize(QPageSize(QSizeF(vellen.breedte, vellen.hoogte), QPageSize::Point, QString(),
+                               QPageSize::ExactMatch));
+  papier.setPageMargins(QMarginsF(0, 0, 0, 0));
+  QPainter verf;
+  if (!verf.begin(&papier)) return false;
+  const double schaal = static_cast<double>(kStippen) / kPuntenPerInch;
+  verf.scale(schaal, schaal);
+  for (std::size_t i = 0; i < vellen.vellen.size(); ++i) {
+    if (i > 0 && !papier.newPage()) return false;
+    TekenVel(verf, tekening, vellen, i);
+  }
+  return verf.end();
 }
 
 }  // namespace
@@ -189,25 +227,16 @@ void TekenIn(QPainter& verf, const Tekening& tekening, const QRectF& deel) {
 
 std::optional<std::string> SchrijfPdf(const std::filesystem::path& pad, const Tekening& tekening,
                                       const Vellen& vellen) {
-  QSaveFile bestand(PadNaarQt(pad));
-  if (!bestand.open(QIODevice::WriteOnly)) return Reden(bestand);
+  QBuffer bladen;
+  bladen.open(QIODevice::WriteOnly);
+  bool heel = false;
   {
-    QPdfWriter papier(&bestand);
-    papier.setResolution(kStippen);
-    papier.setTitle(NaarQt(tekening.titel));
-    papier.setPageSize(QPageSize(QSizeF(vellen.breedte, vellen.hoogte), QPageSize::Point, QString(),
-                                 QPageSize::ExactMatch));
-    papier.setPageMargins(QMarginsF(0, 0, 0, 0));
-    QPainter verf(&papier);
-    const double schaal = static_cast<double>(kStippen) / kPuntenPerInch;
-    verf.scale(schaal, schaal);
-    for (std::size_t i = 0; i < vellen.vellen.size(); ++i) {
-      if (i > 0) papier.newPage();
-      TekenVel(verf, tekening, vellen, i);
-    }
+    QPdfWriter papier(&bladen);
+    heel = DrukVellen(papier, tekening, vellen);
   }
-  if (!bestand.commit()) return Reden(bestand);
-  return std::nullopt;
+  const SysteemFout fout = heel ? ZetNeer(pad, bladen.data())
+                                : FoutVan(std::make_error_code(std::errc::not_enough_memory));
+  return fout ? std::optional(fout.tekst) : std::nullopt;
 }
 
 }  // namespace lb77

@@ -13,6 +13,10 @@ QString MaatSleutel(std::string_view formulier) {
   return QStringLiteral("venster/") + NaarQt(formulier);
 }
 
+QString VolSleutel(std::string_view formulier) {
+  return MaatSleutel(formulier) + QStringLiteral("-vol");
+}
+
 // A filter holds characters that a key may not.
 QString MapSleutel(std::string_view filter) {
   const QByteArray bytes(filter.data(), static_cast<qsizetype>(filter.size()));
@@ -36,6 +40,14 @@ std::optional<QSize> VensterInstellingen::Maat(std::string_view formulier) const
 
 void VensterInstellingen::BewaarMaat(std::string_view formulier, QSize maat) {
   if (bestand_) bestand_->setValue(MaatSleutel(formulier), maat);
+}
+
+bool VensterInstellingen::IsVol(std::string_view formulier) const {
+  return bestand_ && bestand_->value(VolSleutel(formulier)).toBool();
+}
+
+void VensterInstellingen::BewaarVol(std::string_view formulier, bool vol) {
+  if (bestand_) bestand_->setValue(VolSleutel(formulier), vol);
 }
 
 QString VensterInstellingen::LaatsteMap(std::string_view filter) const {

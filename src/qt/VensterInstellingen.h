@@ -19,6 +19,9 @@ class VensterInstellingen {
 
   [[nodiscard]] std::optional<QSize> Maat(std::string_view formulier) const;
   void BewaarMaat(std::string_view formulier, QSize maat);
+  // Did the window fill its screen?
+  [[nodiscard]] bool IsVol(std::string_view formulier) const;
+  void BewaarVol(std::string_view formulier, bool vol);
 
   // The directory that the user last chose a file from for this filter; empty when none.
   [[nodiscard]] QString LaatsteMap(std::string_view filter) const;

@@ -1,5 +1,6 @@
 #include "app/KopieBestanden.h"
 #include "app/KopieTerugzetten.h"
+#include "app/Start.h"
 #include "app/VeiligToets.h"
 #include "app/Veiligheidskopie.h"
 #include "steun/NepGesprek.h"
@@ -86,6 +87,48 @@ TEST_F(Kopieen, DeLijstTelt) {
              ! uitroep "Geen veiligheidskopie gekozen"
              - KopieTerugzetten)~");
   NoteerGetoond(verslag_);
+}
+
+TEST_F(Kopieen, TijdensHetTellenKanMenWeg) {
+  MaakGeschiedenis();
+  MaakLeeg("2020-01-01_000000");
+  Speelt("onderbreek 2\nkies VeiligTerugzetten",
+         R"~(+ KopieTerugzetten "Veiligheidskopie Terugzetten"
+             - KopieTerugzetten)~");
+}
+
+// Writes down what the dialog says at each repaint.
+class Telkijker final : public Gesprek {
+ public:
+  Antwoord Bericht(BerichtSoort, Knoppen, std::string_view) override { return Antwoord::OK; }
+  bool BerichtMetVinkje(std::string_view, std::string_view) override { return false; }
+  std::optional<std::filesystem::path> VraagBestand(const BestandsVraag&) override { return {}; }
+  bool DrukAf(const Afdruk&) override { return false; }
+  void Ververs(Formulier& formulier) override {
+    gezien += formulier.Zoek("TellingLabel")->Waarde() + (formulier.Bezig() ? " bezig; " : "; ");
+  }
+  bool StopGevraagd(Formulier&) override { return false; }
+  std::string gezien;
+
+ protected:
+  void Open(Formulier&) override {}
+  void Voer(Formulier& formulier) override {
+    gezien += formulier.Zoek("TellingLabel")->Waarde() + (formulier.Bezig() ? "bezig" : "klaar");
+    formulier.VraagSluiten();
+  }
+  void Dicht(Formulier&) override {}
+};
+
+TEST_F(Kopieen, HetVensterZegtWelkeKopieWordtGeteld) {
+  MaakLeeg("2020-01-01_000000");
+  MaakLeeg("2020-01-02_000000");
+  Telkijker kijker;
+  Hoofdmodule hoofd(kijker, klok_, map_);
+  ASSERT_TRUE(Start(hoofd));
+  hoofd.ActieveSetNaam = "EEN";
+  kijker.Toon<KopieTerugzetten>(hoofd);
+  EXPECT_EQ(kijker.gezien,
+            "Kopie 1 van 2 wordt geteld ... bezig; Kopie 2 van 2 wordt geteld ... bezig; klaar");
 }
 
 TEST_F(Kopieen, TerugzettenIsEenBewerkingDieOngedaanKan) {

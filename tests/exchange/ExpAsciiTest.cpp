@@ -52,6 +52,20 @@ TEST_F(ExpAsciiTest, SchrijftDeDrieBestandenEnHetLog) {
             "Exporteren voltooid\r\n");
 }
 
+// The seventh test is the one before the first relation, the twelfth the one behind the last.
+TEST_F(ExpAsciiTest, AfbrekenEindigtBijHetRecord) {
+  MaakFamilie();
+  for (const auto& [test, gedaan] : {std::pair{1, "00"}, {7, "60"}, {12, "65"}}) {
+    Speel(Samen({kKiesAlles, "onderbreek ", std::to_string(test),
+                 "\nantwoord Ja\ndruk StartExportButton\ndruk BackButton\n"
+                 "toon PersonenGedaan\ntoon RelatiesGedaan\ndruk BackButton"}),
+          Samen({kGekozen, "? vraag Ja/Nee \"Opbouw Afbreken ?\" -> Ja\n", kResultaat,
+                 "= PersonenGedaan \"", std::string(1, gedaan[0]), "\"\n= RelatiesGedaan \"",
+                 std::string(1, gedaan[1]), "\"\n"}));
+    EXPECT_EQ(Tekst("EXPORT.LOG"), "Start export (20000101000000)\r\nExporteren afgebroken\r\n");
+  }
+}
+
 TEST_F(ExpAsciiTest, EenLeegBestandSluitHetScherm) {
   Speel("", "! uitroep \"Export uit een leeg bestand is niet mogelijk\"");
 }

@@ -125,6 +125,27 @@ TEST_F(ExpDumpTest, HetLogBegintMetDatumEnTijd) {
   EXPECT_TRUE(Log().starts_with("Start export (20261102090507)\r\n")) << Log();
 }
 
+TEST_F(ExpDumpTest, AfbrekenLaatStaanWatErIsEnHetLogZegtHet) {
+  MaakFamilie();
+  Speel(kExpDumpPers, "druk OKButton\ndruk BackButton", kResultaat);
+  const std::string heel = Tekst("PROEF_PRS.TXT");
+  Speel(kExpDumpPers,
+        "onderbreek 2\nantwoord Ja\ndruk OKButton\ndruk BackButton\ntoon OKButton\n"
+        "toon PersonenGedaan\ndruk BackButton",
+        "? vraag Ja/Nee \"Opbouw Afbreken ?\" -> Ja\n" + std::string(kResultaat) +
+            "= OKButton \"&Start Export\" [uit]\n= PersonenGedaan \"1\"");
+  EXPECT_EQ(Tekst("PROEF_PRS.TXT"), heel.substr(0, heel.find('\n') + 1));
+  EXPECT_EQ(Log(), "Start export (20000101000000)\r\nExporteren afgebroken\r\n");
+}
+
+TEST_F(ExpDumpTest, WieTochNietAfbreektKrijgtHetHeleBestand) {
+  MaakFamilie();
+  Speel(kExpDumpPers, "onderbreek 3\nantwoord Nee\ndruk OKButton\ndruk BackButton",
+        "? vraag Ja/Nee \"Opbouw Afbreken ?\" -> Nee\n" + std::string(kResultaat));
+  VerwachtGouden("uitdraai/PROEF_PRS.TXT", Tekst("PROEF_PRS.TXT"));
+  VerwachtGouden("uitdraai/PRS.LOG", Log());
+}
+
 TEST_F(ExpDumpTest, BijHetLogIsHijNietMeerBezig) {
   MaakFamilie();
   BezigKijker kijker;

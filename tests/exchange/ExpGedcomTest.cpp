@@ -100,6 +100,19 @@ class ExpGedcomToets : public ImportToets {
   }
 };
 
+TEST_F(ExpGedcomToets, AfbrekenVraagtEnHetLogZegtHet) {
+  MaakFamilie();
+  Speel(
+      Naar(Uit()) + kKies +
+          "onderbreek 1\nonderbreek 1\nantwoord Nee\nantwoord Ja\ndruk OKButton\ndruk BackButton\n"
+          "toon PersonenGedaan\ndruk BackButton\n",
+      std::string(kGekozen) +
+          "? vraag Ja/Nee \"Opbouw Afbreken ?\" -> Nee\n"
+          "? vraag Ja/Nee \"Opbouw Afbreken ?\" -> Ja\n" +
+          kVerslag + "= PersonenGedaan \"1\"\n");
+  EXPECT_EQ(Log(), "Start export (20000101000000)\r\nExporteren afgebroken\r\n");
+}
+
 TEST_F(ExpGedcomToets, EenLegeSetLevertNiets) {
   Speel("", "! uitroep \"Export uit een leeg bestand is niet mogelijk\"\n");
 }

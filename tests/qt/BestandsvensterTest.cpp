@@ -64,8 +64,8 @@ class BestandsvensterTest : public Vensterproef {
     kijk.start(1);
     return vraag();
   }
-  static void Kies(QFileDialog& venster, const char* naam) {
-    venster.findChild<QLineEdit*>()->setText(QLatin1String(naam));
+  void Kies(QFileDialog& venster, const char* naam) const {
+    venster.findChild<QLineEdit*>()->setText(map_.filePath(QLatin1String(naam)));
     static_cast<QDialog&>(venster).accept();
   }
   [[nodiscard]] std::filesystem::path Pad(const char* naam) const {
@@ -74,7 +74,7 @@ class BestandsvensterTest : public Vensterproef {
 };
 
 TEST_F(BestandsvensterTest, EenGekozenBestandKomtTerug) {
-  EXPECT_EQ(Vraag(BestandsWijze::Openen, [](QFileDialog& v) { Kies(v, "oranje.ged"); }),
+  EXPECT_EQ(Vraag(BestandsWijze::Openen, [this](QFileDialog& v) { Kies(v, "oranje.ged"); }),
             Pad("oranje.ged"));
 }
 
@@ -94,13 +94,13 @@ TEST_F(BestandsvensterTest, HetVensterSpreektNederlandsEnBegintWaarHetMoet) {
 }
 
 TEST_F(BestandsvensterTest, OpslaanVoegtDeExtensieVanHetFilterToe) {
-  EXPECT_EQ(Vraag(BestandsWijze::Opslaan, [](QFileDialog& v) { Kies(v, "nieuw"); }),
+  EXPECT_EQ(Vraag(BestandsWijze::Opslaan, [this](QFileDialog& v) { Kies(v, "nieuw"); }),
             Pad("nieuw.GED"));
 }
 
 TEST_F(BestandsvensterTest, OverEenBestandHeenOpslaanVraagtHetEerst) {
   Antwoord({"Ja"});
-  EXPECT_EQ(Vraag(BestandsWijze::Opslaan, [](QFileDialog& v) { Kies(v, "oranje.ged"); }),
+  EXPECT_EQ(Vraag(BestandsWijze::Opslaan, [this](QFileDialog& v) { Kies(v, "oranje.ged"); }),
             Pad("oranje.ged"));
   EXPECT_THAT(boxen, testing::ElementsAre("Het bestand oranje.ged bestaat al. Overschrijven ?"));
 }
@@ -114,21 +114,76 @@ TEST_F(BestandsvensterTest, NeeTegenOverschrijvenVraagtEenAnderBestand) {
       venster->reject();
     });
   };
-  EXPECT_FALSE(Vraag(BestandsWijze::Opslaan, [](QFileDialog& v) { Kies(v, "oranje.ged"); }));
+  EXPECT_FALSE(Vraag(BestandsWijze::Opslaan, [this](QFileDialog& v) { Kies(v, "oranje.ged"); }));
 }
 
 TEST_F(BestandsvensterTest, EenMapKanWordenGekozen) {
-  EXPECT_EQ(Vraag(BestandsWijze::Map, [](QFileDialog& v) { Kies(v, "onder"); }), Pad("onder"));
+  EXPECT_EQ(Vraag(BestandsWijze::Map, [this](QFileDialog& v) { Kies(v, "onder"); }), Pad("onder"));
 }
 
 TEST_F(BestandsvensterTest, DeLaatsteMapWordtVoorHetzelfdeFilterOnthouden) {
-  Vraag(BestandsWijze::Openen, [](QFileDialog& v) { Kies(v, "oranje.ged"); });
+  Vraag(BestandsWijze::Openen, [this](QFileDialog& v) { Kies(v, "oranje.ged"); });
   EXPECT_EQ(instellingen_.LaatsteMap(kGedcom), map_.path());
   EXPECT_EQ(instellingen_.LaatsteMap("Alle Bestanden (*.*)|*.*"), QString());
   EXPECT_FALSE(Vraag(BestandsWijze::Openen, {}, [&](QFileDialog& v) {
     EXPECT_EQ(v.directory().absolutePath(), map_.path());
     v.reject();
   }));
+}
+
+TEST_F(BestandsvensterTest, WieEldersWasBegintDaarEnNietWaarDeVraagZegt) {
+  Vraag(BestandsWijze::Openen, Pad("onder"), [&](QFileDialog& v) {
+    v.findChild<QLineEdit*>()->setText(map_.filePath("oranje.ged"));
+    static_cast<QDialog&>(v).accept();
+  });
+  QFile ander(map_.filePath("onder/ander.ged"));
+  ASSERT_TRUE(ander.open(QIODevice::WriteOnly));
+  for (const BestandsWijze wijze : {BestandsWijze::Openen, BestandsWijze::Map}) {
+    const bool map = wijze == BestandsWijze::Map;
+    EXPECT_FALSE(Vraag(wijze, Pad("onder"), [&](QFileDialog& v) {
+      EXPECT_EQ(v.directory().absolutePath(), map ? map_.filePath("onder") : map_.path());
+      v.reject();
+    }));
+  }
+}
+
+TEST_F(BestandsvensterTest, OpslaanOnthoudtZijnEigenMap) {
+  EXPECT_EQ(Vraag(BestandsWijze::Opslaan,
+                  [&](QFileDialog& v) {
+                    v.findChild<QLineEdit*>()->setText(map_.filePath("onder/nieuw"));
+                    static_cast<QDialog&>(v).accept();
+                  }),
+            Pad("onder") / "nieuw.GED");
+  EXPECT_EQ(instellingen_.LaatsteMap(kGedcom), QString());
+  EXPECT_FALSE(Vraag(BestandsWijze::Opslaan, [&](QFileDialog& v) {
+    EXPECT_EQ(v.directory().absolutePath(), map_.filePath("onder"));
+    v.reject();
+  }));
+}
+
+// The first time: where such files lie if the question knows that, else where a browser puts them.
+TEST_F(BestandsvensterTest, DeEersteKeerBegintOpenenBijDeDownloads) {
+  const QByteArray thuis = qgetenv("HOME");
+  qputenv("HOME", map_.path().toLocal8Bit());
+  const QString downloads = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
+  const QString documenten = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  const auto begint = [&](BestandsWijze wijze, const char* beginmap) {
+    QString waar;
+    EXPECT_FALSE(Vraag(wijze, Pad(beginmap), [&](QFileDialog& v) {
+      waar = v.directory().canonicalPath();
+      v.reject();
+    }));
+    return waar;
+  };
+  const QString hier = QDir(map_.path()).canonicalPath();
+  EXPECT_EQ(begint(BestandsWijze::Openen, "onder"), hier);  // neither is there
+  ASSERT_TRUE(QDir().mkpath(documenten));
+  EXPECT_EQ(begint(BestandsWijze::Openen, "onder"), QDir(documenten).canonicalPath());
+  ASSERT_TRUE(QDir().mkpath(downloads));
+  EXPECT_EQ(begint(BestandsWijze::Openen, "onder"), QDir(downloads).canonicalPath());
+  EXPECT_EQ(begint(BestandsWijze::Opslaan, "onder"), QDir(documenten).canonicalPath());
+  EXPECT_EQ(begint(BestandsWijze::Openen, ""), hier);  // GEDCOM files lie there
+  qputenv("HOME", thuis);
 }
 
 TEST_F(BestandsvensterTest, OpslaanVultNaamEnSoortInEnBegintBijDeDocumenten) {

@@ -9,6 +9,8 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScreen>
+#include <QScrollBar>
 
 #include "Proefvorm.h"
 #include "Vensterproef.h"
@@ -235,6 +237,56 @@ TEST_F(ElementTest, DeLeesnaamIsDePromptOfHetBijschrift) {
     EXPECT_EQ(Vind("OKButton").accessibleName(), QString("OK"));
     EXPECT_EQ(Vind("PersNr(0)").accessibleName(), QString("Nr"));
     EXPECT_EQ(Vind("PersNr(1)").accessibleName(), QString("Nr 2"));
+  });
+}
+
+TEST_F(ElementTest, DeLeesnaamVanEenWaardeHeeftDeWaarde) {
+  Bekijk([&] {
+    EXPECT_EQ(Vind("Stand").accessibleName(), QString("Stand:"));
+    Verander([&] { vorm.Stand.ZetTekst("7 van 9"); });
+    EXPECT_EQ(Vind("Stand").accessibleName(), QString("Stand: 7 van 9"));
+    Verander([&] { vorm.Stand.ZetBijschrift(""); });
+    EXPECT_EQ(Vind("Stand").accessibleName(), QString("7 van 9"));
+    Verander([&] { vorm.Stand.ZetTekst(""); });
+    EXPECT_EQ(Vind("Stand").accessibleName(), QString());
+    Verander([&] { vorm.Stand.ZetLeesnaam("Hoever"); });
+    EXPECT_EQ(Vind("Stand").accessibleName(), QString("Hoever"));
+  });
+}
+
+TEST_F(ElementTest, EenLeegLabelHeeftGeenNaam) {
+  Bekijk([&] {
+    EXPECT_EQ(Vind("Klikbaar").accessibleName(), QString("Klik hier"));
+    Verander([&] { vorm.Klikbaar.ZetBijschrift(""); });
+    EXPECT_EQ(Vind("Klikbaar").accessibleName(), QString());
+  });
+}
+
+TEST_F(ElementTest, EenLijstIsZoBreedAlsHaarBreedsteRij) {
+  vorm.Kieslijst.ZetRijen({"kort", std::string(80, 'n'), "ook kort"});
+  Bekijk([&] {
+    const QScrollBar& balk = *Vind<QListWidget>("Kieslijst").horizontalScrollBar();
+    EXPECT_EQ(balk.maximum(), 0);
+    const int breed = Bovenste().width();
+    Verander([&] { vorm.Kieslijst.ZetRijen({"kort", std::string(95, 'n')}); });
+    QTest::qWait(20);
+    EXPECT_EQ(balk.maximum(), 0);
+    EXPECT_GT(Bovenste().width(), breed);
+  });
+}
+
+TEST_F(ElementTest, EenRijBrederDanHetSchermKanOpzijWordenGerold) {
+  Bekijk([&] {
+    Bovenste().move(500, 10);
+    Verander([&] { vorm.Kieslijst.ZetRijen({"kort", std::string(300, 'n')}); });
+    QTest::qWait(20);
+    const auto& lijst = Vind<QListWidget>("Kieslijst");
+    EXPECT_GT(lijst.horizontalScrollBar()->maximum(), 0);
+    EXPECT_GE(lijst.horizontalScrollBar()->maximum() + lijst.viewport()->width(),
+              lijst.fontMetrics().horizontalAdvance(QString(300, u'n')));
+    const QRect scherm = Bovenste().screen()->availableGeometry();
+    EXPECT_LE(Bovenste().geometry().right(), scherm.right());
+    EXPECT_GT(Bovenste().width(), scherm.width() * 3 / 4);
   });
 }
 

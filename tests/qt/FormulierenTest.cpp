@@ -112,5 +112,16 @@ TEST_F(HoofdschermTest, KomtOpMetDeSetVanDeLaatsteKeer) {
        }});
 }
 
+// With the page that a user has.
+TEST_F(HoofdschermTest, HeeftEenStartblad) {
+  for (const bool metSet : {true, false}) {
+    Voer(MaakHoofdscherm(metSet), {[&] {
+           EXPECT_EQ(Vind("ZoekButton").isVisible(), metSet);
+           Bewaar(Bovenste(), metSet ? "Startblad" : "StartbladZonderSet");
+           Bovenste().close();
+         }});
+  }
+}
+
 }  // namespace
 }  // namespace lb77

@@ -47,7 +47,7 @@ void Formulierproef::ElkeBedieningStaatErEenmaal(const Formulier& formulier) {
     ASSERT_EQ(gevonden.size(), 1) << een->Naam();
     EXPECT_EQ(gevonden[0]->isVisible(), een->Zichtbaar()) << een->Naam();
     EXPECT_EQ(gevonden[0]->isEnabled(), een->Ingeschakeld()) << een->Naam();
-    EXPECT_FALSE(gevonden[0]->accessibleName().isEmpty()) << een->Naam();
+    EXPECT_FALSE(een->KanFocus() && gevonden[0]->accessibleName().isEmpty()) << een->Naam();
   }
 }
 

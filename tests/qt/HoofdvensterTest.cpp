@@ -9,6 +9,7 @@
 #include <QMimeData>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QUrl>
 
@@ -16,6 +17,7 @@
 #include "forms/Bestandsontvanger.h"
 #include "forms/Redengever.h"
 #include "qt/Hoofdvenster.h"
+#include "qt/Vertaling.h"
 
 namespace lb77 {
 namespace {
@@ -156,6 +158,39 @@ TEST_F(HoofdvensterTest, DeVolleMaatIsGeenPlekOmNaarTerugTeKeren) {
   ASSERT_TRUE(vorm.Positie());
   EXPECT_EQ(vorm.Positie()->x, 120);
   EXPECT_EQ(vorm.Positie()->y, 80);
+}
+
+// A run of the program in which the user does something with the window.
+void EenKeer(const QTemporaryDir& map, const std::function<void(Hoofdvenster&)>& doe) {
+  QtGesprek deur(PadVanQt(map.path()));
+  Menuvorm vorm;
+  QTimer::singleShot(0, qApp, [&] {
+    static_cast<void>(QTest::qWaitFor([] { return QApplication::activeWindow(); }));
+    auto& venster = dynamic_cast<Hoofdvenster&>(*QApplication::activeWindow());
+    doe(venster);
+    QTest::qWait(10);
+    venster.Actie("KeuzeAfsluiten")->trigger();
+  });
+  deur.ToonModaal(vorm);
+}
+
+TEST_F(HoofdvensterTest, WieMetEenVolSchermStoptBegintErWeerMee) {
+  const QTemporaryDir map;
+  constexpr QSize kMaat(930, 580);
+  EenKeer(map, [&](Hoofdvenster& venster) {
+    EXPECT_FALSE(venster.isMaximized());
+    venster.resize(kMaat);
+  });
+  EenKeer(map, [&](Hoofdvenster& venster) {
+    EXPECT_EQ(venster.size(), kMaat);
+    venster.showMaximized();
+  });
+  EenKeer(map, [&](Hoofdvenster& venster) {
+    EXPECT_TRUE(venster.isMaximized());
+    EXPECT_EQ(venster.normalGeometry().size(), kMaat);
+    venster.showNormal();
+  });
+  EenKeer(map, [&](Hoofdvenster& venster) { EXPECT_FALSE(venster.isMaximized()); });
 }
 
 TEST_F(HoofdvensterTest, EenPlekBuitenHetSchermWordtNietGenomen) {

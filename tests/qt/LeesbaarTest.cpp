@@ -6,6 +6,7 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QListWidget>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <string_view>
@@ -13,17 +14,19 @@
 
 #include "Programmaproef.h"
 #include "qt/Binder.h"
+#include "qt/Vertaling.h"
 
 namespace lb77 {
 namespace {
 
 using Geval = std::tuple<FormulierRij, int>;
 
-class LeesbaarTest : public Programmaproef, public testing::WithParamInterface<Geval> {
+// With letters of that many points.
+class Letterproef : public Programmaproef {
  protected:
-  void SetUp() override {
+  void Begin(int punten) {
     QFont letter = vorige_;
-    letter.setPointSize(std::get<1>(GetParam()));
+    letter.setPointSize(punten);
     QApplication::setFont(letter);
     Programmaproef::SetUp();
   }
@@ -37,6 +40,11 @@ class LeesbaarTest : public Programmaproef, public testing::WithParamInterface<G
 
   QFont vorige_ = QApplication::font();
   VensterInstellingen instellingen_{{}};
+};
+
+class LeesbaarTest : public Letterproef, public testing::WithParamInterface<Geval> {
+ protected:
+  void SetUp() override { Begin(std::get<1>(GetParam())); }
 };
 
 // What a text asks at least.
@@ -71,6 +79,10 @@ void VerwachtTekstHeel(QWidget& venster) {
   for (const QComboBox* vak : venster.findChildren<QComboBox*>()) {
     if (!vak->isVisible()) continue;
     EXPECT_GE(vak->width(), vak->sizeHint().width()) << Wat(*vak, {});
+  }
+  for (const QListWidget* lijst : venster.findChildren<QListWidget*>()) {
+    if (!lijst->isVisible()) continue;
+    EXPECT_EQ(lijst->horizontalScrollBar()->maximum(), 0) << Wat(*lijst, {});
   }
   for (const QGroupBox* groep : venster.findChildren<QGroupBox*>()) {
     if (groep->isVisible()) VerwachtRuimte(*groep, groep->title(), 0);
@@ -115,6 +127,45 @@ TEST_P(LeesbaarTest, GeenTekstIsAfgesneden) {
   });
   binder.Voer();
 }
+
+using Hoofdgeval = std::tuple<bool, int>;
+
+// The main window with its start page, over a set and without one.
+class HoofdschermLeesbaarTest : public Letterproef, public testing::WithParamInterface<Hoofdgeval> {
+ protected:
+  void SetUp() override { Begin(std::get<1>(GetParam())); }
+};
+
+TEST_P(HoofdschermLeesbaarTest, HetHoofdschermPastEnIsHeelTeLezen) {
+  const auto [metSet, punten] = GetParam();
+  MenuWindow& menu = MaakHoofdscherm(metSet);
+  Voer(menu, {[&, metSet = metSet, punten = punten] {
+         QWidget& venster = Bovenste();
+         const QSize scherm = venster.screen()->availableSize();
+         EXPECT_LE(venster.frameGeometry().width(), scherm.width());
+         EXPECT_LE(venster.frameGeometry().height(), scherm.height());
+         VerwachtTekstHeel(venster);
+         for (const Bediening* een : menu.Bedieningen()) {
+           const auto* widget = venster.findChild<QWidget*>(NaarQt(een->Naam()));
+           if (!widget || !widget->isVisible()) continue;
+           const QRect plek(widget->mapTo(&venster, QPoint(0, 0)), widget->size());
+           EXPECT_TRUE(venster.rect().contains(plek)) << een->Naam();
+         }
+         EXPECT_EQ(venster.findChild<QWidget*>("ZoekButton")->isVisible(), metSet);
+         EXPECT_EQ(venster.findChild<QWidget*>("NieuweFamilie")->isVisible(), !metSet);
+         Bewaar(venster,
+                std::string("MenuWindow-") + (metSet ? "set-" : "leeg-") + std::to_string(punten));
+         venster.close();
+       }});
+}
+
+INSTANTIATE_TEST_SUITE_P(Alle, HoofdschermLeesbaarTest,
+                         testing::Combine(testing::Bool(), testing::Values(11, 14, 18)),
+                         [](const auto& geval) {
+                           return std::string(std::get<0>(geval.param) ? "MetSetOp"
+                                                                       : "ZonderSetOp") +
+                                  std::to_string(std::get<1>(geval.param));
+                         });
 
 INSTANTIATE_TEST_SUITE_P(Alle, LeesbaarTest,
                          testing::Combine(testing::ValuesIn(AlleFormulieren()),

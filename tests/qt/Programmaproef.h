@@ -45,6 +45,18 @@ class Programmaproef : public Formulierproef {
     hoofd.Ini.IniZet("Sets", "Set1", "ORANJE,De familie van Oranje");
   }
 
+  // The main window of somebody who works by hand, with its start page: over the set, or without one.
+  MenuWindow& MaakHoofdscherm(bool metSet) {
+    if (metSet) {
+      programma_->Hoofd().Ini.IniZet("Systeem", "Set", "ORANJE");
+    } else {
+      programma_.emplace(gesprek, klok_, leeg_.Pad());
+      EXPECT_TRUE(programma_->Start());
+    }
+    programma_->Menu().MaakStartblad();
+    return programma_->Menu();
+  }
+
   // Makes the form; the one that asks for a file gets one.
   GemaaktFormulier Maak(const FormulierRij& rij) {
     if (rij.naam == "BekijkTekst") {
@@ -55,6 +67,7 @@ class Programmaproef : public Formulierproef {
   }
 
   TijdelijkeMap map_;
+  TijdelijkeMap leeg_;
   VasteKlok klok_{{2026, 1, 2, 3, 4, 5}};
   std::optional<Programma> programma_;
 };

@@ -1,5 +1,8 @@
 // A drawing in a window and on paper.
+#include <gmock/gmock.h>
+
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QPainter>
@@ -10,6 +13,8 @@
 #include "forms/Beeldvlak.h"
 #include "qt/Tekenaar.h"
 #include "qt/Tekenvlak.h"
+#include "steun/TijdelijkeMap.h"
+#include "steun/VolleSchijf.h"
 
 namespace lb77 {
 namespace {
@@ -199,10 +204,37 @@ TEST_F(TekenvlakTest, EenPdfHeeftEenBladzijdePerVel) {
 }
 
 TEST_F(TekenvlakTest, EenPdfDieNietKanZegtWaarom) {
-  const auto fout = SchrijfPdf(map_.filePath(QStringLiteral("weg/een.pdf")).toStdString(),
-                               Proeftekening(), Vellen{100, 100, 1, 1, 1, 0, {}});
-  ASSERT_TRUE(fout.has_value());
-  EXPECT_FALSE(fout->empty());
+  const auto fout = [this](const char* naam) {
+    return SchrijfPdf(map_.filePath(QLatin1String(naam)).toStdString(), Proeftekening(),
+                      Vellen{100, 100, 1, 1, 1, 0, {{{0, 0, 100, 100}, {0, 0}, 0, 0}}});
+  };
+  EXPECT_EQ(fout("weg/een.pdf"), "Bestand niet gevonden");
+  ASSERT_TRUE(QDir(map_.path()).mkdir(QStringLiteral("map.pdf")));
+  EXPECT_EQ(fout("map.pdf"), "Pad is een directory");
+  EXPECT_EQ(fout("heel.pdf"), std::nullopt);
+  if (!VolleSchijf::kKan) GTEST_SKIP() << VolleSchijf::kWaarom;
+  const std::string heel = LeesBytes(map_.filePath(QStringLiteral("heel.pdf")).toStdString());
+  {
+    const VolleSchijf schijf(100);
+    EXPECT_EQ(fout("heel.pdf"), "Bestand te groot");
+    EXPECT_EQ(fout("vol.pdf"), "Bestand te groot");
+  }
+  EXPECT_EQ(LeesBytes(map_.filePath(QStringLiteral("heel.pdf")).toStdString()), heel);
+  EXPECT_THAT(QDir(map_.path()).entryList(QDir::Files), testing::Contains("heel.pdf"));
+  EXPECT_THAT(QDir(map_.path()).entryList(QDir::Files | QDir::Hidden),
+              testing::Not(testing::Contains(testing::Truly([](const QString& naam) {
+                return naam.contains(u'~') || naam == QLatin1String("vol.pdf");
+              }))));
+}
+
+TEST_F(TekenvlakTest, WatEenGestopteRunLietLiggenHoudtEenPdfNietTegen) {
+  SchrijfBytes(map_.filePath(QStringLiteral("een.pdf.~")).toStdString(), "half");
+  const std::string pad = map_.filePath(QStringLiteral("een.pdf")).toStdString();
+  EXPECT_EQ(SchrijfPdf(pad, Proeftekening(),
+                       Vellen{100, 100, 1, 1, 1, 0, {{{0, 0, 100, 100}, {0, 0}, 0, 0}}}),
+            std::nullopt);
+  EXPECT_TRUE(LeesBytes(pad).starts_with("%PDF-"));
+  EXPECT_FALSE(QFile::exists(map_.filePath(QStringLiteral("een.pdf.~"))));
 }
 
 }  // namespace

@@ -15,7 +15,7 @@
 namespace lb77 {
 namespace {
 
-class ToegankelijkTest : public Programmaproef, public testing::WithParamInterface<FormulierRij> {
+class Luisterproef : public Programmaproef {
  protected:
   // Of a pick box the name is its choice; what it is about says the label that belongs to it.
   static std::string NaamVan(QWidget& widget) {
@@ -27,11 +27,23 @@ class ToegankelijkTest : public Programmaproef, public testing::WithParamInterfa
                             : labels.front().first->text(QAccessible::Name).toStdString();
   }
 
+  // What only shows is heard with its value, and nothing by its name in the code.
+  static void VerwachtWaarde(const Bediening& een, const std::string& naam) {
+    const bool toont =
+        een.Soort() == BedieningSoort::Teller || een.Soort() == BedieningSoort::Label;
+    const QString waarde = toont ? NaarQt(ZonderSneltoets(een.Waarde())).trimmed() : QString();
+    EXPECT_TRUE(QString::fromStdString(naam).contains(waarde)) << een.Naam() << ": " << naam;
+    EXPECT_FALSE(naam.empty() && !(toont && een.Prompt().empty() && waarde.isEmpty()))
+        << een.Naam();
+    if ((een.Prompt() + een.Waarde()).find(een.Naam()) != std::string::npos) return;
+    EXPECT_EQ(naam.find(een.Naam()), std::string::npos) << naam << " is the name in the code";
+  }
+
   // A name, and one that says more than a number or a mark.
   static void VerwachtNaam(const Bediening& een, QWidget& widget) {
     const std::string naam = NaamVan(widget);
+    if (!een.KanFocus()) return VerwachtWaarde(een, naam);
     EXPECT_FALSE(naam.empty()) << een.Naam();
-    if (!een.KanFocus()) return;
     const bool woord = std::any_of(naam.begin(), naam.end(), [](char c) {
       return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
     });
@@ -49,12 +61,13 @@ class ToegankelijkTest : public Programmaproef, public testing::WithParamInterfa
     EXPECT_EQ((*eigen)->text(), NaarQt(een.Prompt())) << een.Naam();
   }
 
+  // All that a form says.
+  void Beluister(Formulier& formulier);
+
   VensterInstellingen instellingen_{{}};
 };
 
-TEST_P(ToegankelijkTest, ElkeBedieningHeeftEenNaamVoorHetOor) {
-  const GemaaktFormulier gemaakt = Maak(GetParam());
-  Formulier& formulier = *gemaakt.formulier;
+void Luisterproef::Beluister(Formulier& formulier) {
   ASSERT_TRUE(formulier.Laad());
   Binder binder(formulier, gesprek, instellingen_, nullptr);
   std::map<std::string, std::string> gehad;
@@ -69,6 +82,23 @@ TEST_P(ToegankelijkTest, ElkeBedieningHeeftEenNaamVoorHetOor) {
     EXPECT_TRUE(nieuw) << een->Naam() << " and " << ander->second << " are both " << ander->first;
   }
 }
+
+class ToegankelijkTest : public Luisterproef, public testing::WithParamInterface<FormulierRij> {};
+
+TEST_P(ToegankelijkTest, ElkeBedieningHeeftEenNaamVoorHetOor) {
+  const GemaaktFormulier gemaakt = Maak(GetParam());
+  Beluister(*gemaakt.formulier);
+}
+
+class ToegankelijkHoofdschermTest : public Luisterproef,
+                                    public testing::WithParamInterface<bool> {};
+
+TEST_P(ToegankelijkHoofdschermTest, OokHetStartbladIsTeHoren) {
+  Beluister(MaakHoofdscherm(GetParam()));
+}
+
+INSTANTIATE_TEST_SUITE_P(Alle, ToegankelijkHoofdschermTest, testing::Bool(),
+                         [](const auto& met) { return met.param ? "MetSet" : "ZonderSet"; });
 
 INSTANTIATE_TEST_SUITE_P(Alle, ToegankelijkTest, testing::ValuesIn(AlleFormulieren()),
                          [](const auto& rij) { return std::string(rij.param.naam); });

@@ -17,20 +17,26 @@ TEST(VensterInstellingen, MatenEnMappenKomenTerug) {
   {
     VensterInstellingen instellingen(PadVanQt(map.path()));
     EXPECT_FALSE(instellingen.Maat("ToonTekst"));
+    EXPECT_FALSE(instellingen.IsVol("MenuWindow"));
     instellingen.BewaarMaat("ToonTekst", {800, 600});
+    instellingen.BewaarVol("MenuWindow", true);
     instellingen.BewaarLaatsteMap("a|*.a", "/ergens");
   }
   EXPECT_TRUE(QFile::exists(map.filePath("lb77-venster.ini")));
   const VensterInstellingen later(PadVanQt(map.path()));
   EXPECT_EQ(later.Maat("ToonTekst"), QSize(800, 600));
+  EXPECT_TRUE(later.IsVol("MenuWindow"));
+  EXPECT_FALSE(later.IsVol("ToonTekst"));
   EXPECT_EQ(later.LaatsteMap("a|*.a"), QString("/ergens"));
 }
 
 TEST(VensterInstellingen, ZonderMapWordtNietsBewaard) {
   VensterInstellingen instellingen({});
   instellingen.BewaarMaat("ToonTekst", {800, 600});
+  instellingen.BewaarVol("ToonTekst", true);
   instellingen.BewaarLaatsteMap("a", "/ergens");
   EXPECT_FALSE(instellingen.Maat("ToonTekst"));
+  EXPECT_FALSE(instellingen.IsVol("ToonTekst"));
   EXPECT_EQ(instellingen.LaatsteMap("a"), QString());
 }
 

@@ -14,7 +14,7 @@ std::vector<Indeling> Veiligheid() {
                           Knoppen({"OKButton", "BackButton"}),
                       })},
       {"KopieTerugzetten", Kolom({
-                               Velden({"KopieLijst"}),
+                               Velden({"KopieLijst", "TellingLabel"}),
                                Knoppen({"OKButton", "BackButton"}),
                            })},
   };
