@@ -165,7 +165,8 @@ void AsciiSchrijver::Opmerkingen(const Eigenaar& eigenaar, std::span<const std::
     tweede_ += inhoud.over;
     std::int32_t nr = 0;
     for (const std::string& tekst : inhoud.regels) {
-      const std::string regel = kop + Cijfers(GetalTekst(++nr)) + tekst;
+      std::string regel = kop;
+      regel.append(Cijfers(GetalTekst(++nr))).append(tekst);
       if (BegintMet(tekst, kKetenfout)) {
         bronnen_.log.Regel(
             regel + " (opm-reeks start bij opm-record: " + GetalTekst(eigenaar.opmRecord) + ")");

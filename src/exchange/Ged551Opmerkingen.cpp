@@ -35,7 +35,7 @@ bool Ged551Opmerkingen::IsVanAnder(std::int16_t nr, Ged551Eigenaar wie) {
 
 // Each owner once, and each remark once: it names one owner.
 void Ged551Opmerkingen::VolgEigen(Ged551Eigenaar wie) {
-  if (!gevolgd_.insert(wie).second) return;
+  if (!gevolgd_.emplace(wie.persoon, wie.nr).second) return;
   PersoonLB77& persoon = gegevens_.persoon;
   RelatieLB77& relatie = gegevens_.relatie;
   const bool isEr = wie.persoon ? persoon.Lees(wie.nr) && !persoon.IsVolgRecord()

@@ -1,10 +1,10 @@
 // The remarks of one owner, whole and each with its rubric.
 #pragma once
 
-#include <compare>
 #include <cstdint>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "store/Gegevens.h"
@@ -23,7 +23,7 @@ struct Ged551Opmerking {
 struct Ged551Eigenaar {
   bool persoon = true;
   std::int16_t nr = 0;
-  auto operator<=>(const Ged551Eigenaar&) const = default;
+  bool operator==(const Ged551Eigenaar&) const = default;
 };
 
 // Goes along chains. Each record of the file is told once, so that a run over all owners ends in
@@ -53,8 +53,8 @@ class Ged551Opmerkingen {
   Gegevens gegevens_;
   OpmLB77& opmerking_;
   std::vector<bool> verteld_;
-  std::vector<bool> eigen_;           // that the owners of whom was doubt have in their own chain
-  std::set<Ged551Eigenaar> gevolgd_;  // those owners
+  std::vector<bool> eigen_;  // that the owners of whom was doubt have in their own chain
+  std::set<std::pair<bool, std::int16_t>> gevolgd_;  // those owners
   int verloren_ = 0;
 };
 

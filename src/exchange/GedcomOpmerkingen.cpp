@@ -23,8 +23,8 @@ void GedcomOpmerkingen::SchrijfOpmRegels(int niveau, std::int16_t rubriek) {
   for (const std::string& tekst : inhoud.regels) {
     // kept: also a remark that begins so by itself.
     if (tekst.starts_with(">> ")) {
-      log_.Regel(begin + id_ + " " + tekst +
-                 " (opm-reeks start bij opm-record: " + GetalTekst(opmRecord_) + ")");
+      begin.append(id_).append(" ").append(tekst);
+      log_.Regel(begin + " (opm-reeks start bij opm-record: " + GetalTekst(opmRecord_) + ")");
       return;
     }
     uit_.Regel(begin + GedcomTekst(tekst));
