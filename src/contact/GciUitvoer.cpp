@@ -162,6 +162,7 @@ std::string LogTekst(const GciVerslag& verslag, const GciPaden& paden) {
   Logregels log;
   log.Voeg("Log-file: " + PadTekst(paden.log));
   log.Voeg("Start export (" + Datumtijd(verslag.begin) + ")");
+  if (!verslag.gestopt.empty()) log.Voeg("LET OP: " + verslag.gestopt);
   VoegOvergeslagen(log, verslag);
   if (!verslag.reden.empty()) {
     log.VoegMelding(verslag.reden);

@@ -58,7 +58,8 @@ struct GciVerslag {
   std::vector<std::string> namen;  // left out
   std::vector<std::string> plaatsen;
   std::size_t reeksen = 0;
-  std::string reden;  // why there are no files, in one or more lines; empty when there are
+  std::string reden;      // why there are no files, in one or more lines; empty when there are
+  std::string gestopt{};  // where the persons ended before their time; empty when they did not
 };
 
 [[nodiscard]] std::string LogTekst(const GciVerslag& verslag, const GciPaden& paden);

@@ -76,7 +76,9 @@ TEST_F(OpdrachtenToets, EenBestandDatGeenGedcomIsEindigtMetEenEnZijnVerslag) {
   SchrijfBytes(argumenten.bestand, "Beste Jan,\n");
   EXPECT_EQ(Doe("importeer", argumenten), 1);
   EXPECT_NE(fout_.find("Het bestand is niet ingelezen\n"), std::string::npos);
-  EXPECT_EQ(uit_, "Importeren voltooid\n");
+  EXPECT_EQ(uit_,
+            "LET OP: gestopt bij regel 1: Fout: Header van GEDCOM-bestand niet gevonden\n"
+            "Importeren voltooid\n");
 }
 
 TEST_F(OpdrachtenToets, HetVerslagIsUtf8MetGewoneRegeleinden) {

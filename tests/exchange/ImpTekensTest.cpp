@@ -54,17 +54,21 @@ TEST_F(ImpTekensTest, NamenDieVervormdZijnOpgeslagenStaanInHetVerslagEnDeRest) {
       0 @I2@ INDI
       1 NAME Žofie /Škoda/
       1 OCCU kožešník
+      0 @I3@ INDI
+      1 NAME Jan /þ Vos/
+      2 SPFX þ
     )"));
   EXPECT_EQ(Persoon(2), "voor Bo?ena; achter Smit; seks V");
   EXPECT_EQ(Persoon(3), "voor Zofie; achter Skoda; beroep ko?esn\xEDk");
   EXPECT_EQ(LogRegels(),
             "LET OP: naam overschreven door een latere: 1 keer, voor het eerst in regel 7\n"
             "LET OP: teken U+00F0 niet overgenomen: 1 keer, voor het eerst in regel 4\n"
-            "LET OP: teken U+00FE niet overgenomen: 1 keer, voor het eerst in regel 6\n"
+            "LET OP: teken U+00FE niet overgenomen: 3 keer, voor het eerst in regel 6\n"
             "LET OP: teken U+017E niet overgenomen: 3 keer, voor het eerst in regel 4\n");
   EXPECT_EQ(Kern(),
             "0 @I1@ INDI\n1 REFN 2\n1 NAME Božena /Guðrúnsdóttir/\n2 GIVN Božena\n2 SPFX þor\n"
-            "0 @I2@ INDI\n1 REFN 3\n1 OCCU kožešník\n");
+            "0 @I2@ INDI\n1 REFN 3\n1 OCCU kožešník\n"
+            "0 @I3@ INDI\n1 REFN 4\n1 NAME Jan /þ Vos/\n2 SPFX þ\n");
 }
 
 TEST_F(ImpTekensTest, OokInPlaatsenReligiesEnOpmerkingen) {
