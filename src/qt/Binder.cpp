@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QScopedValueRollback>
 #include <QScreen>
-#include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -13,6 +12,7 @@
 #include "qt/Dialoog.h"
 #include "qt/Hoofdvenster.h"
 #include "qt/Indelingskeuze.h"
+#include "qt/Inpassen.h"
 #include "qt/Opmaker.h"
 #include "qt/Stijl.h"
 #include "qt/Vertaling.h"
@@ -101,7 +101,7 @@ void Binder::MaakElementen(QWidget& inhoud) {
   kolom->setContentsMargins(kRand, kRand, kRand, kRand);
   Opmaker opmaker(formulier_, inhoud,
                   [this](const Bediening& een) -> Element& { return *elementen_.at(&een); });
-  opmaker.Maak(IndelingVoor(formulier_), *kolom);
+  voet_ = opmaker.Maak(IndelingVoor(formulier_), *kolom);
   if (hoofd_) kolom->addStretch(1);
   MaakBeginblad(inhoud);
   for (auto& [bediening, element] : elementen_) Luister(*element);
@@ -123,24 +123,12 @@ QSize Binder::Ruimte() const {
   return (scherm ? scherm->availableSize() : kKleinsteScherm) - kKader;
 }
 
-// A form that is larger than a small screen gets scroll bars.
+// The title can be read as well.
 void Binder::PasIn() {
   const QSize ruimte = Ruimte();
-  QLayout& rand = *venster_->layout();
-  QWidget* inhoud = rand.itemAt(0)->widget();
-  const QSize nodig = inhoud->minimumSizeHint();
-  if (nodig.width() > ruimte.width() || nodig.height() > ruimte.height()) {
-    auto* rol = new QScrollArea(venster_.get());
-    rol->setFrameShape(QFrame::NoFrame);
-    rol->setWidgetResizable(true);
-    rol->setFocusPolicy(Qt::NoFocus);
-    delete rand.replaceWidget(inhoud, rol);
-    rol->setWidget(inhoud);
-  }
-  // The title can be read as well.
   const int titel = TekenBreedte(*venster_, static_cast<int>(formulier_.Titel().size()));
-  const QSize maat = inhoud->sizeHint().expandedTo({titel + kTitelknoppen, 0});
-  venster_->resize(maat.boundedTo(ruimte));
+  const QSize maat = lb77::PasIn(*venster_, voet_, ruimte, kRand);
+  venster_->resize(maat.expandedTo({titel + kTitelknoppen, 0}).boundedTo(ruimte));
 }
 
 Element* Binder::ElementVan(const QObject* waar) const {

@@ -1,6 +1,7 @@
 // Turns any form into a window.
 #pragma once
 
+#include <QBoxLayout>
 #include <QEventLoop>
 #include <QObject>
 #include <QSize>
@@ -97,6 +98,7 @@ class Binder final : public QObject, private Bezorger, private Vensterhouder {
   VensterInstellingen& instellingen_;
   std::unique_ptr<QWidget> venster_;
   Hoofdvenster* hoofd_ = nullptr;
+  QBoxLayout* voet_ = nullptr;  // the row of buttons at the bottom, if it has one
   std::map<const Bediening*, std::unique_ptr<Element>> elementen_;
   std::map<const QObject*, Element*> bronnen_;
   const Bediening* gevolgd_ = nullptr;  // whom the focus last followed

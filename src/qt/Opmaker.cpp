@@ -51,10 +51,15 @@ Opmaker::Opmaker(const Formulier& formulier, QWidget& ouder,
                  std::function<Element&(const Bediening&)> element)
     : formulier_(formulier), ouder_(ouder), element_(std::move(element)) {}
 
-void Opmaker::Maak(const Blok& blok, QBoxLayout& in) {
+QBoxLayout* Opmaker::Maak(const Blok& blok, QBoxLayout& in) {
   Plaats(blok, in);
   LijnAllesUit();
   MaakLeesnamenUniek(formulier_);
+  const bool knoppen = blok.soort == Blok::Soort::Kolom && !blok.delen.empty() &&
+                       blok.delen.back().soort == Blok::Soort::Knoppen;
+  if (!knoppen) return nullptr;
+  const QLayout* kolom = in.itemAt(in.count() - 1)->layout();
+  return static_cast<QBoxLayout*>(kolom->itemAt(kolom->count() - 1)->layout());
 }
 
 void Opmaker::Plaats(const Blok& blok, QBoxLayout& in) {

@@ -21,8 +21,8 @@ class Opmaker {
   Opmaker(const Formulier& formulier, QWidget& ouder,
           std::function<Element&(const Bediening&)> element);
 
-  // Makes the whole layout of the window's contents.
-  void Maak(const Blok& blok, QBoxLayout& in);
+  // Makes the whole layout of the window's contents. The row of buttons that it ends in, or null.
+  QBoxLayout* Maak(const Blok& blok, QBoxLayout& in);
 
  private:
   void Plaats(const Blok& blok, QBoxLayout& in);

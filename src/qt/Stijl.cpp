@@ -29,6 +29,16 @@ class Huisstijl final : public QProxyStyle {
     if (vraag == SH_Menu_AllowActiveAndDisabled) return 1;
     return QProxyStyle::styleHint(vraag, keuze, widget, uit);
   }
+
+  // What is ticked grows with the letters beside it.
+  int pixelMetric(PixelMetric maat, const QStyleOption* keuze,
+                  const QWidget* widget) const override {
+    const int gewoon = QProxyStyle::pixelMetric(maat, keuze, widget);
+    const bool hokje = maat == PM_IndicatorWidth || maat == PM_IndicatorHeight ||
+                       maat == PM_ExclusiveIndicatorWidth || maat == PM_ExclusiveIndicatorHeight;
+    if (!hokje || !widget) return gewoon;
+    return std::max(gewoon, widget->fontMetrics().ascent());
+  }
 };
 
 // What is disabled must still be read: half-way between the letters and their ground is too faint.

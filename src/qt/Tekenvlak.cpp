@@ -194,7 +194,7 @@ void Tekenvlak::paintEvent(QPaintEvent*) {
     TekenIn(verf, *beeld_, deel);
     if (gekozen_ >= 0) {
       const Doel& doel = beeld_->doelen[static_cast<std::size_t>(gekozen_)];
-      QPen pen(palette().color(QPalette::Text), 3);
+      QPen pen(Qt::black, 3);  // the paper is white, whatever the colours of the system
       pen.setCosmetic(true);
       verf.setPen(pen);
       verf.setBrush(Qt::NoBrush);

@@ -9,10 +9,12 @@
 #include <QListWidget>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <string_view>
 #include <tuple>
 
 #include "Programmaproef.h"
 #include "qt/Binder.h"
+#include "qt/Indelingskeuze.h"
 #include "qt/Vertaling.h"
 
 namespace lb77 {
@@ -38,6 +40,12 @@ class Letterproef : public Programmaproef {
 class LeesbaarTest : public Letterproef, public testing::WithParamInterface<Geval> {
  protected:
   void SetUp() override { Begin(std::get<1>(GetParam())); }
+
+  // With the largest letters the forms with most in them may be wider than the smallest screen.
+  bool MoetInDeBreedtePassen() const {
+    const std::string_view naam = std::get<0>(GetParam()).naam;
+    return std::get<1>(GetParam()) == 11 || naam == "Welkom" || naam == "WijzigPersoon";
+  }
 };
 
 // What a text asks at least.
@@ -82,6 +90,24 @@ void VerwachtTekstHeel(QWidget& venster) {
   }
 }
 
+// What a window is left by is never to be looked for.
+void VerwachtUitgangInZicht(const QWidget& venster) {
+  for (const char* naam : {"OKButton", "BackButton"}) {
+    const auto* knop = venster.findChild<QAbstractButton*>(QLatin1String(naam));
+    if (!knop || !knop->isVisible()) continue;
+    const QRect plek(knop->mapTo(&venster, QPoint()), knop->size());
+    EXPECT_TRUE(venster.rect().contains(plek)) << naam;
+    EXPECT_TRUE(knop->visibleRegion().contains(knop->rect())) << naam;
+  }
+}
+
+bool RoltOpzij(const QWidget& venster) {
+  for (const QScrollArea* rol : venster.findChildren<QScrollArea*>()) {
+    if (rol->horizontalScrollBar()->maximum() > 0) return true;
+  }
+  return false;
+}
+
 TEST_P(LeesbaarTest, GeenTekstIsAfgesneden) {
   GemaaktFormulier gemaakt = Maak(std::get<0>(GetParam()));
   ASSERT_TRUE(gemaakt.formulier->Laad());
@@ -93,6 +119,10 @@ TEST_P(LeesbaarTest, GeenTekstIsAfgesneden) {
     EXPECT_LE(venster.width(), scherm.width());
     EXPECT_LE(venster.height(), scherm.height());
     VerwachtTekstHeel(venster);
+    VerwachtUitgangInZicht(venster);
+    if (MoetInDeBreedtePassen()) {
+      EXPECT_FALSE(RoltOpzij(venster));
+    }
     Bewaar(venster, gemaakt.formulier->Naam() + "-" + std::to_string(std::get<1>(GetParam())));
     Toets(Qt::Key_Escape);
   });
@@ -126,6 +156,15 @@ TEST_P(HoofdschermLeesbaarTest, HetHoofdschermPastEnIsHeelTeLezen) {
          EXPECT_EQ(venster.findChild<QWidget*>("NieuweFamilie")->isVisible(), !metSet);
          Bewaar(venster,
                 std::string("MenuWindow-") + (metSet ? "set-" : "leeg-") + std::to_string(punten));
+         // It stays on the screen when it goes from the one state to the other.
+         for (Bediening* een : menu.Bedieningen()) {
+           if (InIndeling(*een)) een->ZetZichtbaar(true);
+         }
+         QTest::qWait(60);  // a repaint for each
+         gesprek.Ververs(menu);
+         QTest::qWait(20);
+         EXPECT_TRUE(venster.findChild<QWidget*>("NieuweFamilie")->isVisible());
+         EXPECT_LE(venster.frameGeometry().width(), scherm.width());
          venster.close();
        }});
 }

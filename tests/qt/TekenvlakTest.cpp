@@ -177,6 +177,18 @@ TEST_F(TekenvlakTest, HetSchermToontDeVormen) {
   EXPECT_TRUE(zwart);
 }
 
+TEST_F(TekenvlakTest, WieGekozenIsHeeftOokInHetDonkerEenDonkereRand) {
+  Bekijk([&] {
+    QPalette donker = Vlak().palette();
+    donker.setColor(QPalette::Text, Qt::white);
+    Vlak().setPalette(donker);
+    vorm.Beeld.ZetIndex(0);
+    Vlak().ZetGekozen(0);
+    const QImage scherm = Vlak().grab().toImage();
+    EXPECT_LT(scherm.pixelColor(Plek(10, 50)).lightness(), 60);
+  });
+}
+
 TEST_F(TekenvlakTest, EenPdfHeeftEenBladzijdePerVel) {
   const QString pad = map_.filePath(QStringLiteral("vellen.pdf"));
   Vellen vellen{300, 200, 1, 2, 1, 20, {}};

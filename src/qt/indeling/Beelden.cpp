@@ -1,13 +1,16 @@
 // The pictures of the family.
+#include <utility>
+
 #include "qt/indeling/Indelingen.h"
 
 namespace lb77::indeling {
 
 namespace {
 
-Blok Beeld() {
+// The choices of a kind of picture, above it.
+Blok Beeld(std::vector<Blok> keuzen) {
   return Kolom({
-      Velden({Rij({"GeneratiesBox", "VormBox", "KleurBox"}), Rij({"NummerBox", "OokJaarBox"})}),
+      Velden(std::move(keuzen)),
       "Beeld",
       Velden({Rij({"PapierBox", "StandBox", "VerdeelBox"}), "VellenLabel"}),
       Knoppen({"KaartButton"}, {"OKButton", "BackButton"}),
@@ -17,13 +20,17 @@ Blok Beeld() {
 }  // namespace
 
 std::vector<Indeling> Beelden() {
+  const Blok nummers = Rij({"NummerBox", "OokJaarBox"});
+  const std::vector<Blok> bomen{Rij({"GeneratiesBox", "VormBox", "KleurBox"}), nummers};
+  // Bars have a colour only: the rest of the choices is not in sight.
+  const std::vector<Blok> staven{Rij({"KleurBox", "GeneratiesBox", "VormBox"}), nummers};
   return {
       {"WaaierPrs", PersoonPrompt()},
-      {"WaaierBeeld", Beeld()},
+      {"WaaierBeeld", Beeld(bomen)},
       {"KwartierPrs", PersoonPrompt()},
-      {"KwartierBeeld", Beeld()},
+      {"KwartierBeeld", Beeld(bomen)},
       {"StamPrs", PersoonPrompt()},
-      {"StamBeeld", Beeld()},
+      {"StamBeeld", Beeld(bomen)},
       {"TijdPrs", PersoonPrompt()},
       {"TijdBereken",
        Kolom({
@@ -32,7 +39,7 @@ std::vector<Indeling> Beelden() {
            Velden({"GeduldLabel", "MaximumLabel"}),
            Knoppen({"OKButton", "BackButton"}),
        })},
-      {"TijdBeeld", Beeld()},
+      {"TijdBeeld", Beeld(staven)},
   };
 }
 

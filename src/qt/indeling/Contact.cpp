@@ -18,12 +18,12 @@ Blok Keuzen() {
 Blok Voortgang() {
   return Kolom({
       Velden({
-          Rij({"Pass1Label", "Pass1box"}),
-          Rij({"Pass2Label", "Pass2box"}),
-          Rij({"Pass3Label", "Pass3box"}),
-          Rij({"Pass4Label", "Pass4box"}),
-          Rij({"Pass5Label", "Pass5box"}),
-          Rij({"Pass6Label", "Pass6box"}),
+          Rij({"Pass1box", "Pass1Label"}),
+          Rij({"Pass2box", "Pass2Label"}),
+          Rij({"Pass3box", "Pass3Label"}),
+          Rij({"Pass4box", "Pass4Label"}),
+          Rij({"Pass5box", "Pass5Label"}),
+          Rij({"Pass6box", "Pass6Label"}),
       }),
       Groep("Gedaan", {Velden({
                           Rij({"PlaatsenGedaan", "PersonenGedaan"}),

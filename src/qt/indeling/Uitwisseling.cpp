@@ -66,15 +66,16 @@ std::vector<Indeling> Uitwisseling() {
                          Knoppen({"OKButton", "BackButton"}),
                      })},
       {"ExpSelRel", SelecteerRelaties()},
-      {"ExpMaakLyst", Kolom({
-                          "SchrijfLabel",
-                          Velden({
-                              Rij({"PersonenLabel", "Personen", "PersNrLabel", "PersoonsNr"}),
-                              Rij({"RelatiesLabel", "Relaties", "RelNrLabel", "RelatieNr"}),
-                          }),
-                          "GeduldLabel",
-                          Knoppen({"OKButton", "BackButton"}),
-                      })},
+      {"ExpMaakLyst",
+       Kolom({
+           "SchrijfLabel",
+           Rooster({
+               Rij({Rij({"PersonenLabel", "Personen"}), Rij({"PersNrLabel", "PersoonsNr"})}),
+               Rij({Rij({"RelatiesLabel", "Relaties"}), Rij({"RelNrLabel", "RelatieNr"})}),
+           }),
+           "GeduldLabel",
+           Knoppen({"OKButton", "BackButton"}),
+       })},
       {"ExpDumpPers", Dump("PersonenGedaan")},
       {"ExpDumpRel", Dump("RelatiesGedaan")},
       {"ExpDumpPlts", Dump("PlaatsenGedaan")},
@@ -84,9 +85,9 @@ std::vector<Indeling> Uitwisseling() {
                         "DoelLabel",
                         "TellingLabel",
                         Groep("Voortgang", {Velden({
-                                               Rij({"Pass1Label", "Pass1box"}),
-                                               Rij({"Pass2Label", "Pass2box"}),
-                                               Rij({"Pass3Label", "Pass3box"}),
+                                               Rij({"Pass1box", "Pass1Label"}),
+                                               Rij({"Pass2box", "Pass2Label"}),
+                                               Rij({"Pass3box", "Pass3Label"}),
                                            })}),
                         Groep("Gelezen", {Velden({
                                              Rij({"RegelNr", "AantalBronnen"}),
