@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <vector>
 
+#include "qt/Inpassen.h"
 #include "qt/Stijl.h"
 
 namespace lb77 {
@@ -53,6 +54,7 @@ void MaakBeginblad(QWidget& inhoud) {
     beleid.setRetainSizeWhenHidden(false);
     deel->setSizePolicy(beleid);
   }
+  MeetOpnieuw(inhoud);
 }
 
 }  // namespace lb77

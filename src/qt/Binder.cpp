@@ -24,6 +24,7 @@ namespace {
 constexpr int kRand = 16;  // pixels around the contents of a window
 constexpr QSize kKleinsteScherm{1024, 768};
 constexpr int kTitelknoppen = 120;  // pixels
+constexpr int kNaastBlad = 48;      // pixels around the page of the main window
 constexpr QSize kKader{16, 48};     // what a frame and a task bar take
 
 // The viewers fill the screen.
@@ -102,7 +103,10 @@ void Binder::MaakElementen(QWidget& inhoud) {
   Opmaker opmaker(formulier_, inhoud,
                   [this](const Bediening& een) -> Element& { return *elementen_.at(&een); });
   voet_ = opmaker.Maak(IndelingVoor(formulier_), *kolom);
-  if (hoofd_) kolom->addStretch(1);
+  if (hoofd_) {
+    kolom->addStretch(1);
+    MaakSmaller(inhoud, Ruimte().width() - kNaastBlad);
+  }
   MaakBeginblad(inhoud);
   for (auto& [bediening, element] : elementen_) Luister(*element);
 }

@@ -44,6 +44,14 @@ void VergeetMaten(QWidget& inhoud) {
   inhoud.layout()->invalidate();
 }
 
+// The layouts within it too, which the toolkit forgets.
+void Vergeet(QLayout& layout) {
+  for (int i = 0; i < layout.count(); ++i) {
+    if (QLayout* deel = layout.itemAt(i)->layout()) Vergeet(*deel);
+  }
+  layout.invalidate();
+}
+
 // Fields scroll in themselves, so that they can do with less room than their text asks.
 void MaakAllesSmaller(QWidget& inhoud) {
   for (QLineEdit* veld : inhoud.findChildren<QLineEdit*>()) {
@@ -88,6 +96,16 @@ void LaatRollen(QWidget& venster, QWidget& inhoud, QBoxLayout* voet, int rand) {
 }
 
 }  // namespace
+
+void MaakSmaller(QWidget& inhoud, int breedte) {
+  if (inhoud.minimumSizeHint().width() <= breedte) return;
+  MaakAllesSmaller(inhoud);
+  MeetOpnieuw(inhoud);
+}
+
+void MeetOpnieuw(QWidget& inhoud) {
+  Vergeet(*inhoud.layout());
+}
 
 QSize PasIn(QWidget& venster, QBoxLayout* voet, QSize ruimte, int rand) {
   QWidget& inhoud = *venster.layout()->itemAt(0)->widget();

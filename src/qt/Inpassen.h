@@ -12,4 +12,10 @@ namespace lb77 {
 // size that the window asks, scroll bars included; it may be larger than `ruimte`.
 [[nodiscard]] QSize PasIn(QWidget& venster, QBoxLayout* voet, QSize ruimte, int rand);
 
+// Contents that cannot scroll give way when they ask more than `breedte`, also with what is hidden now:
+// words wrap, fields get narrower.
+void MaakSmaller(QWidget& inhoud, int breedte);
+// Forgets what was measured before something in it came to ask another size.
+void MeetOpnieuw(QWidget& inhoud);
+
 }  // namespace lb77

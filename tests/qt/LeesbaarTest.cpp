@@ -14,6 +14,7 @@
 
 #include "Programmaproef.h"
 #include "qt/Binder.h"
+#include "qt/Indelingskeuze.h"
 #include "qt/Vertaling.h"
 
 namespace lb77 {
@@ -32,12 +33,6 @@ class Letterproef : public Programmaproef {
   }
   void TearDown() override { QApplication::setFont(vorige_); }
 
-  // With the largest letters the forms with most in them may be wider than the smallest screen.
-  bool MoetInDeBreedtePassen() const {
-    const std::string_view naam = std::get<0>(GetParam()).naam;
-    return std::get<1>(GetParam()) == 11 || naam == "Welkom" || naam == "WijzigPersoon";
-  }
-
   QFont vorige_ = QApplication::font();
   VensterInstellingen instellingen_{{}};
 };
@@ -45,6 +40,12 @@ class Letterproef : public Programmaproef {
 class LeesbaarTest : public Letterproef, public testing::WithParamInterface<Geval> {
  protected:
   void SetUp() override { Begin(std::get<1>(GetParam())); }
+
+  // With the largest letters the forms with most in them may be wider than the smallest screen.
+  bool MoetInDeBreedtePassen() const {
+    const std::string_view naam = std::get<0>(GetParam()).naam;
+    return std::get<1>(GetParam()) == 11 || naam == "Welkom" || naam == "WijzigPersoon";
+  }
 };
 
 // What a text asks at least.
@@ -155,6 +156,15 @@ TEST_P(HoofdschermLeesbaarTest, HetHoofdschermPastEnIsHeelTeLezen) {
          EXPECT_EQ(venster.findChild<QWidget*>("NieuweFamilie")->isVisible(), !metSet);
          Bewaar(venster,
                 std::string("MenuWindow-") + (metSet ? "set-" : "leeg-") + std::to_string(punten));
+         // It stays on the screen when it goes from the one state to the other.
+         for (Bediening* een : menu.Bedieningen()) {
+           if (InIndeling(*een)) een->ZetZichtbaar(true);
+         }
+         QTest::qWait(60);  // a repaint for each
+         gesprek.Ververs(menu);
+         QTest::qWait(20);
+         EXPECT_TRUE(venster.findChild<QWidget*>("NieuweFamilie")->isVisible());
+         EXPECT_LE(venster.frameGeometry().width(), scherm.width());
          venster.close();
        }});
 }
