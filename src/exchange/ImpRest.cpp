@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "app/HeelBestand.h"
-#include "exchange/StroomFout.h"
+#include "store/StroomFout.h"
 #include "text/Bestandstekst.h"
 #include "text/Getallen.h"
 
@@ -129,7 +129,7 @@ void ImpRest::ZetOpen() {
   errno = 0;
   bestand_.open(bezig_, std::ios::binary | std::ios::trunc);
   if (!bestand_) {
-    fout_ = StroomFout(bezig_);
+    fout_ = FoutVanStroom(bezig_);
     return;
   }
   SchrijfRegel("0 HEAD");
@@ -146,7 +146,7 @@ void ImpRest::SchrijfRegel(std::string_view utf8) {
   errno = 0;
   bestand_.write(utf8.data(), static_cast<std::streamsize>(utf8.size()));
   bestand_.write("\r\n", 2);
-  if (!bestand_) fout_ = StroomFout();
+  if (!bestand_) fout_ = FoutVanStroom();
 }
 
 SysteemFout ImpRest::Sluit() {
@@ -154,7 +154,7 @@ SysteemFout ImpRest::Sluit() {
     SchrijfRegel("0 TRLR");
     errno = 0;
     bestand_.close();
-    if (!bestand_ && !fout_) fout_ = StroomFout();
+    if (!bestand_ && !fout_) fout_ = FoutVanStroom();
     if (!fout_ && aantal_ > 0) fout_ = Bestandswerk().Hernoem(bezig_, pad_);
     if (fout_ || aantal_ == 0) Weg();
   }

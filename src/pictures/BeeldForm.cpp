@@ -1,6 +1,7 @@
 #include "pictures/BeeldForm.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <fstream>
 #include <utility>
 
@@ -8,6 +9,7 @@
 #include "forms/Toets.h"
 #include "output/Tekstpaginas.h"
 #include "pictures/SvgSchrijver.h"
+#include "store/StroomFout.h"
 #include "text/Getallen.h"
 #include "text/Letterlijk.h"
 #include "text/Pad.h"
@@ -173,12 +175,13 @@ std::filesystem::path BeeldForm::Pad() const {
 }
 
 bool BeeldForm::MaakBestand() {
+  errno = 0;
   std::ofstream uit(Pad(), std::ios::binary);
   uit << SvgVan(Beeld.Beeld());
   uit.close();
   if (uit) return true;
   Hoofd().gesprek.Fout("Fout bij het schrijven van " + PadTekst(Pad()) + "\n" +
-                       FoutVanStroom().tekst);
+                       FoutVanStroom(Pad()).tekst);
   return false;
 }
 
