@@ -6,8 +6,9 @@
 #include <system_error>
 #include <utility>
 
+#include "app/HeelBestand.h"
 #include "exchange/OpmTags.h"
-#include "exchange/StroomFout.h"
+#include "store/StroomFout.h"
 #include "text/Bestandstekst.h"
 #include "text/Getallen.h"
 
@@ -143,7 +144,7 @@ void ImpRest::ZetOpen() {
   errno = 0;
   bestand_.open(bezig_, std::ios::binary | std::ios::trunc);
   if (!bestand_) {
-    fout_ = StroomFout(bezig_);
+    fout_ = FoutVanStroom(bezig_);
     return;
   }
   SchrijfRegel("0 HEAD");
@@ -160,7 +161,7 @@ void ImpRest::SchrijfRegel(std::string_view utf8) {
   errno = 0;
   bestand_.write(utf8.data(), static_cast<std::streamsize>(utf8.size()));
   bestand_.write("\r\n", 2);
-  if (!bestand_) fout_ = StroomFout();
+  if (!bestand_) fout_ = FoutVanStroom();
 }
 
 SysteemFout ImpRest::Sluit(Bestandswerk& werk) {
@@ -168,7 +169,7 @@ SysteemFout ImpRest::Sluit(Bestandswerk& werk) {
     SchrijfRegel("0 TRLR");
     errno = 0;
     bestand_.close();
-    if (!bestand_ && !fout_) fout_ = StroomFout();
+    if (!bestand_ && !fout_) fout_ = FoutVanStroom();
     // Otherwise a power cut may leave the name without the bytes.
     if (!fout_ && aantal_ > 0) fout_ = werk.Veiligstellen(bezig_);
     if (!fout_ && aantal_ > 0) fout_ = werk.Hernoem(bezig_, pad_);

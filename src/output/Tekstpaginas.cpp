@@ -11,6 +11,7 @@
 
 #include "output/Regelstroom.h"
 #include "store/PlatformNamen.h"
+#include "store/StroomFout.h"
 #include "text/Getallen.h"
 #include "text/Unicode.h"
 #include "text/Utf8.h"
@@ -203,7 +204,7 @@ SysteemFout SchrijfKopie(const std::filesystem::path& van, const std::filesystem
   if (!stroom.Open(van)) return stroom.Fout();
   errno = 0;
   std::ofstream uit(naar, std::ios::binary | std::ios::trunc);
-  if (!uit) return FoutVanStroom();
+  if (!uit) return FoutVanStroom(naar);
   while (uit && stroom.VolgendeRegel()) {
     // No read behind a write that failed: it would hide why.
     std::string_view stuk = stroom.Stuk();

@@ -1,6 +1,7 @@
 #include "pictures/BeeldForm.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cmath>
 #include <fstream>
 #include <utility>
@@ -10,6 +11,7 @@
 #include "output/TekstOpslaan.h"
 #include "output/Tekstpaginas.h"
 #include "pictures/SvgSchrijver.h"
+#include "store/StroomFout.h"
 #include "text/Getallen.h"
 #include "text/Letterlijk.h"
 #include "text/Pad.h"
@@ -191,12 +193,13 @@ std::filesystem::path BeeldForm::Pad() const {
 }
 
 bool BeeldForm::MaakBestand() {
+  errno = 0;
   std::ofstream uit(Pad(), std::ios::binary);
   uit << SvgVan(Beeld.Beeld());
   uit.close();
   if (uit) return true;
   Hoofd().gesprek.Fout("Fout bij het schrijven van " + PadTekst(Pad()) + "\n" +
-                       FoutVanStroom().tekst);
+                       FoutVanStroom(Pad()).tekst);
   return false;
 }
 

@@ -169,11 +169,13 @@ std::uint64_t Bestandsgreep::Lengte() const {
   return static_cast<std::uint64_t>(lengte.QuadPart);
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): it changes the file
 SysteemFout Bestandsgreep::Veiligstellen() {
   if (!IsOpen()) return FoutNietOpen();
   return FlushFileBuffers(Systeem(greep_)) ? SysteemFout{} : LaatsteFout();
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): it changes the file
 SysteemFout Bestandsgreep::Kap(std::uint64_t lengte) {
   if (!IsOpen()) return FoutNietOpen();
   LARGE_INTEGER plek{};

@@ -88,6 +88,7 @@ std::vector<std::string> Opdrachtwoorden(int argc, const char* const* argv) {
   LPWSTR* const woorden = CommandLineToArgvW(GetCommandLineW(), &aantal);
   if (woorden == nullptr) return {argv, argv + argc};
   std::vector<std::string> uit;
+  uit.reserve(static_cast<std::size_t>(aantal));
   for (int i = 0; i < aantal; ++i) uit.push_back(NaarUtf8(woorden[i]));
   LocalFree(woorden);
   return uit;

@@ -42,6 +42,7 @@ class Pakket(unittest.TestCase):
     def test_alles_wat_erbij_hoort_ligt_op_zijn_plaats(self):
         for naam in ("bin/lb77", "bin/lb77-cli", "share/applications/lb77.desktop",
                      "share/icons/hicolor/scalable/apps/lb77.svg",
+                     "share/icons/hicolor/64x64/apps/lb77.png",
                      "share/lb77/voorbeeld/oranje-nassau.ged", "share/lb77/voorbeeld/LIJNBOOM.INI",
                      "share/doc/lb77/copyright", "share/man/man1/lb77.1.gz"):
             self.assertTrue((self.hier / naam).stat().st_size, naam)
