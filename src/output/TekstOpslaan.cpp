@@ -1,8 +1,20 @@
 #include "output/TekstOpslaan.h"
 
+#include <string>
+
 #include "forms/Bureaublad.h"
+#include "text/Pad.h"
 
 namespace lb77 {
+
+std::filesystem::path Opslagnaam(std::string_view titel, std::string_view uitgang) {
+  constexpr std::string_view kVerboden = "/\\:*?\"<>|";
+  std::string naam(titel);
+  for (char& teken : naam) {
+    if (kVerboden.find(teken) != std::string_view::npos) teken = '-';
+  }
+  return PadVan(naam + std::string(uitgang));
+}
 
 bool SlaTekstOp(Gesprek& gesprek, const std::filesystem::path& tekst, const BestandsVraag& vraag,
                 const std::filesystem::path& naam, Tekencode code) {
