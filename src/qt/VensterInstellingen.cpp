@@ -9,6 +9,8 @@ namespace lb77 {
 
 namespace {
 
+constexpr const char* kVergroting = "lezen/vergroting";
+
 QString MaatSleutel(std::string_view formulier) {
   return QStringLiteral("venster/") + NaarQt(formulier);
 }
@@ -36,6 +38,14 @@ std::optional<QSize> VensterInstellingen::Maat(std::string_view formulier) const
 
 void VensterInstellingen::BewaarMaat(std::string_view formulier, QSize maat) {
   if (bestand_) bestand_->setValue(MaatSleutel(formulier), maat);
+}
+
+int VensterInstellingen::Vergroting() const {
+  return bestand_ ? bestand_->value(QLatin1String(kVergroting)).toInt() : 0;
+}
+
+void VensterInstellingen::BewaarVergroting(int punten) {
+  if (bestand_) bestand_->setValue(QLatin1String(kVergroting), punten);
 }
 
 QString VensterInstellingen::LaatsteMap(std::string_view filter) const {

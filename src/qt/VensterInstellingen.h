@@ -1,4 +1,5 @@
-// What the settings file has no key for: window sizes and the directories last used.
+// What the settings file has no key for: window sizes, the letters of the viewer, and the directories
+// last used.
 #pragma once
 
 #include <QSettings>
@@ -19,6 +20,10 @@ class VensterInstellingen {
 
   [[nodiscard]] std::optional<QSize> Maat(std::string_view formulier) const;
   void BewaarMaat(std::string_view formulier, QSize maat);
+
+  // By how many points the letters of the viewer were made larger, or smaller.
+  [[nodiscard]] int Vergroting() const;
+  void BewaarVergroting(int punten);
 
   // The directory that the user last chose a file from for this filter; empty when none.
   [[nodiscard]] QString LaatsteMap(std::string_view filter) const;

@@ -19,11 +19,14 @@ TEST(VensterInstellingen, MatenEnMappenKomenTerug) {
     EXPECT_FALSE(instellingen.Maat("ToonTekst"));
     instellingen.BewaarMaat("ToonTekst", {800, 600});
     instellingen.BewaarLaatsteMap("a|*.a", "/ergens");
+    EXPECT_EQ(instellingen.Vergroting(), 0);
+    instellingen.BewaarVergroting(-2);
   }
   EXPECT_TRUE(QFile::exists(map.filePath("lb77-venster.ini")));
   const VensterInstellingen later(PadVanQt(map.path()));
   EXPECT_EQ(later.Maat("ToonTekst"), QSize(800, 600));
   EXPECT_EQ(later.LaatsteMap("a|*.a"), QString("/ergens"));
+  EXPECT_EQ(later.Vergroting(), -2);
 }
 
 TEST(VensterInstellingen, ZonderMapWordtNietsBewaard) {
