@@ -89,7 +89,7 @@ SysteemFout ExpBestand::Open(const std::filesystem::path& pad) {
 SysteemFout ExpBestand::Toets(const std::filesystem::path& pad) {
   errno = 0;
   const std::fstream bestand(pad, std::ios::binary | std::ios::in | std::ios::out);
-  return bestand ? SysteemFout{} : StroomFout();
+  return bestand ? SysteemFout{} : FoutVanStroom(pad);
 }
 
 SysteemFout ExpBestand::Sluit() {

@@ -7,13 +7,11 @@
 
 namespace lb77 {
 
-// What a name of a file may not hold on every system.
-constexpr std::string_view kVerbodenInNaam = "/\\:*?\"<>|";
-
 std::filesystem::path Opslagnaam(std::string_view titel, std::string_view uitgang) {
+  constexpr std::string_view kVerboden = "/\\:*?\"<>|";
   std::string naam(titel);
   for (char& teken : naam) {
-    if (kVerbodenInNaam.find(teken) != std::string_view::npos) teken = '-';
+    if (kVerboden.find(teken) != std::string_view::npos) teken = '-';
   }
   return PadVan(naam + std::string(uitgang));
 }

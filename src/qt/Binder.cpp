@@ -86,6 +86,7 @@ void Binder::MaakVenster(QWidget* ouder) {
     venster_->resize(maat->expandedTo(nodig).boundedTo(Ruimte()));
   }
   if (hoofd_) hoofd_->ZetPlek();
+  OnthoudVergroting();
 }
 
 void Binder::MaakElementen(QWidget& inhoud) {

@@ -4,9 +4,11 @@
 #include "forms/Hulpgever.h"
 #include "forms/StilGesprek.h"
 #include "steun/NepGesprek.h"
+#include "steun/SpeelToets.h"
 #include "steun/TijdelijkeMap.h"
 #include "steun/Vergelijkbaar.h"
 #include "text/Pad.h"
+#include "text/Unicode.h"
 
 namespace lb77 {
 namespace {
@@ -27,6 +29,7 @@ class Bladeraar final : public Gesprek, public Hulpgever {
   }
   Antwoord Bericht(BerichtSoort, Knoppen, std::string_view tekst) override {
     gemeld.emplace_back(tekst);
+    NoteerGetoond(WindowsNaarUtf8(tekst));
     return Antwoord::OK;
   }
   bool BerichtMetVinkje(std::string_view, std::string_view) override { return false; }

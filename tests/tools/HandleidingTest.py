@@ -186,7 +186,7 @@ class Bladzijde(unittest.TestCase):
         self.assertEqual(set(), (gebruikt | leesmij) - aanwezig)
         self.assertEqual(set(), aanwezig - gebruikt - leesmij)
 
-    @unittest.skipUnless(PAGINA and PAGINA.exists(), "no page was made: pandoc is not there")
+    @unittest.skipUnless(PAGINA and PAGINA.exists(), "no page was made: cmark-gfm is not there")
     def test_de_bladzijde_heeft_haar_plekken_en_beelden(self):
         html = PAGINA.read_text("utf-8")
         plekken = set(re.findall(r'\bid="([^"]+)"', html))
