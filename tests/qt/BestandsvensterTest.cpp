@@ -100,8 +100,9 @@ TEST_F(BestandsvensterTest, OpslaanVoegtDeExtensieVanHetFilterToe) {
 }
 
 TEST_F(BestandsvensterTest, WatAchterEenPuntInDeNaamStaatIsNogGeenExtensie) {
-  EXPECT_EQ(Vraag(BestandsWijze::Opslaan, [this](QFileDialog& v) { Kies(v, "Stamboom W.F. Jansen"); }),
-            Pad("Stamboom W.F. Jansen.GED"));
+  EXPECT_EQ(
+      Vraag(BestandsWijze::Opslaan, [this](QFileDialog& v) { Kies(v, "Stamboom W.F. Jansen"); }),
+      Pad("Stamboom W.F. Jansen.GED"));
   EXPECT_EQ(Vraag(BestandsWijze::Opslaan, [this](QFileDialog& v) { Kies(v, "oma.Ged"); }),
             Pad("oma.Ged"));
   const std::string naam = "Kwartierstaat W.F. Jansen";
