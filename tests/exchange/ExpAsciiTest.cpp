@@ -229,6 +229,45 @@ TEST_F(ExpAsciiTest, EenBestandDatNietKanLaatDeAndereStaan) {
   }
 }
 
+TEST_F(ExpAsciiTest, WieZijnPlaatsNietKanNemenLaatAlleStaan) {
+  MaakFamilie();
+  for (const char* naam : {"PROEF_PRS.TXT", "PROEF_RLT.TXT"}) {
+    SchrijfBytes(TekstMap() / naam, "eerder");
+  }
+  std::filesystem::create_directories(TekstMap() / "PROEF_RLT.TXT.oud" / "vol");
+  Speel(Samen({kKiesAlles, "druk StartExportButton\ndruk BackButton\ndruk BackButton"}),
+        Samen({kGekozen, "! stop \"Pad is een directory\"\n", kResultaat}));
+  EXPECT_EQ(Tekst("PROEF_PRS.TXT") + Tekst("PROEF_RLT.TXT"), "eerdereerder");
+  for (const char* naam : {"PROEF_PRS.TXT.nieuw", "PROEF_RLT.TXT.nieuw", "PROEF_OPM.TXT"}) {
+    EXPECT_FALSE(std::filesystem::exists(TekstMap() / naam)) << naam;
+  }
+  EXPECT_EQ(Tekst("EXPORT.LOG"), "Start export (20000101000000)\r\n");
+}
+
+// The run ends where the log is full: its files are not whole.
+TEST_F(ExpAsciiTest, EenVolVerslagLaatDeVorigeBestandenStaan) {
+  if (!VolleSchijf::kKan) GTEST_SKIP() << VolleSchijf::kWaarom;
+  Reeks(1300);
+  for (std::int16_t nr = 3; nr <= 1300; ++nr) MaakOnleesbaar(BestandSoort::Personen, nr);
+  SchrijfBytes(TekstMap() / "PROEF_PRS.TXT", "eerder");
+  const Taak taak = [](Hoofdmodule& hoofd) {
+    ASSERT_TRUE(Start(hoofd));
+    hoofd.ActieveSetNaam = "PROEF";
+    const VolleSchijf schijf(60000);
+    hoofd.gesprek.Toon<ExpAscii>(hoofd);
+  };
+  Verwacht(
+      "druk KiesPersButton\ndruk OKButton\ndruk StartExportButton\ndruk BackButton\n"
+      "druk BackButton",
+      taak,
+      Samen({"+ ExpAscii \"Exporteer in ASCII formaat\"\n"
+             "+ ExpSelPers \"Exporteer gegevens - Selecteer Personen\"\n- ExpSelPers\n"
+             "! stop \"Fout bij het lezen van Persoonsrecord 3\\nFout van de schijf\"\n"
+             "! stop \"Bestand te groot\"\n",
+             kResultaat, "- ExpAscii\n"}));
+  EXPECT_EQ(Tekst("PROEF_PRS.TXT"), "eerder");
+}
+
 TEST_F(ExpAsciiTest, EenBestandZonderSchrijfrechtBlijft) {
   if (!ZonderRechten::kKan) GTEST_SKIP() << ZonderRechten::kWaarom;
   MaakFamilie();

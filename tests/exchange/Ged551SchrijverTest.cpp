@@ -181,7 +181,9 @@ TEST_F(Ged551SchrijverTest, EenOpmerkingDieEenVreemdeNoemtBlijftInHaarKetting) {
   const std::int16_t jan = set.bouw.Man("", "Jan");
   const std::int16_t piet = set.bouw.Man("", "Piet");
   set.bouw.OpmerkingBijPersoon(jan, persoonrubriek::kAlgemeen, {"van Jan"});
-  for (const int naam : {int{piet}, 99, 1, 0, -5}) {
+  // A continuation record is nobody, whatever it holds.
+  const std::int16_t vervolg = set.bouw.Man("", "", {{"GebCorr", "Z"}, {"OpmRecord", "2"}});
+  for (const int naam : {int{piet}, int{vervolg}, 99, 1, 0, -5}) {
     ASSERT_TRUE(set.Opmerking.Wijzig(2, {{"BijRecord", std::to_string(naam)}}));
     EXPECT_EQ(Persoon(jan), "1 NAME /Jan/\n2 SURN Jan\n1 SEX M\n1 NOTE van Jan\n2 _LBPROG 23\n")
         << naam;
