@@ -83,6 +83,19 @@ TEST_F(ExpGCISchade, EenOnleesbareAchterEenGatIsOokIemand) {
   )");
 }
 
+TEST_F(ExpGCISchade, AchterDeLaatsteLigtNiemand) {
+  for (const char* naam : {"Vos", "Bos"}) {
+    Bouw().Man("Jan", naam, {{"GebPlaats", "2"}, {"GebDatum", "00-00-1800"}});
+  }
+  MaakOnleesbaar(BestandSoort::Personen, 3);
+  Exporteer("druk BackButton", R"(
+    ! stop "Fout bij het lezen van Persoonsrecord 3\nFout van de schijf"
+    ! info "Export voltooid"
+    + ToonTekst "Exporteren - Resultaat"
+    - ToonTekst
+  )");
+}
+
 TEST_F(ExpGCISchade, EenGatAanHetEindeIsHetEinde) {
   Bouw().Man("Jan", "Vos", {{"GebPlaats", "2"}, {"GebDatum", "00-00-1800"}});
   for (int n = 0; n < 2; ++n) Bouw().Man("Jan", "Bos");
