@@ -1,6 +1,6 @@
 # Completion of lb77 for bash.
 _lb77() {
-  local woord=${COMP_WORDS[COMP_CWORD]}
+  local woord=${COMP_WORDS[COMP_CWORD]} soort
   compopt -o filenames 2>/dev/null
   if [ "${COMP_WORDS[COMP_CWORD - 1]}" = --map ]; then
     mapfile -t COMPREPLY < <(compgen -d -- "$woord")
@@ -8,7 +8,7 @@ _lb77() {
     mapfile -t COMPREPLY < <(compgen -W '-h --help --version --map' -- "$woord")
   else
     mapfile -t COMPREPLY < <(
-      compgen -f -X '!*.@(ged|GED|gedcom)' -- "$woord"
+      for soort in ged GED gedcom; do compgen -f -X "!*.$soort" -- "$woord"; done
       compgen -d -- "$woord"
     )
   fi

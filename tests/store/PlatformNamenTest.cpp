@@ -63,6 +63,19 @@ TEST_F(PlatformNamenTest, EenBestandDatEvenOpenIsWordtTochVervangen) {
   EXPECT_EQ(FoutVan(code).nummer, kBestandNietGevonden);
 }
 
+TEST_F(PlatformNamenTest, EenBestandDatEvenOpenIsWordtTochVerwijderd) {
+  SchrijfBytes(map / "d/oud", "oud");
+  std::ifstream lezer(map / "d/oud");
+  std::thread gaat([&lezer] {
+    std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    lezer.close();
+  });
+  VerwijderMapVanSchijf(map / "d", code);
+  gaat.join();
+  EXPECT_FALSE(code) << code.message();
+  EXPECT_FALSE(fs::exists(map / "d"));
+}
+
 TEST_F(PlatformNamenTest, EenBestandDatAlleenTeLezenIsWordtOokVerwijderd) {
   MaakVast(map / "vast");
   EXPECT_TRUE(VerwijderVanSchijf(map / "vast", code));
