@@ -96,12 +96,14 @@ function(lb77_map naam)
   endif()
 endfunction()
 
-# lb77_toets(NAAM BRONNEN a.cpp POSIX b.cpp GEBRUIKT text script): one test program a folder. Those
-# behind POSIX make the system fail in ways that only such a system has.
+# lb77_toets(NAAM BRONNEN a.cpp POSIX b.cpp WINDOWS c.cpp GEBRUIKT text script): one test program a
+# folder. Those behind POSIX and WINDOWS ask of the system what only such a system has.
 function(lb77_toets naam)
-  cmake_parse_arguments(M "" "" "BRONNEN;POSIX;GEBRUIKT" ${ARGN})
+  cmake_parse_arguments(M "" "" "BRONNEN;POSIX;WINDOWS;GEBRUIKT" ${ARGN})
   if(UNIX)
     list(APPEND M_BRONNEN ${M_POSIX})
+  elseif(WIN32)
+    list(APPEND M_BRONNEN ${M_WINDOWS})
   endif()
   add_executable(lb77-${naam}-tests ${M_BRONNEN})
   list(TRANSFORM M_GEBRUIKT PREPEND lb77_)

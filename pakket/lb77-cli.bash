@@ -1,40 +1,59 @@
-# Completion of lb77-cli and lb77 for bash. What can be typed is asked of the program itself.
-_lb77_cli() {
-  local woord=${COMP_WORDS[COMP_CWORD]} programma=${COMP_WORDS[0]} opdracht='' i plaats=0 map=()
+# Completion of lb77-cli for bash. What can be typed is asked of the program itself.
+
+# The options of a list of --help that come before their value: "--map MAP".
+_lb77_cli_met_waarde() {
+  sed -n 's/^  \(--[a-z0-9-]*\) [A-Z].*/\1/p' <<<"$1"
+}
+
+_lb77_cli_bestanden() {
+  compopt -o filenames 2>/dev/null
+  mapfile -t COMPREPLY < <(compgen "$1" -- "$2")
+}
+
+# The words of $1, one a line, that begin with $2; a blank in one is quoted.
+_lb77_cli_woorden() {
+  local woord
   COMPREPLY=()
+  while IFS= read -r woord; do
+    if [ -n "$woord" ] && [[ $woord == "$2"* ]]; then COMPREPLY+=("$(printf %q "$woord")"); fi
+  done <<<"$1"
+}
+
+_lb77_cli() {
+  local woord=${COMP_WORDS[COMP_CWORD]} vorige=${COMP_WORDS[COMP_CWORD - 1]}
+  local programma=${COMP_WORDS[0]} opdracht='' i plaats=0 map=() hulp met
+  COMPREPLY=()
+  hulp=$("$programma" --help 2>/dev/null)
+  met=$(_lb77_cli_met_waarde "$hulp")
   for ((i = 1; i < COMP_CWORD; i++)); do
-    case ${COMP_WORDS[i]} in
-      --map) map=(--map "${COMP_WORDS[i + 1]}"); ((i++)) ;;
-      --klok | --uit | --zet | --naar | --van) ((i++)) ;;
-      -*) ;;
-      *) if [ -z "$opdracht" ]; then opdracht=${COMP_WORDS[i]}; else ((plaats++)); fi ;;
-    esac
+    if [ "${COMP_WORDS[i]}" = --map ]; then map=(--map "${COMP_WORDS[i + 1]}"); fi
+    if grep -qxF -- "${COMP_WORDS[i]}" <<<"$met"; then
+      ((++i))
+    elif [[ ${COMP_WORDS[i]} == -* ]]; then
+      :
+    elif [ -z "$opdracht" ]; then
+      opdracht=${COMP_WORDS[i]}
+      hulp=$("$programma" "$opdracht" --help 2>/dev/null)
+      met=$(_lb77_cli_met_waarde "$hulp")
+    else
+      ((++plaats))
+    fi
   done
-  case ${COMP_WORDS[COMP_CWORD - 1]} in
-    --map) mapfile -t COMPREPLY < <(compgen -d -- "$woord"); return ;;
-    --uit | --naar | --van) mapfile -t COMPREPLY < <(compgen -f -- "$woord"); return ;;
-  esac
-  local hulp
-  if [ -z "$opdracht" ]; then
-    hulp=$("$programma" --help 2>/dev/null | sed -n 's/^  \([^ ]*\).*/\1/p' | tr , ' ')
+  if grep -qxF -- "$vorige" <<<"$met"; then
+    case $(sed -n "s/^  $vorige \([A-Z]*\).*/\1/p" <<<"$hulp") in
+      MAP) _lb77_cli_bestanden -d "$woord" ;;
+      BESTAND) _lb77_cli_bestanden -f "$woord" ;;
+    esac
+  elif [ -z "$opdracht" ]; then
+    _lb77_cli_woorden "$(sed -n 's/^  \([^ ]*\).*/\1/p' <<<"$hulp" | tr , '\n')" "$woord"
   elif [[ $woord == -* ]]; then
-    hulp=$("$programma" "$opdracht" --help 2>/dev/null |
-      sed -n 's/^  \(-[^ ]*\).*/\1/p' | tr , ' ')
-  elif [ "$plaats" -eq 0 ] && [ "$opdracht" != speel ]; then
-    hulp=$("$programma" "${map[@]}" sets 2>/dev/null | awk '{ print $1 }')
+    _lb77_cli_woorden "$(sed -n 's/^  \(-[^ ]*\).*/\1/p' <<<"$hulp" | tr , '\n')" "$woord"
   else
-    mapfile -t COMPREPLY < <(compgen -f -- "$woord")
-    return
+    # The words of this command, in their order.
+    case $(sed -n 's/^  \([A-Z]*\) .*/\1/p' <<<"$hulp" | sed -n "$((plaats + 1))p") in
+      SET) _lb77_cli_woorden "$("$programma" "${map[@]}" sets 2>/dev/null | sed 's/  .*//')" "$woord" ;;
+      BESTAND) _lb77_cli_bestanden -f "$woord" ;;
+    esac
   fi
-  mapfile -t COMPREPLY < <(compgen -W "$hulp" -- "$woord")
 }
 complete -F _lb77_cli lb77-cli
-
-_lb77() {
-  case ${COMP_WORDS[COMP_CWORD]} in
-    -*) mapfile -t COMPREPLY < <(compgen -W '--help --version' -- "${COMP_WORDS[COMP_CWORD]}") ;;
-    *) mapfile -t COMPREPLY < <(compgen -f -X '!*.@(ged|GED|gedcom)' -- "${COMP_WORDS[COMP_CWORD]}"
-         compgen -d -- "${COMP_WORDS[COMP_CWORD]}") ;;
-  esac
-}
-complete -o filenames -F _lb77 lb77

@@ -80,7 +80,10 @@ void KwstBldParam::SlaOp() {
   if (!MaakBlad()) return;
   const BestandsVraag vraag{BestandsWijze::Opslaan, std::string(kTekstFilter),
                             Hoofd().Ini.TekstDir()};
-  if (SlaTekstOp(Hoofd().gesprek, Pad(), vraag)) Sluit();
+  const std::filesystem::path naam =
+      Opslagnaam("Kwartierblad " + Persoon.VoorNm.Tekst() + " " + Persoon.AchterNm.Tekst(), ".txt");
+  const Tekencode code = UTF8Box.Gekozen() ? Tekencode::Utf8 : Tekencode::Zelfde;
+  if (SlaTekstOp(Hoofd().gesprek, Pad(), vraag, naam, code)) Sluit();
 }
 
 }  // namespace lb77

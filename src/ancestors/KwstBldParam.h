@@ -19,6 +19,7 @@ class KwstBldParam final : public KwstParam {
   Keuzevak HSK_CBG_Box{*this, "HSK_CBG_Box", "Layout volgens CBG of HSK ?", {"CBG", "HSK"}};
   JaNeeVak OokNrsBox{*this, "OokNrsBox", "Ook Persoonsnummers uitvoeren ?"};
   TitelVelden Titels;
+  Vinkje UTF8Box{*this, "UTF8Box", "Opslaan in &UTF-8"};
   Rij<Knop, 2> OKButton{*this, "OKButton", 1, std::string_view{}};
   Knop BackButton{*this, "BackButton", "&Terug"};
 

@@ -5,6 +5,7 @@
 
 #include "store/Bestandenset.h"
 #include "store/SetPaden.h"
+#include "text/Getallen.h"
 #include "text/Tekens.h"
 
 namespace lb77 {
@@ -12,13 +13,15 @@ namespace lb77 {
 namespace {
 
 // Names that are devices on some system, whatever stands behind a full stop.
-constexpr std::string_view kApparaten[] = {"CON", "PRN", "AUX", "NUL"};
+constexpr std::string_view kApparaten[] = {"CON", "PRN", "AUX", "NUL", "CONIN$", "CONOUT$"};
 constexpr std::string_view kPoorten[] = {"COM", "LPT"};
+constexpr std::string_view kHogeCijfers = "\xB9\xB2\xB3";  // one, two and three raised count too
 
 bool IsApparaat(std::string_view naam) {
   const std::string stam = Hoofdletters(TrimRechts(naam.substr(0, naam.find('.'))));
   if (std::ranges::find(kApparaten, stam) != std::end(kApparaten)) return true;
-  return stam.size() == 4 && IsCijfer(stam[3]) &&
+  return stam.size() == 4 &&
+         (IsCijfer(stam[3]) || kHogeCijfers.find(stam[3]) != std::string_view::npos) &&
          std::ranges::find(kPoorten, stam.substr(0, 3)) != std::end(kPoorten);
 }
 
@@ -107,6 +110,28 @@ bool OpenSetVanRij(Hoofdmodule& hoofd, MenuWindow& menu, std::string_view rij) {
   }
   menu.ZetMenu();
   return true;
+}
+
+std::string OpenSetNaam(const Hoofdmodule& hoofd) {
+  return hoofd.SetActief() ? hoofd.ActieveSetNaam : std::string();
+}
+
+void HeropenSet(Hoofdmodule& hoofd, MenuWindow& menu, const std::string& naam) {
+  if (naam.empty() || hoofd.SetActief()) return;
+  static_cast<void>(OpenSetVanRij(hoofd, menu, naam));
+}
+
+void HaalUitLijst(Hoofdmodule& hoofd, int index) {
+  const auto sleutel = [](int nummer) { return "Set" + GetalTekst(nummer); };
+  const int aantal = hoofd.Ini.AantalBestandenSets();
+  for (int j = index; j < aantal; ++j) {
+    hoofd.Ini.IniZet("Sets", sleutel(j),
+                     hoofd.Ini.bestandenset(j + 1) + "," + hoofd.Ini.BestandenSetOms(j + 1));
+  }
+  hoofd.Ini.IniZet("Sets", sleutel(aantal), "");
+  hoofd.Ini.IniZet("Systeem", "Set", "");
+  hoofd.Ini.IniZet("Systeem", "SetOms", "");
+  hoofd.Ini.IniSchrijf();
 }
 
 }  // namespace lb77

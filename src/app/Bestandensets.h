@@ -38,4 +38,15 @@ void OpenBestanden(Hoofdmodule& hoofd, SetGebruik gebruik);
 // to date. False, after a warning, when the row names no set.
 [[nodiscard]] bool OpenSetVanRij(Hoofdmodule& hoofd, MenuWindow& menu, std::string_view rij);
 
+// The name of the set that is open; empty when none is.
+[[nodiscard]] std::string OpenSetNaam(const Hoofdmodule& hoofd);
+
+// Opens the set again that was open (OpenSetNaam) before something that failed; does nothing when it
+// still is, or when none was.
+void HeropenSet(Hoofdmodule& hoofd, MenuWindow& menu, const std::string& naam);
+
+// Takes the set at that index from the list: those behind it move up, so that there are no holes. No
+// set is the active one in the settings then.
+void HaalUitLijst(Hoofdmodule& hoofd, int index);
+
 }  // namespace lb77

@@ -26,6 +26,7 @@ Geschiedenis::Geschiedenis(Hoofdmodule& hoofd)
   ZetHulpOnderwerp("veilig-werken");
   ZetEersteVeld(HandelingLijst);
   HandelingLijst.BijWijziging([this] { HandelingLijstWijziging(); });
+  HandelingLijst.BijDubbelklik([this] { HandelingLijstDubbelklik(); });
   OngedaanButton.BijKlik([this] { OngedaanButtonKlik(); });
   BackButton.BijKlik([this] { Sluit(); });
 }
@@ -59,6 +60,11 @@ void Geschiedenis::HandelingLijstWijziging() {
   if (!regel || !journaal) return;
   InhoudLijst.ZetRijen(
       WijzigingTekst(journaal->Wijzigingen(regel->nummer), hoofd_.schrijfwijze.DatumScheider));
+}
+
+// The question that follows tells what the choice means.
+void Geschiedenis::HandelingLijstDubbelklik() {
+  OngedaanButtonKlik();
 }
 
 void Geschiedenis::OngedaanButtonKlik() {

@@ -26,6 +26,7 @@ class Geschiedenis final : public Formulier {
  private:
   void Vul();
   void HandelingLijstWijziging();
+  void HandelingLijstDubbelklik();
   void OngedaanButtonKlik();
   [[nodiscard]] std::optional<HandelingRegel> Gekozen() const;
 

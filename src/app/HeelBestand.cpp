@@ -67,7 +67,7 @@ SysteemFout Bestandswerk::Verwijder(const std::filesystem::path& pad) {
   if (std::filesystem::is_directory(std::filesystem::symlink_status(pad, code))) {
     return FoutVan(std::make_error_code(std::errc::is_a_directory));
   }
-  std::filesystem::remove(pad, code);
+  static_cast<void>(VerwijderVanSchijf(pad, code));
   return FoutVan(code);
 }
 

@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <optional>
+#include <utility>
 
 namespace lb77 {
 
@@ -11,8 +12,9 @@ constexpr int kJa = 0;
 
 }  // namespace
 
-IniSysteem::IniSysteem(Hoofdmodule& hoofd)
-    : InstelFormulier("IniSysteem", "Systeem Instellingen - Systeem", hoofd) {
+IniSysteem::IniSysteem(Hoofdmodule& hoofd, DataVraag magData)
+    : InstelFormulier("IniSysteem", "Systeem Instellingen - Systeem", hoofd),
+      magData_(std::move(magData)) {
   ZetEersteVeld(ProgDirTekst);
   Koppel(ProgDirTekst, "Systeem", "Prog");
   Koppel(DataDirTekst, "Systeem", "Data");
@@ -24,6 +26,15 @@ IniSysteem::IniSysteem(Hoofdmodule& hoofd)
   BrowseTempDir.BijKlik([this] { BrowseTempDirKlik(); });
   BrowseGCIDir.BijKlik([this] { BrowseGCIDirKlik(); });
   KoppelKnoppen(OKButton, BackButton);
+}
+
+bool IniSysteem::MagBewaren() {
+  if (!magData_) return true;
+  // As the settings read it: relative to the program's directory, which an empty one is itself.
+  const std::filesystem::path data = DataDirTekst.Pad();
+  if (magData_(data.empty() ? Hoofd().programmaMap : Hoofd().programmaMap / data)) return true;
+  ZetFocus(DataDirTekst);
+  return false;
 }
 
 void IniSysteem::BrowseDataDirKlik() {

@@ -1,6 +1,9 @@
 // The settings dialog of the directories and what else the program itself keeps.
 #pragma once
 
+#include <filesystem>
+#include <functional>
+
 #include "app/InstelFormulier.h"
 #include "app/JaNeeVak.h"
 
@@ -8,7 +11,10 @@ namespace lb77 {
 
 class IniSysteem final : public InstelFormulier {
  public:
-  explicit IniSysteem(Hoofdmodule& hoofd);
+  // Asked with the data directory that was typed before it becomes the setting; False keeps the
+  // dialog. Values are not judged without it.
+  using DataVraag = std::function<bool(const std::filesystem::path&)>;
+  explicit IniSysteem(Hoofdmodule& hoofd, DataVraag magData = {});
 
   Padvak ProgDirTekst{*this, "ProgDirTekst", "Programma Directory:"};
   Label ProgDirUitleg{*this, "ProgDirUitleg", "(Map met programmabestanden)"};
@@ -28,11 +34,16 @@ class IniSysteem final : public InstelFormulier {
   Knop OKButton{*this, "OKButton", "&OK"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 
+ protected:
+  [[nodiscard]] bool MagBewaren() override;
+
  private:
   void BrowseDataDirKlik();
   void BrowseTempDirKlik();
   void BrowseGCIDirKlik();
   void KiesMap(Padvak& veld);
+
+  const DataVraag magData_;
 };
 
 }  // namespace lb77

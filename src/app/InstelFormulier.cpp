@@ -53,6 +53,7 @@ void InstelFormulier::Bewaar() {
 }
 
 void InstelFormulier::OKButtonKlik() {
+  if (!MagBewaren()) return;
   Bewaar();
   Hoofd().Ini.IniSchrijf();
   Sluit();

@@ -26,6 +26,8 @@ class InstelFormulier : public InvoerFormulier {
   void KoppelKnoppen(Knop& OKButton, Knop& BackButton);
 
   void BijLaden() override;
+  // Whether OK may store what was typed; False, told, keeps the dialog.
+  [[nodiscard]] virtual bool MagBewaren() { return true; }
   // What OK does before the settings file is written.
   virtual void Bewaar();
 

@@ -1,8 +1,10 @@
 #include "app/Klok.h"
 
 #include <array>
+#include <chrono>
 #include <cstddef>
 #include <ctime>
+#include <system_error>
 
 #include "text/Getallen.h"
 #include "text/Tekens.h"
@@ -34,6 +36,14 @@ bool Bestaat(const Tijdstip& t) {
   return t.uur < 24 && t.minuut < 60 && t.seconde < 60;
 }
 
+Tijdstip Lokaal(std::time_t moment) {
+  // The program has one thread, so that the shared buffer of localtime does no harm.
+  const std::tm* delen = std::localtime(&moment);  // NOLINT(concurrency-mt-unsafe)
+  if (!delen) return {};
+  return {delen->tm_year + 1900, delen->tm_mon + 1, delen->tm_mday,
+          delen->tm_hour,        delen->tm_min,     delen->tm_sec};
+}
+
 }  // namespace
 
 std::optional<Tijdstip> LeesTijdstip(std::string_view tekst) {
@@ -45,13 +55,30 @@ std::optional<Tijdstip> LeesTijdstip(std::string_view tekst) {
   return Bestaat(t) ? std::optional(t) : std::nullopt;
 }
 
+std::string DagTekst(const Tijdstip& tijd) {
+  constexpr std::array<std::string_view, 12> kMaanden = {
+      "januari", "februari", "maart",     "april",   "mei",      "juni",
+      "juli",    "augustus", "september", "oktober", "november", "december"};
+  const auto maand = static_cast<std::size_t>(tijd.maand - 1);
+  return GetalTekst(tijd.dag) + " " + std::string(kMaanden.at(maand)) + " " + GetalTekst(tijd.jaar);
+}
+
+std::string DagEnUurTekst(const Tijdstip& tijd) {
+  return DagTekst(tijd) + " om " + GetalTekst(tijd.uur) + ":" + NulGevuld(tijd.minuut, 2);
+}
+
+std::optional<Tijdstip> WijzigMoment(const std::filesystem::path& pad) {
+  std::error_code code;
+  const std::filesystem::file_time_type tijd = std::filesystem::last_write_time(pad, code);
+  if (code) return std::nullopt;
+  const auto seconden =
+      std::chrono::floor<std::chrono::seconds>(std::chrono::file_clock::to_sys(tijd));
+  const Tijdstip moment = Lokaal(std::chrono::system_clock::to_time_t(seconden));
+  return moment.maand > 0 ? std::optional(moment) : std::nullopt;
+}
+
 Tijdstip SysteemKlok::Nu() const {
-  const std::time_t nu = std::time(nullptr);
-  // The program has one thread, so that the shared buffer of localtime does no harm.
-  const std::tm* delen = std::localtime(&nu);  // NOLINT(concurrency-mt-unsafe)
-  if (!delen) return {};
-  return {delen->tm_year + 1900, delen->tm_mon + 1, delen->tm_mday,
-          delen->tm_hour,        delen->tm_min,     delen->tm_sec};
+  return Lokaal(std::time(nullptr));
 }
 
 }  // namespace lb77

@@ -1,7 +1,10 @@
 // The present time, which a test or a script can fix.
 #pragma once
 
+#include <compare>
+#include <filesystem>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace lb77 {
@@ -15,11 +18,19 @@ struct Tijdstip {
   int minuut = 0;
   int seconde = 0;
 
-  [[nodiscard]] bool operator==(const Tijdstip&) const = default;
+  // In order of time.
+  [[nodiscard]] auto operator<=>(const Tijdstip&) const = default;
 };
 
 // "JJJJ-MM-DD UU:MM:SS" as a moment; nothing when the text has another form or names no moment.
 [[nodiscard]] std::optional<Tijdstip> LeesTijdstip(std::string_view tekst);
+
+// "3 mei 2019", and with the time "3 mei 2019 om 9:05".
+[[nodiscard]] std::string DagTekst(const Tijdstip& tijd);
+[[nodiscard]] std::string DagEnUurTekst(const Tijdstip& tijd);
+
+// The moment at which a file was last changed; nothing when the system does not tell.
+[[nodiscard]] std::optional<Tijdstip> WijzigMoment(const std::filesystem::path& pad);
 
 class Klok {
  public:

@@ -2,9 +2,12 @@
 
 #include <cstddef>
 #include <string>
+#include <system_error>
 
 #include "app/Bestandensets.h"
+#include "app/Gezindtebron.h"
 #include "app/SetOpenen.h"
+#include "store/JournaalPlek.h"
 #include "store/Paden.h"
 #include "text/Pad.h"
 #include "text/Tekens.h"
@@ -62,16 +65,29 @@ void OudeSetForm::Zoek() {
   gezocht_ = OudeMap.Pad();
   // A relative path is one in the program's directory.
   const std::filesystem::path map = VindPad(hoofd_.programmaMap / gezocht_);
-  gevonden_ = ZoekOudeSets(map);
+  OnleesbareMap onleesbaar;
+  gevonden_ = ZoekOudeSets(map, &onleesbaar);
   GevondenLijst.MaakLeeg();
   for (const OudeSet& set : gevonden_) {
     GevondenLijst.VoegToe(set.naam + "   " + PadTekst(set.map));
   }
   GevondenLijst.ZetIndex(gevonden_.empty() ? -1 : 0);
   StelNaamVoor();
-  if (!gevonden_.empty()) return;
-  hoofd_.gesprek.Waarschuw("In de map " + PadTekst(map) +
-                           " staan geen bestanden van een familie (.PRS)");
+  if (gevonden_.empty()) MeldNiets(map, onleesbaar);
+}
+
+void OudeSetForm::MeldNiets(const std::filesystem::path& map, const OnleesbareMap& onleesbaar) {
+  std::error_code code;
+  const std::filesystem::file_status status = std::filesystem::status(map, code);
+  if (status.type() == std::filesystem::file_type::not_found) {
+    hoofd_.gesprek.Waarschuw("De map " + PadTekst(map) + " is er niet");
+  } else if (onleesbaar.fout) {
+    hoofd_.gesprek.Fout("De map " + PadTekst(onleesbaar.map) + " kan niet worden gelezen\n" +
+                        onleesbaar.fout.tekst);
+  } else {
+    hoofd_.gesprek.Waarschuw("In de map " + PadTekst(map) +
+                             " staan geen bestanden van een familie (.PRS)");
+  }
 }
 
 void OudeSetForm::GevondenLijstWijziging() {
@@ -103,10 +119,28 @@ void OudeSetForm::OKButtonKlik() {
   }
   const OudeSet& set = gevonden_.at(static_cast<std::size_t>(index));
   const std::string naam = Hoofdletters(Trim(SetNaam.Tekst()));
-  if (!MagOvernemen(set, naam) || !NeemOver(set, naam)) return;
-  if (!MaakSet(hoofd_, menu_, naam, std::string(Trim(SetOmsch.Tekst())))) return;
+  if (!MagOvernemen(set, naam)) return;
+  const std::string eerder = OpenSetNaam(hoofd_);
+  Afloop afloop = NeemOver(set, naam);
+  if (afloop == Afloop::NietGeopend && TerPlaatse.Gekozen()) afloop = NeemAlsKopie(set);
+  if (afloop != Afloop::Geopend) return HeropenSet(hoofd_, menu_, eerder);
+  NeemGezindtenVan(set);
   menu_.ZetMenu();
   Sluit();
+}
+
+// Their codes stand in the records, and mean nothing without the names.
+void OudeSetForm::NeemGezindtenVan(const OudeSet& set) {
+  const std::filesystem::path bron = InstellingenBij(hoofd_, set.map);
+  std::string over;
+  for (const std::string& gezindte : NeemGezindten(hoofd_, bron)) {
+    over.append(over.empty() ? "" : ", ").append(gezindte);
+  }
+  if (over.empty()) return;
+  hoofd_.gesprek.Waarschuw("Deze gezindten uit " + PadTekst(bron) +
+                           " zijn niet overgenomen, omdat hun code hier iets anders betekent of de "
+                           "lijst vol is:\n" +
+                           over);
 }
 
 bool OudeSetForm::MagOvernemen(const OudeSet& set, const std::string& naam) {
@@ -125,9 +159,35 @@ bool OudeSetForm::MagOvernemen(const OudeSet& set, const std::string& naam) {
                               ".\nWat ontbreekt wordt leeg aangemaakt. Doorgaan ?");
 }
 
-bool OudeSetForm::NeemOver(const OudeSet& set, const std::string& naam) {
+OudeSetForm::Afloop OudeSetForm::NeemOver(const OudeSet& set, const std::string& naam) {
   const SetPaden paden = SetPaden::Van(hoofd_.Ini.DataDir(), naam);
-  return TerPlaatse.Gekozen() ? Gebruik(set, paden) : Kopieer(set, paden);
+  const bool lagErAl = LigtErAl(set, paden);
+  const bool kopie = !TerPlaatse.Gekozen();
+  if (!(kopie ? Kopieer(set, paden) : Gebruik(set, paden))) return Afloop::NietOvergenomen;
+  const Afloop afloop = Open(naam);
+  if (afloop == Afloop::Geopend) return afloop;
+  if (kopie) {
+    RuimKopie(paden);
+  } else {
+    RuimKoppeling(set, paden, lagErAl);
+  }
+  return afloop;
+}
+
+OudeSetForm::Afloop OudeSetForm::Open(const std::string& naam) {
+  if (MaakSet(hoofd_, menu_, naam, std::string(Trim(SetOmsch.Tekst())))) return Afloop::Geopend;
+  hoofd_.bestanden.SluitAlles();
+  return Afloop::NietGeopend;
+}
+
+OudeSetForm::Afloop OudeSetForm::NeemAlsKopie(const OudeSet& set) {
+  if (!hoofd_.gesprek.Vraag("De bestanden van " + set.naam +
+                            " zijn niet geopend waar ze staan.\nEen kopie maken ?")) {
+    return Afloop::NietGeopend;
+  }
+  Kopieren.Zet(true);
+  StelNaamVoor();
+  return NeemOver(set, SetNaam.Tekst());
 }
 
 bool OudeSetForm::Kopieer(const OudeSet& set, const SetPaden& paden) {
@@ -137,6 +197,13 @@ bool OudeSetForm::Kopieer(const OudeSet& set, const SetPaden& paden) {
 }
 
 bool OudeSetForm::Gebruik(const OudeSet& set, const SetPaden& paden) {
+  // They would share the directories of texts beside them.
+  if (!LigtErAl(set, paden) && !IsEnigeSet(set.map, set.naam)) {
+    hoofd_.gesprek.Waarschuw("In de map " + PadTekst(set.map) +
+                             " staat meer dan een familie. Daar kan " + set.naam +
+                             " niet worden gebruikt; kies voor een kopie");
+    return false;
+  }
   if (!set.centraal.empty() &&
       !hoofd_.gesprek.Vraag("De plaatsen van " + set.naam + " staan in " + PadTekst(set.centraal) +
                             ", ook voor andere families.\n" + set.naam +

@@ -43,9 +43,16 @@ class OudeSetForm final : public Formulier {
   void OKButtonKlik();
   void Zoek();
   void StelNaamVoor();
+  void MeldNiets(const std::filesystem::path& map, const OnleesbareMap& onleesbaar);
+  void NeemGezindtenVan(const OudeSet& set);
   // False when something keeps it from being taken over; that has been told.
   [[nodiscard]] bool MagOvernemen(const OudeSet& set, const std::string& naam);
-  [[nodiscard]] bool NeemOver(const OudeSet& set, const std::string& naam);
+  // Takes it over and opens it. What fails has been told, and left no trace; what did not open has
+  // closed the set that was open.
+  enum class Afloop { Geopend, NietOvergenomen, NietGeopend };
+  [[nodiscard]] Afloop NeemOver(const OudeSet& set, const std::string& naam);
+  [[nodiscard]] Afloop NeemAlsKopie(const OudeSet& set);
+  [[nodiscard]] Afloop Open(const std::string& naam);
   [[nodiscard]] bool Gebruik(const OudeSet& set, const SetPaden& paden);
   [[nodiscard]] bool Kopieer(const OudeSet& set, const SetPaden& paden);
 

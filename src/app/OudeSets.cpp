@@ -8,8 +8,10 @@
 #include "app/Bestandensets.h"
 #include "app/KopieBestanden.h"
 #include "app/SetMaken.h"
+#include "store/JournaalPlek.h"
 #include "store/Paden.h"
 #include "store/Platform.h"
+#include "store/PlatformNamen.h"
 #include "text/Getallen.h"
 #include "text/Pad.h"
 #include "text/Tekens.h"
@@ -21,8 +23,9 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kCentraal = "PLAATS.PLT";
-// What a set has beside its files.
-constexpr const char* kMappen[] = {"TEKST", "INDEX", "JOURNAAL"};
+constexpr const char* kJournaal = "JOURNAAL";  // of a set that lies in a directory of its name
+// What a set has beside its files, but for its journal.
+constexpr const char* kMappen[] = {"TEKST", "INDEX"};
 
 constexpr std::string_view Uitgang(BestandSoort soort) {
   switch (soort) {
@@ -74,20 +77,27 @@ bool IsPersonen(const fs::path& pad) {
          stam.size() <= kMaxSetNaam && IsSetNaam(stam) && IsBestand(pad);
 }
 
-// What lies in a directory; what cannot be read has nothing.
-std::vector<fs::path> Inhoud(const fs::path& map) {
+// What lies in a directory; the first that cannot be read is kept in `onleesbaar`.
+std::vector<fs::path> Inhoud(const fs::path& map, OnleesbareMap& onleesbaar) {
   std::vector<fs::path> uit;
   std::error_code code;
   for (fs::directory_iterator i(map, code), einde; !code && i != einde; i.increment(code)) {
     uit.push_back(i->path());
   }
+  if (code && !onleesbaar.fout) onleesbaar = {map, FoutVan(code)};
   return uit;
 }
 
-void Verzamel(const fs::path& map, std::vector<OudeSet>& uit) {
-  for (const fs::path& pad : Inhoud(map)) {
+// Gives the directories that lie there too.
+std::vector<fs::path> Verzamel(const fs::path& map, std::vector<OudeSet>& uit,
+                               OnleesbareMap& onleesbaar) {
+  std::vector<fs::path> mappen;
+  for (const fs::path& pad : Inhoud(map, onleesbaar)) {
+    std::error_code code;
     if (IsPersonen(pad)) uit.push_back(SetVan(pad));
+    if (fs::is_directory(fs::symlink_status(pad, code))) mappen.push_back(pad);
   }
+  return mappen;
 }
 
 // A name that nobody has, for the directory while it is made.
@@ -104,7 +114,12 @@ fs::path InWording(const fs::path& doel) {
 SysteemFout Kopieer(const fs::path& bron, const fs::path& doel) {
   if (bron.empty()) return {};
   if (SysteemFout fout = KopieerBestand(bron, doel)) return fout;
-  return ZelfdeBytes(bron, doel) ? SysteemFout{} : FoutInGebruik();
+  if (!ZelfdeBytes(bron, doel)) return FoutInGebruik();
+  // Where the times cannot be kept the bytes are as good.
+  std::error_code code;
+  const fs::file_time_type tijd = fs::last_write_time(bron, code);
+  if (!code) fs::last_write_time(doel, tijd, code);
+  return {};
 }
 
 // The places of the set are its own from here on.
@@ -123,7 +138,15 @@ SysteemFout KopieerIn(const OudeSet& set, const SetPaden& doel, const fs::path& 
   for (const char* naam : kMappen) {
     if (SysteemFout fout = KopieerMap(VindPad(set.map / naam), map / naam)) return fout;
   }
+  // An action that came to no end is asked about in the copy too.
+  if (SysteemFout fout = KopieerMap(JournaalPlek(set.map, set.naam), map / kJournaal)) return fout;
   return MapVeiligstellen(map);
+}
+
+// Where its places come when it uses central ones.
+fs::path EigenPlaatsen(const OudeSet& set) {
+  fs::path pad = set.Pad(BestandSoort::Personen);
+  return pad.replace_extension(Uitgang(BestandSoort::Plaatsen));
 }
 
 SysteemFout Bestaat() {
@@ -143,14 +166,32 @@ SysteemFout MaakOuder(const fs::path& map) {
 
 }  // namespace
 
-std::vector<OudeSet> ZoekOudeSets(const fs::path& map) {
+std::vector<OudeSet> ZoekOudeSets(const fs::path& map, OnleesbareMap* onleesbaar) {
   std::vector<OudeSet> uit;
-  Verzamel(map, uit);
-  for (const fs::path& pad : Inhoud(map)) {
-    std::error_code code;
-    if (fs::is_directory(fs::symlink_status(pad, code))) Verzamel(pad, uit);
+  OnleesbareMap eerste;
+  for (const fs::path& onder : Verzamel(map, uit, eerste)) {
+    static_cast<void>(Verzamel(onder, uit, eerste));
   }
   std::ranges::sort(uit, {}, [](const OudeSet& set) { return std::pair(set.naam, set.map); });
+  if (onleesbaar) *onleesbaar = std::move(eerste);
+  return uit;
+}
+
+std::optional<OudeSet> OudeSetVan(const SetPaden& paden) {
+  const fs::path prs = Gevonden(paden.prs);
+  return prs.empty() ? std::nullopt : std::optional(SetVan(prs));
+}
+
+std::vector<std::string> SetsIn(const fs::path& data) {
+  std::vector<std::string> uit;
+  OnleesbareMap onleesbaar;
+  for (const fs::path& pad : Inhoud(VindPad(data), onleesbaar)) {
+    std::string naam = Hoofdletters(PadTekst(pad.filename()));
+    const bool kan = naam.size() <= kMaxSetNaam && IsSetNaam(naam);
+    if (kan && OudeSetVan(SetPaden::Van(data, naam))) uit.push_back(std::move(naam));
+  }
+  std::ranges::sort(uit);
+  uit.erase(std::unique(uit.begin(), uit.end()), uit.end());
   return uit;
 }
 
@@ -171,29 +212,43 @@ SysteemFout KopieerOudeSet(const OudeSet& set, const SetPaden& doel) {
   std::error_code code;
   SysteemFout fout = KopieerIn(set, doel, wording);
   if (!fout) {
-    fs::rename(wording, map, code);
+    HernoemOpSchijf(wording, map, code);
     fout = FoutVan(code);
   }
   if (!fout) return MapVeiligstellen(map.parent_path());
-  fs::remove_all(wording, code);  // all of it was made just now
+  VerwijderMapVanSchijf(wording, code);  // all of it was made just now
   return fout;
 }
 
-SysteemFout KoppelOudeSet(const OudeSet& set, const SetPaden& doel) {
+bool LigtErAl(const OudeSet& set, const SetPaden& doel) {
   std::error_code code;
-  const bool staatEr = fs::equivalent(set.map, VindPad(doel.map), code);
-  if (!staatEr && !IsVrij(doel.map)) return Bestaat();
+  return fs::equivalent(set.map, VindPad(doel.map), code);
+}
+
+SysteemFout KoppelOudeSet(const OudeSet& set, const SetPaden& doel) {
+  const bool lagErAl = LigtErAl(set, doel);
+  if (!lagErAl && !IsVrij(doel.map)) return Bestaat();
   if (SysteemFout fout = MaakOuder(doel.map)) return fout;
-  fs::path plaatsen = set.Pad(BestandSoort::Personen);
-  plaatsen.replace_extension(Uitgang(BestandSoort::Plaatsen));
   if (!set.centraal.empty()) {
-    if (SysteemFout fout = Kopieer(set.centraal, plaatsen)) return fout;
+    if (SysteemFout fout = Kopieer(set.centraal, EigenPlaatsen(set))) return fout;
   }
-  if (staatEr) return {};
+  if (lagErAl) return {};
+  std::error_code code;
   fs::create_directory_symlink(fs::absolute(set.map), VindPad(doel.map), code);
   SysteemFout fout = FoutVan(code);
-  if (fout && !set.centraal.empty()) fs::remove(plaatsen, code);  // it was made just now
+  if (fout) RuimKoppeling(set, doel, true);
   return fout;
+}
+
+void RuimKopie(const SetPaden& doel) {
+  std::error_code code;
+  fs::remove_all(VindPad(doel.map), code);
+}
+
+void RuimKoppeling(const OudeSet& set, const SetPaden& doel, bool lagErAl) {
+  std::error_code code;
+  if (!set.centraal.empty()) static_cast<void>(VerwijderVanSchijf(EigenPlaatsen(set), code));
+  if (!lagErAl) static_cast<void>(VerwijderVanSchijf(VindPad(doel.map), code));
 }
 
 }  // namespace lb77

@@ -8,6 +8,7 @@
 #include "store/Bestandenset.h"
 #include "store/Paden.h"
 #include "store/Platform.h"
+#include "store/PlatformNamen.h"
 #include "store/SetPaden.h"
 #include "text/Getallen.h"
 #include "text/Pad.h"
@@ -75,7 +76,7 @@ bool NeemBestand(Hoofdmodule& hoofd, BestandSoort soort, const SetPaden& paden) 
   }
   if (OpenMetAdmin(hoofd, soort, pad)) return true;
   std::error_code code;
-  if (gemaakt) std::filesystem::remove(pad, code);
+  if (gemaakt) static_cast<void>(VerwijderVanSchijf(pad, code));
   return false;
 }
 

@@ -3,6 +3,7 @@
 #include <string>
 #include <system_error>
 
+#include "store/JournaalPlek.h"
 #include "store/Paden.h"
 #include "store/PlatformNamen.h"
 #include "store/SetPaden.h"
@@ -55,7 +56,7 @@ void VerwijderMap(Gesprek& gesprek, const std::filesystem::path& gevraagd, std::
                   std::string_view naam) {
   const std::filesystem::path map = VindPad(gevraagd);
   std::error_code code;
-  std::filesystem::remove_all(map, code);
+  VerwijderMapVanSchijf(map, code);
   if (code) MeldMap(gesprek, map, soort, naam, FoutVan(code).tekst);
 }
 
@@ -74,8 +75,7 @@ void VerwijderSetVanSchijf(Gesprek& gesprek, const std::filesystem::path& data,
                            std::string_view naam) {
   const SetPaden paden = SetPaden::Van(data, naam);
   const std::filesystem::path map = VindPad(paden.map);
-  std::error_code code;
-  if (std::filesystem::is_symlink(map, code)) {
+  if (IsKoppeling(map)) {
     MeldMap(gesprek, map, "data", naam, "Het is een koppeling naar een andere directory");
     return;
   }
@@ -85,7 +85,7 @@ void VerwijderSetVanSchijf(Gesprek& gesprek, const std::filesystem::path& data,
   VerwijderPlaatsen(gesprek, paden.plt);
   VerwijderMap(gesprek, paden.tekst, "TEKST", naam);
   VerwijderMap(gesprek, paden.index, "INDEX", naam);
-  VerwijderMap(gesprek, paden.map / "JOURNAAL", "JOURNAAL", naam);
+  VerwijderMap(gesprek, JournaalPlek(map, naam), "JOURNAAL", naam);
   VerwijderLegeMap(gesprek, paden.map, naam);
 }
 

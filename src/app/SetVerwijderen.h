@@ -9,7 +9,7 @@
 namespace lb77 {
 
 // Deletes what is ours of the set `naam` under the data directory: its four files, then TEKST,
-// INDEX and JOURNAAL with all that is in them, then its own directory when nothing else lies in it. Each failure
+// INDEX and its journal with all that is in them, then its own directory when nothing else lies in it. Each failure
 // shows its message, and the rest goes on. Nothing outside <data>/<SET> is touched: a symbolic link
 // goes, what it points to stays, and a set whose own directory is a link stays whole.
 // Precondition: IsSetNaam(naam), and its files are closed.

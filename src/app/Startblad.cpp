@@ -7,6 +7,8 @@
 #include "app/GezienBestand.h"
 #include "store/Hoofdrecords.h"
 #include "store/Journaal.h"
+#include "store/Paden.h"
+#include "store/SetPaden.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
@@ -46,18 +48,11 @@ Startblad::Startblad(Formulier& formulier, Hoofdmodule& hoofd)
       OpenButton(formulier, "OpenButton", "&Familie openen die er al is"),
       hoofd_(hoofd) {
   GezienLijst.BijDubbelklik([this] { GezienLijstDubbelklik(); });
-  GezienLijst.BijToets([this](ToetsGebeurtenis& toets) { GezienLijstToets(toets); });
 }
 
 void Startblad::GezienLijstDubbelklik() const {
   const int index = GezienLijst.Index();
   if (index >= 0 && bijPersoon_) bijPersoon_(inLijst_.at(static_cast<std::size_t>(index)));
-}
-
-void Startblad::GezienLijstToets(ToetsGebeurtenis& toets) const {
-  if (toets.code != toets::kEnter && toets.code != toets::kNumEnter) return;
-  toets.verwerkt = true;
-  GezienLijstDubbelklik();
 }
 
 void Startblad::WerkBij() {
@@ -119,8 +114,26 @@ std::string Startblad::TellingTekst() {
 std::string Startblad::WijzigingTekst() const {
   const auto& journaal = hoofd_.bestanden.HetJournaal();
   const auto laatste = journaal ? journaal->LaatsteTeOngedaan() : std::nullopt;
-  if (!laatste) return "Er is nog niets gewijzigd.";
-  return "Laatste wijziging: " + laatste->label + " (" + laatste->tijd + ")";
+  if (laatste) {
+    const auto tijd = LeesTijdstip(laatste->tijd);
+    return "Laatste wijziging: " + laatste->label + " (" +
+           (tijd ? DagEnUurTekst(*tijd) : laatste->tijd) + ")";
+  }
+  // A set that was made elsewhere has no journal, and a new one nothing to tell of.
+  const auto moment = LaatsteBestand();
+  return moment ? "Laatst gewijzigd op " + DagTekst(*moment) + "."
+                : std::string("Er is nog niets gewijzigd.");
+}
+
+std::optional<Tijdstip> Startblad::LaatsteBestand() const {
+  const SetPaden paden = SetPaden::Van(hoofd_.Ini.DataDir(), hoofd_.ActieveSetNaam);
+  std::optional<Tijdstip> laatste;
+  bool gevuld = false;
+  for (const BestandSoort soort : kBestandSoorten) {
+    gevuld = gevuld || hoofd_.bestanden.Bestand(soort).Lengte() > RecordLengteVan(soort);
+    laatste = std::max(laatste, WijzigMoment(VindPad(PadVanSoort(paden, soort))));
+  }
+  return gevuld ? laatste : std::nullopt;
 }
 
 void Startblad::Onthoud() {

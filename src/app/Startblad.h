@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -44,7 +45,6 @@ class Startblad {
     int aantal = 0;
   };
   void GezienLijstDubbelklik() const;
-  void GezienLijstToets(ToetsGebeurtenis& toets) const;
   void ToonSet();
   void ToonGezien();
   // Takes over who was seen when the set was last used, and keeps who was seen since.
@@ -53,6 +53,8 @@ class Startblad {
   int Geteld(BestandSoort soort, Tel tel);
   [[nodiscard]] std::string TellingTekst();
   [[nodiscard]] std::string WijzigingTekst() const;
+  // When a file of the set was last changed, by whatever program.
+  [[nodiscard]] std::optional<Tijdstip> LaatsteBestand() const;
 
   Hoofdmodule& hoofd_;
   std::function<void(std::int16_t)> bijPersoon_;

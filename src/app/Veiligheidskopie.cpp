@@ -14,6 +14,7 @@
 #include "store/Paden.h"
 #include "store/PersoonLB77.h"
 #include "store/Platform.h"
+#include "store/PlatformNamen.h"
 #include "store/RelatieLB77.h"
 #include "store/Volgers.h"
 #include "text/Getallen.h"
@@ -174,7 +175,7 @@ SysteemFout Veiligheidskopie::MaakIn(const fs::path& doel) {
     return {kGeenToegang, "Een kopie kan niet in de map TEKST liggen"};
   }
   std::error_code code;
-  fs::remove_all(doel, code);
+  VerwijderMapVanSchijf(doel, code);
   fs::create_directories(doel, code);
   if (code) return FoutVan(code);
   for (const Bestand& bestand : bestanden_) {
@@ -197,12 +198,12 @@ SysteemFout Veiligheidskopie::Maak() {
   const fs::path nieuw = NieuwPad();
   std::error_code code;
   if (!fout) {
-    fs::rename(bezig, nieuw, code);
+    HernoemOpSchijf(bezig, nieuw, code);
     fout = code ? FoutVan(code) : MapVeiligstellen(Map());
   }
   if (!fout) fout = MapVeiligstellen(Map().parent_path());
   if (fout) {
-    fs::remove_all(bezig, code);
+    VerwijderMapVanSchijf(bezig, code);
     return fout;
   }
   Ruim(nieuw);
@@ -234,7 +235,7 @@ void Veiligheidskopie::Ruim(const fs::path& nieuw) const {
     const bool blijft = (deze != maand && deze + kMaanden > nu) || kopieen[i] == nieuw;
     maand = deze;
     std::error_code code;  // what does not go away now goes a next time
-    if (!blijft) fs::remove_all(kopieen[i], code);
+    if (!blijft) VerwijderMapVanSchijf(kopieen[i], code);
   }
 }
 

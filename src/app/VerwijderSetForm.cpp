@@ -10,19 +10,10 @@
 #include "app/SetVerwijderen.h"
 #include "store/Paden.h"
 #include "store/SetPaden.h"
-#include "text/Getallen.h"
 #include "text/Letterlijk.h"
 #include "text/Pad.h"
 
 namespace lb77 {
-
-namespace {
-
-std::string SetSleutel(int index) {
-  return "Set" + GetalTekst(index);
-}
-
-}  // namespace
 
 VerwijderSetForm::VerwijderSetForm(Hoofdmodule& hoofd, MenuWindow& menu)
     // kept: the title is spelled as users know it
@@ -96,7 +87,7 @@ void VerwijderSetForm::Verwijder() {
     hoofd_.gesprek.Waarschuw("Deze bestandenset is al in gebruik.");
     return;
   }
-  HaalUitLijst(index);
+  HaalUitLijst(hoofd_, index);
   // Whoever ends the program over a list that could not be written keeps his files.
   if (!DeleteJa.Gekozen() || hoofd_.Ini.EindeGevraagd()) return;
   if (geldig) {
@@ -118,19 +109,6 @@ void VerwijderSetForm::VerwijderBestanden(const std::string& naam) {
   if (waar.empty()) return;
   hoofd_.gesprek.Informeer(std::string("De veiligheidskopieën van "_w) + naam +
                            " zijn er nog: " + waar);
-}
-
-// The entries behind it move up, so that the list has no holes.
-void VerwijderSetForm::HaalUitLijst(int index) {
-  const int aantal = hoofd_.Ini.AantalBestandenSets();
-  for (int j = index; j < aantal; ++j) {
-    hoofd_.Ini.IniZet("Sets", SetSleutel(j),
-                      hoofd_.Ini.bestandenset(j + 1) + "," + hoofd_.Ini.BestandenSetOms(j + 1));
-  }
-  hoofd_.Ini.IniZet("Sets", SetSleutel(aantal), "");
-  hoofd_.Ini.IniZet("Systeem", "Set", "");
-  hoofd_.Ini.IniZet("Systeem", "SetOms", "");
-  hoofd_.Ini.IniSchrijf();
 }
 
 }  // namespace lb77

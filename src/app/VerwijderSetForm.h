@@ -29,7 +29,6 @@ class VerwijderSetForm final : public Formulier {
   void CancelButtonKlik();
   void Verwijder();
   void VerwijderBestanden(const std::string& naam);
-  void HaalUitLijst(int index);
 
   Hoofdmodule& hoofd_;
   MenuWindow& menu_;

@@ -41,7 +41,6 @@ Bevindingen::Bevindingen(Hoofdmodule& hoofd, Controleur& regels, BevindingLijst&
     : Formulier("Bevindingen", "Bevindingen"), hoofd_(hoofd), regels_(regels), lijst_(lijst) {
   ZetHulpOnderwerp("controle");
   SoortBox.BijWijziging([this] { SoortBoxWijziging(); });
-  BevindingenLijst.BijToets([this](ToetsGebeurtenis& toets) { BevindingenLijstToets(toets); });
   BevindingenLijst.BijKlik([this] { BevindingenLijstKlik(); });
   BevindingenLijst.BijDubbelklik([this] { BevindingenLijstDubbelklik(); });
   KaartButton.BijKlik([this] { KaartButtonKlik(); });
@@ -99,12 +98,6 @@ void Bevindingen::VulLijst() {
 
 void Bevindingen::SoortBoxWijziging() {
   VulLijst();
-}
-
-void Bevindingen::BevindingenLijstToets(ToetsGebeurtenis& toets) {
-  if (toets.code != toets::kEnter && toets.code != toets::kNumEnter) return;
-  toets.verwerkt = true;
-  KaartButtonKlik();
 }
 
 void Bevindingen::BevindingenLijstKlik() {

@@ -37,7 +37,6 @@ class Bevindingen final : public Formulier {
   void VulSoorten();
   void VulLijst();
   void SoortBoxWijziging();
-  void BevindingenLijstToets(ToetsGebeurtenis& toets);
   void BevindingenLijstKlik();
   void BevindingenLijstDubbelklik();
   void KaartButtonKlik();

@@ -8,6 +8,7 @@
 
 #include "checks/Bevindingen.h"
 #include "output/ToonTekst.h"
+#include "store/PlatformNamen.h"
 #include "text/Getallen.h"
 #include "text/Pad.h"
 
@@ -67,7 +68,7 @@ void ControleForm::Werk() {
     ToonVerslag(pad, *regels);
   } else {
     std::error_code geenVerslag;
-    std::filesystem::remove(pad, geenVerslag);
+    static_cast<void>(VerwijderVanSchijf(pad, geenVerslag));
     Hoofd().gesprek.Waarschuw(soort_.geenRecords);
   }
   Sluit();

@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "output/Tekstpaginas.h"
+#include "store/PlatformNamen.h"
 #include "text/Unicode.h"
 
 namespace lb77 {
@@ -19,10 +20,7 @@ void DrukUit(const std::filesystem::path& bron, std::ostream& uit) {
 }
 
 SysteemFout BewaarAls(const std::filesystem::path& bron, const std::filesystem::path& naar) {
-  std::error_code code;
-  if (!std::filesystem::exists(naar, code) || std::filesystem::is_regular_file(naar, code)) {
-    return KopieerTekst(bron, naar);
-  }
+  if (!IsApparaat(naar)) return KopieerTekst(bron, naar);
   std::ifstream in(bron, std::ios::binary);
   std::ofstream uit(naar, std::ios::binary);
   uit << in.rdbuf();

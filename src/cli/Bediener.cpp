@@ -16,6 +16,10 @@ void Bediener::HoudKlaar(std::string_view formulier, Antwoord antwoord) {
   klaar_[std::string(formulier)].push_back(antwoord);
 }
 
+void Bediener::HoudSteeds(std::string_view formulier, Antwoord antwoord) {
+  steeds_.insert_or_assign(std::string(formulier), antwoord);
+}
+
 void Bediener::Mislukt(std::string_view reden) {
   MisluktUtf8(WindowsNaarUtf8(reden));
 }
@@ -28,9 +32,14 @@ void Bediener::MisluktUtf8(std::string_view reden) {
 // The last button of a box is the one that does nothing.
 Antwoord Bediener::Kies(Knoppen knoppen) {
   const std::vector<Antwoord> keuzen = Keuzen(knoppen);
-  const bool metNee = std::ranges::find(keuzen, Antwoord::Nee) != keuzen.end();
-  const auto klaar = klaar_.find(open_.empty() ? std::string_view() : open_.back());
-  const Antwoord zonder = lieverNee_ && metNee ? Antwoord::Nee : keuzen.back();
+  const auto biedt = [&](Antwoord antwoord) {
+    return std::ranges::find(keuzen, antwoord) != keuzen.end();
+  };
+  const std::string_view bovenop = open_.empty() ? std::string_view() : open_.back();
+  const auto steeds = steeds_.find(bovenop);
+  Antwoord zonder = lieverNee_ && biedt(Antwoord::Nee) ? Antwoord::Nee : keuzen.back();
+  if (steeds != steeds_.end() && biedt(steeds->second)) zonder = steeds->second;
+  const auto klaar = klaar_.find(bovenop);
   if (klaar == klaar_.end()) return zonder;
   const auto eerste = std::ranges::find_first_of(klaar->second, keuzen);
   if (eerste == klaar->second.end()) return zonder;

@@ -31,6 +31,9 @@ class Bediener final : public Gesprek {
   // The first question that offers this answer while that form is on top gets it; "" is no form at
   // all, as during the start-up. Answers for one form are given in their order.
   void HoudKlaar(std::string_view formulier, Antwoord antwoord);
+  // Every question that offers this answer while that form is on top gets it, unless another is held
+  // ready for it.
+  void HoudSteeds(std::string_view formulier, Antwoord antwoord);
   // From here on a question that offers No gets it, also where Cancel would end more.
   void LieverNee() { lieverNee_ = true; }
   // The command did not do what it was asked to do.
@@ -58,6 +61,7 @@ class Bediener final : public Gesprek {
   std::map<std::string, Handeling, std::less<>> handelingen_;
   std::function<void(const Afdruk&)> neem_;
   std::map<std::string, std::vector<Antwoord>, std::less<>> klaar_;
+  std::map<std::string, Antwoord, std::less<>> steeds_;
   std::vector<std::string> open_;  // the names of the open forms, the one on top last
   bool vinkjeGemeld_ = false;
   bool lieverNee_ = false;

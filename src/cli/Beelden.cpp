@@ -6,14 +6,19 @@ namespace lb77 {
 
 namespace {
 
-// A picture by its menu entry, its prompt and its window.
-constexpr Rapport Beeld(std::string_view keuze, std::string_view prompt, std::string_view beeld) {
-  return {keuze, {{{prompt, {{{"RecordNr", Vulling::Persoon, 1}}}}, {beeld, {}, true}}}};
+// A picture of ancestors by its menu entry, its prompt and its window, with the options of the chart.
+constexpr Rapport Voorouders(std::string_view keuze, std::string_view prompt,
+                             std::string_view beeld) {
+  return {keuze,
+          {{{prompt, {{{"RecordNr", Vulling::Persoon, 1}}}},
+            {"KwstSchParam", {}, true},
+            {beeld, {}, true}}}};
 }
 
-constexpr Rapport kWaaier = Beeld("BeeldWaaier", "WaaierPrs", "WaaierBeeld");
-constexpr Rapport kKwartierboom = Beeld("BeeldKwartier", "KwartierPrs", "KwartierBeeld");
-constexpr Rapport kTijdbalk = Beeld("BeeldTijd", "TijdPrs", "TijdBeeld");
+constexpr Rapport kWaaier = Voorouders("BeeldWaaier", "WaaierPrs", "WaaierBeeld");
+constexpr Rapport kKwartierboom = Voorouders("BeeldKwartier", "KwartierPrs", "KwartierBeeld");
+constexpr Rapport kTijdbalk{
+    "BeeldTijd", {{{"TijdPrs", {{{"RecordNr", Vulling::Persoon, 1}}}}, {"TijdBeeld", {}, true}}}};
 // Nobody is left out, whatever the settings say.
 constexpr Rapport kStamboom{"BeeldStam",
                             {{{"StamPrs", {{{"RecordNr", Vulling::Persoon, 1}}}},

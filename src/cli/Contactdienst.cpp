@@ -9,8 +9,9 @@ namespace lb77 {
 
 int Contactdienst(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
   Sessie sessie(omgeving, argumenten.bewaar ? Instelling::VoorLater : Instelling::VoorNu);
-  // A place that the service does not know is left out; the rest goes on.
+  // A place or a surname that the service does not know is left out; the rest goes on.
   sessie.bediener.LieverNee();
+  sessie.bediener.HoudSteeds("ExpGCI", Antwoord::OK);
   sessie.bediener.Bij("ExpGCIParam", [&](Formulier& form) {
     Werk werk(sessie.bediener, form);
     if (werk.ZetAlle(argumenten.zet)) werk.Druk("StartExportButton");
@@ -21,7 +22,8 @@ int Contactdienst(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten
   });
   return sessie.Voer(argumenten.woorden[0], Omgang::Lezen, [&](Werk&) {
     if (!MagNaar(sessie, omgeving, argumenten)) return;
-    if (!ExporteerContact(sessie.Hoofd())) {
+    // Imported places have no province code.
+    if (!ExporteerContact(sessie.Hoofd(), {.neemEnige = true})) {
       sessie.bediener.Mislukt("Er zijn geen bestanden voor de Contactdienst gemaakt");
     }
   });

@@ -5,6 +5,7 @@
 
 #include "cli/Afdrukken.h"
 #include "cli/Sessie.h"
+#include "exchange/ExportForm.h"
 #include "forms/Rijnaam.h"
 #include "output/ToonTekst.h"
 #include "text/Getallen.h"
@@ -63,7 +64,8 @@ int VoerExport(const ExportVorm& vorm, const Omgeving& omgeving,
     if (alles || !argumenten.relaties.empty()) werk.Druk("KiesRelButton");
     if (!gekozen) return;
     werk.Druk(vorm.start);
-    gelukt = form.Gesloten();
+    const auto* dialoog = dynamic_cast<const ExportForm*>(&form);
+    gelukt = form.Gesloten() && !(dialoog && dialoog->Vol());
   });
   bediener.Bij("ToonTekst", [&](Formulier& form) {
     if (const auto* toon = dynamic_cast<ToonTekst*>(&form))

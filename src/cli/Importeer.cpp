@@ -31,6 +31,10 @@ int Importeer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
     Werk(sessie.bediener, form).Druk("OKButton");
     if (!import) return;
     gelukt = import->Gelukt();
+    if (import->GelezenPersonen() + import->GelezenRelaties() > 0) {
+      reden =
+          "Het bestand is niet heel ingelezen: GEDCOM.LOG en GEDCOM.RST zeggen wat er ontbreekt";
+    }
     if (import->OpmerkingenVol()) {
       reden = "Opgeslagen zijn " + Aantal(import->GelezenPersonen()) + " personen en " +
               Aantal(import->GelezenRelaties()) + " relaties, en een deel van de opmerkingen";

@@ -122,7 +122,7 @@ void Maker::VulIn(const RapportVorm& vorm, Formulier& form) {
   werk.Druk(vorm.knop);
 }
 
-// Of two forms with choices the first takes those that it has, the last all that are left.
+// Of two forms with choices the first takes those that it shows, the last all that are left.
 bool Maker::VulKeuzen(const RapportVorm& vorm, Werk& werk, const Formulier& form) {
   const auto later = [](const RapportVorm* een, const RapportVorm* eind) {
     return std::any_of(een + 1, eind, [](const RapportVorm& andere) { return andere.metZet; });
@@ -134,7 +134,8 @@ bool Maker::VulKeuzen(const RapportVorm& vorm, Werk& werk, const Formulier& form
     const std::size_t teken = std::min(zet.find('='), zet.size());
     const std::size_t achter = std::min(teken + 1, zet.size());
     const std::string naam = zet.substr(0, teken);
-    if (!laatste && !form.Zoek(naam)) {
+    const Bediening* const veld = form.Zoek(naam);
+    if (!laatste && (!veld || !veld->Zichtbaar())) {
       over.push_back(zet);
     } else if (!werk.Zet(naam, zet.substr(achter))) {
       goed = false;

@@ -5,6 +5,7 @@
 #include <string>
 #include <system_error>
 
+#include "store/PlatformNamen.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
@@ -35,7 +36,7 @@ Werkmap::Werkmap(const std::filesystem::path& map) : pad_(MaakNieuw(map)) {
 
 Werkmap::~Werkmap() {
   std::error_code code;
-  if (!pad_.empty()) std::filesystem::remove_all(pad_, code);
+  if (!pad_.empty()) VerwijderMapVanSchijf(pad_, code);
 }
 
 }  // namespace lb77

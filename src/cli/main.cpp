@@ -208,7 +208,7 @@ void BeschrijfRegel(CLI::App& app, Regel& regel) {
 }
 
 int Hoofd(const std::vector<std::string>& woorden) {
-  const Opdrachtvenster venster;
+  const Opdrachtvenster venster(std::cout, std::cerr);
   OverleefVertrokkenLezer();
   CLI::App app("LB77: stamboomprogramma, op de opdrachtregel");
   Regel regel;

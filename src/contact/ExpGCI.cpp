@@ -102,7 +102,9 @@ ExpGCI::Afloop ExpGCI::BepaalReeksen() {
   std::set<std::string> gemeld;
   const auto ongeldig = [&](const std::string& naam) {
     if (!gemeld.insert(naam).second) return;
-    Hoofd().gesprek.Waarschuw("Ongeldige naam: " + naam + " (oneven aantal haakjes)");
+    const std::string welke = naam + " (oneven aantal haakjes)";
+    verslag_.namen.push_back(welke);
+    Hoofd().gesprek.Waarschuw("Ongeldige naam: " + welke);
   };
   if (!LosHaakjesOp(reeksen_, ongeldig)) return TeVeel(kTeVeelReeksen);
   afloop = ZoekPlaatsen();
@@ -127,8 +129,16 @@ ExpGCI::Afloop ExpGCI::Scan() {
   const Uitslag uitslag = scan.Voer(verloop);
   if (uitslag == Einde::Afgebroken) return Afloop::Afgebroken;
   if (uitslag == Einde::Vol) return TeVeel(kTeVeelReeksen);
+  MeldGestopt(scan.GestoptBij());
   reeksen_ = reeksen.Neem();
   return Afloop::Klaar;
+}
+
+void ExpGCI::MeldGestopt(std::int16_t nr) {
+  if (nr == 0 || !LigtErMeer(Hoofd().bestanden.Bestand(BestandSoort::Personen), nr)) return;
+  verslag_.gestopt = "gestopt bij persoonsrecord " + GetalTekst(nr) +
+                     "; de personen daarachter zijn niet meegenomen";
+  Hoofd().gesprek.Waarschuw("LET OP: " + verslag_.gestopt);
 }
 
 NaamOordeel ExpGCI::Keur(const std::string& naam) {
@@ -146,6 +156,7 @@ NaamOordeel ExpGCI::Keur(const std::string& naam) {
 ExpGCI::Afloop ExpGCI::ZoekPlaatsen() {
   GciPlaatsToets toets(tabellen_, Hoofd().Plaats, Hoofd().gesprek,
                        [this](const GciPlaats& plaats) { return Corrigeer(plaats); });
+  if (opties_.neemEnige) toets.NeemEnige();
   Afloop afloop = Afloop::Klaar;
   std::size_t gedaan = 0;
   for (GciReeks& reeks : reeksen_) {
@@ -235,9 +246,8 @@ void ExpGCI::SluitAf(Afloop afloop) {
   }
 }
 
-bool ExporteerContact(Hoofdmodule& hoofd) {
+bool ExporteerContact(Hoofdmodule& hoofd, GciOpties opties) {
   hoofd.volgers.HuidigPersoonNr = -1;
-  GciOpties opties;
   ExpGCIParam vraag(hoofd, opties);
   hoofd.gesprek.ToonModaal(vraag);
   if (!vraag.Gekozen()) return false;

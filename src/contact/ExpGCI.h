@@ -67,6 +67,8 @@ class ExpGCI final : public WerkFormulier {
   [[nodiscard]] Afloop LeesTabel(int gang, const Tabel& tabel, std::vector<std::string>& rijen);
   [[nodiscard]] Afloop BepaalReeksen();
   [[nodiscard]] Afloop Scan();
+  // Tells of a scan that ended there, when there are persons behind it.
+  void MeldGestopt(std::int16_t nr);
   [[nodiscard]] Afloop ZoekPlaatsen();
   [[nodiscard]] Afloop TeVeel(std::string_view melding);
   [[nodiscard]] Afloop SchrijfBestanden();
@@ -88,7 +90,8 @@ class ExpGCI final : public WerkFormulier {
   std::array<Vinkje*, 6> vinkjes_{&Pass1box, &Pass2box, &Pass3box, &Pass4box, &Pass5box, &Pass6box};
 };
 
-// The whole export, from its questions to its log. True when both files were made.
-bool ExporteerContact(Hoofdmodule& hoofd);
+// The whole export, from its questions to its log. True when both files were made. Of `opties` only what
+// the questions do not ask has a meaning.
+bool ExporteerContact(Hoofdmodule& hoofd, GciOpties opties = {});
 
 }  // namespace lb77

@@ -123,13 +123,16 @@ bool ExpGCICorr::FilterPlaatsnaamVerlaten() {
 
 bool ExpGCICorr::FilterProvVerlaten() {
   if (FilterProv.Tekst() == provTekst_) return true;
-  const auto code = ProvincieCode(FilterProv.Tekst(), filter_.land, tabellen_.provincies);
+  auto code = ProvincieCode(FilterProv.Tekst(), filter_.land, tabellen_.provincies);
+  if (!code) code = tabellen_.plaatsen.MetProv(FilterProv.Tekst());
   if (!code) {
     gesprek_.Waarschuw("Onbekende provincienaam");
     return false;
   }
   filter_.prov = *code;
   provTekst_ = ProvincieNaam(*code, filter_.land, tabellen_.provincies, FilterProv.Tekst());
+  // A code that only the places have is all there is to show.
+  if (provTekst_ == kNaamloos) provTekst_ = *code;
   FilterProv.ZetTekst(provTekst_);
   return FilterAnders();
 }

@@ -23,6 +23,10 @@ int Bewaard(std::string_view waarde, int laagste, int hoogste, int standaard) {
   return getal < laagste || getal > hoogste ? standaard : getal;
 }
 
+bool IsEmail(std::string_view adres) {
+  return adres.find('@') != std::string_view::npos;
+}
+
 std::string JaNee(bool ja) {
   return ja ? "J" : "N";
 }
@@ -98,11 +102,11 @@ void ExpGCIParam::BijLaden() {
   PublicatieBox.ZetIndex(
       Bewaard(ini.IniWaarde("GCI", "PublicatieMag"), 1, kPublicatieNee, kPublicatieNee) - 1);
   const std::string email(Trim(ini.IniWaarde("INTERNET", "Email")));
-  EmailAdres.ZetTekst(email.empty() ? kGeenEmail : email);
+  EmailAdres.ZetTekst(IsEmail(email) ? email : std::string(kGeenEmail));
 }
 
 bool ExpGCIParam::EmailAdresVerlaten() {
-  if (EmailAdres.Tekst().find('@') != std::string::npos) return true;
+  if (IsEmail(EmailAdres.Tekst())) return true;
   Hoofd().gesprek.Waarschuw("Onjuist e-mail adres");
   return false;
 }
@@ -113,6 +117,7 @@ std::string ExpGCIParam::Email() const {
 }
 
 void ExpGCIParam::StartExportButtonKlik() {
+  if (!EmailAdresVerlaten()) return;
   for (const Getalkeuze& keuze : Getallen()) opties_.*keuze.doel = keuze.vak.Getal();
   opties_.gebPlaatsKind = OokMoedersWoonplaatsBox.Gekozen();
   opties_.geslacht = GeslachtBox.Index() == 1 ? "V" : "M";

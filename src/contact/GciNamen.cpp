@@ -62,11 +62,12 @@ Vorm LosOp(std::vector<GciReeks>& reeksen, std::size_t rij, std::size_t hoogsten
       const Paar paar = ZoekPaar(naam, haakjes);
       if (!paar.evenwichtig) return Vorm::Ongeldig;
       if (paar.sluit <= paar.open) break;
-      const std::string voor = naam.substr(0, paar.open);
-      const std::string binnen = naam.substr(paar.open + 1, paar.sluit - paar.open - 1);
-      const std::string achter = naam.substr(paar.sluit + 1);
-      reeksen[rij].naam = std::string(Trim(voor + binnen + achter));
-      if (!VoegVormToe(reeksen, rij, Trim(voor + achter), hoogstens)) return Vorm::Vol;
+      std::string met = naam;
+      met.erase(paar.sluit, 1).erase(paar.open, 1);
+      std::string zonder = naam;
+      zonder.erase(paar.open, paar.sluit + 1 - paar.open);
+      reeksen[rij].naam = std::string(Trim(met));
+      if (!VoegVormToe(reeksen, rij, Trim(zonder), hoogstens)) return Vorm::Vol;
     }
   }
   return Vorm::Heel;

@@ -59,11 +59,20 @@ std::int16_t GciPlaatsToets::Zoek(const GciPlaats& plaats) {
       return rij;
     }
   }
+  if (neemEnige_ && rijen.size() == 1 && plaats.eigenCode.empty()) {
+    gesprek_.Informeer("De enige van die naam voor plaatscode " + GetalTekst(plaats.nr) + " - " +
+                       plaats.naam + "\nGevonden: " + Gevonden(rijen.front()));
+    return rijen.front();
+  }
   for (const std::int16_t rij : rijen) {
-    const std::string gevonden = Lijst({tabel.Naam(rij), tabel.Prov(rij), tabel.Land(rij)});
-    if (IsJuist(kJuisteProvincie, plaats, gevonden)) return rij;
+    if (IsJuist(kJuisteProvincie, plaats, Gevonden(rij))) return rij;
   }
   return 0;
+}
+
+std::string GciPlaatsToets::Gevonden(std::int16_t rij) const {
+  const GciPlaatsen& tabel = tabellen_.plaatsen;
+  return Lijst({tabel.Naam(rij), tabel.Prov(rij), tabel.Land(rij)});
 }
 
 // A synonym that the user takes is the name from here on.

@@ -37,6 +37,10 @@ class GciPlaatsToets {
   GciPlaatsToets(GciTabellen& tabellen, PlaatsLB77& plaats, Gesprek& gesprek, Corrigeer corrigeer)
       : tabellen_(tabellen), plaats_(plaats), gesprek_(gesprek), corrigeer_(std::move(corrigeer)) {}
 
+  // From here on a place whose own code is empty gets the row of its name without a question, when
+  // there is only one, and that is told.
+  void NeemEnige() { neemEnige_ = true; }
+
   // The row of a place number, kWeglaten or kAfbreken. What was answered once is not asked again.
   [[nodiscard]] std::int16_t Rij(std::int16_t plaatsNr);
 
@@ -49,6 +53,7 @@ class GciPlaatsToets {
   [[nodiscard]] std::int16_t ZoekSynoniem(GciPlaats& plaats);
   [[nodiscard]] std::int16_t VraagCorrectie(const GciPlaats& plaats);
   [[nodiscard]] std::int16_t VraagToch(const GciPlaats& plaats);
+  [[nodiscard]] std::string Gevonden(std::int16_t rij) const;
   [[nodiscard]] bool IsJuist(std::string_view vraag, const GciPlaats& plaats,
                              const std::string& gevonden);
 
@@ -56,6 +61,7 @@ class GciPlaatsToets {
   PlaatsLB77& plaats_;
   Gesprek& gesprek_;
   Corrigeer corrigeer_;
+  bool neemEnige_ = false;
   std::unordered_map<std::int16_t, std::int16_t> bekend_;
   std::vector<std::string> overgeslagen_;
 };

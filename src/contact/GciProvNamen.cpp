@@ -184,10 +184,10 @@ std::optional<std::string> ProvincieCode(std::string_view tekst, std::string_vie
                                          const GciProvincies& provincies) {
   const std::string_view kaal = Trim(tekst);
   if (kaal.empty()) return std::string();
-  if (const auto code = CodeInTabel(kaal, Trim(land))) return code;
-  if (const auto code = provincies.MetNaam(kaal)) return code;
-  if (const auto code = CodeInTabel(kaal, std::nullopt)) return code;
-  if (const auto code = provincies.MetCode(kaal)) return code;
+  if (auto code = CodeInTabel(kaal, Trim(land))) return code;
+  if (auto code = provincies.MetNaam(kaal)) return code;
+  if (auto code = CodeInTabel(kaal, std::nullopt)) return code;
+  if (auto code = provincies.MetCode(kaal)) return code;
   const NaamRij* rij = InTabel(kaal, Trim(land));
   return rij ? std::optional(std::string(rij->Prov())) : std::nullopt;
 }
@@ -205,7 +205,7 @@ std::optional<std::string> LandCode(std::string_view tekst, const GciLanden& lan
   if (GelijkZonderKast(kaal, kNederland) || GelijkZonderKast(kaal, "Nederland")) {
     return std::string(kNederland);
   }
-  if (const auto code = landen.MetCode(ZonderAlias(kaal))) return code;
+  if (auto code = landen.MetCode(ZonderAlias(kaal))) return code;
   return landen.MetNaam(kaal);
 }
 

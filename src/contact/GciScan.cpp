@@ -1,5 +1,7 @@
 #include "contact/GciScan.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <utility>
 
 #include "text/Getallen.h"
@@ -23,7 +25,10 @@ Uitslag GciScan::Voer(const Verloop& verloop) {
   for (std::int32_t nr = kEerste; nr <= kMaxRecords; ++nr) {
     if (verloop.afbreken()) return Einde::Afgebroken;
     const auto persoonNr = static_cast<std::int16_t>(nr);
-    if (!persoon_.Lees(persoonNr)) break;
+    if (!persoon_.Lees(persoonNr)) {
+      gestoptBij_ = persoonNr;
+      break;
+    }
     verloop.toon(nr - kEerste + 1, reeksen_.Aantal());
     if (persoon_.IsVolgRecord()) continue;
     const Wie wie{persoon_.AchterNaamTrue(), persoonNr, persoon_.Geslacht() == "V"};
@@ -76,6 +81,19 @@ bool GciScan::TelRelatie(const Wie& wie, std::int16_t relatieNr) {
     if (kind >= kEerste && persoon_.Lees(kind) && !TelGeboorte(wie)) return false;
   }
   return true;
+}
+
+bool LigtErMeer(RecordBestand& personen, std::int16_t nr) {
+  const std::size_t lengte = personen.RecordLengte();
+  const std::uint64_t records = personen.Lengte() / lengte;
+  auto laatste = static_cast<std::int32_t>(std::min<std::uint64_t>(records, kMaxRecords));
+  std::string bytes(lengte, '\0');
+  // A part that was never written is no person.
+  for (; laatste > nr; --laatste) {
+    const Leesuitslag uitslag = personen.Lees(laatste, bytes);
+    if (uitslag.fout || bytes.find_first_not_of('\0') != std::string::npos) return true;
+  }
+  return false;
 }
 
 }  // namespace lb77

@@ -8,6 +8,7 @@
 #include "contact/GciReeksen.h"
 #include "reporting/Verloop.h"
 #include "store/PersoonLB77.h"
+#include "store/RecordBestand.h"
 #include "store/RelatieLB77.h"
 
 namespace lb77 {
@@ -27,6 +28,9 @@ class GciScan {
   // too many series.
   [[nodiscard]] Uitslag Voer(const Verloop& verloop);
 
+  // The number of the person that could not be read; 0 before that.
+  [[nodiscard]] std::int16_t GestoptBij() const { return gestoptBij_; }
+
  private:
   // Whose events are being counted.
   struct Wie {
@@ -45,6 +49,10 @@ class GciScan {
   GciReeksen& reeksen_;
   bool kinderen_;
   Keur keur_;
+  std::int16_t gestoptBij_ = 0;
 };
+
+// Does a person file hold anything behind that record?
+[[nodiscard]] bool LigtErMeer(RecordBestand& personen, std::int16_t nr);
 
 }  // namespace lb77

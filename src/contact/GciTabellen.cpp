@@ -38,6 +38,13 @@ const std::vector<std::int16_t>& GciPlaatsen::MetNaam(std::string_view naam) con
   return plek == opNaam_.end() ? geen_ : plek->second;
 }
 
+std::optional<std::string> GciPlaatsen::MetProv(std::string_view code) const {
+  for (int rij = 1; rij <= Aantal(); ++rij) {
+    if (GelijkZonderKast(Prov(rij), Trim(code))) return std::string(Prov(rij));
+  }
+  return std::nullopt;
+}
+
 std::int16_t GciPlaatsen::VoegToe(std::string_view naam, std::string_view prov,
                                   std::string_view land) {
   if (Aantal() >= kMaxRecords) return 0;

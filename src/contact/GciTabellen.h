@@ -27,6 +27,9 @@ class GciPlaatsen {
   [[nodiscard]] std::string_view Land(int rij) const;
   // The rows of a name in capitals and small letters alike, in their order.
   [[nodiscard]] const std::vector<std::int16_t>& MetNaam(std::string_view naam) const;
+  // The first province code that is that text, in capitals and small letters alike; nothing when no
+  // row has it.
+  [[nodiscard]] std::optional<std::string> MetProv(std::string_view code) const;
   // Adds a row of texts cut to their columns and gives its number; 0 when the table is full.
   [[nodiscard]] std::int16_t VoegToe(std::string_view naam, std::string_view prov,
                                      std::string_view land);

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 #include <system_error>
+#include <vector>
 
+#include "app/PlaatsNemen.h"
 #include "store/Paden.h"
 #include "text/Getallen.h"
 #include "text/Letterlijk.h"
@@ -37,11 +40,6 @@ struct Uitvoer {
   const std::filesystem::path& doel;
   std::string_view inhoud;
 
-  [[nodiscard]] std::filesystem::path Ernaast() const {
-    std::filesystem::path pad = doel;
-    pad += ".nieuw";
-    return pad;
-  }
   [[nodiscard]] std::string NietOpen(const SysteemFout& fout) const {
     return std::string(nietOpen) + PadTekst(doel) + " niet openen\n" + fout.tekst;
   }
@@ -65,7 +63,7 @@ SysteemFout MaakPlaats(const std::filesystem::path& doel) {
 
 std::optional<std::string> SchrijfErnaast(const Uitvoer& uitvoer, Bestandswerk& werk) {
   if (SysteemFout fout = MaakPlaats(uitvoer.doel)) return uitvoer.NietOpen(fout);
-  const SchrijfUitslag uitslag = werk.Maak(uitvoer.Ernaast(), uitvoer.inhoud);
+  const SchrijfUitslag uitslag = werk.Maak(Ernaast(uitvoer.doel), uitvoer.inhoud);
   switch (uitslag.stap) {
     case SchrijfStap::Openen:
       return uitvoer.NietOpen(uitslag.fout);
@@ -77,21 +75,20 @@ std::optional<std::string> SchrijfErnaast(const Uitvoer& uitvoer, Bestandswerk& 
   return std::nullopt;
 }
 
-template <std::size_t N>
-std::optional<std::string> SchrijfAlle(const std::array<Uitvoer, N>& alle, Bestandswerk& werk) {
+// Both, or neither.
+std::optional<std::string> SchrijfAlle(std::span<const Uitvoer> alle, Bestandswerk& werk) {
   std::optional<std::string> melding;
+  std::vector<std::filesystem::path> plaatsen;
   for (const Uitvoer& uitvoer : alle) {
+    plaatsen.push_back(uitvoer.doel);
     if (!melding) melding = SchrijfErnaast(uitvoer, werk);
   }
-  for (const Uitvoer& uitvoer : alle) {
-    if (melding) break;
-    if (SysteemFout fout = werk.Hernoem(uitvoer.Ernaast(), uitvoer.doel)) {
-      melding = uitvoer.NietOpen(fout);
+  if (!melding) {
+    if (const auto fout = NeemPlaatsen(plaatsen, werk)) {
+      melding = alle[fout->welke].NietOpen(fout->fout) + NietTerugTekst(*fout, plaatsen);
     }
   }
-  if (!melding) return melding;
-  // One that never came, or has its place already, is none to remove.
-  for (const Uitvoer& uitvoer : alle) static_cast<void>(werk.Verwijder(uitvoer.Ernaast()));
+  if (melding) RuimErnaast(plaatsen, werk);
   return melding;
 }
 
@@ -156,15 +153,16 @@ GciPaden GciPaden::In(const std::filesystem::path& map) {
 
 std::optional<std::string> SchrijfContact(const GciPaden& paden, std::string_view inz,
                                           std::string_view fam, Bestandswerk& werk) {
-  return SchrijfAlle(
-      std::array<Uitvoer, 2>{{{kInzNietOpen, paden.inz, inz}, {kFamNietOpen, paden.fam, fam}}},
-      werk);
+  const std::array<Uitvoer, 2> beide{
+      {{kInzNietOpen, paden.inz, inz}, {kFamNietOpen, paden.fam, fam}}};
+  return SchrijfAlle(beide, werk);
 }
 
 std::string LogTekst(const GciVerslag& verslag, const GciPaden& paden) {
   Logregels log;
   log.Voeg("Log-file: " + PadTekst(paden.log));
   log.Voeg("Start export (" + Datumtijd(verslag.begin) + ")");
+  if (!verslag.gestopt.empty()) log.Voeg("LET OP: " + verslag.gestopt);
   VoegOvergeslagen(log, verslag);
   if (!verslag.reden.empty()) {
     log.VoegMelding(verslag.reden);
@@ -180,13 +178,16 @@ std::string LogTekst(const GciVerslag& verslag, const GciPaden& paden) {
 
 std::optional<std::string> SchrijfLog(const GciPaden& paden, std::string_view tekst,
                                       Bestandswerk& werk) {
-  const Uitvoer log{"", paden.log, tekst};
-  SysteemFout fout = MaakPlaats(log.doel);
-  if (!fout) fout = werk.Maak(log.Ernaast(), tekst).fout;
-  if (!fout) fout = werk.Hernoem(log.Ernaast(), log.doel);
-  if (!fout) return std::nullopt;
-  static_cast<void>(werk.Verwijder(log.Ernaast()));
-  return NietGeschreven(log.doel, fout);
+  const std::array<std::filesystem::path, 1> plaats{paden.log};
+  SysteemFout fout = MaakPlaats(paden.log);
+  if (!fout) fout = werk.Maak(Ernaast(paden.log), tekst).fout;
+  if (!fout) {
+    const auto niet = NeemPlaatsen(plaats, werk);
+    if (!niet) return std::nullopt;
+    fout = niet->fout;
+  }
+  RuimErnaast(plaats, werk);
+  return NietGeschreven(paden.log, fout);
 }
 
 }  // namespace lb77

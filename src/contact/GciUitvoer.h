@@ -46,8 +46,9 @@ struct GciPaden {
   [[nodiscard]] static GciPaden In(const std::filesystem::path& map);
 };
 
-// Makes both files; each takes its place when both are whole. What went wrong, as the user reads it,
-// and then neither is there but for one that was there before.
+// Makes both files; each takes its place when both are whole. What went wrong, as the user reads it:
+// then those that were there before are there again, unless the text says that one could not be put
+// back (it is beside its place as .oud).
 [[nodiscard]] std::optional<std::string> SchrijfContact(const GciPaden& paden, std::string_view inz,
                                                         std::string_view fam, Bestandswerk& werk);
 
@@ -57,7 +58,8 @@ struct GciVerslag {
   std::vector<std::string> namen;  // left out
   std::vector<std::string> plaatsen;
   std::size_t reeksen = 0;
-  std::string reden;  // why there are no files, in one or more lines; empty when there are
+  std::string reden;      // why there are no files, in one or more lines; empty when there are
+  std::string gestopt{};  // where the persons ended before their time; empty when they did not
 };
 
 [[nodiscard]] std::string LogTekst(const GciVerslag& verslag, const GciPaden& paden);

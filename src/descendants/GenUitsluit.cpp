@@ -10,6 +10,7 @@ namespace {
 
 constexpr PersoonVakSoort kVolgNiet = {.controle = PersoonControle::Tonen,
                                        .naamInvoer = false,
+                                       .danOK = true,
                                        .onbekend = "<onbekend>",
                                        .nr = "RecordNrVolgNiet",
                                        .voor = "VoorNmVolgNiet",
@@ -26,11 +27,14 @@ GenUitsluit::GenUitsluit(const GenUitsluitSoort& soort, Hoofdmodule& hoofd, GenO
     : KetenFormulier(soort.naam, "Takken uitsluiten", hoofd), opties_(opties) {
   ZetHulpOnderwerp("genealogie");
   ZetEersteVeld(Rijen(1).VolgNiet.RecordNr);
-  Rijen.Elk([](int, Rij& rij) {
-    rij.ZoekButton.BijKlik([&rij] { static_cast<void>(rij.VolgNiet.Zoek()); });
-  });
+  Rijen.Elk(
+      [this](int, Rij& rij) { rij.ZoekButton.BijKlik([this, &rij] { ZoekButtonKlik(rij); }); });
   OKButton.BijKlik([this] { OKButtonKlik(); });
   KoppelTerug(BackButton);
+}
+
+void GenUitsluit::ZoekButtonKlik(Rij& rij) {
+  if (rij.VolgNiet.Zoek()) ZetFocus(OKButton);
 }
 
 void GenUitsluit::OKButtonKlik() {

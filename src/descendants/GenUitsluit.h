@@ -37,6 +37,7 @@ class GenUitsluit final : public KetenFormulier {
   Knop BackButton{*this, "BackButton", "&Terug"};
 
  private:
+  void ZoekButtonKlik(Rij& rij);
   void OKButtonKlik();
 
   GenOpties& opties_;

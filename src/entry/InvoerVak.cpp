@@ -18,7 +18,11 @@ bool InvoerVak::OpVerlaten() {
 }
 
 void InvoerVak::OpToets(ToetsGebeurtenis& toets) {
+  const std::string oud = Tekst();
+  const bool zoekt = danOK_ && toets.code == toets::kF2 && !toets.shift;
   VeldToetsIn(formulier_, *this, soort_, Hoofd(), toets);
+  if (!zoekt || Tekst() == oud) return;
+  if (Bediening* const ok = formulier_.Zoek("OKButton")) formulier_.GaNaar(*ok);
 }
 
 }  // namespace lb77

@@ -17,6 +17,9 @@ class InvoerVak : public Tekstvak {
                      std::string_view bijschrift = {}, std::size_t maxLengte = 0,
                      InvoerSoort soort = InvoerSoort::Tekst);
 
+  // Who has been found by F2 is what the form asked for: the focus goes to its OKButton.
+  void ZetDanOK() { danOK_ = true; }
+
  protected:
   [[nodiscard]] bool OpVerlaten() override;
   void OpToets(ToetsGebeurtenis& toets) override;
@@ -27,6 +30,7 @@ class InvoerVak : public Tekstvak {
  private:
   InvoerFormulier& formulier_;
   InvoerSoort soort_;
+  bool danOK_ = false;
 };
 
 }  // namespace lb77

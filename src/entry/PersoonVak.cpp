@@ -36,7 +36,7 @@ bool PersoonVak::NrVak::OpVerlaten() {
 void PersoonVak::NrVak::OpToets(ToetsGebeurtenis& toets) {
   if (toets.code == toets::kF2 && !toets.shift) {
     toets.verwerkt = true;
-    if (geheel_.Zoek() && geheel_.soort_.danOK) geheel_.GaNaarOK();
+    if (geheel_.Zoek()) geheel_.NaF2();
   } else {
     InvoerVak::OpToets(toets);
   }
@@ -120,8 +120,10 @@ bool PersoonVak::Zoek() {
   return true;
 }
 
-void PersoonVak::GaNaarOK() {
-  if (Bediening* const ok = formulier_.Zoek("OKButton")) formulier_.GaNaar(*ok);
+void PersoonVak::NaF2() {
+  if (bijGevonden_) return bijGevonden_();
+  Bediening* const ok = soort_.danOK ? formulier_.Zoek("OKButton") : nullptr;
+  if (ok) formulier_.GaNaar(*ok);
 }
 
 bool PersoonVak::VulNrUitNaam(std::string_view geslacht) {

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "entry/InvoerVak.h"
 #include "forms/Weergave.h"
@@ -79,14 +81,17 @@ class PersoonVak {
   // Has the user choose a person, and shows him. False when he chose nobody.
   [[nodiscard]] bool Zoek();
   void ZetZichtbaar(bool zichtbaar);
+  // What follows when F2 has found a person, in place of danOK.
+  void BijGevonden(std::function<void()> doe) { bijGevonden_ = std::move(doe); }
 
  private:
   [[nodiscard]] bool NrVerlaten();
-  void GaNaarOK();
+  void NaF2();
   [[nodiscard]] std::string OfOnbekend(const std::string& naam) const;
 
   InvoerFormulier& formulier_;
   PersoonVakSoort soort_;
+  std::function<void()> bijGevonden_;
 };
 
 }  // namespace lb77

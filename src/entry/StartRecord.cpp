@@ -80,6 +80,7 @@ StartRecord::StartRecord(Hoofdmodule& hoofd)
     vak->ZetFilter(CijferOfN);
     vak->ZetEnter(EnterSoort::OK);
   }
+  PersNr.ZetDanOK();
   PersNr.BijVerlaten([this] { return PersNrVerlaten(); });
   RelNr.BijVerlaten([this] { return RelNrVerlaten(); });
   OKButton.BijKlik([this] { OKButtonKlik(); });

@@ -8,6 +8,7 @@
 #include "entry/VraagFilter.h"
 #include "entry/VraagRecordNr.h"
 #include "text/Getallen.h"
+#include "text/Tekens.h"
 
 namespace lb77 {
 
@@ -217,9 +218,21 @@ void ZoekPrs::ZoeknaamWijziging() {
 void ZoekPrs::ZoekTreffers() {
   if (!namen_.IsGebouwd()) namen_.Bouw(hoofd_.bestanden.Bestand(BestandSoort::Personen));
   treffers_ = namen_.Zoek(Zoeknaam.Tekst(), filter_);
+  NeemNummer();
   Treffers.ZetBijschrift(TreffersTekst(treffers_.size(), filter_.FilterAan));
   eersteTreffer_ = 0;
   GaNaarRecord(treffers_.empty() ? kEersteNr : treffers_.front());
+}
+
+// Whoever knows the number of a person types that.
+void ZoekPrs::NeemNummer() {
+  const std::string_view tekst = Trim(Zoeknaam.Tekst());
+  const bool cijfers = std::ranges::all_of(tekst, IsCijfer);
+  const auto nr = cijfers ? NaarInt16(Getalwaarde(tekst)) : std::nullopt;
+  if (!nr || *nr < kEersteNr || *nr > hoofd_.Persoon.AantalRecords()) return;
+  if (!hoofd_.Persoon.Lees(*nr) || !IsToonbaar()) return;
+  const auto plek = std::ranges::lower_bound(treffers_, *nr);
+  if (plek == treffers_.end() || *plek != *nr) treffers_.insert(plek, *nr);
 }
 
 void ZoekPrs::WisZoeknaam() {

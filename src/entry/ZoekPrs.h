@@ -78,6 +78,7 @@ class ZoekPrs final : public Formulier, public Bladeraar {
   void ZoeknaamToets(ToetsGebeurtenis& toets);
   [[nodiscard]] bool ZoektNaam() const { return zoekt_; }
   void ZoekTreffers();
+  void NeemNummer();
   void WisZoeknaam();
   // The first number from `nr` on that the list may show.
   [[nodiscard]] std::int32_t Vanaf(std::int32_t nr) const;

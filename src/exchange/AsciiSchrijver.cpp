@@ -33,6 +33,9 @@ constexpr std::array kRelatieVolgorde = {
     relatierubriek::kOtrDatum,     relatierubriek::kOtrPlaats, relatierubriek::kWetHuwDatum,
     relatierubriek::kWetHuwPlaats, relatierubriek::kKHuwDatum, relatierubriek::kKHuwPlaats};
 
+constexpr std::array kRelatieZonder = {relatierubriek::kHuwSoort, relatierubriek::kReligie,
+                                       relatierubriek::kAlgemeen};
+
 // A line, field by field.
 class Veldregel {
  public:
@@ -99,7 +102,8 @@ AsciiSchrijver::AsciiSchrijver(const AsciiBronnen& bronnen)
 
 void AsciiSchrijver::Persoon(std::int16_t nr) {
   PersoonLB77& persoon = bronnen_.gegevens.persoon;
-  if (!persoon.Lees(nr) || persoon.IsVolgRecord()) return;
+  if (!persoon.Lees(nr)) return bronnen_.log.Regel(NietUitgevoerd(kPersoonLeesfout, nr));
+  if (persoon.IsVolgRecord()) return;
   const PersoonPlaatsen plaatsNr(persoon);
   const std::string sorteernaam = persoon.AchterNaamVVC();
   const GedcomPersoon p = HaalPersoon(bronnen_.gegevens, plaatsen_, bronnen_.gesprek);
@@ -122,12 +126,13 @@ void AsciiSchrijver::Persoon(std::int16_t nr) {
     regel.Verwijzing(relatie, bronnen_.selectie.SelRelaties);
   }
   bronnen_.personen.Regel(regel.Tekst());
-  Opmerkingen({"P" + GetalTekst(nr), p.opmRecord, p.opmCode}, kPersoonVolgorde);
+  Opmerkingen({"P" + GetalTekst(nr), p.opmRecord, p.opmCode}, kPersoonVolgorde, {});
 }
 
 void AsciiSchrijver::Relatie(std::int16_t nr) {
   RelatieLB77& relatie = bronnen_.gegevens.relatie;
-  if (!relatie.Lees(nr) || relatie.IsVolgRecord()) return;
+  if (!relatie.Lees(nr)) return bronnen_.log.Regel(NietUitgevoerd(kRelatieLeesfout, nr));
+  if (relatie.IsVolgRecord()) return;
   const RelatiePlaatsen plaatsNr(relatie);
   const Eigenaar eigenaar{"R" + GetalTekst(nr), relatie.OpmRecord(), relatie.OpmCode()};
   const GedcomRelatie r = HaalRelatie(bronnen_.gegevens, plaatsen_, bronnen_.gesprek);
@@ -146,20 +151,22 @@ void AsciiSchrijver::Relatie(std::int16_t nr) {
   regel.Feit(r.khuw, plaatsNr.khuw);
   regel.Tekst(r.religie, kGezindte);
   bronnen_.relaties.Regel(regel.Tekst());
-  Opmerkingen(eigenaar, kRelatieVolgorde);
+  Opmerkingen(eigenaar, kRelatieVolgorde, kRelatieZonder);
 }
 
 // kept: a number of five digits pushes the letter of its owner out of the field.
-void AsciiSchrijver::Opmerkingen(const Eigenaar& eigenaar,
-                                 std::span<const std::int16_t> rubrieken) {
+void AsciiSchrijver::Opmerkingen(const Eigenaar& eigenaar, std::span<const std::int16_t> rubrieken,
+                                 std::span<const std::int16_t> zonder) {
   if (eigenaar.opmRecord == 0) return;
   opmReeks_.Lees(eigenaar.opmRecord);
   for (const std::int16_t rubriek : rubrieken) {
     const OpmReeks::Inhoud inhoud = opmReeks_.Rubriek(eigenaar.opmCode, rubriek);
     const std::string kop = Cijfers(eigenaar.id) + Cijfers(GetalTekst(rubriek));
+    tweede_ += inhoud.over;
     std::int32_t nr = 0;
     for (const std::string& tekst : inhoud.regels) {
-      const std::string regel = kop + Cijfers(GetalTekst(++nr)) + tekst;
+      std::string regel = kop;
+      regel.append(Cijfers(GetalTekst(++nr))).append(tekst);
       if (BegintMet(tekst, kKetenfout)) {
         bronnen_.log.Regel(
             regel + " (opm-reeks start bij opm-record: " + GetalTekst(eigenaar.opmRecord) + ")");
@@ -167,6 +174,9 @@ void AsciiSchrijver::Opmerkingen(const Eigenaar& eigenaar,
       }
       bronnen_.opmerkingen.Regel(regel);
     }
+  }
+  for (const std::int16_t rubriek : zonder) {
+    if (opmReeks_.Heeft(eigenaar.opmCode, rubriek)) zonder_ += opmReeks_.Koppen(rubriek).size();
   }
 }
 
@@ -177,6 +187,8 @@ void AsciiSchrijver::LogSlot(const ExpTelling& telling) {
   log.Regel(Totaal(telling.relaties, "Relaties geëxporteerd"_w));
   log.Regel(Totaal(telling.bronnen, "Bronnen geëxpoteerd"_w));
   log.Regel(kExporterenVoltooid);
+  MeldWeggelaten(log, tweede_, kTweedeOpmerking);
+  MeldWeggelaten(log, zonder_, "bij de soort of de religie van een huwelijk, of een relatie zelf");
 }
 
 }  // namespace lb77

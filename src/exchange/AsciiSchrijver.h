@@ -1,6 +1,7 @@
 // The fixed-width export: a line for each person and relation, one for each line of a remark.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -29,8 +30,8 @@ struct AsciiBronnen {
   ExpUitvoer& log;
 };
 
-// Texts stay in Windows-1252. A record that can't be read, and the continuation of another, have no
-// line.
+// Texts stay in Windows-1252. A record that can't be read, which the log tells, and the continuation
+// of another have no line.
 class AsciiSchrijver final : public ExpSchrijver {
  public:
   explicit AsciiSchrijver(const AsciiBronnen& bronnen);
@@ -46,11 +47,14 @@ class AsciiSchrijver final : public ExpSchrijver {
     std::int16_t opmRecord;
     std::int16_t opmCode;
   };
-  void Opmerkingen(const Eigenaar& eigenaar, std::span<const std::int16_t> rubrieken);
+  void Opmerkingen(const Eigenaar& eigenaar, std::span<const std::int16_t> rubrieken,
+                   std::span<const std::int16_t> zonder);
 
   AsciiBronnen bronnen_;
   PlaatsNamen plaatsen_;
   OpmReeks opmReeks_;
+  std::size_t tweede_ = 0;  // remarks left out behind another of their rubric
+  std::size_t zonder_ = 0;  // and those of rubrics that have no field
 };
 
 }  // namespace lb77

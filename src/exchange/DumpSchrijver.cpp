@@ -4,7 +4,6 @@
 
 #include "exchange/ExpSchrijver.h"
 #include "text/Getallen.h"
-#include "text/Letterlijk.h"
 
 namespace lb77 {
 namespace {
@@ -18,8 +17,7 @@ void SchrijfRecord(const DumpSoort& soort, const Gegevens& gegevens, std::int16_
   if (soort.lees(gegevens, nr)) {
     soort.vul(gegevens, regel);
   } else {
-    log.Regel(
-        (std::string(soort.leesfout) + GetalTekst(nr)).append(". Record niet geëxporteerd."_w));
+    log.Regel(NietUitgevoerd(soort.leesfout, nr));
     while (regel.Aantal() < soort.aantal) regel.Tekst({});
   }
   uit.Kolommen(regel.Kolommen());

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "exchange/ExpSchrijver.h"
 #include "exchange/ExpUitvoer.h"
 #include "store/Codes.h"
 #include "store/PlaatsVelden.h"
@@ -160,7 +161,7 @@ void VulOpmerking(const Gegevens& gegevens, DumpRegel& regel) {
 
 constexpr DumpSoort kDumpPers{
     .bestand = BestandSoort::Personen,
-    .leesfout = "Leesfout bij Persoonsrecord ",
+    .leesfout = kPersoonLeesfout,
     .totaal = " Personen geëxpoteerd"_w,
     .kolommen = kKolommenPers,
     .aantal = 24,
@@ -170,7 +171,7 @@ constexpr DumpSoort kDumpPers{
 
 constexpr DumpSoort kDumpRel{
     .bestand = BestandSoort::Relaties,
-    .leesfout = "Leesfout bij Relatierecord ",
+    .leesfout = kRelatieLeesfout,
     .totaal = " Relaties geëxpoteerd"_w,
     .kolommen = kKolommenRel,
     .aantal = 33,

@@ -1,9 +1,15 @@
 #include "exchange/EenmaalGesprek.h"
 
+#include <utility>
+
+#include "text/Tekens.h"
+
 namespace lb77 {
 
 Antwoord EenmaalGesprek::Bericht(BerichtSoort soort, Knoppen knoppen, std::string_view tekst) {
-  const bool nieuw = getoond_.emplace(tekst.substr(0, tekst.find('\n'))).second;
+  std::string regel(tekst.substr(0, tekst.find('\n')));
+  if (gelijkenis_ == Gelijkenis::ZonderNummers) std::erase_if(regel, IsCijfer);
+  const bool nieuw = getoond_.insert(std::move(regel)).second;
   if (knoppen == Knoppen::OK && !nieuw) return Antwoord::OK;
   return echt_.Bericht(soort, knoppen, tekst);
 }

@@ -8,12 +8,19 @@
 
 namespace lb77 {
 
+// When two messages are the same: by their first lines, or by these without the numbers in them.
+enum class Gelijkenis { Regel, ZonderNummers };
+
 // For a record class that works through thousands of lines: what it told of one it need not tell
-// of all. Messages are the same when their first lines are; questions are always asked.
+// of all. Questions are always asked.
 class EenmaalGesprek final : public Gesprek {
  public:
   // `echt` is the door that shows.
-  explicit EenmaalGesprek(Gesprek& echt) : echt_(echt) {}
+  explicit EenmaalGesprek(Gesprek& echt, Gelijkenis gelijkenis = Gelijkenis::Regel)
+      : echt_(echt), gelijkenis_(gelijkenis) {}
+
+  // What was shown so far may be shown again.
+  void Opnieuw() { getoond_.clear(); }
 
   Antwoord Bericht(BerichtSoort soort, Knoppen knoppen, std::string_view tekst) override;
   bool BerichtMetVinkje(std::string_view tekst, std::string_view vinkje) override;
@@ -30,6 +37,7 @@ class EenmaalGesprek final : public Gesprek {
 
  private:
   Gesprek& echt_;
+  Gelijkenis gelijkenis_;
   std::set<std::string, std::less<>> getoond_;
 };
 

@@ -27,9 +27,9 @@ constexpr ExportSoort kSoort{
 ExpAscii::ExpAscii(Hoofdmodule& hoofd) : ExportForm(kSoort, hoofd) {}
 
 std::unique_ptr<ExpSchrijver> ExpAscii::MaakSchrijver(UitvoerBestanden& bestanden) {
-  return std::make_unique<AsciiSchrijver>(
-      AsciiBronnen{Hoofd().MaakGegevens(), Selectie(), Hoofd().gesprek, bestanden.Uit(0),
-                   bestanden.Uit(1), bestanden.Uit(2), bestanden.Log()});
+  return std::make_unique<AsciiSchrijver>(AsciiBronnen{Records(), Selectie(), Hoofd().gesprek,
+                                                       bestanden.Uit(0), bestanden.Uit(1),
+                                                       bestanden.Uit(2), bestanden.Log()});
 }
 
 }  // namespace lb77

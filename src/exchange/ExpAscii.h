@@ -12,6 +12,7 @@ class ExpAscii final : public ExportForm {
   explicit ExpAscii(Hoofdmodule& hoofd);
 
  protected:
+  [[nodiscard]] bool IsErnaast() override { return true; }
   [[nodiscard]] std::unique_ptr<ExpSchrijver> MaakSchrijver(UitvoerBestanden& bestanden) override;
 };
 

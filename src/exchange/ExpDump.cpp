@@ -53,7 +53,7 @@ std::int16_t ExpDump::AantalRecords() {
 }
 
 void ExpDump::Schrijf(UitvoerBestanden& bestanden) {
-  aantal_ = SchrijfDump(soort_, Hoofd().MaakGegevens(), bestanden.Uit(0), bestanden.Log(),
+  aantal_ = SchrijfDump(soort_, Records(), bestanden.Uit(0), bestanden.Log(),
                         {[this, &bestanden] { return Doorgaan(bestanden); },
                          [this](std::int32_t aantal) {
                            Gedaan.ZetTekst(GetalTekst(aantal));

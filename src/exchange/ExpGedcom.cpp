@@ -6,6 +6,7 @@
 #include "app/Hoofdmodule.h"
 #include "exchange/Ged551Schrijver.h"
 #include "exchange/GedcomSchrijver.h"
+#include "exchange/ImpGedcom.h"
 
 namespace lb77 {
 
@@ -17,8 +18,7 @@ constexpr ExportSoort kSoort{.uitvoer = {.naam = "ExpGedcom",
                                          .titel = "Exporteer Gegevens - Gedcom",
                                          .hulp = "gedcom",
                                          .velden = kVelden,
-                                         .filter = "GEDCOM-bestanden (*.GED)|*.GED|Alle Bestanden "
-                                                   "(*.*)|*.*|Tekstbestanden (*.txt)|*.txt",
+                                         .filter = kGedcomFilter,
                                          .leeg = "Export uit een leeg bestand is niet mogelijk",
                                          .log = "GEDCOM.LOG"},
                              .start = "OKButton",
@@ -46,12 +46,11 @@ std::unique_ptr<ExpSchrijver> ExpGedcom::MaakSchrijver(UitvoerBestanden& bestand
   Hoofdmodule& hoofd = Hoofd();
   GedKopGegevens kop{hoofd.klok.Nu(), Naam(0), hoofd.ActieveSetNaam, Inzender(hoofd.Ini)};
   if (Keuze->Gekozen()) {
-    return std::make_unique<Ged551Schrijver>(bestanden.Uit(0), bestanden.Log(),
-                                             hoofd.MaakGegevens(), Selectie(), std::move(kop));
+    return std::make_unique<Ged551Schrijver>(bestanden.Uit(0), bestanden.Log(), Records(),
+                                             Selectie(), std::move(kop));
   }
   return std::make_unique<GedcomSchrijver>(
-      GedBronnen{hoofd.MaakGegevens(), Selectie(), hoofd.gesprek, bestanden.Uit(0),
-                 bestanden.Log()},
+      GedBronnen{Records(), Selectie(), hoofd.gesprek, bestanden.Uit(0), bestanden.Log()},
       std::move(kop));
 }
 

@@ -12,6 +12,8 @@ class ExpGedcom final : public ExportForm {
   explicit ExpGedcom(Hoofdmodule& hoofd);
 
  protected:
+  // kept: of the prescribed file what was written stays.
+  [[nodiscard]] bool IsErnaast() override { return Keuze->Gekozen(); }
   [[nodiscard]] std::unique_ptr<ExpSchrijver> MaakSchrijver(UitvoerBestanden& bestanden) override;
 };
 

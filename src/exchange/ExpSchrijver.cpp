@@ -1,6 +1,21 @@
 #include "exchange/ExpSchrijver.h"
 
+#include "text/Getallen.h"
+#include "text/Letterlijk.h"
+
 namespace lb77 {
+
+std::string NietUitgevoerd(std::string_view leesfout, std::int16_t nr) {
+  return (std::string(leesfout) + GetalTekst(nr)).append(". Record niet geëxporteerd."_w);
+}
+
+void MeldWeggelaten(ExpUitvoer& log, std::size_t aantal, std::string_view waar) {
+  if (aantal == 0) return;
+  log.Regel(("LET OP: " + GetalTekst(static_cast<std::int64_t>(aantal)) +
+             " opmerkingen zijn niet uitgevoerd (")
+                .append(waar) +
+            ")");
+}
 
 ExpTelling LoopSelectie(ExpSchrijver& schrijver, const ExpSelectie& selectie,
                         const ExpVerloop& verloop) {

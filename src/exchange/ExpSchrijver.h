@@ -1,16 +1,27 @@
 // What an export writes of each record that was selected, and the walk over these.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <string>
 #include <string_view>
 
+#include "exchange/ExpUitvoer.h"
 #include "exchange/SelectieLijst.h"
 
 namespace lb77 {
 
 // The last line of the log of an export, and what the dialogs that say so say.
 inline constexpr std::string_view kExporterenVoltooid = "Exporteren voltooid";
+
+// The line of the log for a record that can't be read; `leesfout` is what stands before its number.
+[[nodiscard]] std::string NietUitgevoerd(std::string_view leesfout, std::int16_t nr);
+inline constexpr std::string_view kPersoonLeesfout = "Leesfout bij Persoonsrecord ";
+inline constexpr std::string_view kRelatieLeesfout = "Leesfout bij Relatierecord ";
+// The line at the end of a log for remarks that have no place in the file, when there are any.
+void MeldWeggelaten(ExpUitvoer& log, std::size_t aantal, std::string_view waar);
+inline constexpr std::string_view kTweedeOpmerking = "tweede of volgende opmerking bij een rubriek";
 
 // How many records a walk has come past; sources are never among them.
 struct ExpTelling {

@@ -181,6 +181,7 @@ void ExpSel::OKButtonKlik() {
 void ExpSel::VoegToe(std::int32_t van, std::int32_t tot) {
   for (std::int32_t nr = van; nr <= tot && nr <= kMaxRecords; ++nr) {
     if (lijst_.Voeg(static_cast<std::int16_t>(nr))) continue;
+    vol_ = true;
     Hoofd().gesprek.Waarschuw(soort_.vol);
     return;
   }

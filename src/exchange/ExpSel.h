@@ -60,6 +60,9 @@ class ExpSel final : public InvoerFormulier {
   Knop OKButton{*this, "OKButton", "&Voeg toe"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 
+  // The list had no room for all that was asked for.
+  [[nodiscard]] bool Vol() const { return vol_; }
+
  protected:
   void BijLaden() override;
 
@@ -72,6 +75,7 @@ class ExpSel final : public InvoerFormulier {
 
   const ExpSelSoort& soort_;
   SelectieLijst& lijst_;
+  bool vol_ = false;
 };
 
 }  // namespace lb77

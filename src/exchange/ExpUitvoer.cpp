@@ -9,7 +9,7 @@
 #include <system_error>
 #include <utility>
 
-#include "exchange/StroomFout.h"
+#include "store/StroomFout.h"
 
 namespace lb77 {
 
@@ -83,7 +83,13 @@ SysteemFout ExpBestand::Open(const std::filesystem::path& pad) {
   if (std::filesystem::is_fifo(staat)) return FoutGeenBestand();
   errno = 0;
   bestand_.open(pad, std::ios::binary | std::ios::trunc);
-  return bestand_ ? SysteemFout{} : StroomFout();
+  return bestand_ ? SysteemFout{} : FoutVanStroom(pad);
+}
+
+SysteemFout ExpBestand::Toets(const std::filesystem::path& pad) {
+  errno = 0;
+  const std::fstream bestand(pad, std::ios::binary | std::ios::in | std::ios::out);
+  return bestand ? SysteemFout{} : FoutVanStroom(pad);
 }
 
 SysteemFout ExpBestand::Sluit() {
@@ -91,7 +97,7 @@ SysteemFout ExpBestand::Sluit() {
   if (bestand_.is_open()) {
     errno = 0;
     bestand_.close();
-    if (!bestand_) OnthoudFout(StroomFout());
+    if (!bestand_) OnthoudFout(FoutVanStroom());
   }
   return Fout();
 }
@@ -107,7 +113,7 @@ void ExpBestand::Leeg() {
   bestand_.write(buffer_.data(), static_cast<std::streamsize>(buffer_.size()));
   bestand_.flush();
   buffer_.clear();
-  if (!bestand_) OnthoudFout(StroomFout());
+  if (!bestand_) OnthoudFout(FoutVanStroom());
 }
 
 }  // namespace lb77

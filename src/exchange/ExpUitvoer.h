@@ -52,6 +52,8 @@ class ExpBestand final : public ExpUitvoer {
 
   // Begins the file, in place of one of that name; its directory is not made.
   [[nodiscard]] SysteemFout Open(const std::filesystem::path& pad);
+  // Could an existing file be written to? It is left as it is.
+  [[nodiscard]] static SysteemFout Toets(const std::filesystem::path& pad);
   // Writes what is still in memory and closes. The first failure of all writing; none when the file
   // was never opened.
   [[nodiscard]] SysteemFout Sluit();

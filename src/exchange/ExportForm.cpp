@@ -57,8 +57,11 @@ void ExportForm::Schrijf(UitvoerBestanden& bestanden) {
                            }});
 }
 
-void ExportForm::SchrijfLogSlot(ExpUitvoer&) {
+void ExportForm::SchrijfLogSlot(ExpUitvoer& log) {
   schrijver_->LogSlot(telling_);
+  if (!vol_) return;
+  log.Regel("LET OP: niet alle gekozen records zijn uitgevoerd: een lijst houdt er " +
+            GetalTekst(static_cast<std::int64_t>(SelectieLijst::kHoogsteAantal)));
 }
 
 void ExportForm::MeldVoltooid() {
@@ -72,12 +75,17 @@ void ExportForm::KiesAllesButtonKlik() {
 }
 
 void ExportForm::KiesPersButtonKlik() {
-  Hoofd().gesprek.Toon<ExpSel>(kExpSelPers, Hoofd(), selectie_.SelPersonen);
-  ToonAantallen();
+  Kies(kExpSelPers, selectie_.SelPersonen);
 }
 
 void ExportForm::KiesRelButtonKlik() {
-  Hoofd().gesprek.Toon<ExpSel>(kExpSelRel, Hoofd(), selectie_.SelRelaties);
+  Kies(kExpSelRel, selectie_.SelRelaties);
+}
+
+void ExportForm::Kies(const ExpSelSoort& soort, SelectieLijst& lijst) {
+  ExpSel kiezen(soort, Hoofd(), lijst);
+  Hoofd().gesprek.ToonModaal(kiezen);
+  vol_ = vol_ || kiezen.Vol();
   ToonAantallen();
 }
 

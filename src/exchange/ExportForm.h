@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "exchange/ExpSchrijver.h"
+#include "exchange/ExpSel.h"
 #include "exchange/SelectieLijst.h"
 #include "exchange/UitvoerForm.h"
 #include "forms/Keuzen.h"
@@ -41,6 +42,9 @@ class ExportForm : public UitvoerForm {
   Knop StartButton;
   Knop BackButton{*this, "BackButton", "&Terug"};
 
+  // Something that was chosen did not fit in the selection.
+  [[nodiscard]] bool Vol() const { return vol_; }
+
  protected:
   // `soort` must outlive the form.
   ExportForm(const ExportSoort& soort, Hoofdmodule& hoofd);
@@ -62,6 +66,7 @@ class ExportForm : public UitvoerForm {
   void KiesAllesButtonKlik();
   void KiesPersButtonKlik();
   void KiesRelButtonKlik();
+  void Kies(const ExpSelSoort& soort, SelectieLijst& lijst);
   void ToonLijstButtonKlik();
   void ToonAantallen();
   void ToonGedaan(const ExpTelling& telling);
@@ -69,6 +74,7 @@ class ExportForm : public UitvoerForm {
   ExpSelectie selectie_;
   std::unique_ptr<ExpSchrijver> schrijver_;
   ExpTelling telling_;
+  bool vol_ = false;
 };
 
 }  // namespace lb77

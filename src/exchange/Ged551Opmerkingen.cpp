@@ -20,8 +20,34 @@ bool IsVanSoort(std::int16_t rubriek, bool vanPersoon) {
 
 }  // namespace
 
-Ged551Opmerkingen::Ged551Opmerkingen(OpmLB77& opmerking)
-    : opmerking_(opmerking), verteld_(static_cast<std::size_t>(kMaxRecords) + 1) {}
+Ged551Opmerkingen::Ged551Opmerkingen(const Gegevens& gegevens)
+    : gegevens_(gegevens),
+      opmerking_(gegevens.opmerking),
+      verteld_(static_cast<std::size_t>(kMaxRecords) + 1),
+      eigen_(verteld_.size()) {}
+
+bool Ged551Opmerkingen::IsVanAnder(std::int16_t nr, Ged551Eigenaar wie) {
+  const Ged551Eigenaar genoemd{opmerking_.Rubriek() > 0, opmerking_.BijRecord()};
+  if (genoemd == wie) return false;
+  VolgEigen(genoemd);
+  return eigen_[static_cast<std::size_t>(nr)] || !opmerking_.Lees(nr);
+}
+
+// Each owner once, and each remark once: it names one owner.
+void Ged551Opmerkingen::VolgEigen(Ged551Eigenaar wie) {
+  if (!gevolgd_.emplace(wie.persoon, wie.nr).second) return;
+  PersoonLB77& persoon = gegevens_.persoon;
+  RelatieLB77& relatie = gegevens_.relatie;
+  const bool isEr = wie.persoon ? persoon.Lees(wie.nr) && !persoon.IsVolgRecord()
+                                : relatie.Lees(wie.nr) && !relatie.IsVolgRecord();
+  if (!isEr) return;
+  std::int16_t nr = wie.persoon ? persoon.OpmRecord() : relatie.OpmRecord();
+  while (nr >= kEerste && !eigen_[static_cast<std::size_t>(nr)] && opmerking_.Lees(nr)) {
+    if (Ged551Eigenaar{opmerking_.Rubriek() > 0, opmerking_.BijRecord()} != wie) return;
+    eigen_[static_cast<std::size_t>(nr)] = true;
+    nr = opmerking_.BijZelfde();
+  }
+}
 
 bool Ged551Opmerkingen::Betreed(std::int16_t nr) {
   const bool nieuw = nr >= kEerste && !verteld_[static_cast<std::size_t>(nr)];
@@ -41,14 +67,19 @@ std::vector<std::string> Ged551Opmerkingen::LeesRegels() {
   }
 }
 
-std::vector<Ged551Opmerking> Ged551Opmerkingen::Lees(std::int16_t begin, bool vanPersoon) {
+std::vector<Ged551Opmerking> Ged551Opmerkingen::Lees(Ged551Eigenaar wie, std::int16_t begin) {
   std::vector<Ged551Opmerking> uit;
   for (std::int16_t nr = begin; nr != 0 && Betreed(nr);) {
+    if (IsVanAnder(nr, wie)) {
+      verteld_[static_cast<std::size_t>(nr)] = false;
+      ++verloren_;
+      break;
+    }
     nr = opmerking_.BijZelfde();
     const std::int16_t rubriek = opmerking_.Rubriek();
     const std::int16_t prog = opmerking_.BijProg();
     const std::vector<std::string> regels = LeesRegels();
-    if (!IsVanSoort(rubriek, vanPersoon)) {
+    if (!IsVanSoort(rubriek, wie.persoon)) {
       ++verloren_;
       continue;
     }

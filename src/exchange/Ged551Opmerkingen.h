@@ -2,9 +2,12 @@
 #pragma once
 
 #include <cstdint>
+#include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "store/Gegevens.h"
 #include "store/OpmLB77.h"
 
 namespace lb77 {
@@ -16,15 +19,23 @@ struct Ged551Opmerking {
   bool geschreven = false;
 };
 
+// Who has a remark, by his record.
+struct Ged551Eigenaar {
+  bool persoon = true;
+  std::int16_t nr = 0;
+  bool operator==(const Ged551Eigenaar&) const = default;
+};
+
 // Goes along chains. Each record of the file is told once, so that a run over all owners ends in
-// time however the links lie. The file of remarks does not change meanwhile.
+// time however the links lie. The files do not change meanwhile.
 class Ged551Opmerkingen {
  public:
-  explicit Ged551Opmerkingen(OpmLB77& opmerking);
+  explicit Ged551Opmerkingen(const Gegevens& gegevens);
 
   // The remarks of the chain from `begin` (0 for none), in its order. Those with a rubric of another
-  // kind of owner are left out.
-  [[nodiscard]] std::vector<Ged551Opmerking> Lees(std::int16_t begin, bool vanPersoon);
+  // kind of owner are left out. The chain ends at a remark of another owner, who has it in his own.
+  // The buffers of all records are lost.
+  [[nodiscard]] std::vector<Ged551Opmerking> Lees(Ged551Eigenaar wie, std::int16_t begin);
 
   // Links to what is no remark or was told before, and remarks left out.
   [[nodiscard]] int Verloren() const { return verloren_; }
@@ -34,8 +45,16 @@ class Ged551Opmerkingen {
   // The lines of the remark in the buffer; the record class stands elsewhere afterwards.
   [[nodiscard]] std::vector<std::string> LeesRegels();
 
+  // Is the remark in the buffer, of record `nr`, in the chain of another owner, whom it names? The
+  // record is read again.
+  [[nodiscard]] bool IsVanAnder(std::int16_t nr, Ged551Eigenaar wie);
+  void VolgEigen(Ged551Eigenaar wie);
+
+  Gegevens gegevens_;
   OpmLB77& opmerking_;
   std::vector<bool> verteld_;
+  std::vector<bool> eigen_;  // that the owners of whom was doubt have in their own chain
+  std::set<std::pair<bool, std::int16_t>> gevolgd_;  // those owners
   int verloren_ = 0;
 };
 

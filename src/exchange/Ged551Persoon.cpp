@@ -200,7 +200,7 @@ bool SchrijfGed551Persoon(std::int16_t nr, Ged551Velden& velden, const Ged551Mee
   Huwtab relaties{};
   if (!persoon.VulHuwtab(nr, relaties).heel) ++velden.gemis.records;
   velden.regels.Record('I', nr, "INDI");
-  velden.Begin("INDI", foto.opmRecord);
+  velden.Begin("INDI", nr, foto.opmRecord);
   Schrijver schrijver(foto, velden, mee);
   schrijver.Naam();
   schrijver.Geslacht();

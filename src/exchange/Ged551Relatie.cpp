@@ -164,7 +164,7 @@ bool SchrijfGed551Relatie(std::int16_t nr, Ged551Velden& velden, const Ged551Mee
   Kindtab kinderen{};
   if (!relatie.VulKindtab(nr, kinderen).heel) ++velden.gemis.records;
   velden.regels.Record('F', nr, "FAM");
-  velden.Begin("FAM", foto.opmRecord);
+  velden.Begin("FAM", nr, foto.opmRecord);
   Schrijver schrijver(foto, velden, mee);
   schrijver.Personen(kinderen);
   schrijver.Ondertrouw();

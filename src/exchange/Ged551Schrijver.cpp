@@ -51,7 +51,7 @@ Ged551Schrijver::Ged551Schrijver(ExpUitvoer& uit, ExpUitvoer& log, const Gegeven
       selectie_(selectie),
       kop_(std::move(kop)),
       regels_(uit),
-      opmerkingen_(gegevens.opmerking),
+      opmerkingen_(gegevens),
       velden_(gegevens, regels_, opmerkingen_, gemis_) {}
 
 void Ged551Schrijver::Kop() {
@@ -78,7 +78,7 @@ void Ged551Schrijver::Persoon(std::int16_t nr) {
   if (gaat && SchrijfGed551Persoon(nr, velden_, *mee_)) {
     ++personen_;
   } else if (gaat || !gegevens_.persoon.Lees(nr)) {
-    MeldWeg("Persoonsrecord", nr);
+    log_.Regel(NietUitgevoerd(kPersoonLeesfout, nr));
   }
 }
 
@@ -87,16 +87,8 @@ void Ged551Schrijver::Relatie(std::int16_t nr) {
   if (gaat && SchrijfGed551Relatie(nr, velden_, *mee_)) {
     ++relaties_;
   } else if (gaat || !gegevens_.relatie.Lees(nr)) {
-    MeldWeg("Relatierecord", nr);
+    log_.Regel(NietUitgevoerd(kRelatieLeesfout, nr));
   }
-}
-
-void Ged551Schrijver::MeldWeg(std::string_view naam, std::int16_t nr) {
-  log_.Regel(std::string("Leesfout bij ")
-                 .append(naam)
-                 .append(" ")
-                 .append(GetalTekst(nr))
-                 .append(". Record niet geëxporteerd."_w));
 }
 
 void Ged551Schrijver::Slot() {

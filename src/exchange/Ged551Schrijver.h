@@ -30,8 +30,6 @@ class Ged551Schrijver final : public ExpSchrijver {
 
  private:
   void Plaatsen();
-  // Tells that a record can't be read.
-  void MeldWeg(std::string_view naam, std::int16_t nr);
   void LogVerlies();
   void LogEigenTags();
 

@@ -20,9 +20,9 @@ Ged551Velden::Ged551Velden(Gegevens delen, Ged551Regels& uit, Ged551Opmerkingen&
       bron_(opmerkingen),
       rubrieken_(AlleOpmRubrieken()) {}
 
-void Ged551Velden::Begin(std::string_view record, std::int16_t opmRecord) {
+void Ged551Velden::Begin(std::string_view record, std::int16_t nr, std::int16_t opmRecord) {
   record_ = pad_ = record;
-  opmerkingen_ = bron_.Lees(opmRecord, record == "INDI");
+  opmerkingen_ = bron_.Lees({record == "INDI", nr}, opmRecord);
 }
 
 void Ged551Velden::Veld(int level, std::string_view tag, std::string_view waarde) {
@@ -83,7 +83,7 @@ std::string Ged551Velden::GezindteNaamVan(std::string_view code) const {
 bool Ged551Velden::Gezindte(int level, std::string_view tag, std::string_view code) {
   if (code.empty()) return false;
   const std::string naam = GezindteNaamVan(code);
-  if (Trim(GedGezindte(naam, gegevens.schrijfwijze.gezindten)) != code) {
+  if (naam != code || Trim(GedGezindte(naam, gegevens.schrijfwijze.gezindten)) != code) {
     regels.Regel(level, eigen::kGezindte, code);
   }
   Veld(level, tag, naam);

@@ -43,8 +43,9 @@ class Ged551Velden {
   Ged551Velden(Gegevens delen, Ged551Regels& uit, Ged551Opmerkingen& opmerkingen,
                Ged551Gemis& telling);
 
-  // Begins a record: its kind is the first part of all paths. Reads its remarks.
-  void Begin(std::string_view record, std::int16_t opmRecord);
+  // Begins a record: its kind is the first part of all paths. Reads its remarks, and the buffers of all
+  // records are lost.
+  void Begin(std::string_view record, std::int16_t nr, std::int16_t opmRecord);
   // The remarks that no line has taken, as remarks of the whole record.
   void RestOpmerkingen();
 
@@ -53,8 +54,8 @@ class Ged551Velden {
   [[nodiscard]] bool HeeftInhoud(const Ged551Gebeurtenis& deze) const;
   // The lines of an event; `meer` adds lines between its head and its date.
   void Gebeurtenis(const Ged551Gebeurtenis& deze, const std::function<void()>& meer = {});
-  // A line with the name of a code, and before it the code where the name does not tell it. True when
-  // there is a name.
+  // A line with the name of a code, and before it the code where there may be doubt: who reads it may
+  // have another list. True when there is a name.
   bool Gezindte(int level, std::string_view tag, std::string_view code);
   // The remarks of a rubric; `pad` is the path above them, as the import reads it.
   void Opmerkingen(int level, std::int16_t rubriek, std::string_view pad);

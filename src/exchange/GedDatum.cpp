@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include "exchange/GedBepaling.h"
 #include "exchange/GedDatumDeel.h"
@@ -123,7 +124,7 @@ GedDatumUitslag GedDatum(std::string_view tekst, std::string_view context) {
 GedDatumUitslag GedDatumOpnieuw(std::string_view tekst, std::string_view windows,
                                 std::string_view context, GedDatumUitslag eerder) {
   GedDatumUitslag opnieuw = Lees(GedDatumWoorden(windows), tekst, context);
-  return opnieuw.log.size() < eerder.log.size() ? opnieuw : eerder;
+  return opnieuw.log.size() < eerder.log.size() ? std::move(opnieuw) : std::move(eerder);
 }
 
 std::string GedDatumTekst(const DatumDelen& datum) {

@@ -4,7 +4,7 @@
 #include <ios>
 #include <system_error>
 
-#include "exchange/StroomFout.h"
+#include "store/StroomFout.h"
 
 namespace lb77 {
 
@@ -14,7 +14,7 @@ SysteemFout GedLog::Open(const std::filesystem::path& pad) {
   if (code) return FoutVan(code);
   errno = 0;
   bestand_.open(pad, std::ios::binary | std::ios::trunc);
-  return bestand_ ? SysteemFout{} : StroomFout(pad);
+  return bestand_ ? SysteemFout{} : FoutVanStroom(pad);
 }
 
 void GedLog::Regel(std::string_view regel) {
@@ -25,7 +25,7 @@ void GedLog::Regel(std::string_view regel) {
 SysteemFout GedLog::Sluit() {
   errno = 0;
   bestand_.close();
-  return bestand_ ? SysteemFout{} : StroomFout();
+  return bestand_ ? SysteemFout{} : FoutVanStroom();
 }
 
 }  // namespace lb77

@@ -23,14 +23,18 @@ void GedcomOpmerkingen::SchrijfOpmRegels(int niveau, std::int16_t rubriek) {
   for (const std::string& tekst : inhoud.regels) {
     // kept: also a remark that begins so by itself.
     if (tekst.starts_with(">> ")) {
-      log_.Regel(begin + id_ + " " + tekst +
-                 " (opm-reeks start bij opm-record: " + GetalTekst(opmRecord_) + ")");
+      begin.append(id_).append(" ").append(tekst);
+      log_.Regel(begin + " (opm-reeks start bij opm-record: " + GetalTekst(opmRecord_) + ")");
       return;
     }
     uit_.Regel(begin + GedcomTekst(tekst));
     begin = GetalTekst(niveau + 1) + " CONT ";
   }
   if (rubriek > 0 && geteld_.insert(rubriek).second) weggelaten_ += inhoud.over;
+}
+
+void GedcomOpmerkingen::SlaOver(std::int16_t rubriek) {
+  if (reeks_.Heeft(code_, rubriek)) overgeslagen_ += reeks_.Koppen(rubriek).size();
 }
 
 }  // namespace lb77

@@ -28,6 +28,10 @@ class GedcomOpmerkingen {
   // in the log, and ends them.
   void SchrijfOpmRegels(int niveau, std::int16_t rubriek);
 
+  // Counts the remarks of a rubric whose line is not written.
+  void SlaOver(std::int16_t rubriek);
+  [[nodiscard]] std::size_t Overgeslagen() const { return overgeslagen_; }
+
   // The remarks of persons that were not written since they came behind a remark of the same rubric
   // that has less than ten lines.
   [[nodiscard]] std::size_t Weggelaten() const { return weggelaten_; }
@@ -41,6 +45,7 @@ class GedcomOpmerkingen {
   std::int16_t code_ = 0;
   std::set<std::int16_t> geteld_;  // rubrics of this owner: one is written in two places
   std::size_t weggelaten_ = 0;
+  std::size_t overgeslagen_ = 0;
 };
 
 }  // namespace lb77

@@ -171,6 +171,11 @@ GedcomPersoon HaalPersoon(const Gegevens& gegevens, PlaatsNamen& plaatsen, Gespr
 void SchrijfPersoon(const GedcomPersoon& persoon, const ExpSelectie& selectie, ExpUitvoer& uit,
                     GedcomOpmerkingen& opmerkingen) {
   SchrijfRijen<P>(kRijen, persoon, uit, opmerkingen);
+  if (IsCode(persoon.gebCorr, correctie::kTussen)) {
+    opmerkingen.SlaOver(rubriek::kDoopDatum);
+    opmerkingen.SlaOver(rubriek::kDoopPlaats);
+  }
+  if (IsCode(persoon.ovlCorr, correctie::kTussen)) opmerkingen.SlaOver(rubriek::kBegrDatum);
   const auto verwijs = [&](std::string_view tag, std::int16_t nr) {
     if (nr > 0 && selectie.SelRelaties.Bevat(nr)) SchrijfVerwijzing(uit, tag, 'F', nr);
   };

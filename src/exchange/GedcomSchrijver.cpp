@@ -40,7 +40,8 @@ GedcomSchrijver::GedcomSchrijver(const GedBronnen& bronnen, GedKopGegevens kop)
     : bronnen_(bronnen),
       kop_(std::move(kop)),
       plaatsen_(bronnen.gegevens.plaats),
-      opmerkingen_(bronnen.gegevens.opmerking, bronnen.uit, bronnen.log) {}
+      opmerkingen_(bronnen.gegevens.opmerking, bronnen.uit, bronnen.log),
+      vanRelaties_(bronnen.gegevens.opmerking) {}
 
 void GedcomSchrijver::Kop() {
   SchrijfKop(kop_, bronnen_.uit);
@@ -52,8 +53,7 @@ void GedcomSchrijver::Persoon(std::int16_t nr) {
   bronnen_.uit.Regel("0 @I" + GetalTekst(nr) + "@ INDI");
   PersoonLB77& persoon = bronnen_.gegevens.persoon;
   if (!persoon.Lees(nr)) {
-    bronnen_.log.Regel("Leesfout bij Persoonsrecord " + GetalTekst(nr) +
-                       std::string(". Record niet geëxporteerd."_w));
+    bronnen_.log.Regel(NietUitgevoerd(kPersoonLeesfout, nr));
     return;
   }
   if (persoon.IsVolgRecord()) return;
@@ -67,10 +67,13 @@ void GedcomSchrijver::Relatie(std::int16_t nr) {
   bronnen_.uit.Regel("0 @F" + GetalTekst(nr) + "@ FAM");
   RelatieLB77& relatie = bronnen_.gegevens.relatie;
   if (!relatie.Lees(nr) || relatie.IsVolgRecord()) return;
+  const std::int16_t opmRecord = relatie.OpmCode() == 0 ? std::int16_t{0} : relatie.OpmRecord();
   GedcomRelatie r = HaalRelatie(bronnen_.gegevens, plaatsen_, bronnen_.gesprek);
   r.opmCode = opmerkingen_.Code();
   opmerkingen_.Noem("R" + GetalTekst(nr));
   SchrijfRelatie(r, bronnen_.selectie, bronnen_.uit, opmerkingen_);
+  vanRelaties_.Lees(opmRecord);
+  bijRelaties_ += vanRelaties_.Aantal();
 }
 
 void GedcomSchrijver::Slot() {
@@ -87,10 +90,9 @@ void GedcomSchrijver::LogSlot(const ExpTelling& telling) {
   log.Regel(Totaal(telling.relaties, "Relaties geëxporteerd"_w));
   log.Regel(Totaal(telling.bronnen, "Bronnen geëxpoteerd"_w));
   log.Regel(kExporterenVoltooid);
-  const std::size_t weg = opmerkingen_.Weggelaten();
-  if (weg == 0) return;
-  log.Regel("LET OP: " + GetalTekst(static_cast<std::int64_t>(weg)) +
-            " opmerkingen zijn niet uitgevoerd (tweede of volgende opmerking bij een rubriek)");
+  MeldWeggelaten(log, opmerkingen_.Weggelaten(), kTweedeOpmerking);
+  MeldWeggelaten(log, opmerkingen_.Overgeslagen(), "bij een doop of begrafenis zonder eigen datum");
+  MeldWeggelaten(log, bijRelaties_, "bij een relatie");
 }
 
 }  // namespace lb77

@@ -38,6 +38,8 @@ class GedcomSchrijver final : public ExpSchrijver {
   GedKopGegevens kop_;
   PlaatsNamen plaatsen_;
   GedcomOpmerkingen opmerkingen_;
+  OpmReeks vanRelaties_;  // which are counted, and not written
+  std::size_t bijRelaties_ = 0;
 };
 
 }  // namespace lb77

@@ -33,17 +33,20 @@ bool IsHoofd(RegelLezer& lezer) {
 ImpUitslag ImpAnalyse(ImpLoop& loop, RegelLezer& lezer) {
   loop.BeginGang();
   if (lezer.IsAanEinde()) return {.fout = "GEDCOM Fout: Leeg bestand"};
-  if (!IsHoofd(lezer)) return {.fout = "Fout: Header van GEDCOM-bestand niet gevonden"};
+  if (!IsHoofd(lezer)) return {.fout = "Fout: Header van GEDCOM-bestand niet gevonden", .regel = 1};
   std::string_view regel;
   while (lezer.Volgende(regel)) {
     loop.TelRegel();
+    const std::int32_t nummer = loop.stand.regels + 1;  // the header is not counted
     const GedDelen delen = GedRegel(regel);
-    if (!delen.fout.empty()) return {.fout = std::string(delen.fout)};
+    if (!delen.fout.empty()) return {.fout = std::string(delen.fout), .regel = nummer};
     if (delen.level > 0) continue;
     const GedSoort soort = loop.Kop(delen);
-    if (soort == GedSoort::Hoofd) return {.fout = "GEDCOM Fout: bestand heeft 2 headers"};
+    if (soort == GedSoort::Hoofd) {
+      return {.fout = "GEDCOM Fout: bestand heeft 2 headers", .regel = nummer};
+    }
     if (soort == GedSoort::Einde) break;
-    if (!MaakRecord(loop, soort, delen)) return {.gestopt = true};
+    if (!MaakRecord(loop, soort, delen)) return {.gestopt = true, .regel = nummer};
   }
   return {};
 }

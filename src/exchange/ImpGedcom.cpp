@@ -33,12 +33,34 @@ constexpr std::string_view kLogNaam = "GEDCOM.LOG";
 constexpr std::string_view kJournaalMap = "JOURNAAL";
 constexpr std::string_view kUnicodeVraag =
     "Dit bestand is in Unicode opgeslagen. Omzetten naar de tekenset van het programma ?";
+constexpr std::string_view kNietOmgezet =
+    "LET OP: het bestand is in Unicode en is niet omgezet; letters met accenten kunnen verkeerd "
+    "zijn "
+    "overgenomen";
 
 // Moves at each write.
 std::uint64_t Schrijfstand(const Bestandenset& bestanden) {
   std::uint64_t stand = 0;
   for (const BestandSoort soort : kBestandSoorten) stand += bestanden.Stand(soort);
   return stand;
+}
+
+std::string Aantal(std::size_t aantal, std::string_view een, std::string_view meer) {
+  return GetalTekst(static_cast<std::int64_t>(aantal)) + " " +
+         std::string(aantal == 1 ? een : meer);
+}
+
+// Why a run ended before its time, and what it had made by then.
+void NoteerStop(const ImpUitslag& uitslag, GedLog& log) {
+  if (uitslag.Gelukt()) return;
+  std::string regel = "LET OP: ";
+  if (uitslag.regel > 0) regel += "gestopt bij regel " + GetalTekst(uitslag.regel);
+  if (uitslag.regel > 0 && !uitslag.fout.empty()) regel += ": ";
+  log.Regel(regel + uitslag.fout);
+  if (uitslag.legePersonen + uitslag.legeRelaties == 0) return;
+  log.Regel(
+      "LET OP: zonder gegevens gebleven: " + Aantal(uitslag.legePersonen, "persoon", "personen") +
+      " en " + Aantal(uitslag.legeRelaties, "relatie", "relaties"));
 }
 
 // The reason with the file that it is about, for one that is not the user's own.
@@ -251,14 +273,19 @@ ImpGedcom::Afloop ImpGedcom::Lees(const std::filesystem::path& bestand) {
                   [&loop](std::string_view bron) { return loop.BronUtf8(bron); });
   const ImpUitslag uitslag = VoerGangen(loop, lezer);
   if (scherm.Afgebroken()) return {.afgebroken = true, .systeem = Bij(log.Sluit(), kLogNaam)};
-  if (uitslag.gestopt) return {.gestopt = true};
+  if (uitslag.gestopt) {
+    SluitVerslag(uitslag, loop, log);
+    return {.gestopt = true, .systeem = Bij(log.Sluit(), kLogNaam)};
+  }
   if (lezer.Fout()) return {.systeem = lezer.Fout()};
   return {.systeem = Rond(uitslag, loop, log)};
 }
 
 void ImpGedcom::KiesCodering(RegelLezer& lezer) {
   const Codering codering = CoderingVan(lezer);
-  const bool omzetten = codering != Codering::Bytes && hoofd_.gesprek.Vraag(kUnicodeVraag);
+  const bool unicode = codering != Codering::Bytes;
+  const bool omzetten = unicode && hoofd_.gesprek.Vraag(kUnicodeVraag);
+  nietOmgezet_ = unicode && !omzetten;
   lezer.BeginMet(omzetten ? codering : Codering::Bytes);
 }
 
@@ -275,9 +302,9 @@ bool ImpGedcom::Past(RegelLezer& lezer, std::int16_t personen, std::int16_t rela
   }
   lezer.Begin();
   hoofd_.gesprek.Ververs(*this);
-  if (personen + telling.personen <= kMaxRecords && relaties + telling.relaties <= kMaxRecords) {
-    return true;
-  }
+  const int metPersonen = personen + telling.personen + telling.vervolgPersonen;
+  const int metRelaties = relaties + telling.relaties + telling.vervolgRelaties;
+  if (metPersonen <= kMaxRecords && metRelaties <= kMaxRecords) return true;
   hoofd_.gesprek.Fout(kMaximumBereikt);
   return false;
 }
@@ -289,15 +316,23 @@ bool ImpGedcom::Afbreken() {
   return false;
 }
 
-SysteemFout ImpGedcom::Rond(const ImpUitslag& uitslag, ImpLoop& loop, GedLog& log) {
+// What the log tells of a run as a whole, whether it came to its end or not.
+void ImpGedcom::SluitVerslag(const ImpUitslag& uitslag, ImpLoop& loop, GedLog& log) {
   gelezenPersonen_ = loop.GedPersId.Aantal();
   gelezenRelaties_ = loop.GedRelId.Aantal();
   opmerkingenVol_ = loop.verliezen.IsVol();
-  if (!uitslag.fout.empty()) hoofd_.gesprek.Waarschuw(uitslag.fout);
   const auto noteer = [&log](std::string_view regel) { log.Regel(regel); };
+  if (!opmerkingenVol_) NoteerStop(uitslag, log);
   loop.verliezen.Noteer(noteer);
   SluitRest(loop.rest, log);
   loop.tekens.Noteer(noteer);
+  if (nietOmgezet_ && gelezenPersonen_ + gelezenRelaties_ > 0) log.Regel(kNietOmgezet);
+}
+
+SysteemFout ImpGedcom::Rond(const ImpUitslag& uitslag, ImpLoop& loop, GedLog& log) {
+  if (!uitslag.fout.empty()) hoofd_.gesprek.Waarschuw(uitslag.fout);
+  SluitVerslag(uitslag, loop, log);
+  // kept: also behind an error of the file, where the lines ahead of it tell otherwise.
   log.Regel(kVoltooid);
   Pass3box.Zet(true);
   gelukt_ = uitslag.fout.empty();

@@ -49,7 +49,7 @@ class ImpGedcom final : public Formulier {
   Knop OKButton{*this, "OKButton", "&Start Import"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 
-  // The records of the last import, remarks aside.
+  // The records that the last import made, remarks aside; some may have stayed empty.
   [[nodiscard]] std::size_t GelezenPersonen() const { return gelezenPersonen_; }
   [[nodiscard]] std::size_t GelezenRelaties() const { return gelezenRelaties_; }
   // All that it read has been stored but for the remarks that found no room.
@@ -91,6 +91,7 @@ class ImpGedcom final : public Formulier {
   // The test for a stop: True when the user asked for it and was sure. A No forgets it.
   [[nodiscard]] bool Afbreken();
   [[nodiscard]] SysteemFout Rond(const ImpUitslag& uitslag, ImpLoop& loop, GedLog& log);
+  void SluitVerslag(const ImpUitslag& uitslag, ImpLoop& loop, GedLog& log);
   void SluitRest(ImpRest& rest, GedLog& log);
   void ToonDoel();
   void ToonGang(int nummer);
@@ -105,6 +106,7 @@ class ImpGedcom final : public Formulier {
   bool gelukt_ = false;
   bool heeftLog_ = false;  // the log is that of the last import
   bool opmerkingenVol_ = false;
+  bool nietOmgezet_ = false;  // a Unicode file is read as bytes
   std::size_t gelezenPersonen_ = 0;
   std::size_t gelezenRelaties_ = 0;
   std::array<Label*, 3> labels_{&Pass1Label, &Pass2Label, &Pass3Label};

@@ -72,9 +72,26 @@ std::int16_t ImpLoop::NieuweRelatie() {
   return ++laatsteRelatie_;
 }
 
-void ImpLoop::MerkBreedte(std::string_view windows, std::size_t breedte) {
+void ImpLoop::MerkOpslag(std::string_view windows, std::size_t breedte) {
+  if (IsAscii(windows)) return;
   // Stored text may take more room: what it has no character for is written with two.
-  if (!IsAscii(windows) && WindowsNaarDos(windows).size() > breedte) Merk();
+  const bool kwijt = TelTekens(windows);
+  if (kwijt || WindowsNaarDos(windows).size() > breedte) Merk();
+}
+
+void ImpLoop::MerkEigen(std::string_view windows, std::size_t breedte) {
+  if (windows.size() > breedte) Merk();
+  MerkOpslag(windows, breedte);
+}
+
+bool ImpLoop::TelTekens(std::string_view windows) {
+  bool kwijt = false;
+  for (const char& teken : windows) {
+    if (static_cast<unsigned char>(teken) < 0x80 || WindowsNaarDos({&teken, 1}) != "?") continue;
+    tekens.Tel(CodepuntVan(teken), stand.regels);
+    kwijt = true;
+  }
+  return kwijt;
 }
 
 std::string ImpLoop::BronUtf8(std::string_view bron) const {
@@ -97,6 +114,7 @@ GedDatumUitslag ImpLoop::Datum(std::string_view waarde) {
 }
 
 void ImpLoop::NeemPlaatsRecord(std::string_view id, std::string_view naam, std::string_view prov) {
+  MerkEigen(naam, kPlaatsnaam);
   const std::int16_t nr = plaatsen_.Neem(naam, prov);
   if (nr == 0) Log(" - Plaats niet opgeslagen: " + std::string(naam));
   plaatsId_.Voeg(id, nr);
@@ -115,7 +133,7 @@ std::string ImpLoop::GedPlaats(std::string_view waarde) {
   if (naam != tekst) Merk();
   if (naam.empty()) return "0";
   if (naam.size() > kPlaatsnaam) TelVerlies(Verlies::Plaatsnaam);
-  MerkBreedte(naam, kPlaatsnaam);
+  MerkOpslag(naam, kPlaatsnaam);
   const std::int16_t nr = delen.plaats.NrOfNieuw(naam, "");
   if (nr > 0) return GetalTekst(nr);
   Merk();
@@ -143,6 +161,7 @@ std::string ImpLoop::Gezindte(std::string_view waarde) {
   std::string code = GedGezindte(tekst, gezindten);
   // Of a word that the list does not have only the begin is stored.
   if (tekst.size() > code.size() && GezindteCode(tekst, gezindten) != code) Merk();
+  if (TelTekens(code)) Merk();
   return code;
 }
 

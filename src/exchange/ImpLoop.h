@@ -30,6 +30,11 @@ struct ImpDelen : Gegevens {
 struct ImpUitslag {
   std::string fout{};    // an error of the file: the passes behind it are skipped
   bool gestopt = false;  // a record could not be read or written, which its class has told
+  // Where it ended, when it did before its time: the line, counted from 1, and how many records of the
+  // file were made and got nothing.
+  std::int32_t regel = 0;
+  std::size_t legePersonen = 0;
+  std::size_t legeRelaties = 0;
 
   [[nodiscard]] bool Gelukt() const { return fout.empty() && !gestopt; }
 };
@@ -69,8 +74,14 @@ class ImpLoop {
   }
   // The line at hand is not stored, or not whole.
   void Merk() { merken.Zet(stand.regels); }
-  // The same of one that gave a field a text, when the field has no room for all of it.
-  void MerkBreedte(std::string_view windows, std::size_t breedte);
+  // The same of one that gave a field a text, when the field has no room for all of it, or no
+  // character for part of it, which is counted.
+  void MerkOpslag(std::string_view windows, std::size_t breedte);
+  // The same for a tag of our own, whose text nobody has cut.
+  void MerkEigen(std::string_view windows, std::size_t breedte);
+  // Counts the characters of a text that are stored as "?", as those of the line at hand. True when
+  // there are any.
+  bool TelTekens(std::string_view windows);
 
   // A line of the file in UTF-8.
   [[nodiscard]] std::string BronUtf8(std::string_view bron) const;
@@ -100,7 +111,7 @@ class ImpLoop {
   ImpVerliezen verliezen;
   Regelmerken merken;  // of the lines that the second pass did not store whole
   ImpRest rest;
-  ImpTekens tekens;  // lost in the lines of the second pass
+  ImpTekens tekens;  // lost by the conversion of the lines, or in the records
 
  private:
   [[nodiscard]] std::string NrVan(const GedIdTabel& tabel, std::string_view verwijzing);

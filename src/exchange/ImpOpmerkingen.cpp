@@ -7,10 +7,12 @@
 #include "exchange/EigenPaden.h"
 #include "exchange/GedNaam.h"
 #include "exchange/GedRegel.h"
+#include "exchange/ImpRestGang.h"
 #include "exchange/OpmAfbreken.h"
 #include "exchange/OpmTags.h"
 #include "store/Codes.h"
 #include "store/OpmVelden.h"
+#include "store/Rubrieken.h"
 #include "text/Bestandstekst.h"
 #include "text/Dos437.h"
 #include "text/Getallen.h"
@@ -44,6 +46,11 @@ constexpr std::int16_t kZonderBetekenis = 16;
 constexpr std::int16_t kBijProg =
     uitvoer::kKwartierstaat | uitvoer::kStamreeks | uitvoer::kGenealogie | kZonderBetekenis;
 
+// Is that a rubric, and of the same kind of owner?
+bool IsRubriekVan(std::int16_t eigenaar, std::int16_t rubriek) {
+  return (eigenaar > 0) == (rubriek > 0) && !RubriekOpschrift(rubriek).empty();
+}
+
 // Stored text may take more room than its line has.
 bool PastInRecord(std::string_view regel) {
   return IsAscii(regel) || WindowsNaarDos(regel).size() <= kRegelBreedte;
@@ -70,10 +77,16 @@ ImpUitslag ImpOpmerkingen::Voer(RegelLezer& lezer) {
   while (!einde_ && lezer.Volgende(regel)) {
     loop_.TelRegel();
     const GedDelen delen = loop_.Ontleed(regel);
-    if (!delen.fout.empty()) return {.fout = std::string(delen.fout)};
+    if (!delen.fout.empty()) return {.fout = std::string(delen.fout), .regel = loop_.stand.regels};
     ImpUitslag uitslag = delen.level == 0 ? NeemKop(delen) : NeemRegel(delen);
     if (!uitslag.Gelukt()) {
-      LeesRest(lezer);
+      // No further note is stored: what the second pass left to this one is lost.
+      if (einde_) {
+        LeesSlotInRest(loop_, lezer);
+      } else {
+        LeesInRest(loop_, lezer);
+      }
+      uitslag.regel = regel_;
       return uitslag;
     }
   }
@@ -94,44 +107,6 @@ void ImpOpmerkingen::TelAchterSlot(RegelLezer& lezer, std::int32_t regel) {
   }
 }
 
-// No further note is stored: what the second pass left to this one is lost.
-void ImpOpmerkingen::LeesRest(RegelLezer& lezer) {
-  const ImpStand stand = loop_.stand;
-  std::string_view regel;
-  while (!einde_ && lezer.Volgende(regel)) {
-    ++loop_.stand.regels;
-    const GedDelen delen = GedRegel(regel);
-    if (!delen.fout.empty()) break;
-    const GedSoort soort = delen.level == 0 ? loop_.Kop(delen) : GedSoort::Anders;
-    einde_ = soort == GedSoort::Einde;
-    if (einde_) break;
-    NeemInRest(delen, soort);
-    SchrijfRest();
-  }
-  loop_.rest.BeginAchterSlot();
-  while (lezer.Volgende(regel)) {
-    if (!Trim(regel).empty()) loop_.rest.SchrijfAchterSlot(lezer.Bron());
-  }
-  loop_.stand = stand;
-}
-
-void ImpOpmerkingen::NeemInRest(const GedDelen& delen, GedSoort soort) {
-  const std::string_view bron = lezer_->Bron();
-  if (delen.level > 0) {
-    loop_.rest.Neem(delen.level, bron);
-    return;
-  }
-  std::int16_t nr = 0;
-  if (soort == GedSoort::Persoon) nr = loop_.PersoonNr();
-  if (soort == GedSoort::Relatie) nr = loop_.RelatieNr();
-  loop_.rest.NeemKop(bron, soort, nr);
-}
-
-// Of the line at hand, when it is no part of a note that waits.
-void ImpOpmerkingen::SchrijfRest() {
-  if (loop_.merken.Heeft(loop_.stand.regels) || lezer_->VerloorTekens()) loop_.rest.Schrijf();
-}
-
 ImpUitslag ImpOpmerkingen::NeemKop(const GedDelen& delen) {
   ImpUitslag uitslag = Bewaar();
   pad_.Zet(0, delen.tag);
@@ -140,14 +115,14 @@ ImpUitslag ImpOpmerkingen::NeemKop(const GedDelen& delen) {
   const GedSoort soort = loop_.Kop(delen);
   einde_ = soort == GedSoort::Einde;
   if (einde_) return uitslag;
-  NeemInRest(delen, soort);
-  SchrijfRest();
+  NeemInRest(loop_, *lezer_, delen, soort);
+  SchrijfInRest(loop_, *lezer_);
   return uitslag;
 }
 
 ImpUitslag ImpOpmerkingen::NeemRegel(const GedDelen& delen) {
   if (IsVervolgTag(delen.tag)) {
-    NeemInRest(delen, GedSoort::Anders);
+    NeemInRest(loop_, *lezer_, delen, GedSoort::Anders);
     NeemVervolg(delen);
     return {};
   }
@@ -163,9 +138,9 @@ ImpUitslag ImpOpmerkingen::NeemRegel(const GedDelen& delen) {
   const std::string& pad = pad_.Van(delen.level);
   if (pad == "INDI-NAME") ToonNaam(delen.waarde);
   ImpUitslag uitslag = Bewaar();
-  NeemInRest(delen, GedSoort::Anders);
+  NeemInRest(loop_, *lezer_, delen, GedSoort::Anders);
   if (!uitslag.Gelukt()) {
-    SchrijfRest();
+    SchrijfInRest(loop_, *lezer_);
     return uitslag;
   }
   // The kind of an event that was named stands in tags of our own.
@@ -181,7 +156,7 @@ ImpUitslag ImpOpmerkingen::NeemRegel(const GedDelen& delen) {
   kwijt_ = rubriek_ == 0 && regel.tag == kNote;
   if (rubriek_ == 0) {
     TelKwijt(regel.bron, regel.eigen);
-    SchrijfRest();
+    SchrijfInRest(loop_, *lezer_);
   }
   return {};
 }
@@ -209,10 +184,11 @@ void ImpOpmerkingen::NeemVervolg(const GedDelen& delen) {
     if (delen.tag == "CONT") regels_.emplace_back();
     regels_.back() += delen.waarde;
     heel_ = heel_ && !lezer_->VerloorTekens();
+    TelTekens(delen.waarde);
     loop_.rest.VervolgNoot();
     return;
   }
-  SchrijfRest();
+  SchrijfInRest(loop_, *lezer_);
   if (vanNoot) {
     // Without a rubric the text goes nowhere; that of a note went with it.
     if (!kwijt_ && !Trim(delen.waarde).empty()) loop_.TelVerlies(Verlies::Vervolg);
@@ -261,17 +237,27 @@ void ImpOpmerkingen::Wacht(const Regel& regel) {
   regel_ = loop_.stand.regels;
   prog_ = kBijProg;
   vanOns_ = false;
-  if (rubriek_ != 0) loop_.rest.BeginNoot();
+  if (rubriek_ == 0) return;
+  TelTekens(tekst_);
+  loop_.rest.BeginNoot();
 }
 
-// A rubric of another kind of owner than that of the record at hand is none.
+void ImpOpmerkingen::TelTekens(std::string_view tekst) {
+  if (!IsAscii(tekst) && loop_.TelTekens(GedNaarWindows(loop_.tekenset, tekst))) heel_ = false;
+}
+
 void ImpOpmerkingen::NeemEigen(const GedDelen& delen) {
-  const auto getal = NaarInt16(Getalwaarde(delen.waarde));
-  if (rubriek_ == 0 || !getal) return;
+  NeemInRest(loop_, *lezer_, delen, GedSoort::Anders);
+  if (rubriek_ == 0) return SchrijfInRest(loop_, *lezer_);
+  loop_.rest.VervolgNoot();
   vanOns_ = true;
-  if (delen.tag == eigen::kProg) prog_ = *getal;
-  if (delen.tag == eigen::kRubriek && *getal != 0 && (*getal > 0) == (rubriek_ > 0)) {
+  const auto getal = NaarInt16(Getalwaarde(delen.waarde));
+  if (delen.tag == eigen::kProg && getal) {
+    prog_ = *getal;
+  } else if (delen.tag == eigen::kRubriek && getal && IsRubriekVan(rubriek_, *getal)) {
     rubriek_ = *getal;
+  } else {
+    heel_ = false;
   }
 }
 

@@ -28,13 +28,12 @@ class ImpOpmerkingen {
 
   [[nodiscard]] ImpUitslag NeemKop(const GedDelen& delen);
   [[nodiscard]] ImpUitslag NeemRegel(const GedDelen& delen);
-  void NeemInRest(const GedDelen& delen, GedSoort soort);
-  void SchrijfRest();
-  void LeesRest(RegelLezer& lezer);
   void NeemVervolg(const GedDelen& delen);
   // What a tag of our own tells of the note that waits.
   void NeemEigen(const GedDelen& delen);
   void MaakOpmerking(Regel& regel);
+  // A part of the note that waits, in which a character may be that no record has.
+  void TelTekens(std::string_view tekst);
   void ToonNaam(std::string_view waarde);
   [[nodiscard]] std::string AdoptieDatum(std::string_view waarde);
   [[nodiscard]] bool IsVreemd(std::string_view pad) const;

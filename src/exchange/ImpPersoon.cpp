@@ -1,12 +1,15 @@
 #include "exchange/ImpPersoon.h"
 
 #include <string>
+#include <utility>
 
 #include "exchange/EigenPaden.h"
+#include "exchange/EigenWaarde.h"
 #include "exchange/GedNaam.h"
 #include "store/Codes.h"
 #include "store/PersoonVelden.h"
 #include "text/Getallen.h"
+#include "text/Gezindte.h"
 #include "text/Tekens.h"
 
 namespace lb77 {
@@ -31,8 +34,8 @@ bool IsAnder(std::string_view oud, std::string_view nieuw) {
 }
 
 bool IsEigen(PersoonActie actie) {
-  return actie == PersoonActie::Eigen || actie == PersoonActie::EigenCorr ||
-         actie == PersoonActie::EigenPlaats || actie == PersoonActie::EigenZeker;
+  return actie == PersoonActie::Eigen || actie == PersoonActie::EigenPlaats ||
+         actie == PersoonActie::EigenZeker;
 }
 
 // The sex by its first letter.
@@ -86,7 +89,10 @@ bool ImpPersoon::Neem(const PersoonPad& pad, std::string_view waarde) {
     NeemEigen(pad, waarde);
     return true;
   }
-  if (vast_.Bevat(pad.veld)) return true;
+  if (vast_.Bevat(pad.veld)) {
+    if (pad.actie == PersoonActie::Gezindte) HerzieGezindte(pad, waarde);
+    return true;
+  }
   switch (pad.actie) {
     case PersoonActie::Naam:
       NeemNaam(pad, waarde);
@@ -122,7 +128,6 @@ bool ImpPersoon::Neem(const PersoonPad& pad, std::string_view waarde) {
     case PersoonActie::Relatie:
       return NeemRelatie(waarde);
     case PersoonActie::Eigen:
-    case PersoonActie::EigenCorr:
     case PersoonActie::EigenPlaats:
     case PersoonActie::EigenZeker:
     case PersoonActie::Niets:
@@ -135,18 +140,19 @@ bool ImpPersoon::Neem(const PersoonPad& pad, std::string_view waarde) {
 void ImpPersoon::NeemBeroep(const PersoonPad& pad, std::string_view waarde) {
   if (IsLanger(waarde, kBeroep)) loop_.TelVerlies(Verlies::Beroep);
   const std::string beroep = loop_.GedTekst(Gesneden(waarde, kBeroep));
-  loop_.MerkBreedte(beroep, kBeroep);
+  loop_.MerkOpslag(beroep, kBeroep);
   ZetVeld(pad.veld, beroep);
 }
 
 void ImpPersoon::NeemVoorvoegsel(std::string_view waarde) {
-  voorvoegsels_.push_back({loop_.stand.regels, GedNaarWindows(loop_.tekenset, Trim(waarde))});
+  std::string tekst = GedNaarWindows(loop_.tekenset, Trim(waarde));
+  if (loop_.TelTekens(tekst)) loop_.Merk();
+  voorvoegsels_.push_back({loop_.stand.regels, std::move(tekst)});
 }
 
 void ImpPersoon::NeemEigen(const PersoonPad& pad, std::string_view waarde) {
   std::string tekst = loop_.GedTekst(Trim(waarde));
-  // A continuation record is no person: no line can make one.
-  if (pad.actie == PersoonActie::EigenCorr && IsCode(tekst, correctie::kVervolg)) return;
+  if (!MagInVeld(pad.veld, tekst)) return loop_.Merk();
   if (pad.actie == PersoonActie::EigenPlaats) {
     plaats_ = loop_.EigenPlaats(waarde);
     tekst = GetalTekst(plaats_);
@@ -154,9 +160,24 @@ void ImpPersoon::NeemEigen(const PersoonPad& pad, std::string_view waarde) {
     tekst = GetalTekst(MetBepaling(plaats_, tekst));
   }
   vast_.Voeg(pad.veld);
+  loop_.MerkEigen(tekst, TekstBreedte(persoonveld::kVelden, pad.veld));
   if (pad.veld == "Achternaam") achternaam_ = tekst;
   if (pad.veld == "Voornaam") voornaam_ = tekst;
   Zet(pad.veld, tekst);
+}
+
+// A code may stand for another name here than it did where it was written, or for none.
+void ImpPersoon::HerzieGezindte(const PersoonPad& pad, std::string_view waarde) {
+  const Gezindten& gezindten = loop_.delen.schrijfwijze.gezindten;
+  const std::string naam = loop_.GedTekst(Trim(waarde));
+  const std::string vast = loop_.delen.persoon.Religie();
+  if (GelijkZonderKast(GezindteNaam(vast, gezindten), naam)) return;
+  const std::string code = GezindteCode(naam, gezindten);
+  if (!Trim(code).empty()) {
+    Zet(pad.veld, code);
+  } else if (!GelijkZonderKast(vast, naam)) {
+    loop_.Merk();
+  }
 }
 
 void ImpPersoon::NeemNaam(const PersoonPad& pad, std::string_view waarde) {
@@ -176,8 +197,8 @@ void ImpPersoon::NeemNaam(const PersoonPad& pad, std::string_view waarde) {
   if (ander) TelOverschreven();
   voornaam_ = loop_.stand.voornaam;
   achternaam_ = loop_.stand.achternaam;
-  loop_.MerkBreedte(voornaam_, kVoornaam);
-  loop_.MerkBreedte(achternaam_, kAchternaam);
+  loop_.MerkOpslag(voornaam_, kVoornaam);
+  loop_.MerkOpslag(achternaam_, kAchternaam);
   ZetVeld("Voornaam", voornaam_);
   ZetVeld("Achternaam", achternaam_);
 }
@@ -196,7 +217,7 @@ void ImpPersoon::NeemNaamDeel(const PersoonPad& pad, std::string_view waarde) {
   std::string& opgeslagen = isVoornaam ? voornaam_ : achternaam_;
   if (IsAnder(opgeslagen, getoond)) TelOverschreven();
   opgeslagen = getoond;
-  loop_.MerkBreedte(getoond, lengte);
+  loop_.MerkOpslag(getoond, lengte);
   ZetVeld(pad.veld, getoond);
 }
 

@@ -40,6 +40,8 @@ class ImpPersoon {
   void NeemPlaats(const PersoonPad& pad, std::string_view waarde);
   // A tag of our own.
   void NeemEigen(const PersoonPad& pad, std::string_view waarde);
+  // The name behind a denomination whose code such a tag told.
+  void HerzieGezindte(const PersoonPad& pad, std::string_view waarde);
   [[nodiscard]] bool NeemRelatie(std::string_view waarde);
   [[nodiscard]] bool MaakVervolg(std::string_view vierde);
   [[nodiscard]] bool ZetVijfde(std::string_view vijfde);

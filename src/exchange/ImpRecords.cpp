@@ -4,8 +4,10 @@
 #include <array>
 
 #include "exchange/EigenPaden.h"
+#include "exchange/EigenWaarde.h"
 #include "exchange/GedRegel.h"
 #include "exchange/OpmTags.h"
+#include "store/PlaatsVelden.h"
 #include "text/Letterlijk.h"
 #include "text/Tekens.h"
 
@@ -38,9 +40,13 @@ ImpUitslag ImpRecords::Voer(RegelLezer& lezer) {
   while (!einde_ && lezer.Volgende(regel)) {
     loop_.TelRegel();
     const GedDelen delen = loop_.Ontleed(regel);
-    if (!delen.fout.empty()) return {.fout = std::string(delen.fout)};
-    pad_.Zet(delen.level, delen.tag);
-    if (!(delen.level == 0 ? NeemKop(delen) : NeemRegel(delen))) return {.gestopt = true};
+    const bool goed = delen.fout.empty();
+    if (goed) pad_.Zet(delen.level, delen.tag);
+    if (!goed || !(delen.level == 0 ? NeemKop(delen) : NeemRegel(delen))) {
+      // The record at hand may be stored in part, or not at all.
+      MerkVanaf(kop_ + 1);
+      return {.fout = std::string(delen.fout), .gestopt = goed, .regel = loop_.stand.regels};
+    }
   }
   // Without an end the last record keeps no field.
   if (!einde_ && (InPersoon() || InRelatie())) MerkVanaf(kop_ + 1);
@@ -155,7 +161,7 @@ void ImpRecords::NeemOverig(OverigeActie actie, std::string_view waarde) {
       loop_.eigen = true;
       break;
     case OverigeActie::PlaatsProv:
-      prov_ = loop_.GedTekst(Trim(waarde));
+      NeemProv(loop_.GedTekst(Trim(waarde)));
       break;
     case OverigeActie::PlaatsNaam:
       loop_.NeemPlaatsRecord(id_, loop_.GedTekst(Trim(waarde)), prov_);
@@ -163,6 +169,12 @@ void ImpRecords::NeemOverig(OverigeActie actie, std::string_view waarde) {
     case OverigeActie::Niets:
       break;
   }
+}
+
+void ImpRecords::NeemProv(const std::string& prov) {
+  if (!MagInVeld(plaatsveld::Prov.naam, prov)) return loop_.Merk();
+  loop_.MerkEigen(prov, plaatsveld::Prov.breedte);
+  prov_ = prov;
 }
 
 void ImpRecords::LogEenmaal(bool& gemeld, std::string_view tekst, std::string_view pad) {

@@ -36,6 +36,7 @@ class ImpRecords {
   void MerkNiets(const GedDelen& delen);
   void MerkVanaf(std::int32_t regel);
   void NeemOverig(OverigeActie actie, std::string_view waarde);
+  void NeemProv(const std::string& prov);
   [[nodiscard]] bool InPersoon() const { return loop_.Context().starts_with("P-"); }
   [[nodiscard]] bool InRelatie() const { return loop_.Context().starts_with("R-"); }
   [[nodiscard]] static Groep GroepVan(std::string_view ouder);

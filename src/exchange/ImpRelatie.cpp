@@ -3,7 +3,9 @@
 #include <string>
 
 #include "exchange/EigenPaden.h"
+#include "exchange/EigenWaarde.h"
 #include "store/Codes.h"
+#include "store/RelatieVelden.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"
 
@@ -18,8 +20,8 @@ constexpr int kHoogsteKind = 29;
 constexpr int kVerschuiving = 14;
 
 bool IsEigen(RelatieActie actie) {
-  return actie == RelatieActie::Eigen || actie == RelatieActie::EigenCorr ||
-         actie == RelatieActie::EigenPlaats || actie == RelatieActie::EigenZeker;
+  return actie == RelatieActie::Eigen || actie == RelatieActie::EigenPlaats ||
+         actie == RelatieActie::EigenZeker;
 }
 
 std::string KindVeld(int slot) {
@@ -81,7 +83,6 @@ bool ImpRelatie::Neem(const RelatiePad& pad, std::string_view waarde, char laats
       NeemEigenDatum(waarde);
       break;
     case RelatieActie::Eigen:
-    case RelatieActie::EigenCorr:
     case RelatieActie::EigenPlaats:
     case RelatieActie::EigenZeker:
     case RelatieActie::Bond:
@@ -95,8 +96,7 @@ bool ImpRelatie::Neem(const RelatiePad& pad, std::string_view waarde, char laats
 
 void ImpRelatie::NeemEigen(const RelatiePad& pad, std::string_view waarde) {
   std::string tekst = loop_.GedTekst(Trim(waarde));
-  // A continuation record is no relation: no line can make one.
-  if (pad.actie == RelatieActie::EigenCorr && IsCode(tekst, correctie::kVervolg)) return;
+  if (!MagInVeld(pad.veld, tekst)) return loop_.Merk();
   if (pad.actie == RelatieActie::EigenPlaats) {
     plaats_ = loop_.EigenPlaats(waarde);
     tekst = GetalTekst(plaats_);
@@ -104,6 +104,7 @@ void ImpRelatie::NeemEigen(const RelatiePad& pad, std::string_view waarde) {
     tekst = GetalTekst(MetBepaling(plaats_, tekst));
   }
   vast_.Voeg(pad.veld);
+  loop_.MerkEigen(tekst, TekstBreedte(relatieveld::kVelden, pad.veld));
   Zet(pad.veld, tekst);
 }
 

@@ -7,7 +7,8 @@
 #include <utility>
 
 #include "app/HeelBestand.h"
-#include "exchange/StroomFout.h"
+#include "exchange/OpmTags.h"
+#include "store/StroomFout.h"
 #include "text/Bestandstekst.h"
 #include "text/Getallen.h"
 
@@ -16,15 +17,11 @@ namespace lb77 {
 namespace {
 
 constexpr std::string_view kAchterSlot = "0 NOTE achter TRLR";
+constexpr std::string_view kTweedeHoofd = "0 NOTE HEAD";
 constexpr std::string_view kTekenset = "1 CHAR UTF-8";
 
 bool IsHoofd(std::string_view bron) {
   return GedSoortVan(GedRegel(bron).tag) == GedSoort::Hoofd;
-}
-
-// The line that tells of the input's characters; those of this file are its own.
-bool IsTekenset(int level, std::string_view bron) {
-  return level == 1 && GedRegel(bron).tag == "CHAR";
 }
 
 }  // namespace
@@ -63,10 +60,20 @@ void ImpRest::Neem(int level, std::string_view bron) {
   level_ = diepste_ = level;
 }
 
+void ImpRest::NeemTweedeHoofd() {
+  NeemKop(kTweedeHoofd, GedSoort::Anders, 0);
+}
+
 void ImpRest::Schrijf() {
-  if (boven_[static_cast<std::size_t>(level_)].geschreven) return;
+  const Regel& regel = boven_[static_cast<std::size_t>(level_)];
+  if (regel.geschreven || IsTekensetVanHoofd(level_)) return;
   SchrijfOuders(level_ + 1);
   Tel();
+}
+
+// The line that tells of the input's characters; those of this file are its own.
+bool ImpRest::IsTekensetVanHoofd(int level) const {
+  return level == 1 && GedRegel(boven_[1].tekst).tag == "CHAR" && IsHoofd(boven_.front().tekst);
 }
 
 // Writes what stands above that level and has not been written yet.
@@ -74,11 +81,19 @@ void ImpRest::SchrijfOuders(int level) {
   for (int i = 0; i < level; ++i) {
     Regel& regel = boven_[static_cast<std::size_t>(i)];
     if (!regel.aanwezig || regel.geschreven) continue;
-    const bool tekenset = IsTekenset(i, regel.tekst) && IsHoofd(boven_.front().tekst);
-    SchrijfBron(tekenset ? kTekenset : regel.tekst);
+    SchrijfBron(IsTekensetVanHoofd(i) ? kTekenset : regel.tekst);
     regel.geschreven = true;
     if (i == 0 && nr_ != 0) SchrijfRegel("1 REFN " + GetalTekst(nr_));
   }
+}
+
+void ImpRest::SchrijfVreemd(std::string_view bron) {
+  const std::string_view boven = boven_[static_cast<std::size_t>(level_)].tekst;
+  const bool vervolg = IsVervolgTag(GedRegel(boven).tag) || level_ == kHoogsteLevel;
+  const int level = vervolg ? level_ : level_ + 1;
+  Neem(level, GetalTekst(level) + " CONT " + std::string(bron));
+  SchrijfOuders(level + 1);
+  ++aantal_;
 }
 
 void ImpRest::BeginNoot() {
@@ -129,7 +144,7 @@ void ImpRest::ZetOpen() {
   errno = 0;
   bestand_.open(bezig_, std::ios::binary | std::ios::trunc);
   if (!bestand_) {
-    fout_ = StroomFout(bezig_);
+    fout_ = FoutVanStroom(bezig_);
     return;
   }
   SchrijfRegel("0 HEAD");
@@ -146,16 +161,18 @@ void ImpRest::SchrijfRegel(std::string_view utf8) {
   errno = 0;
   bestand_.write(utf8.data(), static_cast<std::streamsize>(utf8.size()));
   bestand_.write("\r\n", 2);
-  if (!bestand_) fout_ = StroomFout();
+  if (!bestand_) fout_ = FoutVanStroom();
 }
 
-SysteemFout ImpRest::Sluit() {
+SysteemFout ImpRest::Sluit(Bestandswerk& werk) {
   if (bestand_.is_open()) {
     SchrijfRegel("0 TRLR");
     errno = 0;
     bestand_.close();
-    if (!bestand_ && !fout_) fout_ = StroomFout();
-    if (!fout_ && aantal_ > 0) fout_ = Bestandswerk().Hernoem(bezig_, pad_);
+    if (!bestand_ && !fout_) fout_ = FoutVanStroom();
+    // Otherwise a power cut may leave the name without the bytes.
+    if (!fout_ && aantal_ > 0) fout_ = werk.Veiligstellen(bezig_);
+    if (!fout_ && aantal_ > 0) fout_ = werk.Hernoem(bezig_, pad_);
     if (fout_ || aantal_ == 0) Weg();
   }
   return aantal_ > 0 ? std::move(fout_) : SysteemFout{};

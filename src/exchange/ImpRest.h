@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+#include "app/HeelBestand.h"
 #include "exchange/GedKop.h"
 #include "exchange/GedRegel.h"
 #include "store/SysteemFout.h"
@@ -31,8 +32,12 @@ class ImpRest {
   void NeemKop(std::string_view bron, GedSoort soort, std::int16_t nr);
   // Another line comes by: the one above those with a higher level.
   void Neem(int level, std::string_view bron);
+  // A second header comes by, which would make this file one with two.
+  void NeemTweedeHoofd();
   // Writes the last line that came by.
   void Schrijf();
+  // A line that is none of GEDCOM comes by, and is written: it goes on with the line above it.
+  void SchrijfVreemd(std::string_view bron);
 
   // The last line that came by begins a note, which waits; lines that came by after it go on with it.
   void BeginNoot();
@@ -46,8 +51,12 @@ class ImpRest {
   // Such a line comes by, and is written.
   void SchrijfAchterSlot(std::string_view bron);
 
-  // Gives the file its name. The error when it could not be written whole.
-  [[nodiscard]] SysteemFout Sluit();
+  // Gives the file its name, when it is safe on the disk. The error when it could not be written whole.
+  [[nodiscard]] SysteemFout Sluit(Bestandswerk& werk);
+  [[nodiscard]] SysteemFout Sluit() {
+    Bestandswerk werk;
+    return Sluit(werk);
+  }
   // The lines written, without what tells of the file itself (HEAD, SUBM, SUBN); no file without them.
   [[nodiscard]] std::int32_t Aantal() const { return aantal_; }
   // Leaves nothing behind.
@@ -68,6 +77,7 @@ class ImpRest {
   void SchrijfRegel(std::string_view utf8);
   void SchrijfOuders(int level);
   void Tel() { aantal_ += telt_ ? 1 : 0; }
+  [[nodiscard]] bool IsTekensetVanHoofd(int level) const;
   void Weg();
 
   NaarUtf8 naarUtf8_;

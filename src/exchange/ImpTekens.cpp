@@ -23,9 +23,19 @@ std::string Codepunt(char32_t teken) {
 
 }  // namespace
 
-void ImpTekens::Tel(char32_t teken) {
+void ImpTekens::Tel(char32_t teken, std::int32_t regel) {
+  Voeg(teken, {1, regel});
+}
+
+void ImpTekens::Voeg(const ImpTekens& andere) {
+  for (const auto& [teken, telling] : andere.tellingen_) Voeg(teken, telling);
+}
+
+void ImpTekens::Voeg(char32_t teken, const Telling& erbij) {
   Telling& telling = tellingen_[teken];
-  if (telling.keer++ == 0) telling.eerste = regel_;
+  // A later pass may count an earlier line.
+  if (telling.keer == 0 || erbij.eerste < telling.eerste) telling.eerste = erbij.eerste;
+  telling.keer += erbij.keer;
 }
 
 void ImpTekens::Noteer(const std::function<void(std::string_view)>& log) const {

@@ -58,6 +58,10 @@ Bekenden Bekend(RecordBestand& plaatsen, SysteemFout& fout) {
   return bekend;
 }
 
+// From the fourth relation and the sixteenth child on a record has a continuation.
+constexpr int kRelatiesInRecord = 3;
+constexpr int kKinderenInRecord = 15;
+
 bool IsPlaats(PersoonActie actie) {
   return actie == PersoonActie::Plaats || actie == PersoonActie::DoopPlaats ||
          actie == PersoonActie::BegrPlaats;
@@ -86,6 +90,7 @@ class Teller {
     }
     soort_ = GedSoortVan(delen.tag);
     prov_.clear();
+    verwijzingen_ = 0;
     if (soort_ == GedSoort::Persoon) ++telling.personen;
     if (soort_ == GedSoort::Relatie) ++telling.relaties;
     return soort_ != GedSoort::Einde;
@@ -104,6 +109,8 @@ class Teller {
       gekend_ = pad_.Ouder(delen.level);
     } else if (pad_.Van(0) == eigen::kPlaats) {
       NeemPlaatsRecord(delen);
+    } else if (IsVerwijzing(delen)) {
+      TelVervolg();
     } else if (delen.tag == "CHAR" && !windows_) {
       const auto* rij = overige_.Zoek(pad_.Van(delen.level));
       if (rij && rij->actie == OverigeActie::Tekenset) tekenset_ = GedTekensetVan(delen.waarde);
@@ -118,6 +125,28 @@ class Teller {
     const bool nieuw = gelijken == 0 || PlaatsIndex::Sleutel(waarde).empty();
     telling.plaatsen += nieuw ? 1 : 0;
     gelijken -= nieuw ? 0 : 1;
+  }
+
+  // A link to one of many: to a relation of a person, to a child of a relation.
+  [[nodiscard]] bool IsVerwijzing(const GedDelen& delen) const {
+    if (soort_ == GedSoort::Persoon && (delen.tag == "FAMS" || delen.tag == eigen::kRelatie)) {
+      const auto* rij = personen_.Zoek(pad_.Van(delen.level));
+      return rij && rij->actie == PersoonActie::Relatie;
+    }
+    if (soort_ != GedSoort::Relatie || (delen.tag != "CHIL" && delen.tag != eigen::kKind))
+      return false;
+    const auto* rij = relaties_.Zoek(pad_.Van(delen.level));
+    return rij && rij->actie == RelatieActie::Kind;
+  }
+
+  void TelVervolg() {
+    ++verwijzingen_;
+    if (soort_ == GedSoort::Persoon && verwijzingen_ == kRelatiesInRecord + 1) {
+      ++telling.vervolgPersonen;
+    }
+    if (soort_ == GedSoort::Relatie && verwijzingen_ == kKinderenInRecord + 1) {
+      ++telling.vervolgRelaties;
+    }
   }
 
   [[nodiscard]] bool IsPlaatsregel(std::string_view pad) const {
@@ -140,8 +169,9 @@ class Teller {
 
   Bekenden bekend_;
   bool windows_;
-  std::string prov_;    // of the place record at hand
-  std::string gekend_;  // the path above the last link to such a record
+  int verwijzingen_ = 0;  // of the record at hand to others of which it may have many
+  std::string prov_;      // of the place record at hand
+  std::string gekend_;    // the path above the last link to such a record
   Padtabel<PersoonPad> personen_;
   Padtabel<RelatiePad> relaties_;
   Padtabel<OverigPad> overige_;

@@ -13,6 +13,9 @@ namespace lb77 {
 struct ImpTelling {
   int personen = 0;
   int relaties = 0;
+  // The continuation records that come with them.
+  int vervolgPersonen = 0;
+  int vervolgRelaties = 0;
   int plaatsen = 0;  // that the set does not have yet
   SysteemFout fout;  // of the first place of the set that could not be read: it counts as absent
 };

@@ -1,6 +1,6 @@
 #include "exchange/OpmReeks.h"
 
-#include <unordered_set>
+#include <algorithm>
 #include <utility>
 
 #include "text/Getallen.h"
@@ -14,21 +14,41 @@ constexpr int kRegelsInOpmerking = 10;
 }  // namespace
 
 OpmReeks::OpmReeks(OpmLB77& opmerking)
-    : opmerking_(opmerking), aantal_(opmerking.AantalRecords()) {}
+    : opmerking_(opmerking),
+      aantal_(opmerking.AantalRecords()),
+      schakels_(static_cast<std::size_t>(std::max<std::int16_t>(aantal_, 0)) + 1) {}
 
 void OpmReeks::Lees(std::int16_t begin) {
   begin_ = begin;
   koppen_.clear();
   fout_.clear();
-  if (begin == 0) return;
-  std::unordered_set<std::int16_t> geweest;
+  ++gang_;
   std::int32_t stap = 0;
-  for (std::int16_t nr = begin; nr != 0; nr = opmerking_.BijZelfde()) {
+  for (std::int16_t nr = begin; nr != 0;) {
+    Schakel geen;
+    Schakel& schakel = nr > 0 && nr <= aantal_ ? schakels_[static_cast<std::size_t>(nr)] : geen;
     // A remark that comes back would come back for ever.
-    const bool nieuw = geweest.insert(nr).second;
-    if (!Betreed(nr, nieuw ? ++stap : aantal_, fout_)) return;
-    koppen_[opmerking_.Rubriek()].push_back({nr, stap});
+    const bool nieuw = schakel.gang != gang_;
+    schakel.gang = gang_;
+    if (!BetreedKop(nr, nieuw ? ++stap : aantal_, schakel)) return;
+    koppen_[schakel.rubriek].push_back({nr, stap});
+    nr = schakel.bijZelfde;
   }
+}
+
+bool OpmReeks::BetreedKop(std::int16_t nr, std::int32_t stap, Schakel& schakel) {
+  if (schakel.gelezen && stap < aantal_) return true;
+  if (!Betreed(nr, stap, fout_)) return false;
+  schakel.rubriek = opmerking_.Rubriek();
+  schakel.bijZelfde = opmerking_.BijZelfde();
+  schakel.gelezen = true;
+  return true;
+}
+
+std::size_t OpmReeks::Aantal() const {
+  std::size_t aantal = 0;
+  for (const auto& [rubriek, koppen] : koppen_) aantal += koppen.size();
+  return aantal;
 }
 
 OpmReeks::Inhoud OpmReeks::Rubriek(std::int16_t code, std::int16_t rubriek) {

@@ -41,6 +41,8 @@ class OpmReeks {
     std::int16_t nr;
     std::int32_t stap;  // the remarks up to it, itself counted
   };
+  // All remarks of the owner.
+  [[nodiscard]] std::size_t Aantal() const;
   // The remarks of a rubric in the order of the chain, for who wants them all.
   [[nodiscard]] std::span<const Kop> Koppen(std::int16_t rubriek) const;
 
@@ -51,8 +53,20 @@ class OpmReeks {
   [[nodiscard]] bool Betreed(std::int16_t nr, std::int32_t stap, std::string& fout);
   Einde LeesRegels(const Kop& kop, std::vector<std::string>& regels);
 
+  // What the first record of a remark says. It is kept: in a damaged file thousands of owners may
+  // point into one long chain.
+  struct Schakel {
+    std::int16_t rubriek = 0;
+    std::int16_t bijZelfde = 0;
+    bool gelezen = false;
+    std::int32_t gang = 0;  // the walk that came by last
+  };
+  [[nodiscard]] bool BetreedKop(std::int16_t nr, std::int32_t stap, Schakel& schakel);
+
   OpmLB77& opmerking_;
   std::int16_t aantal_;
+  std::vector<Schakel> schakels_;  // by number
+  std::int32_t gang_ = 0;
   std::int16_t begin_ = 0;
   std::map<std::int16_t, std::vector<Kop>> koppen_;  // by rubric
   std::string fout_;                                 // why the chain broke off

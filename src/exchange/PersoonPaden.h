@@ -24,7 +24,6 @@ enum class PersoonActie {
   Relatie,  // the next of at most five
   // Tags of our own. The fields that they set stay as they tell.
   Eigen,        // the value as it stands
-  EigenCorr,    // a correction code
   EigenPlaats,  // a link to a place of the file
   EigenZeker,   // the qualifier of the place just linked to
   Niets         // known, and passed over

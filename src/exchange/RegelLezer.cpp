@@ -7,7 +7,7 @@
 #include <system_error>
 #include <utility>
 
-#include "exchange/StroomFout.h"
+#include "store/StroomFout.h"
 #include "text/Bestandstekst.h"
 
 namespace lb77 {
@@ -49,7 +49,7 @@ SysteemFout RegelLezer::Open(const std::filesystem::path& pad) {
   bestand_.rdbuf()->pubsetbuf(nullptr, 0);
   errno = 0;
   bestand_.open(pad, std::ios::binary);
-  if (!bestand_) return StroomFout();
+  if (!bestand_) return FoutVanStroom(pad);
   blok_.resize(kBlok);
   codering_ = Codering::Bytes;
   Begin();
@@ -104,7 +104,7 @@ std::size_t RegelLezer::LeesBlok() {
   errno = 0;
   bestand_.read(blok_.data() + eind_, static_cast<std::streamsize>(blok_.size() - eind_));
   const auto gelezen = static_cast<std::size_t>(bestand_.gcount());
-  if (bestand_.bad()) fout_ = StroomFout();
+  if (bestand_.bad()) fout_ = FoutVanStroom();
   uitgelezen_ = !bestand_;
   return gelezen;
 }
@@ -115,7 +115,7 @@ std::size_t RegelLezer::LeesUtf16() {
   errno = 0;
   bestand_.read(ruw_.data(), static_cast<std::streamsize>(ruw_.size()));
   const auto gelezen = static_cast<std::size_t>(bestand_.gcount());
-  if (bestand_.bad()) fout_ = StroomFout();
+  if (bestand_.bad()) fout_ = FoutVanStroom();
   uitgelezen_ = !bestand_;
   utf8_.clear();
   utf16_.Neem({ruw_.data(), gelezen}, utf8_);

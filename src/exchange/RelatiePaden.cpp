@@ -68,7 +68,7 @@ constexpr RelatiePad kPaden[] = {
     {"FAM-MARB-_LBPLTS-_LBZEKER", EigenZeker, "OtrPlaats", "", ""},
     {"FAM-_LBWET-_LBBOND", Eigen, "HuwSwPs", "", ""},
     {"FAM-_LBWET-_LBSOORT", Eigen, "HuwSoort", "", ""},
-    {"FAM-_LBWET-_LBCORR", EigenCorr, "HuwCorr", "", ""},
+    {"FAM-_LBWET-_LBCORR", Eigen, "HuwCorr", "", ""},
     {"FAM-_LBWET-_LBDATUM", Eigen, "WHuwDatum", "", ""},
     {"FAM-_LBWET-_LBTOT", Eigen, "KHuwDatum", "", ""},
     {"FAM-_LBWET-DATE", EigenHuwDatum, "WHuwDatum", "", ""},

@@ -17,7 +17,6 @@ enum class RelatieActie {
   Kind,  // the next of at most 29
   // Tags of our own, as for a person.
   Eigen,
-  EigenCorr,
   EigenHuwDatum,  // civil marriage with its own qualifier; a second date goes to the church
   EigenPlaats,
   EigenZeker,

@@ -4,6 +4,7 @@
 #include <string>
 #include <system_error>
 
+#include "app/PlaatsNemen.h"
 #include "exchange/UitvoerNaam.h"
 #include "output/ToonTekst.h"
 #include "store/Paden.h"
@@ -28,6 +29,14 @@ std::string Stempel(const Tijdstip& nu) {
 
 }  // namespace
 
+UitvoerRecords::UitvoerRecords(Hoofdmodule& hoofd)
+    : eenmaal_(hoofd.gesprek, Gelijkenis::ZonderNummers),
+      opslag_{hoofd.bestanden, hoofd.volgers, eenmaal_, hoofd.schrijfwijze},
+      persoon_(opslag_),
+      relatie_(opslag_),
+      plaats_(opslag_),
+      opmerking_(opslag_, persoon_, relatie_) {}
+
 bool UitvoerBestanden::Mislukt() const {
   return log_.Fout() || std::ranges::any_of(uit_, [](const ExpBestand& uit) {
            return static_cast<bool>(uit.Fout());
@@ -43,7 +52,7 @@ SysteemFout UitvoerBestanden::SluitUit() {
 }
 
 UitvoerForm::UitvoerForm(const UitvoerSoort& soort, Hoofdmodule& hoofd)
-    : Formulier(soort.naam, soort.titel), soort_(soort), hoofd_(hoofd) {
+    : Formulier(soort.naam, soort.titel), soort_(soort), hoofd_(hoofd), records_(hoofd) {
   ZetHulpOnderwerp(soort.hulp);
   for (const UitvoerVeld& veld : soort.velden) {
     UitvoerRij& rij = Uitvoeren.emplace_back(*this, veld);
@@ -86,6 +95,7 @@ void UitvoerForm::BrowseButtonKlik(UitvoerRij& rij) {
 void UitvoerForm::StartKlik() {
   if (!HeeftNamen() || !MagBeginnen()) return;
   WisVoortgang();
+  records_.Begin();
   gestopt_ = false;
   ZetBezig(true);
   bool metLog = false;
@@ -124,8 +134,11 @@ SysteemFout UitvoerForm::Voer(bool& metLog) {
   UitvoerBestanden bestanden(Uitvoeren.size());
   if (SysteemFout fout = OpenLog(bestanden.Log())) return fout;
   metLog = true;
+  ernaast_.clear();
   SysteemFout fout = VoerMetLog(bestanden);
   static_cast<void>(bestanden.SluitUit());
+  Bestandswerk werk;
+  if (fout || gestopt_) RuimErnaast(ernaast_, werk);
   const SysteemFout logFout = bestanden.Log().Sluit();
   return fout ? fout : logFout;
 }
@@ -135,11 +148,17 @@ SysteemFout UitvoerForm::VoerMetLog(UitvoerBestanden& bestanden) {
   if (SysteemFout fout = OpenUit(bestanden)) return fout;
   Schrijf(bestanden);
   if (SysteemFout fout = bestanden.SluitUit()) return fout;
+  // A log that is full has ended the run.
+  if (SysteemFout fout = bestanden.Log().Fout()) return fout;
   if (gestopt_) {
     bestanden.Log().Regel("Exporteren afgebroken");
-  } else {
-    SchrijfLogSlot(bestanden.Log());
+    return {};
   }
+  Bestandswerk werk;
+  if (const auto fout = NeemPlaatsen(ernaast_, werk)) {
+    return {fout->fout.nummer, fout->fout.tekst + NietTerugTekst(*fout, ernaast_)};
+  }
+  SchrijfLogSlot(bestanden.Log());
   return {};
 }
 
@@ -151,8 +170,30 @@ SysteemFout UitvoerForm::OpenUit(UitvoerBestanden& bestanden) {
   }
   for (std::size_t i = 0; i < Uitvoeren.size(); ++i) {
     if (IsBezet(i)) return FoutInGebruik();
-    if (SysteemFout fout = bestanden.Uit(i).Open(UitvoerPad(i))) return fout;
+    if (SysteemFout fout = OpenEen(bestanden.Uit(i), UitvoerPad(i))) return fout;
   }
+  return {};
+}
+
+// What a device gets has no place to take.
+SysteemFout UitvoerForm::OpenEen(ExpBestand& uit, const std::filesystem::path& pad) {
+  std::error_code code;
+  const bool isNieuw = !std::filesystem::exists(std::filesystem::symlink_status(pad, code));
+  if (!IsErnaast() || !(isNieuw || std::filesystem::is_regular_file(pad, code))) {
+    return uit.Open(pad);
+  }
+  std::filesystem::path plaats = pad;
+  if (!isNieuw) {
+    if (SysteemFout fout = ExpBestand::Toets(pad)) return fout;
+    // The file itself, where the name is a link to it.
+    plaats = std::filesystem::canonical(pad, code);
+    if (code) return FoutVan(code);
+  }
+  for (const std::filesystem::path& ander : ernaast_) {
+    if (IsZelfdeBestand(VindPad(Ernaast(plaats)), Ernaast(ander))) return FoutInGebruik();
+  }
+  if (SysteemFout fout = uit.Open(Ernaast(plaats))) return fout;
+  ernaast_.push_back(plaats);
   return {};
 }
 

@@ -9,8 +9,14 @@
 #include <vector>
 
 #include "app/Hoofdmodule.h"
+#include "exchange/EenmaalGesprek.h"
 #include "exchange/ExpUitvoer.h"
 #include "forms/Formulier.h"
+#include "store/Gegevens.h"
+#include "store/OpmLB77.h"
+#include "store/PersoonLB77.h"
+#include "store/PlaatsLB77.h"
+#include "store/RelatieLB77.h"
 
 namespace lb77 {
 
@@ -43,6 +49,25 @@ struct UitvoerRij {
   Knop BrowseButton;
 };
 
+// The records for a run: what is told of one that can't be read is not told of all.
+class UitvoerRecords {
+ public:
+  explicit UitvoerRecords(Hoofdmodule& hoofd);
+  // A run begins.
+  void Begin() { eenmaal_.Opnieuw(); }
+  [[nodiscard]] Gegevens Alle() {
+    return {persoon_, relatie_, plaats_, opmerking_, opslag_.volgers, opslag_.schrijfwijze};
+  }
+
+ private:
+  EenmaalGesprek eenmaal_;
+  Opslag opslag_;
+  PersoonLB77 persoon_;
+  RelatieLB77 relatie_;
+  PlaatsLB77 plaats_;
+  OpmLB77 opmerking_;
+};
+
 // The files of a run, open.
 class UitvoerBestanden {
  public:
@@ -62,7 +87,8 @@ class UitvoerBestanden {
 
 // A derived form declares its further controls and hands its buttons over. It closes behind a run
 // that came to its end. Behind one that failed or was stopped it stays, its log is shown, and its start
-// button works again when a file has been picked by Browse; what was written stands.
+// button works again when a file has been picked by Browse; what was written stands, unless it was
+// written beside its place.
 class UitvoerForm : public Formulier {
  public:
   std::deque<UitvoerRij> Uitvoeren;
@@ -75,11 +101,15 @@ class UitvoerForm : public Formulier {
   void BijLaden() override;
   void BijActiveren() override;
   [[nodiscard]] Hoofdmodule& Hoofd() { return hoofd_; }
+  // The records that a run reads.
+  [[nodiscard]] Gegevens Records() { return records_.Alle(); }
   // The name of an output as the user gave it, trimmed.
   [[nodiscard]] std::string Naam(std::size_t i) const;
 
   // The highest record of the file that must hold something.
   [[nodiscard]] virtual std::int16_t AantalRecords() = 0;
+  // Are the outputs written beside their places, and take these when all are whole?
+  [[nodiscard]] virtual bool IsErnaast() { return false; }
   // What else must hold before a run; a False has been told.
   [[nodiscard]] virtual bool MagBeginnen() { return true; }
   // Puts the running counts to 0.
@@ -101,6 +131,7 @@ class UitvoerForm : public Formulier {
   [[nodiscard]] SysteemFout Voer(bool& metLog);
   [[nodiscard]] SysteemFout VoerMetLog(UitvoerBestanden& bestanden);
   [[nodiscard]] SysteemFout OpenUit(UitvoerBestanden& bestanden);
+  [[nodiscard]] SysteemFout OpenEen(ExpBestand& uit, const std::filesystem::path& pad);
   [[nodiscard]] bool IsBezet(std::size_t i) const;
   [[nodiscard]] std::filesystem::path UitvoerPad(std::size_t i) const;
   [[nodiscard]] std::filesystem::path LogPad() const;
@@ -109,7 +140,9 @@ class UitvoerForm : public Formulier {
 
   const UitvoerSoort& soort_;
   Hoofdmodule& hoofd_;
+  UitvoerRecords records_;
   Knop* start_ = nullptr;
+  std::vector<std::filesystem::path> ernaast_;  // the places of what the run writes beside them
   bool gestopt_ = false;
 };
 

@@ -7,6 +7,7 @@
 #include "app/IniBestand.h"
 #include "app/KopiePlek.h"
 #include "store/Paden.h"
+#include "store/PlatformNamen.h"
 
 namespace lb77 {
 namespace {
@@ -35,7 +36,7 @@ bool IsZelfdeBestand(const std::filesystem::path& een, const std::filesystem::pa
   if (std::filesystem::equivalent(een, ander, code)) return true;
   const std::filesystem::path a = std::filesystem::weakly_canonical(een, code);
   const std::filesystem::path b = std::filesystem::weakly_canonical(ander, code);
-  return !a.empty() && a == b;
+  return !a.empty() && IsZelfdeNaam(a, b);
 }
 
 bool IsVanSet(const std::filesystem::path& bestand, const SetPaden& paden) {

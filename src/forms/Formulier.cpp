@@ -141,6 +141,24 @@ bool Formulier::Dubbelklik(Bediening& bediening) {
   Wissel(bediening);
   bediening.OpDubbelklik();
   if (!gesloten_ && bediening.bijDubbelklik_) bediening.bijDubbelklik_();
+  if (Bediening* const ok = OKVoorLijst(bediening)) Klik(*ok);
+  return true;
+}
+
+// Null for all but a pick list that has no double click of its own.
+Bediening* Formulier::OKVoorLijst(const Bediening& bediening) const {
+  if (bediening.Soort() != BedieningSoort::Keuzelijst || bediening.HeeftDubbelklik())
+    return nullptr;
+  Bediening* const ok = Zoek("OKButton");
+  return ok && ok->Bruikbaar() ? ok : nullptr;
+}
+
+// Enter on the chosen line of a pick list does what a double click does; False when there is none.
+bool Formulier::KiesRegel(Bediening& bediening) {
+  if (bediening.Soort() != BedieningSoort::Keuzelijst) return false;
+  if (static_cast<const Lijst&>(bediening).Index() < 0) return false;
+  if (!bediening.HeeftDubbelklik() && !OKVoorLijst(bediening)) return false;
+  Dubbelklik(bediening);
   return true;
 }
 
@@ -285,7 +303,7 @@ bool Formulier::EnterIn(Bediening& bediening) {
   if (!veld) {
     if (bediening.Soort() == BedieningSoort::Knop) {
       Klik(bediening);
-    } else {
+    } else if (!KiesRegel(bediening)) {
       GaVerder(&bediening, 1);
     }
     return true;

@@ -71,6 +71,7 @@ class Formulier {
   // Leaves the control that has the focus, for no other.
   bool VerlaatVeld();
   bool Klik(Bediening& bediening);
+  // In a pick list without a double click of its own it presses OKButton.
   bool Dubbelklik(Bediening& bediening);
   // Chooses the item of that index, -1 for none.
   bool Kies(Lijst& lijst, int index);
@@ -138,6 +139,8 @@ class Formulier {
   void Schakel(Bediening& bediening);
   bool Wissel(Bediening& bediening);
   void MeldWijziging(Bediening& bediening);
+  [[nodiscard]] Bediening* OKVoorLijst(const Bediening& bediening) const;
+  [[nodiscard]] bool KiesRegel(Bediening& bediening);
   [[nodiscard]] bool EnterIn(Bediening& bediening);
   [[nodiscard]] bool SpatieIn(Bediening& bediening);
   [[nodiscard]] bool KeuzeToets(Bediening& bediening, int code);

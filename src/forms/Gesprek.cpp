@@ -1,8 +1,16 @@
 #include "forms/Gesprek.h"
 
+#include <algorithm>
+
 #include "forms/Formulier.h"
 
 namespace lb77 {
+
+bool StaatErIets(const std::vector<std::string>& pagina) {
+  return std::ranges::any_of(pagina, [](const std::string& regel) {
+    return regel.find_first_not_of(" \t") != std::string::npos;
+  });
+}
 
 void Gesprek::ToonModaal(Formulier& formulier) {
   if (!formulier.Laad()) return;

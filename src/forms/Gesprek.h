@@ -34,7 +34,13 @@ struct BestandsVraag {
 struct Afdruk {
   std::string titel;
   std::vector<std::vector<std::string>> paginas;
+  // Of pages that are some of many: the number of the first, and how many there are in all. 0 when
+  // these are all.
+  std::size_t eerste = 1;
+  std::size_t totaal = 0;
 };
+// Does anything stand on the page? A page without gets no sheet.
+[[nodiscard]] bool StaatErIets(const std::vector<std::string>& pagina);
 
 // Two implementations: the window and the script player. A form cannot tell them apart.
 class Gesprek {

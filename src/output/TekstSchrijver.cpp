@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <cstddef>
 
+#include "store/StroomFout.h"
 #include "text/Tekens.h"
 
 namespace lb77 {
@@ -142,8 +143,10 @@ bool TekstSchrijver::Open(const std::filesystem::path& pad) {
   huidigeKolom_ = linkerMarge_ = vorigeMarge_ = 0;
   errno = 0;
   bestand_.open(pad, std::ios::binary | std::ios::trunc);
-  if (!bestand_.is_open()) OnthoudFout();
-  return !mislukt_;
+  if (bestand_.is_open()) return true;
+  fout_ = FoutVanStroom(pad);
+  mislukt_ = true;
+  return false;
 }
 
 TekstSchrijver::~TekstSchrijver() {

@@ -33,9 +33,6 @@ constexpr int kOmlaagKnop = 4;
 constexpr std::string_view kHTMLFilter =
     "Alle Bestanden (*.*)|*.*|Internetbestanden (*.htm)|*.htm|Internetbestanden (*.html)|*.html";
 
-// What a name of a file may not hold on every system.
-constexpr std::string_view kVerbodenInNaam = "/\\:*?\"<>|";
-
 const Stap& StapVan(int knop) {
   return kStappen.at(static_cast<std::size_t>(knop - 1));
 }
@@ -206,7 +203,25 @@ void TekstVenster::PrintButtonKlik(int nummer) {
 
 void TekstVenster::DrukPaginaAf() {
   Afdruk afdruk{Titel(), {}};
-  if (VoegPaginaToe(afdruk, kolom_, rij_)) DrukAf(afdruk);
+  if (!VoegPaginaToe(afdruk, kolom_, rij_)) return;
+  Nummer(afdruk);
+  DrukAf(afdruk);
+}
+
+// Loose sheets can be put in order: each has the number that it has among all.
+void TekstVenster::Nummer(Afdruk& afdruk) {
+  std::size_t totaal = 0;
+  std::size_t hier = 1;
+  std::vector<std::string> pagina;
+  for (int rij = 1; rij <= Uitvoer().Rijen(); ++rij) {
+    for (int kolom = 1; kolom <= Uitvoer().Kolommen(); ++kolom) {
+      if (!LeesPagina(Uitvoer(), kolom, rij, pagina)) return;
+      if (StaatErIets(pagina)) ++totaal;
+      if (rij == rij_ && kolom == kolom_) hier = totaal;
+    }
+  }
+  afdruk.eerste = hier;
+  afdruk.totaal = totaal;
 }
 
 void TekstVenster::DrukAllesAf() {
@@ -242,17 +257,9 @@ void TekstVenster::SaveButtonKlik() {
   const BestandsVraag vraag{BestandsWijze::Opslaan, std::string(filter), hoofd_.Ini.TekstDir()};
   const bool utf8 = UTF8Box.Bruikbaar() && UTF8Box.Gekozen();
   // Told either way; the viewer stays.
-  static_cast<void>(SlaTekstOp(hoofd_.gesprek, Uitvoer().Pad(), vraag, Opslagnaam(),
+  static_cast<void>(SlaTekstOp(hoofd_.gesprek, Uitvoer().Pad(), vraag,
+                               Opslagnaam(Titel(), HTMLUitvoer_ ? ".htm" : ".txt"),
                                utf8 ? Tekencode::Utf8 : Tekencode::Zelfde));
-}
-
-// A report is called what its title says.
-std::filesystem::path TekstVenster::Opslagnaam() const {
-  std::string naam(Titel());
-  for (char& teken : naam) {
-    if (kVerbodenInNaam.find(teken) != std::string_view::npos) teken = '-';
-  }
-  return PadVan(naam + (HTMLUitvoer_ ? ".htm" : ".txt"));
 }
 
 void TekstVenster::BrowserButtonKlik() {

@@ -65,11 +65,11 @@ class TekstVenster : public Formulier, public Bladeraar, public Leesformulier {
   void ZoekTekstToets(ToetsGebeurtenis& toets);
   void ZoekButtonKlik();
   void Toon(const Tekstpaginas::Plek& plek);
-  [[nodiscard]] std::filesystem::path Opslagnaam() const;
   void Ga(int kolommen, int rijen);
   void ToonPagina();
   [[nodiscard]] Tekstpaginas& Uitvoer() { return uitvoer_ ? *uitvoer_ : paginas_; }
   void DrukPaginaAf();
+  void Nummer(Afdruk& afdruk);
   void DrukAllesAf();
   [[nodiscard]] bool VoegPaginaToe(Afdruk& afdruk, int kolom, int rij);
   void DrukAf(const Afdruk& afdruk);

@@ -11,6 +11,7 @@
 
 #include "output/Regelstroom.h"
 #include "store/PlatformNamen.h"
+#include "store/StroomFout.h"
 #include "text/Getallen.h"
 #include "text/Unicode.h"
 #include "text/Utf8.h"
@@ -203,7 +204,7 @@ SysteemFout SchrijfKopie(const std::filesystem::path& van, const std::filesystem
   if (!stroom.Open(van)) return stroom.Fout();
   errno = 0;
   std::ofstream uit(naar, std::ios::binary | std::ios::trunc);
-  if (!uit) return FoutVanStroom();
+  if (!uit) return FoutVanStroom(naar);
   while (uit && stroom.VolgendeRegel()) {
     // No read behind a write that failed: it would hide why.
     std::string_view stuk = stroom.Stuk();
@@ -220,13 +221,14 @@ SysteemFout SchrijfKopie(const std::filesystem::path& van, const std::filesystem
 SysteemFout KopieerTekst(const std::filesystem::path& van, const std::filesystem::path& naar,
                          Tekencode tekencode) {
   const std::filesystem::path ernaast = VrijeNaamNaast(naar);
+  if (IsTeLang(ernaast)) return FoutVan(std::make_error_code(std::errc::filename_too_long));
   SysteemFout fout = SchrijfKopie(van, ernaast, tekencode);
   std::error_code code;
   if (!fout) {
     HernoemOpSchijf(ernaast, naar, code);
     fout = FoutVan(code);
   }
-  if (fout) std::filesystem::remove(ernaast, code);
+  if (fout) static_cast<void>(VerwijderVanSchijf(ernaast, code));
   return fout;
 }
 

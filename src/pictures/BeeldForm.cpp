@@ -1,13 +1,17 @@
 #include "pictures/BeeldForm.h"
 
 #include <algorithm>
+#include <cerrno>
+#include <cmath>
 #include <fstream>
 #include <utility>
 
 #include "app/Hoofdmodule.h"
 #include "forms/Toets.h"
+#include "output/TekstOpslaan.h"
 #include "output/Tekstpaginas.h"
 #include "pictures/SvgSchrijver.h"
+#include "store/StroomFout.h"
 #include "text/Getallen.h"
 #include "text/Letterlijk.h"
 #include "text/Pad.h"
@@ -17,6 +21,7 @@ namespace lb77 {
 namespace {
 
 constexpr std::array<std::string_view, 3> kKleuren{"Per generatie", "Per geslacht", "Zonder kleur"};
+constexpr double kGrootstePdf = 14400;  // points: what readers of PDF promise to show
 constexpr std::string_view kFilter = "SVG-tekening (*.svg)|*.svg|PDF-bestand (*.pdf)|*.pdf";
 
 std::vector<std::string> Rijen(const std::array<std::string_view, 3>& namen) {
@@ -44,33 +49,33 @@ std::vector<std::string> Getallen(int tot) {
 
 const BeeldSoort kWaaierBeeld{
     "WaaierBeeld", "Waaier", "beelden", {"Halve cirkel", "Driekwart cirkel", "Hele cirkel"},
-    kKleuren,      true,     6};
+    kKleuren,      true,     true};
 const BeeldSoort kKwartierBeeld{"KwartierBeeld",
                                 "Stamboom van voorouders",
                                 "beelden",
                                 {"Naar rechts", "Omhoog", ""},
                                 kKleuren,
                                 true,
-                                5};
+                                true};
 const BeeldSoort kStamBeeld{"StamBeeld", "Stamboom van nakomelingen",
                             "beelden",   {"Naar rechts", "Omlaag", ""},
                             kKleuren,    false,
-                            80};
+                            true};
 const BeeldSoort kTijdBeeld{"TijdBeeld",
                             "Populatiegrafiek",
                             "beelden",
                             {"", "", ""},
                             {"In kleur", "Zonder kleur", ""},
                             false,
-                            0};
+                            false};
 
 BeeldForm::BeeldForm(const BeeldSoort& soort, Hoofdmodule& hoofd, int generaties, BeeldMaker maak,
-                     int vorm)
+                     const BeeldKeuzen& begin)
     : KetenFormulier(soort.naam, soort.titel, hoofd),
       soort_(soort),
       generaties_(generaties),
       maak_(std::move(maak)),
-      vorm_(vorm) {
+      begin_(begin) {
   ZetHulpOnderwerp(soort.hulp);
   ZetEersteVeld(Beeld);
   Beeld.BijToets([this](ToetsGebeurtenis& toets) { BeeldToets(toets); });
@@ -88,13 +93,13 @@ BeeldForm::BeeldForm(const BeeldSoort& soort, Hoofdmodule& hoofd, int generaties
 }
 
 void BeeldForm::BijLaden() {
-  Vul(GeneratiesBox, Getallen(soort_.generaties > 0 ? generaties_ : 0),
-      std::min(soort_.generaties, generaties_) - 1);
-  Vul(VormBox, Rijen(soort_.vormen), vorm_);
+  Vul(GeneratiesBox, Getallen(soort_.generaties ? generaties_ : 0),
+      std::clamp(begin_.generaties, 1, std::max(generaties_, 1)) - 1);
+  Vul(VormBox, Rijen(soort_.vormen), begin_.vorm);
   Vul(KleurBox, Rijen(soort_.kleuren), 0);
-  NummerBox.ZetIndex(0);
+  NummerBox.ZetIndex(static_cast<int>(begin_.nummers));
   NummerBox.ZetZichtbaar(soort_.kwartieren);
-  OokJaarBox.ZetJa(true);
+  OokJaarBox.ZetJa(begin_.jaren);
   OokJaarBox.ZetZichtbaar(soort_.kwartieren);
   std::vector<std::string> maten;
   for (const Papiermaat& maat : kPapiermaten) maten.emplace_back(maat.naam);
@@ -102,7 +107,7 @@ void BeeldForm::BijLaden() {
   StandBox.ZetIndex(1);
   VerdeelBox.ZetRijen({std::string("Op één vel"_w), "Ware grootte"});
   VerdeelBox.ZetIndex(0);
-  KaartButton.ZetZichtbaar(soort_.generaties > 0);
+  KaartButton.ZetZichtbaar(soort_.generaties);
   Teken();
 }
 
@@ -128,14 +133,29 @@ Vellen BeeldForm::MaakVellen() const {
                            static_cast<Verdeling>(VerdeelBox.Index()));
 }
 
-void BeeldForm::ToonVellen() {
-  const Vellen vellen = MaakVellen();
+static std::string InCentimeters(double punten) {
+  return GetalTekst(std::llround(punten / 72 * 2.54));
+}
+
+// What the PDF will be, before it is made.
+static std::string Vellentekst(const Vellen& vellen, bool eigenMaat) {
   const std::size_t aantal = vellen.vellen.size();
-  VellenLabel.ZetBijschrift(aantal == 1
-                                ? std::string("Een PDF van 1 vel papier")
-                                : "Een PDF van " + GetalTekst(static_cast<std::int64_t>(aantal)) +
-                                      " vellen papier (" + GetalTekst(vellen.kolommen) +
-                                      " breed, " + GetalTekst(vellen.rijen) + " hoog)");
+  if (aantal != 1) {
+    return "Een PDF van " + GetalTekst(static_cast<std::int64_t>(aantal)) + " vellen papier (" +
+           GetalTekst(vellen.kolommen) + " breed, " + GetalTekst(vellen.rijen) + " hoog)";
+  }
+  std::string uit = "Een PDF van 1 vel papier";
+  if (!eigenMaat) return uit;
+  uit += " van " + InCentimeters(vellen.breedte) + " bij " + InCentimeters(vellen.hoogte) + " cm";
+  if (std::max(vellen.breedte, vellen.hoogte) > kGrootstePdf) {
+    uit += ", groter dan de meeste programma's tonen";
+  }
+  return uit;
+}
+
+void BeeldForm::ToonVellen() {
+  const bool eigenMaat = PapierBox.Index() + 1 == static_cast<int>(kPapiermaten.size());
+  VellenLabel.ZetBijschrift(Vellentekst(MaakVellen(), eigenMaat));
 }
 
 void BeeldForm::KeuzeWijziging() {
@@ -173,12 +193,13 @@ std::filesystem::path BeeldForm::Pad() const {
 }
 
 bool BeeldForm::MaakBestand() {
+  errno = 0;
   std::ofstream uit(Pad(), std::ios::binary);
   uit << SvgVan(Beeld.Beeld());
   uit.close();
   if (uit) return true;
   Hoofd().gesprek.Fout("Fout bij het schrijven van " + PadTekst(Pad()) + "\n" +
-                       FoutVanStroom().tekst);
+                       FoutVanStroom(Pad()).tekst);
   return false;
 }
 
@@ -190,8 +211,8 @@ std::optional<std::string> BeeldForm::BewaarSvg(const std::filesystem::path& naa
 void BeeldForm::OKButtonKlik() {
   if (!MaakBestand()) return;
   Gesprek& gesprek = Hoofd().gesprek;
-  auto naar =
-      gesprek.VraagBestand({BestandsWijze::Opslaan, std::string(kFilter), Hoofd().Ini.TekstDir()});
+  const BestandsVraag vraag{BestandsWijze::Opslaan, std::string(kFilter), Hoofd().Ini.TekstDir()};
+  auto naar = VraagOpslag(gesprek, vraag, Opslagnaam(Beeld.Beeld().titel, ".svg"));
   if (!naar) return;
   if (!naar->has_extension()) *naar += ".svg";
   const bool pdf = Hoofdletters(PadTekst(naar->extension())) == ".PDF";

@@ -33,7 +33,7 @@ struct BeeldSoort {
   std::array<std::string_view, 3> vormen;
   std::array<std::string_view, 3> kleuren;
   bool kwartieren = false;  // asks for numbers and years, which others have in their options
-  int generaties = 0;       // shown at first; 0 for a picture without generations
+  bool generaties = false;  // its persons stand in generations
 };
 
 extern const BeeldSoort kWaaierBeeld;
@@ -47,9 +47,9 @@ using BeeldMaker = std::function<Tekening(const BeeldKeuzen&)>;
 // name ends that way. HuidigPersoonNr is 0 afterwards.
 class BeeldForm final : public KetenFormulier {
  public:
-  // `generaties` is how many there are; `vorm` the shape at first.
+  // `generaties` is how many there are; `begin` what is chosen at first.
   BeeldForm(const BeeldSoort& soort, Hoofdmodule& hoofd, int generaties, BeeldMaker maak,
-            int vorm = 0);
+            const BeeldKeuzen& begin = {});
 
   Beeldvlak Beeld{*this, "Beeld", "Beeld van de familie"};
   Keuzevak GeneratiesBox{*this, "GeneratiesBox", "Generaties:"};
@@ -90,7 +90,7 @@ class BeeldForm final : public KetenFormulier {
   const BeeldSoort& soort_;
   int generaties_;
   BeeldMaker maak_;
-  int vorm_;
+  BeeldKeuzen begin_;
 };
 
 }  // namespace lb77

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <memory>
 #include <string>
 #include <utility>
 
 #include "ancestors/KwstBereken.h"
+#include "ancestors/KwstSchParam.h"
 #include "app/Hoofdmodule.h"
 #include "descendants/GenBereken.h"
 #include "descendants/GenPrs.h"
@@ -49,7 +51,10 @@ Tekening TekenStamboom(const BeeldPersonen& personen, const BeeldKeuzen& keuzen,
                   Helveticamaat());
 }
 
-std::string BeeldTitel(std::string_view wat, PersoonLB77& persoon, std::int16_t nr) {
+// The user's own title, if he gave one.
+std::string BeeldTitel(const PaginaTeksten& eigen, std::string_view wat, PersoonLB77& persoon,
+                       std::int16_t nr) {
+  if (!eigen.titel.empty()) return eigen.titel;
   return std::string(wat) + (persoon.Lees(nr) ? persoon.NaamVoluit() : std::string());
 }
 
@@ -73,11 +78,45 @@ KwartierBeeldPrs::KwartierBeeldPrs(const KwartierPrsSoort& soort, Hoofdmodule& h
   ZetHulpOnderwerp("beelden");
 }
 
+// Columns of characters, and what stands around a text, are no matter of a drawing.
+static void VerbergTekstkeuzen(TitelVelden& titels) {
+  for (Bediening* een :
+       {static_cast<Bediening*>(&titels.Inleiding1), static_cast<Bediening*>(&titels.Inleiding2),
+        static_cast<Bediening*>(&titels.Inleiding3), static_cast<Bediening*>(&titels.CopyrightBox),
+        static_cast<Bediening*>(&titels.OokLB77Box)}) {
+    een->ZetZichtbaar(false);
+  }
+}
+
+static std::unique_ptr<KwstSchParam> VraagOpties(Hoofdmodule& hoofd, KwstOpties& opties) {
+  auto uit = std::make_unique<KwstSchParam>(hoofd, opties);
+  // Numbers and years are chosen beside the picture.
+  for (Bediening* een :
+       {static_cast<Bediening*>(&uit->BreedteGen), static_cast<Bediening*>(&uit->UitlijnBox),
+        static_cast<Bediening*>(&uit->InHTMLBox), static_cast<Bediening*>(&uit->OokNrsBox),
+        static_cast<Bediening*>(&uit->OokJaarBox)}) {
+    een->ZetZichtbaar(false);
+  }
+  VerbergTekstkeuzen(uit->Titels);
+  return uit;
+}
+
+// What the options of the chart say of a picture. A proband with a number of his own is shown with it.
+static BeeldKeuzen BeginKeuzen(const KwstOpties& opties, int vorm) {
+  BeeldKeuzen uit;
+  uit.generaties = opties.KwMaxGen - opties.KwBeginNr.Generatie() + 1;
+  uit.vorm = vorm;
+  if (opties.KwBeginNr.Generatie() > 1) uit.nummers = Nummering::Kwartier;
+  return uit;
+}
+
 void KwartierBeeldPrs::Keten(std::int16_t persoonNr) {
   Hoofdmodule& hoofd = Hoofd();
   KwstOpties opties;
   opties.KwProbandNr = persoonNr;
-  opties.KwMaxGen = kMaxWaaierGen;
+  Stap(std::move(*VraagOpties(hoofd, opties)));
+  const BeeldKeuzen begin = BeginKeuzen(opties, soort_.vorm);
+  opties.KwMaxGen = kMaxWaaierGen + opties.KwBeginNr.Generatie() - 1;
   opties.KwVolgHerh = true;
   KwstTabel tabel;
   Verberg();
@@ -86,10 +125,10 @@ void KwartierBeeldPrs::Keten(std::int16_t persoonNr) {
   const auto maak = [&](const BeeldKeuzen& keuzen) {
     const KwartierKeuzen lees{keuzen.generaties, keuzen.nummers, keuzen.jaren};
     return soort_.teken(LeesKwartieren(tabel, lees, hoofd.MaakGegevens()), keuzen,
-                        BeeldTitel("Kwartierstaat van ", hoofd.Persoon, persoonNr));
+                        BeeldTitel(opties.teksten, "Kwartierstaat van ", hoofd.Persoon, persoonNr));
   };
   const int generaties = tabel.Generatie(tabel.KwstAantal() - 1) + 1;
-  Stap(BeeldForm(soort_.beeld, hoofd, generaties, maak, soort_.vorm));
+  Stap(BeeldForm(soort_.beeld, hoofd, generaties, maak, begin));
 }
 
 StamBeeldPrs::StamBeeldPrs(Hoofdmodule& hoofd)
@@ -103,6 +142,7 @@ void StamBeeldPrs::Keten(std::int16_t persoonNr) {
   run.opties.GenStamouderNr = persoonNr;
   GenSchParam opties(hoofd, run.opties);
   opties.InHTMLBox.ZetZichtbaar(false);  // a picture is no page
+  VerbergTekstkeuzen(opties.Titels);
   Stap(std::move(opties));
   if (run.opties.GenUitsluiten) Stap(GenUitsluit(kGenSchUitsluit, hoofd, run.opties));
   Verberg();
@@ -111,11 +151,12 @@ void StamBeeldPrs::Keten(std::int16_t persoonNr) {
   const auto maak = [&](const BeeldKeuzen& keuzen) {
     return TekenStamboom(
         LeesStam(run.tabel, run.opties, keuzen.generaties, hoofd.MaakGegevens()), keuzen,
-        run.opties.teksten.titel.empty() ? BeeldTitel("Nakomelingen van ", hoofd.Persoon, persoonNr)
-                                         : run.opties.teksten.titel);
+        BeeldTitel(run.opties.teksten, "Nakomelingen van ", hoofd.Persoon, persoonNr));
   };
-  Stap(BeeldForm(kStamBeeld, hoofd, run.tabel.LaatsteGeneratie(), maak,
-                 run.opties.GenVertikaal ? 1 : 0));
+  BeeldKeuzen begin;
+  begin.generaties = run.tabel.LaatsteGeneratie();
+  begin.vorm = run.opties.GenVertikaal ? 1 : 0;
+  Stap(BeeldForm(kStamBeeld, hoofd, run.tabel.LaatsteGeneratie(), maak, begin));
 }
 
 TijdBeeldPrs::TijdBeeldPrs(Hoofdmodule& hoofd)
@@ -129,7 +170,7 @@ void TijdBeeldPrs::Keten(std::int16_t persoonNr) {
   Verberg();
   Stap(TijdBereken(hoofd, persoonNr, tijdbalk));
   if (!GaatDoor()) return;
-  const std::string titel = BeeldTitel("Nakomelingen van ", hoofd.Persoon, persoonNr);
+  const std::string titel = BeeldTitel({}, "Nakomelingen van ", hoofd.Persoon, persoonNr);
   Stap(BeeldForm(kTijdBeeld, hoofd, 0, [&](const BeeldKeuzen& keuzen) {
     return TekenTijdbalk(tijdbalk, keuzen, titel);
   }));

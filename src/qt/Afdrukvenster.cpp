@@ -1,14 +1,16 @@
 #include "qt/Afdrukvenster.h"
 
+#include <QBuffer>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QPdfWriter>
 #include <QPrintDialog>
-#include <QSaveFile>
 #include <QScreen>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <filesystem>
 
+#include "app/HeelBestand.h"
 #include "qt/Berichtvenster.h"
 #include "qt/Bestandsvenster.h"
 #include "qt/Drukker.h"
@@ -31,24 +33,33 @@ QString Bestandsnaam(QString titel) {
   return titel + QStringLiteral(".pdf");
 }
 
-void MeldFout(QWidget* ouder, const char* tekst) {
+void MeldFout(QWidget* ouder, const std::string& tekst) {
   static_cast<void>(ToonBericht(ouder, BerichtSoort::Stop, Knoppen::OK, tekst));
 }
 
 }  // namespace
 
-bool SchrijfPdf(const QString& pad, const Afdruk& afdruk) {
-  QSaveFile bestand(pad);
-  if (!bestand.open(QIODevice::WriteOnly)) return false;
+SysteemFout SchrijfPdf(const QString& pad, const Afdruk& afdruk) {
+  QBuffer inhoud;
+  inhoud.open(QIODevice::WriteOnly);
   {
-    QPdfWriter papier(&bestand);
+    QPdfWriter papier(&inhoud);
     papier.setResolution(kPdfDpi);
     papier.setTitle(NaarQt(afdruk.titel));
     papier.setCreator(QStringLiteral("LB77"));
     StelPapierIn(papier);
-    if (!Druk(papier, afdruk)) return false;
+    if (!Druk(papier, afdruk)) return FoutNietOpen();
   }
-  return bestand.commit();
+  const std::filesystem::path naar = PadVanQt(pad);
+  std::filesystem::path naast = naar;
+  naast += ".nieuw";
+  Bestandswerk werk;
+  const QByteArray& bytes = inhoud.data();
+  SysteemFout fout =
+      werk.Maak(naast, {bytes.constData(), static_cast<std::size_t>(bytes.size())}).fout;
+  if (!fout) fout = werk.Hernoem(naast, naar);
+  if (fout) static_cast<void>(werk.Verwijder(naast));
+  return fout;
 }
 
 Afdrukvenster::Afdrukvenster(QWidget* ouder, const Afdruk& afdruk,
@@ -72,6 +83,7 @@ Afdrukvenster::Afdrukvenster(QWidget* ouder, const Afdruk& afdruk,
   });
   auto* kolom = new QVBoxLayout(this);
   kolom->addWidget(beeld_, 1);
+  MaakBladerrij();
   MaakKnoppen();
   const QScreen* scherm = QGuiApplication::primaryScreen();
   if (scherm) {
@@ -91,24 +103,22 @@ QPushButton* Afdrukvenster::MaakKnop(const char* naam, const QString& bijschrift
   return knop;
 }
 
-void Afdrukvenster::MaakKnoppen() {
+// A row of its own: with large letters all the buttons would be wider than the screen.
+void Afdrukvenster::MaakBladerrij() {
   vorige_ = MaakKnop("VorigVel", QStringLiteral("&Vorig vel"));
   volgende_ = MaakKnop("VolgendVel", QStringLiteral("Vol&gend vel"));
   vel_ = new QLabel(this);
   vel_->setObjectName(QStringLiteral("Vel"));
   auto* groter = MaakKnop("Groter", QStringLiteral("G&roter"));
   auto* kleiner = MaakKnop("Kleiner", QStringLiteral("&Kleiner"));
-  auto* druk = MaakKnop("Afdrukken", QStringLiteral("&Afdrukken ..."));
-  auto* pdf = MaakKnop("AlsPdf", QStringLiteral("Als &PDF opslaan ..."));
-  auto* terug = MaakKnop("Terug", QStringLiteral("&Terug"));
   auto* rij = new QHBoxLayout;
   for (QWidget* een : {static_cast<QWidget*>(vorige_), static_cast<QWidget*>(vel_),
-                       static_cast<QWidget*>(volgende_), static_cast<QWidget*>(groter),
-                       static_cast<QWidget*>(kleiner)}) {
+                       static_cast<QWidget*>(volgende_)}) {
     rij->addWidget(een);
   }
   rij->addStretch(1);
-  for (QPushButton* een : {druk, pdf, terug}) rij->addWidget(een);
+  rij->addWidget(groter);
+  rij->addWidget(kleiner);
   static_cast<QVBoxLayout*>(layout())->addLayout(rij);
   connect(vorige_, &QPushButton::clicked, this, [this] { Toon(beeld_->currentPage() - 1); });
   connect(volgende_, &QPushButton::clicked, this, [this] { Toon(beeld_->currentPage() + 1); });
@@ -116,6 +126,16 @@ void Afdrukvenster::MaakKnoppen() {
           [this] { Toon(beeld_->currentPage()); });
   connect(groter, &QPushButton::clicked, beeld_, [this] { beeld_->zoomIn(); });
   connect(kleiner, &QPushButton::clicked, beeld_, [this] { beeld_->zoomOut(); });
+}
+
+void Afdrukvenster::MaakKnoppen() {
+  auto* druk = MaakKnop("Afdrukken", QStringLiteral("&Afdrukken ..."));
+  auto* pdf = MaakKnop("AlsPdf", QStringLiteral("Als &PDF opslaan ..."));
+  auto* terug = MaakKnop("Terug", QStringLiteral("&Terug"));
+  auto* rij = new QHBoxLayout;
+  rij->addStretch(1);
+  for (QPushButton* een : {druk, pdf, terug}) rij->addWidget(een);
+  static_cast<QVBoxLayout*>(layout())->addLayout(rij);
   connect(druk, &QPushButton::clicked, this, [this] { Druk(); });
   connect(pdf, &QPushButton::clicked, this, [this] { BewaarPdf(); });
   connect(terug, &QPushButton::clicked, this, &QDialog::reject);
@@ -123,20 +143,29 @@ void Afdrukvenster::MaakKnoppen() {
 }
 
 void Afdrukvenster::Toon(int vel) {
-  const auto totaal = static_cast<int>(afdruk_.paginas.size());
-  const int nu = std::clamp(vel, 1, totaal);
+  const auto hier = static_cast<int>(afdruk_.paginas.size());
+  const int nu = std::clamp(vel, 1, hier);
   if (beeld_->currentPage() != nu) beeld_->setCurrentPage(nu);
-  vel_->setText(QStringLiteral("vel %1 van %2").arg(nu).arg(totaal));
+  const std::size_t nummer = afdruk_.eerste + static_cast<std::size_t>(nu) - 1;
+  vel_->setText(QStringLiteral("vel %1 van %2").arg(nummer).arg(Totaal(afdruk_)));
   vorige_->setEnabled(nu > 1);
-  volgende_->setEnabled(nu < totaal);
+  volgende_->setEnabled(nu < hier);
 }
 
 void Afdrukvenster::Druk() {
   QPrintDialog vraag(&printer_, this);
   vraag.setWindowTitle(QStringLiteral("Afdrukken"));
-  vraag.setOption(QAbstractPrintDialog::PrintPageRange, false);
+  const auto eerste = static_cast<int>(afdruk_.eerste);
+  const int laatste = eerste + static_cast<int>(afdruk_.paginas.size()) - 1;
+  vraag.setOption(QAbstractPrintDialog::PrintPageRange, laatste > eerste);
+  vraag.setMinMax(eerste, laatste);
+  vraag.setFromTo(eerste, laatste);
   if (vraag.exec() != QDialog::Accepted) return;
-  if (DrukOfMeld(this, printer_, afdruk_)) accept();
+  const bool enkele = vraag.printRange() == QAbstractPrintDialog::PageRange;
+  const int van = enkele ? std::clamp(vraag.fromPage(), eerste, laatste) : eerste;
+  const int tot = enkele ? std::clamp(vraag.toPage(), van, laatste) : laatste;
+  const Afdruk deel = Deel(afdruk_, static_cast<std::size_t>(van), static_cast<std::size_t>(tot));
+  if (DrukOfMeld(this, printer_, deel)) accept();
 }
 
 void Afdrukvenster::BewaarPdf() {
@@ -144,12 +173,10 @@ void Afdrukvenster::BewaarPdf() {
   const auto naam = PadVanQt(Bestandsnaam(NaarQt(afdruk_.titel)));
   const auto pad = KiesOpslag(this, vraag, naam, instellingen_);
   if (!pad) return;
-  if (SchrijfPdf(PadNaarQt(*pad), afdruk_)) {
-    static_cast<void>(
-        ToonBericht(this, BerichtSoort::Info, Knoppen::OK, "De tekst is opgeslagen."));
-  } else {
-    MeldFout(this, "Fout bij het opslaan van de tekst.");
+  if (const SysteemFout fout = SchrijfPdf(PadNaarQt(*pad), afdruk_)) {
+    return MeldFout(this, "Fout bij het opslaan van de tekst.\n" + fout.tekst);
   }
+  static_cast<void>(ToonBericht(this, BerichtSoort::Info, Knoppen::OK, "De tekst is opgeslagen."));
 }
 
 }  // namespace lb77

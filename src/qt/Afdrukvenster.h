@@ -9,6 +9,7 @@
 #include "forms/Gesprek.h"
 #include "qt/Velprinter.h"
 #include "qt/VensterInstellingen.h"
+#include "store/SysteemFout.h"
 
 namespace lb77 {
 
@@ -18,6 +19,7 @@ class Afdrukvenster final : public QDialog {
   Afdrukvenster(QWidget* ouder, const Afdruk& afdruk, VensterInstellingen& instellingen);
 
  private:
+  void MaakBladerrij();
   void MaakKnoppen();
   QPushButton* MaakKnop(const char* naam, const QString& bijschrift);
   void Toon(int vel);
@@ -34,6 +36,6 @@ class Afdrukvenster final : public QDialog {
 };
 
 // Writes the sheets to a PDF on A4; the file is as it was when that fails.
-[[nodiscard]] bool SchrijfPdf(const QString& pad, const Afdruk& afdruk);
+[[nodiscard]] SysteemFout SchrijfPdf(const QString& pad, const Afdruk& afdruk);
 
 }  // namespace lb77

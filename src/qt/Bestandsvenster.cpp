@@ -66,9 +66,16 @@ QString Titel(BestandsWijze wijze) {
   return {};
 }
 
-// The extension of the chosen filter, for a name that has none of its own.
-QString MetUitgang(const QString& pad, const QString& filter) {
-  if (!QFileInfo(pad).suffix().isEmpty() || filter.contains(QLatin1String("(*)"))) return pad;
+// The extension of the chosen filter, for a name that has none of the filters' own: what stands behind
+// a full stop may belong to a name.
+QString MetUitgang(const QString& pad, const QString& filter, const QStringList& filters) {
+  if (filter.contains(QLatin1String("(*)"))) return pad;
+  const QString eigen = QStringLiteral("*.") + QFileInfo(pad).suffix();
+  for (const QString& een : filters) {
+    const qsizetype haak = een.lastIndexOf(u'(');
+    const QStringList patronen = een.mid(haak + 1).remove(u')').split(u' ');
+    if (patronen.contains(eigen, Qt::CaseInsensitive)) return pad;
+  }
   const qsizetype punt = filter.indexOf(QLatin1String("(*."));
   if (punt < 0) return pad;
   const QString uitgang = filter.mid(punt + 2).section(u' ', 0, 0).remove(u')');
@@ -78,7 +85,7 @@ QString MetUitgang(const QString& pad, const QString& filter) {
 bool MagOverschrijven(QWidget& ouder, const QString& pad) {
   if (!QFileInfo::exists(pad)) return true;
   const std::string naam = VanQt(QFileInfo(pad).fileName()).tekst;
-  return ToonBericht(&ouder, BerichtSoort::Vraag, Knoppen::JaNee,
+  return ToonBericht(&ouder, BerichtSoort::Vraag, Knoppen::NeeJa,
                      "Het bestand " + naam + " bestaat al. Overschrijven ?") == Antwoord::Ja;
 }
 
@@ -133,7 +140,7 @@ std::optional<std::filesystem::path> Kies(QFileDialog& venster, const BestandsVr
     QString pad = venster.selectedFiles().value(0);
     if (pad.isEmpty()) return std::nullopt;
     if (vraag.wijze == BestandsWijze::Opslaan) {
-      pad = MetUitgang(pad, venster.selectedNameFilter());
+      pad = MetUitgang(pad, venster.selectedNameFilter(), venster.nameFilters());
       if (!MagOverschrijven(venster, pad)) continue;
     }
     instellingen.BewaarLaatsteMap(Sleutel(vraag), QFileInfo(pad).absolutePath());

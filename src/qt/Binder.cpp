@@ -86,6 +86,7 @@ void Binder::MaakVenster(QWidget* ouder) {
     venster_->resize(maat->expandedTo(nodig).boundedTo(Ruimte()));
   }
   if (hoofd_) hoofd_->ZetPlek();
+  OnthoudVergroting();
 }
 
 void Binder::MaakElementen(QWidget& inhoud) {
@@ -211,20 +212,7 @@ void Binder::Klik(Bediening& bediening) {
 }
 
 void Binder::Dubbelklik(Bediening& bediening) {
-  if (Geblokkeerd()) return;
-  Bediening* const ok = bediening.HeeftDubbelklik() ? nullptr : OKVoorLijst();
-  Verwerk([&] {
-    if (ok) {
-      formulier_.Klik(*ok);
-    } else {
-      formulier_.Dubbelklik(bediening);
-    }
-  });
-}
-
-Bediening* Binder::OKVoorLijst() const {
-  Bediening* const ok = formulier_.Zoek("OKButton");
-  return ok && ok->Bruikbaar() ? ok : nullptr;
+  if (!Geblokkeerd()) Verwerk([&] { formulier_.Dubbelklik(bediening); });
 }
 
 void Binder::Kies(Lijst& lijst, int index) {

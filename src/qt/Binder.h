@@ -82,9 +82,7 @@ class Binder final : public QObject, private Bezorger, private Vensterhouder {
   // A key with Ctrl in a form that is read. True when it needs nothing more.
   bool CtrlToets(const QKeyEvent& toets);
   [[nodiscard]] Bladzijde* Blad() const;
-  bool KiesRegel(Bediening& bediening);
-  // The OK that a double click in a list presses which has nothing of its own; null when it can't.
-  [[nodiscard]] Bediening* OKVoorLijst() const;
+  void OnthoudVergroting();
   bool LoopInRooster(Element& element, int code);
   // Asks the form for the focus; True when it now has it.
   bool GaNaar(Element& element);

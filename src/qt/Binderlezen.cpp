@@ -18,6 +18,14 @@ Bladzijde* Binder::Blad() const {
   return nullptr;
 }
 
+// The viewer comes back with the letters that its user chose.
+void Binder::OnthoudVergroting() {
+  Bladzijde* const blad = Blad();
+  if (!blad) return;
+  blad->ZetVergroting(instellingen_.Vergroting());
+  blad->BijVergroting([this](int punten) { instellingen_.BewaarVergroting(punten); });
+}
+
 void Binder::Gerold(int stap) {
   auto* const bladeraar = dynamic_cast<Bladeraar*>(&formulier_);
   if (bladeraar && !verversend_ && !Geblokkeerd()) Verwerk([&] { bladeraar->Blader(stap); });

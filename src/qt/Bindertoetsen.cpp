@@ -139,7 +139,6 @@ bool Binder::VerwerkToets(Element* element, const QKeyEvent& toets) {
   if (drukbaar && gebeurtenis->code == toets::kSpatie && toets.isAutoRepeat()) return true;
   const bool inVeld = element && IsInvoer(element->Bron().Soort());
   if (!(inVeld && IsRand(gebeurtenis->code)) && Blader(gebeurtenis->code)) return true;
-  if (element && gebeurtenis->code == toets::kEnter && KiesRegel(element->Bron())) return true;
   bool klaar = false;
   Verwerk([&] { klaar = formulier_.Toets(element ? &element->Bron() : nullptr, *gebeurtenis); });
   if (klaar || formulier_.Gesloten() || fout_) return true;
@@ -151,15 +150,6 @@ bool Binder::VerwerkToets(Element* element, const QKeyEvent& toets) {
 void Binder::GeefHulp() {
   auto* const hulp = dynamic_cast<Hulpgever*>(&gesprek_);
   if (hulp && !verversend_ && !Geblokkeerd()) Verwerk([&] { hulp->GeefHulp(formulier_); });
-}
-
-// Enter on the chosen line of a list does what a double click does; False when there is none.
-bool Binder::KiesRegel(Bediening& bediening) {
-  if (bediening.Soort() != BedieningSoort::Keuzelijst) return false;
-  if (static_cast<const Lijst&>(bediening).Index() < 0) return false;
-  if (!bediening.HeeftDubbelklik() && !OKVoorLijst()) return false;
-  Dubbelklik(bediening);
-  return true;
 }
 
 // Up and Down go to the nearest line of controls above or below, and there to the control that

@@ -91,8 +91,13 @@ void Bladzijde::Kopieer() {
 }
 
 void Bladzijde::Vergroot(int stap) {
-  const qreal punten = stap == 0 ? begin_ : font().pointSizeF() + stap;
-  setFont(VasteLetter(std::clamp(punten, kKleinste, kGrootste)));
+  const int nu = qRound(font().pointSizeF() - begin_);
+  ZetVergroting(stap == 0 ? 0 : nu + stap);
+  if (bijVergroting_) bijVergroting_(qRound(font().pointSizeF() - begin_));
+}
+
+void Bladzijde::ZetVergroting(int punten) {
+  setFont(VasteLetter(std::clamp(begin_ + punten, kKleinste, kGrootste)));
   LegInMidden();
 }
 

@@ -6,6 +6,8 @@
 #include <QResizeEvent>
 #include <QSize>
 #include <QWheelEvent>
+#include <functional>
+#include <utility>
 
 #include "forms/Leesformulier.h"
 
@@ -28,6 +30,10 @@ class Bladzijde final : public QPlainTextEdit {
   // Ctrl with a key that is the sheet's own: C copies what is selected, else the whole page, A selects
   // it all, plus, minus and 0 set the size of its letters. False for any other.
   bool CtrlToets(const QKeyEvent& toets);
+  // So many points more, or fewer, than at the beginning.
+  void ZetVergroting(int punten);
+  // What is done when the user has chosen another size.
+  void BijVergroting(std::function<void(int punten)> doe) { bijVergroting_ = std::move(doe); }
   [[nodiscard]] QSize sizeHint() const override;
 
  protected:
@@ -42,6 +48,7 @@ class Bladzijde final : public QPlainTextEdit {
   void LegInMidden();
 
   qreal begin_;  // points
+  std::function<void(int punten)> bijVergroting_;
   Vindpagina::Plek gemerkt_;
 };
 

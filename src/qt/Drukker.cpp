@@ -40,16 +40,23 @@ void DrukPagina(QPainter& verf, const Velindeling& vel, const std::vector<std::s
   }
 }
 
-void DrukVoet(QPainter& verf, const Velindeling& vel, qsizetype nummer, qsizetype totaal) {
+void DrukVoet(QPainter& verf, const Velindeling& vel, std::size_t nummer, std::size_t totaal) {
   verf.setFont(vel.voetletter);
   verf.drawText(vel.voet, Qt::AlignRight | Qt::AlignBottom,
                 QStringLiteral("%1 van %2").arg(nummer).arg(totaal));
 }
 
-bool IsLeeg(const std::vector<std::string>& pagina) {
-  return std::ranges::all_of(pagina, [](const std::string& regel) {
-    return regel.find_first_not_of(" \t") == std::string::npos;
-  });
+// Why a device takes no more sheets, as far as it tells.
+std::string Reden(const QPagedPaintDevice& papier) {
+  const auto* const printer = dynamic_cast<const QPrinter*>(&papier);
+  const QString bestand = printer ? printer->outputFileName() : QString();
+  if (!bestand.isEmpty()) {
+    return "Het bestand " + VanQt(bestand).tekst + " kan niet worden geschreven";
+  }
+  const QString naam = printer ? printer->printerName() : QString();
+  const std::string wie =
+      naam.isEmpty() ? std::string("De printer") : "De printer " + VanQt(naam).tekst;
+  return wie + " is niet te bereiken, of neemt de opdracht niet aan";
 }
 
 // So many millimetres must come on top of what the device leaves white by itself.
@@ -70,8 +77,21 @@ QFont Drukletter(QPagedPaintDevice& papier, QSizeF vlak, int dpi) {
 
 Afdruk ZonderLegeVellen(const Afdruk& afdruk) {
   Afdruk uit = afdruk;
-  std::erase_if(uit.paginas, IsLeeg);
+  std::erase_if(uit.paginas,
+                [](const std::vector<std::string>& pagina) { return !StaatErIets(pagina); });
   return uit;
+}
+
+Afdruk Deel(const Afdruk& afdruk, std::size_t van, std::size_t tot) {
+  Afdruk uit{afdruk.titel, {}, van, Totaal(afdruk)};
+  for (std::size_t nr = van; nr <= tot; ++nr) {
+    uit.paginas.push_back(afdruk.paginas.at(nr - afdruk.eerste));
+  }
+  return uit;
+}
+
+std::size_t Totaal(const Afdruk& afdruk) {
+  return afdruk.totaal > 0 ? afdruk.totaal : afdruk.paginas.size();
 }
 
 void StelPapierIn(QPagedPaintDevice& papier) {
@@ -105,11 +125,11 @@ bool Druk(QPagedPaintDevice& papier, const Afdruk& afdruk) {
   QPainter verf;
   if (!verf.begin(&papier)) return false;
   const Velindeling vel = DeelIn(papier);
-  const auto totaal = static_cast<qsizetype>(afdruk.paginas.size());
-  for (qsizetype nummer = 1; nummer <= totaal; ++nummer) {
-    if (nummer > 1 && !papier.newPage()) return false;
-    DrukPagina(verf, vel, afdruk.paginas[static_cast<std::size_t>(nummer - 1)]);
-    DrukVoet(verf, vel, nummer, totaal);
+  std::size_t nummer = afdruk.eerste;
+  for (const std::vector<std::string>& pagina : afdruk.paginas) {
+    if (nummer > afdruk.eerste && !papier.newPage()) return false;
+    DrukPagina(verf, vel, pagina);
+    DrukVoet(verf, vel, nummer++, Totaal(afdruk));
   }
   return verf.end();
 }
@@ -122,8 +142,8 @@ bool DrukOfMeld(QWidget* ouder, QPagedPaintDevice& papier, const Afdruk& afdruk)
   if (teller && teller->Gestopt()) return false;
   const auto* printer = dynamic_cast<const QPrinter*>(&papier);
   if (gedrukt && !(printer && printer->printerState() == QPrinter::Error)) return true;
-  static_cast<void>(
-      ToonBericht(ouder, BerichtSoort::Stop, Knoppen::OK, "Fout bij het printen van de tekst."));
+  static_cast<void>(ToonBericht(ouder, BerichtSoort::Stop, Knoppen::OK,
+                                "Fout bij het printen van de tekst.\n" + Reden(papier)));
   return false;
 }
 

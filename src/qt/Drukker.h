@@ -6,6 +6,7 @@
 #include <QRectF>
 #include <QSizeF>
 #include <QWidget>
+#include <cstddef>
 
 #include "forms/Gesprek.h"
 #include "qt/VensterInstellingen.h"
@@ -19,6 +20,11 @@ namespace lb77 {
 
 // The pages on which something stands.
 [[nodiscard]] Afdruk ZonderLegeVellen(const Afdruk& afdruk);
+
+// The sheets with the numbers `van` to `tot`, as they count among all.
+[[nodiscard]] Afdruk Deel(const Afdruk& afdruk, std::size_t van, std::size_t tot);
+// How many sheets there are, of which these may be some.
+[[nodiscard]] std::size_t Totaal(const Afdruk& afdruk);
 
 // A4, upright, with margins of at least 10 mm, or more where the device needs them.
 void StelPapierIn(QPagedPaintDevice& papier);

@@ -5,6 +5,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
+#include <QShortcutEvent>
 #include <QStatusBar>
 #include <QTimer>
 #include <QUrl>
@@ -24,6 +25,7 @@ namespace lb77 {
 namespace {
 
 constexpr QSize kBeginmaat{900, 560};
+constexpr int kLeestijd = 5000;  // milliseconds
 
 std::vector<MenuKeuze*> Keuzes(const Formulier& formulier) {
   std::vector<MenuKeuze*> uit;
@@ -84,6 +86,7 @@ Hoofdvenster::Hoofdvenster(Formulier& formulier, Vensterhouder& houder, Bezorger
   statusBar()->addWidget(status_, 1);
   if (const Statusbalk* balk = ZoekStatus(formulier)) status_->setObjectName(NaarQt(balk->Naam()));
   setAcceptDrops(true);
+  menuBar()->installEventFilter(this);
   resize(kBeginmaat);
 }
 
@@ -150,6 +153,37 @@ QString Hoofdvenster::Statustekst(const MenuKeuze& keuze) const {
   const auto* const redengever = dynamic_cast<const Redengever*>(&formulier_);
   if (keuze.Ingeschakeld() || !redengever) return NaarQt(keuze.Toelichting());
   return NaarQt(redengever->WaaromGrijs(keuze));
+}
+
+bool Hoofdvenster::eventFilter(QObject* waar, QEvent* wat) {
+  const QEvent::Type soort = wat->type();
+  if (waar == menuBar() && (soort == QEvent::MouseMove || soort == QEvent::Leave)) {
+    // Behind the event the bar knows which of its menus is pointed at.
+    QTimer::singleShot(0, this, [this] { ZegWaaromGrijs(); });
+  } else if (waar == menuBar() && soort == QEvent::Shortcut) {
+    ZegWaaromGrijs(static_cast<QShortcutEvent*>(wat)->key());
+  }
+  return QMainWindow::eventFilter(waar, wat);
+}
+
+// The toolkit tells of a greyed entry, but not of a whole menu that is greyed.
+void Hoofdvenster::ZegWaaromGrijs() {
+  const QAction* const menu = menuBar()->activeAction();
+  const QString reden = menu && !menu->isEnabled() ? menu->statusTip() : QString();
+  if (reden == gezegd_) return;
+  gezegd_ = reden;
+  if (reden.isEmpty()) {
+    statusBar()->clearMessage();
+  } else {
+    statusBar()->showMessage(reden);
+  }
+}
+
+void Hoofdvenster::ZegWaaromGrijs(const QKeySequence& sneltoets) {
+  for (const QAction* menu : menuBar()->actions()) {
+    if (menu->isEnabled() || QKeySequence::mnemonic(menu->text()) != sneltoets) continue;
+    statusBar()->showMessage(menu->statusTip(), kLeestijd);
+  }
 }
 
 QAction* Hoofdvenster::Actie(std::string_view naam) const {

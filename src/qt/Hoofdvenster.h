@@ -6,6 +6,7 @@
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QKeyEvent>
+#include <QKeySequence>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
@@ -41,6 +42,7 @@ class Hoofdvenster final : public QMainWindow {
   void moveEvent(QMoveEvent* plek) override;
   void dragEnterEvent(QDragEnterEvent* sleep) override;
   void dropEvent(QDropEvent* val) override;
+  bool eventFilter(QObject* waar, QEvent* wat) override;
 
  private:
   struct Keuze {
@@ -51,6 +53,9 @@ class Hoofdvenster final : public QMainWindow {
   void MaakKeuze(MenuKeuze& keuze, Bezorger& bezorger);
   // What the status bar says of an entry under the mouse or the arrow keys.
   [[nodiscard]] QString Statustekst(const MenuKeuze& keuze) const;
+  // Of the menu that is pointed at, and of one whose accelerator was pressed.
+  void ZegWaaromGrijs();
+  void ZegWaaromGrijs(const QKeySequence& sneltoets);
   [[nodiscard]] bool IsMenu(const MenuKeuze& keuze) const;
 
   Formulier& formulier_;
@@ -59,6 +64,7 @@ class Hoofdvenster final : public QMainWindow {
   std::map<std::string, QMenu*, std::less<>> menus_;
   Voorblad* voorblad_;
   QLabel* status_;
+  QString gezegd_;  // why the menu that is pointed at is greyed
 };
 
 // Is this form shown in a main window?

@@ -16,10 +16,12 @@ namespace lb77 {
 namespace {
 
 // A browser tells a page by its name: what is called otherwise gets a copy beside it, where its links
-// still lead to its other pages.
+// still lead to its other pages. A manual that was not made into a page is for a reader of text.
 std::filesystem::path VoorBrowser(const std::filesystem::path& pad) {
   const QString uitgang = PadNaarQt(pad.extension()).toLower();
-  if (uitgang == QLatin1String(".htm") || uitgang == QLatin1String(".html")) return pad;
+  for (const char* eigen : {".htm", ".html", ".md"}) {
+    if (uitgang == QLatin1String(eigen)) return pad;
+  }
   std::filesystem::path pagina = pad;
   pagina.replace_extension(".htm");
   std::error_code code;

@@ -4,6 +4,7 @@
 #include <QFontDatabase>
 #include <QFontInfo>
 #include <QFontMetrics>
+#include <QIcon>
 #include <QLibraryInfo>
 #include <QPalette>
 #include <QProxyStyle>
@@ -58,6 +59,10 @@ void MaakLeesbaar() {
 }  // namespace
 
 void ZetStijl(QApplication& programma) {
+  // By these the desktop knows its windows as those of the menu entry.
+  const QString naam = QStringLiteral("lb77");
+  QApplication::setDesktopFileName(naam);
+  QApplication::setWindowIcon(QIcon::fromTheme(naam));
   QApplication::setStyle(new Huisstijl());
   QFont letter = QApplication::font();
   letter.setPointSizeF(std::max(letter.pointSizeF(), kKleinsteLetter));

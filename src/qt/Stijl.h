@@ -8,7 +8,7 @@
 namespace lb77 {
 
 // Sets the look of the whole program: letters of at least 11 points, Dutch words in the toolkit's
-// own dialogs, buttons in the same order everywhere.
+// own dialogs, buttons in the same order everywhere, the icon that is installed with it.
 void ZetStijl(QApplication& programma);
 
 // A fixed-pitch letter: Courier New, or what the system has in its place.

@@ -154,9 +154,9 @@ bool Tekenvlak::NeemToets(const QKeyEvent& toets) {
     case Qt::Key_Down:
       Verschuif({0, -height() * kLoop});
       return true;
-    case Qt::Key_Tab:
+    case Qt::Key_PageDown:
       return Stap(1);
-    case Qt::Key_Backtab:
+    case Qt::Key_PageUp:
       return Stap(-1);
     default:
       return false;

@@ -11,7 +11,8 @@
 namespace lb77 {
 
 // Shows the whole drawing until the user zooms. The wheel and plus and minus zoom, dragging and the
-// arrows pan, 0 shows it whole again; a click on a person chooses and opens him.
+// arrows pan, 0 shows it whole again; a click on a person chooses and opens him. PageDown and PageUp
+// choose the next and the one before: Tab leaves, however many there are.
 class Tekenvlak final : public QWidget {
  public:
   explicit Tekenvlak(QWidget* ouder);

@@ -9,6 +9,8 @@ namespace lb77 {
 
 namespace {
 
+constexpr const char* kVergroting = "lezen/vergroting";
+
 QString MaatSleutel(std::string_view formulier) {
   return QStringLiteral("venster/") + NaarQt(formulier);
 }
@@ -48,6 +50,14 @@ bool VensterInstellingen::IsVol(std::string_view formulier) const {
 
 void VensterInstellingen::BewaarVol(std::string_view formulier, bool vol) {
   if (bestand_) bestand_->setValue(VolSleutel(formulier), vol);
+}
+
+int VensterInstellingen::Vergroting() const {
+  return bestand_ ? bestand_->value(QLatin1String(kVergroting)).toInt() : 0;
+}
+
+void VensterInstellingen::BewaarVergroting(int punten) {
+  if (bestand_) bestand_->setValue(QLatin1String(kVergroting), punten);
 }
 
 QString VensterInstellingen::LaatsteMap(std::string_view filter) const {

@@ -1,4 +1,5 @@
-// What the settings file has no key for: window sizes and the directories last used.
+// What the settings file has no key for: window sizes, the letters of the viewer, and the directories
+// last used.
 #pragma once
 
 #include <QSettings>
@@ -22,6 +23,10 @@ class VensterInstellingen {
   // Did the window fill its screen?
   [[nodiscard]] bool IsVol(std::string_view formulier) const;
   void BewaarVol(std::string_view formulier, bool vol);
+
+  // By how many points the letters of the viewer were made larger, or smaller.
+  [[nodiscard]] int Vergroting() const;
+  void BewaarVergroting(int punten);
 
   // The directory that the user last chose a file from for this filter; empty when none.
   [[nodiscard]] QString LaatsteMap(std::string_view filter) const;

@@ -79,6 +79,7 @@ KrtnRij::KrtnRij(InvoerFormulier& formulier, int nummer, const KrtnSoort& soort)
     ZoekPersButton.emplace(formulier, Genummerd(soort.zoek, nummer), "Zoek");
   }
   RecordNr.ZetFilter(AlleenCijfers);
+  RecordNr.ZetDanOK();
 }
 
 Krtn::Krtn(const KrtnSoort& soort, Hoofdmodule& hoofd)

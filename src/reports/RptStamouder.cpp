@@ -17,6 +17,7 @@ RptStamouder::RptStamouder(const LijstSoort& soort, Hoofdmodule& hoofd, std::str
       UitlegLabel(*this, "UitlegLabel", uitleg),
       PersNr(*this, "PersNr", "Persoonsnummer:", kCijfers, InvoerSoort::Persoon) {
   PersNr.ZetFilter(AlleenCijfers);
+  PersNr.ZetDanOK();
   ZoekButton.BijKlik([this] { ZoekButtonKlik(); });
 }
 

@@ -19,14 +19,16 @@ constexpr PersoonVakSoort kPersoon = {.naamInvoer = false,
 
 VerwantPersoon::VerwantPersoon(InvoerFormulier& formulier, int nummer)
     : Persoon(formulier, Genummerd("", nummer), kPersoon),
-      ZoekButton(formulier, Genummerd("ZoekButton", nummer), "&Zoek Persoon") {
-  ZoekButton.BijKlik([this] { static_cast<void>(Persoon.Zoek()); });
-}
+      ZoekButton(formulier, Genummerd("ZoekButton", nummer), "&Zoek Persoon") {}
 
 SchemaVerwantschap::SchemaVerwantschap(Hoofdmodule& hoofd)
     : WerkFormulier("SchemaVerwantschap", "Schema Verwantschap", hoofd, WerkBegin::OpKnop) {
   ZetHulpOnderwerp("verwantschap");
   ZetEersteVeld(Personen(0).Persoon.RecordNr);
+  Personen.Elk([this](int, VerwantPersoon& rij) {
+    rij.Persoon.BijGevonden([this] { NaGevonden(); });
+    rij.ZoekButton.BijKlik([this, &rij] { ZoekButtonKlik(rij); });
+  });
   Koppel(OKButton, BackButton);
 }
 
@@ -47,6 +49,19 @@ void SchemaVerwantschap::Werk() {
   ZetBezig(false);
   rapport.ZetTitel("Schema Verwantschap");
   Hoofd().gesprek.ToonModaal(rapport);
+}
+
+void SchemaVerwantschap::ZoekButtonKlik(VerwantPersoon& rij) {
+  if (rij.Persoon.Zoek()) NaGevonden();
+}
+
+// To the person who is still asked for.
+void SchemaVerwantschap::NaGevonden() {
+  for (const int nummer : {0, 1}) {
+    InvoerVak& nr = Personen(nummer).Persoon.RecordNr;
+    if (nr.Tekst().empty()) return static_cast<void>(GaNaar(nr));
+  }
+  GaNaar(OKButton);
 }
 
 bool SchemaVerwantschap::TweePersonen() {

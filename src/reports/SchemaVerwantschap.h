@@ -36,6 +36,8 @@ class SchemaVerwantschap final : public WerkFormulier {
   void Werk() override;
 
  private:
+  void ZoekButtonKlik(VerwantPersoon& rij);
+  void NaGevonden();
   [[nodiscard]] bool TweePersonen();
   [[nodiscard]] bool MaakUitvoer(const std::vector<std::string>& regels);
   [[nodiscard]] Uitslag ZoekEnSchrijf(TekstSchrijver& uit, std::vector<std::string>& regels);

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "store/JournaalBestand.h"
+#include "store/JournaalPlek.h"
 #include "store/Paden.h"
 #include "store/SchijfBestand.h"
 #include "text/Getallen.h"
@@ -12,8 +13,6 @@
 namespace lb77 {
 
 namespace {
-
-constexpr const char* kJournaalMap = "JOURNAAL";
 
 // Stands in for a file that is not open.
 class GeslotenBestand final : public RecordBestand {
@@ -109,7 +108,7 @@ std::unique_ptr<RecordBestand> Bestandenset::MetJournaal(std::unique_ptr<RecordB
   const std::filesystem::path map = pad.parent_path();
   const bool centraal = soort == BestandSoort::Plaatsen && journaal_ && map != journaalMap_;
   if (!centraal && (!journaal_ || map != journaalMap_)) {
-    const std::filesystem::path plek = VindPad(map / kJournaalMap);
+    const std::filesystem::path plek = JournaalPlek(map, PadTekst(pad.stem()));
     journaal_ = std::make_shared<Journaal>(
         bron_.map ? bron_.map(plek) : std::make_unique<SchijfJournaalMap>(plek), bron_.tijd,
         bron_.bijVreemd);

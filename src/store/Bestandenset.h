@@ -58,8 +58,8 @@ class Bestandenset {
   // Opens files by `opener`, for tests that wrap them.
   explicit Bestandenset(Opener opener);
 
-  // Files that are opened from here on are written through a journal, in the directory JOURNAAL
-  // beside them. Without this call there is none.
+  // Files that are opened from here on are written through a journal, beside them where JournaalPlek
+  // says. Without this call there is none.
   void ZetJournaal(JournaalBron bron) { bron_ = std::move(bron); }
   // The journal of the set that was opened last; nothing when there is none. It goes with the set.
   [[nodiscard]] const std::shared_ptr<Journaal>& HetJournaal() const { return journaal_; }

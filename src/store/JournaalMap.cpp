@@ -86,7 +86,7 @@ SysteemFout SchijfJournaalMap::Hernoem(const std::string& van, const std::string
 
 SysteemFout SchijfJournaalMap::Verwijder(const std::string& naam) {
   std::error_code code;
-  fs::remove(map_ / naam, code);
+  static_cast<void>(VerwijderVanSchijf(map_ / naam, code));
   return FoutVan(code);
 }
 

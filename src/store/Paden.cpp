@@ -15,15 +15,22 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string Utf8Van(const fs::path& pad) {
-  const std::u8string utf8 = pad.u8string();
-  return {utf8.begin(), utf8.end()};
+// Nothing for a name with half characters, which Windows can have.
+std::optional<std::string> Utf8Van(const fs::path& pad) {
+  try {
+    const std::u8string utf8 = pad.u8string();
+    return std::string(utf8.begin(), utf8.end());
+  } catch (const fs::filesystem_error&) {
+    return std::nullopt;
+  }
 }
 
 // The name with its letters as Windows-1252 has them; nothing when it has others, so that a name
 // is never found by what merely resembles it.
 std::optional<std::string> Vergelijkbaar(const fs::path& naam) {
-  const std::string utf8 = Utf8Van(naam);
+  const std::optional<std::string> gelezen = Utf8Van(naam);
+  if (!gelezen) return std::nullopt;
+  const std::string& utf8 = *gelezen;
   std::optional<std::string> windows = Utf8NaarWindows(utf8);
   if (windows && WindowsNaarUtf8(*windows) != utf8) return std::nullopt;
   return windows;

@@ -5,6 +5,8 @@
 #include <system_error>
 #include <utility>
 
+#include "store/PlatformNamen.h"
+
 #ifdef _WIN32
 #ifndef NOMINMAX
 #define NOMINMAX
@@ -138,6 +140,7 @@ Roepuitslag Gedaan(std::ptrdiff_t bytes) {
 
 SysteemFout Bestandsgreep::Open(const std::filesystem::path& pad, Openwijze wijze) {
   Sluit();
+  if (IsTeLang(pad)) return FoutVan(std::make_error_code(std::errc::filename_too_long));
   HANDLE greep = CreateFileW(pad.c_str(), RechtenVan(wijze), FILE_SHARE_READ | FILE_SHARE_WRITE,
                              nullptr, MakenVan(wijze), FILE_ATTRIBUTE_NORMAL, nullptr);
   if (greep == INVALID_HANDLE_VALUE) {
@@ -166,11 +169,13 @@ std::uint64_t Bestandsgreep::Lengte() const {
   return static_cast<std::uint64_t>(lengte.QuadPart);
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): it changes the file
 SysteemFout Bestandsgreep::Veiligstellen() {
   if (!IsOpen()) return FoutNietOpen();
   return FlushFileBuffers(Systeem(greep_)) ? SysteemFout{} : LaatsteFout();
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): it changes the file
 SysteemFout Bestandsgreep::Kap(std::uint64_t lengte) {
   if (!IsOpen()) return FoutNietOpen();
   LARGE_INTEGER plek{};

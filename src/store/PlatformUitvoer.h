@@ -2,7 +2,12 @@
 // `lb77-cli zoek ... | head -1`.
 #pragma once
 
+#include <cstddef>
+#include <memory>
+#include <ostream>
+#include <streambuf>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace lb77 {
@@ -11,24 +16,36 @@ namespace lb77 {
 // system are.
 [[nodiscard]] std::vector<std::string> Opdrachtwoorden(int argc, const char* const* argv);
 
-// For as long as it lives the window of the command line shows UTF-8.
+// How many bytes of a UTF-8 text are whole characters, or never become one; what stands behind them is
+// the begin of a character whose rest is still to come.
+[[nodiscard]] std::size_t HeleTekens(std::string_view utf8);
+
+// For as long as it lives, UTF-8 that is written to these two, the standard output and errors, reaches
+// the window of the command line as letters, whatever its code page is. What goes to a file or another
+// program stays the bytes that it is.
 class Opdrachtvenster {
  public:
-  Opdrachtvenster();
+  Opdrachtvenster(std::ostream& uit, std::ostream& fout);
   ~Opdrachtvenster();
   Opdrachtvenster(const Opdrachtvenster&) = delete;
   Opdrachtvenster& operator=(const Opdrachtvenster&) = delete;
 
  private:
-  [[maybe_unused]] unsigned vorige_ =
-      0;  // the code page that it had; 0 when there is no such window
+  // A stream that writes to a window by another road, and the one that it had.
+  struct Omleiding {
+    std::ostream* stroom;
+    std::streambuf* vorige;
+    std::unique_ptr<std::streambuf> venster;
+  };
+  std::vector<Omleiding> omleidingen_;
 };
 
 // From here on the program outlives such a reader, so that it cleans up: what is written to him gets
 // lost, and the stream tells it like any failure.
 void OverleefVertrokkenLezer();
 
-// Has the reader of standard output gone? False also when there never was one.
+// Has the reader of standard output gone? False also when there never was one. To be asked when
+// writing to it has failed.
 [[nodiscard]] bool LezerIsVertrokken();
 
 }  // namespace lb77

@@ -4,6 +4,8 @@
 #include <cerrno>
 #include <string_view>
 
+#include "store/PlatformFout.h"
+
 namespace lb77 {
 
 namespace {
@@ -36,14 +38,16 @@ constexpr std::array kRegels = {
     Regel{std::errc::filename_too_long, 64, "Bestandsnaam te lang"},
     Regel{std::errc::invalid_argument, 5, "Ongeldige opdracht"},
     Regel{std::errc::not_enough_memory, 7, "Onvoldoende geheugen"},
+    Regel{std::errc::function_not_supported, 73, "Kan niet op dit systeem"},
     Regel{std::errc::cross_device_link, 74, "Andere schijf"},
     Regel{std::errc::bad_file_descriptor, 52, "Bestand is niet open"},
 };
 
 }  // namespace
 
-SysteemFout FoutVan(const std::error_code& code) {
-  if (!code) return {};
+SysteemFout FoutVan(const std::error_code& systeem) {
+  if (!systeem) return {};
+  const std::error_code code = Herkend(systeem);
   for (const Regel& regel : kRegels) {
     if (code == regel.code) return {regel.nummer, std::string(regel.tekst)};
   }

@@ -33,13 +33,13 @@ constexpr std::array kAccenten = {
     Accent{"\xE9", kHacekS, "<hacek>"},           // 233
 };
 
-// Windows bytes that have one ANSEL byte.
-// kept: ANSEL has bytes for Æ, Ø, ß and the like too, but only letters with an accent are written its
-// way; these pass unchanged.
+// Windows bytes that have one ANSEL byte. What is not here and has no accent passes unchanged.
 constexpr std::array kNaarAnselRijen = {
-    ByteRij{140, 166}, ByteRij{148, 183}, ByteRij{156, 182}, ByteRij{161, 198},
-    ByteRij{163, 185}, ByteRij{169, 195}, ByteRij{174, 170}, ByteRij{177, 171},
-    ByteRij{183, 168}, ByteRij{186, 192}, ByteRij{191, 197},
+    ByteRij{140, 166}, ByteRij{148, 183}, ByteRij{156, 182}, ByteRij{161, 198}, ByteRij{163, 185},
+    ByteRij{169, 195}, ByteRij{174, 170}, ByteRij{176, 192}, ByteRij{177, 171}, ByteRij{183, 168},
+    ByteRij{186, 192}, ByteRij{191, 197}, ByteRij{198, 165}, ByteRij{208, 163}, ByteRij{216, 162},
+    ByteRij{222, 164}, ByteRij{223, 207}, ByteRij{230, 181}, ByteRij{240, 179}, ByteRij{248, 178},
+    ByteRij{254, 180},
 };
 
 // ANSEL's spacing characters, and the marks that no letter of Windows-1252 can carry.
@@ -119,8 +119,6 @@ consteval std::array<Gemerkt, 256> MaakNaarAnsel() {
       tabel[static_cast<unsigned char>(letters[i])] = {accent.merken.front(), kaal[i]};
     }
   }
-  // kept: Y with umlaut (159) has no row of its own and passes unchanged.
-  tabel[159] = {'\0', '\x9F'};
   return tabel;
 }
 

@@ -9,6 +9,7 @@
 #include "ancestors/KwstBladKeten.h"
 #include "ancestors/KwstBldParam.h"
 #include "app/Hoofdmodule.h"
+#include "forms/Bureaublad.h"
 
 namespace lb77 {
 namespace {
@@ -44,6 +45,7 @@ TEST_F(KwstBldParamToets, OpentMetDeProbandEnDeStandaard) {
       = Inleiding1 ""
       = Inleiding2 ""
       = Inleiding3 ""
+      = UTF8Box uit
       = OKButton(1) "&Afdrukken"
       = OKButton(2) "&Opslaan"
       = BackButton "&Terug"
@@ -162,8 +164,15 @@ TEST_F(KwstBldParamToets, ElkeWegTerugKomtBijHetzelfdeBlad) {
   }
 }
 
+TEST_F(KwstBldParamToets, KanInUtf8Opslaan) {
+  InOpties("vul TitelTekst Kwartierstaat van Zoë\nstel UTF8Box aan\nbestand " + Doel().string() +
+               "\ndruk OKButton(2)",
+           Opslaan());
+  EXPECT_EQ(LeesBytes(Doel()).rfind("Kwartierstaat van Zo\xC3\xAB\r\n", 0), 0U);
+}
+
 // A printer that fails, or takes the file away before it is read.
-class Drukker final : public Gesprek {
+class Drukker final : public Gesprek, public Bureaublad {
  public:
   Antwoord Bericht(BerichtSoort, Knoppen, std::string_view tekst) override {
     berichten.emplace_back(tekst);
@@ -177,8 +186,15 @@ class Drukker final : public Gesprek {
   }
   void Ververs(Formulier&) override {}
   [[nodiscard]] bool StopGevraagd(Formulier&) override { return false; }
+  [[nodiscard]] bool OpenInBrowser(const std::filesystem::path&) override { return false; }
+  [[nodiscard]] std::optional<std::filesystem::path> VraagOpslag(
+      const BestandsVraag&, const std::filesystem::path& naam) override {
+    voorstellen.push_back(naam);
+    return std::nullopt;
+  }
 
   bool werkt = false;
+  std::vector<std::filesystem::path> voorstellen;
   std::vector<std::string> berichten;
   std::vector<Afdruk> afdrukken;
 
@@ -200,6 +216,7 @@ TEST_F(KwstBldParamToets, EenPrinterDieWeigertLaatHetSchermStaan) {
     ASSERT_TRUE(param.Laad());
     EXPECT_TRUE(param.Klik(param.OKButton(1)));
     EXPECT_FALSE(param.Gesloten());
+    EXPECT_TRUE(param.Klik(param.OKButton(2)));
     drukker.werkt = true;
     EXPECT_TRUE(param.Klik(param.OKButton(1)));
     EXPECT_TRUE(param.Gesloten());
@@ -209,6 +226,8 @@ TEST_F(KwstBldParamToets, EenPrinterDieWeigertLaatHetSchermStaan) {
   ASSERT_EQ(drukker.afdrukken[0].paginas.size(), 1U);
   EXPECT_EQ(drukker.afdrukken[0].paginas[0][0], "Kwartierstaat van Gerrit van Dam");
   EXPECT_TRUE(drukker.berichten.empty());
+  ASSERT_EQ(drukker.voorstellen.size(), 1U);
+  EXPECT_EQ(drukker.voorstellen.front(), "Kwartierblad Gerrit van Dam.txt");
 }
 
 }  // namespace

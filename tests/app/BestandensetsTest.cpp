@@ -26,8 +26,8 @@ TEST(SetNaam, WatErgensAndersHeenWijstMagNiet) {
 }
 
 TEST(SetNaam, EenApparaatMagNiet) {
-  for (const char* naam :
-       {"CON", "con", "PRN", "AUX", "NUL", "NUL.TXT", "COM1", "LPT9", "AUX .X"}) {
+  for (const char* naam : {"CON", "con", "PRN", "AUX", "NUL", "NUL.TXT", "COM1", "LPT9", "AUX .X",
+                           "LPT\xB9", "CONIN$", "CONOUT$"}) {
     EXPECT_FALSE(IsSetNaam(naam)) << naam;
   }
 }

@@ -63,6 +63,18 @@ TEST_F(GeschiedenisVenster, MaaktOngedaanTotEnMetDeGekozene) {
   EXPECT_EQ(Voornaam(), "Piet");
 }
 
+TEST_F(GeschiedenisVenster, EnterEnEenDubbeleKlikVragenHetzelfdeAlsDeKnop) {
+  MaakGeschiedenis();
+  Speelt(
+      "kies VeiligGeschiedenis\nstel HandelingLijst #0\nantwoord Nee\ntoets HandelingLijst Enter\n"
+      "antwoord Ja\ndubbelklik HandelingLijst\ndruk BackButton",
+      R"~(+ Geschiedenis "Geschiedenis van de Bestandenset"
+             ? vraag Ja/Nee "De bewerking \"Persoon 2 gewijzigd\" (2026-01-02 03:04:05) ongedaan maken ?" -> Nee
+             ? vraag Ja/Nee "De bewerking \"Persoon 2 gewijzigd\" (2026-01-02 03:04:05) ongedaan maken ?" -> Ja
+             - Geschiedenis)~");
+  EXPECT_EQ(Voornaam(), "Jan");
+}
+
 TEST_F(GeschiedenisVenster, DeLaatsteBewerkingGaatNaEenVraagMetHaarNaam) {
   MaakGeschiedenis();
   Speelt(

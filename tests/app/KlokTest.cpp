@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
+
 #include "app/Klok.h"
+#include "steun/TijdelijkeMap.h"
 
 namespace lb77 {
 namespace {
@@ -26,6 +29,26 @@ TEST(Klok, WatGeenDagOfUurIsGeeftGeenTijdstip) {
     EXPECT_FALSE(LeesTijdstip(tekst)) << tekst;
   }
   EXPECT_TRUE(LeesTijdstip("2000-02-29 00:00:00"));
+}
+
+TEST(Klok, EenMomentStaatErInWoorden) {
+  EXPECT_EQ(DagTekst({2019, 5, 3, 9, 5, 0}), "3 mei 2019");
+  EXPECT_EQ(DagTekst({1999, 12, 31, 0, 0, 0}), "31 december 1999");
+  EXPECT_EQ(DagTekst({2026, 1, 2, 0, 0, 0}), "2 januari 2026");
+  EXPECT_EQ(DagEnUurTekst({2019, 5, 3, 9, 5, 0}), "3 mei 2019 om 9:05");
+}
+
+TEST(Klok, EenBestandZegtWanneerHetIsGewijzigd) {
+  const TijdelijkeMap map;
+  SchrijfBytes(map / "vers", "x");
+  const auto nu = WijzigMoment(map / "vers");
+  ASSERT_TRUE(nu);
+  EXPECT_LE(*nu, SysteemKlok().Nu());
+  EXPECT_GE(nu->jaar, 2024);
+  std::filesystem::last_write_time(
+      map / "vers", std::filesystem::last_write_time(map / "vers") - std::chrono::hours(24 * 400));
+  EXPECT_LT(*WijzigMoment(map / "vers"), *nu);
+  EXPECT_FALSE(WijzigMoment(map / "weg"));
 }
 
 TEST(Klok, EenVasteKlokStaatStil) {

@@ -1,7 +1,10 @@
 #include "app/OudeSetForm.h"
 #include "app/SessieToets.h"
+#include "app/ZonderRechten.h"
 #include "steun/Bestandsstelsel.h"
+#include "store/JournaalVorm.h"
 #include "store/Platform.h"
+#include "text/Getallen.h"
 
 namespace lb77 {
 namespace {
@@ -150,6 +153,160 @@ TEST_F(OudeSetVenster, EenSetDieEldersInGebruikIsWordtNietGenomen) {
          R"(! uitroep "Deze bestandenset is al in gebruik."
             - OudeSetForm)");
   EXPECT_FALSE(Bestaat("DATA"));
+}
+
+TEST_F(OudeSetVenster, EenMapDieErNietIsHeetNietLeeg) {
+  Speelt("vul OudeMap weg\ntoets OudeMap Tab\ndruk BackButton",
+         R"(! uitroep "De map <map>/weg is er niet"
+            - OudeSetForm)");
+}
+
+TEST_F(OudeSetVenster, EenMapDieNietGelezenMagWordenOokNiet) {
+  if (!ZonderRechten::kKan) GTEST_SKIP() << ZonderRechten::kWaarom;
+  const ZonderRechten rechten(map_ / "disk/oud", std::filesystem::perms(0));
+  Speelt("vul OudeMap disk\ntoets OudeMap Tab\ndruk BackButton",
+         R"(! stop "De map <map>/disk/oud kan niet worden gelezen\nGeen toegang"
+            - OudeSetForm)");
+}
+
+TEST_F(OudeSetVenster, MeerFamiliesInEenMapWordenErNietGebruikt) {
+  Schrijf("disk/oud/oud.plt", Inhoud("disk/plaats.plt"));
+  Schrijf("disk/oud/zus.prs", Inhoud("disk/oud/oud.prs"));
+  Speelt(
+      R"(vul OudeMap disk
+         stel GevondenLijst #0
+         druk TerPlaatse
+         druk OKButton
+         druk Kopieren
+         druk OKButton)",
+      R"(! uitroep "In de map <map>/disk/oud staat meer dan een familie. Daar kan OUD niet worden gebruikt; kies voor een kopie"
+         - OudeSetForm)");
+  EXPECT_EQ(actief_, "OUD");
+  EXPECT_FALSE(std::filesystem::is_symlink(map_ / "DATA/OUD"));
+}
+
+// A directory on a disk that can only be read, and a set that was open.
+class OudeSetOpSlot : public OudeSetVenster {
+ protected:
+  void SetUp() override {
+    OudeSetVenster::SetUp();
+    Schrijf("disk/oud/oud.plt", Inhoud("disk/plaats.plt"));
+    MaakSet("EERDER");
+    ZetIni("[Systeem]\nSet=EERDER\n[Sets]\nSet1=EERDER,\n");
+  }
+  // Whoever runs the test may be nobody in it.
+  void MagAlles() const {
+    std::filesystem::permissions(map_, std::filesystem::perms(0777));
+    for (const auto& plek : std::filesystem::recursive_directory_iterator(map_)) {
+      std::filesystem::permissions(plek.path(), std::filesystem::perms(0777));
+    }
+  }
+  void SpeeltMetEerder(std::string_view script, std::string_view verslag,
+                       const Plek& plek = Plek::current()) {
+    Verwacht(script, MetMenu([this](Hoofdmodule& hoofd, MenuWindow& menu) {
+               ASSERT_TRUE(menu.Laad());
+               Toont<OudeSetForm>(hoofd, menu)(hoofd.gesprek);
+               actief_ = hoofd.ActieveSetNaam;
+               EXPECT_TRUE(hoofd.bestanden.IsOpen(BestandSoort::Personen));
+             }),
+             kOpen + MetMap(verslag), plek);
+  }
+};
+
+TEST_F(OudeSetOpSlot, TerPlaatseLaatNietsAchterEnHeropentDeSetVanEerder) {
+  if (!ZonderRechten::kKan || !kKoppelingen) GTEST_SKIP() << ZonderRechten::kWaarom;
+  MagAlles();
+  const ZonderRechten rechten(map_ / "disk/oud");
+  SpeeltMetEerder(
+      R"(antwoord Nee
+                     vul OudeMap disk
+                     druk TerPlaatse
+                     druk OKButton
+                     druk BackButton)",
+      R"~(! stop "Fout bij het maken van de directory <map>/DATA/OUD/TEKST\n(Geen toegang)"
+                      ? vraag Ja/Nee "De bestanden van OUD zijn niet geopend waar ze staan.\nEen kopie maken ?" -> Nee
+                      - OudeSetForm)~");
+  EXPECT_EQ(actief_, "EERDER");
+  EXPECT_TRUE(IniHeeft("Set=EERDER"));
+  EXPECT_FALSE(std::filesystem::is_symlink(map_ / "DATA/OUD"));
+}
+
+TEST_F(OudeSetOpSlot, OfWordtAlsnogEenKopieOnderZijnEigenNaam) {
+  if (!ZonderRechten::kKan || !kKoppelingen) GTEST_SKIP() << ZonderRechten::kWaarom;
+  MagAlles();
+  const ZonderRechten rechten(map_ / "disk/oud");
+  SpeeltMetEerder(
+      R"(antwoord Ja
+                     vul OudeMap disk
+                     druk TerPlaatse
+                     druk OKButton)",
+      R"~(! stop "Fout bij het maken van de directory <map>/DATA/OUD/TEKST\n(Geen toegang)"
+                      ? vraag Ja/Nee "De bestanden van OUD zijn niet geopend waar ze staan.\nEen kopie maken ?" -> Ja
+                      - OudeSetForm)~");
+  EXPECT_EQ(actief_, "OUD");
+  EXPECT_EQ(Inhoud("DATA/OUD/OUD.PRS"), Inhoud("disk/oud/oud.prs"));
+}
+
+// What a crash left there can't be put back.
+TEST_F(OudeSetOpSlot, EenKopieDieNietOpengaatVerdwijntWeer) {
+  Schrijf("disk/oud/JOURNAAL/00000001.BEZ", CodeerKop({1, 0, "2026-01-01 00:00:00", "Invoer"}) +
+                                                CodeerLengte({BestandSoort::Plaatsen, true, 999}));
+  SpeeltMetEerder(
+      R"(antwoord Ja
+                     vul OudeMap disk
+                     druk OKButton
+                     druk BackButton)",
+      R"~(? vraag Ja/Nee "De vorige bewerking (Invoer, 2026-01-01 00:00:00) is niet voltooid.\nOngedaan maken ?" -> Ja
+                      ! stop "Ongedaan maken is niet gelukt\nHet plaatsbestand is een ander dan toen"
+                      - OudeSetForm)~");
+  EXPECT_EQ(actief_, "EERDER");
+  EXPECT_FALSE(Bestaat("DATA/OUD"));
+  EXPECT_TRUE(Bestaat("disk/oud/JOURNAAL/00000001.BEZ"));
+}
+
+TEST_F(OudeSetVenster, GezindtenUitDeOudeInstellingenKomenMee) {
+  Schrijf("disk/lijnboom.ini",
+          "[Namenfile]\r\nGez1=RKRooms-Katholiek\r\nGez3=LUEvang. Luth\x82rs\r\n");
+  Speelt("vul OudeMap disk\ndruk OKButton", "- OudeSetForm");
+  EXPECT_TRUE(IniHeeft("Gez1=RKRooms-Katholiek")) << Ini();
+  EXPECT_TRUE(IniHeeft("Gez2=LUEvang. Luth\x82rs")) << Ini();
+}
+
+TEST_F(OudeSetVenster, WatHierIetsAndersBetekentWordtGenoemd) {
+  ZetIni("[Namenfile]\nGez1=RKRooms-Katholiek\nGez2=DGDoopsgezind\n");
+  Schrijf("disk/oud/LIJNBOOM.INI",
+          "[Namenfile]\r\nGez1=DGDuits Geref.\r\nGez2=RKRooms-Katholiek\r\nGez3=LULuthers\r\n"
+          "[Andere]\r\nGez4=XXNiet\r\n");
+  Speelt(
+      "vul OudeMap disk\ndruk OKButton",
+      R"~(! uitroep "Deze gezindten uit <map>/disk/oud/LIJNBOOM.INI zijn niet overgenomen, omdat hun code hier iets anders betekent of de lijst vol is:\nDG (Duits Geref.)"
+          - OudeSetForm)~");
+  EXPECT_TRUE(IniHeeft("Gez2=DGDoopsgezind"));
+  EXPECT_TRUE(IniHeeft("Gez3=LULuthers"));
+  EXPECT_FALSE(IniHeeft("Gez4=XXNiet"));
+}
+
+TEST_F(OudeSetVenster, DeEigenInstellingenZijnGeenOude) {
+  ZetIni("[Namenfile]\nGez1=\nGez2=DGDoopsgezind\n");
+  std::filesystem::rename(map_ / "disk", map_ / "DATA");
+  const auto programma = MetMenu(
+      [](Hoofdmodule& hoofd, MenuWindow& menu) { Toont<OudeSetForm>(hoofd, menu)(hoofd.gesprek); });
+  EXPECT_EQ(Speel("vul OudeMap DATA\nvul SetNaam NIEUW\ndruk OKButton", programma).reden, "");
+  EXPECT_FALSE(IniHeeft("Gez1=DGDoopsgezind"));
+}
+
+TEST_F(OudeSetVenster, EenVolleLijstNeemtNietsMeer) {
+  std::string vol = "[Namenfile]\n";
+  for (int i = 1; i <= 20; ++i) {
+    vol += "Gez" + GetalTekst(i) + "=" + GetalTekst(10 + i) + "Naam\n";
+  }
+  ZetIni(vol);
+  Schrijf("disk/LIJNBOOM.INI", "[Namenfile]\r\nGez1=RKRooms-Katholiek\r\n");
+  const auto programma = MetMenu(
+      [](Hoofdmodule& hoofd, MenuWindow& menu) { Toont<OudeSetForm>(hoofd, menu)(hoofd.gesprek); });
+  EXPECT_EQ(Speel("vul OudeMap disk\ndruk OKButton", programma).reden, "");
+  EXPECT_NE(verslag_.find("lijst vol is:\\nRK (Rooms-Katholiek)"), std::string::npos) << verslag_;
+  EXPECT_TRUE(IniHeeft("Gez20=30Naam"));
 }
 
 }  // namespace

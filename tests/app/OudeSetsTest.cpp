@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <chrono>
+
 #include "app/KopieBestanden.h"
 #include "app/OudeSets.h"
 #include "app/SessieToets.h"
@@ -120,6 +122,76 @@ TEST_F(OudeSetsTest, WatAlInDeDataDirectoryStaatHeeftGeenKoppelingNodig) {
   EXPECT_FALSE(KoppelOudeSet(ZoekOudeSets(map_ / "DATA").at(0), Doel("FAMILIE")));
   EXPECT_FALSE(std::filesystem::is_symlink(map_ / "DATA/familie"));
   EXPECT_EQ(Inhoud("DATA/familie/familie.PLT"), "plaatsen");
+}
+
+TEST_F(OudeSetsTest, EenMapDieNietTeLezenIsWordtGenoemd) {
+  OnleesbareMap onleesbaar;
+  EXPECT_FALSE(ZoekOudeSets(disk_, &onleesbaar).empty());
+  EXPECT_FALSE(onleesbaar.fout);
+  EXPECT_TRUE(ZoekOudeSets(map_ / "weg", &onleesbaar).empty());
+  EXPECT_EQ(onleesbaar.map, map_ / "weg");
+  EXPECT_TRUE(onleesbaar.fout);
+  if (!ZonderRechten::kKan) return;
+  const ZonderRechten rechten(disk_ / "familie", std::filesystem::perms(0));
+  EXPECT_TRUE(ZoekOudeSets(disk_, &onleesbaar).empty());
+  EXPECT_EQ(onleesbaar.map, disk_ / "familie");
+  EXPECT_EQ(onleesbaar.fout.tekst, "Geen toegang");
+}
+
+TEST_F(OudeSetsTest, KentDeSetsDieEenDataDirectoryZelfHeeft) {
+  Schrijf("DATA/jansen/jansen.prs", "x");
+  Schrijf("DATA/LEEG/brief.txt", "x");
+  Schrijf("DATA/ANDERS/NAAM.PRS", "x");
+  Schrijf("DATA/TEVEELLETTERS/TEVEELLETTERS.PRS", "x");
+  Schrijf("DATA/LOS.PRS", "x");
+  std::vector<std::string> namen = {"JANSEN"};
+  if (kKoppelingen) {
+    std::filesystem::create_directory_symlink(disk_ / "familie", map_ / "DATA/FAMILIE");
+    namen = {"FAMILIE", "JANSEN"};
+  }
+  EXPECT_EQ(SetsIn(map_ / "DATA"), namen);
+  EXPECT_EQ(SetsIn(map_ / "data"), namen);
+  EXPECT_THAT(SetsIn(map_ / "weg"), testing::IsEmpty());
+}
+
+TEST_F(OudeSetsTest, EenKopieHoudtDeTijdVanHaarBestanden) {
+  const auto toen =
+      std::filesystem::file_time_type::clock::now() - std::chrono::hours(24 * 365 * 10);
+  std::filesystem::last_write_time(disk_ / "familie/familie.rlt", toen);
+  ASSERT_FALSE(KopieerOudeSet(Eerste(), Doel()));
+  const auto verschil = std::filesystem::last_write_time(map_ / "DATA/FAM2/FAM2.RLT") - toen;
+  EXPECT_LT(std::chrono::abs(verschil), std::chrono::seconds(2));
+}
+
+// The journal of another family in that directory stays behind.
+TEST_F(OudeSetsTest, EenKopieNeemtAlleenHaarEigenJournaalMee) {
+  Schrijf("disk/EEN.PRS", "een");
+  Schrijf("disk/TWEE.PRS", "twee");
+  Schrijf("disk/JOURNAAL/00000001.HND", "van wie");
+  Schrijf("disk/JOURNAAL.TWEE/00000002.HND", "van twee");
+  const auto sets = ZoekOudeSets(disk_);
+  ASSERT_EQ(sets.at(0).naam, "EEN");
+  ASSERT_FALSE(KopieerOudeSet(sets.at(0), Doel("EEN")));
+  ASSERT_FALSE(KopieerOudeSet(sets.at(2), Doel("TWEE")));
+  EXPECT_FALSE(Bestaat("DATA/EEN/JOURNAAL"));
+  EXPECT_EQ(Inhoud("DATA/TWEE/JOURNAAL/00000002.HND"), "van twee");
+  EXPECT_FALSE(Bestaat("DATA/TWEE/JOURNAAL/00000001.HND"));
+}
+
+TEST_F(OudeSetsTest, EenKoppelingGaatWegZonderWatErAchterLigt) {
+  if (!kKoppelingen) GTEST_SKIP() << kZonderKoppelingen;
+  MapInhoud voor;
+  ASSERT_FALSE(LeesMap(disk_, voor));
+  const OudeSet set = Eerste();
+  ASSERT_FALSE(KoppelOudeSet(set, Doel("FAMILIE")));
+  EXPECT_TRUE(LigtErAl(set, Doel("FAMILIE")));
+  RuimKoppeling(set, Doel("FAMILIE"), true);
+  EXPECT_TRUE(Bestaat("DATA/FAMILIE"));
+  RuimKoppeling(set, Doel("FAMILIE"), false);
+  EXPECT_FALSE(Bestaat("DATA/FAMILIE"));
+  MapInhoud na;
+  ASSERT_FALSE(LeesMap(disk_, na));
+  EXPECT_EQ(na, voor);
 }
 
 }  // namespace

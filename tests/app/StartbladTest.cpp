@@ -1,3 +1,6 @@
+#include <chrono>
+#include <ctime>
+
 #include "app/OpenSetForm.h"
 #include "app/SessieToets.h"
 #include "app/VerwijderSetForm.h"
@@ -21,6 +24,17 @@ class StartbladVenster : public SessieToets {
             const auto jan = bouw.Man("Jan", "van Dam", {{"GebDatum", "01-02-1900"}});
             static_cast<void>(bouw.Relatie(jan, bouw.Vrouw("Anna", "Blom"), {}));
           }));
+  }
+  // As if the file was last changed at that local time.
+  void BewaarTijd(const std::filesystem::path& naam, const Tijdstip& tijd) const {
+    std::tm delen{};
+    delen.tm_year = tijd.jaar - 1900;
+    delen.tm_mon = tijd.maand - 1;
+    delen.tm_mday = tijd.dag;
+    delen.tm_hour = tijd.uur;
+    delen.tm_isdst = -1;
+    const auto moment = std::chrono::system_clock::from_time_t(std::mktime(&delen));
+    std::filesystem::last_write_time(map_ / naam, std::chrono::file_clock::from_sys(moment));
   }
   SpeelToets::Programma Venster(std::function<void(Hoofdmodule&, MenuWindow&)> vooraf = {}) {
     return MetMenu([this, vooraf](Hoofdmodule& hoofd, MenuWindow& menu) {
@@ -54,6 +68,10 @@ TEST_F(StartbladVenster, ZonderSetBiedtHetDeVierWegen) {
 
 TEST_F(StartbladVenster, MetEenSetZegtHetNaamAantallenEnLaatsteWijziging) {
   MaakFamilie("EEN");
+  // The newest of the four tells, for there is no journal.
+  for (const char* soort : {"PRS", "RLT", "OPM", "PLT"}) {
+    BewaarTijd(std::string("DATA/EEN/EEN.") + soort, {2019, 5, soort[0] == 'R' ? 3 : 2, 9, 5, 0});
+  }
   ZetIni("[Systeem]\nSet=EEN\n[Sets]\nSet1=EEN,Familie van Dam\n");
   Verwacht(
       "toon StartKop\ntoon StartTelling\ntoon StartWijziging\ntoon NieuweFamilie\ntoon "
@@ -63,7 +81,7 @@ TEST_F(StartbladVenster, MetEenSetZegtHetNaamAantallenEnLaatsteWijziging) {
       + MenuWindow "LB77 voor Windows"
       = StartKop "Familie van Dam (EEN)"
       = StartTelling "2 personen, 1 relatie, 1 plaats"
-      = StartWijziging "Er is nog niets gewijzigd."
+      = StartWijziging "Laatst gewijzigd op 3 mei 2019."
       = NieuweFamilie "&Nieuwe familie" [verborgen]
       = ZoekButton "Persoon &zoeken"
       = InvoerButton "&Invoeren en wijzigen"
@@ -71,6 +89,15 @@ TEST_F(StartbladVenster, MetEenSetZegtHetNaamAantallenEnLaatsteWijziging) {
       = KopieButton "Veiligheidskopie &maken"
       = GezienLijst "" [verborgen]
       - MenuWindow)~");
+}
+
+TEST_F(StartbladVenster, InEenNieuweSetIsNogNietsGewijzigd) {
+  MaakSet("EEN");
+  ZetIni("[Systeem]\nSet=EEN\n[Sets]\nSet1=EEN,\n");
+  Verwacht("toon StartWijziging\nsluit", Venster(), R"(
+      + MenuWindow "LB77 voor Windows"
+      = StartWijziging "Er is nog niets gewijzigd."
+      - MenuWindow)");
 }
 
 TEST_F(StartbladVenster, EenWijzigingIsMeteenTeZien) {
@@ -87,7 +114,7 @@ TEST_F(StartbladVenster, EenWijzigingIsMeteenTeZien) {
       + MenuWindow "LB77 voor Windows"
       = StartKop "EEN"
       = StartTelling "3 personen, 1 relatie, 1 plaats"
-      = StartWijziging "Laatste wijziging: Wijziging (2026-01-02 03:04:05)"
+      = StartWijziging "Laatste wijziging: Wijziging (2 januari 2026 om 3:04)"
       - MenuWindow)~");
 }
 

@@ -69,6 +69,19 @@ TEST_F(BedienerToets, LieverNeeDanAnnulerenWaarBeideKunnen) {
   EXPECT_EQ(vraag(Knoppen::OKAnnuleren), Antwoord::Annuleren);
 }
 
+TEST_F(BedienerToets, EenAntwoordKanVoorEenFormulierSteedsGelden) {
+  bediener_.HoudSteeds("", Antwoord::OK);
+  bediener_.HoudSteeds("Ander", Antwoord::Ja);
+  bediener_.HoudKlaar("", Antwoord::Annuleren);
+  const auto vraag = [this](Knoppen knoppen) {
+    return bediener_.Bericht(BerichtSoort::Vraag, knoppen, "Doorgaan?");
+  };
+  EXPECT_EQ(vraag(Knoppen::OKAnnuleren), Antwoord::Annuleren);
+  EXPECT_EQ(vraag(Knoppen::OKAnnuleren), Antwoord::OK);
+  EXPECT_EQ(vraag(Knoppen::OKAnnuleren), Antwoord::OK);
+  EXPECT_EQ(vraag(Knoppen::JaNee), Antwoord::Nee);
+}
+
 TEST_F(BedienerToets, EenAntwoordDatKlaarligtIsVoorEenVraag) {
   const auto vraag = [this](Knoppen knoppen) {
     return bediener_.Bericht(BerichtSoort::Uitroep, knoppen, "Nieuw?");

@@ -86,7 +86,7 @@ TEST_F(BewarenToets, UitWeigertWatVanHetProgrammaIs) {
   SchrijfBytes(map_ / "KOPIE.PAD", "stick");
   std::filesystem::create_directories(map_ / "stick/ANDER");
   const auto voor = Inhoud();
-  const std::pair<std::filesystem::path, std::string> gevallen[] = {
+  std::vector<std::pair<std::filesystem::path, std::string>> gevallen = {
       {map_ / "LIJNBOOM.INI", "het bestand met instellingen"},
       {map_ / "lb77_ini.bak", "het bestand met instellingen"},
       {map_ / "DATA" / "." / "FAMILIE" / "FAMILIE.PRS", "een bestand van bestandenset FAMILIE"},
@@ -97,6 +97,10 @@ TEST_F(BewarenToets, UitWeigertWatVanHetProgrammaIs) {
       {map_ / "stick" / "ANDER" / "x", "van een veiligheidskopie"},
       {map_ / "DATA" / "ANDER" / "JOURNAAL" / "00000001.HND",
        "van het journaal van bestandenset ANDER"}};
+  if (!kKastTelt) {
+    gevallen.emplace_back(map_ / "lijnboom.oud", "een reserve van de instellingen");
+    gevallen.emplace_back(map_ / "LIJNBOOM.OUD.", "een reserve van de instellingen");
+  }
   for (const auto& [pad, rol] : gevallen) {
     OpdrachtArgumenten argumenten = Verslag();
     argumenten.naar = pad;

@@ -54,6 +54,35 @@ TEST_F(ContactdienstToets, MaaktDeBestandenEnDruktHetLogAf) {
             "Plaats onbekend: Dorp.\nPlaats toch mee uitvoeren ? -> Nee\nExport voltooid\n");
 }
 
+// As real tables have it: imported places know no province.
+TEST_F(ContactdienstToets, EenPlaatsZonderProvincieKrijgtDeEnigeVanDieNaam) {
+  SchrijfBytes(map_ / "GCIPLT!!.DBF", Tabel(130, 31, "Delft                    ZH NL "));
+  EXPECT_EQ(Contact(), 0) << fout_;
+  EXPECT_EQ(LeesBytes(Tekst("CONTACT.FAM")),
+            "VAN DAM                  Delft                    ZH NL 18601860      \r\n");
+  EXPECT_TRUE(
+      fout_.starts_with("De enige van die naam voor plaatscode 2 - Delft\n"
+                        "Gevonden: Delft, ZH, NL\n"))
+      << fout_;
+}
+
+TEST_F(ContactdienstToets, EenAchternaamMetEenVerkeerdTekenWordtOvergeslagen) {
+  OpdrachtArgumenten argumenten;
+  argumenten.woorden = {"familie"};
+  argumenten.bestand = map_ / "meer.ged";
+  SchrijfBytes(argumenten.bestand,
+               "0 HEAD\n0 @I1@ INDI\n1 NAME Jan /V<s/\n1 BIRT\n2 DATE 1860\n2 PLAC Delft\n"
+               "0 @I2@ INDI\n1 NAME Piet /V<s/\n0 @I3@ INDI\n1 NAME Els /Vos/\n1 BIRT\n"
+               "2 DATE 1860\n2 PLAC Delft\n0 TRLR\n");
+  ASSERT_EQ(Doe("importeer", argumenten), 0) << fout_;
+  EXPECT_EQ(Contact(), 0) << fout_;
+  EXPECT_NE(
+      uit_.find("\nNaam overgeslagen: V<s\nNaam overgeslagen: V<s\nPlaats overgeslagen: Dorp\n"),
+      std::string::npos)
+      << uit_;
+  EXPECT_NE(uit_.find("\nTotaal: 2 reeksen "), std::string::npos);
+}
+
 TEST_F(ContactdienstToets, NeemtKeuzesEnBewaartZeNiet) {
   const std::string voor = LeesBytes(map_ / "LIJNBOOM.INI");
   EXPECT_EQ(Contact({"MaxJaartal=1859"}), 1);

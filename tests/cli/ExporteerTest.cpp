@@ -1,5 +1,7 @@
 // `exporteer` as a command.
 #include "cli/OpdrachtToets.h"
+#include "store/PersoonVelden.h"
+#include "store/SetPaden.h"
 
 namespace lb77 {
 namespace {
@@ -48,6 +50,27 @@ TEST_F(ExporteerToets, AllesGaatMeeEnHetVerslagKomtUit) {
                      "Exporteren voltooid\n"))
       << uit_;
   EXPECT_EQ(fout_, "Exporteren voltooid\n");
+}
+
+// A selection has room for 32,000.
+TEST_F(ExporteerToets, EenSetDieNietInDeSelectiePastGaatNietHeelMee) {
+  constexpr std::size_t kRecord = 128;
+  constexpr int kLaatste = 32100;
+  const std::filesystem::path pad = SetPaden::Van(map_ / "DATA", "FAMILIE").prs;
+  std::string bytes = LeesBytes(pad);
+  const std::string laatste = bytes.substr(bytes.size() - kRecord);
+  while (bytes.size() < kRecord * kLaatste) bytes += laatste;
+  bytes[persoonveld::GebPlaatsNr.plaats] = static_cast<char>((kLaatste - 1) & 255);
+  bytes[persoonveld::GebPlaatsNr.plaats + 1] = static_cast<char>((kLaatste - 1) >> 8);
+  SchrijfBytes(pad, bytes);
+  EXPECT_EQ(Exporteer(), 1);
+  EXPECT_NE(fout_.find("Maximaal aantal Persoonsrecords (32000) bereikt\n"), std::string::npos);
+  EXPECT_NE(fout_.find("Er is niets uitgevoerd, of niet alles\n"), std::string::npos) << fout_;
+  EXPECT_TRUE(uit_.ends_with(
+      "Exporteren voltooid\n"
+      "LET OP: niet alle gekozen records zijn uitgevoerd: een lijst houdt er 32000\n"))
+      << uit_;
+  EXPECT_NE(uit_.find("Totaal 32000 Personen"), std::string::npos);
 }
 
 TEST_F(ExporteerToets, EenReeksKiestPersonenOfRelaties) {

@@ -50,6 +50,26 @@ TEST_F(ImporteerVolToets, EenVolOpmerkingenbestandZegtWatWelIsOpgeslagen) {
       << fout_;
 }
 
+class ImporteerHalfToets : public OpdrachtToets {};
+
+TEST_F(ImporteerHalfToets, EenRegelDieGeenGedcomIsEindigtMetEenEnZegtWaarHetStaat) {
+  MaakFamilie(kGedcom);
+  OpdrachtArgumenten argumenten;
+  argumenten.woorden = {"familie"};
+  argumenten.bestand = map_ / "half.ged";
+  SchrijfBytes(argumenten.bestand, "0 HEAD\n0 @I1@ INDI\n1 NOTE een\ntwee\n0 TRLR\n");
+  EXPECT_EQ(Doe("importeer", argumenten), 1);
+  EXPECT_EQ(uit_,
+            "LET OP: gestopt bij regel 4: GEDCOM Fout: Regel begint niet met een levelnummer\n"
+            "LET OP: zonder gegevens gebleven: 1 persoon en 0 relaties\n"
+            "LET OP: wat niet of niet heel is overgenomen staat in GEDCOM.RST: 3 regels\n"
+            "Importeren voltooid\n");
+  EXPECT_NE(fout_.find("Het bestand is niet heel ingelezen: GEDCOM.LOG en GEDCOM.RST zeggen wat er "
+                       "ontbreekt\n"),
+            std::string::npos)
+      << fout_;
+}
+
 class ImporteerUnicodeToets : public OpdrachtToets {};
 
 TEST_F(ImporteerUnicodeToets, EenBestandInUnicodeWordtOmgezet) {

@@ -1,4 +1,5 @@
 #include "OpdrachtToets.h"
+#include "steun/Bestandsstelsel.h"
 
 namespace lb77 {
 namespace {
@@ -75,7 +76,9 @@ TEST_F(OpdrachtenToets, EenBestandDatGeenGedcomIsEindigtMetEenEnZijnVerslag) {
   SchrijfBytes(argumenten.bestand, "Beste Jan,\n");
   EXPECT_EQ(Doe("importeer", argumenten), 1);
   EXPECT_NE(fout_.find("Het bestand is niet ingelezen\n"), std::string::npos);
-  EXPECT_EQ(uit_, "Importeren voltooid\n");
+  EXPECT_EQ(uit_,
+            "LET OP: gestopt bij regel 1: Fout: Header van GEDCOM-bestand niet gevonden\n"
+            "Importeren voltooid\n");
 }
 
 TEST_F(OpdrachtenToets, HetVerslagIsUtf8MetGewoneRegeleinden) {
@@ -118,6 +121,16 @@ TEST_F(OpdrachtenToets, EenApparaatWordtBeschrevenEnBlijft) {
   EXPECT_NE(fout_.find("Fout bij het schrijven van /dev/full"), std::string::npos);
   EXPECT_TRUE(std::filesystem::is_character_file("/dev/full"));
   EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
+}
+
+TEST_F(OpdrachtenToets, NaarHetGroteNietsBlijftErNietsOver) {
+  MaakFamilie();
+  const auto voor = Inhoud();
+  OpdrachtArgumenten argumenten;
+  argumenten.woorden = {"familie", "2"};
+  argumenten.naar = kGroteNiets;
+  EXPECT_EQ(Doe("kwartierstaat", argumenten), 0) << fout_;
+  EXPECT_EQ(Inhoud(), voor);
 }
 
 TEST_F(OpdrachtenToets, EenPadMetAccentenIsEenPadAlsElkAnder) {

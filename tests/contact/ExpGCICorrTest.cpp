@@ -66,6 +66,32 @@ TEST_F(ExpGCICorrTest, OpentMetDeEigenPlaatsEnDeFilterAan) {
   )~");
 }
 
+TEST_F(ExpGCICorrTest, EenProvinciecodeDieAlleenDePlaatsenHebbenMagOok) {
+  Voeg("Cleve", "DNW", "D");
+  Voeg("Keulen", "DNW", "D");
+  plaats_ = {12, "Kleef", "D", "Kleef", {"", "D"}};
+  Speel(R"(
+      vul FilterPlaatsnaam ""
+      vul FilterProv dnx
+      vul FilterProv dnw
+      toon FilterProv
+      toon FilterProvAfk
+      toon GCIPltsNm(1)
+      toon GCIPltsNm(2)
+      vul FilterProv ""
+      toon FilterProvAfk
+      druk BackButton
+    )",
+        R"(
+    ! uitroep "Onbekende provincienaam"
+    = FilterProv "DNW"
+    = FilterProvAfk "DNW"
+    = GCIPltsNm(1) "Cleve"
+    = GCIPltsNm(2) "Keulen"
+    = FilterProvAfk ""
+  )");
+}
+
 TEST_F(ExpGCICorrTest, ZegtHetAlsErNietsIs) {
   plaats_ = {12, "Dorp", "ZH", "Dorp", {"ZH", "NL"}};
   Speel(

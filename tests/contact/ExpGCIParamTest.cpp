@@ -202,6 +202,25 @@ TEST_F(ExpGCIParamTest, HetVoorbeeldadresHaaltEenBewaardAdresWeg) {
   EXPECT_NE(Ini().find("[INTERNET]\r\nEmail=\r\n"), std::string::npos) << Ini();
 }
 
+// The settings of the user take any text.
+TEST_F(ExpGCIParamTest, EenBewaardAdresZonderApenstaartjeIsGeen) {
+  SchrijfIni("MaxGat=20\r\n[INTERNET]\r\nEmail=geenadres\r\n");
+  Speel("toon EmailAdres\ndruk StartExportButton", "= EmailAdres \"naam@example.org\"\n", true);
+  EXPECT_EQ(opties_.email, "");
+}
+
+TEST_F(ExpGCIParamTest, StartNeemtGeenAdresDatNietIsNagekeken) {
+  const Taak taak = [&](Hoofdmodule& hoofd) {
+    ASSERT_TRUE(Start(hoofd));
+    ExpGCIParam form(hoofd, opties_);
+    ASSERT_TRUE(form.Laad());
+    form.EmailAdres.ZetTekst("geenadres");
+    EXPECT_TRUE(form.Klik(form.StartExportButton));
+    EXPECT_FALSE(form.Gekozen());
+  };
+  Verwacht("", taak, "! uitroep \"Onjuist e-mail adres\"\n");
+}
+
 TEST_F(ExpGCIParamTest, BewaartNietsAlsDatNietIsGewenst) {
   SchrijfBytes(Map() / "LIJNBOOM.INI", "[Systeem]\r\nSet=PROEF\r\nOpslaanVelden=N\r\n");
   const std::string voor = Ini();

@@ -43,11 +43,66 @@ TEST_F(ExpGCISchade, WatNietTeLezenIsEindigtDeGangOverDePersonen) {
   MaakOnleesbaar(BestandSoort::Personen, 3);
   Exporteer("druk BackButton", R"(
     ! stop "Fout bij het lezen van Persoonsrecord 3\nFout van de schijf"
+    ! uitroep "LET OP: gestopt bij persoonsrecord 3; de personen daarachter zijn niet meegenomen"
     ! info "Export voltooid"
     + ToonTekst "Exporteren - Resultaat"
     - ToonTekst
   )");
   EXPECT_EQ(Reeksen(), "VOS Delft ZH NL 18001800\n");
+}
+
+TEST_F(ExpGCISchade, EenGatInDePersonenWordtGemeldEnStaatInHetLog) {
+  for (const char* naam : {"Vos", "Bos", "Mos"}) {
+    Bouw().Man("Jan", naam, {{"GebPlaats", "2"}, {"GebDatum", "00-00-1800"}});
+  }
+  MaakGat(3);
+  Exporteer("druk BackButton", R"(
+    ! uitroep "LET OP: gestopt bij persoonsrecord 3; de personen daarachter zijn niet meegenomen"
+    ! info "Export voltooid"
+    + ToonTekst "Exporteren - Resultaat"
+    - ToonTekst
+  )");
+  EXPECT_EQ(Reeksen(), "VOS Delft ZH NL 18001800\n");
+  EXPECT_TRUE(LogRegels().starts_with(
+      "LET OP: gestopt bij persoonsrecord 3; de personen daarachter zijn niet meegenomen\n"
+      "Geen achternamen overgeslagen\n"))
+      << LogRegels();
+}
+
+TEST_F(ExpGCISchade, EenOnleesbareAchterEenGatIsOokIemand) {
+  for (const char* naam : {"Vos", "Bos", "Mos"}) {
+    Bouw().Man("Jan", naam, {{"GebPlaats", "2"}, {"GebDatum", "00-00-1800"}});
+  }
+  MaakGat(3);
+  MaakOnleesbaar(BestandSoort::Personen, 4);
+  Exporteer("druk BackButton", R"(
+    ! uitroep "LET OP: gestopt bij persoonsrecord 3; de personen daarachter zijn niet meegenomen"
+    ! info "Export voltooid"
+    + ToonTekst "Exporteren - Resultaat"
+    - ToonTekst
+  )");
+}
+
+TEST_F(ExpGCISchade, EenGatAanHetEindeIsHetEinde) {
+  Bouw().Man("Jan", "Vos", {{"GebPlaats", "2"}, {"GebDatum", "00-00-1800"}});
+  for (int n = 0; n < 2; ++n) Bouw().Man("Jan", "Bos");
+  MaakGat(3);
+  MaakGat(4);
+  Lukt();
+  EXPECT_TRUE(LogRegels().starts_with("Geen achternamen overgeslagen\n")) << LogRegels();
+}
+
+TEST_F(ExpGCISchade, EenGatVoorHetLaatsteRecordWordtGezien) {
+  Bouw().Man("Jan", "Vos", {{"GebPlaats", "2"}, {"GebDatum", "00-00-1800"}});
+  for (int n = 0; n < 3; ++n) Bouw().Man("Jan", "Bos");
+  MaakGat(3);
+  MaakGat(5);
+  Exporteer("druk BackButton", R"(
+    ! uitroep "LET OP: gestopt bij persoonsrecord 3; de personen daarachter zijn niet meegenomen"
+    ! info "Export voltooid"
+    + ToonTekst "Exporteren - Resultaat"
+    - ToonTekst
+  )");
 }
 
 TEST_F(ExpGCISchade, EenOnleesbareRelatieOfPlaatsWordtOvergeslagen) {

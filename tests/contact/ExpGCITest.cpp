@@ -175,6 +175,10 @@ TEST_F(ExpGCITest, EenOnevenAantalHaakjesWordtPerNaamGemeld) {
     - ToonTekst
   )~");
   EXPECT_EQ(Reeksen(), "VOS Delft ZH NL 18011801\n");
+  EXPECT_TRUE(
+      LogRegels().starts_with("Naam overgeslagen: Jans(en (oneven aantal haakjes)\n"
+                              "Naam overgeslagen: Bos] (oneven aantal haakjes)\nGeen plaatsnamen "))
+      << LogRegels();
 }
 
 TEST_F(ExpGCITest, EenOngeldigTekenWordtPerPersoonGevraagd) {

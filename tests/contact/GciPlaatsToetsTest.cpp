@@ -42,6 +42,20 @@ constexpr const char* kDorp =
 constexpr const char* kDorpToch =
     R"(? vraag Ja/Nee "Plaats onbekend: Dorp.\nPlaats toch mee uitvoeren ?" -> )";
 
+TEST_F(GciPlaatsToetsTest, DeEnigeVanEenNaamKanZonderVraagGenomenWorden) {
+  toets_.NeemEnige();
+  EXPECT_EQ(Rij("Jakarta", ""), 6);
+  EXPECT_EQ(Rij("Delft", ""), 3);
+  EXPECT_EQ(
+      set_.Getoond(),
+      (Regels{
+          R"(! info "De enige van die naam voor plaatscode 2 - Jakarta\nGevonden: Jakarta, DJX, RI")",
+          R"(! info "De enige van die naam voor plaatscode 3 - Delft\nGevonden: Delft, ZH, NL")"}));
+  // Not with a code of its own, and not when there are more.
+  EXPECT_EQ(Rij("Delft", "NB", {kJa}), 3);
+  EXPECT_EQ(Rij("Bergen", "", {kNee, kNee, kJa}), 5);
+}
+
 TEST_F(GciPlaatsToetsTest, EenRijDieKloptVraagtNiets) {
   EXPECT_EQ(Rij("delft", "ZH"), 3);
   EXPECT_EQ(Rij("BERGEN", "NH"), 5);

@@ -65,5 +65,14 @@ TEST(GciCodes, VindenOpCodeEnOpNaam) {
   EXPECT_EQ(codes.NaamVan("Y"), std::nullopt);
 }
 
+TEST(GciPlaatsen, KentDeCodesVanZijnProvincies) {
+  const GciPlaatsen plaatsen({PlaatsRij("Delft", "", "NL"), PlaatsRij("Cleve", "DNW", "D"),
+                              PlaatsRij("Jakarta", "DJR", "RI")});
+  EXPECT_EQ(plaatsen.MetProv(" djr "), "DJR");
+  EXPECT_EQ(plaatsen.MetProv("DNW"), "DNW");
+  EXPECT_EQ(plaatsen.MetProv("DN"), std::nullopt);
+  EXPECT_EQ(plaatsen.MetProv("NL"), std::nullopt);
+}
+
 }  // namespace
 }  // namespace lb77

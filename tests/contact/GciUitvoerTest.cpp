@@ -1,6 +1,8 @@
 // The lines of both files, the log, and what happens when they can't be written.
 #include <gtest/gtest.h>
 
+#include <set>
+
 #include "contact/ContactToets.h"
 #include "contact/GciUitvoer.h"
 #include "steun/Bestandsstelsel.h"
@@ -57,13 +59,14 @@ TEST(FamRegel, HeeftElkVeldOpZijnPlek) {
   EXPECT_EQ(FamRegel({"A\nB", 1, 850, 900, 3, 2}, plaatsen, "").substr(0, 4), "A B ");
 }
 
-// Fails at one operation on the disk, counted from 1.
+// Fails at operations on the disk, counted from 1.
 class FalendWerk final : public Bestandswerk {
  public:
-  explicit FalendWerk(int bij, SchrijfStap stap = SchrijfStap::Openen) : bij_(bij), stap_(stap) {}
+  explicit FalendWerk(std::set<int> bij, SchrijfStap stap = SchrijfStap::Openen)
+      : bij_(std::move(bij)), stap_(stap) {}
 
   SchrijfUitslag Maak(const std::filesystem::path& pad, std::string_view inhoud) override {
-    if (++teller_ != bij_) return Bestandswerk::Maak(pad, inhoud);
+    if (!Treft()) return Bestandswerk::Maak(pad, inhoud);
     if (stap_ == SchrijfStap::Schrijven) {
       EXPECT_EQ(Bestandswerk::Maak(pad, inhoud.substr(0, 5)).stap, SchrijfStap::Klaar);
     }
@@ -71,27 +74,32 @@ class FalendWerk final : public Bestandswerk {
   }
   SysteemFout Hernoem(const std::filesystem::path& van,
                       const std::filesystem::path& naar) override {
-    if (++teller_ != bij_) return Bestandswerk::Hernoem(van, naar);
-    return {61, "Schijf vol"};
+    return Treft() ? SysteemFout{61, "Schijf vol"} : Bestandswerk::Hernoem(van, naar);
+  }
+  SysteemFout Verwijder(const std::filesystem::path& pad) override {
+    return Treft() ? SysteemFout{75, "Geen rechten"} : Bestandswerk::Verwijder(pad);
   }
 
  private:
-  int bij_;
+  bool Treft() { return bij_.contains(++teller_); }
+
+  std::set<int> bij_;
   SchrijfStap stap_;
   int teller_ = 0;
 };
 
 class GciBestanden : public ::testing::Test {
  protected:
-  std::optional<std::string> Schrijf(int faalBij = 0, SchrijfStap stap = SchrijfStap::Openen) {
-    FalendWerk werk(faalBij, stap);
+  std::optional<std::string> Schrijf(std::set<int> faalBij = {},
+                                     SchrijfStap stap = SchrijfStap::Openen) {
+    FalendWerk werk(std::move(faalBij), stap);
     return SchrijfContact(paden_, "inzender\r\n", "reeksen\r\n", werk);
   }
   // The files that lie there, with what they hold.
   [[nodiscard]] std::string Inhoud() const {
     std::string uit;
-    for (const char* naam :
-         {"CONTACT.FAM", "CONTACT.FAM.nieuw", "CONTACT.INZ", "CONTACT.INZ.nieuw"}) {
+    for (const char* naam : {"CONTACT.FAM", "CONTACT.FAM.nieuw", "CONTACT.FAM.oud", "CONTACT.INZ",
+                             "CONTACT.INZ.nieuw", "CONTACT.INZ.oud"}) {
       const std::filesystem::path pad = paden_.inz.parent_path() / naam;
       if (std::filesystem::exists(pad)) uit += std::string(naam) + ":" + LeesBytes(pad) + ";";
     }
@@ -103,6 +111,7 @@ class GciBestanden : public ::testing::Test {
   }
   [[nodiscard]] std::string Pad(const char* naam) const { return (map_ / "TEKST" / naam).string(); }
 
+  int bij_ = 0;
   TijdelijkeMap map_;
   GciPaden paden_ = GciPaden::In(map_ / "TEKST");
 };
@@ -124,34 +133,62 @@ TEST_F(GciBestanden, NemenDePlaatsInVanVorige) {
 
 TEST_F(GciBestanden, DeEersteDieNietKanEindigtHetWerk) {
   MaakOude();
-  EXPECT_EQ(Schrijf(1), "Fout: Kan uitvoerbestand voor inzendergegevens " + Pad("CONTACT.INZ") +
-                            " niet openen\nSchijf vol");
+  EXPECT_EQ(Schrijf({1}), "Fout: Kan uitvoerbestand voor inzendergegevens " + Pad("CONTACT.INZ") +
+                              " niet openen\nSchijf vol");
   EXPECT_EQ(Inhoud(), kOud);
 }
 
 TEST_F(GciBestanden, DeTweedeDieNietKanLaatOokDeEersteZoalsHijWas) {
   MaakOude();
-  EXPECT_EQ(Schrijf(2), "Fout: Kan uitvoerbestand voor reeksen " + Pad("CONTACT.FAM") +
-                            " niet openen\nSchijf vol");
+  EXPECT_EQ(Schrijf({2}), "Fout: Kan uitvoerbestand voor reeksen " + Pad("CONTACT.FAM") +
+                              " niet openen\nSchijf vol");
   EXPECT_EQ(Inhoud(), kOud);
 }
 
 TEST_F(GciBestanden, EenSchijfDieVolRaaktHeeftZijnMelding) {
-  EXPECT_EQ(Schrijf(1, SchrijfStap::Schrijven),
+  EXPECT_EQ(Schrijf({1}, SchrijfStap::Schrijven),
             "Fout bij het schrijven van " + Pad("CONTACT.INZ") + "\nSchijf vol");
   EXPECT_EQ(Inhoud(), "");
-  EXPECT_EQ(Schrijf(2, SchrijfStap::Schrijven),
+  EXPECT_EQ(Schrijf({2}, SchrijfStap::Schrijven),
             "Fout bij het schrijven van " + Pad("CONTACT.FAM") + "\nSchijf vol");
   EXPECT_EQ(Inhoud(), "");
 }
 
 TEST_F(GciBestanden, WieNietOpZijnPlaatsKanLaatGeenRestenNa) {
-  EXPECT_EQ(Schrijf(3), "Fout: Kan uitvoerbestand voor inzendergegevens " + Pad("CONTACT.INZ") +
-                            " niet openen\nSchijf vol");
+  EXPECT_EQ(Schrijf({3}), "Fout: Kan uitvoerbestand voor inzendergegevens " + Pad("CONTACT.INZ") +
+                              " niet openen\nSchijf vol");
   EXPECT_EQ(Inhoud(), "");
-  EXPECT_EQ(Schrijf(4), "Fout: Kan uitvoerbestand voor reeksen " + Pad("CONTACT.FAM") +
-                            " niet openen\nSchijf vol");
-  EXPECT_EQ(Inhoud(), "CONTACT.INZ:inzender\r\n;");
+  EXPECT_EQ(Schrijf({4}), "Fout: Kan uitvoerbestand voor reeksen " + Pad("CONTACT.FAM") +
+                              " niet openen\nSchijf vol");
+  EXPECT_EQ(Inhoud(), "");
+}
+
+TEST_F(GciBestanden, WelkeStapOokMisluktBeideZijnVanEenExport) {
+  int bij = 0;
+  for (const char* naam :
+       {"inzendergegevens", "reeksen", "inzendergegevens", "inzendergegevens", "reeksen"}) {
+    MaakOude();
+    const auto melding = Schrijf({++bij});
+    EXPECT_NE(melding.value_or("").find(naam), std::string::npos) << bij;
+    EXPECT_EQ(Inhoud(), kOud) << bij;
+  }
+  // What is left is to take the old one away.
+  EXPECT_EQ(Schrijf({++bij}), std::nullopt);
+  EXPECT_EQ(Inhoud(), std::string(kHeel) + "CONTACT.INZ.oud:oud;");
+  EXPECT_EQ(Schrijf(), std::nullopt);
+  EXPECT_EQ(Inhoud(), kHeel);
+}
+
+TEST_F(GciBestanden, WatNietTerugTeZettenIsWordtGezegd) {
+  MaakOude();
+  EXPECT_EQ(Schrijf({5, 6}), "Fout: Kan uitvoerbestand voor reeksen " + Pad("CONTACT.FAM") +
+                                 " niet openen\nSchijf vol\nFout bij het terugzetten van " +
+                                 Pad("CONTACT.INZ") + "\nSchijf vol");
+  EXPECT_EQ(Inhoud(), "CONTACT.FAM:oud;CONTACT.INZ:inzender\r\n;CONTACT.INZ.oud:oud;");
+  for (const char* naam : {"CONTACT.INZ", "CONTACT.INZ.oud"}) std::filesystem::remove(Pad(naam));
+  EXPECT_EQ(Schrijf({4, 5}), "Fout: Kan uitvoerbestand voor reeksen " + Pad("CONTACT.FAM") +
+                                 " niet openen\nSchijf vol\nFout bij het terugzetten van " +
+                                 Pad("CONTACT.INZ") + "\nGeen rechten");
 }
 
 TEST_F(GciBestanden, EenMapVanDieNaamIsInDeWeg) {
@@ -173,7 +210,7 @@ TEST_F(GciBestanden, HetLogNeemtZijnPlaatsInOfZegtWaaromNiet) {
   EXPECT_EQ(SchrijfLog(paden_, "log\r\n", goed), std::nullopt);
   EXPECT_EQ(LeesBytes(paden_.log), "log\r\n");
   for (const int bij : {1, 2}) {
-    FalendWerk werk(bij);
+    FalendWerk werk({bij});
     EXPECT_EQ(SchrijfLog(paden_, "ander", werk),
               "Fout bij het schrijven van " + Pad("GCI.LOG") + "\nSchijf vol");
     EXPECT_EQ(LeesBytes(paden_.log), "log\r\n");

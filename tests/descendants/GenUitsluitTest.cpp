@@ -84,6 +84,14 @@ TEST_F(GenUitsluitToets, TerugNeemtNietsEnStoptDeKeten) {
   EXPECT_EQ(gebleven_, -1);
 }
 
+TEST_F(GenUitsluitToets, NaHetZoekenStaatDeFocusOpOK) {
+  for (const std::string_view zoek : {"druk ZoekButton(4)", "toets RecordNrVolgNiet(4) F2"}) {
+    Vraag(std::string(zoek) + "\ndruk RecordNrPrs(1)\ntoets Enter",
+          "+ ZoekPrs \"Zoek Persoon\"\n- ZoekPrs");
+    EXPECT_EQ(opties_.GenVolgNiet[3], 2);
+  }
+}
+
 TEST_F(GenUitsluitToets, DeKnopZoektEenPersoon) {
   Vraag(R"(
       druk ZoekButton(4)

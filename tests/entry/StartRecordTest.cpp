@@ -172,6 +172,22 @@ TEST_F(StartRecordTest, ZoekPersoonToontWieErGekozenIs) {
   )");
 }
 
+TEST_F(StartRecordTest, NaF2StaatDeFocusOpOK) {
+  Gezin();
+  OpStart(
+      "toets PersNr F2\ndruk BackButton\ntoets F2\ndruk RecordNrPrs(2)\ntoets Enter\n"
+      "toon RecordNr\ndruk BackButton",
+      R"(
+    + ZoekPrs "Zoek Persoon"
+    - ZoekPrs
+    + ZoekPrs "Zoek Persoon"
+    - ZoekPrs
+    + ToonPersoon "Toon Persoon"
+    = RecordNr "3"
+    - ToonPersoon
+  )");
+}
+
 TEST_F(StartRecordTest, AlleenCijfersEnEenNWordenAangenomen) {
   Gezin();
   OpStart("vul PersNr a3x\ntoon PersNr", "= PersNr \"3\"");

@@ -55,6 +55,18 @@ TEST_F(ZoekPrsNaamTest, TypenToontWieErInStaatMetHetAantal) {
   )");
 }
 
+TEST_F(ZoekPrsNaamTest, EenNummerVindtOokWieDatNummerHeeft) {
+  Reeks(20);
+  EXPECT_EQ(Pagina("vul Zoeknaam 12"), "12 13 ");
+  EXPECT_EQ(Pagina("vul Zoeknaam 21"), "21 ");
+  for (const std::string_view geen :
+       {"vul Zoeknaam 22", "vul Zoeknaam 70000", "vul Zoeknaam 21x"}) {
+    EXPECT_EQ(Pagina(geen), "") << geen;
+  }
+  EXPECT_EQ(Gekozen("vul Zoeknaam 21\ntoets Zoeknaam Enter"), 21);
+  EXPECT_EQ(Pagina("druk FilterButton\nvul VoorNm A3*\ndruk OKButton\nvul Zoeknaam 12"), "");
+}
+
 TEST_F(ZoekPrsNaamTest, HetVeldLeegMakenToontWeerIedereen) {
   Reeks(20);
   EXPECT_EQ(Pagina("vul Zoeknaam A1"), "2 11 12 13 14 15 16 17 18 19 20 ");

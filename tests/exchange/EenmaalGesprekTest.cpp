@@ -27,6 +27,25 @@ TEST(EenmaalGesprekTest, DeEersteRegelZegtOfEenMeldingDezelfdeIs) {
   EXPECT_THAT(gebruiker.Regels(), ElementsAre("! uitroep \"Aantal is onjuist\\nGevonden:4\""));
 }
 
+TEST(EenmaalGesprekTest, OpnieuwToontAllesNogEens) {
+  NepGesprek gebruiker;
+  EenmaalGesprek eenmaal(gebruiker);
+  eenmaal.Fout("vol");
+  eenmaal.Opnieuw();
+  eenmaal.Fout("vol");
+  EXPECT_EQ(gebruiker.Regels().size(), 2U);
+}
+
+TEST(EenmaalGesprekTest, ZonderNummersZijnMeldingenOverAndereRecordsDezelfde) {
+  NepGesprek gebruiker;
+  EenmaalGesprek eenmaal(gebruiker, Gelijkenis::ZonderNummers);
+  eenmaal.Fout("Record 3 van 9\nFout 1");
+  eenmaal.Fout("Record 14 van 9");
+  eenmaal.Fout("Relatie 3 van 9");
+  EXPECT_THAT(gebruiker.Regels(),
+              ElementsAre("! stop \"Record 3 van 9\\nFout 1\"", "! stop \"Relatie 3 van 9\""));
+}
+
 TEST(EenmaalGesprekTest, VraagtElkeKeer) {
   NepGesprek gebruiker;
   gebruiker.Antwoordt(Antwoord::Ja);

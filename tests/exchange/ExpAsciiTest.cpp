@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "app/ZonderRechten.h"
 #include "exchange/ExpAscii.h"
 #include "exchange/ExportToets.h"
 #include "steun/Bestandsstelsel.h"
@@ -196,7 +197,7 @@ TEST_F(ExpAsciiTest, EenMapZonderRechtenWordtGemeld) {
         Samen({kGekozen, kSoort, kAchterBestand, "\"\n", kResultaat}));
 }
 
-TEST_F(ExpAsciiTest, EenVolleSchijfLaatStaanWatErStond) {
+TEST_F(ExpAsciiTest, EenVolleSchijfLaatDeVorigeBestandenStaan) {
   if (!VolleSchijf::kKan) GTEST_SKIP() << VolleSchijf::kWaarom;
   MaakFamilie();
   Speel(Samen({kKiesAlles, "druk StartExportButton\ndruk BackButton"}),
@@ -208,10 +209,90 @@ TEST_F(ExpAsciiTest, EenVolleSchijfLaatStaanWatErStond) {
     const VolleSchijf schijf(ruimte);
     Speel(Samen({kKiesAlles, "druk StartExportButton\ndruk BackButton\ndruk BackButton"}),
           Samen({kGekozen, "! stop \"Bestand te groot\"\n", kResultaat}));
-    EXPECT_EQ(Tekst("PROEF_PRS.TXT"), personen.substr(0, ruimte));
-    EXPECT_EQ(Tekst("PROEF_RLT.TXT"), relaties.substr(0, ruimte));
+    EXPECT_EQ(Tekst("PROEF_PRS.TXT"), personen);
+    EXPECT_EQ(Tekst("PROEF_RLT.TXT"), relaties);
+    EXPECT_FALSE(std::filesystem::exists(TekstMap() / "PROEF_PRS.TXT.nieuw"));
     EXPECT_EQ(Tekst("EXPORT.LOG"), "Start export (20000101000000)\r\n");
   }
+}
+
+// None is emptied before all can be written.
+TEST_F(ExpAsciiTest, EenBestandDatNietKanLaatDeAndereStaan) {
+  MaakFamilie();
+  SchrijfBytes(TekstMap() / "PROEF_PRS.TXT", "eerder");
+  std::filesystem::create_directories(TekstMap() / "PROEF_OPM.TXT");
+  Speel(Samen({kKiesAlles, "druk StartExportButton\ndruk BackButton\ndruk BackButton"}),
+        Samen({kGekozen, "! stop \"Pad is een directory\"\n", kResultaat}));
+  EXPECT_EQ(Tekst("PROEF_PRS.TXT"), "eerder");
+  for (const char* naam : {"PROEF_PRS.TXT.nieuw", "PROEF_RLT.TXT", "PROEF_RLT.TXT.nieuw"}) {
+    EXPECT_FALSE(std::filesystem::exists(TekstMap() / naam)) << naam;
+  }
+}
+
+TEST_F(ExpAsciiTest, EenBestandZonderSchrijfrechtBlijft) {
+  if (!ZonderRechten::kKan) GTEST_SKIP() << ZonderRechten::kWaarom;
+  MaakFamilie();
+  SchrijfBytes(TekstMap() / "PROEF_RLT.TXT", "eerder");
+  std::filesystem::permissions(TekstMap(), std::filesystem::perms::all);
+  const Taak taak = [this](Hoofdmodule& hoofd) {
+    ASSERT_TRUE(Start(hoofd));
+    hoofd.ActieveSetNaam = "PROEF";
+    const ZonderRechten zonder(TekstMap() / "PROEF_RLT.TXT", std::filesystem::perms(0444));
+    hoofd.gesprek.Toon<ExpAscii>(hoofd);
+  };
+  Verwacht(Samen({kKiesAlles, "druk StartExportButton\ndruk BackButton\ndruk BackButton"}), taak,
+           Samen({"+ ExpAscii \"Exporteer in ASCII formaat\"\n", kGekozen,
+                  "! stop \"Geen toegang\"\n", kResultaat, "- ExpAscii\n"}));
+  EXPECT_EQ(Tekst("PROEF_RLT.TXT"), "eerder");
+}
+
+TEST_F(ExpAsciiTest, EenKoppelingBlijftEenKoppeling) {
+  if (!kKoppelingen) GTEST_SKIP() << kZonderKoppelingen;
+  MaakFamilie();
+  SchrijfBytes(Map() / "echt.txt", "eerder");
+  std::filesystem::create_directories(TekstMap());
+  std::filesystem::create_symlink(Map() / "echt.txt", TekstMap() / "PROEF_PRS.TXT");
+  Speel(Samen({kKiesAlles, "druk StartExportButton\ndruk BackButton"}),
+        Samen({kGekozen, "! info \"Exporteren voltooid\"\n", kResultaat}));
+  EXPECT_TRUE(std::filesystem::is_symlink(TekstMap() / "PROEF_PRS.TXT"));
+  EXPECT_TRUE(LeesBytes(Map() / "echt.txt").starts_with("    2M"));
+}
+
+TEST_F(ExpAsciiTest, HetVerslagNoemtWatErNietInPast) {
+  MaakFamilie();
+  for (const char* tekst : {"een", "twee"}) {
+    Bouw().OpmerkingBijPersoon(3, persoonrubriek::kBeroep, {tekst});
+  }
+  for (const std::int16_t rubriek :
+       {relatierubriek::kHuwSoort, relatierubriek::kReligie, relatierubriek::kAlgemeen}) {
+    Bouw().OpmerkingBijRelatie(2, rubriek, {"x"});
+  }
+  Speel(Samen({kKiesAlles, "druk StartExportButton\ndruk BackButton"}),
+        Samen({kGekozen, "! info \"Exporteren voltooid\"\n", kResultaat}));
+  EXPECT_TRUE(
+      Tekst("EXPORT.LOG")
+          .ends_with("Exporteren voltooid\r\n"
+                     "LET OP: 1 opmerkingen zijn niet uitgevoerd (tweede of volgende "
+                     "opmerking bij een rubriek)\r\n"
+                     "LET OP: 3 opmerkingen zijn niet uitgevoerd (bij de soort of de religie "
+                     "van een huwelijk, of een relatie zelf)\r\n"))
+      << Tekst("EXPORT.LOG");
+}
+
+TEST_F(ExpAsciiTest, VanVeelOnleesbareRecordsKomtEenMelding) {
+  MaakFamilie();
+  for (std::int16_t nr = 3; nr <= 5; ++nr) MaakOnleesbaar(BestandSoort::Relaties, nr);
+  Speel(Samen({"druk KiesRelButton\nvul RecordNrRel(1) 6\ndruk OKButton\n",
+               "druk StartExportButton\ndruk BackButton"}),
+        Samen({"+ ExpSelRel \"Exporteer gegevens - Selecteer Relaties\"\n- ExpSelRel\n"
+               "! stop \"Fout bij het lezen van Relatierecord 3\\nFout van de schijf\"\n"
+               "! info \"Exporteren voltooid\"\n",
+               kResultaat}));
+  EXPECT_NE(Tekst("EXPORT.LOG")
+                .find("Leesfout bij Relatierecord 3. Record niet ge\xEBxporteerd.\r\n"
+                      "Leesfout bij Relatierecord 4. Record niet ge\xEBxporteerd.\r\n"
+                      "Leesfout bij Relatierecord 5. Record niet ge\xEBxporteerd.\r\nTotaal "),
+            std::string::npos);
 }
 
 TEST_F(ExpAsciiTest, EenNaamMetSpatiesEromheenIsDieNaam) {
@@ -233,6 +314,9 @@ TEST_F(ExpAsciiTest, EenOnleesbarePersoonHeeftGeenRegel) {
                "! info \"Exporteren voltooid\"\n",
                kResultaat}));
   EXPECT_EQ(Tekst("PROEF_PRS.TXT").size(), 3 * 318U);
+  EXPECT_TRUE(Tekst("EXPORT.LOG")
+                  .starts_with("Start export (20000101000000)\r\n"
+                               "Leesfout bij Persoonsrecord 3. Record niet ge\xEBxporteerd.\r\n"));
 }
 
 }  // namespace

@@ -153,6 +153,34 @@ TEST_F(ExpGedcomToets, EenFamilieStaatRegelVoorRegelInHetBestand) {
   VerwachtGouden("export.log", Log());
 }
 
+TEST_F(ExpGedcomToets, DeInzenderIsDeGebruikerVanDeInstellingen) {
+  MaakFamilie();
+  SchrijfBytes(Map() / "LIJNBOOM.INI",
+               LeesBytes(Map() / "LIJNBOOM.INI") +
+                   "[Gebruiker]\r\nNaam=Bos\r\nVoornaam=Jan\r\nAdres=Markt 1\r\n"
+                   "Postcode=1234 AB\r\nPlaats=Breda\r\nLand=Nederland\r\nTelefoon=076\r\n");
+  Speel(Naar(Uit()) + kKies + "druk OKButton\ndruk BackButton\n",
+        std::string(kGekozen) + "! info \"Exporteren voltooid\"\n" + kVerslag);
+  const std::string bytes = LeesBytes(Uit());
+  const std::size_t begin = bytes.find("0 @SUBM0001@ SUBM\r\n");
+  ASSERT_NE(begin, std::string::npos);
+  EXPECT_EQ(bytes.substr(begin, bytes.find("1 LANG DUTCH", begin) - begin),
+            "0 @SUBM0001@ SUBM\r\n1 NAME Jan Bos\r\n1 ADDR Markt 1\r\n2 CONT 1234 AB Breda\r\n"
+            "2 CONT Nederland\r\n2 ADR1 Markt 1\r\n2 ADR2 1234 AB; Breda\r\n"
+            "2 POST 1234 AB\r\n2 CITY Breda\r\n2 CTRY Nederland\r\n1 PHON 076\r\n");
+}
+
+TEST_F(ExpGedcomToets, BladertNaarEenBestand) {
+  MaakFamilie();
+  const std::string vraag =
+      "> opslaan \"GEDCOM-bestanden (*.GED)|*.GED|Alle Bestanden (*.*)|*.*|"
+      "Tekstbestanden (*.txt)|*.txt\" -> ";
+  Speel("bestand " + Uit().string() +
+            "\ndruk BrowseButton\nbestand\ndruk BrowseButton\ntoon Bestandsnaam\ndruk BackButton\n",
+        vraag + "\"" + Uit().string() + "\"\n" + vraag + "-\n= Bestandsnaam \"" + Uit().string() +
+            "\"\n");
+}
+
 TEST_F(ExpGedcomToets, VraagtEenNaamEnDaarnaEenKeuze) {
   MaakFamilie();
   Speel(

@@ -1,9 +1,11 @@
 // The tick box of the export: a whole run with its file and its log, and how it fails.
 #include <gtest/gtest.h>
 
+#include "app/PlaatsNemen.h"
 #include "exchange/ExpGedcom.h"
 #include "exchange/ExportToets.h"
 #include "exchange/Ged551Grammatica.h"
+#include "steun/VolleSchijf.h"
 #include "text/Letterlijk.h"
 
 namespace lb77 {
@@ -61,6 +63,18 @@ TEST_F(ExpGedcomUtf8, MetHetVinkjeIsHetGedcom551) {
                       "Totaal 2 Plaatsen geëxporteerd\r\n"_w))
       << log;
   EXPECT_TRUE(log.ends_with("\r\nExporteren voltooid\r\n")) << log;
+}
+
+TEST_F(ExpGedcomUtf8, EenVolleSchijfLaatHetVorigeBestandStaan) {
+  if (!VolleSchijf::kKan) GTEST_SKIP() << VolleSchijf::kWaarom;
+  SchrijfBytes(Uit(), "eerder");
+  for (const std::size_t ruimte : {400U, 900U}) {
+    const VolleSchijf schijf(ruimte);
+    Speel(Start(Uit(), "druk Utf8Box\n") + "druk BackButton\n",
+          "! stop \"Bestand te groot\"\n" + std::string(kVerslag));
+    EXPECT_EQ(LeesBytes(Uit()), "eerder");
+    EXPECT_FALSE(std::filesystem::exists(Ernaast(Uit())));
+  }
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "app/Start.h"
 #include "exchange/ExpSel.h"
+#include "steun/FaalBestand.h"
 #include "steun/FamilieToets.h"
 #include "steun/KaartFamilie.h"
 
@@ -29,6 +30,23 @@ class ExpSelTest : public FamilieToets {
              "+ " + std::string(soort.naam) + " \"" + std::string(soort.titel) + "\"\n" +
                  Regels(verslag) + "- " + std::string(soort.naam) + "\n",
              plek);
+  }
+
+  // Does a script show these lines when the disk fails from some operation on?
+  bool WordtGetoond(const ExpSelSoort& soort, std::string_view draaiboek, std::string_view regels) {
+    for (int bij = 1; bij < 100; ++bij) {
+      Storing storing{.bij = bij, .blijvend = true};
+      const auto programma = [&](Gesprek& gesprek) {
+        const VasteKlok klok({.jaar = 2000, .maand = 1, .dag = 1});
+        Hoofdmodule hoofd(gesprek, klok, Map());
+        hoofd.bestanden = Bestandenset(FalendeOpener(storing));
+        ASSERT_FALSE(hoofd.bestanden.OpenSet(SetPaden::Van(Map(), "PROEF")));
+        hoofd.gesprek.Toon<ExpSel>(soort, hoofd, lijst_);
+      };
+      static_cast<void>(SpeelToets::Speel(draaiboek, programma));
+      if (verslag_.find(regels) != std::string::npos) return true;
+    }
+    return false;
   }
 
   SelectieLijst lijst_;
@@ -62,6 +80,22 @@ TEST_F(ExpSelTest, BegintMetAlleRelaties) {
     = BackButton "&Terug"
   )~");
   EXPECT_THAT(lijst_.Nummers(), ElementsAre(2, 3, 4));
+}
+
+TEST_F(ExpSelTest, WatNaZijnNummerNietMeerTeLezenIsIsOnbekend) {
+  BouwKaartFamilie(Bouw());
+  EXPECT_TRUE(WordtGetoond(kExpSelRel,
+                           "vul RecordNrRel(1) 4\ntoon RecordNrMan(1)\ntoon VoorNmMan(1)\n"
+                           "toon AchterNmMan(1)\ntoon RecordNrVrouw(1)\ntoon VoorNmVrouw(1)\n"
+                           "toon AchterNmVrouw(1)\ndruk BackButton",
+                           "= RecordNrMan(1) \"\"\n= VoorNmMan(1) \"<onbekend>\"\n"
+                           "= AchterNmMan(1) \"<onbekend>\"\n= RecordNrVrouw(1) \"\"\n"
+                           "= VoorNmVrouw(1) \"<onbekend>\"\n= AchterNmVrouw(1) \"<onbekend>\"\n"));
+  EXPECT_TRUE(WordtGetoond(kExpSelPers,
+                           "vul RecordNrPers(1) 4\ntoon RecordNrPers(1)\ntoon VoorNmPersoon(1)\n"
+                           "toon AchterNmPersoon(1)\ntoon PeriodePersoon(1)\ndruk BackButton",
+                           "= RecordNrPers(1) \"4\"\n= VoorNmPersoon(1) \"<onbekend>\"\n"
+                           "= AchterNmPersoon(1) \"<onbekend>\"\n= PeriodePersoon(1) \"\"\n"));
 }
 
 TEST_F(ExpSelTest, EenLeegBestandVultNietsIn) {

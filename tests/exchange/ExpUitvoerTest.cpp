@@ -1,5 +1,9 @@
 #include <gtest/gtest.h>
 
+#ifndef _WIN32
+#include <sys/stat.h>
+#endif
+
 #include <filesystem>
 #include <fstream>
 #include <string>
@@ -33,6 +37,19 @@ TEST_F(ExpUitvoerToets, RegelsEindigenOpCRenLF) {
   EXPECT_FALSE(uit_.Sluit());
   EXPECT_EQ(Inhoud(), "een\r\n\r\ntwee \r\n");
 }
+
+TEST_F(ExpUitvoerToets, EenTeLangeNaamWordtZoGenoemd) {
+  EXPECT_EQ(uit_.Open(map_.Pad() / std::string(300, 'x')).tekst, "Bestandsnaam te lang");
+}
+
+#ifndef _WIN32
+// Opening it would wait for who reads it.
+TEST_F(ExpUitvoerToets, EenPijpIsGeenBestand) {
+  ASSERT_EQ(::mkfifo(Pad().c_str(), 0600), 0);
+  EXPECT_EQ(uit_.Open(Pad()).tekst, "Pad is geen gewoon bestand");
+  EXPECT_TRUE(std::filesystem::is_fifo(Pad()));
+}
+#endif
 
 TEST_F(ExpUitvoerToets, EenStuurtekenWordtEenSpatie) {
   ASSERT_FALSE(uit_.Open(Pad()));

@@ -59,6 +59,35 @@ TEST(Ged551Ronde, EenGrootBestandKomtGelijkTerug) {
   RondVan(pad, false);
 }
 
+// Who reads a file may have other denominations than who wrote it.
+TEST(Ged551Ronde, EenGezindteKomtOokInEenAndereLijstTerug) {
+  ProefSet set;
+  set.schrijfwijze.gezindten[1] = "NHNederlands Hervormd";
+  set.schrijfwijze.gezindten[2] = "MEDoopsgezind";
+  set.schrijfwijze.gezindten[3] = "LULuthers";
+  set.schrijfwijze.gezindten[4] = "H Hernhutter";
+  for (const char* code : {"NH", "nh", "ME", "LU", "ZZ", "H"}) {
+    set.bouw.Man("", "X", {{"DoopReligie", code}});
+  }
+  ProefSet nieuw;
+  nieuw.schrijfwijze.gezindten[1] = "NHNederlands Hervormd";
+  nieuw.schrijfwijze.gezindten[5] = "EVluthers";
+  nieuw.schrijfwijze.gezindten[6] = "LULutjebroeks";
+  nieuw.schrijfwijze.gezindten[7] = "ZZZondagszwijger";
+  std::string niet;
+  EXPECT_EQ(LeesIn(nieuw, Exporteer551(set).bestand, &niet), "");
+  std::string codes;
+  for (std::int16_t nr = 2; nr <= nieuw.Persoon.AantalRecords(); ++nr) {
+    ASSERT_TRUE(nieuw.Persoon.Lees(nr));
+    codes += nieuw.Persoon.Religie() + ";";
+  }
+  // Without a name of that list the code stands, and the name is told as not stored.
+  EXPECT_EQ(codes, "NH;nh;ME;EV;ZZ;H;");
+  EXPECT_EQ(niet.substr(niet.find("0 @I")),
+            "0 @I4@ INDI\r\n1 REFN 4\r\n1 RELI Doopsgezind\r\n"
+            "0 @I7@ INDI\r\n1 REFN 7\r\n1 RELI Hernhutter\r\n0 TRLR\r\n");
+}
+
 class Ged551RondeGevuld : public ::testing::TestWithParam<unsigned> {};
 
 TEST_P(Ged551RondeGevuld, ElkVeldKomtAanZijnGrenzenGelijkTerug) {

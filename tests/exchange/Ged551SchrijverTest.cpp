@@ -93,7 +93,7 @@ TEST_F(Ged551SchrijverTest, EenGebeurtenisHeeftDatumPlaatsEnEenDoop) {
       "3 _LBZEKER verm.\n2 PLAC Gent, , Belgi\xC3\xAB\n"
       "1 DEAT\n2 DATE 1962\n2 _LBPLTS @P2@\n3 _LBZEKER (?)\n"
       "2 PLAC Delft, Zuid-Holland, Nederland\n"
-      "1 BURI\n2 DATE MAR 1962\n1 RELI Nederlands Hervormd\n");
+      "1 BURI\n2 DATE MAR 1962\n1 _LBGEZ NH\n1 RELI Nederlands Hervormd\n");
   EXPECT_EQ(Exporteer551(set).Van("0 @P3@ _LBPLTS"), "1 _LBPROV B\n1 NAME Gent\n");
 }
 
@@ -116,7 +116,7 @@ TEST_F(Ged551SchrijverTest, EenReligieIsVanDePersoon) {
   set.schrijfwijze.gezindten[1] = "NHNederlands Hervormd";
   set.bouw.Man("", "X", {{"DoopReligie", "NH"}});
   set.bouw.Man("", "Y", {{"DoopReligie", "nh"}});
-  EXPECT_EQ(Persoon(2), "1 NAME /X/\n2 SURN X\n1 SEX M\n1 RELI Nederlands Hervormd\n");
+  EXPECT_EQ(Persoon(2), "1 NAME /X/\n2 SURN X\n1 SEX M\n1 _LBGEZ NH\n1 RELI Nederlands Hervormd\n");
   EXPECT_EQ(Persoon(3), "1 NAME /Y/\n2 SURN Y\n1 SEX M\n1 _LBGEZ nh\n1 RELI Nederlands Hervormd\n");
 }
 
@@ -150,8 +150,68 @@ TEST_F(Ged551SchrijverTest, OpmerkingenBijPlaatsBeroepEnReligieStaanOnderHunRege
   set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kReligie, {"drie"}, 1);
   EXPECT_EQ(Persoon(nr),
             "1 NAME /X/\n2 SURN X\n1 SEX M\n1 BIRT\n2 _LBPLTS @P2@\n2 PLAC Delft\n3 NOTE een\n"
-            "4 _LBPROG 1\n1 RELI Nederlands Hervormd\n2 NOTE drie\n3 _LBRUBR 64\n3 _LBPROG 1\n"
+            "4 _LBPROG 1\n1 _LBGEZ NH\n1 RELI Nederlands Hervormd\n2 NOTE drie\n3 _LBRUBR 64\n3 "
+            "_LBPROG 1\n"
             "1 OCCU smid\n2 NOTE twee\n3 _LBPROG 1\n");
+}
+
+// A damaged link into the remarks of somebody else takes none from him.
+TEST_F(Ged551SchrijverTest, EenOpmerkingBlijftBijWieZijNoemt) {
+  const std::int16_t jan = set.bouw.Man("", "Jan");
+  const std::int16_t piet = set.bouw.Man("", "Piet");
+  const std::int16_t relatie = set.bouw.Relatie(0, 0);
+  set.bouw.OpmerkingBijPersoon(jan, persoonrubriek::kAlgemeen, {"van Jan"});
+  for (const char* tekst : {"van Piet", "ook van Piet"}) {
+    set.bouw.OpmerkingBijPersoon(piet, persoonrubriek::kAlgemeen, {tekst});
+  }
+  ASSERT_TRUE(set.Opmerking.Wijzig(2, {{"BijZelfde", "4"}}));
+  set.bouw.WijzigRelatie(relatie, {{"OpmRecord", "3"}, {"OpmCode", "-256"}});
+  const Ged551Uitvoer uitvoer = Exporteer551(set);
+  EXPECT_EQ(uitvoer.Van("0 @I2@ INDI"),
+            "1 NAME /Jan/\n2 SURN Jan\n1 SEX M\n1 NOTE van Jan\n2 _LBPROG 23\n");
+  EXPECT_EQ(uitvoer.Van("0 @I3@ INDI"),
+            "1 NAME /Piet/\n2 SURN Piet\n1 SEX M\n1 NOTE van Piet\n2 _LBPROG 23\n"
+            "1 NOTE ook van Piet\n2 _LBPROG 23\n");
+  EXPECT_EQ(uitvoer.Van("0 @F2@ FAM"), "");
+  EXPECT_NE(uitvoer.log.find("al bij een ander staat: 2 keer\n"), std::string::npos) << uitvoer.log;
+}
+
+// Whom a remark names does not have it: it goes with who does.
+TEST_F(Ged551SchrijverTest, EenOpmerkingDieEenVreemdeNoemtBlijftInHaarKetting) {
+  const std::int16_t jan = set.bouw.Man("", "Jan");
+  const std::int16_t piet = set.bouw.Man("", "Piet");
+  set.bouw.OpmerkingBijPersoon(jan, persoonrubriek::kAlgemeen, {"van Jan"});
+  for (const int naam : {int{piet}, 99, 1, 0, -5}) {
+    ASSERT_TRUE(set.Opmerking.Wijzig(2, {{"BijRecord", std::to_string(naam)}}));
+    EXPECT_EQ(Persoon(jan), "1 NAME /Jan/\n2 SURN Jan\n1 SEX M\n1 NOTE van Jan\n2 _LBPROG 23\n")
+        << naam;
+  }
+}
+
+TEST_F(Ged551SchrijverTest, EenVolleSchijfBijElkeRegelEindigtDeGang) {
+  const std::int16_t man = set.bouw.Man("Jan", "Bos", {{"GebPlaats", set.bouw.Plaats("Delft")}});
+  set.bouw.OpmerkingBijPersoon(man, persoonrubriek::kAlgemeen, {"een", "twee"});
+  static_cast<void>(set.bouw.Relatie(man, 0, {}, {{"OtrDatum", "00-00-1900"}}));
+  const ExpSelectie selectie = AllesVan(set);
+  const auto schrijf = [&](FaalUitvoer& uit) {
+    FaalUitvoer log;
+    const Gegevens gegevens{set.Persoon,   set.Relatie, set.Plaats,
+                            set.Opmerking, set.volgers, set.schrijfwijze};
+    Ged551Schrijver schrijver(uit, log, gegevens, selectie,
+                              {.nu = {2026, 11, 2, 9, 5, 7}, .bestandsnaam = "UIT.GED"});
+    return LoopSelectie(schrijver, selectie,
+                        {[&] { return !uit.Fout(); }, [](const ExpTelling&) {}});
+  };
+  FaalUitvoer heel;
+  EXPECT_EQ(schrijf(heel).relaties, 1);
+  ASSERT_GT(heel.Aantal(), 25U);
+  for (std::size_t ruimte = 0; ruimte < heel.Aantal(); ++ruimte) {
+    FaalUitvoer uit(ruimte);
+    static_cast<void>(schrijf(uit));
+    EXPECT_TRUE(uit.Fout()) << ruimte;
+    EXPECT_EQ(uit.Aantal(), ruimte);
+    EXPECT_TRUE(heel.Regels().starts_with(uit.Regels())) << ruimte;
+  }
 }
 
 TEST_F(Ged551SchrijverTest, EenRelatieHeeftPersonenKinderenEnGebeurtenissen) {

@@ -32,7 +32,7 @@ TEST_F(GedcomKopToets, DeKopStaatRegelVoorRegel) {
                    .adres = " Markt 1 ",
                    .postcode = "1234 AB ",
                    .plaats = " Breda",
-                   .land = "Nederland",
+                   .land = " Nederland ",
                    .telefoon = "  076-1234"};
   FaalUitvoer uit;
   SchrijfKop(kop_, uit);
@@ -90,6 +90,11 @@ TEST_F(GedcomKopToets, EenAdresMetAlleenEenLandHeeftGeenWoonplaats) {
   EXPECT_EQ(Inzender(),
             "1 NAME \n1 ADDR Markt 1\n2 CONT Nederland\n2 ADR1 Markt 1\n2 CTRY Nederland\n" +
                 std::string(kSlot));
+}
+
+TEST_F(GedcomKopToets, EenLandVanSpatiesIsGeenLand) {
+  kop_.inzender = {.voornaam = "", .naam = "", .adres = "Markt 1", .land = "  "};
+  EXPECT_EQ(Inzender(), "1 NAME \n1 ADDR Markt 1\n2 ADR1 Markt 1\n" + std::string(kSlot));
 }
 
 TEST_F(GedcomKopToets, EenTelefoonAlleenStaatErOok) {

@@ -236,6 +236,17 @@ TEST_F(GedcomPersoonToets, EenOpmerkingStaatAchterHaarRegel) {
       "1 OCCU smid\n2 NOTE r2048\n");
 }
 
+TEST_F(GedcomPersoonToets, EenOpmerkingBijEenVrouwStaatAchterHaarGeslacht) {
+  const std::int16_t nr = Bouw().Vrouw("", "");
+  Bouw().OpmerkingBijPersoon(nr, rubriek::kAlgemeen, {"x"});
+  EXPECT_EQ(Persoon(nr), "1 SEX F\n1 NOTE x\n");
+}
+
+TEST_F(GedcomPersoonToets, EenCrematieStaatAchterDePlaatsVanHetOverlijden) {
+  EXPECT_EQ(Met({{"OvlPlaats", Pl("Gouda")}, {"BegrDatum", "08-06-1950"}, {"BegrCrem", "1"}}),
+            "1 DEAT\n2 PLAC Gouda\n1 CREM\n2 DATE 08 JUN 1950\n");
+}
+
 TEST_F(GedcomPersoonToets, OnderTussenBlijvenDeOpmerkingenVanDeDoopWeg) {
   const std::int16_t nr =
       Bouw().Persoon('?', "", "", {{"GebCorr", "T"}, {"GebDatum", "00-00-1890"}});

@@ -204,6 +204,15 @@ TEST_F(GedcomRonde, EenGezinKomtGelijkTerug) {
   EXPECT_EQ(log_, "");
 }
 
+TEST_F(GedcomRonde, LettersZonderAccentKomenGelijkTerug) {
+  Bouw().Man("S\xF8ren \xC6gir", "Wei\xDF", {{"Beroep", "\xE6rlig"}});
+  Rond();
+  EXPECT_EQ(Van(terug_, "I2"), Van(heen_, "I2"));
+  ASSERT_TRUE(tweede_.Persoon.Lees(2));
+  EXPECT_EQ(tweede_.Persoon.AchterNaamTrue(), "Wei\xDF");
+  EXPECT_EQ(tweede_.Persoon.VoorNaamTrue(), "S\xF8ren \xC6gir");
+}
+
 TEST_F(GedcomRonde, NummersWordenDieVanDeVolgorde) {
   static_cast<void>(tweede_.bouw.Man("Al", "Aanwezig"));
   static_cast<void>(Bouw().Man("Jan", ""));

@@ -144,6 +144,50 @@ TEST_F(GedcomSchrijverToets, DeVolgendeOpmerkingGaatDoorAchterTienRegels) {
             "opmerking bij een rubriek)\n");
 }
 
+TEST_F(GedcomSchrijverToets, WatGeenRegelHeeftWordtOokGeteld) {
+  const std::int16_t nr = Bouw().Persoon('?', "", "", {{"GebCorr", "T"}, {"OvlCorr", "T"}});
+  for (const std::int16_t deze :
+       {rubriek::kDoopDatum, rubriek::kDoopPlaats, rubriek::kBegrDatum, rubriek::kBegrPlaats}) {
+    Bouw().OpmerkingBijPersoon(nr, deze, {"x"});
+  }
+  const std::int16_t relatie = Bouw().Relatie(0, 0);
+  Bouw().OpmerkingBijRelatie(relatie, relatierubriek::kOtrDatum, {"een"});
+  Bouw().OpmerkingBijRelatie(relatie, relatierubriek::kAlgemeen, {"twee"});
+  static_cast<void>(Persoon(nr));
+  static_cast<void>(Relatie(relatie));
+  EXPECT_EQ(LogEinde(),
+            "Exporteren voltooid\n"
+            "LET OP: 3 opmerkingen zijn niet uitgevoerd (bij een doop of begrafenis zonder eigen "
+            "datum)\n"
+            "LET OP: 2 opmerkingen zijn niet uitgevoerd (bij een relatie)\n");
+}
+
+TEST_F(GedcomSchrijverToets, ZonderPeriodeIsErNietsOvergeslagen) {
+  const std::int16_t nr = Bouw().Persoon('?', "", "");
+  for (const std::int16_t deze : {rubriek::kDoopDatum, rubriek::kDoopPlaats, rubriek::kBegrDatum}) {
+    Bouw().OpmerkingBijPersoon(nr, deze, {"x"});
+  }
+  const std::int16_t relatie = Bouw().Relatie(0, 0);
+  Bouw().OpmerkingBijRelatie(relatie, relatierubriek::kOtrDatum, {"een"});
+  Bouw().WijzigRelatie(relatie, {{"OpmCode", "0"}});
+  static_cast<void>(Persoon(nr));
+  static_cast<void>(Relatie(relatie));
+  EXPECT_EQ(LogEinde(), "Exporteren voltooid\n");
+}
+
+// A chain that runs into the remarks of a relation: what is left out is counted for persons.
+TEST_F(GedcomSchrijverToets, OpmerkingenOnderEenRelatieTellenNietAlsWeggelaten) {
+  const std::int16_t nr = Bouw().Persoon('?', "", "");
+  for (int i = 0; i < 2; ++i) {
+    Bouw().OpmerkingBijPersoon(nr, relatierubriek::kOtrDatum, {"r" + std::to_string(i)});
+  }
+  Bouw().WijzigPersoon(nr, {{"OpmCode", "2"}});
+  const std::int16_t relatie = Bouw().Relatie(0, 0);
+  EXPECT_EQ(Persoon(nr), "2 GIVN \n");
+  EXPECT_EQ(Relatie(relatie), "1 MARB\n2 DATE 0000\n3 NOTE r0\n2 PLAC \n");
+  EXPECT_EQ(LogEinde(), "Exporteren voltooid\n");
+}
+
 TEST_F(GedcomSchrijverToets, WatAchterEenKorteOpmerkingKomtWordtEenmaalGeteld) {
   const std::int16_t een = Bouw().Persoon('?', "", "");
   const std::int16_t twee = Bouw().Persoon('?', "", "");
@@ -172,12 +216,14 @@ TEST_F(GedcomSchrijverToets, VanElkePersoonTellenDeWeggelatenOpmerkingenMee) {
             "opmerking bij een rubriek)\n");
 }
 
-TEST_F(GedcomSchrijverToets, OpmerkingenVanEenRelatieTellenNietMee) {
+TEST_F(GedcomSchrijverToets, OpmerkingenVanEenRelatieTellenApart) {
   const std::int16_t nr = Bouw().Relatie(0, 0);
   Bouw().OpmerkingBijRelatie(nr, relatierubriek::kOtrDatum, {"a"});
   Bouw().OpmerkingBijRelatie(nr, relatierubriek::kOtrDatum, {"b"});
   EXPECT_EQ(Relatie(nr), "");
-  EXPECT_EQ(LogEinde(), "Exporteren voltooid\n");
+  EXPECT_EQ(LogEinde(),
+            "Exporteren voltooid\n"
+            "LET OP: 2 opmerkingen zijn niet uitgevoerd (bij een relatie)\n");
 }
 
 TEST_F(GedcomSchrijverToets, EenKettingDieAfbreektStaatInHetVerslag) {

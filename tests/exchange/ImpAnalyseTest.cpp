@@ -3,17 +3,21 @@
 
 #include "exchange/GedRegel.h"
 #include "exchange/ImportToets.h"
+#include "text/Getallen.h"
 
 namespace lb77 {
 namespace {
 
 class ImpAnalyseTest : public ImportToets {
  protected:
-  // Expects that the file is refused with this text, and the end of the run all the same.
-  void Geweigerd(std::string_view bytes, std::string_view fout,
+  // Expects that the file is refused with this text at that line (0: without one), which the log tells,
+  // and the end of the run all the same.
+  void Geweigerd(std::string_view bytes, std::string_view fout, int regel = 1,
                  const Plek& plek = Plek::current()) {
     Importeer(bytes, "! uitroep \"" + std::string(fout) + "\"", plek);
-    EXPECT_EQ(Log(), "Importeren voltooid\r\n");
+    const std::string waar = regel == 0 ? "" : "gestopt bij regel " + GetalTekst(regel) + ": ";
+    EXPECT_TRUE(Log().starts_with("LET OP: " + waar + std::string(fout) + "\r\n")) << Log();
+    EXPECT_TRUE(Log().ends_with("\nImporteren voltooid\r\n")) << Log();
   }
 };
 
@@ -22,10 +26,10 @@ constexpr std::string_view kFoutLevel = "GEDCOM Fout: Onjuist levelnummer";
 constexpr std::string_view kGeenHeader = "Fout: Header van GEDCOM-bestand niet gevonden";
 
 TEST_F(ImpAnalyseTest, EenLeegBestand) {
-  Geweigerd("", "GEDCOM Fout: Leeg bestand");
+  Geweigerd("", "GEDCOM Fout: Leeg bestand", 0);
   for (const char* antwoord : {"Ja", "Nee"}) {
     Antwoord(antwoord);
-    Geweigerd("\xEF\xBB\xBF", "GEDCOM Fout: Leeg bestand");
+    Geweigerd("\xEF\xBB\xBF", "GEDCOM Fout: Leeg bestand", 0);
   }
   EXPECT_EQ(Aantallen(), "1 1 1 1");
 }
@@ -40,19 +44,19 @@ TEST_F(ImpAnalyseTest, EenBestandZonderHoofd) {
 
 TEST_F(ImpAnalyseTest, TweeHoofdenHoudenDeGemaakteRecords) {
   Geweigerd("0 HEAD\n0 @I1@ INDI\n1 NAME Jan //\n0 HEAD\n0 @I2@ INDI\n0 TRLR\n",
-            "GEDCOM Fout: bestand heeft 2 headers");
+            "GEDCOM Fout: bestand heeft 2 headers", 4);
   EXPECT_EQ(Aantallen(), "2 1 1 1");
   EXPECT_EQ(Persoon(2), "");
 }
 
 TEST_F(ImpAnalyseTest, EenRegelDieNietGesplitstKanWorden) {
-  Geweigerd("0 HEAD\n0 @I1@ INDI\nrommel\n0 @I2@ INDI\n0 TRLR\n", kGeenLevel);
-  Geweigerd("0 HEAD\n\n0 TRLR\n", kGeenLevel);
-  Geweigerd("0 HEAD\n1 \n0 TRLR\n", kGeenLevel);
-  Geweigerd("0 HEAD\n100 NOTE\n0 TRLR\n", kFoutLevel);
-  Geweigerd("0 HEAD\n-1 NOTE\n0 TRLR\n", kFoutLevel);
-  Geweigerd("0 HEAD\nx NOTE\n0 TRLR\n", kFoutLevel);
-  Geweigerd("0 HEAD\n99999999999 NOTE\n0 TRLR\n", kFoutLevel);
+  Geweigerd("0 HEAD\n0 @I1@ INDI\nrommel\n0 @I2@ INDI\n0 TRLR\n", kGeenLevel, 3);
+  Geweigerd("0 HEAD\n\n0 TRLR\n", kGeenLevel, 2);
+  Geweigerd("0 HEAD\n1 \n0 TRLR\n", kGeenLevel, 2);
+  Geweigerd("0 HEAD\n100 NOTE\n0 TRLR\n", kFoutLevel, 2);
+  Geweigerd("0 HEAD\n-1 NOTE\n0 TRLR\n", kFoutLevel, 2);
+  Geweigerd("0 HEAD\nx NOTE\n0 TRLR\n", kFoutLevel, 2);
+  Geweigerd("0 HEAD\n99999999999 NOTE\n0 TRLR\n", kFoutLevel, 2);
   EXPECT_EQ(Aantallen(), "2 1 1 1");
 }
 
@@ -64,7 +68,7 @@ TEST_F(ImpAnalyseTest, NiveauNulMagMetMeerNullen) {
 TEST_F(ImpAnalyseTest, NulBytesGaanErZonderSchadeDoor) {
   using namespace std::string_literals;
   Geweigerd("\0\0\0\0"s, kGeenHeader);
-  Geweigerd("0 HEAD\n\0\0\0\n0 TRLR\n"s, kGeenLevel);
+  Geweigerd("0 HEAD\n\0\0\0\n0 TRLR\n"s, kGeenLevel, 2);
   Importeer("0 HEAD\n0 @I\0@ INDI\n1 NAME J\0an //\n1 NOTE a\0b\n0 TRLR\n"s);
   EXPECT_EQ(Aantallen(), "2 1 1 2");
   EXPECT_EQ(Persoon(2), "voor J\0an; opm 4096"s);

@@ -31,7 +31,7 @@ TEST_F(ImpEigenTest, EenEigenTagGaatVoorDeRegelErachter) {
       2 _LBDATUM 12-00-1890
       2 DATE (12-?-1890)
       1 _LBGEZ zz
-      1 RELI Nederlands Hervormd
+      1 RELI Zondagszwijger
     )"),
             "");
   EXPECT_EQ(Persoon(2), "voor A/B; achter van C/D; seks Q; geb Q 12-00-1890; religie zz");
@@ -109,6 +109,59 @@ TEST_F(ImpEigenTest, EenRegelMaaktGeenVervolgrecord) {
             "");
   EXPECT_EQ(Persoon(2), "achter A");
   EXPECT_EQ(Relatie(2), "whuw 00-00-1900");
+}
+
+TEST_F(ImpEigenTest, EenRegelMaaktGeenRecordDatErNietIs) {
+  EXPECT_EQ(LogVan(R"(
+      0 @P1@ _LBPLTS
+      1 _LBPROV &%
+      1 NAME Delft
+      0 @I1@ INDI
+      1 NAME /A/
+      1 _LBGESL X
+      1 SEX U
+      1 BIRT
+      2 _LBPLTS @P1@
+      0 @F1@ FAM
+      1 MARR
+      2 _LBALS _LBWET
+      2 _LBCORR X
+      2 DATE 1900
+    )"),
+            "");
+  EXPECT_EQ(Persoon(2), "achter A; te 2");
+  EXPECT_EQ(Relatie(2), "whuw 00-00-1900");
+  EXPECT_EQ(Plaats(2), "Delft");
+  EXPECT_EQ(Rest(),
+            "0 HEAD\n1 CHAR UTF-8\n0 @P1@ _LBPLTS\n1 _LBPROV &%\n0 @I1@ INDI\n1 REFN 2\n"
+            "1 _LBGESL X\n0 @F1@ FAM\n1 REFN 2\n1 MARR\n2 _LBCORR X\n0 TRLR\n");
+}
+
+TEST_F(ImpEigenTest, EenRubriekDieErNietIsWordtNietOvergenomen) {
+  EXPECT_EQ(LogVan(R"(
+      0 @I1@ INDI
+      1 NOTE een
+      2 _LBRUBR 3
+      1 NOTE twee
+      2 CONT lang
+      2 _LBRUBR 8192
+      2 _LBPROG 1
+      1 NOTE drie
+      2 _LBRUBR 2
+      2 _LBPROG 40000
+      1 NOTE vier
+      2 _LBRUBR 1
+      2 _LBPROG 0
+      0 @S1@ SOUR
+      1 NOTE vijf
+      2 _LBRUBR 1
+    )"),
+            "LET OP: NOTE niet overgenomen: 1 keer, voor het eerst in regel 17\n");
+  EXPECT_EQ(OpmBijPersoon(2), "4096 een\n4096 twee|lang\n2 drie\n1 vier\n");
+  EXPECT_EQ(Rest(),
+            "0 HEAD\n1 CHAR UTF-8\n0 @I1@ INDI\n1 REFN 2\n1 NOTE een\n2 _LBRUBR 3\n"
+            "1 NOTE twee\n2 CONT lang\n2 _LBRUBR 8192\n2 _LBPROG 1\n1 NOTE drie\n"
+            "2 _LBRUBR 2\n2 _LBPROG 40000\n0 @S1@ SOUR\n1 NOTE vijf\n2 _LBRUBR 1\n0 TRLR\n");
 }
 
 // The fields of a continuation record are not those that a line has fixed.

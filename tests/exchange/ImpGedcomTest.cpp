@@ -273,6 +273,7 @@ TEST_F(ImpGedcomTest, DeMeldingVanCodepagina850KanVoorEenImportWeg) {
   Vinkgebruiker gebruiker(Bestand());
   for (int keer = 1; keer <= 2; ++keer) {
     Sessie([](Hoofdmodule& hoofd) {
+      ASSERT_TRUE(Start(hoofd));
       hoofd.ActieveSetNaam = "PROEF";
       ImpGedcom form(hoofd);
       hoofd.gesprek.ToonModaal(form);

@@ -56,9 +56,10 @@ TEST_F(ImpMaximum, RelatiesDieNietPassenWordenGeweigerdVoorErIetsGeschrevenIs) {
   EXPECT_EQ(Aantallen(), "1 32766 1 1");
 }
 
-TEST_F(ImpMaximum, EenVierdeRelatieZonderRecordLaatDeDrieStaan) {
+TEST_F(ImpMaximum, EenVierdeRelatieDieGeenRecordMeerKrijgtWordtVoorafGeweigerd) {
   Bouw().Man("Jan", "Jansen");
   Vul("PRS", 128, persoonveld::GebPlaatsNr.plaats, 32766, -1);
+  const std::string voor = LeesBytes(Map() / "PROEF/PROEF.PRS");
   ImporteerMet(Ged(R"(
       0 @I1@ INDI
       1 NAME Piet //
@@ -72,16 +73,36 @@ TEST_F(ImpMaximum, EenVierdeRelatieZonderRecordLaatDeDrieStaan) {
       0 @F4@ FAM
     )"),
                kMaximum, false);
-  EXPECT_EQ(Persoon(32767), "voor Piet; rel1 2; rel2 3; rel3 4");
+  EXPECT_EQ(LeesBytes(Map() / "PROEF/PROEF.PRS"), voor);
 }
 
-TEST_F(ImpMaximum, EenZestiendeKindZonderRecordLaatDeVijftienStaan) {
+TEST_F(ImpMaximum, EenVierdeRelatieMagHetLaatsteRecordNemen) {
+  Bouw().Man("Jan", "Jansen");
+  Vul("PRS", 128, persoonveld::GebPlaatsNr.plaats, 32765, -1);
+  Importeer(
+      Ged("0 @I1@ INDI\n1 NAME Piet //\n1 FAMS @F1@\n1 FAMS @F1@\n1 FAMS @F1@\n1 FAMS @F1@\n"
+          "1 FAMS @F1@\n0 @F1@ FAM"));
+  EXPECT_EQ(Persoon(32766), "voor Piet; rel1 2; rel2 2; rel3 -32767");
+  EXPECT_EQ(Persoon(32767), "geb Z   -  -    ; rel1 2; rel2 2; rel3 2");
+}
+
+TEST_F(ImpMaximum, EenZestiendeKindDatGeenRecordMeerKrijgtWordtVoorafGeweigerd) {
   Bouw().Relatie(0, 0);
   Vul("RLT", 64, relatieveld::ManNr.plaats, 32766, -1);
+  const std::string voor = LeesBytes(Map() / "PROEF/PROEF.RLT");
   std::string regels = "0 @I1@ INDI\n0 @F1@ FAM\n";
   for (int i = 0; i < 16; ++i) regels += "1 CHIL @I1@\n";
   ImporteerMet(Ged(regels), kMaximum, false);
-  EXPECT_EQ(Relatie(32767), "kind 2 2 2 2 2 2 2 2 2 2 2 2 2 2 2");
+  EXPECT_EQ(LeesBytes(Map() / "PROEF/PROEF.RLT"), voor);
+}
+
+TEST_F(ImpMaximum, EenZestiendeKindMagHetLaatsteRecordNemen) {
+  Bouw().Relatie(0, 0);
+  Vul("RLT", 64, relatieveld::ManNr.plaats, 32765, -1);
+  std::string regels = "0 @I1@ INDI\n0 @F1@ FAM\n";
+  for (int i = 0; i < 17; ++i) regels += "1 CHIL @I1@\n";
+  Importeer(Ged(regels));
+  EXPECT_EQ(Relatie(32766), "kind 2 2 2 2 2 2 2 2 2 2 2 2 2 2 -32767");
 }
 
 TEST_F(ImpMaximum, VollePlaatsenWordenEenmaalGemeldEnBekendeGevonden) {

@@ -22,6 +22,13 @@
 namespace lb77 {
 namespace {
 
+// Is a character lost in the records?
+bool VerliestTeken(std::string_view windows) {
+  return std::ranges::any_of(windows, [](const char& teken) {
+    return teken != '?' && WindowsNaarDos({&teken, 1}) == "?";
+  });
+}
+
 // As the records have it: what they have no character for is replaced, blanks stand alone.
 std::string Opgeslagen(std::string_view windows) {
   std::string uit;
@@ -244,6 +251,7 @@ void ImpRestBron::LeesRest() {
 }
 
 bool ImpRestBron::IsOpgeslagen(const Regel& regel, const Inhoud& inhoud) const {
+  if (VerliestTeken(regel.waarde)) return false;
   const std::string waarde = Opgeslagen(regel.waarde);
   if (waarde.empty()) return true;
   const auto verwijst = [&](const std::map<std::string, std::string>& nummers) {

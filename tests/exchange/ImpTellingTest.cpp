@@ -1,5 +1,6 @@
 #include "exchange/ImpTelling.h"
 #include "exchange/ImportToets.h"
+#include "text/Getallen.h"
 
 namespace lb77 {
 namespace {
@@ -90,6 +91,32 @@ TEST_F(Telling, TeltPlaatsenVanEenEigenBestandAlsRecords) {
   Importeer(bestand, R"(! uitroep "Plaatsrecord4 is incompleet.")");
   EXPECT_EQ(Aantallen(), "2 1 6 1");
   EXPECT_EQ(Tel(bestand), "Erbij komen 1 persoon, 0 relaties en 1 plaats");
+}
+
+TEST_F(Telling, TeltVervolgrecordsApart) {
+  const auto vervolg = [&](int relaties, int kinderen) {
+    std::string regels = "1 _LBVORM 1\n0 @I1@ INDI\n1 FAMC @F1@\n";
+    for (int i = 0; i < relaties; ++i) regels += i % 2 == 0 ? "1 FAMS @F1@\n" : "1 _LBFAMS\n";
+    regels += "0 @F1@ FAM\n1 HUSB @I1@\n1 FAMS @F1@\n";
+    for (int i = 0; i < kinderen; ++i) regels += i % 2 == 0 ? "1 CHIL @I1@\n" : "1 _LBCHIL\n";
+    regels +=
+        "0 @I2@ INDI\n1 FAMS @F1@\n1 BIRT\n2 FAMS @F1@\n1 CHIL @I1@\n0 @F2@ FAM\n1 CHIL @I1@\n";
+    SchrijfBytes(Bestand(), Ged(regels));
+    std::string uit;
+    InSessie([&](Hoofdmodule& hoofd) {
+      RegelLezer lezer;
+      ASSERT_FALSE(lezer.Open(Bestand()));
+      const ImpTelling telling = TelImport(lezer, hoofd.bestanden.Bestand(BestandSoort::Plaatsen));
+      EXPECT_EQ(telling.personen, 2);
+      EXPECT_EQ(telling.relaties, 2);
+      uit = GetalTekst(telling.vervolgPersonen) + " " + GetalTekst(telling.vervolgRelaties);
+    });
+    return uit;
+  };
+  EXPECT_EQ(vervolg(3, 15), "0 0");
+  EXPECT_EQ(vervolg(4, 15), "1 0");
+  EXPECT_EQ(vervolg(3, 16), "0 1");
+  EXPECT_EQ(vervolg(9, 40), "1 1");
 }
 
 TEST_F(Telling, EindigtBijTRLREnBijEenRegelDieGeenGedcomIs) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "exchange/OpmReeks.h"
+#include "steun/FaalBestand.h"
 #include "steun/ProefSet.h"
 #include "store/Rubrieken.h"
 
@@ -154,6 +155,24 @@ TEST_F(OpmReeksToets, EenBeginDatGeenRecordIsZegtDat) {
   }
   set_.bouw.WijzigPersoon(persoon_, {{"OpmRecord", "0"}});
   EXPECT_TRUE(Lees(rubriek::kAlgemeen).regels.empty());
+}
+
+// A damaged set: thousands point into one chain.
+TEST_F(OpmReeksToets, EenKettingDieAlGelezenIsWordtNietWeerGelezen) {
+  for (int i = 0; i < 200; ++i) Opmerking(i % 2 == 0 ? 1 : 2, {std::to_string(i)});
+  Zet(150, "BijZelfde", 99);
+  ASSERT_TRUE(set_.Persoon.Lees(persoon_));
+  OpmReeks reeks(set_.Opmerking);
+  reeks.Lees(2);
+  EXPECT_EQ(reeks.Aantal(), 149U);
+  Storing storing{.bij = 1, .blijvend = true};
+  set_.bestanden = Bestandenset(FalendeOpener(storing));
+  ASSERT_FALSE(set_.bestanden.OpenSet(set_.paden));
+  reeks.Lees(52);
+  EXPECT_EQ(reeks.Aantal(), 99U);
+  EXPECT_EQ(reeks.Koppen(1).front().nr, 52);
+  EXPECT_EQ(reeks.Koppen(1).front().stap, 1);
+  EXPECT_TRUE(set_.Getoond().empty());
 }
 
 // Whatever the links, as long as no remark comes back.

@@ -290,8 +290,11 @@ TEST_F(TekstSchrijverTest, EenAfgebrokenLoopLaatWatHijSchreef) {
 TEST_F(TekstSchrijverTest, EenBestandDatNietGemaaktKanWordenZegtWaarom) {
   TekstSchrijver ander;
   EXPECT_FALSE(ander.Open(map_ / "geen" / "uit.txt"));
-  EXPECT_TRUE(ander.Fout());
-  EXPECT_FALSE(ander.Fout().tekst.empty());
+  EXPECT_EQ(ander.Fout().tekst, "Bestand niet gevonden");
+  EXPECT_FALSE(ander.Open(map_.Pad()));
+  EXPECT_EQ(ander.Fout().tekst, "Pad is een directory");
+  EXPECT_FALSE(ander.Open(map_ / std::string(300, 'x')));
+  EXPECT_EQ(ander.Fout().tekst, "Bestandsnaam te lang");
 }
 
 TEST_F(TekstSchrijverTest, EenVolleSchijfBlijktAanHetEinde) {

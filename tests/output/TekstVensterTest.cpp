@@ -109,6 +109,19 @@ TEST_F(TekstVensterTest, DezeBladzijdeIsDieGetoondWordt) {
   EXPECT_EQ(lezer_.afdrukken.front().paginas, std::vector<Regels>{Regels{"regel 70"}});
 }
 
+TEST_F(TekstVensterTest, EenLosVelHeeftHetNummerDatHetOnderAlleVellenHeeft) {
+  Druk(std::string(80, 'a') + "bb\n" + Genummerd(69) + "slot\n",
+       {"PrintButton(1)", "MoveButton(2)", "PrintButton(1)", "MoveButton(1)", "MoveButton(4)",
+        "PrintButton(1)", "PrintButton(2)"});
+  ASSERT_EQ(lezer_.afdrukken.size(), 4U);
+  for (std::size_t i = 0; i < 3; ++i) {
+    EXPECT_EQ(lezer_.afdrukken[i].eerste, i + 1);
+    EXPECT_EQ(lezer_.afdrukken[i].totaal, 3U);  // nothing stands on the fourth
+  }
+  EXPECT_EQ(lezer_.afdrukken[3].eerste, 1U);
+  EXPECT_EQ(lezer_.afdrukken[3].totaal, 0U);
+}
+
 TEST_F(TekstVensterTest, EenLeegBestandWordtGedruktZoalsHetGetoondWordt) {
   Druk("", {"PrintButton(1)", "PrintButton(2)"});
   ASSERT_EQ(lezer_.afdrukken.size(), 2U);

@@ -12,6 +12,7 @@
 #include "steun/SpeelToets.h"
 #include "steun/TijdelijkeMap.h"
 #include "text/Letterlijk.h"
+#include "text/Unicode.h"
 
 namespace lb77 {
 namespace {
@@ -21,6 +22,7 @@ class Desktop final : public Gesprek, public Bureaublad {
  public:
   Antwoord Bericht(BerichtSoort, Knoppen, std::string_view tekst) override {
     berichten.emplace_back(tekst);
+    NoteerGetoond(WindowsNaarUtf8(tekst));
     return Antwoord::OK;
   }
   bool BerichtMetVinkje(std::string_view, std::string_view) override { return false; }

@@ -107,6 +107,12 @@ TEST_F(TekstpaginasTest, EenKopieZonderRuimteZegtWaaromEnLaatHetOudeBestand) {
   }
 }
 
+TEST_F(TekstpaginasTest, EenKopieMetEenTeLangeNaamWordtNietGemaakt) {
+  SchrijfBytes(map_ / "in.txt", "x");
+  const SysteemFout fout = KopieerTekst(map_ / "in.txt", map_ / std::string(300, 'x'));
+  EXPECT_EQ(fout.tekst, "Bestandsnaam te lang");
+}
+
 TEST_F(TekstpaginasTest, EenKopieNeemtDePlaatsVanHetOudeBestand) {
   SchrijfBytes(map_ / "oud.txt", "oud");
   SchrijfBytes(map_ / "in.txt", std::string("a\0b\nc", 5));

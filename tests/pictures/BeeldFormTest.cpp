@@ -46,15 +46,20 @@ class BeeldFormToets : public FamilieToets {
              taak, verslag);
   }
   void SpeelWaaier(int nr, std::string_view draaiboek, std::string_view verslag) {
-    Speel<KwartierBeeldPrs>(nr, draaiboek,
-                            "+ WaaierPrs \"Waaier\"\n+ KwstBereken \"Opbouwen Kwartierstaat\"\n"
-                            "- KwstBereken\n+ WaaierBeeld \"Waaier\"\n" +
-                                Regels(verslag) + "- WaaierBeeld\n- WaaierPrs\n",
-                            kWaaierPrs);
+    Speel<KwartierBeeldPrs>(
+        nr, opties_ + "druk OKButton\n" + std::string(draaiboek),
+        "+ WaaierPrs \"Waaier\"\n+ KwstSchParam \"Schema Kwartierstaat Uitvoeropties\"\n" +
+            Regels(vanOpties_) +
+            "- KwstSchParam\n+ KwstBereken \"Opbouwen Kwartierstaat\"\n- KwstBereken\n"
+            "+ WaaierBeeld \"Waaier\"\n" +
+            Regels(verslag) + "- WaaierBeeld\n- WaaierPrs\n",
+        kWaaierPrs);
   }
   [[nodiscard]] std::string Bestand(std::string_view naam) const { return LeesBytes(Map() / naam); }
 
-  std::string vooraf_;  // instructions ahead of the prompt
+  std::string vooraf_;     // instructions ahead of the prompt
+  std::string opties_;     // the same of the options
+  std::string vanOpties_;  // what they say
   std::int16_t gebleven_ = -2;
 };
 
@@ -95,6 +100,58 @@ TEST_F(BeeldFormToets, DeKeuzenVeranderenHetBeeld) {
       #1 "4 Piet de Vries"
       #2 "6 Els Bos"
     )");
+}
+
+TEST_F(BeeldFormToets, DeWaaierVolgtDeOptiesVanHetSchema) {
+  opties_ = R"(
+    toon BreedteGen
+    toon UitlijnBox
+    toon InHTMLBox
+    toon OokNrsBox
+    toon OokJaarBox
+    toon Inleiding1
+    toon CopyrightBox
+    vul KwNrProband 4
+    vul MaxGen 4
+    vul TitelTekst Mijn kwartieren
+  )";
+  vanOpties_ = R"(
+    = BreedteGen "8" [verborgen]
+    = UitlijnBox "Nee" [verborgen]
+    #0 "Ja"
+    #1 "Nee"
+    = InHTMLBox "Nee" [verborgen]
+    #0 "Ja"
+    #1 "Nee"
+    = OokNrsBox "Nee" [verborgen]
+    #0 "Ja"
+    #1 "Nee"
+    = OokJaarBox "Nee" [verborgen]
+    #0 "Ja"
+    #1 "Nee"
+    = Inleiding1 "" [verborgen]
+    = CopyrightBox "Ja" [verborgen]
+    #0 "Ja"
+    #1 "Nee"
+  )";
+  SpeelWaaier(
+      7, "toon Beeld\ntoon GeneratiesBox\ntoon VormBox\nbestand\ndruk OKButton\ndruk BackButton",
+      R"(
+    = Beeld "4. Wim de Vries 1861-1929"
+    #0 "4. Wim de Vries 1861-1929"
+    #1 "8. Piet de Vries 1830-"
+    #2 "9. Els Bos"
+    = GeneratiesBox "2"
+    #0 "1"
+    #1 "2"
+    #2 "3"
+    = VormBox "Driekwart cirkel"
+    #0 "Halve cirkel"
+    #1 "Driekwart cirkel"
+    #2 "Hele cirkel"
+    > opslaan "SVG-tekening (*.svg)|*.svg|PDF-bestand (*.pdf)|*.pdf" -> -
+  )");
+  EXPECT_NE(Bestand("TEMP/BEELD.TMP").find("<title>Mijn kwartieren</title>"), std::string::npos);
 }
 
 TEST_F(BeeldFormToets, DeStamboomVolgtDeOptiesVanHetSchema) {
@@ -231,16 +288,33 @@ TEST_F(BeeldFormToets, EenTijdelijkBestandDatNietKanWordtGemeld) {
       "! stop \"Fout bij het schrijven van " + tijdelijk.string() + "\\nPad is een directory\"\n");
 }
 
-TEST_F(BeeldFormToets, HetPapierTeltDeVellen) {
-  const Taak taak = [](Hoofdmodule& hoofd) {
-    hoofd.gesprek.Toon<BeeldForm>(kTijdBeeld, hoofd, 0, [](const BeeldKeuzen&) {
+// A form with one large rectangle.
+std::function<void(Hoofdmodule&)> Vlak(double breedte, double hoogte) {
+  return [breedte, hoogte](Hoofdmodule& hoofd) {
+    hoofd.gesprek.Toon<BeeldForm>(kTijdBeeld, hoofd, 0, [breedte, hoogte](const BeeldKeuzen&) {
       Tekening tekening;
-      tekening.breedte = 1200;
-      tekening.hoogte = 700;
-      tekening.vormen.assign(2, {.wat = Rechthoek{0, 0, 1200, 700}});
+      tekening.breedte = breedte;
+      tekening.hoogte = hoogte;
+      tekening.vormen.assign(2, {.wat = Rechthoek{0, 0, breedte, hoogte}});
       return tekening;
     });
   };
+}
+
+TEST_F(BeeldFormToets, HetVelVanEenBeeldZegtHoeGrootHetIs) {
+  for (const auto& [breedte, tekst] :
+       {std::pair{2000.0, "Een PDF van 1 vel papier van 71 bij 25 cm"},
+        std::pair{20000.0,
+                  "Een PDF van 1 vel papier van 706 bij 25 cm, "
+                  "groter dan de meeste programma's tonen"}}) {
+    Verwacht("stel PapierBox Zo groot als het beeld\ntoon VellenLabel\ndruk BackButton",
+             Vlak(breedte, 700),
+             "+ TijdBeeld \"Populatiegrafiek\"\n= VellenLabel \"" + std::string(tekst) +
+                 "\"\n- TijdBeeld\n");
+  }
+}
+
+TEST_F(BeeldFormToets, HetPapierTeltDeVellen) {
   Verwacht(R"(
       toon VellenLabel
       stel VerdeelBox Ware grootte
@@ -251,7 +325,7 @@ TEST_F(BeeldFormToets, HetPapierTeltDeVellen) {
       toon VellenLabel
       druk BackButton
     )",
-           taak, R"~(
+           Vlak(1200, 700), R"~(
       + TijdBeeld "Populatiegrafiek"
       = VellenLabel "Een PDF van 1 vel papier"
       = VellenLabel "Een PDF van 4 vellen papier (2 breed, 2 hoog)"

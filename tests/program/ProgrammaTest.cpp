@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <map>
 #include <stdexcept>
 
 #include "app/OverLB77Form.h"
@@ -345,6 +346,25 @@ TEST_F(Programmaloop, HetMenuVeiligheidToontZijnVensters) {
       + KopieTerugzetten "Veiligheidskopie Terugzetten"
       - KopieTerugzetten
     )~");
+}
+
+// What is ours to call: "..." stands where a dialog follows, and nowhere else.
+TEST_F(Programmaloop, DrieStippenBelovenEenVenster) {
+  MaakFamilie();
+  std::map<std::string, std::string> bijschriften;
+  Speel("", Met([&](lb77::Programma& programma) {
+          for (const Bediening* een : programma.Menu().Bedieningen()) {
+            const bool eigen =
+                een->Naam().starts_with("Veilig") || een->Naam().starts_with("Beeld");
+            if (eigen) bijschriften[een->Naam()] = een->Bijschrift();
+          }
+        }));
+  EXPECT_EQ(bijschriften.size(), 9U);
+  for (const auto& [naam, bijschrift] : bijschriften) {
+    EXPECT_EQ(Speel("kies " + naam + "\nsluit", Sessie()).reden, "") << naam;
+    const bool venster = verslag_.find("\n+ ") != std::string::npos;
+    EXPECT_EQ(bijschrift.ends_with("..."), venster) << verslag_;
+  }
 }
 
 TEST_F(Programmaloop, TonenBegintBijPersonenOfBijPlaatsen) {

@@ -211,6 +211,7 @@ class VeiligeWegen : public FamilieToets, public ::testing::WithParamInterface<W
     static_cast<void>(Speel(GetParam().draaiboek, Sessie([&](Hoofdmodule& hoofd) {
                               if (!Start(hoofd)) return;
                               hoofd.ActieveSetNaam = "PROEF";
+                              hoofd.Ini.IniZet("Systeem", "Set", "PROEF");
                               OpenIn(hoofd.bestanden);
                               schijf_.bij = k == 0 ? 0 : schijf_.teller + k;
                               GetParam().doe(hoofd);

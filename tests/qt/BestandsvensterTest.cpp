@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
@@ -98,8 +99,28 @@ TEST_F(BestandsvensterTest, OpslaanVoegtDeExtensieVanHetFilterToe) {
             Pad("nieuw.GED"));
 }
 
+TEST_F(BestandsvensterTest, WatAchterEenPuntInDeNaamStaatIsNogGeenExtensie) {
+  EXPECT_EQ(Vraag(BestandsWijze::Opslaan, [this](QFileDialog& v) { Kies(v, "Stamboom W.F. Jansen"); }),
+            Pad("Stamboom W.F. Jansen.GED"));
+  EXPECT_EQ(Vraag(BestandsWijze::Opslaan, [this](QFileDialog& v) { Kies(v, "oma.Ged"); }),
+            Pad("oma.Ged"));
+  const std::string naam = "Kwartierstaat W.F. Jansen";
+  const QString pad = map_.filePath(QString::fromStdString(naam));
+  EXPECT_EQ(Opslag(naam + ".txt", [&](QFileDialog& v) { Kies(v, pad.toLatin1().constData()); }),
+            PadVanQt(pad + ".txt"));
+  EXPECT_EQ(Opslag(naam + ".txt",
+                   [&](QFileDialog& v) {
+                     v.selectNameFilter("Alle Bestanden (*)");
+                     Kies(v, pad.toLatin1().constData());
+                   }),
+            PadVanQt(pad));
+}
+
 TEST_F(BestandsvensterTest, OverEenBestandHeenOpslaanVraagtHetEerst) {
   Antwoord({"Ja"});
+  bijBox = [](QMessageBox& box) {
+    EXPECT_EQ(box.defaultButton()->text().remove(u'&'), QString("Nee"));
+  };
   EXPECT_EQ(Vraag(BestandsWijze::Opslaan, [this](QFileDialog& v) { Kies(v, "oranje.ged"); }),
             Pad("oranje.ged"));
   EXPECT_THAT(boxen, testing::ElementsAre("Het bestand oranje.ged bestaat al. Overschrijven ?"));

@@ -7,6 +7,8 @@
 #include <QFontInfo>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QTemporaryDir>
+#include <QTimer>
 #include <QWheelEvent>
 
 #include "Vensterproef.h"
@@ -14,6 +16,8 @@
 #include "forms/Formulier.h"
 #include "forms/Leesformulier.h"
 #include "qt/Bladzijde.h"
+#include "qt/QtGesprek.h"
+#include "qt/Vertaling.h"
 
 namespace lb77 {
 namespace {
@@ -71,6 +75,31 @@ TEST_F(BladzijdeTest, ToontZijnRegelsInEenVasteLetterEnVultHetScherm) {
     EXPECT_TRUE(Blad().isReadOnly());
     EXPECT_TRUE(Bovenste().isMaximized());
   }});
+}
+
+TEST_F(BladzijdeTest, DeLetterDieDeGebruikerKoosKomtTerug) {
+  const QTemporaryDir map;
+  const auto lees = [&](const std::function<void(qreal punten)>& doe) {
+    QtGesprek metMap(PadVanQt(map.path()));
+    Leesvorm lezer;
+    QTimer::singleShot(0, qApp, [&] {
+      ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activeWindow(); }));
+      doe(Blad().font().pointSizeF());
+      Toets(Qt::Key_Escape);
+    });
+    metMap.ToonModaal(lezer);
+  };
+  qreal begin = 0;
+  lees([&](qreal punten) {
+    begin = punten;
+    Toets(Qt::Key_Plus, Qt::ControlModifier);
+    Toets(Qt::Key_Plus, Qt::ControlModifier);
+  });
+  lees([&](qreal punten) {
+    EXPECT_EQ(punten, begin + 2);
+    Toets(Qt::Key_0, Qt::ControlModifier);
+  });
+  lees([&](qreal punten) { EXPECT_EQ(punten, begin); });
 }
 
 TEST_F(BladzijdeTest, TachtigKolommenZijnInBeeld) {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFontInfo>
 #include <QFontMetricsF>
@@ -14,6 +15,8 @@
 #include <QProcess>
 #include <QProgressDialog>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QtTest/QTest>
@@ -25,6 +28,7 @@
 #include "qt/Velprinter.h"
 #include "qt/Vertaling.h"
 #include "steun/Plekken.h"
+#include "steun/SpeelToets.h"
 
 namespace lb77 {
 namespace {
@@ -41,6 +45,18 @@ class DrukkerTest : public testing::Test {
  protected:
   QTemporaryDir map_;
   [[nodiscard]] QString Pad(const char* naam) const { return map_.filePath(QLatin1String(naam)); }
+  // The feet of the sheets.
+  [[nodiscard]] QStringList Tekst(const Afdruk& afdruk) const {
+    EXPECT_FALSE(SchrijfPdf(Pad("voet.pdf"), afdruk));
+    QProcess lezer;
+    lezer.start("pdftotext", {"-layout", Pad("voet.pdf"), "-"});
+    EXPECT_TRUE(lezer.waitForFinished()) << "pdftotext";
+    QStringList uit;
+    for (const QString& regel : QString::fromUtf8(lezer.readAllStandardOutput()).split(u'\n')) {
+      if (regel.contains(QLatin1String(" van "))) uit += regel.trimmed();
+    }
+    return uit;
+  }
   static int Paginas(const QString& pad) {
     QFile bestand(pad);
     EXPECT_TRUE(bestand.open(QIODevice::ReadOnly));
@@ -156,7 +172,9 @@ TEST_F(DrukkerTest, EenFoutWordtGemeld) {
   });
   QPdfWriter papier(Pad("geen/map/druk.pdf"));
   EXPECT_FALSE(DrukOfMeld(nullptr, papier, Proefdruk(1)));
-  EXPECT_EQ(tekst, QString("Fout bij het printen van de tekst."));
+  EXPECT_EQ(tekst, QString("Fout bij het printen van de tekst.\nDe printer is niet te bereiken, of "
+                           "neemt de opdracht niet aan"));
+  NoteerGetoond(tekst.toStdString());
   QPdfWriter goed(Pad("druk.pdf"));
   EXPECT_TRUE(DrukOfMeld(nullptr, goed, Proefdruk(1)));
 }
@@ -196,7 +214,7 @@ TEST_F(DrukkerTest, EenVelWaarNietsOpStaatWordtNietGedrukt) {
 TEST_F(DrukkerTest, OpElkVelStaatHetNummerVanHetTotaalEnDeTekstKomtErGoedUit) {
   Afdruk afdruk = Proefdruk(2);
   afdruk.paginas[1] = {"Zo\xEB M\xFCller \x97 \x80 5", "+--+", "|  |"};
-  ASSERT_TRUE(SchrijfPdf(Pad("tekst.pdf"), afdruk));
+  ASSERT_FALSE(SchrijfPdf(Pad("tekst.pdf"), afdruk));
   QProcess lezer;
   lezer.start("pdftotext", {"-layout", Pad("tekst.pdf"), "-"});
   if (!lezer.waitForStarted()) GTEST_SKIP() << "pdftotext ontbreekt";
@@ -209,7 +227,39 @@ TEST_F(DrukkerTest, OpElkVelStaatHetNummerVanHetTotaalEnDeTekstKomtErGoedUit) {
 }
 
 TEST_F(DrukkerTest, EenPdfDieNietGeschrevenKanWordenLaatHetBestandZoalsHetWas) {
-  EXPECT_FALSE(SchrijfPdf(Pad("geen/map/druk.pdf"), Proefdruk(1)));
+  EXPECT_EQ(SchrijfPdf(Pad("geen/map/druk.pdf"), Proefdruk(1)).tekst, "Bestand niet gevonden");
+  ASSERT_FALSE(SchrijfPdf(Pad("druk.pdf"), Proefdruk(1)));
+  ASSERT_TRUE(QDir(map_.path()).mkdir("druk.pdf.nieuw"));
+  EXPECT_TRUE(SchrijfPdf(Pad("druk.pdf"), Proefdruk(2)));
+  EXPECT_EQ(Paginas(Pad("druk.pdf")), 1);
+}
+
+TEST_F(DrukkerTest, EnkeleVellenHoudenHunNummerVanHetGeheel) {
+  Afdruk los = Proefdruk(1);
+  los.eerste = 7;
+  los.totaal = 40;
+  EXPECT_EQ(Tekst(los), QStringList("7 van 40"));
+  EXPECT_EQ(Tekst(Deel(Proefdruk(5), 2, 4)), QStringList({"2 van 5", "3 van 5", "4 van 5"}));
+  los.paginas = Proefdruk(3).paginas;
+  EXPECT_EQ(Tekst(Deel(los, 9, 9)), QStringList("9 van 40"));
+}
+
+TEST_F(DrukkerTest, VanEenBestandDatNietGeschrevenKanWordenStaatDeNaamErbij) {
+  QString tekst;
+  QTimer::singleShot(0, qApp, [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_TRUE(box);
+    tekst = box->text();
+    box->reject();
+  });
+  QPrinter papier;
+  papier.setOutputFormat(QPrinter::PdfFormat);
+  papier.setOutputFileName(Pad("geen/map/druk.pdf"));
+  EXPECT_FALSE(DrukOfMeld(nullptr, papier, Proefdruk(1)));
+  EXPECT_EQ(tekst, QStringLiteral("Fout bij het printen van de tekst.\nHet bestand %1 kan niet "
+                                  "worden geschreven")
+                       .arg(Pad("geen/map/druk.pdf")));
+  NoteerGetoond(tekst.toStdString());
 }
 
 // Presses a button in the preview, and then does something with what that opens.
@@ -223,6 +273,7 @@ class AfdrukvensterTest : public DrukkerTest {
         doe(*venster);
       } else if (auto* box = qobject_cast<QMessageBox*>(boven)) {
         boxen_ += box->text();
+        NoteerGetoond(box->text().toStdString());
         box->accept();
       } else if (auto* beeld = dynamic_cast<Afdrukvenster*>(boven)) {
         if (++keren_ > 1) return beeld->reject();
@@ -264,6 +315,42 @@ TEST_F(AfdrukvensterTest, DePrinterKrijgtDeVellenDieErStaan) {
   afdruk.paginas[1].clear();
   EXPECT_TRUE(Vraag(afdruk));
   EXPECT_EQ(Paginas(Pad("printer.pdf")), 2);
+}
+
+TEST_F(AfdrukvensterTest, DeGebruikerKanEenDeelVanDeVellenDrukken) {
+  Met<QPrintDialog>("Afdrukken", [&](QPrintDialog& vraag) {
+    EXPECT_EQ(vraag.minPage(), 1);
+    EXPECT_EQ(vraag.maxPage(), 5);
+    vraag.printer()->setOutputFormat(QPrinter::PdfFormat);
+    vraag.printer()->setOutputFileName(Pad("printer.pdf"));
+    if (auto* naam = vraag.findChild<QLineEdit*>("filename")) naam->setText(Pad("printer.pdf"));
+    ASSERT_TRUE(vraag.findChild<QRadioButton*>("printRange"));
+    vraag.findChild<QRadioButton*>("printRange")->setChecked(true);
+    vraag.findChild<QSpinBox*>("from")->setValue(2);
+    vraag.findChild<QSpinBox*>("to")->setValue(3);
+    static_cast<QDialog&>(vraag).accept();
+  });
+  EXPECT_TRUE(Vraag(Proefdruk(5)));
+  EXPECT_EQ(Paginas(Pad("printer.pdf")), 2);
+}
+
+TEST_F(AfdrukvensterTest, HetVoorbeeldPastOokMetGroteLettersOpHetScherm) {
+  const QFont vorige = QApplication::font();
+  QFont groot = vorige;
+  groot.setPointSize(18);
+  QApplication::setFont(groot);
+  const Afdruk afdruk = Proefdruk(2);
+  Afdrukvenster venster(nullptr, afdruk, instellingen_);
+  venster.show();
+  EXPECT_LE(venster.minimumSizeHint().width(), 1000);
+  EXPECT_LE(venster.minimumSizeHint().height(), 700);
+  for (const auto* knop : venster.findChildren<QPushButton*>()) {
+    EXPECT_TRUE(venster.rect().contains(knop->geometry())) << qPrintable(knop->text());
+    const int nodig = knop->fontMetrics().size(Qt::TextShowMnemonic, knop->text()).width();
+    EXPECT_GE(knop->width(), nodig) << qPrintable(knop->text());
+  }
+  venster.grab().save(PadNaarQt(BouwMap() / "schermen" / "Afdrukvoorbeeld-18.png"));
+  QApplication::setFont(vorige);
 }
 
 TEST_F(AfdrukvensterTest, AlsPdfOpslaanSteltDeTitelVoorEnBlijftInHetVoorbeeld) {

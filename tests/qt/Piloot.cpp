@@ -11,10 +11,12 @@ namespace {
 
 constexpr int kBlik = 3;  // milliseconds
 
+// A form that has just been shown hears no keys until it is the active window.
 std::string Bovenop() {
   const QWidget* venster = QApplication::activeModalWidget();
   if (!venster) venster = QApplication::activeWindow();
-  return venster ? venster->objectName().toStdString() : std::string();
+  const bool hoort = venster && venster->isVisible() && venster->isActiveWindow();
+  return hoort ? venster->objectName().toStdString() : std::string();
 }
 
 }  // namespace

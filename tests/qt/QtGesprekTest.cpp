@@ -2,13 +2,19 @@
 #include <gmock/gmock.h>
 
 #include <QAbstractButton>
+#include <QDesktopServices>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTextBrowser>
+#include <QUrl>
+#include <filesystem>
 #include <stdexcept>
 
 #include "Proefvorm.h"
 #include "Vensterproef.h"
+#include "qt/Vertaling.h"
+#include "steun/TijdelijkeMap.h"
 #include "text/Letterlijk.h"
 
 namespace lb77 {
@@ -41,6 +47,22 @@ class QtGesprekTest : public Vensterproef {
     return uit;
   }
 };
+
+TEST_F(QtGesprekTest, DeBrowserKrijgtEenBladzijdeOnderEenNaamDieHijKent) {
+  const TijdelijkeMap map;
+  QTextBrowser browser;
+  QDesktopServices::setUrlHandler("file", &browser, "setSource");
+  for (const auto& [naam, getoond] : {std::pair{"uit.tmp", "uit.htm"},
+                                      {"index.HTM", "index.HTM"},
+                                      {"handleiding.md", "handleiding.md"}}) {
+    SchrijfBytes(map / naam, "<p>tekst</p>");
+    EXPECT_TRUE(gesprek.OpenInBrowser(map / naam));
+    EXPECT_EQ(browser.source(), QUrl::fromLocalFile(PadNaarQt(map / getoond)));
+    EXPECT_EQ(LeesBytes(map / getoond), "<p>tekst</p>");
+  }
+  QDesktopServices::unsetUrlHandler("file");
+  EXPECT_FALSE(std::filesystem::exists(map / "handleiding.htm"));
+}
 
 TEST_F(QtGesprekTest, EenMeldingMetEenKnopAntwoordtOK) {
   EXPECT_EQ(gesprek.Bericht(BerichtSoort::Info, Knoppen::OK, "geëxporteerd"_w), lb77::Antwoord::OK);

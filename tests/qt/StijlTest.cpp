@@ -21,6 +21,11 @@ TEST(Stijl, LettersZijnGrootGenoegVoorOudereOgen) {
   EXPECT_GE(QApplication::font().pointSizeF(), 11.0);
 }
 
+// The name of its menu entry (pakket/lb77.desktop), which has the icon.
+TEST(Stijl, HetBureaubladKentDeVensters) {
+  EXPECT_EQ(QGuiApplication::desktopFileName(), "lb77");
+}
+
 TEST(Stijl, DeVasteLetterIsErWatHetSysteemOokHeeft) {
   EXPECT_TRUE(QFontInfo(VasteLetter(11)).fixedPitch());
   EXPECT_DOUBLE_EQ(VasteLetter(13).pointSizeF(), 13.0);

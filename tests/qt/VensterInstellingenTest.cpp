@@ -21,6 +21,8 @@ TEST(VensterInstellingen, MatenEnMappenKomenTerug) {
     instellingen.BewaarMaat("ToonTekst", {800, 600});
     instellingen.BewaarVol("MenuWindow", true);
     instellingen.BewaarLaatsteMap("a|*.a", "/ergens");
+    EXPECT_EQ(instellingen.Vergroting(), 0);
+    instellingen.BewaarVergroting(-2);
   }
   EXPECT_TRUE(QFile::exists(map.filePath("lb77-venster.ini")));
   const VensterInstellingen later(PadVanQt(map.path()));
@@ -28,6 +30,7 @@ TEST(VensterInstellingen, MatenEnMappenKomenTerug) {
   EXPECT_TRUE(later.IsVol("MenuWindow"));
   EXPECT_FALSE(later.IsVol("ToonTekst"));
   EXPECT_EQ(later.LaatsteMap("a|*.a"), QString("/ergens"));
+  EXPECT_EQ(later.Vergroting(), -2);
 }
 
 TEST(VensterInstellingen, ZonderMapWordtNietsBewaard) {

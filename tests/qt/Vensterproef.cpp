@@ -7,6 +7,7 @@
 #include <stdexcept>
 
 #include "qt/Vertaling.h"
+#include "steun/SpeelToets.h"
 
 namespace lb77 {
 
@@ -89,6 +90,7 @@ void Vensterproef::Beantwoord(QFileDialog& vraag) {
 
 void Vensterproef::Beantwoord(QMessageBox& box) {
   boxen.push_back(box.text().toStdString());
+  NoteerGetoond(boxen.back());
   if (bijBox) bijBox(box);
   QString knop;
   if (!antwoorden_.empty()) {

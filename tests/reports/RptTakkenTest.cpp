@@ -74,7 +74,8 @@ TEST_F(RptTakkenToets, ZoekenVultHetNummer) {
 }
 
 TEST_F(RptTakkenToets, NaHetZoekenStaatDeFocusOpOK) {
-  Speel("druk ZoekButton\ndruk RecordNrPrs(1)\ntoon\ndruk BackButton", R"(
+  for (const std::string zoek : {"druk ZoekButton", "toets PersNr F2"}) {
+    Speel(zoek + "\ndruk RecordNrPrs(1)\ntoon\ndruk BackButton", R"(
           + ZoekPrs "Zoek Persoon"
           - ZoekPrs
           : RptTakken "Rapport Takkenverdeling"
@@ -86,6 +87,7 @@ TEST_F(RptTakkenToets, NaHetZoekenStaatDeFocusOpOK) {
           = BackButton "&Terug"
           * OKButton
         )");
+  }
 }
 
 TEST_F(RptTakkenToets, EenBestandDatNietKanSluitHetScherm) {

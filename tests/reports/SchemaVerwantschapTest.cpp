@@ -173,6 +173,25 @@ TEST_F(SchemaVerwantschapTest, ZoekenVultHetNummer) {
         )~");
 }
 
+TEST_F(SchemaVerwantschapTest, NaHetZoekenIsWieErNogNietStaatAanDeBeurtEnDanDeKnop) {
+  for (const std::string_view zoek : {"druk ZoekButton(0)", "toets PersNr(0) F2"}) {
+    Speel(std::string(zoek) +
+              "\ndruk RecordNrPrs(1)\ntoets F2\ndruk RecordNrPrs(3)\ntoets Enter\n"
+              "druk BackButton\ntoon PersNr(0)\ntoon PersNr(1)\ndruk BackButton",
+          R"~(
+            + ZoekPrs "Zoek Persoon"
+            - ZoekPrs
+            + ZoekPrs "Zoek Persoon"
+            - ZoekPrs
+            + VerwantRapport "Schema Verwantschap"
+            - VerwantRapport
+            = PersNr(0) "2"
+            = PersNr(1) "4"
+            - SchemaVerwantschap
+          )~");
+  }
+}
+
 TEST_F(SchemaVerwantschapTest, EscapeBreektHetZoekenAf) {
   Speel(std::string(kJanEnEls) +
             "onderbreek 3\nantwoord Ja\ndruk OKButton\ntoon PersonenGedaan\n"

@@ -15,6 +15,8 @@ inline constexpr bool kRechten = false;
 inline constexpr const char* kAchterBestand = "Bestand niet gevonden";
 // Behind the name of a program.
 inline constexpr const char* kProgrammaEind = ".exe";
+// Takes everything and keeps nothing.
+inline constexpr const char* kGroteNiets = "NUL";
 
 #else
 
@@ -23,6 +25,7 @@ inline constexpr bool kKoppelingen = true;
 inline constexpr bool kRechten = true;
 inline constexpr const char* kAchterBestand = "Pad niet gevonden";
 inline constexpr const char* kProgrammaEind = "";
+inline constexpr const char* kGroteNiets = "/dev/null";
 
 #endif
 

@@ -18,6 +18,14 @@ TijdelijkeMap::TijdelijkeMap() {
 TijdelijkeMap::~TijdelijkeMap() {
   std::error_code fout;
   std::filesystem::remove_all(pad_, fout);
+  if (!fout) return;
+  // What a test has made read-only stays on Windows.
+  using Plekken = std::filesystem::recursive_directory_iterator;
+  for (Plekken plek(pad_, fout), einde; !fout && plek != einde; plek.increment(fout)) {
+    std::filesystem::permissions(plek->path(), std::filesystem::perms::owner_write,
+                                 std::filesystem::perm_options::add, fout);
+  }
+  std::filesystem::remove_all(pad_, fout);
 }
 
 std::string LeesBytes(const std::filesystem::path& pad) {

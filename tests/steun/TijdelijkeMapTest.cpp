@@ -11,6 +11,8 @@ TEST(TijdelijkeMapTest, IsErAlleenZolangHijLeeft) {
     pad = map.Pad();
     EXPECT_TRUE(std::filesystem::is_directory(pad));
     SchrijfBytes(map / "onder/bestand.txt", "inhoud");
+    SchrijfBytes(map / "onder/vast.txt", "inhoud");
+    std::filesystem::permissions(map / "onder/vast.txt", std::filesystem::perms::owner_read);
   }
   EXPECT_FALSE(std::filesystem::exists(pad));
 }

@@ -154,8 +154,10 @@ std::string VulRecord(const Bestandsvorm& vorm, std::string_view regel) {
   return record.Tekst();
 }
 
-std::string UitTabel(std::string_view soort) {
-  std::istringstream tabel(LeesVerhaal("familie-records.txt"));
+constexpr std::string_view kFamilie = "familie-records.txt";
+
+std::string UitTabel(std::string_view bestand, std::string_view soort) {
+  std::istringstream tabel(LeesVerhaal(bestand));
   const std::string kop = "[" + std::string(soort) + "]";
   std::string uit;
   bool hier = false;
@@ -280,10 +282,19 @@ std::string VerhaalVanDeOpmerkingen() {
 }
 
 std::array<VerhaalBestand, 4> VerwachteBestanden() {
-  return {{{"PRS", UitTabel("PRS")},
-           {"RLT", UitTabel("RLT")},
+  return {{{"PRS", UitTabel(kFamilie, "PRS")},
+           {"RLT", UitTabel(kFamilie, "RLT")},
            {"OPM", OpmBytes()},
-           {"PLT", UitTabel("PLT")}}};
+           {"PLT", UitTabel(kFamilie, "PLT")}}};
+}
+
+std::array<VerhaalBestand, 4> GezinBestanden() {
+  std::array<VerhaalBestand, 4> uit = LegeBestanden();
+  for (VerhaalBestand& bestand : uit) {
+    const std::string bytes = UitTabel("gezin-records.txt", bestand.soort);
+    if (!bytes.empty()) bestand.bytes = bytes;
+  }
+  return uit;
 }
 
 std::array<VerhaalBestand, 4> LegeBestanden() {

@@ -24,6 +24,8 @@ struct VerhaalBestand {
   std::string bytes;
 };
 [[nodiscard]] std::array<VerhaalBestand, 4> VerwachteBestanden();
+// Those of a set with one couple and their ten children, who have no places and no remarks.
+[[nodiscard]] std::array<VerhaalBestand, 4> GezinBestanden();
 // Those of a set in which nothing was entered yet.
 [[nodiscard]] std::array<VerhaalBestand, 4> LegeBestanden();
 

@@ -67,6 +67,14 @@ TEST_F(PadenTest, EenLeegPadBlijftLeeg) {
   EXPECT_EQ(VindPad({}), std::filesystem::path());
 }
 
+#ifdef _WIN32
+TEST_F(PadenTest, EenNaamMetEenHalfTekenLijktNergensOp) {
+  SchrijfBytes(map / "a", "x");
+  const std::filesystem::path half = map / L"a\xD800";
+  EXPECT_EQ(VindPad(half), half);
+}
+#endif
+
 TEST_F(PadenTest, EenRelatiefPadBlijftRelatief) {
   EXPECT_EQ(VindPad("er/is/niets"), std::filesystem::path("er/is/niets"));
 }

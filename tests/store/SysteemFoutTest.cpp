@@ -48,6 +48,7 @@ TEST(SysteemFoutTest, BekendeFoutenHebbenHunNummerEnEenNederlandseTekst) {
       {std::errc::filename_too_long, 64, "Bestandsnaam te lang"},
       {std::errc::invalid_argument, 5, "Ongeldige opdracht"},
       {std::errc::not_enough_memory, 7, "Onvoldoende geheugen"},
+      {std::errc::function_not_supported, 73, "Kan niet op dit systeem"},
       {std::errc::cross_device_link, 74, "Andere schijf"},
       {std::errc::bad_file_descriptor, 52, "Bestand is niet open"},
   };
@@ -62,6 +63,27 @@ TEST(SysteemFoutTest, EenOnbekendeFoutHoudtHetNummerVanHetSysteem) {
   EXPECT_EQ(fout.nummer, static_cast<int>(std::errc::address_in_use));
   EXPECT_EQ(fout.tekst, "Fout van het systeem");
 }
+
+#ifdef _WIN32
+TEST(SysteemFoutTest, WatDeBibliotheekNietKentVanWindowsHeeftZijnTekst) {
+  const struct {
+    int windows;
+    const char* tekst;
+  } rijen[] = {
+      {21, "Apparaat niet beschikbaar"},    // no disk in it
+      {1167, "Apparaat niet beschikbaar"},  // pulled out
+      {53, "Apparaat niet beschikbaar"},    // another computer, that is off
+      {1392, "Fout van de schijf"},         // damaged
+      {303, "Bestand is in gebruik"},       // on its way out
+      {225, "Geen toegang"},                // a virus, says the scanner
+      {5, "Geen toegang"},
+      {32, "Bestand is in gebruik"},
+  };
+  for (const auto& rij : rijen) {
+    EXPECT_EQ(FoutVan({rij.windows, std::system_category()}).tekst, rij.tekst) << rij.windows;
+  }
+}
+#endif
 
 TEST(SysteemFoutTest, EenStroomDieMisluktZegtWaaromOfGeeftDeSchijfDeSchuld) {
   errno = 0;

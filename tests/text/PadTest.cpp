@@ -19,6 +19,12 @@ TEST(PadTest, WatWindowsNietHeeftStaatErMetVraagtekensOfAlsBasisletter) {
   EXPECT_EQ(PadTekst(std::filesystem::path(u8"Łódź/Иван")), "Lódz/????"_w);
 }
 
+#ifdef _WIN32
+TEST(PadTest, EenNaamMetEenHalfTekenIsTochTeLezen) {
+  EXPECT_EQ(PadTekst(std::filesystem::path(L"a\xD800 b")), "a? b");
+}
+#endif
+
 TEST(PadTest, EenLeegPadIsEenLegeTekst) {
   EXPECT_EQ(PadTekst({}), "");
   EXPECT_TRUE(PadVan("").empty());

@@ -86,6 +86,13 @@ class Beweringen(unittest.TestCase):
         self.assertEqual([], sorted({een for een in gezegd
                                      if een not in bron and een != "aanhalingstekens"}))
 
+    def test_elke_melding_van_de_controles_wordt_uitgelegd(self):
+        bron = (WORTEL / "src" / "checks" / "Bevinding.cpp").read_text("utf-8")
+        namen = re.findall(r'\{BevindingSoort::\w+,\s*"([^"]*)"\}', bron)
+        self.assertGreater(len(namen), 30)
+        controle = hoofdstuk("Controle")
+        self.assertEqual([naam for naam in namen if f'"{naam}"' not in controle], [])
+
     def test_de_aanhalingstekens_komen_in_paren(self):
         for alinea in re.sub(r"`[^`]*`|<a [^>]*>", " ", zonder_blokken(HANDLEIDING)).split("\n\n"):
             self.assertEqual(alinea.count('"') % 2, 0, alinea)
@@ -179,7 +186,7 @@ class Bladzijde(unittest.TestCase):
         self.assertEqual(set(), (gebruikt | leesmij) - aanwezig)
         self.assertEqual(set(), aanwezig - gebruikt - leesmij)
 
-    @unittest.skipUnless(PAGINA and PAGINA.exists(), "no page was made: pandoc is not there")
+    @unittest.skipUnless(PAGINA and PAGINA.exists(), "no page was made: cmark-gfm is not there")
     def test_de_bladzijde_heeft_haar_plekken_en_beelden(self):
         html = PAGINA.read_text("utf-8")
         plekken = set(re.findall(r'\bid="([^"]+)"', html))

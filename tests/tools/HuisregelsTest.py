@@ -72,6 +72,15 @@ class Includes(Regel):
         self.verwacht("src/store/X.cpp", "#include <fcntl.h>\n", 1, "Platform")
         self.verwacht("src/cli/X.cpp", "#include <sys/types.h>\n", 1, "Platform")
 
+    def test_verwijderen_en_hernoemen_gaat_door_het_platformbestand(self):
+        for naam in ("remove", "remove_all", "rename"):
+            code = f"void F() {{ std::filesystem::{naam}(pad, code); }}\n"
+            self.schoon("src/store/PlatformNamen.cpp", code)
+            self.schoon("tests/store/XTest.cpp", code)
+            self.verwacht("src/app/X.cpp", code, 1, "PlatformNamen")
+            self.verwacht("src/app/X.cpp", code.replace("std::filesystem", "fs"), 1, "PlatformNamen")
+        self.schoon("src/app/X.cpp", "void F() { std::erase(tekst, x); std::ranges::remove(l, x); }\n")
+
     def test_het_lijf_heeft_alleen_de_standaardbibliotheek(self):
         self.schoon("src/cli/X.cpp", "#include <CLI/CLI.hpp>\n")
         self.verwacht("src/app/X.cpp", "#include <CLI/CLI.hpp>\n", 1, "standaardbibliotheek")

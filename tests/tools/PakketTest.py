@@ -42,6 +42,7 @@ class Pakket(unittest.TestCase):
     def test_alles_wat_erbij_hoort_ligt_op_zijn_plaats(self):
         for naam in ("bin/lb77", "bin/lb77-cli", "share/applications/lb77.desktop",
                      "share/icons/hicolor/scalable/apps/lb77.svg",
+                     "share/icons/hicolor/64x64/apps/lb77.png",
                      "share/lb77/voorbeeld/oranje-nassau.ged", "share/lb77/voorbeeld/LIJNBOOM.INI",
                      "share/doc/lb77/copyright", "share/man/man1/lb77.1.gz"):
             self.assertTrue((self.hier / naam).stat().st_size, naam)
@@ -91,10 +92,34 @@ class Pakket(unittest.TestCase):
         with gzip.open(self.deel / "man/man1/lb77.1.gz", "rt", encoding="utf-8") as bestand:
             self.assertIn(f"LB77 {versie}", bestand.readline())
 
-    def vul_aan(self, *woorden):
-        script = (f'. "{self.deel}/bash-completion/completions/lb77-cli"; COMP_WORDS=("$@"); '
-                  'COMP_CWORD=$(($# - 1)); _lb77_cli; printf "%s\\n" "${COMPREPLY[@]}"')
-        return loop("bash", "-c", script, "-", self.cli, *woorden, cwd=self.hier).split()
+    def test_de_handpagina_noemt_elke_keuze_van_elke_opdracht(self):
+        with gzip.open(self.deel / "man/man1/lb77-cli.1.gz", "rt", encoding="utf-8") as bestand:
+            tekst = bestand.read().replace("\\-", "-")
+        for opdracht in self.opdrachten():
+            hulp = loop(self.cli, opdracht, "--help")
+            deel = re.search(rf"\n\.B {re.escape(opdracht)}\n.*?\n\.RE", tekst, re.S).group()
+            keuzes = re.findall(r"^  (--[a-z0-9-]+)", hulp, re.M)
+            self.assertEqual(re.findall(r"^\.B (--[a-z0-9-]+)", deel, re.M), keuzes, opdracht)
+            gebruik = re.search(rf"^Gebruik: .* ({re.escape(opdracht)} .*)$", hulp, re.M).group(1)
+            self.assertIn(f"\n.I {gebruik}\n", deel)
+
+    def test_de_handpagina_van_het_venster_noemt_elke_keuze(self):
+        hulp = loop(str(self.hier / "bin" / "lb77"), "--help")
+        keuzes = re.findall(r"^  (?:-h,)?(--[a-z]+)", hulp, re.M)
+        self.assertIn("--map", keuzes)
+        with gzip.open(self.deel / "man/man1/lb77.1.gz", "rt", encoding="utf-8") as bestand:
+            tekst = bestand.read().replace("\\-", "-")
+        for keuze in keuzes:
+            self.assertRegex(tekst, rf"\n\.TP\n\.BI? (?:-h,)?{keuze}\b")
+        self.assertEqual(sorted(self.vul_aan("--", programma="lb77")), sorted(keuzes))
+
+    def vul_aan(self, *woorden, programma="lb77-cli"):
+        script = (f'. "{self.deel}/bash-completion/completions/{programma}"; COMP_WORDS=("$@"); '
+                  f'COMP_CWORD=$(($# - 1)); _{programma.replace("-", "_")}; '
+                  'printf "%s\\n" "${COMPREPLY[@]}"')
+        uit = loop("bash", "-c", script, "-", str(self.hier / "bin" / programma), *woorden,
+                   cwd=self.hier)
+        return uit.splitlines() if uit.strip() else []
 
     def test_de_aanvulling_kent_opdrachten_keuzes_en_sets(self):
         self.assertIn("kwartierstaat", self.vul_aan("kw"))
@@ -104,6 +129,32 @@ class Pakket(unittest.TestCase):
         werk.mkdir()
         loop(self.cli, "--map", str(werk), "nieuw", "ORANJE")
         self.assertEqual(self.vul_aan("--map", str(werk), "toon", ""), ["ORANJE"])
+        loop(self.cli, "--map", str(werk), "nieuw", "VAN DAM")
+        self.assertEqual(self.vul_aan("--map", str(werk), "toon", "V"), ["VAN\\ DAM"])
+        self.assertEqual(self.vul_aan("--map", str(werk), "toon", "--", "ORANJE", ""), [])
+
+    def test_de_aanvulling_kent_elke_keuze_van_elke_opdracht(self):
+        for opdracht in self.opdrachten():
+            keuzes = re.findall(r"(?:^  |,)(--?[a-z0-9-]+)", loop(self.cli, opdracht, "--help"), re.M)
+            self.assertEqual(sorted(self.vul_aan(opdracht, "-")), sorted(keuzes), opdracht)
+
+    def test_de_aanvulling_geeft_bestanden_waar_een_bestand_hoort(self):
+        werk = self.hier / "bestanden"
+        (werk / "een map").mkdir(parents=True)
+        (werk / "familie.ged").touch()
+        (werk / "brief.txt").touch()
+        begin = str(werk) + "/"
+        alles = [begin + naam for naam in ("brief.txt", "een map", "familie.ged")]
+        for woorden in (("importeer", "ORANJE", begin), ("speel", begin),
+                        ("kwartierstaat", "--uit", begin)):
+            self.assertEqual(sorted(self.vul_aan(*woorden)), alles)
+        for woorden in (("--map", begin), ("kopie", "--naar", begin)):
+            self.assertEqual(self.vul_aan(*woorden), [begin + "een map"])
+        for woorden in (("kwartierstaat", "ORANJE", begin), ("exporteer", "--personen", begin),
+                        ("--klok", begin)):
+            self.assertEqual(self.vul_aan(*woorden), [])
+        self.assertEqual(sorted(self.vul_aan(begin, programma="lb77")), alles[1:])
+        self.assertEqual(self.vul_aan("--map", begin, programma="lb77"), [begin + "een map"])
 
 
 if __name__ == "__main__":

@@ -113,6 +113,21 @@ class Sterf(unittest.TestCase):
             bij += 1
         self.assertGreater(bij, 8)
 
+    def test_een_uitvoer_is_de_vorige_of_heel(self):
+        (self.basis / "UIT").mkdir()
+        (self.basis / "UIT" / "uit.ged").write_bytes(b"eerder")
+        gestorven, bij, nieuwe = True, 1, 0
+        while gestorven:
+            naar = self.basis.parent / "uitvoer" / "UIT" / "uit.ged"
+            _, gestorven = self.sterf(bij, "uitvoer", "exporteer", "FAM", "--utf8", naar, onder="UIT")
+            bytes_ = naar.read_bytes()
+            if bytes_ != b"eerder":
+                nieuwe += 1
+                self.assertTrue(bytes_.endswith(b"\r\n0 TRLR\r\n"), f"operation {bij}")
+            bij += 1
+        self.assertGreater(bij, 3)
+        self.assertGreater(nieuwe, 0)
+
 
 if __name__ == "__main__":
     unittest.main()

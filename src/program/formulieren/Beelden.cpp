@@ -24,7 +24,7 @@ GemaaktFormulier Waaier(Programma& p) {
         return MaakWaaier(Voorbeeld(), {.kleuren = keuzen.kleuren, .titel = "Kwartierstaat"},
                           Helveticamaat());
       },
-      1);
+      BeeldKeuzen{.vorm = 1});
 }
 
 template <const BeeldSoort& kSoort>

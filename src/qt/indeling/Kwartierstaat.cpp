@@ -48,6 +48,7 @@ Blok BladOpties() {
       Groep("Blad",
             {Velden({Rij({"HSK_CBG_Box", "OokNrsBox"}), Rij({"CopyrightBox", "OokLB77Box"})})}),
       Titels(),
+      "UTF8Box",
       Knoppen({"OKButton(*)", "BackButton"}),
   });
 }
