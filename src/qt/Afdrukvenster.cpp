@@ -73,8 +73,14 @@ Afdrukvenster::Afdrukvenster(QWidget* ouder, const Afdruk& afdruk,
   StelPapierIn(printer_);
   beeld_ = new QPrintPreviewWidget(&printer_, this);
   beeld_->setAccessibleName(QString::fromLatin1(kVoorbeeldnaam));
-  QObject::connect(beeld_, &QPrintPreviewWidget::paintRequested, this,
-                   [this](QPrinter* papier) { static_cast<void>(lb77::Druk(*papier, afdruk_)); });
+  QObject::connect(beeld_, &QPrintPreviewWidget::paintRequested, this, [this] {
+    printer_.Begin(this, afdruk_.paginas.size());
+    static_cast<void>(lb77::Druk(printer_, afdruk_));
+    printer_.Klaar();
+    // Half of the sheets is no look at what would be printed.
+    if (!printer_.Gestopt()) return;
+    QMetaObject::invokeMethod(this, &QDialog::reject, Qt::QueuedConnection);
+  });
   auto* kolom = new QVBoxLayout(this);
   kolom->addWidget(beeld_, 1);
   MaakBladerrij();

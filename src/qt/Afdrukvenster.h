@@ -4,10 +4,10 @@
 #include <QDialog>
 #include <QLabel>
 #include <QPrintPreviewWidget>
-#include <QPrinter>
 #include <QPushButton>
 
 #include "forms/Gesprek.h"
+#include "qt/Velprinter.h"
 #include "qt/VensterInstellingen.h"
 #include "store/SysteemFout.h"
 
@@ -28,7 +28,7 @@ class Afdrukvenster final : public QDialog {
 
   const Afdruk& afdruk_;
   VensterInstellingen& instellingen_;
-  QPrinter printer_{QPrinter::HighResolution};
+  Velprinter printer_;
   QPrintPreviewWidget* beeld_;
   QPushButton* vorige_ = nullptr;
   QPushButton* volgende_ = nullptr;

@@ -10,6 +10,7 @@
 #include "qt/Berichtvenster.h"
 #include "qt/Bladzijde.h"
 #include "qt/Stijl.h"
+#include "qt/Velprinter.h"
 #include "qt/Vertaling.h"
 
 namespace lb77 {
@@ -134,7 +135,11 @@ bool Druk(QPagedPaintDevice& papier, const Afdruk& afdruk) {
 }
 
 bool DrukOfMeld(QWidget* ouder, QPagedPaintDevice& papier, const Afdruk& afdruk) {
+  auto* const teller = dynamic_cast<Velprinter*>(&papier);
+  if (teller) teller->Begin(ouder, afdruk.paginas.size());
   const bool gedrukt = Druk(papier, afdruk);
+  if (teller) teller->Klaar();
+  if (teller && teller->Gestopt()) return false;
   const auto* printer = dynamic_cast<const QPrinter*>(&papier);
   if (gedrukt && !(printer && printer->printerState() == QPrinter::Error)) return true;
   static_cast<void>(ToonBericht(ouder, BerichtSoort::Stop, Knoppen::OK,

@@ -13,6 +13,7 @@
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QProcess>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSpinBox>
@@ -24,6 +25,7 @@
 #include "qt/Afdrukvenster.h"
 #include "qt/Bladzijde.h"
 #include "qt/Drukker.h"
+#include "qt/Velprinter.h"
 #include "qt/Vertaling.h"
 #include "steun/Plekken.h"
 #include "steun/SpeelToets.h"
@@ -61,6 +63,69 @@ class DrukkerTest : public testing::Test {
     return static_cast<int>(bestand.readAll().count("/Type /Page\n"));
   }
 };
+
+// Looks at the count of the sheets at each turn of the event loop, and may stop it.
+class Telkijker {
+ public:
+  explicit Telkijker(bool stopt) {
+    QObject::connect(&oog_, &QTimer::timeout, &oog_, [this, stopt] {
+      for (QWidget* een : QApplication::topLevelWidgets()) {
+        auto* teller = qobject_cast<QProgressDialog*>(een);
+        if (!teller || !teller->isVisible()) continue;
+        gezien += teller->labelText();
+        if (stopt) QTest::keyClick(teller, Qt::Key_Escape);
+      }
+    });
+    oog_.start(0);
+  }
+  QStringList gezien;
+
+ private:
+  QTimer oog_;
+};
+
+TEST_F(DrukkerTest, VeelVellenWordenGeteld) {
+  Velprinter papier;
+  papier.setOutputFileName(Pad("veel.pdf"));
+  StelPapierIn(papier);
+  const Telkijker kijker(false);
+  EXPECT_TRUE(DrukOfMeld(nullptr, papier, Proefdruk(60)));
+  EXPECT_EQ(Paginas(Pad("veel.pdf")), 60);
+  EXPECT_TRUE(kijker.gezien.contains(QStringLiteral("Vel 59 van 60 wordt opgemaakt ...")));
+  EXPECT_TRUE(kijker.gezien.contains(QStringLiteral("Vel 60 van 60 wordt opgemaakt ...")));
+  EXPECT_FALSE(papier.Gestopt());
+}
+
+TEST_F(DrukkerTest, WeinigVellenGaanZonderTelling) {
+  Velprinter papier;
+  papier.setOutputFileName(Pad("weinig.pdf"));
+  const Telkijker kijker(false);
+  EXPECT_TRUE(DrukOfMeld(nullptr, papier, Proefdruk(50)));
+  QApplication::processEvents();
+  EXPECT_TRUE(kijker.gezien.isEmpty());
+}
+
+TEST_F(DrukkerTest, EscapeHoudtHetAfdrukkenOp) {
+  Velprinter papier;
+  papier.setOutputFileName(Pad("gestopt.pdf"));
+  const Telkijker kijker(true);
+  EXPECT_FALSE(DrukOfMeld(nullptr, papier, Proefdruk(60)));  // and no box
+  EXPECT_TRUE(papier.Gestopt());
+  EXPECT_EQ(kijker.gezien.size(), 1);
+  papier.setOutputFileName(Pad("daarna.pdf"));
+  EXPECT_TRUE(DrukOfMeld(nullptr, papier, Proefdruk(2)));
+  EXPECT_FALSE(papier.Gestopt());
+}
+
+TEST_F(DrukkerTest, WieHetVoorbeeldStoptIsErWeerUit) {
+  VensterInstellingen instellingen{{}};
+  const Afdruk veel = Proefdruk(60);
+  Afdrukvenster venster(nullptr, veel, instellingen);
+  const Telkijker kijker(true);
+  QTimer::singleShot(20000, &venster, [&venster] { venster.accept(); });
+  EXPECT_EQ(venster.exec(), QDialog::Rejected);
+  EXPECT_EQ(kijker.gezien.size(), 1);
+}
 
 TEST_F(DrukkerTest, EenHeleBladzijdePastOpElkPapier) {
   for (const auto soort : {QPageSize::A4, QPageSize::A5, QPageSize::Letter}) {
