@@ -1,6 +1,7 @@
 // Tab goes through each form as the eye does: to the right, then down; beside each other only by columns.
 #include <gtest/gtest.h>
 
+#include <QImage>
 #include <algorithm>
 #include <string>
 #include <vector>
@@ -59,6 +60,29 @@ TEST_P(TabvolgordeTest, TabGaatZoalsHetOogGaat) {
         EXPECT_TRUE(volgt || anders) << paar;
       }
       vorige = een;
+    }
+    Toets(Qt::Key_Escape);
+  });
+  binder.Voer();
+}
+
+TEST_P(TabvolgordeTest, OveralIsTeZienWaarDeFocusIs) {
+  GemaaktFormulier gemaakt = Maak(GetParam());
+  Formulier& formulier = *gemaakt.formulier;
+  ASSERT_TRUE(formulier.Laad());
+  Binder binder(formulier, gesprek, instellingen_, nullptr);
+  binder.Toon();
+  QTimer::singleShot(0, qApp, [&] {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&binder.Venster()));
+    Toets(Qt::Key_Tab);
+    for (std::size_t i = 0; i < formulier.Bedieningen().size(); ++i) {
+      const std::string hier = Focus();
+      QWidget& widget = *binder.Venster().focusWidget();
+      const QImage met = widget.grab().toImage();
+      Toets(Qt::Key_Tab);
+      if (Focus() != hier) {
+        EXPECT_NE(widget.grab().toImage(), met) << formulier.Naam() << " " << hier;
+      }
     }
     Toets(Qt::Key_Escape);
   });
