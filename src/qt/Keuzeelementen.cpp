@@ -6,6 +6,9 @@
 #include <QFocusEvent>
 #include <QFont>
 #include <QListWidget>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QPen>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScreen>
@@ -133,6 +136,14 @@ class Lijstvak final : public QListWidget {
     const bool leeg = currentRow() < 0;
     QListWidget::focusInEvent(focus);
     if (leeg) setCurrentRow(-1);
+  }
+  // Else a list in which nothing is chosen would not show that it has the focus.
+  void paintEvent(QPaintEvent* verf) override {
+    QListWidget::paintEvent(verf);
+    if (!hasFocus()) return;
+    QPainter rand(viewport());
+    rand.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    rand.drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
   }
 
  private:

@@ -50,14 +50,14 @@ Blok SchemaOpties() {
   return Kolom({
       Stamouder(),
       WieVolgt(),
-      Groep("Schema", {Velden({
+      Groep("Schema", {Velden({"InHTMLBox"}),
+                       Velden({
                            Rij({"HorVerBox", "CentreerBox", "OokDatumsBox"}),
                            Rij({"OokVNamenBox", "PosVNamen", "PosANamen"}),
                            Rij({"OokPartnersBox", "OokVNrsBox", "OokPNrsBox"}),
                        }),
                        Velden({
-                           Rij({"OokRNrsBox", "InHTMLBox"}),
-                           Rij({"CopyrightBox", "OokLB77Box"}),
+                           Rij({"OokRNrsBox", "CopyrightBox", "OokLB77Box"}),
                        })}),
       Velden({"TitelTekst", "Inleiding1", "Inleiding2", "Inleiding3"}),  // as low as a screen is
       Knoppen({"OKButton", "BackButton"}),

@@ -19,7 +19,7 @@ Blok Opties(const std::vector<Blok>& uitvoer) {
       Proband(),
       Groep("Kwartieren", {Velden({
                               Rij({"KwNrProband", "VanafKwartier"}),
-                              Rij({"MaxGen", "KwHerhaalBox"}),
+                              "MaxGen",
                               "BroerZusBox",
                           })}),
       Groep("Uitvoer", {Velden(uitvoer)}),
@@ -95,8 +95,8 @@ Blok Schrijven() {
 std::vector<Indeling> Kwartierstaat() {
   return {
       {"KwstTxtPrs", PersoonPrompt()},
-      {"KwstTxtParam",
-       Opties({Rij({"OokNrsBox", "OokOpmBox"}), Rij({"InHTMLBox", "CopyrightBox"}), "OokLB77Box"})},
+      {"KwstTxtParam", Opties({Rij({"OokNrsBox", "OokOpmBox"}), Rij({"KwHerhaalBox", "InHTMLBox"}),
+                               Rij({"CopyrightBox", "OokLB77Box"})})},
       {"KwHTMLParam", InternetOpties()},
       {"KwstBereken",
        Kolom({
@@ -107,7 +107,7 @@ std::vector<Indeling> Kwartierstaat() {
        })},
       {"KwstMaakTemp", Schrijven()},
       {"KwstIdxPrs", PersoonPrompt()},
-      {"KwstIdxParam", Opties({Rij({"OokNrsBox", "InHTMLBox"}), "HTMLfileTekst",
+      {"KwstIdxParam", Opties({Rij({"OokNrsBox", "KwHerhaalBox"}), "InHTMLBox", "HTMLfileTekst",
                                Rij({"CopyrightBox", "OokLB77Box"})})},
       {"KwidxHTMLParam", InternetOpties()},
       {"KwstIdxTemp", Schrijven()},

@@ -8,13 +8,14 @@ namespace lb77::indeling {
 
 namespace {
 
-Blok Export(std::vector<Blok> namen, const char* start) {
+Blok Export(std::vector<Blok> namen, const char* start, std::vector<Blok> keuzes = {}) {
   return Kolom({
       Velden(std::move(namen)),
       Groep("Selectie", {Rij({"KiesAllesButton", "KiesPersButton", "KiesRelButton"}),
                          Rij({"KiesGenButton", "KiesKwstButton", "KiesBronButton"}),
                          Velden({Rij({"AantalPersonen", "AantalRelaties", "AantalBronnen"})}),
                          "ToonLijstButton"}),
+      Kolom(std::move(keuzes)),
       Groep("Voortgang", {Velden({Rij({"PersonenGedaan", "RelatiesGedaan", "BronnenGedaan"})})}),
       Knoppen({start, "BackButton"}),
   });
@@ -49,7 +50,7 @@ Blok Dump(const char* teller) {
 
 std::vector<Indeling> Uitwisseling() {
   return {
-      {"ExpGedcom", Export({Rij({"Bestandsnaam", "BrowseButton"}), "Utf8Box"}, "OKButton")},
+      {"ExpGedcom", Export({Rij({"Bestandsnaam", "BrowseButton"})}, "OKButton", {"Utf8Box"})},
       {"ExpAscii", Export({Rij({"Bestandsnaam(0)", "BrowseButton(0)"}),
                            Rij({"Bestandsnaam(1)", "BrowseButton(1)"}),
                            Rij({"Bestandsnaam(2)", "BrowseButton(2)"})},
