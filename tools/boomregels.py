@@ -8,6 +8,7 @@ import toetsnamen
 
 # A body file that takes the whole session, and is no form and no control. With its reason.
 HOOFDMODULE_MAG = {
+    "src/app/DataVerhuizing": "closes the set, and opens it in another directory",
     "src/app/Bestandensets": "what the forms of the file sets do alike, start-up included",
     "src/app/SetMaken": "makes a set with the record classes of the session, for three forms",
     "src/app/SetOpenen": "what a set needs of the session when it opens",

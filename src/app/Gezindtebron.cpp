@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "app/IniBestand.h"
-#include "app/Start.h"
 #include "store/Paden.h"
 #include "text/Dos437.h"
 #include "text/Getallen.h"
@@ -78,8 +77,9 @@ bool Neem(IniClass& ini, Rijen& lijst, const Gezindte& nieuw) {
 
 }  // namespace
 
-std::filesystem::path InstellingenBij(const Hoofdmodule& hoofd, const std::filesystem::path& map) {
-  const std::filesystem::path eigen = VindPad(hoofd.programmaMap / kIniBestand);
+std::filesystem::path InstellingenBij(const std::filesystem::path& map,
+                                      const std::filesystem::path& programmaMap) {
+  const std::filesystem::path eigen = VindPad(programmaMap / kIniBestand);
   const std::filesystem::path boven = map.parent_path();
   for (const auto& plek : {map, boven, boven.parent_path()}) {
     std::filesystem::path pad = VindPad(plek / kIniBestand);
@@ -90,23 +90,21 @@ std::filesystem::path InstellingenBij(const Hoofdmodule& hoofd, const std::files
   return {};
 }
 
-std::vector<std::string> NeemGezindten(Hoofdmodule& hoofd,
-                                       const std::filesystem::path& instellingen) {
+std::vector<std::string> NeemGezindten(IniClass& ini, const std::filesystem::path& instellingen) {
   std::vector<std::string> over;
   std::string inhoud;
   if (instellingen.empty() || LeesHeelBestand(instellingen, inhoud)) return over;
-  Rijen lijst = EigenRijen(hoofd.Ini);
+  Rijen lijst = EigenRijen(ini);
   bool genomen = false;
   for (const Gezindte& rij : RijenVan(inhoud)) {
     if (rij.code.empty()) continue;
-    if (Neem(hoofd.Ini, lijst, rij)) {
+    if (Neem(ini, lijst, rij)) {
       genomen = true;
     } else {
       over.push_back(rij.code + " (" + rij.naam + ")");
     }
   }
-  if (genomen) hoofd.Ini.IniSchrijf();
-  VulGezindten(hoofd);
+  if (genomen) ini.IniSchrijf();
   return over;
 }
 

@@ -1,9 +1,12 @@
 #include "app/InWelkeSet.h"
 
 #include <string>
+#include <system_error>
 #include <utility>
 
 #include "app/Bestandensets.h"
+#include "store/Paden.h"
+#include "store/SetPaden.h"
 #include "text/Pad.h"
 #include "text/Tekens.h"
 
@@ -65,10 +68,15 @@ bool InWelkeSet::MaakNieuwe() {
     ZetFocus(SetNaam);
     return false;
   }
+  std::error_code code;
+  const std::filesystem::path map = VindPad(SetPaden::Van(hoofd_.Ini.DataDir(), naam).map);
+  nieuw_ =
+      std::filesystem::symlink_status(map, code).type() == std::filesystem::file_type::not_found;
   return MaakSet(hoofd_, menu_, naam, std::string(Trim(SetOmsch.Tekst())));
 }
 
 bool InWelkeSet::OpenBestaande() {
+  nieuw_ = false;
   const std::string rij = SetPicklist.Tekst();
   // The one that is open stays so.
   if (rij.substr(0, rij.find(',')) == hoofd_.ActieveSetNaam && hoofd_.SetActief()) return true;

@@ -26,6 +26,8 @@ class InWelkeSet final : public Formulier {
 
   // The set is open and the file can be read into it.
   [[nodiscard]] bool Gekozen() const { return gekozen_; }
+  // It was made here, directory and all.
+  [[nodiscard]] bool IsNieuw() const { return gekozen_ && nieuw_; }
 
  protected:
   void BijLaden() override;
@@ -42,6 +44,7 @@ class InWelkeSet final : public Formulier {
   MenuWindow& menu_;
   const std::filesystem::path bestand_;
   bool gekozen_ = false;
+  bool nieuw_ = false;
 };
 
 }  // namespace lb77

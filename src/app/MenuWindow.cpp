@@ -1,6 +1,6 @@
 #include "app/MenuWindow.h"
 
-#include <cstddef>
+#include <algorithm>
 #include <iterator>
 #include <memory>
 #include <optional>
@@ -9,6 +9,7 @@
 #include "app/Bestandensets.h"
 #include "store/Bestandenset.h"
 #include "store/Journaal.h"
+#include "store/SetPaden.h"
 #include "text/Getallen.h"
 #include "text/Letterlijk.h"
 #include "text/Pad.h"
@@ -29,10 +30,12 @@ struct MenuRij {
   std::string_view menu;  // that it stands in, empty for one of the menu bar
   Werking werking = Werking::Start;
   Stand stand = Stand::Altijd;
+  MenuVoor voor = MenuVoor::Draaiboek;  // an entry that only a user has
 };
 
 using enum Werking;
 using enum Stand;
+using enum MenuVoor;
 
 // clang-format off
 constexpr MenuRij kMenu[] = {
@@ -40,6 +43,9 @@ constexpr MenuRij kMenu[] = {
     {"MaakSet", "&Nieuwe Bestandenset", "MenuBestand"},
     {"OpenSet", "&Open Bestandenset", "MenuBestand", Start, SetAanwezig},
     {"VerwijderSet", "Ver&wijder Bestandenset", "MenuBestand"},
+    {"OudeSet", "O&ude bestanden openen...", "MenuBestand", Start, Altijd, Gebruiker},
+    {"GedcomSet", "&GEDCOM in een nieuwe set...", "MenuBestand", Start, Altijd, Gebruiker},
+    {"VoorbeeldSet", "&Voorbeeldfamilie bekijken", "MenuBestand", Start, Altijd, Gebruiker},
     {"ZetIni", "In&stellingen", "MenuBestand", Menu},
     {"SetupGebruiker", "&Gebruiker", "ZetIni"},
     {"SetupGezindte", "Ge&zindten", "ZetIni"},
@@ -126,12 +132,11 @@ constexpr MenuRij kMenu[] = {
 };
 // clang-format on
 
-// The entry of that name; nothing when the menu has none.
-std::optional<std::size_t> VindRij(std::string_view naam) {
-  for (std::size_t i = 0; i < std::size(kMenu); ++i) {
-    if (kMenu[i].naam == naam) return i;
-  }
-  return std::nullopt;
+// The entry of that name; null when the table has none.
+const MenuRij* VindRij(std::string_view naam) {
+  const auto* const rij = std::find_if(std::begin(kMenu), std::end(kMenu),
+                                       [naam](const MenuRij& deze) { return deze.naam == naam; });
+  return rij == std::end(kMenu) ? nullptr : rij;
 }
 
 bool Toegestaan(Stand stand, const Hoofdmodule& hoofd) {
@@ -155,10 +160,11 @@ std::string TeOngedaan(const Bestandenset& bestanden) {
 
 }  // namespace
 
-MenuWindow::MenuWindow(Hoofdmodule& hoofd)
+MenuWindow::MenuWindow(Hoofdmodule& hoofd, MenuVoor voor)
     : Formulier("MenuWindow", "LB77 voor Windows"), hoofd_(hoofd) {
   ZetHulpOnderwerp("starten");
   for (const MenuRij& rij : kMenu) {
+    if (rij.voor == MenuVoor::Gebruiker && voor != MenuVoor::Gebruiker) continue;
     keuzes_.emplace_back(*this, rij.naam, rij.bijschrift, rij.menu).ZetIngeschakeld(false);
   }
   Statusbalk.ZetTekst("Actieve Bestandenset:");
@@ -166,13 +172,14 @@ MenuWindow::MenuWindow(Hoofdmodule& hoofd)
 }
 
 void MenuWindow::Hang(std::string_view naam, std::function<void()> start) {
-  const std::optional<std::size_t> rij = VindRij(naam);
-  if (auto* const knop = rij ? nullptr : dynamic_cast<Knop*>(Zoek(naam))) {
+  Bediening* const keuze = Zoek(naam);
+  if (auto* const knop = dynamic_cast<Knop*>(keuze)) {
     knop->BijKlik([this, start = std::move(start)] { KnopKlik(start); });
     return;
   }
-  if (!rij || kMenu[*rij].werking != Werking::Start) return;
-  keuzes_[*rij].BijKlik([this, start = std::move(start)] { KeuzesKlik(start); });
+  const MenuRij* const rij = keuze ? VindRij(keuze->Naam()) : nullptr;
+  if (!rij || rij->werking != Werking::Start) return;
+  keuze->BijKlik([this, start = std::move(start)] { KeuzeKlik(start); });
 }
 
 Startblad& MenuWindow::MaakStartblad() {
@@ -181,43 +188,45 @@ Startblad& MenuWindow::MaakStartblad() {
 }
 
 bool MenuWindow::Neemt(const std::filesystem::path& bestand) const {
-  return bijBestand_ && Hoofdletters(PadTekst(bestand.extension())) == ".GED";
+  const std::string uitgang = Hoofdletters(PadTekst(bestand.extension()));
+  return bijBestand_ && (uitgang == ".GED" || uitgang == ".GEDCOM");
 }
 
 void MenuWindow::Ontvang(const std::filesystem::path& bestand) {
-  if (Neemt(bestand)) KeuzesKlik([this, &bestand] { bijBestand_(bestand); });
+  if (Neemt(bestand)) KeuzeKlik([this, &bestand] { bijBestand_(bestand); });
 }
 
 void MenuWindow::BijActiveren() {
-  if (begin_) KeuzesKlik(std::exchange(begin_, nullptr));
+  if (begin_) KeuzeKlik(std::exchange(begin_, nullptr));
 }
 
 std::string MenuWindow::WaaromGrijs(const Bediening& bediening) const {
-  const std::optional<std::size_t> rij = VindRij(bediening.Naam());
+  const MenuRij* const rij = VindRij(bediening.Naam());
   if (!rij) return {};
-  if (kMenu[*rij].werking != Werking::Menu && !bediening.HeeftKlik()) {
+  if (rij->werking != Werking::Menu && !bediening.HeeftKlik()) {
     return "Dit onderdeel is er in deze versie niet";
   }
-  return kMenu[*rij].stand == SetAanwezig ? "Er is nog geen bestandenset; maak er eerst een"
-                                          : "Open eerst een bestandenset";
+  return rij->stand == SetAanwezig ? "Er is nog geen bestandenset; maak er eerst een"
+                                   : "Open eerst een bestandenset";
 }
 
 // A button of the start page.
 void MenuWindow::KnopKlik(const std::function<void()>& start) {
-  KeuzesKlik(start);
+  KeuzeKlik(start);
 }
 
-void MenuWindow::KeuzesKlik(const std::function<void()>& start) {
+void MenuWindow::KeuzeKlik(const std::function<void()>& start) {
   start();
   ZetMenu();
   if (hoofd_.Ini.EindeGevraagd()) Sluit();
 }
 
 void MenuWindow::ZetMenu() {
-  for (std::size_t i = 0; i < std::size(kMenu); ++i) {
-    const bool werkt = kMenu[i].werking == Menu || keuzes_[i].HeeftKlik();
-    keuzes_[i].ZetIngeschakeld(werkt && Toegestaan(kMenu[i].stand, hoofd_));
-    if (kMenu[i].naam == "VeiligOngedaan") keuzes_[i].ZetToelichting(TeOngedaan(hoofd_.bestanden));
+  for (MenuKeuze& keuze : keuzes_) {
+    const MenuRij& rij = *VindRij(keuze.Naam());
+    const bool werkt = rij.werking == Menu || keuze.HeeftKlik();
+    keuze.ZetIngeschakeld(werkt && Toegestaan(rij.stand, hoofd_));
+    if (rij.naam == "VeiligOngedaan") keuze.ZetToelichting(TeOngedaan(hoofd_.bestanden));
   }
   if (startblad_) startblad_->WerkBij();
 }
@@ -245,6 +254,10 @@ void MenuWindow::OpenLaatsteSet() {
   std::string naam = hoofd_.Ini.ActieveSet();
   if (naam == kGeenSetActief) naam = hoofd_.Ini.bestandenset(1);
   if (naam == kGeenSetAanwezig) return;
+  if (laatElders_ && IsSetNaam(naam) && IsElders(SetPaden::Van(hoofd_.Ini.DataDir(), naam))) {
+    hoofd_.ActieveSetNaam = kGeenSetActief;
+    return ZetStatus();
+  }
   hoofd_.ActieveSetNaam = naam;
   static_cast<void>(IndexActieveSet(hoofd_));
   static_cast<void>(OpenSetVanRij(hoofd_, *this, naam));

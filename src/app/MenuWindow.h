@@ -18,12 +18,15 @@
 
 namespace lb77 {
 
+// Whose menu it is: the one that scripts know, or that of a user, which has the ways to a family too.
+enum class MenuVoor { Draaiboek, Gebruiker };
+
 // Knows the names, captions and states of all entries; what an entry starts is hung on it from
 // above. An entry without an action is disabled. One window for the whole life of the program: its
 // load opens the set that was used last, its end stores where it stood.
 class MenuWindow final : public Formulier, public Bestandsontvanger, public Redengever {
  public:
-  explicit MenuWindow(Hoofdmodule& hoofd);
+  explicit MenuWindow(Hoofdmodule& hoofd, MenuVoor voor = MenuVoor::Draaiboek);
 
   // Hangs what an entry, or a button of the start page, starts on it; nothing happens for a name that
   // the window does not have or an entry that is greyed for good. An entry that was chosen brings the menu up to date behind its action.
@@ -34,7 +37,10 @@ class MenuWindow final : public Formulier, public Bestandsontvanger, public Rede
   Startblad& MaakStartblad();
   [[nodiscard]] bool VoorGebruiker() const { return startblad_ != nullptr; }
   // Does what the user asked for, and brings the menu up to date behind it.
-  void Doe(const std::function<void()>& start) { KeuzesKlik(start); }
+  void Doe(const std::function<void()>& start) { KeuzeKlik(start); }
+  // At its load the set that was used last stays closed when another run of the program has it: who
+  // comes for something else is not asked about it.
+  void LaatSetElders() { laatElders_ = true; }
   // What is done as soon as the window is on the screen.
   void BijBegin(std::function<void()> doe) { begin_ = std::move(doe); }
   // What is done with a GEDCOM file that the user drops on the window.
@@ -65,7 +71,7 @@ class MenuWindow final : public Formulier, public Bestandsontvanger, public Rede
 
  private:
   void KnopKlik(const std::function<void()>& start);
-  void KeuzesKlik(const std::function<void()>& start);
+  void KeuzeKlik(const std::function<void()>& start);
   void OpenLaatsteSet();
   void Afsluiten();
   // Puts the position in the settings; True when it was another one.
@@ -73,7 +79,8 @@ class MenuWindow final : public Formulier, public Bestandsontvanger, public Rede
 
   Hoofdmodule& hoofd_;
   SetGebruik gebruik_ = SetGebruik::Schrijven;
-  std::deque<MenuKeuze> keuzes_;  // as the table of entries
+  bool laatElders_ = false;
+  std::deque<MenuKeuze> keuzes_;  // in the order of the table of entries
   std::unique_ptr<Startblad> startblad_;
   std::function<void()> begin_;
   std::function<void(const std::filesystem::path&)> bijBestand_;

@@ -7,6 +7,7 @@
 #include "app/Bestandensets.h"
 #include "app/Gezindtebron.h"
 #include "app/SetOpenen.h"
+#include "app/Start.h"
 #include "store/JournaalPlek.h"
 #include "store/Paden.h"
 #include "text/Pad.h"
@@ -131,11 +132,12 @@ void OudeSetForm::OKButtonKlik() {
 
 // Their codes stand in the records, and mean nothing without the names.
 void OudeSetForm::NeemGezindtenVan(const OudeSet& set) {
-  const std::filesystem::path bron = InstellingenBij(hoofd_, set.map);
+  const std::filesystem::path bron = InstellingenBij(set.map, hoofd_.programmaMap);
   std::string over;
-  for (const std::string& gezindte : NeemGezindten(hoofd_, bron)) {
+  for (const std::string& gezindte : NeemGezindten(hoofd_.Ini, bron)) {
     over.append(over.empty() ? "" : ", ").append(gezindte);
   }
+  VulGezindten(hoofd_);
   if (over.empty()) return;
   hoofd_.gesprek.Waarschuw("Deze gezindten uit " + PadTekst(bron) +
                            " zijn niet overgenomen, omdat hun code hier iets anders betekent of de "

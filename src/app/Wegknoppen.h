@@ -10,7 +10,8 @@
 
 namespace lb77 {
 
-enum class Weg { NieuweFamilie, Gedcom, OudeBestanden, Voorbeeld };
+// The last is that of sets that lie there already, and has no button among the four.
+enum class Weg { NieuweFamilie, Gedcom, OudeBestanden, Voorbeeld, Teruggevonden };
 
 // A form takes it as one member.
 class Wegknoppen {

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <optional>
+#include <string>
+#include <vector>
 
 #include "app/Hoofdmodule.h"
 #include "app/Wegknoppen.h"
@@ -14,13 +16,16 @@ namespace lb77 {
 // that cannot be read, and no copy of one.
 [[nodiscard]] bool IsEersteKeer(const std::filesystem::path& programmaMap);
 
-// Choosing a way makes the settings file. Whoever leaves it otherwise has made nothing.
+// Choosing a way makes the settings file. Whoever leaves it otherwise has made nothing. Families that
+// lie in the data directory already are named, and can be taken into the list.
 class Welkom final : public Formulier {
  public:
   explicit Welkom(Hoofdmodule& hoofd);
 
   Label WelkomKop{*this, "WelkomKop", "Welkom bij LB77"};
   Label WelkomUitleg{*this, "WelkomUitleg"};
+  Label GevondenLabel{*this, "GevondenLabel"};
+  Knop Terugnemen{*this, "Terugnemen", "&Deze families weer openen"};
   Label WaarLabel{*this, "WaarLabel"};
   Wegknoppen Wegen{*this};
   Knop BackButton{*this, "BackButton", "&Afsluiten"};
@@ -33,8 +38,10 @@ class Welkom final : public Formulier {
 
  private:
   void WegenKlik(Weg weg);
+  void TerugnemenKlik();
 
   Hoofdmodule& hoofd_;
+  std::vector<std::string> gevonden_;  // sets in the data directory, whose list is gone
   std::optional<Weg> gekozen_;
 };
 

@@ -47,8 +47,9 @@
 
 namespace lb77 {
 
-Programma::Programma(Gesprek& gesprek, const Klok& klok, const std::filesystem::path& programmaMap)
-    : hoofd_(gesprek, klok, programmaMap), menu_(hoofd_) {
+Programma::Programma(Gesprek& gesprek, const Klok& klok, const std::filesystem::path& programmaMap,
+                     MenuVoor voor)
+    : hoofd_(gesprek, klok, programmaMap), menu_(hoofd_, voor) {
   HangOp();
 }
 

@@ -13,7 +13,8 @@ namespace lb77 {
 // One session with its main window. `programmaMap` is the program's directory.
 class Programma {
  public:
-  Programma(Gesprek& gesprek, const Klok& klok, const std::filesystem::path& programmaMap);
+  Programma(Gesprek& gesprek, const Klok& klok, const std::filesystem::path& programmaMap,
+            MenuVoor voor = MenuVoor::Draaiboek);
 
   // Brings the program up to the point where the main window can show; False when it must end.
   [[nodiscard]] bool Start();

@@ -1,6 +1,8 @@
 #include "program/Vensterloop.h"
 
+#include "app/DataVerhuizing.h"
 #include "app/Handleiding.h"
+#include "app/IniSysteem.h"
 #include "app/SetOpenen.h"
 #include "app/Welkom.h"
 #include "entry/StartRecord.h"
@@ -33,6 +35,17 @@ void HangStartbladOp(Programma& programma, Wegen& wegen) {
                                     {"OpenButton", "OpenSet"}}) {
     menu.Hang(knop, [&menu, keuze = keuze] { menu.Klik(*menu.Zoek(keuze)); });
   }
+  for (const auto& [keuze, weg] : {std::pair{"OudeSet", Weg::OudeBestanden},
+                                   {"GedcomSet", Weg::Gedcom},
+                                   {"VoorbeeldSet", Weg::Voorbeeld}}) {
+    menu.Hang(keuze, [&wegen, weg = weg] { wegen.Ga(weg); });
+  }
+  menu.Hang("SetupSysteem", [&menu, &hoofd] {
+    DataVerhuizing verhuizing(hoofd, menu);
+    hoofd.gesprek.Toon<IniSysteem>(
+        hoofd, [&verhuizing](const std::filesystem::path& data) { return verhuizing.Mag(data); });
+    verhuizing.RondAf();
+  });
   menu.BijBestand([&wegen](const std::filesystem::path& bestand) { wegen.LeesGedcom(bestand); });
 }
 
@@ -65,7 +78,7 @@ class Handleidingsweg {
 }  // namespace
 
 void VoerVoorGebruiker(Gesprek& gesprek, const Klok& klok, const Opstart& opstart) {
-  Programma programma(gesprek, klok, opstart.programmaMap);
+  Programma programma(gesprek, klok, opstart.programmaMap, MenuVoor::Gebruiker);
   Wegen wegen(programma.Hoofd(), programma.Menu(), opstart.installatie);
   HangStartbladOp(programma, wegen);
   const Handleidingsweg handleiding(programma, opstart.installatie);
@@ -77,6 +90,7 @@ void VoerVoorGebruiker(Gesprek& gesprek, const Klok& klok, const Opstart& opstar
     if (!eerst) return;
   }
   if (!programma.Start()) return;
+  if (opstart.bestand) programma.Menu().LaatSetElders();
   programma.Menu().BijBegin([&wegen, &opstart, eerst] {
     const bool meegegeven = opstart.bestand.has_value();
     if (eerst && !(meegegeven && eerst == Weg::Gedcom)) wegen.Ga(*eerst);

@@ -1,20 +1,23 @@
 #include "program/Wegen.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <system_error>
 #include <utility>
 
 #include "app/Bestandensets.h"
-#include "app/HeelBestand.h"
+#include "app/Gezindtebron.h"
 #include "app/InWelkeSet.h"
 #include "app/Installatie.h"
 #include "app/NieuweSet.h"
 #include "app/OudeSetForm.h"
 #include "app/SetMaken.h"
+#include "app/SetVerwijderen.h"
 #include "app/Start.h"
 #include "exchange/ImpGedcom.h"
+#include "store/Platform.h"
 #include "text/Pad.h"
 #include "text/Tekens.h"
 
@@ -34,22 +37,31 @@ std::string VoorbeeldRij(const IniClass& ini) {
   return {};
 }
 
-// Who has no denominations yet gets those that the sample uses: without them their names would be
-// cut to two letters.
-void NeemGezindten(Hoofdmodule& hoofd, const std::filesystem::path& instellingen) {
-  if (!hoofd.Ini.IniWaarde("Namenfile", "Gez1").empty()) return;
-  std::string tekst;
-  if (LeesHeelBestand(instellingen, tekst)) return;
-  for (std::size_t begin = 0; begin < tekst.size();) {
-    const std::size_t eind = std::min(tekst.find('\n', begin), tekst.size());
-    std::string regel = tekst.substr(begin, eind - begin);
-    begin = eind + 1;
-    if (regel.ends_with('\r')) regel.pop_back();
-    const std::size_t plek = regel.find('=');
-    if (!regel.starts_with("Gez") || plek == std::string::npos) continue;
-    hoofd.Ini.IniZet("Namenfile", regel.substr(0, plek), Trim(regel.substr(plek + 1)));
+// True when what stands at the beginning is that of a GEDCOM file, in whatever encoding.
+bool BegintAlsGedcom(std::string_view begin) {
+  constexpr std::size_t kKop = 64;
+  std::string tekens;  // without blanks, byte order marks and the zeros of UTF-16
+  for (const char teken : begin.substr(0, kKop)) {
+    if (teken > ' ' && teken <= '~') tekens += teken;
   }
-  VulGezindten(hoofd);
+  return Hoofdletters(tekens).starts_with("0HEAD");
+}
+
+SysteemFout LeesBegin(const std::filesystem::path& bestand, std::string& begin) {
+  constexpr std::size_t kBegin = 256;
+  Bestandsgreep greep;
+  if (SysteemFout fout = greep.Open(bestand, Openwijze::AlleenLezen)) return fout;
+  begin.resize(kBegin);
+  Leesuitslag uitslag = greep.Lees(0, begin);
+  begin.resize(uitslag.gelezen);
+  return std::move(uitslag.fout);
+}
+
+// Nothing but the records 1.
+bool IsLeeg(Bestandenset& bestanden) {
+  return std::ranges::all_of(kBestandSoorten, [&bestanden](BestandSoort soort) {
+    return bestanden.Bestand(soort).Lengte() <= RecordLengteVan(soort);
+  });
 }
 
 }  // namespace
@@ -67,6 +79,8 @@ void Wegen::Ga(Weg weg) {
       return hoofd_.gesprek.Toon<OudeSetForm>(hoofd_, menu_);
     case Weg::Voorbeeld:
       return ToonVoorbeeld();
+    case Weg::Teruggevonden:
+      return;  // the main window has opened the first of them
   }
 }
 
@@ -77,14 +91,57 @@ void Wegen::VraagGedcom() {
 }
 
 void Wegen::LeesGedcom(const std::filesystem::path& bestand) {
-  std::error_code code;
-  if (!std::filesystem::is_regular_file(bestand, code)) {
-    hoofd_.gesprek.Waarschuw("Het bestand " + PadTekst(bestand) + " is er niet");
-    return;
-  }
+  if (!IsBruikbaar(bestand)) return;
+  const std::string eerder = OpenSetNaam(hoofd_);
   InWelkeSet vraag(hoofd_, menu_, bestand);
   hoofd_.gesprek.ToonModaal(vraag);
-  if (vraag.Gekozen()) hoofd_.gesprek.Toon<ImpGedcom>(hoofd_, bestand);
+  if (!vraag.Gekozen()) return HeropenSet(hoofd_, menu_, eerder);
+  hoofd_.gesprek.Toon<ImpGedcom>(hoofd_, bestand);
+  if (vraag.IsNieuw()) RuimLegeSet(eerder);
+}
+
+bool Wegen::IsBruikbaar(const std::filesystem::path& bestand) {
+  Gesprek& gesprek = hoofd_.gesprek;
+  const std::string naam = PadTekst(bestand);
+  std::error_code code;
+  const std::filesystem::file_type soort = std::filesystem::status(bestand, code).type();
+  if (soort == std::filesystem::file_type::not_found) {
+    gesprek.Waarschuw("Het bestand " + naam + " is er niet");
+    return false;
+  }
+  if (soort == std::filesystem::file_type::directory) {
+    gesprek.Waarschuw(naam + " is een map en geen GEDCOM-bestand");
+    return false;
+  }
+  std::string begin;
+  if (const SysteemFout fout = LeesBegin(bestand, begin)) {
+    gesprek.Fout("Het bestand " + naam + " kan niet worden gelezen\n" + fout.tekst);
+    return false;
+  }
+  if (begin.empty()) {
+    gesprek.Waarschuw("Het bestand " + naam + " is leeg");
+    return false;
+  }
+  return BegintAlsGedcom(begin) ||
+         gesprek.VraagBedacht(naam +
+                              " ziet er niet uit als een GEDCOM-bestand: het begint niet met "
+                              "0 HEAD.\nToch inlezen ?");
+}
+
+// Whoever came to read a file has no use for it.
+void Wegen::RuimLegeSet(const std::string& eerder) {
+  if (!hoofd_.SetActief() || !IsLeeg(hoofd_.bestanden)) return;
+  const std::string naam = hoofd_.ActieveSetNaam;
+  hoofd_.bestanden.SluitAlles();
+  if (const int index = hoofd_.Ini.BestandenSetIndex(naam); index > 0) HaalUitLijst(hoofd_, index);
+  if (hoofd_.Ini.EindeGevraagd()) return;
+  VerwijderSetVanSchijf(hoofd_.gesprek, hoofd_.Ini.DataDir(), naam);
+  const bool leeg = hoofd_.Ini.AantalBestandenSets() == 0;
+  hoofd_.ActieveSetNaam = leeg ? kGeenSetAanwezig : kGeenSetActief;
+  menu_.ZetStatus();
+  hoofd_.gesprek.Waarschuw("Er is niets ingelezen. De lege bestandenset " + naam +
+                           " is weer weggehaald.");
+  HeropenSet(hoofd_, menu_, eerder);
 }
 
 void Wegen::ToonVoorbeeld() {
@@ -100,9 +157,17 @@ void Wegen::ToonVoorbeeld() {
   }
   const std::string naam = VrijeSetNaam(hoofd_, kVoorbeeldSet);
   if (!KanNieuweSetZijn(hoofd_, naam)) return;
-  if (!MaakSet(hoofd_, menu_, naam, std::string(kVoorbeeldOms))) return;
-  NeemGezindten(hoofd_, bestand->parent_path() / "LIJNBOOM.INI");
+  const std::string eerder = OpenSetNaam(hoofd_);
+  if (!MaakSet(hoofd_, menu_, naam, std::string(kVoorbeeldOms))) {
+    return HeropenSet(hoofd_, menu_, eerder);
+  }
+  // Without them the denominations of the sample would be cut to two letters.
+  if (hoofd_.Ini.IniWaarde("Namenfile", "Gez1").empty()) {
+    static_cast<void>(NeemGezindten(hoofd_.Ini, bestand->parent_path() / "LIJNBOOM.INI"));
+    VulGezindten(hoofd_);
+  }
   hoofd_.gesprek.Toon<ImpGedcom>(hoofd_, *bestand, ImpWijze::Vanzelf);
+  RuimLegeSet(eerder);
 }
 
 }  // namespace lb77

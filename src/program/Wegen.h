@@ -2,6 +2,7 @@
 #pragma once
 
 #include <filesystem>
+#include <string>
 #include <vector>
 
 #include "app/Hoofdmodule.h"
@@ -21,6 +22,11 @@ class Wegen {
 
  private:
   void VraagGedcom();
+  // Whether the file can be read into a set; what is against it has been told.
+  [[nodiscard]] bool IsBruikbaar(const std::filesystem::path& bestand);
+  // Takes the set that was just made for a file from the list and the disk when nothing came into it,
+  // and opens the one that was open before.
+  void RuimLegeSet(const std::string& eerder);
   // Opens the sample family, made anew from its GEDCOM file when the list does not have it.
   void ToonVoorbeeld();
 

@@ -65,6 +65,20 @@ std::filesystem::path Gesleept(const Formulier& formulier, const QMimeData& inho
   return ontvanger->Neemt(pad) ? pad : std::filesystem::path();
 }
 
+// Why what is dragged cannot be let go here; empty when it can, or when the form takes no files at all.
+QString WaaromNiet(const Formulier& formulier, const QMimeData& inhoud) {
+  const QList<QUrl> plekken = inhoud.urls();
+  if (!dynamic_cast<const Bestandsontvanger*>(&formulier) || plekken.isEmpty()) return {};
+  if (plekken.size() > 1) return QStringLiteral("Sleep een GEDCOM-bestand tegelijk hierheen");
+  if (!plekken.front().isLocalFile()) {
+    return QStringLiteral("Dit bestand staat niet op deze computer; bewaar het eerst hier");
+  }
+  if (!Gesleept(formulier, inhoud).empty()) return {};
+  return QStringLiteral("Alleen een GEDCOM-bestand (.ged) kan hierheen worden gesleept");
+}
+
+constexpr int kMeldTijd = 8000;  // ms
+
 }  // namespace
 
 bool HeeftMenu(const Formulier& formulier) {
@@ -211,6 +225,7 @@ void Hoofdvenster::moveEvent(QMoveEvent* plek) {
 
 void Hoofdvenster::dragEnterEvent(QDragEnterEvent* sleep) {
   if (!Gesleept(formulier_, *sleep->mimeData()).empty()) sleep->acceptProposedAction();
+  statusBar()->showMessage(WaaromNiet(formulier_, *sleep->mimeData()), kMeldTijd);
 }
 
 // Behind the event: who dragged it waits for its end, and dialogs follow.

@@ -19,9 +19,9 @@ constexpr Sneltoets kSneltoetsen[] = {
 };
 
 constexpr std::string_view kGroepen[] = {
-    "ZetIni",      "ImportData",  "ViewTekst",     "Controle",    "KeuzeAfsluiten", "SetupToetsen",
-    "DumpPrs",     "InvPlaats",   "InvoerAkten",   "IndexKwst",   "UitvPKaart",     "SchemaGen",
-    "SchemaGezin", "BeeldWaaier", "RapportTakken", "VeiligKopie", "AboutLB77",
+    "OudeSet",      "ZetIni",      "ImportData",  "ViewTekst",     "Controle",    "KeuzeAfsluiten",
+    "SetupToetsen", "DumpPrs",     "InvPlaats",   "InvoerAkten",   "IndexKwst",   "UitvPKaart",
+    "SchemaGen",    "SchemaGezin", "BeeldWaaier", "RapportTakken", "VeiligKopie", "AboutLB77",
 };
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include "app/SessieToets.h"
 #include "app/ZonderRechten.h"
 #include "steun/Gouden.h"
+#include "store/Platform.h"
 #include "text/Unicode.h"
 
 namespace lb77 {
@@ -45,6 +46,58 @@ TEST_F(Hoofdvenster, HetHeleMenuStaatErInDeVolgordeVanDeTabel) {
            }),
            "");
   VerwachtGouden("MENU.TXT", WindowsNaarUtf8(menu));
+}
+
+// Behind the entries of the menu of scripts, which stays what it is.
+TEST_F(Hoofdvenster, EenGebruikerHeeftOokDeWegenNaarEenFamilie) {
+  ZetIni("");
+  std::string erbij;
+  Verwacht("", MetMenu([&](Hoofdmodule& hoofd, MenuWindow& draaiboek) {
+             MenuWindow venster(hoofd, MenuVoor::Gebruiker);
+             std::string eerder;
+             for (const Bediening* b : venster.Bedieningen()) {
+               if (b->Soort() != BedieningSoort::MenuKeuze) continue;
+               const auto& keuze = static_cast<const MenuKeuze&>(*b);
+               if (!draaiboek.Zoek(b->Naam())) {
+                 erbij += keuze.Menu() + " | " + keuze.Naam() + " | " + keuze.Bijschrift() + "\n";
+                 EXPECT_TRUE(eerder == "VerwijderSet" || eerder.ends_with("Set")) << eerder;
+               }
+               eerder = keuze.Naam();
+             }
+             std::string gedaan;
+             for (const char* naam : {"OudeSet", "GedcomSet", "VoorbeeldSet"}) {
+               venster.Hang(naam, [&gedaan, naam] { gedaan += naam; });
+             }
+             venster.ZetMenu();
+             for (const char* naam : {"OudeSet", "GedcomSet", "VoorbeeldSet"}) {
+               EXPECT_TRUE(venster.Zoek(naam)->Ingeschakeld()) << naam;
+               venster.Klik(*venster.Zoek(naam));
+             }
+             EXPECT_EQ(gedaan, "OudeSetGedcomSetVoorbeeldSet");
+           }),
+           "");
+  VerwachtGouden("MENU_ERBIJ.TXT", WindowsNaarUtf8(erbij));
+}
+
+TEST_F(Hoofdvenster, EenSetDieEldersOpenIsKanDichtBlijven) {
+  ZetSet();
+  Bestandsgreep ander;
+  ASSERT_FALSE(ander.Open(map_ / "DATA/ABC/ABC.PRS"));
+  ASSERT_FALSE(ander.Vergrendel());
+  Verwacht("", MetMenu([](Hoofdmodule& hoofd, MenuWindow& menu) {
+             menu.LaatSetElders();
+             EXPECT_TRUE(menu.Laad());
+             EXPECT_EQ(hoofd.ActieveSetNaam, "<geen bestandenset actief>");
+             EXPECT_EQ(menu.StatusTekst(), "Actieve bestandenset: <geen bestandenset actief>");
+           }),
+           "");
+  ander.Sluit();
+  Verwacht("", MetMenu([](Hoofdmodule& hoofd, MenuWindow& menu) {
+             menu.LaatSetElders();
+             EXPECT_TRUE(menu.Laad());
+             EXPECT_EQ(hoofd.ActieveSetNaam, "ABC");
+           }),
+           "");
 }
 
 TEST_F(Hoofdvenster, ElkMenuIsEenEntryDieErVoorStaat) {

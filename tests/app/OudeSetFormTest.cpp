@@ -301,10 +301,12 @@ TEST_F(OudeSetVenster, EenVolleLijstNeemtNietsMeer) {
     vol += "Gez" + GetalTekst(i) + "=" + GetalTekst(10 + i) + "Naam\n";
   }
   ZetIni(vol);
-  Schrijf("disk/LIJNBOOM.INI", "[Namenfile]\r\nGez1=RKRooms-Katholiek\r\n");
+  std::filesystem::create_directories(map_ / "diep");
+  std::filesystem::rename(map_ / "disk", map_ / "diep/disk");
+  Schrijf("diep/LIJNBOOM.INI", "[Namenfile]\r\nGez1=RKRooms-Katholiek\r\n");
   const auto programma = MetMenu(
       [](Hoofdmodule& hoofd, MenuWindow& menu) { Toont<OudeSetForm>(hoofd, menu)(hoofd.gesprek); });
-  EXPECT_EQ(Speel("vul OudeMap disk\ndruk OKButton", programma).reden, "");
+  EXPECT_EQ(Speel("vul OudeMap diep/disk\ndruk OKButton", programma).reden, "");
   EXPECT_NE(verslag_.find("lijst vol is:\\nRK (Rooms-Katholiek)"), std::string::npos) << verslag_;
   EXPECT_TRUE(IniHeeft("Gez20=30Naam"));
 }

@@ -170,6 +170,7 @@ TEST_F(StartbladVenster, AlleenEenGedcomBestandWordtAangenomen) {
   Speel("sluit", Venster([this](Hoofdmodule&, MenuWindow& menu) {
           EXPECT_TRUE(menu.Neemt("/elders/a.ged"));
           EXPECT_TRUE(menu.Neemt("/elders/A.GED"));
+          EXPECT_TRUE(menu.Neemt("/elders/a.gedcom"));
           EXPECT_FALSE(menu.Neemt("/elders/a.txt"));
           menu.Ontvang("/elders/a.txt");
           EXPECT_EQ(gebracht_, "");

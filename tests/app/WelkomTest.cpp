@@ -3,6 +3,7 @@
 #include "app/ZonderRechten.h"
 #include "steun/Bestandsstelsel.h"
 #include "steun/FaalBestand.h"
+#include "text/Getallen.h"
 
 namespace lb77 {
 namespace {
@@ -26,6 +27,8 @@ TEST_F(WelkomVenster, ZegtWaarDeGegevensKomenEnBiedtVierWegen) {
       : Welkom "LB77 voor Windows"
       = WelkomKop "Welkom bij LB77"
       = WelkomUitleg "LB77 houdt de gegevens van uw familie bij en schrijft er de verslagen van die genealogen gebruiken. Kies hoe u wilt beginnen; alles wat u kiest kunt u later ook nog doen."
+      = GevondenLabel "" [verborgen]
+      = Terugnemen "&Deze families weer openen" [verborgen]
       = WaarLabel "Uw gegevens komen te staan in de map\n<map>/DATA\nen gaan nergens anders heen. Een andere map kiest u later onder Bestand, Instellingen, Systeem."
       = NieuweFamilie "&Nieuwe familie"
       = NieuweUitleg "Begin met niets en voer de eerste persoon zelf in."
@@ -82,6 +85,46 @@ TEST_F(WelkomVenster, WieDanStoptKiestNiets) {
       ? uitroep OK/Annuleren "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\n)") +
                kAchterBestand + R"(" -> Annuleren
       - Welkom)");
+  EXPECT_FALSE(gekozen_);
+}
+
+TEST_F(WelkomVenster, FamiliesDieErAlZijnWordenGenoemdEnTeruggenomen) {
+  MaakSet("ORANJE");
+  MaakSet("JANSEN");
+  Verwacht("toon GevondenLabel\ntoon Terugnemen\ntoets Enter", Toont(), kOpen + std::string(R"(
+      = GevondenLabel "Er staan hier al families: JANSEN, ORANJE. Alleen de instellingen zijn weg, met de lijst van families erin; de families niet."
+      = Terugnemen "&Deze families weer openen"
+      - Welkom)"));
+  EXPECT_EQ(gekozen_, Weg::Teruggevonden);
+  EXPECT_TRUE(IniHeeft("Set1=JANSEN,"));
+  EXPECT_TRUE(IniHeeft("Set2=ORANJE,"));
+}
+
+TEST_F(WelkomVenster, WieZeLaatStaanHeeftEenLegeLijst) {
+  MaakSet("JANSEN");
+  Verwacht("druk NieuweFamilie", Toont(), kOpen + std::string("- Welkom"));
+  EXPECT_EQ(gekozen_, Weg::NieuweFamilie);
+  EXPECT_FALSE(IniHeeft("Set1=JANSEN,"));
+  EXPECT_TRUE(Bestaat("DATA/JANSEN/JANSEN.PRS"));
+}
+
+TEST_F(WelkomVenster, MeerFamiliesDanDeLijstHoudtWordenGemeld) {
+  for (int i = 1; i <= 100; ++i) {
+    const std::string naam = "F" + GetalTekst(i);
+    Schrijf("DATA/" + naam + "/" + naam + ".PRS", "x");
+  }
+  Speel("druk Terugnemen", Toont());
+  EXPECT_NE(verslag_.find("De lijst met bestandensets is vol"), std::string::npos) << verslag_;
+  EXPECT_TRUE(IniHeeft("Set99=F98,"));
+}
+
+TEST_F(WelkomVenster, TerugnemenBlijftStaanAlsDeInstellingenNietTeMakenZijn) {
+  if (!ZonderRechten::kKan) GTEST_SKIP() << ZonderRechten::kWaarom;
+  MaakSet("JANSEN");
+  const ZonderRechten rechten(map_);
+  Verwacht("antwoord OK\ndruk Terugnemen\ndruk BackButton", Toont(), kOpen + std::string(R"(
+      ? uitroep OK/Annuleren "Fout bij het openen van het IniBestand (LIJNBOOM.INI)\nGeen toegang" -> OK
+      - Welkom)"));
   EXPECT_FALSE(gekozen_);
 }
 

@@ -248,19 +248,26 @@ bool Sleep(QWidget& venster, const QList<QUrl>& plekken) {
 TEST_F(HoofdvensterTest, EenBestandDatErOpValtGaatNaarHetFormulier) {
   Ontvanger ontvanger;
   const QUrl ged = QUrl::fromLocalFile("/elders/oma.ged");
-  Voer(ontvanger, {[&] {
-                     EXPECT_TRUE(Sleep(Hoofd(), {ged}));
-                     EXPECT_FALSE(Sleep(Hoofd(), {QUrl::fromLocalFile("/elders/oma.txt")}));
-                     EXPECT_FALSE(Sleep(Hoofd(), {ged, ged}));
-                     EXPECT_FALSE(Sleep(Hoofd(), {QUrl("https://elders/oma.ged")}));
-                   },
-                   [&] { QTest::qWait(5); }, [&] { Actie("KeuzeAfsluiten").trigger(); }});
+  Voer(ontvanger,
+       {[&] {
+          const auto status = [&] { return Hoofd().statusBar()->currentMessage(); };
+          EXPECT_FALSE(Sleep(Hoofd(), {QUrl::fromLocalFile("/elders/oma.txt")}));
+          EXPECT_EQ(status(), "Alleen een GEDCOM-bestand (.ged) kan hierheen worden gesleept");
+          EXPECT_FALSE(Sleep(Hoofd(), {ged, ged}));
+          EXPECT_EQ(status(), "Sleep een GEDCOM-bestand tegelijk hierheen");
+          EXPECT_FALSE(Sleep(Hoofd(), {QUrl("https://elders/oma.ged")}));
+          EXPECT_EQ(status(), "Dit bestand staat niet op deze computer; bewaar het eerst hier");
+          EXPECT_TRUE(Sleep(Hoofd(), {ged}));
+          EXPECT_EQ(status(), "");
+        },
+        [&] { QTest::qWait(5); }, [&] { Actie("KeuzeAfsluiten").trigger(); }});
   EXPECT_THAT(ontvanger.gebracht, testing::ElementsAre("/elders/oma.ged"));
 }
 
 TEST_F(HoofdvensterTest, EenFormulierDatGeenBestandenNeemtKrijgtZeNiet) {
   Voer(vorm, {[&] {
          EXPECT_FALSE(Sleep(Hoofd(), {QUrl::fromLocalFile("/elders/oma.ged")}));
+         EXPECT_EQ(Hoofd().statusBar()->currentMessage(), "");
          Actie("KeuzeAfsluiten").trigger();
        }});
 }

@@ -33,6 +33,7 @@ TEST_F(JournaalPlekTest, EenSetInZijnEigenMapHeeftJournaal) {
   fs::create_directories(data_ / "JAN");
   EXPECT_EQ(JournaalPlek(data_ / "JAN", "JAN"), data_ / "JAN/JOURNAAL");
   EXPECT_EQ(JournaalPlek(data_ / "JAN", "jan"), data_ / "JAN/JOURNAAL");
+  EXPECT_EQ(JournaalPlek(data_ / "NIETS", "NIETS"), data_ / "NIETS/JOURNAAL");
   Leg(data_ / "JAN/PIET.PRS");
   EXPECT_EQ(JournaalPlek(data_ / "JAN", "JAN"), data_ / "JAN/JOURNAAL");
 }

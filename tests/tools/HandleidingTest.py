@@ -45,9 +45,11 @@ def teksten_van_het_programma():
 
 
 def menu():
-    """The captions of the menu as paths: "Bestand > Afsluiten"."""
+    """The captions of a user's menu as paths: "Bestand > Afsluiten"."""
     bovenaan, paden = {}, set()
-    for regel in (WORTEL / "tests" / "gouden" / "MENU.TXT").read_text("utf-8").splitlines():
+    regels = [regel for naam in ("MENU.TXT", "MENU_ERBIJ.TXT")
+              for regel in (WORTEL / "tests" / "gouden" / naam).read_text("utf-8").splitlines()]
+    for regel in regels:
         if regel.count("|") != 2:
             continue
         boven, naam, bijschrift = (deel.strip().replace("&", "") for deel in regel.split("|"))

@@ -9,6 +9,8 @@ std::vector<Indeling> Sets() {
        Kolom({
            "WelkomKop",
            "WelkomUitleg",
+           "GevondenLabel",
+           Rij({"Terugnemen"}),
            Rooster({Rij({"NieuweFamilie", "NieuweUitleg"}), Rij({"GedcomInlezen", "GedcomUitleg"}),
                     Rij({"OudeBestanden", "OudeUitleg"}),
                     Rij({"Voorbeeldfamilie", "VoorbeeldUitleg"})}),
