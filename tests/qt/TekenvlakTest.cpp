@@ -122,7 +122,7 @@ TEST_F(TekenvlakTest, HetBeeldVerdwijntNooitUitZicht) {
   });
 }
 
-TEST_F(TekenvlakTest, PageDownGaatVanPersoonTotPersoonEnTabGaatVerder) {
+TEST_F(TekenvlakTest, DeBladtoetsenGaanVanPersoonTotPersoonEnTabGaatVerder) {
   Bekijk([&] {
     EXPECT_EQ(Focus(), "Beeld");
     Toets(Qt::Key_PageDown);
