@@ -19,6 +19,7 @@ struct Tijdstip {
   int seconde = 0;
 
   // In order of time.
+  // NOLINTNEXTLINE(modernize-use-nullptr): the zero is the compiler's own
   [[nodiscard]] auto operator<=>(const Tijdstip&) const = default;
 };
 

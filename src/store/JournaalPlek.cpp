@@ -47,8 +47,8 @@ bool IsEnigeSet(const fs::path& map, std::string_view set) {
 }
 
 fs::path JournaalPlek(const fs::path& map, std::string_view set) {
-  const fs::path gewoon = VindPad(map / kJournaal);
-  const fs::path eigen = VindPad(map / PadVan(std::string(kJournaal) + "." + Hoofdletters(set)));
+  fs::path gewoon = VindPad(map / kJournaal);
+  fs::path eigen = VindPad(map / PadVan(std::string(kJournaal) + "." + Hoofdletters(set)));
   if (IsMap(eigen)) return eigen;
   if (Heet(EigenNaam(map), set)) return gewoon;
   // A directory that got another name since.
