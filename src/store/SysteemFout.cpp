@@ -45,13 +45,13 @@ constexpr std::array kRegels = {
 
 }  // namespace
 
-SysteemFout FoutVan(const std::error_code& systeem) {
-  if (!systeem) return {};
-  const std::error_code code = Herkend(systeem);
+SysteemFout FoutVan(const std::error_code& code) {
+  if (!code) return {};
+  const std::error_code bekend = Herkend(code);
   for (const Regel& regel : kRegels) {
-    if (code == regel.code) return {regel.nummer, std::string(regel.tekst)};
+    if (bekend == regel.code) return {regel.nummer, std::string(regel.tekst)};
   }
-  return {code.value(), "Fout van het systeem"};
+  return {bekend.value(), "Fout van het systeem"};
 }
 
 SysteemFout FoutVanStroom() {
