@@ -66,7 +66,8 @@ class BestandsvensterTest : public Vensterproef {
     return vraag();
   }
   void Kies(QFileDialog& venster, const char* naam) const {
-    venster.findChild<QLineEdit*>()->setText(map_.filePath(QLatin1String(naam)));
+    venster.findChild<QLineEdit*>()->setText(
+        QDir(map_.path()).absoluteFilePath(QLatin1String(naam)));
     static_cast<QDialog&>(venster).accept();
   }
   [[nodiscard]] std::filesystem::path Pad(const char* naam) const {
@@ -100,8 +101,9 @@ TEST_F(BestandsvensterTest, OpslaanVoegtDeExtensieVanHetFilterToe) {
 }
 
 TEST_F(BestandsvensterTest, WatAchterEenPuntInDeNaamStaatIsNogGeenExtensie) {
-  EXPECT_EQ(Vraag(BestandsWijze::Opslaan, [this](QFileDialog& v) { Kies(v, "Stamboom W.F. Jansen"); }),
-            Pad("Stamboom W.F. Jansen.GED"));
+  EXPECT_EQ(
+      Vraag(BestandsWijze::Opslaan, [this](QFileDialog& v) { Kies(v, "Stamboom W.F. Jansen"); }),
+      Pad("Stamboom W.F. Jansen.GED"));
   EXPECT_EQ(Vraag(BestandsWijze::Opslaan, [this](QFileDialog& v) { Kies(v, "oma.Ged"); }),
             Pad("oma.Ged"));
   const std::string naam = "Kwartierstaat W.F. Jansen";
