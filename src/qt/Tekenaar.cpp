@@ -182,7 +182,7 @@ SysteemFout ZetNeer(const std::filesystem::path& pad, const QByteArray& bytes) {
   std::filesystem::path naast = pad;
   naast += ".~";
   std::error_code code;
-  std::filesystem::remove(naast, code);  // left by a run that was killed
+  static_cast<void>(VerwijderVanSchijf(naast, code));  // left by a run that was killed
   Bestandsgreep greep;
   SysteemFout fout = greep.Open(naast, Openwijze::Nieuw);
   if (!fout) fout = greep.Schrijf(0, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
@@ -192,7 +192,7 @@ SysteemFout ZetNeer(const std::filesystem::path& pad, const QByteArray& bytes) {
     HernoemOpSchijf(naast, pad, code);
     fout = FoutVan(code);
   }
-  if (fout) std::filesystem::remove(naast, code);
+  if (fout) static_cast<void>(VerwijderVanSchijf(naast, code));
   return fout;
 }
 

@@ -66,7 +66,8 @@ class BestandsvensterTest : public Vensterproef {
     return vraag();
   }
   void Kies(QFileDialog& venster, const char* naam) const {
-    venster.findChild<QLineEdit*>()->setText(map_.filePath(QLatin1String(naam)));
+    venster.findChild<QLineEdit*>()->setText(
+        QDir(map_.path()).absoluteFilePath(QLatin1String(naam)));
     static_cast<QDialog&>(venster).accept();
   }
   [[nodiscard]] std::filesystem::path Pad(const char* naam) const {
