@@ -7,6 +7,7 @@
 #include "app/OudeSets.h"
 #include "app/SetOpenen.h"
 #include "store/Paden.h"
+#include "store/PlatformNamen.h"
 #include "text/Pad.h"
 
 namespace lb77 {
@@ -49,7 +50,7 @@ void Ruim(const SetPaden& paden) {
   const fs::path map = VindPad(paden.map);
   std::error_code code;
   if (IsKoppeling(map)) {
-    fs::remove(map, code);
+    static_cast<void>(VerwijderVanSchijf(map, code));
   } else {
     RuimKopie(paden);
   }

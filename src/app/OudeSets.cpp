@@ -242,7 +242,7 @@ SysteemFout KoppelOudeSet(const OudeSet& set, const SetPaden& doel) {
 
 void RuimKopie(const SetPaden& doel) {
   std::error_code code;
-  fs::remove_all(VindPad(doel.map), code);
+  VerwijderMapVanSchijf(VindPad(doel.map), code);
 }
 
 void RuimKoppeling(const OudeSet& set, const SetPaden& doel, bool lagErAl) {

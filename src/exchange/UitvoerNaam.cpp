@@ -6,6 +6,7 @@
 #include "app/Bestandensets.h"
 #include "app/IniBestand.h"
 #include "app/KopiePlek.h"
+#include "store/JournaalPlek.h"
 #include "store/Paden.h"
 #include "store/PlatformNamen.h"
 
@@ -64,7 +65,8 @@ std::string BeschermdeRol(const std::filesystem::path& bestand,
     for (const auto& map : KopieMappenIn(programmaMap, KopiePlek(programmaMap), set).mappen) {
       if (LigtIn(bestand, map)) return "van een veiligheidskopie";
     }
-    if (LigtIn(bestand, paden.map / "JOURNAAL")) return "van het journaal van bestandenset " + set;
+    if (LigtIn(bestand, JournaalPlek(paden.map, set)))
+      return "van het journaal van bestandenset " + set;
   }
   return {};
 }
