@@ -109,7 +109,7 @@ class KeuzevakElement final : public Element {
 // choice of the user's.
 class Lijstvak final : public QListWidget {
  public:
-  using QListWidget::QListWidget;
+  explicit Lijstvak(QWidget* ouder) : QListWidget(ouder) { setSpacing(kTussenRijen); }
 
   void ZetRegels(const QStringList& rijen) {
     clear();
@@ -126,7 +126,7 @@ class Lijstvak final : public QListWidget {
   }
   // As wide as its widest row.
   [[nodiscard]] QSize sizeHint() const override {
-    const int breedte = breedste_ + 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
+    const int breedte = breedste_ + 2 * (frameWidth() + kTussenRijen) + verticalScrollBar()->sizeHint().width();
     return QListWidget::sizeHint().expandedTo({breedte, 0});
   }
 
@@ -171,6 +171,7 @@ class Lijstvak final : public QListWidget {
     venster.move(std::max(ruimte.left(), std::min(venster.x(), uiterste)), venster.y());
   }
 
+  static constexpr int kTussenRijen = 2;  // pixels: the line of the focus touches no row
   int breedste_ = 0;
 };
 
