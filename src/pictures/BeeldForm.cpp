@@ -102,6 +102,7 @@ void BeeldForm::BijLaden() {
   OokJaarBox.ZetJa(begin_.jaren);
   OokJaarBox.ZetZichtbaar(soort_.kwartieren);
   std::vector<std::string> maten;
+  maten.reserve(kPapiermaten.size());
   for (const Papiermaat& maat : kPapiermaten) maten.emplace_back(maat.naam);
   Vul(PapierBox, std::move(maten), 0);
   StandBox.ZetIndex(1);
@@ -203,7 +204,7 @@ bool BeeldForm::MaakBestand() {
   return false;
 }
 
-std::optional<std::string> BeeldForm::BewaarSvg(const std::filesystem::path& naar) {
+std::optional<std::string> BeeldForm::BewaarSvg(const std::filesystem::path& naar) const {
   const SysteemFout fout = KopieerTekst(Pad(), naar);
   return fout ? std::optional(fout.tekst) : std::nullopt;
 }

@@ -85,7 +85,7 @@ class BeeldForm final : public KetenFormulier {
   void BeeldDubbelklik();
   void KaartButtonKlik();
   void OKButtonKlik();
-  [[nodiscard]] std::optional<std::string> BewaarSvg(const std::filesystem::path& naar);
+  [[nodiscard]] std::optional<std::string> BewaarSvg(const std::filesystem::path& naar) const;
 
   const BeeldSoort& soort_;
   int generaties_;

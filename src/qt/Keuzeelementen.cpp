@@ -126,7 +126,8 @@ class Lijstvak final : public QListWidget {
   }
   // As wide as its widest row.
   [[nodiscard]] QSize sizeHint() const override {
-    const int breedte = breedste_ + 2 * (frameWidth() + kTussenRijen) + verticalScrollBar()->sizeHint().width();
+    const int breedte =
+        breedste_ + 2 * (frameWidth() + kTussenRijen) + verticalScrollBar()->sizeHint().width();
     return QListWidget::sizeHint().expandedTo({breedte, 0});
   }
 

@@ -188,6 +188,20 @@ TEST_F(GedcomSchrijverToets, OpmerkingenOnderEenRelatieTellenNietAlsWeggelaten) 
   EXPECT_EQ(LogEinde(), "Exporteren voltooid\n");
 }
 
+TEST_F(GedcomSchrijverToets, ElkeRubriekVanEenRelatieHeeftHaarRegel) {
+  const std::int16_t nr = Bouw().Persoon('?', "", "");
+  for (const int deze : {-1, -2, -4, -8, -32, -64}) {
+    Bouw().OpmerkingBijPersoon(nr, static_cast<std::int16_t>(deze), {"r" + std::to_string(deze)});
+  }
+  Bouw().WijzigPersoon(nr, {{"OpmCode", "127"}});
+  const std::int16_t relatie = Bouw().Relatie(0, 0);
+  static_cast<void>(Persoon(nr));
+  EXPECT_EQ(
+      Relatie(relatie),
+      "1 MARB\n2 DATE 0000\n3 NOTE r-2\n2 PLAC \n3 NOTE r-1\n1 MARR\n2 DATE 0000\n3 NOTE r-8\n"
+      "2 PLAC \n3 NOTE r-4\n2 DATE 0000\n3 NOTE r-64\n2 PLAC \n3 NOTE r-32\n");
+}
+
 TEST_F(GedcomSchrijverToets, WatAchterEenKorteOpmerkingKomtWordtEenmaalGeteld) {
   const std::int16_t een = Bouw().Persoon('?', "", "");
   const std::int16_t twee = Bouw().Persoon('?', "", "");

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <map>
 
 #include "pictures/Boomplaatsing.h"
@@ -87,10 +88,20 @@ TEST(Boomplaatsing, DezelfdeTakHeeftOveralDezelfdeVorm) {
   }
 }
 
+// Trees of every shape: each node has up to four children, most have none.
 TEST(Boomplaatsing, NooitRaaktIemandEenAnder) {
-  for (int keer = 2; keer < 60; ++keer) {
-    VerwachtNet(Boom(200, [keer](int i) { return (i - 1) * 3 / (keer % 5 + 4) + (i * keer % 1); }));
-    VerwachtNet(Boom(200, [keer](int i) { return std::max(0, (i - 1) / (1 + keer % 4)); }));
+  std::uint32_t worp = 1;
+  for (int keer = 0; keer < 400; ++keer) {
+    Knopen knopen{{-1, 10}};
+    for (std::size_t ouder = 0; ouder < knopen.size() && knopen.size() < 120; ++ouder) {
+      worp = worp * 1103515245U + 12345U;
+      const std::uint32_t kinderen =
+          (worp >> 16U) % 5U * ((worp >> 24U) % 2U) + (ouder < 3 ? 2 : 0);
+      for (std::uint32_t k = 0; k < kinderen; ++k) {
+        knopen.push_back({static_cast<int>(ouder), 3.0 + (worp >> 20U) % 9U});
+      }
+    }
+    VerwachtNet(knopen);
   }
 }
 

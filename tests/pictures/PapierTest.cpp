@@ -89,6 +89,15 @@ TEST(Papier, ElkeVormHoudtZijnVel) {
   }
 }
 
+TEST(Papier, OokVeelVellenPassenPrecies) {
+  for (int meer = 1; meer < 60; ++meer) {
+    EXPECT_EQ(VerdeelOverVellen(VanMaat(190 + 180.0 * meer, 10), kA4, Stand::Staand,
+                                Verdeling::WareGrootte)
+                  .kolommen,
+              meer + 1);
+  }
+}
+
 TEST(Papier, ZoGrootAlsHetBeeldIsEenVelZonderMarge) {
   const Vellen vellen = VerdeelOverVellen(VanMaat(400, 500), kPapiermaten.back(), Stand::Liggend,
                                           Verdeling::WareGrootte);
