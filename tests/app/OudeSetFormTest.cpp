@@ -14,6 +14,7 @@ constexpr const char* kOpen = "+ OudeSetForm \"Oude Bestanden Openen\"\n";
 class OudeSetVenster : public SessieToets {
  protected:
   std::string actief_;
+  std::string eersteGezindte_;
   void SetUp() override {
     ZetIni("");
     basismap_ = map_;
@@ -34,6 +35,7 @@ class OudeSetVenster : public SessieToets {
     Verwacht(script, MetMenu([this](Hoofdmodule& hoofd, MenuWindow& menu) {
                Toont<OudeSetForm>(hoofd, menu)(hoofd.gesprek);
                actief_ = hoofd.ActieveSetNaam;
+               eersteGezindte_ = hoofd.schrijfwijze.gezindten[1];
              }),
              kOpen + MetMap(verslag), plek);
   }
@@ -270,6 +272,7 @@ TEST_F(OudeSetVenster, GezindtenUitDeOudeInstellingenKomenMee) {
   Speelt("vul OudeMap disk\ndruk OKButton", "- OudeSetForm");
   EXPECT_TRUE(IniHeeft("Gez1=RKRooms-Katholiek")) << Ini();
   EXPECT_TRUE(IniHeeft("Gez2=LUEvang. Luth\x82rs")) << Ini();
+  EXPECT_EQ(eersteGezindte_, "RKRooms-Katholiek");  // also in what is written from now on
 }
 
 TEST_F(OudeSetVenster, WatHierIetsAndersBetekentWordtGenoemd) {
