@@ -104,9 +104,14 @@ void ExportForm::ToonAantallen() {
 }
 
 void ExportForm::ToonGedaan(const ExpTelling& telling) {
-  PersonenGedaan.ZetTekst(GetalTekst(telling.personen));
-  RelatiesGedaan.ZetTekst(GetalTekst(telling.relaties));
-  BronnenGedaan.ZetTekst(GetalTekst(telling.bronnen));
+  const auto toon = [this, &telling](Teller& teller, std::int32_t ExpTelling::*aantal) {
+    if (getoond_ && *getoond_.*aantal == telling.*aantal) return;
+    teller.ZetTekst(GetalTekst(telling.*aantal));
+  };
+  toon(PersonenGedaan, &ExpTelling::personen);
+  toon(RelatiesGedaan, &ExpTelling::relaties);
+  toon(BronnenGedaan, &ExpTelling::bronnen);
+  getoond_ = telling;
 }
 
 }  // namespace lb77

@@ -74,6 +74,7 @@ class ExportForm : public UitvoerForm {
   ExpSelectie selectie_;
   std::unique_ptr<ExpSchrijver> schrijver_;
   ExpTelling telling_;
+  std::optional<ExpTelling> getoond_;  // what the counters say
   bool vol_ = false;
 };
 
