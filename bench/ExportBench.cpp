@@ -12,6 +12,7 @@
 #include "VolleSet.h"
 #include "exchange/ExpUitvoer.h"
 #include "exchange/GedcomSchrijver.h"
+#include "store/VooruitLezen.h"
 
 namespace lb77::bench {
 namespace {
@@ -57,6 +58,7 @@ void Exporteer(Bronnen& bron, const ExpSelectie& selectie, const std::filesystem
        uit,
        log},
       {.nu = {2000, 1, 1, 0, 0, 0}, .bestandsnaam = "UIT.GED", .set = "MEET"});
+  const VooruitLezen vooruit(bron.bestanden);
   const ExpVerloop verloop{.doorgaan = [&uit] { return !uit.Fout(); },
                            .toon = [](const ExpTelling&) {}};
   schrijver.LogSlot(LoopSelectie(schrijver, selectie, verloop));

@@ -9,6 +9,7 @@
 #include "output/ToonTekst.h"
 #include "store/Paden.h"
 #include "store/SetPaden.h"
+#include "store/VooruitLezen.h"
 #include "text/Getallen.h"
 #include "text/Pad.h"
 #include "text/Tekens.h"
@@ -146,7 +147,10 @@ SysteemFout UitvoerForm::Voer(bool& metLog) {
 SysteemFout UitvoerForm::VoerMetLog(UitvoerBestanden& bestanden) {
   bestanden.Log().Regel("Start export (" + Stempel(hoofd_.klok.Nu()) + ")");
   if (SysteemFout fout = OpenUit(bestanden)) return fout;
-  Schrijf(bestanden);
+  {
+    const VooruitLezen vooruit(hoofd_.bestanden);
+    Schrijf(bestanden);
+  }
   if (SysteemFout fout = bestanden.SluitUit()) return fout;
   // A log that is full has ended the run.
   if (SysteemFout fout = bestanden.Log().Fout()) return fout;

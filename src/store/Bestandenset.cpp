@@ -170,6 +170,12 @@ std::uint64_t Bestandenset::Stand(BestandSoort soort) const {
   return vak.eerder + (vak.bestand ? vak.bestand->Wijzigingen() : 0);
 }
 
+void Bestandenset::LeesVooruit(bool aan) {
+  for (const Vak& vak : vakken_) {
+    if (vak.bestand) vak.bestand->LeesVooruit(aan);
+  }
+}
+
 SysteemFout Bestandenset::Veiligstellen() {
   SysteemFout eerste;
   for (const Vak& vak : vakken_) {

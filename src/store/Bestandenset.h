@@ -95,6 +95,9 @@ class Bestandenset {
   // memory compares it to know whether it is stale.
   std::uint64_t Stand(BestandSoort soort) const;
 
+  // For all open files; see VooruitLezen.
+  void LeesVooruit(bool aan);
+
   // Brings all four files to the disk itself; the first error, after having tried all.
   [[nodiscard]] SysteemFout Veiligstellen();
 

@@ -25,6 +25,7 @@ class JournaalBestand final : public RecordBestand {
   // Undone with its action, like a write; what the journal itself cuts does not come by here.
   [[nodiscard]] SysteemFout Kap(std::uint64_t lengte) override;
   std::uint64_t Lengte() override { return bestand_->Lengte(); }
+  void LeesVooruit(bool aan) override { bestand_->LeesVooruit(aan); }
   std::int64_t Wijzigtijd() override { return bestand_->Wijzigtijd(); }
   [[nodiscard]] SysteemFout Vergrendel() override { return bestand_->Vergrendel(); }
   [[nodiscard]] SysteemFout Veiligstellen() override { return bestand_->Veiligstellen(); }

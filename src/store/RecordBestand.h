@@ -30,6 +30,10 @@ class RecordBestand {
   // The size of the file in bytes; 0 when it cannot be told.
   virtual std::uint64_t Lengte() = 0;
 
+  // Whether reads may take more of the file into memory than they are asked for, as VooruitLezen
+  // wants it.
+  virtual void LeesVooruit(bool) {}
+
   // Brings everything written to the disk itself.
   [[nodiscard]] virtual SysteemFout Veiligstellen() = 0;
 

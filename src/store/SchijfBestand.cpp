@@ -14,17 +14,31 @@ SysteemFout SchijfBestand::Open(const std::filesystem::path& pad) {
 
 Leesuitslag SchijfBestand::Lees(std::int32_t nr, std::span<char> doel) {
   if (nr < 1) return {0, FoutRecordNummer()};
-  return greep_.Lees(Plaats(nr), doel.first(std::min(doel.size(), recordLengte_)));
+  const std::span<char> record = doel.first(std::min(doel.size(), recordLengte_));
+  return venster_ ? venster_->Lees(greep_, Plaats(nr), record) : greep_.Lees(Plaats(nr), record);
+}
+
+void SchijfBestand::LeesVooruit(bool aan) {
+  if (aan) {
+    venster_.emplace();
+  } else {
+    venster_.reset();
+  }
+}
+
+void SchijfBestand::Tel() {
+  ++wijzigingen_;
+  if (venster_) venster_->Leeg();
 }
 
 SysteemFout SchijfBestand::Schrijf(std::int32_t nr, std::span<const char> bron) {
   if (nr < 1) return FoutRecordNummer();
-  ++wijzigingen_;
+  Tel();
   return greep_.Schrijf(Plaats(nr), bron);
 }
 
 SysteemFout SchijfBestand::Kap(std::uint64_t lengte) {
-  ++wijzigingen_;
+  Tel();
   return greep_.Kap(lengte);
 }
 

@@ -1,8 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "steun/TijdelijkeMap.h"
 #include "store/Bestandenset.h"
 #include "store/Handeling.h"
+#include "store/VooruitLezen.h"
 
 using namespace lb77;
 
@@ -123,4 +126,17 @@ TEST_F(JournaalOpSchijfTest, DeVierBestandenZelfBlijvenGelijkAanDieZonderJournaa
   ASSERT_FALSE(Schrijf(3, 'y'));
   EXPECT_EQ(LeesBytes(paden.prs),
             std::string(128, 'x') + std::string(128, '\0') + std::string(128, 'y'));
+}
+
+TEST_F(JournaalOpSchijfTest, VooruitLezenGaatDoorHetJournaalHeen) {
+  for (std::int32_t nr = 1; nr <= 3; ++nr) ASSERT_FALSE(Schrijf(nr, 'a'));
+  const VooruitLezen vooruit(bestanden);
+  std::array<char, 128> doel{};
+  RecordBestand& bestand = bestanden.Bestand(BestandSoort::Personen);
+  for (std::int32_t nr = 1; nr <= 2; ++nr) EXPECT_EQ(bestand.Lees(nr, doel).gelezen, 128U);
+  Bestandsgreep vreemd;
+  ASSERT_FALSE(vreemd.Open(paden.prs));
+  ASSERT_FALSE(vreemd.Schrijf(256, std::string(128, 'b')));
+  EXPECT_EQ(bestand.Lees(3, doel).gelezen, 128U);
+  EXPECT_EQ(doel.front(), 'a');
 }
