@@ -55,16 +55,7 @@ std::string GezinDelen::RelatieNummer() const {
 }
 
 std::string GezinDelen::Zin(const Gebeurtenispaar& paar) {
-  return DatumZin({paar.label1,
-                   paar.label2,
-                   {},
-                   paar.een.plaatsNr,
-                   paar.een.dagMaand,
-                   paar.een.jaar,
-                   paar.corr,
-                   paar.twee.plaatsNr,
-                   paar.twee.dagMaand,
-                   paar.twee.jaar},
+  return DatumZin(DelenVan(paar.label1, paar.een, paar.corr, paar.label2, paar.twee),
                   bronnen_.plaats, bronnen_.schrijfwijze.DatumScheider);
 }
 

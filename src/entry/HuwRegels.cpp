@@ -4,6 +4,7 @@
 
 #include "forms/Gesprek.h"
 #include "store/Codes.h"
+#include "store/Partner.h"
 #include "store/PersoonLB77.h"
 #include "store/RelatieLB77.h"
 #include "text/Getallen.h"
@@ -23,7 +24,7 @@ std::vector<HuwRegel> LeesHuwRegels(PersoonLB77& persoon, RelatieLB77& relatie, 
   for (std::size_t i = 1; i < tab.size() && tab[i] > 0; ++i) {
     HuwRegel regel;
     regel.relatie = tab[i];
-    if (relatie.Lees(tab[i])) regel.partner = isMan ? relatie.VrouwNr() : relatie.ManNr();
+    if (relatie.Lees(tab[i])) regel.partner = PartnerVan(relatie, persoonNr, isMan);
     persoon.HeleNaam(regel.partner, regel.voornaam, regel.achternaam, "<onbekend>");
     if (regel.partner == 0) regel.achternaam = "<onbekend>";
     regels.push_back(regel);

@@ -18,8 +18,8 @@ struct HuwRegel {
   std::string achternaam;
 };
 
-// At most five, in the order of the person's list, up to the first empty place. The partner is the
-// woman of a man, else the man. A continuation record that can't be read is told (stop symbol), and
+// At most five, in the order of the person's list, up to the first empty place. The partner is that
+// of PartnerVan. A continuation record that can't be read is told (stop symbol), and
 // what it holds is left out. The buffers of both classes change; HuidigPersoonNr is `persoonNr`.
 [[nodiscard]] std::vector<HuwRegel> LeesHuwRegels(PersoonLB77& persoon, RelatieLB77& relatie,
                                                   Gesprek& gesprek, std::int16_t persoonNr);

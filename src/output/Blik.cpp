@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "output/Zinsbouw.h"
+#include "store/Partner.h"
 
 namespace lb77 {
 

@@ -191,6 +191,12 @@ void Bouw::KortEersteDatumIn() {
 
 }  // namespace
 
+DatumZinDelen DelenVan(std::string_view voor1, const Gebeurtenis& een, std::string_view corr,
+                       std::string_view voor2, const Gebeurtenis& twee) {
+  return {voor1,         voor2,         {},       een.plaatsNr, een.dagMaand, een.jaar, corr,
+          twee.plaatsNr, twee.dagMaand, twee.jaar};
+}
+
 std::string DatumZin(const DatumZinDelen& delen, PlaatsLB77& plaats, char scheider) {
   Bouw bouw(delen);
   bouw.ZoekNamen(plaats);

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "output/Gebeurtenis.h"
 #include "store/PlaatsLB77.h"
 
 namespace lb77 {
@@ -26,6 +27,11 @@ struct DatumZinDelen {
 
 // A `Plaats1` that asks for the date alone.
 inline constexpr std::int16_t kAlleenDatum = -1;
+
+// The parts of a pair of events; `voor1` and `voor2` open them. They hold views of the texts.
+[[nodiscard]] DatumZinDelen DelenVan(std::string_view voor1, const Gebeurtenis& een,
+                                     std::string_view corr, std::string_view voor2,
+                                     const Gebeurtenis& twee);
 
 // The phrase; empty when neither event is known. Place names are read from `plaats`, whose buffer
 // changes. `scheider` stands between day, month and year.

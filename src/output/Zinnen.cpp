@@ -6,6 +6,7 @@
 
 #include "output/Zinsbouw.h"
 #include "store/Codes.h"
+#include "store/Partner.h"
 #include "text/Getallen.h"
 
 namespace lb77 {

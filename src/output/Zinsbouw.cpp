@@ -136,17 +136,9 @@ void Zinsbouw::Paar(const Levenspaar& paar, int opmCode) {
     PaarUiteen(paar);
     return;
   }
-  const std::string zin = DatumZin({paar.label1,
-                                    paar.label2InPaar,
-                                    {},
-                                    paar.een.plaatsNr,
-                                    paar.een.dagMaand,
-                                    paar.een.jaar,
-                                    paar.corr,
-                                    paar.twee.plaatsNr,
-                                    paar.twee.dagMaand,
-                                    paar.twee.jaar},
-                                   bronnen_.plaats, bronnen_.schrijfwijze.DatumScheider);
+  const std::string zin =
+      DatumZin(DelenVan(paar.label1, paar.een, paar.corr, paar.label2InPaar, paar.twee),
+               bronnen_.plaats, bronnen_.schrijfwijze.DatumScheider);
   if (!zin.empty()) uit_.Aan(MetKomma(zin));
 }
 
@@ -240,13 +232,11 @@ void Zinsbouw::Samen(const Huwelijk& huwelijk, unsigned samen) {
   const Gebeurtenis& een = metOndertrouw ? huwelijk.ondertrouw : huwelijk.wettig;
   const Gebeurtenis& twee = metKerk ? huwelijk.kerk : huwelijk.wettig;
   // kept: only the pair of civil and church marriage tells the correction of the date.
-  const std::string zin =
-      DatumZin({metOndertrouw ? kOndertrouwLabel : huwelijk.label1,
-                metKerk ? huwelijk.label2 : huwelijk.label1, huwelijk.voorvoegsel, een.plaatsNr,
-                een.dagMaand, een.jaar, metOndertrouw ? std::string_view{} : huwelijk.corr,
-                twee.plaatsNr, twee.dagMaand, twee.jaar},
-               bronnen_.plaats, bronnen_.schrijfwijze.DatumScheider);
-  uit_.Aan(MetKomma(zin));
+  DatumZinDelen delen = DelenVan(metOndertrouw ? kOndertrouwLabel : huwelijk.label1, een,
+                                 metOndertrouw ? std::string_view{} : huwelijk.corr,
+                                 metKerk ? huwelijk.label2 : huwelijk.label1, twee);
+  delen.Woord = huwelijk.voorvoegsel;
+  uit_.Aan(MetKomma(DatumZin(delen, bronnen_.plaats, bronnen_.schrijfwijze.DatumScheider)));
   // kept: a report tells the general remark here, and again on lines of its own
   uit_.Rubriek(relatierubriek::kAlgemeen);
 }
@@ -256,14 +246,6 @@ std::string RelatieVoorvoegsel(std::int16_t relNr, int volgNr, bool isEerste, bo
   if (!isEerste) uit = "(" + GetalTekst(volgNr) + ")";
   if (ookNrs) uit += " [" + GetalTekst(relNr) + "]";
   return uit;
-}
-
-std::int16_t PartnerVan(const RelatieLB77& relatie, std::int16_t nr, bool isMan) {
-  const std::int16_t man = relatie.ManNr();
-  const std::int16_t vrouw = relatie.VrouwNr();
-  const std::int16_t partner = isMan ? vrouw : man;
-  if (partner != nr) return partner;
-  return isMan ? man : vrouw;
 }
 
 }  // namespace lb77

@@ -68,8 +68,4 @@ class Zinsbouw {
 // " [" + record number + "]".
 std::string RelatieVoorvoegsel(std::int16_t relNr, int volgNr, bool isEerste, bool ookNrs);
 
-// The partner of `nr` in the relation in the buffer: the woman of a man (`isMan`), else the man;
-// where that is the person himself, the other of the two. 0 for none.
-std::int16_t PartnerVan(const RelatieLB77& relatie, std::int16_t nr, bool isMan);
-
 }  // namespace lb77

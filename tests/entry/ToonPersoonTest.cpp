@@ -170,6 +170,24 @@ TEST_F(ToonPersoonTest, DeRelatiesStaanOpHunRegels) {
   )");
 }
 
+// Also of two of one sex, and of one who stands on the side of the other sex.
+TEST_F(ToonPersoonTest, NiemandIsZijnEigenPartner) {
+  Bouw().Vrouw("Anna", "Vos");
+  Bouw().Vrouw("Bea", "Bos");
+  Bouw().Relatie(2, 3);
+  Bouw().Relatie(2, 0);
+  OpPersoon("toon RecordNrP(1)\ntoon VoorNmP(1)\ntoon RecordNrP(2)\ntoon AchterNmP(2)", 2, R"(
+    = RecordNrP(1) "3"
+    = VoorNmP(1) "Bea"
+    = RecordNrP(2) ""
+    = AchterNmP(2) "<onbekend>"
+  )");
+  OpPersoon("toon RecordNrP(1)\ntoon VoorNmP(1)", 3, R"(
+    = RecordNrP(1) "2"
+    = VoorNmP(1) "Anna"
+  )");
+}
+
 TEST_F(ToonPersoonTest, VijfRelatiesLatenGeenPlaatsVoorEenZesde) {
   Bouw().Man("Jan", "Vos");
   for (int i = 0; i < 5; ++i) Bouw().Relatie(2, Bouw().Vrouw("Anna", "Bos"));
