@@ -202,7 +202,7 @@ bool GenSchrijver::SchrijfPartner(const GezinBlik& gezin, Van van) {
 void GenSchrijver::SchrijfRelatieOpm(const GezinBlik& gezin) {
   if (!verteller_.Opties().ookOpm || std::abs(int{gezin.opmCode}) <= kGebeurtenisRubrieken) return;
   BreekAf(1);
-  verteller_.SchrijfRubriekOpm(gezin.opmRecord, gezin.opmCode, kRubriekRelatie, false);
+  verteller_.SchrijfRubriekOpm(gezin.opmRecord, gezin.opmCode, kRubriekRelatie, true);
 }
 
 bool GenSchrijver::SchrijfKinderen(const Kindtab& kinderen) {
