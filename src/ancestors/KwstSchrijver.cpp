@@ -148,8 +148,11 @@ bool KwstSchrijver::SchrijfKind(const KwstKind& kind, bool vanProband) {
 
 bool KwstSchrijver::SchrijfAndereRelaties(std::int16_t nr, std::int16_t hoofdRel, bool eenOverslaan,
                                           int& volgNr) {
-  const auto gezinnen = LeesGezinnen(bronnen_.persoon, bronnen_.relatie, nr);
-  if (!gezinnen || (eenOverslaan && gezinnen->lijst.size() == 1)) return true;
+  // kept: with a continuation record there is more than one, also when its places are empty.
+  PersoonLB77& persoon = bronnen_.persoon;
+  if (eenOverslaan && persoon.Lees(nr) && persoon.AantalHuw(nr) == 1) return true;
+  const auto gezinnen = LeesGezinnen(persoon, bronnen_.relatie, nr);
+  if (!gezinnen) return true;
   for (const GezinBlik& gezin : gezinnen->lijst) {
     if (gezin.relNr == hoofdRel) {
       volgNr = gezin.volgNr;

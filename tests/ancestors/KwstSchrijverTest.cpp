@@ -3,6 +3,7 @@
 #include "ancestors/KwstSchrijver.h"
 #include "ancestors/KwstSchrijverToets.h"
 #include "steun/Gouden.h"
+#include "text/Getallen.h"
 
 namespace lb77 {
 namespace {
@@ -131,6 +132,23 @@ TEST_F(KwstSchrijverToets, EenOnleesbarePartnerEindigtHetVerslag) {
   const auto relatie = set_.bouw.Relatie(man, 0);
   set_.bouw.WijzigRelatie(relatie, {{"VrouwNr", "500"}});
   EXPECT_EQ(Schrijf(man), Einde::Leesfout);
+}
+
+// As an import leaves a list whose other families are not in its file.
+TEST_F(KwstSchrijverToets, EenLegeLijstMetVervolgIsMeerDanEenRelatie) {
+  const auto vader = set_.bouw.Man("Vader", "A");
+  const auto kind = set_.bouw.Man("Kind", "A");
+  const auto relatie =
+      set_.bouw.Relatie(vader, set_.bouw.Vrouw("Moeder", "B"), {kind}, {{"WHuwDatum", "01-04-1900"}});
+  const auto vervolg = set_.bouw.Man("", "", {{"GebCorr", "Z"}});
+  set_.bouw.WijzigPersoon(
+      vader,
+      {{"Relatie1", "0"}, {"Relatie2", GetalTekst(relatie)}, {"Relatie3", GetalTekst(-vervolg)}});
+  EXPECT_EQ(Schrijf(kind), Einde::Klaar);
+  EXPECT_TRUE(Bevat("     2  Vader A, tr.(2) 1.4.1900."));
+  set_.bouw.WijzigPersoon(vader, {{"Relatie3", "0"}});
+  EXPECT_EQ(Schrijf(kind), Einde::Klaar);
+  EXPECT_TRUE(Bevat("     2  Vader A, tr. 1.4.1900."));
 }
 
 TEST_F(KwstSchrijverToets, EenPartnerVanHetzelfdeGeslachtIsDeAnderVanDeTwee) {
