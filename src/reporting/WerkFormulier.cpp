@@ -62,22 +62,24 @@ bool WerkFormulier::MaakVerslag(const VerslagBestand& bestand,
   return GaatVerder(SchrijfVerslag(bestand, Hoofd().gesprek, schrijf));
 }
 
-bool WerkFormulier::GaatVerder(const Uitslag& uitslag) {
+bool WerkFormulier::GaatVerder(const Uitslag& uitslag, NaLeesfout na) {
+  bool blijft = false;  // the user sees how far it came, and leaves
   switch (uitslag.einde) {
     case Einde::Klaar:
     case Einde::Vol:
       return true;
     case Einde::Leesfout:
       Hoofd().gesprek.Fout(GeenVerslag(uitslag.fout));
+      blijft = na == NaLeesfout::Blijft;
       break;
     case Einde::Schrijffout:
       break;
     case Einde::Afgebroken:
-      Stop();
-      return false;  // stays open: the user sees how far it came, and leaves
+      blijft = true;
+      break;
   }
   Stop();
-  Sluit();
+  if (!blijft) Sluit();
   return false;
 }
 

@@ -39,7 +39,8 @@ class WerkFormulier : public KetenFormulier {
   [[nodiscard]] bool MaakVerslag(const VerslagBestand& bestand,
                                  const std::function<Uitslag(TekstSchrijver&)>& schrijf);
   // The same for the end of any work: Klaar and Vol go on.
-  [[nodiscard]] bool GaatVerder(const Uitslag& uitslag);
+  enum class NaLeesfout { Sluit, Blijft };
+  [[nodiscard]] bool GaatVerder(const Uitslag& uitslag, NaLeesfout na = NaLeesfout::Sluit);
 
  private:
   void OkKlik(Knop& ok);

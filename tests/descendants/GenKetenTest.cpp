@@ -102,14 +102,16 @@ TEST_F(GenKeten, EenStopVanHetSchrijvenToontGeenVerslag) {
   }
 }
 
-TEST_F(GenKeten, EenOpbouwDieMisluktZegtWatOnleesbaarIsEnSluit) {
+TEST_F(GenKeten, EenOpbouwDieMisluktZegtWatOnleesbaarIsEnBlijftStaan) {
   Bouw().WijzigPersoon(familie_.zoon, {{"Relatie1", "99"}});
-  Speel(
-      Weg()
-          .Zegt("GenBereken",
+  for (const std::string_view weg : {"druk OKButton", "druk BackButton", "toets Escape"}) {
+    Speel(
+        Weg()
+            .In("GenBereken", weg,
                 R"(! stop "Relatierecord 99 kan niet worden gelezen. Er is geen verslag gemaakt.")")
-          .Tot("GenBereken"));
-  EXPECT_EQ(gebleven_, -1);
+            .Tot("GenBereken"));
+    EXPECT_EQ(gebleven_, -1) << weg;
+  }
 }
 
 TEST_F(GenKeten, EenLeesfoutVanHetSchrijvenToontGeenVerslag) {
