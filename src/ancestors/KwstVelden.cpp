@@ -15,14 +15,15 @@ constexpr std::size_t kMaxCijfers = 24;
 KwartierVak::KwartierVak(Formulier& formulier, Gesprek& gesprek, const KwartierVakSoort& soort)
     : Tekstvak(formulier, soort.naam, soort.bijschrift, kMaxCijfers),
       gesprek_(gesprek),
-      verplicht_(soort.verplicht) {
+      verplicht_(soort.verplicht),
+      nulMag_(soort.nulMag) {
   BijVerlaten([this] { return Geldig(); });
 }
 
 bool KwartierVak::Geldig() const {
   const std::string_view tekst = Trim(Tekst());
   const bool cijfers = std::all_of(tekst.begin(), tekst.end(), IsCijfer);
-  if (!tekst.empty() && cijfers && Nummer() != Kwartiernummer("0")) return true;
+  if (!tekst.empty() && cijfers && (nulMag_ || Nummer() != Kwartiernummer("0"))) return true;
   gesprek_.Waarschuw(tekst.empty() ? verplicht_ : "Onjuist kwartiernummer (geen getal)");
   return false;
 }

@@ -18,12 +18,14 @@ struct KwartierVakSoort {
   std::string_view naam;
   std::string_view bijschrift;
   std::string_view verplicht;
+  bool nulMag = false;  // 0 is for a check of the dialog's own
 };
 
 inline constexpr KwartierVakSoort kNrProbandVak{"KwNrProband", "Kwartiernummer van de proband:",
                                                 "Het kwartiernummer van de proband is verplicht"};
 inline constexpr KwartierVakSoort kVanafVak{"VanafKwartier", "Eerst uit te voeren kwartiernummer:",
-                                            "Het eerst uit te voeren kwartiernummer is verplicht"};
+                                            "Het eerst uit te voeren kwartiernummer is verplicht",
+                                            true};
 
 // The links of the ancestor report.
 inline constexpr HTMLParamSoort kKwHTMLParam{
@@ -38,13 +40,14 @@ class KwartierVak final : public Tekstvak {
  public:
   KwartierVak(Formulier& formulier, Gesprek& gesprek, const KwartierVakSoort& soort);
 
-  // Digits and nothing else, and more than 0? Tells the user why not.
+  // Digits and nothing else, and more than 0 unless that may be? Tells the user why not.
   [[nodiscard]] bool Geldig() const;
   [[nodiscard]] Kwartiernummer Nummer() const { return Kwartiernummer(Tekst()); }
 
  private:
   Gesprek& gesprek_;
   std::string_view verplicht_;
+  bool nulMag_;
 };
 
 // Number of the proband, first number to write, last generation; each with its leave check.

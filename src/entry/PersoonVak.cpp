@@ -90,7 +90,8 @@ std::string PersoonVak::OfOnbekend(const std::string& naam) const {
 bool PersoonVak::NrVerlaten() {
   if (soort_.controle == PersoonControle::Geen) return true;
   if (RecordNr.Tekst().empty()) {
-    if (soort_.leegWist) ToonNamen(0);
+    // What says that the number is nobody's goes with it: as a name it would be searched for.
+    if (soort_.leegWist || AchterNm.Tekst() == kOnleesbaar) ToonNamen(0);
     return true;
   }
   Hoofdmodule& hoofd = formulier_.Hoofd();

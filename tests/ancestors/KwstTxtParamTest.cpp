@@ -99,7 +99,7 @@ TEST_F(KwstParam, KwartiernummerNulIsGeenGetal) {
       + KwstTxtParam "Kwartierstaat Uitvoeropties"
       ! uitroep "Onjuist kwartiernummer (geen getal)"
       ! uitroep "Onjuist kwartiernummer (geen getal)"
-      ! uitroep "Onjuist kwartiernummer (geen getal)"
+      ! uitroep "Het eerst uit te voeren kwartiernummer mag niet kleiner zijn dan dat van de proband"
       - KwstTxtParam
       - KwstTxtPrs
     )~");

@@ -54,6 +54,7 @@ TEST_F(KwstPrompt, EenOnbekendNummerToontVraagtekensEnEindigtInDeOpbouw) {
       toon AchterNm
       druk OKButton
       druk OKButton
+      druk BackButton
     )",
         R"(
       + KwstTxtPrs "Nummer Proband"
@@ -69,6 +70,26 @@ TEST_F(KwstPrompt, EenOnbekendNummerToontVraagtekensEnEindigtInDeOpbouw) {
   EXPECT_EQ(gebleven_, -1);
 }
 
+TEST_F(KwstPrompt, MetHetNummerGaatWatZegtDatHetVanNiemandIs) {
+  Speel(R"(
+      vul RecordNr 500
+      vul RecordNr
+      toon VoorNm
+      toon AchterNm
+      vul RecordNr 9
+      vul RecordNr
+      toon VoorNm
+      druk BackButton
+    )",
+        R"(
+      + KwstTxtPrs "Nummer Proband"
+      = VoorNm ""
+      = AchterNm ""
+      = VoorNm "Gerrit"
+      - KwstTxtPrs
+    )");
+}
+
 TEST_F(KwstPrompt, HetRecordOverHetBestandIsNiemand) {
   Speel(R"(
       vul RecordNr 1
@@ -76,6 +97,7 @@ TEST_F(KwstPrompt, HetRecordOverHetBestandIsNiemand) {
       toon AchterNm
       druk OKButton
       druk OKButton
+      druk BackButton
     )",
         R"(
       + KwstTxtPrs "Nummer Proband"
