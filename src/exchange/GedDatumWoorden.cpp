@@ -7,6 +7,7 @@
 #include <optional>
 #include <vector>
 
+#include "exchange/GedBepaling.h"
 #include "text/Datum.h"
 #include "text/Getallen.h"
 #include "text/Letterlijk.h"
@@ -64,13 +65,23 @@ bool BegintMetCijfer(const Woorden& woorden, std::size_t plaats) {
   return plaats < woorden.size() && IsCijfer(woorden[plaats].front());
 }
 
+// May a date begin here: with the text, behind a qualifier or behind AND? What stands before it
+// otherwise, such as ‘na’, would go with nobody being told.
+bool BegintHierDatum(const Woorden& woorden, std::size_t plaats) {
+  if (plaats == 0 || woorden[plaats - 1] == "AND") return true;
+  const std::string_view voor = ZonderPunt(woorden[plaats - 1]);
+  return std::ranges::all_of(voor, IsLetter) &&
+         std::ranges::any_of(kGedBepalingen, [voor](const GedBepaling& bepaling) {
+           return voor.starts_with(bepaling.woord);
+         });
+}
+
 // Is the word a month with its year behind it, and at most a day before it?
 bool StaatAlsMaand(const Woorden& woorden, std::size_t plaats) {
   if (Maand(woorden[plaats]).empty() || plaats + 1 == woorden.size()) return false;
   if (!IsJaar(woorden[plaats + 1]) || BegintMetCijfer(woorden, plaats + 2)) return false;
-  if (plaats == 0 || !BegintMetCijfer(woorden, plaats - 1)) return true;
-  return IsGetal(ZonderPunt(woorden[plaats - 1]), 1, 2) &&
-         (plaats == 1 || !BegintMetCijfer(woorden, plaats - 2));
+  if (plaats == 0 || !BegintMetCijfer(woorden, plaats - 1)) return BegintHierDatum(woorden, plaats);
+  return IsGetal(ZonderPunt(woorden[plaats - 1]), 1, 2) && BegintHierDatum(woorden, plaats - 1);
 }
 
 // The three numbers of a text with two of that separator.
@@ -133,8 +144,10 @@ std::string GedDatumWoorden(std::string_view tekst) {
       uit += Maand(woorden[i]);
     } else if (i + 1 < woorden.size() && StaatAlsMaand(woorden, i + 1)) {
       uit += IsCijfer(woorden[i].front()) ? ZonderPunt(woorden[i]) : woorden[i];
+    } else if (const auto datum = InCijfers(woorden[i]); datum && BegintHierDatum(woorden, i)) {
+      uit += *datum;
     } else {
-      uit += InCijfers(woorden[i]).value_or(std::string(woorden[i]));
+      uit += woorden[i];
     }
   }
   return uit;

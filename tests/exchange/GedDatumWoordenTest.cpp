@@ -81,9 +81,16 @@ constexpr Rij kMaanden[] = {
 INSTANTIATE_TEST_SUITE_P(Maanden, GedDatumWoordenTest, ::testing::ValuesIn(kMaanden));
 
 constexpr Rij kCijfers[] = {
-    {"3-12-1950", "3 DEC 1950"},  {"03.12.1950", "3 DEC 1950"},        {"1950-12-03", "3 DEC 1950"},
-    {"3-12-950", "3 DEC 950"},    {"0-12-1950", "DEC 1950"},           {"0-0-1950", "1950"},
-    {"29-2-1904", "29 FEB 1904"}, {"ABT 3-12-1950", "ABT 3 DEC 1950"},
+    {"3-12-1950", "3 DEC 1950"},
+    {"03.12.1950", "3 DEC 1950"},
+    {"1950-12-03", "3 DEC 1950"},
+    {"3-12-950", "3 DEC 950"},
+    {"0-12-1950", "DEC 1950"},
+    {"0-0-1950", "1950"},
+    {"29-2-1904", "29 FEB 1904"},
+    {"ABT 3-12-1950", "ABT 3 DEC 1950"},
+    {"EST. 3-12-1950", "EST. 3 DEC 1950"},
+    {"BETWEEN 3-12-1950 AND 4 mei 1951", "BETWEEN 3 DEC 1950 AND 4 MAY 1951"},
 };
 INSTANTIATE_TEST_SUITE_P(Cijfers, GedDatumWoordenTest, ::testing::ValuesIn(kCijfers));
 
@@ -117,6 +124,13 @@ constexpr Rij kBlijft[] = {
     {"3 meij 1950", "3 MEIJ 1950"},
     {"3 me 1950", "3 ME 1950"},
     {". 3 . 1950", ". 3 . 1950"},
+    // A word that is no qualifier of the standard would be lost.
+    {"na mei 1890", "NA MEI 1890"},
+    {"ca. maart 1890", "CA. MAART 1890"},
+    {"vr 3 mei 1890", "VR 3 MEI 1890"},
+    {"ABT: 3 mei 1890", "ABT: 3 MEI 1890"},
+    {"Abt: 03-02-1909", "ABT: 03-02-1909"},
+    {"circa 1909-02-03", "CIRCA 1909-02-03"},
 };
 INSTANTIATE_TEST_SUITE_P(Blijft, GedDatumWoordenTest, ::testing::ValuesIn(kBlijft));
 
@@ -134,6 +148,9 @@ constexpr Rij kGelezen[] = {
     {"BET 3 mei 1850 AND 1851-06-04", "T03-05-1850 04-06-1851"},
     {"BET 1850 AND juni 1851", "T00-00-1850 00-06-1851"},
     {"3.12.1950.", " 03-12-1950"},
+    {"na mei 1890", " 00-00-0000; P-I1 - Onbekende datum: na mei 1890"},
+    {"BET na mei 1890 AND juni 1891",
+     "T00-00-0000 00-06-1891; P-I1 - Onbekende datum: BET na mei 1890 AND juni 1891"},
     // Half of a period is better than nothing.
     {"BET 3 mei 1850 AND 3/12/1951",
      "T03-05-1850; P-I1 - Onbekende datum: BET 3 mei 1850 AND 3/12/1951"},
