@@ -34,9 +34,7 @@ constexpr std::string_view kJournaalMap = "JOURNAAL";
 constexpr std::string_view kUnicodeVraag =
     "Dit bestand is in Unicode opgeslagen. Omzetten naar de tekenset van het programma ?";
 constexpr std::string_view kNietOmgezet =
-    "LET OP: het bestand is in Unicode en is niet omgezet; letters met accenten kunnen verkeerd "
-    "zijn "
-    "overgenomen";
+    "LET OP: Unicode is niet omgezet; letters met accenten kunnen verkeerd zijn";
 
 // Moves at each write.
 std::uint64_t Schrijfstand(const Bestandenset& bestanden) {

@@ -115,8 +115,8 @@ TEST_F(ImpUnicodeTest, MetNeeBlijvenDeBytesZoalsZeZijn) {
   Antwoord("Nee");
   Importeer(GedIn("UTF-8", kPersoon));
   EXPECT_EQ(LogRegels(),
-            "LET OP: het bestand is in Unicode en is niet omgezet; letters met accenten kunnen "
-            "verkeerd zijn overgenomen\n");
+            "LET OP: Unicode is niet omgezet; letters met accenten kunnen "
+            "verkeerd zijn\n");
   Antwoord("");
   Importeer(GedIn("WIN", kPersoon));
   EXPECT_EQ(LogRegels(), "");
