@@ -83,8 +83,8 @@ void Voorblad::Schrijf(QPainter& verf) {
   verf.setFont(groot);
   verf.setPen(Gemengd(inkt, grond, 0.15));
   const QRectF tekst = QRectF(rect()).adjusted(48, 0, -width() * 0.48, 0);
-  verf.drawText(tekst.adjusted(0, 0, 0, -height() * 0.5 - 4), Qt::AlignLeft | Qt::AlignBottom,
-                titel_);
+  verf.drawText(tekst.adjusted(0, 0, 0, -height() * 0.5 - 4),
+                Qt::AlignLeft | Qt::AlignBottom | Qt::TextWordWrap, titel_);
   QFont klein = font();
   klein.setPointSizeF(font().pointSizeF() * 1.15);
   verf.setFont(klein);
