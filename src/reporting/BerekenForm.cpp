@@ -30,7 +30,7 @@ void BerekenForm::Werk() {
                                     Aantal.Stand.ZetTekst(GetalTekst(aantal));
                                     Ververs();
                                   }});
-  if (!GaatVerder(uitslag, NaLeesfout::Blijft)) return;
+  if (!GaatVerder(uitslag)) return;
   if (uitslag == Einde::Vol) {
     MaximumLabel.ZetZichtbaar(true);
     if (!bijVol_.empty()) Hoofd().gesprek.Waarschuw(bijVol_);

@@ -62,24 +62,22 @@ bool WerkFormulier::MaakVerslag(const VerslagBestand& bestand,
   return GaatVerder(SchrijfVerslag(bestand, Hoofd().gesprek, schrijf));
 }
 
-bool WerkFormulier::GaatVerder(const Uitslag& uitslag, NaLeesfout na) {
-  bool blijft = false;  // the user sees how far it came, and leaves
+bool WerkFormulier::GaatVerder(const Uitslag& uitslag) {
   switch (uitslag.einde) {
     case Einde::Klaar:
     case Einde::Vol:
       return true;
     case Einde::Leesfout:
       Hoofd().gesprek.Fout(GeenVerslag(uitslag.fout));
-      blijft = na == NaLeesfout::Blijft;
       break;
     case Einde::Schrijffout:
       break;
     case Einde::Afgebroken:
-      blijft = true;
-      break;
+      Stop();
+      return false;  // stays open: the user sees how far it came, and leaves
   }
   Stop();
-  if (!blijft) Sluit();
+  Sluit();
   return false;
 }
 

@@ -39,8 +39,7 @@ class WerkFormulier : public KetenFormulier {
   [[nodiscard]] bool MaakVerslag(const VerslagBestand& bestand,
                                  const std::function<Uitslag(TekstSchrijver&)>& schrijf);
   // The same for the end of any work: Klaar and Vol go on.
-  enum class NaLeesfout { Sluit, Blijft };
-  [[nodiscard]] bool GaatVerder(const Uitslag& uitslag, NaLeesfout na = NaLeesfout::Sluit);
+  [[nodiscard]] bool GaatVerder(const Uitslag& uitslag);
 
  private:
   void OkKlik(Knop& ok);

@@ -127,16 +127,14 @@ TEST_F(KwstKeten, ElkeWegTerugStoptDeKeten) {
   }
 }
 
-TEST_F(KwstKeten, EenBerekeningDieMisluktZegtWatOnleesbaarIsEnBlijftStaan) {
+TEST_F(KwstKeten, EenBerekeningDieMisluktZegtWatOnleesbaarIsEnSluit) {
   Bouw().WijzigPersoon(familie_.vader, {{"Ouders", "99"}});
-  for (const std::string_view weg : {"druk OKButton", "druk BackButton", "toets Escape"}) {
-    Speel(
-        Weg()
-            .In("KwstBereken", weg,
+  Speel(
+      Weg()
+          .Zegt("KwstBereken",
                 R"(! stop "Relatierecord 99 kan niet worden gelezen. Er is geen verslag gemaakt.")")
-            .Tot("KwstBereken"));
-    EXPECT_EQ(gebleven_, -1) << weg;
-  }
+          .Tot("KwstBereken"));
+  EXPECT_EQ(gebleven_, -1);
 }
 
 TEST_F(KwstKeten, EenLeesfoutVanHetSchrijvenToontGeenVerslag) {

@@ -224,7 +224,7 @@ TEST_F(BeeldFormToets, DePopulatiegrafiekTeltDeNazaten) {
 }
 
 TEST_F(BeeldFormToets, ZonderStamouderIsErGeenPopulatiegrafiek) {
-  Speel<TijdBeeldPrs>(1, "druk BackButton", Regels(R"(
+  Speel<TijdBeeldPrs>(1, "", Regels(R"(
       + TijdPrs "Populatiegrafiek"
       + TijdBereken "Opbouwen Populatiegrafiek"
       ! stop "Persoonsrecord 1 kan niet worden gelezen. Er is geen verslag gemaakt."
