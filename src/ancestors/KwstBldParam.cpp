@@ -83,7 +83,7 @@ void KwstBldParam::SlaOp() {
   const std::filesystem::path naam =
       Opslagnaam("Kwartierblad " + Persoon.VoorNm.Tekst() + " " + Persoon.AchterNm.Tekst(), ".txt");
   const Tekencode code = UTF8Box.Gekozen() ? Tekencode::Utf8 : Tekencode::Zelfde;
-  if (SlaTekstOp(Hoofd().gesprek, Pad(), vraag, naam, code)) Sluit();
+  if (SlaTekstOp(Hoofd(), Pad(), vraag, naam, code)) Sluit();
 }
 
 }  // namespace lb77

@@ -4,7 +4,7 @@
 
 #include "cli/Afdrukken.h"
 #include "cli/Sessie.h"
-#include "exchange/UitvoerNaam.h"
+#include "app/UitvoerNaam.h"
 #include "text/Pad.h"
 
 namespace lb77 {

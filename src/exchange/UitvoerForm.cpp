@@ -5,7 +5,7 @@
 #include <system_error>
 
 #include "app/PlaatsNemen.h"
-#include "exchange/UitvoerNaam.h"
+#include "app/UitvoerNaam.h"
 #include "output/ToonTekst.h"
 #include "store/Paden.h"
 #include "store/SetPaden.h"
@@ -206,9 +206,7 @@ bool UitvoerForm::IsBezet(std::size_t i) const {
   for (std::size_t ander = 0; ander < i; ++ander) {
     if (IsZelfdeBestand(pad, UitvoerPad(ander))) return true;
   }
-  return IsZelfdeBestand(pad, LogPad()) ||
-         IsVanSet(pad, SetPaden::Van(hoofd_.Ini.DataDir(), hoofd_.ActieveSetNaam)) ||
-         !BeschermdeRol(pad, hoofd_.programmaMap, hoofd_.Ini).empty();
+  return IsZelfdeBestand(pad, LogPad()) || IsBeschermd(pad, hoofd_);
 }
 
 // A relative path is one in the program's directory.

@@ -257,7 +257,7 @@ void TekstVenster::SaveButtonKlik() {
   const BestandsVraag vraag{BestandsWijze::Opslaan, std::string(filter), hoofd_.Ini.TekstDir()};
   const bool utf8 = UTF8Box.Bruikbaar() && UTF8Box.Gekozen();
   // Told either way; the viewer stays.
-  static_cast<void>(SlaTekstOp(hoofd_.gesprek, Uitvoer().Pad(), vraag,
+  static_cast<void>(SlaTekstOp(hoofd_, Uitvoer().Pad(), vraag,
                                Opslagnaam(Titel(), HTMLUitvoer_ ? ".htm" : ".txt"),
                                utf8 ? Tekencode::Utf8 : Tekencode::Zelfde));
 }

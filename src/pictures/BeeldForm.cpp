@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "app/Hoofdmodule.h"
+#include "app/UitvoerNaam.h"
 #include "forms/Toets.h"
 #include "output/TekstOpslaan.h"
 #include "output/Tekstpaginas.h"
@@ -217,7 +218,9 @@ void BeeldForm::OKButtonKlik() {
   if (!naar) return;
   if (!naar->has_extension()) *naar += ".svg";
   const bool pdf = Hoofdletters(PadTekst(naar->extension())) == ".PDF";
-  const auto fout = pdf ? gesprek.MaakPdf(*naar, Beeld.Beeld(), MaakVellen()) : BewaarSvg(*naar);
+  const auto fout = IsBeschermd(*naar, Hoofd()) ? std::optional(FoutInGebruik().tekst)
+                    : pdf ? gesprek.MaakPdf(*naar, Beeld.Beeld(), MaakVellen())
+                          : BewaarSvg(*naar);
   if (fout) return gesprek.Fout("Fout bij het opslaan van het beeld.\n" + *fout);
   gesprek.Informeer("Het beeld is opgeslagen.");
 }

@@ -176,6 +176,31 @@ TEST_F(TekstVensterTest, HetGetoondeBestandOverZichzelfBewaardHoudtZijnBladzijde
   Toon();
 }
 
+TEST_F(TekstVensterTest, GeenFamilieEnGeenInstellingenWordenOverschreven) {
+  constexpr std::string_view kIni = "[Systeem]\nSet=ABC\n[Sets]\nSet1=ABC,\nSet2=ANDER,\n";
+  SchrijfBytes(map_ / "LIJNBOOM.INI", kIni);
+  SchrijfBytes(map_ / "uit.txt", "een\n");
+  for (const std::string_view set : {"ABC", "ANDER", "LOS"}) {
+    const std::filesystem::path map = map_ / "DATA" / set;
+    std::filesystem::create_directories(map);
+    SchrijfBytes(map / (std::string(set) + ".PRS"), "personen");
+  }
+  Hoofdmodule hoofd(lezer_, klok_, map_.Pad());
+  ASSERT_TRUE(hoofd.Ini.IniLees());
+  hoofd.ActieveSetNaam = "LOS";
+  doe_ = [](Formulier& formulier) { formulier.Klik(*formulier.Zoek("SaveButton")); };
+  for (const std::string_view naam :
+       {"DATA/ABC/ABC.PRS", "DATA/ANDER/ANDER.PRS", "DATA/LOS/LOS.PRS", "LIJNBOOM.INI"}) {
+    lezer_.antwoord = map_ / naam;
+    lezer_.berichten.clear();
+    ToonTekst toon(hoofd, map_ / "uit.txt", "Rapport");
+    lezer_.ToonModaal(toon);
+    EXPECT_EQ(lezer_.berichten, Regels{"Fout bij het opslaan van de tekst.\nBestand is in gebruik"})
+        << naam;
+    EXPECT_EQ(LeesBytes(map_ / naam), naam == "LIJNBOOM.INI" ? kIni : "personen");
+  }
+}
+
 TEST_F(TekstVensterTest, DeVraagWaarOpTeSlaanBegintInDeTekstmap) {
   SchrijfBytes(map_ / "LIJNBOOM.INI", "[Systeem]\nSet=ABC\n");
   std::filesystem::create_directories(map_ / "DATA/ABC/Tekst");

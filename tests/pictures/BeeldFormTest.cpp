@@ -271,6 +271,16 @@ TEST_F(BeeldFormToets, WieGeenBestandKiestSlaatNietsOp) {
               "> opslaan \"SVG-tekening (*.svg)|*.svg|PDF-bestand (*.pdf)|*.pdf\" -> -\n");
 }
 
+TEST_F(BeeldFormToets, EenBeeldNeemtNooitDePlaatsVanDeInstellingen) {
+  const std::string pad = (Map() / "LIJNBOOM.INI").string();
+  const std::string ini = Bestand("LIJNBOOM.INI");
+  SpeelWaaier(7, "bestand " + pad + "\ndruk OKButton\ndruk BackButton",
+              "> opslaan \"SVG-tekening (*.svg)|*.svg|PDF-bestand (*.pdf)|*.pdf\" -> \"" + pad +
+                  "\"\n! stop \"Fout bij het opslaan van het beeld.\\nBestand is in gebruik\"\n");
+  EXPECT_EQ(Bestand("LIJNBOOM.INI").find("<svg"), std::string::npos);
+  EXPECT_FALSE(ini.empty());
+}
+
 TEST_F(BeeldFormToets, EenBestandDatNietKanWordtGemeld) {
   const std::string pad = (Map() / "weg" / "waaier.svg").string();
   std::filesystem::create_directories(Map() / "TEMP");

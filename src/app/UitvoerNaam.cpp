@@ -1,4 +1,4 @@
-#include "exchange/UitvoerNaam.h"
+#include "app/UitvoerNaam.h"
 
 #include <string_view>
 #include <system_error>
@@ -69,6 +69,12 @@ std::string BeschermdeRol(const std::filesystem::path& bestand,
       return "van het journaal van bestandenset " + set;
   }
   return {};
+}
+
+bool IsBeschermd(const std::filesystem::path& bestand, const Hoofdmodule& hoofd) {
+  const std::filesystem::path pad = VindPad(bestand);
+  return IsVanSet(pad, SetPaden::Van(hoofd.Ini.DataDir(), hoofd.ActieveSetNaam)) ||
+         !BeschermdeRol(pad, hoofd.programmaMap, hoofd.Ini).empty();
 }
 
 }  // namespace lb77

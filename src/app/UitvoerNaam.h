@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <string>
 
+#include "app/Hoofdmodule.h"
 #include "app/IniClass.h"
 #include "store/SetPaden.h"
 
@@ -21,5 +22,8 @@ namespace lb77 {
 [[nodiscard]] std::string BeschermdeRol(const std::filesystem::path& bestand,
                                         const std::filesystem::path& programmaMap,
                                         const IniClass& ini);
+
+// Does it belong to the open set, or is it protected otherwise?
+[[nodiscard]] bool IsBeschermd(const std::filesystem::path& bestand, const Hoofdmodule& hoofd);
 
 }  // namespace lb77
