@@ -40,6 +40,7 @@ void VoegToe(Lijst& lijst, const std::string& regel) {
 // The list of the file, with what became of the last known one in this run.
 Lijst VoegSetsSamen(Lijst bekend, Lijst nu, Lijst schijf) {
   if (nu == bekend) return schijf;
+  if (schijf == bekend) return nu;
   for (const std::string& regel : bekend) {
     const std::string naam = SetNaamVan(regel);
     if (!regel.empty() && ZoekSet(nu, naam) == nu.end()) Verwijder(schijf, naam);

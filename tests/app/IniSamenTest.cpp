@@ -82,6 +82,20 @@ TEST_F(IniSamen, DezelfdeNieuweSetKomtEenmaalInDeLijst) {
   });
 }
 
+// Also a name that stands in it twice, and a row behind an empty one.
+TEST_F(IniSamen, AlleenGewijzigdIsDeLijstDieVanDeRun) {
+  Samen("[Sets]\nSet1=EEN,a\nSet2=TWEE,b\nSet3=EEN,c\nSet5=VIJF,d\n",
+        [&](IniClass& een, IniClass& ander) {
+          een.IniZet("Sets", "Set1", "TWEE,b");
+          een.IniZet("Sets", "Set2", "EEN,c");
+          een.IniZet("Sets", "Set3", "");
+          een.IniSchrijf();
+          EXPECT_EQ(Sets(), "Set1=TWEE,b;Set2=EEN,c;Set5=VIJF,d;");
+          ander.IniSchrijf();
+          EXPECT_EQ(Sets(), "Set1=TWEE,b;Set2=EEN,c;Set5=VIJF,d;");
+        });
+}
+
 TEST_F(IniSamen, WatDeEneVerwijdertZetDeAndereNietTerug) {
   Samen("[Sets]\nSet1=EEN,a\nSet2=TWEE,b\nSet3=DRIE,c\n", [&](IniClass& een, IniClass& ander) {
     een.IniZet("Sets", "Set1", "TWEE,b");
