@@ -8,7 +8,7 @@ namespace lb77 {
 
 namespace {
 
-constexpr int kJa = 0;
+constexpr int kNee = 1;  // also for what is neither: no dialog keeps anything then
 
 }  // namespace
 
@@ -21,7 +21,7 @@ IniSysteem::IniSysteem(Hoofdmodule& hoofd, DataVraag magData)
   Koppel(TempDirTekst, "Systeem", "Tempdir");
   Koppel(GCIDirTekst, "GCI", "Data");
   Koppel(LB77EditorTekst, "Systeem", "Editor");
-  Koppel(OpslaanParamsBox, "Systeem", "OpslaanVelden", {"J", "N"}, kJa);
+  Koppel(OpslaanParamsBox, "Systeem", "OpslaanVelden", {"J", "N"}, kNee);
   BrowseDataDir.BijKlik([this] { BrowseDataDirKlik(); });
   BrowseTempDir.BijKlik([this] { BrowseTempDirKlik(); });
   BrowseGCIDir.BijKlik([this] { BrowseGCIDirKlik(); });

@@ -8,7 +8,7 @@ class IniSysteemVenster : public SessieToets {
  protected:
   void SetUp() override {
     ZetIni(
-        "[Systeem]\nData=gegevens\nTempdir=tijdelijk\nEdit=LBEDIT\nOpslaanVelden=N\n"
+        "[Systeem]\nData=gegevens\nTempdir=tijdelijk\nEdit=LBEDIT\nOpslaanVelden=j\n"
         "[GCI]\nData=gci\n");
     basismap_ = map_;
     std::filesystem::create_directories(map_ / "anders");
