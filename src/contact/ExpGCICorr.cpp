@@ -130,7 +130,7 @@ bool ExpGCICorr::FilterProvVerlaten() {
     return false;
   }
   filter_.prov = *code;
-  provTekst_ = ProvincieNaam(*code, filter_.land, tabellen_.provincies, FilterProv.Tekst());
+  provTekst_ = ProvincieNaamBij(*code, filter_.land, tabellen_.provincies, FilterProv.Tekst());
   // A code that only the places have is all there is to show.
   if (provTekst_ == kNaamloos) provTekst_ = *code;
   FilterProv.ZetTekst(provTekst_);

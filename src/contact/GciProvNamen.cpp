@@ -180,6 +180,17 @@ std::string ProvincieNaam(std::string_view code, std::string_view land,
   return provincies.NaamVan(kaal).value_or(std::string(kNaamloos));
 }
 
+std::string ProvincieNaamBij(std::string_view code, std::string_view land,
+                             const GciProvincies& provincies, std::string_view gezocht) {
+  const std::string_view naam = Trim(gezocht);
+  for (const NaamRij& rij : kNamen) {
+    if (!Trim(land).empty() || !GelijkZonderKast(rij.Prov(), Trim(code)) || !rij.Heet(naam))
+      continue;
+    return std::string(GelijkZonderKast(Trim(rij.tweede), naam) ? rij.tweede : rij.naam);
+  }
+  return ProvincieNaam(code, land, provincies, gezocht);
+}
+
 std::optional<std::string> ProvincieCode(std::string_view tekst, std::string_view land,
                                          const GciProvincies& provincies) {
   const std::string_view kaal = Trim(tekst);

@@ -18,6 +18,12 @@ inline constexpr std::string_view kNaamloos = "???";
                                         const GciProvincies& provincies,
                                         std::string_view gezocht = {});
 
+// The same for a name that led to the code: with no country it stays that name, as it is spelled in the
+// table, whatever else the code may mean.
+[[nodiscard]] std::string ProvincieNaamBij(std::string_view code, std::string_view land,
+                                           const GciProvincies& provincies,
+                                           std::string_view gezocht);
+
 // The code of a province by its name or its code; one of that country goes first.
 [[nodiscard]] std::optional<std::string> ProvincieCode(std::string_view tekst,
                                                        std::string_view land,

@@ -42,6 +42,30 @@ class ExpGCICorrTest : public FamilieToets {
   GciPlaats plaats_{12, "Oord", "ZH", "Oord", {"ZH", "NL"}};
 };
 
+// The code may mean another province elsewhere; the user sees what he typed.
+TEST_F(ExpGCICorrTest, ZonderLandBlijftDeProvincieDieGevraagdIs) {
+  Speel(R"(
+      vul FilterLand
+      vul FilterProv bern
+      toon FilterProv
+      toon FilterProvAfk
+      vul FilterProv lincolnshire
+      toon FilterProv
+      toon FilterProvAfk
+      vul FilterLand Nederland
+      vul FilterProv bern
+      toon FilterProv
+      druk BackButton
+    )",
+        R"(
+      = FilterProv "Bern"
+      = FilterProvAfk "BE"
+      = FilterProv "Lincolnshire"
+      = FilterProvAfk "LI"
+      = FilterProv "Bengkulu"
+    )");
+}
+
 TEST_F(ExpGCICorrTest, OpentMetDeEigenPlaatsEnDeFilterAan) {
   plaats_ = {12, "Berg", "L", "Berg", {"LI", "NL"}};
   Speel("toon\ndruk BackButton", R"~(
