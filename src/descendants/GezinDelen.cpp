@@ -29,6 +29,10 @@ Gebeurtenispaar OverlijdenPaar(const Levensloop& leven) {
   return {"ovl.", "begr.", leven.overlijden, leven.begrafenis, leven.ovlCorr};
 }
 
+std::string MetBlanco(std::string_view tekst) {
+  return tekst.empty() ? std::string() : " " + std::string(tekst);
+}
+
 std::string GezinDelen::KindNaam(const PersoonBlik& kind) const {
   std::string naam = kind.voornaam;
   if (opties_.FamNaamWeerg) naam += " " + kind.achternaam;
@@ -42,11 +46,11 @@ std::string GezinDelen::Naam(std::int16_t nr) {
   const std::string naam =
       bronnen_.persoon.VoorNaamTrue() + " " + bronnen_.persoon.AchterNaamTrue();
   const std::string_view kaal = Trim(naam);
-  return std::string(kaal.empty() ? kNietBekend : kaal) + Nummer(nr);
+  return std::string(kaal.empty() ? kNietBekend : kaal) + MetBlanco(Nummer(nr));
 }
 
 std::string GezinDelen::Nummer(std::int16_t nr) const {
-  return opties_.GezinOokNrs ? " [" + GetalTekst(nr) + "]" : std::string();
+  return opties_.GezinOokNrs ? "[" + GetalTekst(nr) + "]" : std::string();
 }
 
 std::string GezinDelen::RelatieNummer() const {

@@ -52,6 +52,9 @@ struct KindHuwelijk {
 };
 
 // The buffers of persons, relations and places change.
+// The text behind another: a blank before it, none before an empty one.
+[[nodiscard]] std::string MetBlanco(std::string_view tekst);
+
 class GezinDelen {
  public:
   GezinDelen(const Gegevens& bronnen, const GezinOpties& opties)
@@ -61,7 +64,7 @@ class GezinDelen {
   [[nodiscard]] std::string KindNaam(const PersoonBlik& kind) const;
   // Both names of person `nr`, and his number.
   [[nodiscard]] std::string Naam(std::int16_t nr);
-  // " [12]" with numbers on, else empty.
+  // "[12]" with numbers on, else empty.
   [[nodiscard]] std::string Nummer(std::int16_t nr) const;
   // " [rel.nr. 12]" with numbers on and a relation, else empty.
   [[nodiscard]] std::string RelatieNummer() const;

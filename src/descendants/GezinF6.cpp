@@ -124,7 +124,7 @@ GezinF6::Kolom GezinF6::KolomVan(const std::optional<PersoonBlik>& persoon) {
   const Levensloop& leven = persoon->leven;
   PlaatsLB77& plaats = bronnen_.plaats;
   const Ouders ouders = LeesOuders(*persoon);
-  const std::string achternaam = persoon->achternaam + delen_.Nummer(persoon->nr);
+  const std::string achternaam = persoon->achternaam + MetBlanco(delen_.Nummer(persoon->nr));
   Kolom uit = {std::string(TrimLinks(achternaam)),
                persoon->voornaam,
                plaats.Naam2(leven.geboorte.plaatsNr),

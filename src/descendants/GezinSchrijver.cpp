@@ -83,7 +83,7 @@ void GezinSchrijver::SchrijfNamen(const Eigenaar& van, const PersoonBlik& persoo
   uit_.Vast(naamloos ? kNaamlozen.Voor(persoon) : persoon.voornaam);
   SchrijfOpm(van, prs::kVoornaam);
   Los(persoon.achternaam);
-  uit_.Vast(delen_.Nummer(persoon.nr));
+  Los(delen_.Nummer(persoon.nr));
   if (metRelatie) uit_.Vast(delen_.RelatieNummer());
   SchrijfOpm(van, prs::kAchternaam);
 }
@@ -162,7 +162,8 @@ void GezinSchrijver::SchrijfKind(int plaats, std::int16_t nr) {
   OpNieuweRegel(Kolom(plaats, 2, Richting::Rechts) + ". ");
   uit_.ZetMarge(false, kKindMarge);
   if (const auto kind = LeesPersoonBlik(bronnen_.persoon, nr)) {
-    uit_.Vast(delen_.KindNaam(*kind) + delen_.Nummer(nr));
+    uit_.Vast(delen_.KindNaam(*kind));
+    Los(delen_.Nummer(nr));
     SchrijfKindLeven(*kind);
   } else {
     uit_.Vast(kOnleesbaar);

@@ -51,6 +51,25 @@ TEST_F(GezinToets, ZonderNummersStaatErGeenNummer) {
             " 3. Kee\n");
 }
 
+TEST_F(GezinToets, HetNummerAchterEenAfgebrokenNaamHoudtHaarAanDeKantlijn) {
+  opties_.GezinOokNrs = opties_.FamNaamWeerg = true;
+  breedte_ = 30;
+  const auto kind = bouw_.Man("Abcdefghijklmnopqrstuvwxyz", "Dijk");
+  const auto man = bouw_.Man("Abcdefghijklmnopqrstuvwxyzabcd", "Dijk");
+  EXPECT_EQ(Blad(man, bouw_.Relatie(man, 0, {kind})),
+            "Abcdefghijklmnopqrstuvwxyzabcd\n"
+            "Dijk [3] [rel.nr. 2]\n"
+            "\n"
+            "N.N.\n"
+            "\n"
+            "\n"
+            "Persoonsnummers van kinderen :\n"
+            "    2\n"
+            "Kinderen:\n"
+            " 1. Abcdefghijklmnopqrstuvwxyz\n"
+            "    Dijk [2]\n");
+}
+
 TEST_F(GezinToets, ZonderRelatieStaatErDatZijErNietIs) {
   opties_.GezinOokNrs = true;
   const auto man = bouw_.Man("Jan", "Bos");
