@@ -54,7 +54,6 @@ TEST_F(KwstPrompt, EenOnbekendNummerToontVraagtekensEnEindigtInDeOpbouw) {
       toon AchterNm
       druk OKButton
       druk OKButton
-      druk BackButton
     )",
         R"(
       + KwstTxtPrs "Nummer Proband"
@@ -97,7 +96,6 @@ TEST_F(KwstPrompt, HetRecordOverHetBestandIsNiemand) {
       toon AchterNm
       druk OKButton
       druk OKButton
-      druk BackButton
     )",
         R"(
       + KwstTxtPrs "Nummer Proband"
