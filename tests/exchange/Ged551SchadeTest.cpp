@@ -63,6 +63,71 @@ TEST(Ged551Kring, EenKetenDieRondlooptEindigt) {
   EXPECT_NE(uitvoer.log.find("al bij een ander staat: 2 keer"), std::string::npos) << uitvoer.log;
 }
 
+TEST(Ged551Kring, HetEersteRecordIsGeenOpmerking) {
+  ProefSet set;
+  const std::int16_t jan = set.bouw.Man("", "Jan");
+  const std::int16_t piet = set.bouw.Man("", "Piet");
+  set.bouw.OpmerkingBijPersoon(jan, persoonrubriek::kAlgemeen, {"een"}, 1);
+  ASSERT_TRUE(set.Opmerking.Wijzig(2, {{"VolgRegel", "1"}, {"BijZelfde", "1"}}));
+  set.bouw.WijzigPersoon(piet, {{"OpmRecord", "1"}});
+  const Ged551Uitvoer uitvoer = Exporteer551(set);
+  EXPECT_EQ(uitvoer.Van("0 @I2@ INDI"),
+            "1 NAME /Jan/\n2 SURN Jan\n1 SEX M\n1 NOTE een\n2 _LBPROG 1\n");
+  EXPECT_EQ(uitvoer.Van("0 @I3@ INDI"), "1 NAME /Piet/\n2 SURN Piet\n1 SEX M\n");
+  EXPECT_NE(uitvoer.log.find("al bij een ander staat: 3 keer"), std::string::npos) << uitvoer.log;
+}
+
+// A remark that was removed keeps its links, and belongs to no field.
+TEST(Ged551Kring, EenVrijRecordIsGeenOpmerking) {
+  ProefSet set;
+  const std::int16_t man = set.bouw.Man("", "X");
+  const std::int16_t relatie = set.bouw.Relatie(0, 0);
+  set.bouw.OpmerkingBijPersoon(man, persoonrubriek::kAlgemeen, {"weg"}, 1);
+  set.bouw.OpmerkingBijPersoon(man, persoonrubriek::kAchternaam, {"een"}, 1);
+  set.bouw.OpmerkingBijRelatie(relatie, relatierubriek::kAlgemeen, {"weg"}, 1);
+  set.bouw.OpmerkingBijRelatie(relatie, relatierubriek::kOtrPlaats, {"twee"}, 1);
+  ASSERT_TRUE(set.Opmerking.Wijzig(2, {{"Rubriek", "0"}}));
+  ASSERT_TRUE(set.Opmerking.Wijzig(4, {{"Rubriek", "0"}}));
+  const Ged551Uitvoer uitvoer = Exporteer551(set);
+  EXPECT_EQ(uitvoer.Van("0 @I2@ INDI"), "1 NAME /X/\n2 SURN X\n2 NOTE een\n3 _LBPROG 1\n1 SEX M\n");
+  EXPECT_EQ(uitvoer.Van("0 @F2@ FAM"), "1 MARB\n2 NOTE twee\n3 _LBRUBR -1\n3 _LBPROG 1\n");
+  EXPECT_NE(uitvoer.log.find("al bij een ander staat: 2 keer"), std::string::npos) << uitvoer.log;
+}
+
+// Persons come first, and leave a relation what is its own.
+TEST(Ged551Kring, EenOpmerkingVanEenRelatieBlijftBijHaar) {
+  ProefSet set;
+  const std::int16_t man = set.bouw.Man("", "X");
+  const std::int16_t eerste = set.bouw.Relatie(0, 0);
+  const std::int16_t tweede = set.bouw.Relatie(0, 0);
+  set.bouw.OpmerkingBijRelatie(tweede, relatierubriek::kAlgemeen, {"een"}, 1);
+  set.bouw.OpmerkingBijRelatie(tweede, relatierubriek::kAlgemeen, {"twee"}, 1);
+  set.bouw.WijzigPersoon(man, {{"OpmRecord", "2"}});
+  set.bouw.WijzigRelatie(eerste, {{"OpmRecord", "3"}});
+  const Ged551Uitvoer uitvoer = Exporteer551(set);
+  EXPECT_EQ(uitvoer.Van("0 @I2@ INDI"), "1 NAME /X/\n2 SURN X\n1 SEX M\n");
+  EXPECT_EQ(uitvoer.Van("0 @F2@ FAM"), "");
+  EXPECT_EQ(uitvoer.Van("0 @F3@ FAM"), "1 NOTE een\n2 _LBPROG 1\n1 NOTE twee\n2 _LBPROG 1\n");
+  EXPECT_NE(uitvoer.log.find("al bij een ander staat: 2 keer"), std::string::npos) << uitvoer.log;
+}
+
+TEST(Ged551Kring, EenOpmerkingBlijftBijDeRelatieWaarEenAndereGeenRechtOpHeeft) {
+  ProefSet set;
+  const std::int16_t eigen = set.bouw.Relatie(0, 0);
+  const std::int16_t ander = set.bouw.Relatie(0, 0);
+  const std::int16_t vervolg = set.bouw.Relatie(0, 0, {}, {{"HuwCorr", "Z"}, {"OpmRecord", "2"}});
+  // The number of a person who has it in his chain: that is another number.
+  const std::int16_t man = set.bouw.Man("", "X");
+  set.bouw.OpmerkingBijRelatie(eigen, relatierubriek::kAlgemeen, {"een"}, 1);
+  set.bouw.WijzigPersoon(man, {{"OpmRecord", "2"}});
+  ExpSelectie selectie;
+  ASSERT_TRUE(selectie.SelRelaties.Voeg(eigen));
+  for (const int naam : {int{ander}, int{vervolg}, 99, 1, 0, -5}) {
+    ASSERT_TRUE(set.Opmerking.Wijzig(2, {{"BijRecord", std::to_string(naam)}}));
+    EXPECT_EQ(Exporteer551(set, selectie).Van("0 @F2@ FAM"), "1 NOTE een\n2 _LBPROG 1\n") << naam;
+  }
+}
+
 TEST(Ged551Kring, EenKetenVanMeerDanTienRegelsWordtVerdeeld) {
   ProefSet set;
   const std::int16_t nr = set.bouw.Man("", "X");

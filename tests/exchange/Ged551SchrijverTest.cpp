@@ -279,20 +279,25 @@ TEST_F(Ged551SchrijverTest, VerwijzingenBuitenDeSelectieWordenGeteld) {
   const std::int16_t kind = set.bouw.Man("", "Z");
   set.bouw.Plaats("Ongebruikt");
   const std::int16_t delft = set.bouw.Plaats("Delft");
+  const std::int16_t gouda = set.bouw.Plaats("Gouda");
   set.bouw.WijzigPersoon(man, {{"GebPlaats", GetalTekst(delft)}});
-  set.bouw.Relatie(man, vrouw, {kind});
+  set.bouw.Relatie(man, vrouw, {kind}, {{"OtrPlaats", gouda}});
+  set.bouw.Plaats("Ook ongebruikt");
   ExpSelectie selectie;
   ASSERT_TRUE(selectie.SelPersonen.Voeg(man));
   ASSERT_TRUE(selectie.SelRelaties.Voeg(2));
   const Ged551Uitvoer uitvoer = Exporteer551(set, selectie);
-  EXPECT_EQ(uitvoer.Van("0 @F2@ FAM"), "1 HUSB @I2@\n");
-  EXPECT_EQ(uitvoer.bestand.find("Ongebruikt"), std::string::npos);
+  EXPECT_EQ(uitvoer.Van("0 @F2@ FAM"), "1 HUSB @I2@\n1 MARB\n2 _LBPLTS @P4@\n2 PLAC Gouda\n");
+  EXPECT_EQ(uitvoer.Van("0 @P4@ _LBPLTS"), "1 NAME Gouda\n");
+  EXPECT_EQ(uitvoer.bestand.find("ngebruikt"), std::string::npos);
   EXPECT_EQ(uitvoer.log,
             "Soort bestand: GEDCOM 5.5.1, tekenset UTF-8\nTotaal 1 Personen geëxporteerd\n"
-            "Totaal 1 Relaties geëxporteerd\nTotaal 1 Plaatsen geëxporteerd\n"
+            "Totaal 1 Relaties geëxporteerd\nTotaal 2 Plaatsen geëxporteerd\n"
             "LET OP: verwijzing naar een record dat niet mee is uitgevoerd: 2 keer\n"
             "Exporteren voltooid\n"_w);
-  EXPECT_NE(Exporteer551(set).bestand.find("Ongebruikt"), std::string::npos);
+  for (const char* naam : {"1 NAME Ongebruikt\n", "1 NAME Ook ongebruikt\n"}) {
+    EXPECT_NE(Exporteer551(set).bestand.find(naam), std::string::npos) << naam;
+  }
 }
 
 TEST_F(Ged551SchrijverTest, WatBeschadigdIsWordtGeteld) {
