@@ -128,6 +128,48 @@ TEST(Ged551Kring, EenOpmerkingBlijftBijDeRelatieWaarEenAndereGeenRechtOpHeeft) {
   }
 }
 
+// Who has a remark is told by his chain up to where it leaves him.
+TEST(Ged551Kring, WatAchterEenOpmerkingVanEenAnderLigtIsNietVanHem) {
+  ProefSet set;
+  const std::int16_t karel = set.bouw.Man("", "Karel");
+  const std::int16_t jan = set.bouw.Man("", "Jan");
+  const std::int16_t piet = set.bouw.Man("", "Piet");
+  set.bouw.OpmerkingBijPersoon(karel, persoonrubriek::kAlgemeen, {"van Karel"}, 1);
+  set.bouw.OpmerkingBijPersoon(jan, persoonrubriek::kAlgemeen, {"van Jan"}, 1);
+  for (const char* tekst : {"van Piet", "verdwaald"}) {
+    set.bouw.OpmerkingBijPersoon(piet, persoonrubriek::kAchternaam, {tekst}, 1);
+  }
+  ASSERT_TRUE(set.Opmerking.Wijzig(2, {{"BijZelfde", "5"}}));
+  const std::string begin = "1 NAME /Karel/\n2 SURN Karel\n";
+  EXPECT_EQ(Exporteer551(set).Van("0 @I2@ INDI"),
+            begin + "1 SEX M\n1 NOTE van Karel\n2 _LBPROG 1\n");
+  ASSERT_TRUE(set.Opmerking.Wijzig(4, {{"BijZelfde", "3"}}));
+  ASSERT_TRUE(set.Opmerking.Wijzig(3, {{"BijZelfde", "5"}}));
+  EXPECT_EQ(Exporteer551(set).Van("0 @I2@ INDI"),
+            begin + "2 NOTE verdwaald\n3 _LBPROG 1\n1 SEX M\n1 NOTE van Karel\n2 _LBPROG 1\n");
+}
+
+TEST(Ged551Kring, EenLegeRegelStaatErNiet) {
+  ProefSet set;
+  const std::int16_t nr = set.bouw.Man("", "X");
+  set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kAlgemeen, {"een", "twee", "drie"}, 1);
+  set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kBeroep, {"vier"}, 1);
+  ASSERT_TRUE(set.Opmerking.Wijzig(3, {{"Tekstregel", " "}}));
+  ASSERT_TRUE(set.Opmerking.Wijzig(5, {{"Tekstregel", " "}}));
+  EXPECT_EQ(Exporteer551(set).Van("0 @I2@ INDI"),
+            "1 NAME /X/\n2 SURN X\n1 SEX M\n1 NOTE een\n2 CONT drie\n2 _LBPROG 1\n");
+}
+
+TEST(Ged551Kring, TienRegelsZijnEenOpmerking) {
+  ProefSet set;
+  const std::int16_t nr = set.bouw.Man("", "X");
+  const std::vector<std::string> tien(10, "r");
+  set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kAlgemeen, tien, 1);
+  std::string verwacht = "1 NAME /X/\n2 SURN X\n1 SEX M\n1 NOTE r\n";
+  for (int i = 1; i < 10; ++i) verwacht += "2 CONT r\n";
+  EXPECT_EQ(Exporteer551(set).Van("0 @I2@ INDI"), verwacht + "2 _LBPROG 1\n");
+}
+
 TEST(Ged551Kring, EenKetenVanMeerDanTienRegelsWordtVerdeeld) {
   ProefSet set;
   const std::int16_t nr = set.bouw.Man("", "X");

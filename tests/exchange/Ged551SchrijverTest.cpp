@@ -55,6 +55,7 @@ TEST_F(Ged551SchrijverTest, HetVoorvoegselIsAlleenWatVooraanStaat) {
   set.bouw.Man("Jan", "van Oranje Nassau");
   set.bouw.Man("Jan", "Berg, van");
   set.bouw.Man("Jan", "van  Berg");
+  set.bouw.Man("Jan", "Vandam, van");
   EXPECT_EQ(Persoon(2),
             "1 NAME Jan /van Oranje Nassau/\n2 GIVN Jan\n2 _LBACHT van Oranje Nassau\n2 SPFX van\n"
             "2 SURN Oranje Nassau\n1 SEX M\n");
@@ -62,6 +63,7 @@ TEST_F(Ged551SchrijverTest, HetVoorvoegselIsAlleenWatVooraanStaat) {
   EXPECT_EQ(Persoon(4),
             "1 NAME Jan /van  Berg/\n2 GIVN Jan\n2 _LBACHT van  Berg\n2 SPFX van\n2 SURN Berg\n"
             "1 SEX M\n");
+  EXPECT_EQ(Persoon(5), "1 NAME Jan /Vandam, van/\n2 GIVN Jan\n2 SURN Vandam, van\n1 SEX M\n");
 }
 
 TEST_F(Ged551SchrijverTest, TekensDieIetsBetekenenStaanHeelInEenEigenTag) {
@@ -166,6 +168,7 @@ TEST_F(Ged551SchrijverTest, EenOpmerkingBlijftBijWieZijNoemt) {
   }
   ASSERT_TRUE(set.Opmerking.Wijzig(2, {{"BijZelfde", "4"}}));
   set.bouw.WijzigRelatie(relatie, {{"OpmRecord", "3"}, {"OpmCode", "-256"}});
+  set.bouw.Relatie(0, 0);
   const Ged551Uitvoer uitvoer = Exporteer551(set);
   EXPECT_EQ(uitvoer.Van("0 @I2@ INDI"),
             "1 NAME /Jan/\n2 SURN Jan\n1 SEX M\n1 NOTE van Jan\n2 _LBPROG 23\n");
@@ -183,7 +186,8 @@ TEST_F(Ged551SchrijverTest, EenOpmerkingDieEenVreemdeNoemtBlijftInHaarKetting) {
   set.bouw.OpmerkingBijPersoon(jan, persoonrubriek::kAlgemeen, {"van Jan"});
   // A continuation record is nobody, whatever it holds.
   const std::int16_t vervolg = set.bouw.Man("", "", {{"GebCorr", "Z"}, {"OpmRecord", "2"}});
-  for (const int naam : {int{piet}, int{vervolg}, 99, 1, 0, -5}) {
+  const std::int16_t karel = set.bouw.Man("", "Karel", {{"OpmRecord", "-5"}});
+  for (const int naam : {int{piet}, int{vervolg}, int{karel}, 99, 1, 0, -5}) {
     ASSERT_TRUE(set.Opmerking.Wijzig(2, {{"BijRecord", std::to_string(naam)}}));
     EXPECT_EQ(Persoon(jan), "1 NAME /Jan/\n2 SURN Jan\n1 SEX M\n1 NOTE van Jan\n2 _LBPROG 23\n")
         << naam;
