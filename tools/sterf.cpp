@@ -1,13 +1,15 @@
 // A preload library that kills the process at the k-th operation on the files of one directory, as a
 // crash would: STERF_MAP names the directory, STERF_BIJ the operation, counted from 1. What the
 // system was told before stands; nothing of what came behind does. STERF_TEL names a file that gets
-// the number of operations of a process that came to its end. For Linux.
+// the number of operations of a process that came to its end. With STERF_STROMEN the operations of
+// streams count, too: begun files, writes behind one another, removals and second names. For Linux.
 #ifndef _GNU_SOURCE
 #define _GNU_SOURCE
 #endif
 #include <dlfcn.h>
 #include <fcntl.h>
 #include <sys/types.h>
+#include <sys/uio.h>
 #include <unistd.h>
 
 #include <climits>
@@ -39,6 +41,18 @@ void Tel() {
   ++geteld;
   const char* bij = std::getenv("STERF_BIJ");
   if (bij != nullptr && geteld == std::atoi(bij)) ::kill(::getpid(), SIGKILL);
+}
+
+bool MetStromen() {
+  return std::getenv("STERF_STROMEN") != nullptr;
+}
+
+bool IsStroomVanDeMap(int greep) {
+  return MetStromen() && IsVanDeMap(greep);
+}
+
+bool IsStroomVanDeMap(const char* pad) {
+  return MetStromen() && IsVanDeMap(pad);
 }
 
 // Tells how many there were, when the process ends by itself.
@@ -100,6 +114,36 @@ int unlink(const char* pad) {
 int mkdir(const char* pad, mode_t rechten) {
   if (IsVanDeMap(pad)) Tel();
   return Echte<int (*)(const char*, mode_t)>("mkdir")(pad, rechten);
+}
+
+ssize_t write(int greep, const void* bron, size_t lengte) {
+  if (IsStroomVanDeMap(greep)) Tel();
+  return Echte<ssize_t (*)(int, const void*, size_t)>("write")(greep, bron, lengte);
+}
+
+ssize_t writev(int greep, const struct iovec* stukken, int aantal) {
+  if (IsStroomVanDeMap(greep)) Tel();
+  return Echte<ssize_t (*)(int, const struct iovec*, int)>("writev")(greep, stukken, aantal);
+}
+
+FILE* fopen(const char* pad, const char* wijze) {
+  if (wijze[0] == 'w' && IsStroomVanDeMap(pad)) Tel();
+  return Echte<FILE* (*)(const char*, const char*)>("fopen")(pad, wijze);
+}
+
+FILE* fopen64(const char* pad, const char* wijze) {
+  if (wijze[0] == 'w' && IsStroomVanDeMap(pad)) Tel();
+  return Echte<FILE* (*)(const char*, const char*)>("fopen64")(pad, wijze);
+}
+
+int remove(const char* pad) {
+  if (IsStroomVanDeMap(pad)) Tel();
+  return Echte<int (*)(const char*)>("remove")(pad);
+}
+
+int link(const char* van, const char* naar) {
+  if (IsStroomVanDeMap(naar)) Tel();
+  return Echte<int (*)(const char*, const char*)>("link")(van, naar);
 }
 
 }  // extern "C"

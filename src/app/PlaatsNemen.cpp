@@ -17,19 +17,30 @@ std::filesystem::path MetEind(std::filesystem::path pad, std::string_view eind) 
 // A place that a new file takes.
 struct Plaats {
   const std::filesystem::path& pad;
-  bool opzij = false;  // its earlier file waits
+  bool opzij = false;      // its earlier file waits
+  bool gekoppeld = false;  // under a second name
 
   [[nodiscard]] SysteemFout Neem(bool laatste, Bestandswerk& werk) {
     if (SysteemFout fout = werk.Veiligstellen(Ernaast(pad))) return fout;
-    std::error_code code;
     // The last one replaces its file at one moment: nothing can fail behind it.
-    const bool wijkt =
-        !laatste && std::filesystem::exists(std::filesystem::symlink_status(pad, code));
-    if (wijkt) {
-      if (SysteemFout fout = werk.Hernoem(pad, Opzij(pad))) return fout;
-      opzij = true;
+    if (!laatste) {
+      if (SysteemFout fout = LegOpzij(werk)) return fout;
     }
-    return werk.Hernoem(Ernaast(pad), pad);
+    SysteemFout fout = werk.Hernoem(Ernaast(pad), pad);
+    // The earlier one still has its place: its second name goes.
+    if (fout && gekoppeld) opzij = static_cast<bool>(werk.Verwijder(Opzij(pad)));
+    return fout;
+  }
+  // By a second name, so that a crash finds no place empty; by another one on a disk without those.
+  [[nodiscard]] SysteemFout LegOpzij(Bestandswerk& werk) {
+    std::error_code code;
+    if (!std::filesystem::exists(std::filesystem::symlink_status(pad, code))) return {};
+    gekoppeld = !werk.Koppel(pad, Opzij(pad));
+    if (!gekoppeld) {
+      if (SysteemFout fout = werk.Hernoem(pad, Opzij(pad))) return fout;
+    }
+    opzij = true;
+    return {};
   }
   [[nodiscard]] SysteemFout GeefTerug(Bestandswerk& werk) const {
     return opzij ? werk.Hernoem(Opzij(pad), pad) : werk.Verwijder(pad);

@@ -22,14 +22,8 @@ constexpr GebiedRij kGebieden[] = {
     {"BRD", "", "D"},   {"DDR", "", "D"},   {"FRA", "", "F"},   {"BEL", "", "B"},
 };
 
-// What a province that has no row is called there.
-struct ProvincieRij {
-  std::string_view code;
-  std::string_view prov;
-};
-
-constexpr ProvincieRij kProvincies[] = {{"U", "UT"},  {"L", "LI"}, {"GL", "GE"},
-                                        {"ZL", "ZE"}, {"F", "FR"}, {"G", "GR"}};
+// Of the codes of one letter the table above leaves this one.
+constexpr GebiedRij kGroningen{"G", "GR", "NL"};
 
 struct SynoniemRij {
   std::string_view naam;
@@ -76,10 +70,7 @@ GciGebied InTabel(const std::string& code) {
 
 std::string Provincie(const std::string& prov, const GciProvincies& provincies) {
   if (const auto gevonden = provincies.MetCode(prov)) return *gevonden;
-  for (const ProvincieRij& rij : kProvincies) {
-    if (rij.code == prov) return std::string(rij.prov);
-  }
-  return prov;
+  return prov == kGroningen.code ? std::string(kGroningen.prov) : prov;
 }
 
 std::string Land(const std::string& land, const GciLanden& landen) {

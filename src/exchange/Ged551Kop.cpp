@@ -23,8 +23,7 @@ constexpr std::size_t kLang = 90;
 
 // The name of a file in a path of any system.
 std::string_view Bestandsnaam(std::string_view pad) {
-  const std::size_t scheiding = pad.find_last_of("/\\");
-  return scheiding == std::string_view::npos ? pad : pad.substr(scheiding + 1);
+  return pad.substr(pad.find_last_of("/\\") + 1);  // behind npos stands all of it
 }
 
 void Veld(Ged551Regels& uit, int level, std::string_view tag, std::string_view waarde,

@@ -33,9 +33,8 @@ bool Ged551Opmerkingen::IsVanAnder(std::int16_t nr, Ged551Eigenaar wie) {
   return eigen_[static_cast<std::size_t>(nr)] || !opmerking_.Lees(nr);
 }
 
-// Each owner once, and each remark once: it names one owner.
+// Each remark once: it names one owner, and who was followed before has his first one marked.
 void Ged551Opmerkingen::VolgEigen(Ged551Eigenaar wie) {
-  if (!gevolgd_.emplace(wie.persoon, wie.nr).second) return;
   PersoonLB77& persoon = gegevens_.persoon;
   RelatieLB77& relatie = gegevens_.relatie;
   const bool isEr = wie.persoon ? persoon.Lees(wie.nr) && !persoon.IsVolgRecord()

@@ -2,9 +2,7 @@
 #pragma once
 
 #include <cstdint>
-#include <set>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "store/Gegevens.h"
@@ -54,7 +52,6 @@ class Ged551Opmerkingen {
   OpmLB77& opmerking_;
   std::vector<bool> verteld_;
   std::vector<bool> eigen_;  // that the owners of whom was doubt have in their own chain
-  std::set<std::pair<bool, std::int16_t>> gevolgd_;  // those owners
   int verloren_ = 0;
 };
 

@@ -118,7 +118,7 @@ class Schrijver {
     if (foto_.voornaam.empty() && foto_.achternaam.empty()) return;
     const std::string voor = ZonderSchuin(foto_.voornaam);
     const std::string achter = ZonderSchuin(foto_.achternaam);
-    velden_.regels.Regel(1, "NAME", voor + (voor.empty() ? "/" : " /") + achter + "/");
+    velden_.regels.Regel(1, "NAME", voor + " /" + achter + "/");
     if (HeeftSchuin(foto_.voornaam)) velden_.Veld(2, eigen::kVoornaam, foto_.voornaam);
     velden_.Veld(2, "GIVN", voor);
     const std::size_t lengte = VoorvoegselLengte(foto_.achternaam, foto_.sorteernaam);

@@ -35,6 +35,7 @@ TEST(GciFilter, EenNaamIsHetBeginMetOfZonderSter) {
 
 TEST(GciFilter, ProvincieEnLandZijnDeHeleCode) {
   EXPECT_EQ(Alle({"", "nb", ""}), (Rijen{2, 4}));
+  EXPECT_EQ(Alle({"", " nb ", ""}), (Rijen{2, 4}));
   EXPECT_EQ(Alle({"", "", "nl"}), (Rijen{1, 2, 3, 4}));
   EXPECT_EQ(Alle({"Bergen", "NH", "NL"}), Rijen{1});
   EXPECT_EQ(Alle({"Bergen", "NH", "B"}), Rijen{});

@@ -33,6 +33,15 @@ TEST(ReeksBij, EenPersoonTeltEenKeer) {
   EXPECT_EQ(reeksen.Aantal(), 0);
 }
 
+TEST(ReeksBij, WatIsMeegenomenTeltDaarnaNietMee) {
+  GciReeksen reeksen;
+  EXPECT_TRUE(reeksen.ReeksBij("Jansen", 2, 1800, 5));
+  EXPECT_TRUE(reeksen.ReeksBij("Vos", 2, 1800, 5));
+  EXPECT_EQ(reeksen.Neem().size(), 2U);
+  EXPECT_TRUE(reeksen.ReeksBij("Vos", 2, 1800, 5));
+  EXPECT_EQ(Vertel(reeksen.Neem()), Regels{"Vos 2 1800-1800 x1 (5)"});
+}
+
 TEST(ReeksBij, ElkJaarElkePlaatsEnElkeNaamIsEenReeks) {
   GciReeksen reeksen;
   EXPECT_TRUE(reeksen.ReeksBij("Jansen", 2, 1800, 5));

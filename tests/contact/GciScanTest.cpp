@@ -172,6 +172,24 @@ TEST_F(GciScanTest, OokHetZestiendeKindTelt) {
   EXPECT_EQ(Reeksen(true), Regels{"Bos 2 1850"});
 }
 
+TEST_F(GciScanTest, OokEenKindVoorDeMoederInHetBestandTelt) {
+  const auto kind = bouw_.Man("Piet", "", {{"GebPlaats", "2"}, {"GebDatum", "01-02-1831"}});
+  ASSERT_EQ(kind, 2);
+  bouw_.Relatie(0, bouw_.Vrouw("Els", "Bos"), {kind});
+  EXPECT_EQ(Reeksen(true), Regels{"Bos 2 1831"});
+}
+
+TEST_F(GciScanTest, OokDeLaatsteVanEenVolleSetTelt) {
+  bouw_.Man("Jan", "Vos");
+  RecordBestand& bestand = set_.bestanden.Bestand(BestandSoort::Personen);
+  std::string bytes(bestand.RecordLengte(), '\0');
+  ASSERT_EQ(bestand.Lees(2, bytes).gelezen, bytes.size());
+  for (std::int32_t nr = 3; nr <= 32767; ++nr) ASSERT_FALSE(bestand.Schrijf(nr, bytes));
+  bouw_.WijzigPersoon(32767, {{"GebPlaats", "2"}, {"GebDatum", "01-02-1801"}});
+  EXPECT_EQ(Reeksen(), Regels{"Vos 2 1801"});
+  EXPECT_EQ(getoond_.size(), 32766U);
+}
+
 TEST_F(GciScanTest, EenVervolgrecordEnEenNaamlozeTellenNiet) {
   bouw_.Man("Jan", "Vos", {{"OvlPlaats", "2"}, {"OvlDatum", "01-02-1801"}, {"GebCorr", "Z"}});
   bouw_.Man("Piet", "", {{"OvlPlaats", "2"}, {"OvlDatum", "01-02-1802"}});
@@ -212,6 +230,20 @@ TEST_F(GciScanTest, EenVolleTabelEindigtHetWerk) {
   bouw_.Man("Jan", "Vos", velden);
   EXPECT_TRUE(Voer(false, 2) == Einde::Klaar);
   EXPECT_TRUE(Voer(false, 1) == Einde::Vol);
+}
+
+TEST_F(GciScanTest, OokEenEnkeleGebeurtenisZietDat) {
+  constexpr const char* kGebeurtenissen[][2] = {{"GebPlaats", "GebDatum"},
+                                                {"DoopPlaats", "DoopDatum"},
+                                                {"OvlPlaats", "OvlDatum"},
+                                                {"BegrPlaats", "BegrDatum"}};
+  const auto man = bouw_.Man("Jan", "Vos");
+  for (const auto& [plaats, datum] : kGebeurtenissen) {
+    bouw_.WijzigPersoon(man, {{plaats, "2"}, {datum, "01-02-1801"}});
+    EXPECT_TRUE(Voer(false, 0) == Einde::Vol) << plaats;
+    bouw_.WijzigPersoon(man, {{plaats, "0"}, {datum, "00-00-0000"}});
+  }
+  EXPECT_TRUE(Voer(false, 0) == Einde::Klaar);
 }
 
 TEST_F(GciScanTest, ElkeGebeurtenisZietDatDeTabelVolIs) {

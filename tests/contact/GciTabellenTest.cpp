@@ -70,6 +70,7 @@ TEST(GciPlaatsen, KentDeCodesVanZijnProvincies) {
                               PlaatsRij("Jakarta", "DJR", "RI")});
   EXPECT_EQ(plaatsen.MetProv(" djr "), "DJR");
   EXPECT_EQ(plaatsen.MetProv("DNW"), "DNW");
+  EXPECT_EQ(plaatsen.MetProv(""), "");  // also the first row
   EXPECT_EQ(plaatsen.MetProv("DN"), std::nullopt);
   EXPECT_EQ(plaatsen.MetProv("NL"), std::nullopt);
 }

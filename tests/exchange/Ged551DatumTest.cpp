@@ -22,6 +22,7 @@ TEST(Ged551Dag, GeeftDagMaandEnJaar) {
   EXPECT_EQ(Dag(3, 1890), "MAR 1890");
   EXPECT_EQ(Dag(0, 1890), "1890");
   EXPECT_EQ(Dag(101, 45), "1 JAN 0045");
+  EXPECT_EQ(Dag(101, 1), "1 JAN 0001");
   EXPECT_EQ(Dag(3112, 9999), "31 DEC 9999");
 }
 
@@ -34,6 +35,8 @@ TEST(Ged551Dag, KentGeenDagZonderMaandOfJaar) {
 TEST(Ged551Dag, KentAlleenDagenVanDeKalender) {
   EXPECT_EQ(Dag(3104, 1890), "-");
   EXPECT_EQ(Dag(3004, 1890), "30 APR 1890");
+  EXPECT_EQ(Dag(2802, 1890), "28 FEB 1890");
+  EXPECT_EQ(Dag(2903, 1890), "29 MAR 1890");
   EXPECT_EQ(Dag(2902, 1892), "29 FEB 1892");
   EXPECT_EQ(Dag(2902, 1890), "-");
   EXPECT_EQ(Dag(2902, 1700), "29 FEB 1700");

@@ -80,7 +80,9 @@ TEST_F(Ged551RegelsTest, EenVervolgVanCONTStaatErnaast) {
 
 TEST_F(Ged551RegelsTest, EenTekstVanAlleenSpatiesHoudtOp) {
   const std::string spaties(600, ' ');
-  EXPECT_EQ(Van(1, "NOTE", "a" + spaties + "b").substr(0, 8), "1 NOTE a");
+  EXPECT_EQ(Van(1, "NOTE", "a" + spaties + "b"), "1 NOTE a" + std::string(245, ' ') + "\n2 CONC " +
+                                                     std::string(246, ' ') + "\n2 CONC " +
+                                                     std::string(109, ' ') + "b\n");
 }
 
 TEST_F(Ged551RegelsTest, RecordsEnVerwijzingenHebbenEenId) {

@@ -63,6 +63,113 @@ TEST(Ged551Kring, EenKetenDieRondlooptEindigt) {
   EXPECT_NE(uitvoer.log.find("al bij een ander staat: 2 keer"), std::string::npos) << uitvoer.log;
 }
 
+TEST(Ged551Kring, HetEersteRecordIsGeenOpmerking) {
+  ProefSet set;
+  const std::int16_t jan = set.bouw.Man("", "Jan");
+  const std::int16_t piet = set.bouw.Man("", "Piet");
+  set.bouw.OpmerkingBijPersoon(jan, persoonrubriek::kAlgemeen, {"een"}, 1);
+  ASSERT_TRUE(set.Opmerking.Wijzig(2, {{"VolgRegel", "1"}, {"BijZelfde", "1"}}));
+  set.bouw.WijzigPersoon(piet, {{"OpmRecord", "1"}});
+  const Ged551Uitvoer uitvoer = Exporteer551(set);
+  EXPECT_EQ(uitvoer.Van("0 @I2@ INDI"),
+            "1 NAME /Jan/\n2 SURN Jan\n1 SEX M\n1 NOTE een\n2 _LBPROG 1\n");
+  EXPECT_EQ(uitvoer.Van("0 @I3@ INDI"), "1 NAME /Piet/\n2 SURN Piet\n1 SEX M\n");
+  EXPECT_NE(uitvoer.log.find("al bij een ander staat: 3 keer"), std::string::npos) << uitvoer.log;
+}
+
+// A remark that was removed keeps its links, and belongs to no field.
+TEST(Ged551Kring, EenVrijRecordIsGeenOpmerking) {
+  ProefSet set;
+  const std::int16_t man = set.bouw.Man("", "X");
+  const std::int16_t relatie = set.bouw.Relatie(0, 0);
+  set.bouw.OpmerkingBijPersoon(man, persoonrubriek::kAlgemeen, {"weg"}, 1);
+  set.bouw.OpmerkingBijPersoon(man, persoonrubriek::kAchternaam, {"een"}, 1);
+  set.bouw.OpmerkingBijRelatie(relatie, relatierubriek::kAlgemeen, {"weg"}, 1);
+  set.bouw.OpmerkingBijRelatie(relatie, relatierubriek::kOtrPlaats, {"twee"}, 1);
+  ASSERT_TRUE(set.Opmerking.Wijzig(2, {{"Rubriek", "0"}}));
+  ASSERT_TRUE(set.Opmerking.Wijzig(4, {{"Rubriek", "0"}}));
+  const Ged551Uitvoer uitvoer = Exporteer551(set);
+  EXPECT_EQ(uitvoer.Van("0 @I2@ INDI"), "1 NAME /X/\n2 SURN X\n2 NOTE een\n3 _LBPROG 1\n1 SEX M\n");
+  EXPECT_EQ(uitvoer.Van("0 @F2@ FAM"), "1 MARB\n2 NOTE twee\n3 _LBRUBR -1\n3 _LBPROG 1\n");
+  EXPECT_NE(uitvoer.log.find("al bij een ander staat: 2 keer"), std::string::npos) << uitvoer.log;
+}
+
+// Persons come first, and leave a relation what is its own.
+TEST(Ged551Kring, EenOpmerkingVanEenRelatieBlijftBijHaar) {
+  ProefSet set;
+  const std::int16_t man = set.bouw.Man("", "X");
+  const std::int16_t eerste = set.bouw.Relatie(0, 0);
+  const std::int16_t tweede = set.bouw.Relatie(0, 0);
+  set.bouw.OpmerkingBijRelatie(tweede, relatierubriek::kAlgemeen, {"een"}, 1);
+  set.bouw.OpmerkingBijRelatie(tweede, relatierubriek::kAlgemeen, {"twee"}, 1);
+  set.bouw.WijzigPersoon(man, {{"OpmRecord", "2"}});
+  set.bouw.WijzigRelatie(eerste, {{"OpmRecord", "3"}});
+  const Ged551Uitvoer uitvoer = Exporteer551(set);
+  EXPECT_EQ(uitvoer.Van("0 @I2@ INDI"), "1 NAME /X/\n2 SURN X\n1 SEX M\n");
+  EXPECT_EQ(uitvoer.Van("0 @F2@ FAM"), "");
+  EXPECT_EQ(uitvoer.Van("0 @F3@ FAM"), "1 NOTE een\n2 _LBPROG 1\n1 NOTE twee\n2 _LBPROG 1\n");
+  EXPECT_NE(uitvoer.log.find("al bij een ander staat: 2 keer"), std::string::npos) << uitvoer.log;
+}
+
+TEST(Ged551Kring, EenOpmerkingBlijftBijDeRelatieWaarEenAndereGeenRechtOpHeeft) {
+  ProefSet set;
+  const std::int16_t eigen = set.bouw.Relatie(0, 0);
+  const std::int16_t ander = set.bouw.Relatie(0, 0);
+  const std::int16_t vervolg = set.bouw.Relatie(0, 0, {}, {{"HuwCorr", "Z"}, {"OpmRecord", "2"}});
+  // The number of a person who has it in his chain: that is another number.
+  const std::int16_t man = set.bouw.Man("", "X");
+  set.bouw.OpmerkingBijRelatie(eigen, relatierubriek::kAlgemeen, {"een"}, 1);
+  set.bouw.WijzigPersoon(man, {{"OpmRecord", "2"}});
+  ExpSelectie selectie;
+  ASSERT_TRUE(selectie.SelRelaties.Voeg(eigen));
+  for (const int naam : {int{ander}, int{vervolg}, 99, 1, 0, -5}) {
+    ASSERT_TRUE(set.Opmerking.Wijzig(2, {{"BijRecord", std::to_string(naam)}}));
+    EXPECT_EQ(Exporteer551(set, selectie).Van("0 @F2@ FAM"), "1 NOTE een\n2 _LBPROG 1\n") << naam;
+  }
+}
+
+// Who has a remark is told by his chain up to where it leaves him.
+TEST(Ged551Kring, WatAchterEenOpmerkingVanEenAnderLigtIsNietVanHem) {
+  ProefSet set;
+  const std::int16_t karel = set.bouw.Man("", "Karel");
+  const std::int16_t jan = set.bouw.Man("", "Jan");
+  const std::int16_t piet = set.bouw.Man("", "Piet");
+  set.bouw.OpmerkingBijPersoon(karel, persoonrubriek::kAlgemeen, {"van Karel"}, 1);
+  set.bouw.OpmerkingBijPersoon(jan, persoonrubriek::kAlgemeen, {"van Jan"}, 1);
+  for (const char* tekst : {"van Piet", "verdwaald"}) {
+    set.bouw.OpmerkingBijPersoon(piet, persoonrubriek::kAchternaam, {tekst}, 1);
+  }
+  ASSERT_TRUE(set.Opmerking.Wijzig(2, {{"BijZelfde", "5"}}));
+  const std::string begin = "1 NAME /Karel/\n2 SURN Karel\n";
+  EXPECT_EQ(Exporteer551(set).Van("0 @I2@ INDI"),
+            begin + "1 SEX M\n1 NOTE van Karel\n2 _LBPROG 1\n");
+  ASSERT_TRUE(set.Opmerking.Wijzig(4, {{"BijZelfde", "3"}}));
+  ASSERT_TRUE(set.Opmerking.Wijzig(3, {{"BijZelfde", "5"}}));
+  EXPECT_EQ(Exporteer551(set).Van("0 @I2@ INDI"),
+            begin + "2 NOTE verdwaald\n3 _LBPROG 1\n1 SEX M\n1 NOTE van Karel\n2 _LBPROG 1\n");
+}
+
+TEST(Ged551Kring, EenLegeRegelStaatErNiet) {
+  ProefSet set;
+  const std::int16_t nr = set.bouw.Man("", "X");
+  set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kAlgemeen, {"een", "twee", "drie"}, 1);
+  set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kBeroep, {"vier"}, 1);
+  ASSERT_TRUE(set.Opmerking.Wijzig(3, {{"Tekstregel", " "}}));
+  ASSERT_TRUE(set.Opmerking.Wijzig(5, {{"Tekstregel", " "}}));
+  EXPECT_EQ(Exporteer551(set).Van("0 @I2@ INDI"),
+            "1 NAME /X/\n2 SURN X\n1 SEX M\n1 NOTE een\n2 CONT drie\n2 _LBPROG 1\n");
+}
+
+TEST(Ged551Kring, TienRegelsZijnEenOpmerking) {
+  ProefSet set;
+  const std::int16_t nr = set.bouw.Man("", "X");
+  const std::vector<std::string> tien(10, "r");
+  set.bouw.OpmerkingBijPersoon(nr, persoonrubriek::kAlgemeen, tien, 1);
+  std::string verwacht = "1 NAME /X/\n2 SURN X\n1 SEX M\n1 NOTE r\n";
+  for (int i = 1; i < 10; ++i) verwacht += "2 CONT r\n";
+  EXPECT_EQ(Exporteer551(set).Van("0 @I2@ INDI"), verwacht + "2 _LBPROG 1\n");
+}
+
 TEST(Ged551Kring, EenKetenVanMeerDanTienRegelsWordtVerdeeld) {
   ProefSet set;
   const std::int16_t nr = set.bouw.Man("", "X");

@@ -55,6 +55,7 @@ TEST_F(Ged551SchrijverTest, HetVoorvoegselIsAlleenWatVooraanStaat) {
   set.bouw.Man("Jan", "van Oranje Nassau");
   set.bouw.Man("Jan", "Berg, van");
   set.bouw.Man("Jan", "van  Berg");
+  set.bouw.Man("Jan", "Vandam, van");
   EXPECT_EQ(Persoon(2),
             "1 NAME Jan /van Oranje Nassau/\n2 GIVN Jan\n2 _LBACHT van Oranje Nassau\n2 SPFX van\n"
             "2 SURN Oranje Nassau\n1 SEX M\n");
@@ -62,6 +63,7 @@ TEST_F(Ged551SchrijverTest, HetVoorvoegselIsAlleenWatVooraanStaat) {
   EXPECT_EQ(Persoon(4),
             "1 NAME Jan /van  Berg/\n2 GIVN Jan\n2 _LBACHT van  Berg\n2 SPFX van\n2 SURN Berg\n"
             "1 SEX M\n");
+  EXPECT_EQ(Persoon(5), "1 NAME Jan /Vandam, van/\n2 GIVN Jan\n2 SURN Vandam, van\n1 SEX M\n");
 }
 
 TEST_F(Ged551SchrijverTest, TekensDieIetsBetekenenStaanHeelInEenEigenTag) {
@@ -166,6 +168,7 @@ TEST_F(Ged551SchrijverTest, EenOpmerkingBlijftBijWieZijNoemt) {
   }
   ASSERT_TRUE(set.Opmerking.Wijzig(2, {{"BijZelfde", "4"}}));
   set.bouw.WijzigRelatie(relatie, {{"OpmRecord", "3"}, {"OpmCode", "-256"}});
+  set.bouw.Relatie(0, 0);
   const Ged551Uitvoer uitvoer = Exporteer551(set);
   EXPECT_EQ(uitvoer.Van("0 @I2@ INDI"),
             "1 NAME /Jan/\n2 SURN Jan\n1 SEX M\n1 NOTE van Jan\n2 _LBPROG 23\n");
@@ -183,7 +186,8 @@ TEST_F(Ged551SchrijverTest, EenOpmerkingDieEenVreemdeNoemtBlijftInHaarKetting) {
   set.bouw.OpmerkingBijPersoon(jan, persoonrubriek::kAlgemeen, {"van Jan"});
   // A continuation record is nobody, whatever it holds.
   const std::int16_t vervolg = set.bouw.Man("", "", {{"GebCorr", "Z"}, {"OpmRecord", "2"}});
-  for (const int naam : {int{piet}, int{vervolg}, 99, 1, 0, -5}) {
+  const std::int16_t karel = set.bouw.Man("", "Karel", {{"OpmRecord", "-5"}});
+  for (const int naam : {int{piet}, int{vervolg}, int{karel}, 99, 1, 0, -5}) {
     ASSERT_TRUE(set.Opmerking.Wijzig(2, {{"BijRecord", std::to_string(naam)}}));
     EXPECT_EQ(Persoon(jan), "1 NAME /Jan/\n2 SURN Jan\n1 SEX M\n1 NOTE van Jan\n2 _LBPROG 23\n")
         << naam;
@@ -279,20 +283,25 @@ TEST_F(Ged551SchrijverTest, VerwijzingenBuitenDeSelectieWordenGeteld) {
   const std::int16_t kind = set.bouw.Man("", "Z");
   set.bouw.Plaats("Ongebruikt");
   const std::int16_t delft = set.bouw.Plaats("Delft");
+  const std::int16_t gouda = set.bouw.Plaats("Gouda");
   set.bouw.WijzigPersoon(man, {{"GebPlaats", GetalTekst(delft)}});
-  set.bouw.Relatie(man, vrouw, {kind});
+  set.bouw.Relatie(man, vrouw, {kind}, {{"OtrPlaats", gouda}});
+  set.bouw.Plaats("Ook ongebruikt");
   ExpSelectie selectie;
   ASSERT_TRUE(selectie.SelPersonen.Voeg(man));
   ASSERT_TRUE(selectie.SelRelaties.Voeg(2));
   const Ged551Uitvoer uitvoer = Exporteer551(set, selectie);
-  EXPECT_EQ(uitvoer.Van("0 @F2@ FAM"), "1 HUSB @I2@\n");
-  EXPECT_EQ(uitvoer.bestand.find("Ongebruikt"), std::string::npos);
+  EXPECT_EQ(uitvoer.Van("0 @F2@ FAM"), "1 HUSB @I2@\n1 MARB\n2 _LBPLTS @P4@\n2 PLAC Gouda\n");
+  EXPECT_EQ(uitvoer.Van("0 @P4@ _LBPLTS"), "1 NAME Gouda\n");
+  EXPECT_EQ(uitvoer.bestand.find("ngebruikt"), std::string::npos);
   EXPECT_EQ(uitvoer.log,
             "Soort bestand: GEDCOM 5.5.1, tekenset UTF-8\nTotaal 1 Personen geëxporteerd\n"
-            "Totaal 1 Relaties geëxporteerd\nTotaal 1 Plaatsen geëxporteerd\n"
+            "Totaal 1 Relaties geëxporteerd\nTotaal 2 Plaatsen geëxporteerd\n"
             "LET OP: verwijzing naar een record dat niet mee is uitgevoerd: 2 keer\n"
             "Exporteren voltooid\n"_w);
-  EXPECT_NE(Exporteer551(set).bestand.find("Ongebruikt"), std::string::npos);
+  for (const char* naam : {"1 NAME Ongebruikt\n", "1 NAME Ook ongebruikt\n"}) {
+    EXPECT_NE(Exporteer551(set).bestand.find(naam), std::string::npos) << naam;
+  }
 }
 
 TEST_F(Ged551SchrijverTest, WatBeschadigdIsWordtGeteld) {

@@ -157,6 +157,81 @@ TEST_F(OpmReeksToets, EenBeginDatGeenRecordIsZegtDat) {
   EXPECT_TRUE(Lees(rubriek::kAlgemeen).regels.empty());
 }
 
+// The walk has as many steps as there are records, of which record 1 is none.
+TEST_F(OpmReeksToets, EenKettingVanAlleRecordsWordtGeheelGelopen) {
+  for (int i = 0; i < 5; ++i) Opmerking(i == 4 ? rubriek::kBeroep : rubriek::kAlgemeen, {"a"});
+  EXPECT_EQ(Lees(rubriek::kBeroep).regels, Regels{"a"});
+  EXPECT_EQ(EenVoorEen(rubriek::kBeroep), Regels{"a"});
+  // One link further is one too many.
+  Zet(6, "BijZelfde", 2);
+  Zet(6, "Rubriek", rubriek::kVoornaam);
+  const Regels rond{">> Verkeerde verwijzing: opm-record 2 bestaat niet <<"};
+  EXPECT_EQ(Lees(rubriek::kBeroep).regels, rond);
+  EXPECT_EQ(EenVoorEen(rubriek::kBeroep), rond);
+}
+
+TEST_F(OpmReeksToets, EenKettingEnHaarRegelsGaanSamenDoorAlleRecords) {
+  Opmerking(rubriek::kAlgemeen, {"a"});
+  Opmerking(rubriek::kAlgemeen, {"b"});
+  Opmerking(rubriek::kBeroep, {"c", "d", "e"});
+  const Regels alle{"c", "d", "e"};
+  EXPECT_EQ(Lees(rubriek::kBeroep).regels, alle);
+  EXPECT_EQ(EenVoorEen(rubriek::kBeroep), alle);
+  Zet(6, "VolgRegel", 5);
+  const Regels rond{"c", "d", "e", ">> Verkeerde verwijzing: opm-record 5 bestaat niet <<"};
+  EXPECT_EQ(Lees(rubriek::kBeroep).regels, rond);
+  EXPECT_EQ(EenVoorEen(rubriek::kBeroep), rond);
+}
+
+// Ten lines are a remark, also where they are the same ones.
+TEST_F(OpmReeksToets, RegelsInEenKringEindigenBijHetAantalRecordsOfBijTien) {
+  Opmerking(rubriek::kAlgemeen, {"a", "b"});
+  Zet(3, "VolgRegel", 2);
+  Regels rond{"a", "b", ">> Verkeerde verwijzing: opm-record 2 bestaat niet <<"};
+  EXPECT_EQ(Lees(rubriek::kAlgemeen).regels, rond);
+  EXPECT_EQ(EenVoorEen(rubriek::kAlgemeen), rond);
+  // Eight more: ten records are in use, one short of the eleven that a tenth line asks for.
+  const std::int16_t ander = set_.bouw.Man("Piet", "Pietersen");
+  set_.bouw.OpmerkingBijPersoon(ander, rubriek::kBeroep, {"1", "2", "3", "4", "5", "6", "7"});
+  rond = {"a", "b", "a", "b", "a", "b", "a", "b", "a"};
+  rond.emplace_back(">> Verkeerde verwijzing: opm-record 3 bestaat niet <<");
+  EXPECT_EQ(Lees(rubriek::kAlgemeen).regels, rond);
+  EXPECT_EQ(EenVoorEen(rubriek::kAlgemeen), rond);
+  set_.bouw.OpmerkingBijPersoon(ander, rubriek::kVoornaam, {"8"});
+  rond.back() = "b";
+  EXPECT_EQ(Lees(rubriek::kAlgemeen).regels, rond);
+  EXPECT_EQ(EenVoorEen(rubriek::kAlgemeen), rond);
+}
+
+TEST_F(OpmReeksToets, OokHetLaatsteRecordKomtEenmaal) {
+  Opmerking(rubriek::kBeroep, {"smid"});
+  Opmerking(rubriek::kBeroep, {"boer"});
+  Zet(3, "BijZelfde", 3);
+  OpmReeks reeks(set_.Opmerking);
+  reeks.Lees(3);
+  EXPECT_EQ(reeks.Aantal(), 1U);
+  EXPECT_EQ(reeks.Rubriek(rubriek::kVoornaam, rubriek::kVoornaam).regels,
+            Regels{">> Verkeerde verwijzing: opm-record 3 bestaat niet <<"});
+}
+
+// No record: a hole in the file.
+TEST_F(OpmReeksToets, EenRecordDatNietTeLezenIsZegtDat) {
+  Opmerking(rubriek::kAlgemeen, {"a", "b"});
+  Opmerking(rubriek::kBeroep, {"smid"});
+  Opmerking(rubriek::kVoornaam, {"Jan"});
+  RecordBestand& bestand = set_.bestanden.Bestand(BestandSoort::Opmerkingen);
+  for (const int nr : {3, 4}) {
+    ASSERT_FALSE(bestand.Schrijf(nr, std::string(bestand.RecordLengte(), '\0')));
+  }
+  EXPECT_EQ(Lees(rubriek::kAlgemeen).regels,
+            (Regels{"a", ">> Leesfout opm-record 3 bestaat niet <<"}));
+  EXPECT_EQ(Lees(rubriek::kVoornaam).regels, Regels{">> Leesfout opm-record 4 bestaat niet <<"});
+  for (const std::int16_t deze : {rubriek::kAlgemeen, rubriek::kVoornaam}) {
+    EXPECT_EQ(Lees(deze).regels, EenVoorEen(deze)) << deze;
+  }
+  static_cast<void>(set_.Getoond());
+}
+
 // A damaged set: thousands point into one chain.
 TEST_F(OpmReeksToets, EenKettingDieAlGelezenIsWordtNietWeerGelezen) {
   for (int i = 0; i < 200; ++i) Opmerking(i % 2 == 0 ? 1 : 2, {std::to_string(i)});

@@ -5,6 +5,7 @@ Arguments: the command line program, the preload library, a GEDCOM file.
 """
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
@@ -26,6 +27,11 @@ def inhoud(werk):
     return [(werk / "DATA" / "FAM" / naam).read_bytes() for naam in BESTANDEN]
 
 
+def zonder_tijd(bytes_):
+    """An exported file without the moment at which it was made."""
+    return re.sub(rb"(?m)^(2 TIME |0 @FAM)[0-9:]+", rb"\1", bytes_)
+
+
 class Sterf(unittest.TestCase):
     def setUp(self):
         self.tijdelijk = tempfile.TemporaryDirectory(prefix="lb77-sterf-")
@@ -37,14 +43,14 @@ class Sterf(unittest.TestCase):
             self.assertEqual(uit.returncode, 0, uit.stderr.decode())
         self.voor = inhoud(self.basis)
 
-    def sterf(self, bij, naam, *woorden, onder="DATA/FAM"):
+    def sterf(self, bij, naam, *woorden, onder="DATA/FAM", stromen=False):
         """A copy of the set in which a command, an import at first, was killed; whether it was."""
         werk = self.basis.parent / naam
         shutil.rmtree(werk, ignore_errors=True)
         shutil.copytree(self.basis, werk)
         uit = lb77(werk, *(woorden or ("importeer", "FAM", GEDCOM)), omgeving={
             "LD_PRELOAD": str(BIBLIOTHEEK), "STERF_BIJ": str(bij),
-            "STERF_MAP": str(werk / onder)})
+            "STERF_MAP": str(werk / onder), **({"STERF_STROMEN": "1"} if stromen else {})})
         return werk, uit.returncode == -9
 
     def operaties(self):
@@ -127,6 +133,76 @@ class Sterf(unittest.TestCase):
             bij += 1
         self.assertGreater(bij, 3)
         self.assertGreater(nieuwe, 0)
+
+    def export(self, *woorden, map_, namen, heel, log):
+        """Kills an export at each of its operations. Each file that it writes is then the earlier one,
+        the new one or, when not `heel`, the first part of it; nothing else was touched. The next run
+        makes all files whole and leaves nothing beside them."""
+        def uitvoer(werk):
+            return {naam: zonder_tijd((werk / map_ / naam).read_bytes()) for naam in namen}
+
+        def anders(werk):
+            return {pad.relative_to(werk): pad.read_bytes() for pad in werk.rglob("*")
+                    if pad.is_file() and not (pad.parent == werk / map_ and
+                                              pad.name.startswith((*namen, log)))}
+        (self.basis / map_).mkdir(exist_ok=True)
+        for naam in namen:
+            (self.basis / map_ / naam).write_bytes(b"eerder " + naam.encode())
+        eerder, rest = uitvoer(self.basis), anders(self.basis)
+        gestorven, bij, gezien = True, 1, set()
+        nieuw = None
+        while gestorven:
+            # A whole run first: it tells what the new files are.
+            werk, gestorven = self.sterf(bij if nieuw else 10 ** 6, "export", *woorden, onder=".", stromen=True)
+            if nieuw is None:
+                nieuw, gestorven = uitvoer(werk), True
+                for naam in namen:
+                    self.assertNotEqual(nieuw[naam], eerder[naam])
+                continue
+            for naam, bytes_ in uitvoer(werk).items():
+                soort = ("eerder" if bytes_ == eerder[naam] else "nieuw" if bytes_ == nieuw[naam] else
+                         "deel" if nieuw[naam].startswith(bytes_) else "stuk")
+                gezien.add(soort)
+                self.assertIn(soort, ("eerder", "nieuw") if heel else ("eerder", "nieuw", "deel"),
+                              f"{naam}, operation {bij}")
+            self.assertEqual(anders(werk), rest, f"operation {bij}")
+            if gestorven:
+                uit = lb77(werk, *woorden)
+                self.assertEqual(uit.returncode, 0, f"operation {bij}: {uit.stderr.decode()}")
+                self.assertEqual(uitvoer(werk), nieuw, f"operation {bij}")
+            over = {pad.name for pad in (werk / map_).iterdir() if pad.name.startswith(tuple(namen))}
+            self.assertEqual(over, set(namen), f"operation {bij}")
+            bij += 1
+        self.assertEqual(gezien, {"eerder", "nieuw"} | (set() if heel else {"deel"}))
+        return bij
+
+    def test_de_drie_bestanden_van_ascii_zijn_elk_het_vorige_of_heel(self):
+        namen = [f"FAM_{soort}.TXT" for soort in ("PRS", "RLT", "OPM")]
+        self.assertGreater(self.export("ascii", "FAM", map_="DATA/FAM/TEKST", namen=namen, heel=True,
+                                       log="EXPORT.LOG"), 15)
+
+    def test_gedcom_utf8_is_het_vorige_of_heel(self):
+        naar = self.basis.parent / "export" / "DATA/FAM/TEKST/uit.ged"
+        self.export("exporteer", "FAM", "--utf8", naar, map_="DATA/FAM/TEKST", namen=["uit.ged"], heel=True,
+                    log="GEDCOM.LOG")
+
+    def test_de_bestanden_voor_de_contactdienst_zijn_elk_het_vorige_of_heel(self):
+        for naam, kop, breedte, rij in (("PLT", 130, 31, "Delft                       NL "),
+                                        ("PRV", 98, 23, "ZH Zuid-Holland"), ("LND", 98, 23, "B  Belgie")):
+            tabel = bytearray(kop)
+            tabel[4] = 1
+            (self.basis / f"GCI{naam}!!.DBF").write_bytes(tabel + b" " + rij.encode().ljust(breedte))
+        self.export("contactdienst", "FAM", map_="DATA/FAM/TEKST", namen=["CONTACT.INZ", "CONTACT.FAM"],
+                    heel=True, log="GCI.LOG")
+
+    def test_van_gedcom_blijft_staan_wat_geschreven_is(self):
+        naar = self.basis.parent / "export" / "DATA/FAM/TEKST/uit.ged"
+        self.export("exporteer", "FAM", naar, map_="DATA/FAM/TEKST", namen=["uit.ged"], heel=False,
+                    log="GEDCOM.LOG")
+
+    def test_van_een_uitdraai_blijft_staan_wat_geschreven_is(self):
+        namen = [f"FAM_{soort}.TXT" for soort in ("PRS", "RLT", "PLT", "OPM")]
+        self.export("uitdraai", "FAM", map_="DATA/FAM/TEKST", namen=namen, heel=False, log="UITDRAAI.LOG")
 
 
 if __name__ == "__main__":
