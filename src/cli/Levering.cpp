@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "app/UitvoerNaam.h"
 #include "cli/Afdrukken.h"
 #include "cli/Sessie.h"
-#include "app/UitvoerNaam.h"
 #include "text/Pad.h"
 
 namespace lb77 {

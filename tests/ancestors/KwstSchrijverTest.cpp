@@ -138,8 +138,8 @@ TEST_F(KwstSchrijverToets, EenOnleesbarePartnerEindigtHetVerslag) {
 TEST_F(KwstSchrijverToets, EenLegeLijstMetVervolgIsMeerDanEenRelatie) {
   const auto vader = set_.bouw.Man("Vader", "A");
   const auto kind = set_.bouw.Man("Kind", "A");
-  const auto relatie =
-      set_.bouw.Relatie(vader, set_.bouw.Vrouw("Moeder", "B"), {kind}, {{"WHuwDatum", "01-04-1900"}});
+  const auto relatie = set_.bouw.Relatie(vader, set_.bouw.Vrouw("Moeder", "B"), {kind},
+                                         {{"WHuwDatum", "01-04-1900"}});
   const auto vervolg = set_.bouw.Man("", "", {{"GebCorr", "Z"}});
   set_.bouw.WijzigPersoon(
       vader,
