@@ -83,7 +83,9 @@ void KwstBldParam::SlaOp() {
   const std::filesystem::path naam =
       Opslagnaam("Kwartierblad " + Persoon.VoorNm.Tekst() + " " + Persoon.AchterNm.Tekst(), ".txt");
   const Tekencode code = UTF8Box.Gekozen() ? Tekencode::Utf8 : Tekencode::Zelfde;
-  if (SlaTekstOp(Hoofd(), Pad(), vraag, naam, code)) Sluit();
+  if (SlaTekstOp(Hoofd().gesprek, {Hoofd().programmaMap, Hoofd().Ini, Hoofd().ActieveSetNaam},
+                 Pad(), vraag, naam, code))
+    Sluit();
 }
 
 }  // namespace lb77

@@ -71,10 +71,10 @@ std::string BeschermdeRol(const std::filesystem::path& bestand,
   return {};
 }
 
-bool IsBeschermd(const std::filesystem::path& bestand, const Hoofdmodule& hoofd) {
+bool Beschermd::Bevat(const std::filesystem::path& bestand) const {
   const std::filesystem::path pad = VindPad(bestand);
-  return IsVanSet(pad, SetPaden::Van(hoofd.Ini.DataDir(), hoofd.ActieveSetNaam)) ||
-         !BeschermdeRol(pad, hoofd.programmaMap, hoofd.Ini).empty();
+  return IsVanSet(pad, SetPaden::Van(ini.DataDir(), actieveSet)) ||
+         !BeschermdeRol(pad, programmaMap, ini).empty();
 }
 
 }  // namespace lb77

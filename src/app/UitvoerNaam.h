@@ -4,7 +4,6 @@
 #include <filesystem>
 #include <string>
 
-#include "app/Hoofdmodule.h"
 #include "app/IniClass.h"
 #include "store/SetPaden.h"
 
@@ -23,7 +22,14 @@ namespace lb77 {
                                         const std::filesystem::path& programmaMap,
                                         const IniClass& ini);
 
-// Does it belong to the open set, or is it protected otherwise?
-[[nodiscard]] bool IsBeschermd(const std::filesystem::path& bestand, const Hoofdmodule& hoofd);
+// What no output of a dialog may replace: what belongs to the open set, or has a BeschermdeRol.
+// References only.
+struct Beschermd {
+  const std::filesystem::path& programmaMap;
+  const IniClass& ini;
+  const std::string& actieveSet;
+
+  [[nodiscard]] bool Bevat(const std::filesystem::path& bestand) const;
+};
 
 }  // namespace lb77

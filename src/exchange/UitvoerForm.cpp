@@ -206,7 +206,8 @@ bool UitvoerForm::IsBezet(std::size_t i) const {
   for (std::size_t ander = 0; ander < i; ++ander) {
     if (IsZelfdeBestand(pad, UitvoerPad(ander))) return true;
   }
-  return IsZelfdeBestand(pad, LogPad()) || IsBeschermd(pad, hoofd_);
+  return IsZelfdeBestand(pad, LogPad()) ||
+         Beschermd{hoofd_.programmaMap, hoofd_.Ini, hoofd_.ActieveSetNaam}.Bevat(pad);
 }
 
 // A relative path is one in the program's directory.

@@ -2,7 +2,6 @@
 
 #include <string>
 
-#include "app/UitvoerNaam.h"
 #include "forms/Bureaublad.h"
 #include "text/Pad.h"
 
@@ -23,13 +22,12 @@ std::optional<std::filesystem::path> VraagOpslag(Gesprek& gesprek, const Bestand
   return bureaublad ? bureaublad->VraagOpslag(vraag, naam) : gesprek.VraagBestand(vraag);
 }
 
-bool SlaTekstOp(Hoofdmodule& hoofd, const std::filesystem::path& tekst, const BestandsVraag& vraag,
-                const std::filesystem::path& naam, Tekencode code) {
-  Gesprek& gesprek = hoofd.gesprek;
+bool SlaTekstOp(Gesprek& gesprek, const Beschermd& beschermd, const std::filesystem::path& tekst,
+                const BestandsVraag& vraag, const std::filesystem::path& naam, Tekencode code) {
   const auto naar = VraagOpslag(gesprek, vraag, naam);
   if (!naar) return false;
   if (const SysteemFout fout =
-          IsBeschermd(*naar, hoofd) ? FoutInGebruik() : KopieerTekst(tekst, *naar, code)) {
+          beschermd.Bevat(*naar) ? FoutInGebruik() : KopieerTekst(tekst, *naar, code)) {
     gesprek.Fout("Fout bij het opslaan van de tekst.\n" + fout.tekst);
     return false;
   }

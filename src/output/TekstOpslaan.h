@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "app/Hoofdmodule.h"
+#include "app/UitvoerNaam.h"
 #include "forms/Gesprek.h"
 #include "output/Tekstpaginas.h"
 
@@ -20,11 +20,12 @@ namespace lb77 {
                                                                const BestandsVraag& vraag,
                                                                const std::filesystem::path& naam);
 
-// Asks by `vraag` where the text file is to go, and copies it there. A file that no output may replace
-// is one in use. Tells of success and of failure; True when it was stored. On a desktop the name
+// Asks by `vraag` where the text file is to go, and copies it there. One that is `beschermd`
+// is a file in use. Tells of success and of failure; True when it was stored. On a desktop the name
 // `naam` is proposed, if there is one.
-[[nodiscard]] bool SlaTekstOp(Hoofdmodule& hoofd, const std::filesystem::path& tekst,
-                              const BestandsVraag& vraag, const std::filesystem::path& naam = {},
+[[nodiscard]] bool SlaTekstOp(Gesprek& gesprek, const Beschermd& beschermd,
+                              const std::filesystem::path& tekst, const BestandsVraag& vraag,
+                              const std::filesystem::path& naam = {},
                               Tekencode code = Tekencode::Zelfde);
 
 }  // namespace lb77

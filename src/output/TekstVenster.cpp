@@ -257,9 +257,10 @@ void TekstVenster::SaveButtonKlik() {
   const BestandsVraag vraag{BestandsWijze::Opslaan, std::string(filter), hoofd_.Ini.TekstDir()};
   const bool utf8 = UTF8Box.Bruikbaar() && UTF8Box.Gekozen();
   // Told either way; the viewer stays.
-  static_cast<void>(SlaTekstOp(hoofd_, Uitvoer().Pad(), vraag,
-                               Opslagnaam(Titel(), HTMLUitvoer_ ? ".htm" : ".txt"),
-                               utf8 ? Tekencode::Utf8 : Tekencode::Zelfde));
+  static_cast<void>(
+      SlaTekstOp(hoofd_.gesprek, {hoofd_.programmaMap, hoofd_.Ini, hoofd_.ActieveSetNaam},
+                 Uitvoer().Pad(), vraag, Opslagnaam(Titel(), HTMLUitvoer_ ? ".htm" : ".txt"),
+                 utf8 ? Tekencode::Utf8 : Tekencode::Zelfde));
 }
 
 void TekstVenster::BrowserButtonKlik() {

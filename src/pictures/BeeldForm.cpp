@@ -218,9 +218,10 @@ void BeeldForm::OKButtonKlik() {
   if (!naar) return;
   if (!naar->has_extension()) *naar += ".svg";
   const bool pdf = Hoofdletters(PadTekst(naar->extension())) == ".PDF";
-  const auto fout = IsBeschermd(*naar, Hoofd()) ? std::optional(FoutInGebruik().tekst)
-                    : pdf ? gesprek.MaakPdf(*naar, Beeld.Beeld(), MaakVellen())
-                          : BewaarSvg(*naar);
+  const Beschermd beschermd{Hoofd().programmaMap, Hoofd().Ini, Hoofd().ActieveSetNaam};
+  const auto fout = beschermd.Bevat(*naar) ? std::optional(FoutInGebruik().tekst)
+                    : pdf                  ? gesprek.MaakPdf(*naar, Beeld.Beeld(), MaakVellen())
+                                           : BewaarSvg(*naar);
   if (fout) return gesprek.Fout("Fout bij het opslaan van het beeld.\n" + *fout);
   gesprek.Informeer("Het beeld is opgeslagen.");
 }
