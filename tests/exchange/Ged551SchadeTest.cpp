@@ -149,6 +149,19 @@ TEST(Ged551Kring, WatAchterEenOpmerkingVanEenAnderLigtIsNietVanHem) {
             begin + "2 NOTE verdwaald\n3 _LBPROG 1\n1 SEX M\n1 NOTE van Karel\n2 _LBPROG 1\n");
 }
 
+TEST(Ged551Grens, OokDeHoogstePlaatsGaatMee) {
+  ProefSet set;
+  set.bouw.Man("", "X", {{"GebPlaats", "10000"}});
+  RecordBestand& bestand = set.bestanden.Bestand(BestandSoort::Plaatsen);
+  std::string bytes(bestand.RecordLengte(), '\0');
+  ASSERT_EQ(bestand.Lees(set.bouw.Plaats("Delft"), bytes).gelezen, bytes.size());
+  ASSERT_FALSE(bestand.Schrijf(10000, bytes));
+  const Ged551Uitvoer uitvoer = Exporteer551(set);
+  EXPECT_EQ(uitvoer.Van("0 @P10000@ _LBPLTS"), "1 NAME Delft\n");
+  EXPECT_EQ(uitvoer.Van("0 @I2@ INDI"),
+            "1 NAME /X/\n2 SURN X\n1 SEX M\n1 BIRT\n2 _LBPLTS @P10000@\n2 PLAC Delft\n");
+}
+
 TEST(Ged551Kring, EenLegeRegelStaatErNiet) {
   ProefSet set;
   const std::int16_t nr = set.bouw.Man("", "X");
