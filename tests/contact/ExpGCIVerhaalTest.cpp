@@ -141,5 +141,23 @@ TEST_F(ExpGCIVerhaal, DeCodesVanDeDienstGelden) {
   EXPECT_EQ(Reeksen(), "VOS Boston AM 18001800\nVOS Bussum G NL 18001800\n");
 }
 
+// As imported places have none.
+TEST_F(ExpGCIVerhaal, EenPlaatsZonderProvincieWordtAlleenOpVerzoekZonderVraagGenomen) {
+  Woonde("Vos", "Elst", "", 1800);
+  Exporteer("antwoord Ja\ndruk BackButton", R"~(
+    ? vraag Ja/Nee "Is dit de juiste provincie voor plaatscode 2 - Elst ?\nGevonden: Elst, GE, NL" -> Ja
+    ! info "Export voltooid"
+    + ToonTekst "Exporteren - Resultaat"
+    - ToonTekst
+  )~");
+  opties_.neemEnige = true;
+  Exporteer("druk BackButton", R"~(
+    ! info "De enige van die naam voor plaatscode 2 - Elst\nGevonden: Elst, GE, NL"
+    ! info "Export voltooid"
+    + ToonTekst "Exporteren - Resultaat"
+    - ToonTekst
+  )~");
+}
+
 }  // namespace
 }  // namespace lb77
