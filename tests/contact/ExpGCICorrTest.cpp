@@ -260,6 +260,21 @@ TEST_F(ExpGCICorrTest, EenNaamDieNietsIsWordtPasBijVeranderenOpgezocht) {
       "= FilterProv \"???\"\n= FilterLand \"???\"\n");
 }
 
+// As a screen reader says them, which sees no table.
+TEST_F(ExpGCICorrTest, WatGeenBijschriftHeeftHeeftEenLeesnaam) {
+  const auto taak = [this](Hoofdmodule& hoofd) {
+    const ExpGCICorr form(hoofd.gesprek, tabellen_, plaats_);
+    for (const auto& [naam, leesnaam] : {std::pair{"FilterProvAfk", "Code van de provincie"},
+                                         {"FilterLandAfk", "Code van het land"},
+                                         {"GCIPltsNm(3)", "Plaatsnaam op regel 3"},
+                                         {"GCIProvNm(10)", "Provincie op regel 10"},
+                                         {"GCILandNm(1)", "Land op regel 1"}}) {
+      EXPECT_EQ(form.Zoek(naam)->Leesnaam(), leesnaam) << naam;
+    }
+  };
+  Verwacht("", taak, "");
+}
+
 TEST_F(ExpGCICorrTest, EenVeldHoudtDeFocusAlleenAlsHetNietKlopt) {
   const auto naTab = [this](const std::string& typen, std::string_view verslag = "") {
     std::string focus;
