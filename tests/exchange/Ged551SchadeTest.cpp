@@ -6,6 +6,7 @@
 #include "exchange/Ged551Grammatica.h"
 #include "exchange/Ged551Toets.h"
 #include "exchange/Ged551Vulling.h"
+#include "steun/FaalBestand.h"
 #include "store/Rubrieken.h"
 
 namespace lb77 {
@@ -49,6 +50,42 @@ TEST_P(Ged551Schade, BreektDeStandaardNiet) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Zaden, Ged551Schade, ::testing::Range(1U, 9U));
+
+// Is that record whole, or told as not read?
+void VerwachtHeelOfGemeld(const Ged551Uitvoer& uitvoer, const std::string& begin,
+                          const std::string& melding, int bij) {
+  const bool heel = !uitvoer.Van(begin).empty();
+  const bool gemeld = uitvoer.log.find(melding) != std::string::npos;
+  EXPECT_NE(heel, gemeld) << bij << " " << begin;
+}
+
+TEST(Ged551Storing, WaarHetLezenOokMisluktHetBestandKloptEnHetVerslagZegtHet) {
+  ProefSet set;
+  const std::int16_t delft = set.bouw.Plaats("Delft");
+  const std::int16_t man = set.bouw.Man("", "X", {{"GebPlaats", delft}});
+  const std::int16_t kind = set.bouw.Man("", "Z");
+  set.bouw.Relatie(man, set.bouw.Vrouw("", "Y"), {kind}, {{"OtrPlaats", delft}});
+  set.bouw.OpmerkingBijPersoon(man, persoonrubriek::kAlgemeen, {"een", "twee"}, 1);
+  const ExpSelectie selectie = AllesVan(set);
+  for (const bool blijvend : {false, true}) {
+    bool geweest = true;
+    for (int bij = 1; geweest; ++bij) {
+      Storing storing{.bij = bij, .blijvend = blijvend};
+      set.bestanden = Bestandenset(FalendeOpener(storing));
+      ASSERT_FALSE(set.bestanden.OpenSet(set.paden));
+      const Ged551Uitvoer uitvoer = Exporteer551(set, selectie);
+      geweest = storing.Geweest();
+      EXPECT_EQ(GrammaticaFouten(MetCrLf(uitvoer.bestand), false), std::vector<std::string>())
+          << bij;
+      for (const char* nr : {"2", "3", "4"}) {
+        VerwachtHeelOfGemeld(uitvoer, std::string("0 @I") + nr + "@ INDI",
+                             std::string("Leesfout bij Persoonsrecord ") + nr + ".", bij);
+      }
+      VerwachtHeelOfGemeld(uitvoer, "0 @F2@ FAM", "Leesfout bij Relatierecord 2.", bij);
+      static_cast<void>(set.Getoond());
+    }
+  }
+}
 
 TEST(Ged551Kring, EenKetenDieRondlooptEindigt) {
   ProefSet set;
