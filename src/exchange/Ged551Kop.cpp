@@ -73,7 +73,7 @@ void SchrijfGed551Kop(const GedKopGegevens& kop, Ged551Regels& uit) {
   uit.Regel(1, "DATE", Vandaag(kop.nu));
   uit.Regel(2, "TIME", Tijd(kop.nu));
   uit.Verwijzing(1, "SUBM", 'S', 1);
-  Veld(uit, 1, "FILE", Bestandsnaam(Trim(kop.bestandsnaam)), kLang);
+  Veld(uit, 1, "FILE", Bestandsnaam(kop.bestandsnaam), kLang);
   Veld(uit, 1, "COPR", Naam(kop.inzender), kLang);
   uit.Regel(1, "GEDC");
   uit.Regel(2, "VERS", "5.5.1");

@@ -194,12 +194,12 @@ class Schrijver {
 }  // namespace
 
 bool SchrijfGed551Persoon(std::int16_t nr, Ged551Velden& velden, const Ged551Mee& mee) {
+  velden.regels.Record('I', nr, "INDI");
   PersoonLB77& persoon = velden.gegevens.persoon;
   if (!persoon.Lees(nr)) return false;
   const Foto foto(persoon);
   Huwtab relaties{};
   if (!persoon.VulHuwtab(nr, relaties).heel) ++velden.gemis.records;
-  velden.regels.Record('I', nr, "INDI");
   velden.Begin("INDI", nr, foto.opmRecord);
   Schrijver schrijver(foto, velden, mee);
   schrijver.Naam();

@@ -8,8 +8,8 @@
 
 namespace lb77 {
 
-// Writes the lines of person `nr`, which goes along. False when it cannot be read after all: then
-// there is no line.
+// Writes the lines of person `nr`, which goes along. False when it cannot be read after all: its first
+// line stands alone then, as others link to it.
 [[nodiscard]] bool SchrijfGed551Persoon(std::int16_t nr, Ged551Velden& velden,
                                         const Ged551Mee& mee);
 

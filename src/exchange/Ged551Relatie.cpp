@@ -158,12 +158,12 @@ class Schrijver {
 }  // namespace
 
 bool SchrijfGed551Relatie(std::int16_t nr, Ged551Velden& velden, const Ged551Mee& mee) {
+  velden.regels.Record('F', nr, "FAM");
   RelatieLB77& relatie = velden.gegevens.relatie;
   if (!relatie.Lees(nr)) return false;
   const Foto foto(relatie);
   Kindtab kinderen{};
   if (!relatie.VulKindtab(nr, kinderen).heel) ++velden.gemis.records;
-  velden.regels.Record('F', nr, "FAM");
   velden.Begin("FAM", nr, foto.opmRecord);
   Schrijver schrijver(foto, velden, mee);
   schrijver.Personen(kinderen);

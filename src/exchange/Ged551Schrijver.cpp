@@ -77,7 +77,7 @@ void Ged551Schrijver::Persoon(std::int16_t nr) {
   const bool gaat = mee_->personen.Bevat(nr);
   if (gaat && SchrijfGed551Persoon(nr, velden_, *mee_)) {
     ++personen_;
-  } else if (gaat || !gegevens_.persoon.Lees(nr)) {
+  } else if (gaat || !gegevens_.persoon.Lees(nr) || !gegevens_.persoon.IsVolgRecord()) {
     log_.Regel(NietUitgevoerd(kPersoonLeesfout, nr));
   }
 }
@@ -86,7 +86,7 @@ void Ged551Schrijver::Relatie(std::int16_t nr) {
   const bool gaat = mee_->relaties.Bevat(nr);
   if (gaat && SchrijfGed551Relatie(nr, velden_, *mee_)) {
     ++relaties_;
-  } else if (gaat || !gegevens_.relatie.Lees(nr)) {
+  } else if (gaat || !gegevens_.relatie.Lees(nr) || !gegevens_.relatie.IsVolgRecord()) {
     log_.Regel(NietUitgevoerd(kRelatieLeesfout, nr));
   }
 }

@@ -13,22 +13,18 @@ constexpr std::size_t kRegelBreedte = 80;
 // The line that a text without leading blanks begins with.
 std::string_view EersteRegel(std::string_view tekst) {
   const std::string_view stuk = tekst.substr(0, kRegelBreedte);
-  if (stuk.size() == tekst.size() || stuk.back() == ' ' || tekst[stuk.size()] == ' ') {
-    return TrimRechts(stuk);
-  }
+  if (stuk.size() == tekst.size() || tekst[stuk.size()] == ' ') return TrimRechts(stuk);
   const std::size_t blanco = stuk.rfind(' ');
   return blanco == std::string_view::npos ? std::string_view() : TrimRechts(stuk.substr(0, blanco));
 }
 
-// Takes the lines off, and leaves what does not fit.
+// Takes the lines off, and leaves what does not fit: behind a word that makes no line all are empty.
 OpmRegels Neem(std::string_view& tekst) {
   OpmRegels regels;
   for (std::string& regel : regels) {
     tekst = TrimLinks(tekst);
-    const std::string_view stuk = EersteRegel(tekst);
-    if (stuk.empty()) break;
-    regel = stuk;
-    tekst.remove_prefix(stuk.size());
+    regel = EersteRegel(tekst);
+    tekst.remove_prefix(regel.size());
   }
   tekst = TrimLinks(tekst);
   return regels;

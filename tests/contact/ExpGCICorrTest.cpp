@@ -160,6 +160,27 @@ TEST_F(ExpGCICorrTest, BladertHeenEnTerug) {
   )");
 }
 
+TEST_F(ExpGCICorrTest, EenLaatsteRijHeeftHaarEigenBladzijde) {
+  for (const char* naam : {"Venlo", "Weert"}) Voeg(naam, "LI", "NL");
+  Speel(R"(
+      druk FilterButton
+      druk VolgendeButton
+      druk VolgendeButton
+      toon VolgendeButton
+      druk VolgendeButton
+      toon GCIPltsNm(1)
+      toon GCIPltsNm(2)
+      toon VolgendeButton
+      druk BackButton
+    )",
+        R"(
+    = VolgendeButton "Vo&lgende"
+    = GCIPltsNm(1) "Weert"
+    = GCIPltsNm(2) "" [verborgen]
+    = VolgendeButton "Vo&lgende" [uit]
+  )");
+}
+
 TEST_F(ExpGCICorrTest, DeFilterGaatUitEnWeerAan) {
   Speel(R"(
       druk FilterButton
@@ -261,6 +282,46 @@ TEST_F(ExpGCICorrTest, EenNaamDieNietsIsWordtPasBijVeranderenOpgezocht) {
       "toon FilterProv\ntoon FilterLand\ntoets FilterProv Tab\ntoets FilterLand Tab\n"
       "druk FilterButton\ndruk BackButton",
       "= FilterProv \"???\"\n= FilterLand \"???\"\n");
+}
+
+// As a screen reader says them, which sees no table.
+TEST_F(ExpGCICorrTest, WatGeenBijschriftHeeftHeeftEenLeesnaam) {
+  const auto taak = [this](Hoofdmodule& hoofd) {
+    const ExpGCICorr form(hoofd.gesprek, tabellen_, plaats_);
+    for (const auto& [naam, leesnaam] : {std::pair{"FilterProvAfk", "Code van de provincie"},
+                                         {"FilterLandAfk", "Code van het land"},
+                                         {"GCIPltsNm(3)", "Plaatsnaam op regel 3"},
+                                         {"GCIProvNm(10)", "Provincie op regel 10"},
+                                         {"GCILandNm(1)", "Land op regel 1"}}) {
+      EXPECT_EQ(form.Zoek(naam)->Leesnaam(), leesnaam) << naam;
+    }
+  };
+  Verwacht("", taak, "");
+}
+
+TEST_F(ExpGCICorrTest, EenVeldHoudtDeFocusAlleenAlsHetNietKlopt) {
+  const auto naTab = [this](const std::string& typen, std::string_view verslag = "") {
+    std::string focus;
+    Verwacht(
+        typen + "\ntoets Tab\ntoets Escape",
+        [&](Hoofdmodule& hoofd) {
+          ExpGCICorr form(hoofd.gesprek, tabellen_, plaats_);
+          hoofd.gesprek.ToonModaal(form);
+          focus = form.FocusVeld()->Naam();
+        },
+        "+ ExpGCICorr \"Corrigeer Plaatsnamen voor Export in HSK Contactdienst formaat (GCI)\"\n" +
+            std::string(verslag) + "- ExpGCICorr\n");
+    return focus;
+  };
+  EXPECT_EQ(naTab("typ FilterPlaatsnaam Oord"), "FilterProv");
+  EXPECT_EQ(naTab("typ FilterPlaatsnaam Oord 2"), "FilterProv");
+  EXPECT_EQ(naTab("typ FilterProv Zuid-Holland"), "FilterLand");
+  EXPECT_EQ(naTab("typ FilterProv Drenthe"), "FilterLand");
+  EXPECT_EQ(naTab("typ FilterProv Nergens", "! uitroep \"Onbekende provincienaam\"\n"),
+            "FilterProv");
+  EXPECT_EQ(naTab("typ FilterLand Nederland"), "FilterButton");
+  EXPECT_EQ(naTab("typ FilterLand Frankrijk"), "FilterButton");
+  EXPECT_EQ(naTab("typ FilterLand Nergens", "! uitroep \"Onbekend land\"\n"), "FilterLand");
 }
 
 // What stands in the row when the key arrives is not what the user saw.

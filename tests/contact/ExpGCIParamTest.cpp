@@ -124,6 +124,17 @@ TEST_F(ExpGCIParamTest, NeemtWatErbinnenLigt) {
   Neemt("EmailAdres", "@");
 }
 
+TEST_F(ExpGCIParamTest, ElkVeldHeeftZijnBijschrift) {
+  const Taak taak = [&](Hoofdmodule& hoofd) {
+    const ExpGCIParam form(hoofd, opties_);
+    EXPECT_EQ(form.MinAantalPersonen.Prompt(), "Minimum aantal personen per achternaam (1-99):");
+    EXPECT_EQ(form.MinAantalJaren.Prompt(), "Minimum aantal jaren per reeks (0-99):");
+    EXPECT_EQ(form.MaxGatJaren.Prompt(), "Maximum aantal jaren als gat in een reeks (0-99):");
+    EXPECT_EQ(form.MaxJaartal.Prompt(), "Reeksen niet vermelden na (jaartal):");
+  };
+  Verwacht("", taak, "");
+}
+
 // No two characters are outside, so the fields are filled from a setting that takes any.
 TEST_F(ExpGCIParamTest, WeigertJarenDieNietTeTypenZijn) {
   const Taak taak = [&](Hoofdmodule& hoofd) {
@@ -147,9 +158,12 @@ TEST_F(ExpGCIParamTest, WeigertJarenDieNietTeTypenZijn) {
 TEST_F(ExpGCIParamTest, InDeGetallenGaanAlleenCijfers) {
   Speel(
       "typ MinAantalPersonen a1b2c3\ntoon MinAantalPersonen\n"
+      "typ MinAantalJaren 1x23\ntoon MinAantalJaren\ntyp MaxGatJaren 456\ntoon MaxGatJaren\n"
       "typ MaxJaartal 18-50.1\ntoon MaxJaartal\nvul MaxJaartal 1850\ndruk BackButton",
       R"(
     = MinAantalPersonen "12"
+    = MinAantalJaren "12"
+    = MaxGatJaren "45"
     = MaxJaartal "1850"
   )");
 }

@@ -130,5 +130,34 @@ TEST_F(ExpGCIVerhaal, DezelfdePlaatsWordtEenKeerGevraagd) {
   EXPECT_EQ(Reeksen().size(), std::string("VOS Dorp ZH NL 18001800\n").size() * 6);
 }
 
+// What the service calls a province or a country goes before what it is called here.
+TEST_F(ExpGCIVerhaal, DeCodesVanDeDienstGelden) {
+  MaakTabellen({PlaatsRij("Bussum", "G", "NL"), PlaatsRij("Boston", "", "AM")});
+  SchrijfBytes(Gci() / "GCIPRV!!.DBF", Dbf(98, 23, {CodeRij("G", "Gooi")}));
+  SchrijfBytes(Gci() / "GCILND!!.DBF", Dbf(98, 23, {CodeRij("AM", "USA")}));
+  Woonde("Vos", "Bussum", "G", 1800);
+  Woonde("Vos", "Boston", "US", 1800);
+  Lukt();
+  EXPECT_EQ(Reeksen(), "VOS Boston AM 18001800\nVOS Bussum G NL 18001800\n");
+}
+
+// As imported places have none.
+TEST_F(ExpGCIVerhaal, EenPlaatsZonderProvincieWordtAlleenOpVerzoekZonderVraagGenomen) {
+  Woonde("Vos", "Elst", "", 1800);
+  Exporteer("antwoord Ja\ndruk BackButton", R"~(
+    ? vraag Ja/Nee "Is dit de juiste provincie voor plaatscode 2 - Elst ?\nGevonden: Elst, GE, NL" -> Ja
+    ! info "Export voltooid"
+    + ToonTekst "Exporteren - Resultaat"
+    - ToonTekst
+  )~");
+  opties_.neemEnige = true;
+  Exporteer("druk BackButton", R"~(
+    ! info "De enige van die naam voor plaatscode 2 - Elst\nGevonden: Elst, GE, NL"
+    ! info "Export voltooid"
+    + ToonTekst "Exporteren - Resultaat"
+    - ToonTekst
+  )~");
+}
+
 }  // namespace
 }  // namespace lb77

@@ -45,6 +45,8 @@ TEST(InzRegel, AlleenNederlandZelfWordtNL) {
 
 TEST(InzRegel, BlijftEenRegel) {
   GciInzender inzender = Iemand();
+  inzender.naam = "  Vos  ";
+  EXPECT_EQ(InzRegel(inzender).substr(6, 25), "Vos" + Blanco(22));
   inzender.naam = "a\r\nb\tc";
   EXPECT_EQ(InzRegel(inzender).substr(6, 25), "a  b c" + Blanco(19));
 }
@@ -254,10 +256,10 @@ TEST(LogTekst, NoemtWatIsOvergeslagen) {
 
 TEST(LogTekst, ZegtWaaromErGeenBestandenZijn) {
   EXPECT_EQ(
-      Log({kBegin, {"A<"}, {"Oord"}, 5, "Om deze reden.\nEn die."}),
+      Log({kBegin, {"A<"}, {"Oord"}, 5, "Om deze reden.\nEn die.\nEn nog een."}),
       "Log-file: /a/GCI.LOG\r\nStart export (20260102030405)\r\n"
       "Naam overgeslagen: A<\r\nPlaats overgeslagen: Oord\r\nTotaal: 1 plaats overgeslagen\r\n"
-      "Om deze reden.\r\nEn die.\r\nGeen uitvoerbestanden aangemaakt.\r\n");
+      "Om deze reden.\r\nEn die.\r\nEn nog een.\r\nGeen uitvoerbestanden aangemaakt.\r\n");
 }
 
 }  // namespace

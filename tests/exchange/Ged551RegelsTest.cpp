@@ -35,6 +35,11 @@ TEST_F(Ged551RegelsTest, ZonderWaardeStaatAlleenDeTagEr) {
   EXPECT_EQ(Van(1, "BIRT", "  "), "1 BIRT\n");
 }
 
+TEST_F(Ged551RegelsTest, SpatiesEnStuurtekensZijnGeenTekst) {
+  for (const char* leeg : {"", " ", "\t", " \x7F\n "}) EXPECT_FALSE(Ged551Regels::HeeftTekst(leeg));
+  for (const char* tekst : {"a", " \t~"}) EXPECT_TRUE(Ged551Regels::HeeftTekst(tekst));
+}
+
 TEST_F(Ged551RegelsTest, EenApenstaartjeWordtVerdubbeld) {
   EXPECT_EQ(Van(1, "NOTE", "jan@@piet @"), "1 NOTE jan@@@@piet @@\n");
 }
@@ -95,8 +100,9 @@ TEST_F(Ged551RegelsTest, EigenTagsWordenGeteld) {
   regels.Regel(2, "_LBCORR", "C");
   regels.Regel(2, "_LBCORR", "N");
   regels.Verwijzing(2, "_LBPLTS", 'P', 2);
+  regels.Record('P', 2, "_LBPLTS");
   regels.Regel(2, "DATE", "1890");
-  const std::map<std::string, int, std::less<>> verwacht{{"_LBCORR", 2}, {"_LBPLTS", 1}};
+  const std::map<std::string, int, std::less<>> verwacht{{"_LBCORR", 2}, {"_LBPLTS", 2}};
   EXPECT_EQ(regels.EigenTags(), verwacht);
 }
 

@@ -6,6 +6,7 @@
 #include "exchange/Ged551Grammatica.h"
 #include "exchange/Ged551Toets.h"
 #include "exchange/Ged551Vulling.h"
+#include "steun/FaalBestand.h"
 #include "store/Rubrieken.h"
 
 namespace lb77 {
@@ -49,6 +50,42 @@ TEST_P(Ged551Schade, BreektDeStandaardNiet) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Zaden, Ged551Schade, ::testing::Range(1U, 9U));
+
+// Is that record whole, or told as not read?
+void VerwachtHeelOfGemeld(const Ged551Uitvoer& uitvoer, const std::string& begin,
+                          const std::string& melding, int bij) {
+  const bool heel = !uitvoer.Van(begin).empty();
+  const bool gemeld = uitvoer.log.find(melding) != std::string::npos;
+  EXPECT_NE(heel, gemeld) << bij << " " << begin;
+}
+
+TEST(Ged551Storing, WaarHetLezenOokMisluktHetBestandKloptEnHetVerslagZegtHet) {
+  ProefSet set;
+  const std::int16_t delft = set.bouw.Plaats("Delft");
+  const std::int16_t man = set.bouw.Man("", "X", {{"GebPlaats", delft}});
+  const std::int16_t kind = set.bouw.Man("", "Z");
+  set.bouw.Relatie(man, set.bouw.Vrouw("", "Y"), {kind}, {{"OtrPlaats", delft}});
+  set.bouw.OpmerkingBijPersoon(man, persoonrubriek::kAlgemeen, {"een", "twee"}, 1);
+  const ExpSelectie selectie = AllesVan(set);
+  for (const bool blijvend : {false, true}) {
+    bool geweest = true;
+    for (int bij = 1; geweest; ++bij) {
+      Storing storing{.bij = bij, .blijvend = blijvend};
+      set.bestanden = Bestandenset(FalendeOpener(storing));
+      ASSERT_FALSE(set.bestanden.OpenSet(set.paden));
+      const Ged551Uitvoer uitvoer = Exporteer551(set, selectie);
+      geweest = storing.Geweest();
+      EXPECT_EQ(GrammaticaFouten(MetCrLf(uitvoer.bestand), false), std::vector<std::string>())
+          << bij;
+      for (const char* nr : {"2", "3", "4"}) {
+        VerwachtHeelOfGemeld(uitvoer, std::string("0 @I") + nr + "@ INDI",
+                             std::string("Leesfout bij Persoonsrecord ") + nr + ".", bij);
+      }
+      VerwachtHeelOfGemeld(uitvoer, "0 @F2@ FAM", "Leesfout bij Relatierecord 2.", bij);
+      static_cast<void>(set.Getoond());
+    }
+  }
+}
 
 TEST(Ged551Kring, EenKetenDieRondlooptEindigt) {
   ProefSet set;
@@ -147,6 +184,19 @@ TEST(Ged551Kring, WatAchterEenOpmerkingVanEenAnderLigtIsNietVanHem) {
   ASSERT_TRUE(set.Opmerking.Wijzig(3, {{"BijZelfde", "5"}}));
   EXPECT_EQ(Exporteer551(set).Van("0 @I2@ INDI"),
             begin + "2 NOTE verdwaald\n3 _LBPROG 1\n1 SEX M\n1 NOTE van Karel\n2 _LBPROG 1\n");
+}
+
+TEST(Ged551Grens, OokDeHoogstePlaatsGaatMee) {
+  ProefSet set;
+  set.bouw.Man("", "X", {{"GebPlaats", "10000"}});
+  RecordBestand& bestand = set.bestanden.Bestand(BestandSoort::Plaatsen);
+  std::string bytes(bestand.RecordLengte(), '\0');
+  ASSERT_EQ(bestand.Lees(set.bouw.Plaats("Delft"), bytes).gelezen, bytes.size());
+  ASSERT_FALSE(bestand.Schrijf(10000, bytes));
+  const Ged551Uitvoer uitvoer = Exporteer551(set);
+  EXPECT_EQ(uitvoer.Van("0 @P10000@ _LBPLTS"), "1 NAME Delft\n");
+  EXPECT_EQ(uitvoer.Van("0 @I2@ INDI"),
+            "1 NAME /X/\n2 SURN X\n1 SEX M\n1 BIRT\n2 _LBPLTS @P10000@\n2 PLAC Delft\n");
 }
 
 TEST(Ged551Kring, EenLegeRegelStaatErNiet) {
