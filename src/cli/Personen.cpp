@@ -2,35 +2,15 @@
 
 #include <algorithm>
 
-#include "text/Accenten.h"
 #include "text/Getallen.h"
-#include "text/Letterlijk.h"
 #include "text/Tekens.h"
 #include "text/Unicode.h"
+#include "text/Zoekvorm.h"
 
 namespace lb77 {
 namespace {
 
 constexpr std::size_t kNummer = 6;
-
-constexpr const Accentletters* kAccenten[] = {&kGravis, &kAcutus,  &kCircumflex, &kTilde, &kUmlaut,
-                                              &kRing,   &kCedille, &kHacekS,     &kHacekZ};
-
-char ZonderAccent(char letter) {
-  for (const Accentletters* accent : kAccenten) {
-    const std::size_t plaats = accent->letters.find(letter);
-    if (plaats != std::string_view::npos) return accent->kaal[plaats];
-  }
-  return letter == "ø"_w[0] || letter == "Ø"_w[0] ? 'O' : letter;
-}
-
-// The form in which names compare.
-std::string Vergelijkbaar(std::string_view tekst) {
-  std::string uit(tekst);
-  std::ranges::transform(uit, uit.begin(),
-                         [](char teken) { return Hoofdletter(ZonderAccent(teken)); });
-  return uit;
-}
 
 // The words of a text between the separators.
 std::vector<std::string> Woorden(std::string_view tekst, std::string_view scheiders) {
@@ -48,14 +28,14 @@ std::vector<std::string> Woorden(std::string_view tekst, std::string_view scheid
 class Naamzoeker {
  public:
   Naamzoeker(const Voorvoegsels& voorvoegsels, std::string_view deel)
-      : voor_(Woorden(Vergelijkbaar(voorvoegsels.Voor1 + "," + voorvoegsels.Voor2), ",")) {
+      : voor_(Woorden(Zoekvorm(voorvoegsels.Voor1 + "," + voorvoegsels.Voor2), ",")) {
     while (deel.ends_with('*')) deel.remove_suffix(1);
-    heel_ = Vergelijkbaar(Trim(deel));
+    heel_ = Zoekvorm(Trim(deel));
     zonder_ = ZonderVoorvoegsels(heel_);
   }
 
   [[nodiscard]] bool Past(std::string_view naam) const {
-    const std::string heel = Vergelijkbaar(naam);
+    const std::string heel = Zoekvorm(naam);
     if (heel.find(heel_) != std::string::npos) return true;
     return !zonder_.empty() && ZonderVoorvoegsels(heel).find(zonder_) != std::string::npos;
   }

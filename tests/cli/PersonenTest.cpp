@@ -8,7 +8,8 @@ constexpr std::string_view kGedcom =
     "0 @I1@ INDI\n1 NAME Jan Willem /van Dam/\n1 BIRT\n2 DATE 1900\n"
     "0 @I2@ INDI\n1 NAME Piet /van der Dam/\n"
     "0 @I3@ INDI\n1 NAME Ren\xE2\x65\x65 /Brul\xE1\x65/\n"
-    "0 @I4@ INDI\n1 NAME Klaas /Vries/\n0 TRLR\n";
+    "0 @I4@ INDI\n1 NAME Klaas /Vries/\n"
+    "0 @I5@ INDI\n1 NAME \xA5gidius /Gro\xCF/\n0 TRLR\n";
 
 class PersonenToets : public OpdrachtToets {
  protected:
@@ -41,6 +42,7 @@ TEST_F(PersonenToets, AccentenVoorvoegselsEnEenSterTellenNiet) {
   EXPECT_EQ(Zoek("van der"), kPiet);
   EXPECT_EQ(Zoek("Vri*"), kKlaas);
   EXPECT_EQ(Zoek("renee"), kRene);
+  EXPECT_EQ(Zoek("aegidius gross"), "     6      -      \xC3\x86gidius Gro\xC3\x9F\n");
   EXPECT_EQ(Zoek("BRUL\xC9"), kRene);
 }
 
