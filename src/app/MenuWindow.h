@@ -55,7 +55,6 @@ class MenuWindow final : public Formulier, public Bestandsontvanger, public Rede
   void ZetMenu();
   // Shows the active set in the status bar, with its description, if any, behind a comma.
   void ZetStatus(std::string_view omschrijving = {});
-  [[nodiscard]] const std::string& StatusTekst() const { return Statusbalk.Tekst(); }
 
   // How the sets are used that this window and its dialogs open.
   [[nodiscard]] SetGebruik Gebruik() const { return gebruik_; }

@@ -9,6 +9,12 @@
 
 namespace lb77 {
 
+namespace {
+
+constexpr char kKnoop = '+';
+
+}  // namespace
+
 Tekenvel::Rij& Tekenvel::RijOp(int rij) {
   const auto plaats = static_cast<std::size_t>(std::max(rij, 0));
   if (plaats >= rijen_.size()) rijen_.resize(plaats + 1);
@@ -35,7 +41,7 @@ void Tekenvel::Lijn(int rij, int kolom, Soort soort, char teken) {
   if (cel.soort == Soort::Leeg || cel.soort == soort) {
     cel = {teken, soort};
   } else if (cel.soort != Soort::Tekst) {
-    cel = {knoop_, Soort::Knoop};
+    cel = {kKnoop, Soort::Knoop};
   }
 }
 

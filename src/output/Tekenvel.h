@@ -21,8 +21,6 @@ class Tekenvel {
   // Lines with both ends included, in either order.
   void LijnDwars(int rij, int van, int tot, char teken = '-');
   void LijnNeer(int kolom, int van, int tot, char teken = '|');
-  // What a meeting of lines becomes from now on.
-  void ZetKnoop(char knoop) { knoop_ = knoop; }
   // Puts a mark in front of the character at `kolom`; marks of one place stand in the order of their
   // putting. Marks are written for the Internet only, as they are.
   void Merk(int rij, int kolom, std::string_view merk);
@@ -63,7 +61,6 @@ class Tekenvel {
   [[nodiscard]] static std::string InHTML(const Rij& rij);
 
   std::vector<Rij> rijen_;
-  char knoop_ = '+';
 };
 
 }  // namespace lb77

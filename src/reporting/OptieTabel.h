@@ -98,7 +98,6 @@ class OptieTabel {
   OptieTabel(std::string_view sectie, std::vector<OptieRij> rijen)
       : sectie_(sectie), rijen_(std::move(rijen)) {}
 
-  [[nodiscard]] const std::string& Sectie() const { return sectie_; }
   void Laad(const IniClass& ini) const;
   void Neem() const;
   // Into the settings, in memory.

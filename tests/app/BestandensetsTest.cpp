@@ -50,7 +50,7 @@ TEST_F(Sets, DePicklistToontNaamEnOmschrijvingEnKiestDeActieve) {
              LaadSetPicklist(hoofd, menu, lijst);
              EXPECT_EQ(lijst.Rijen(), (std::vector<std::string>{"EEN,de eerste", "TWEE"}));
              EXPECT_EQ(lijst.Tekst(), "TWEE");
-             EXPECT_EQ(menu.StatusTekst(), "Actieve bestandenset: TWEE");
+             EXPECT_EQ(menu.Statusbalk.Tekst(), "Actieve bestandenset: TWEE");
            }),
            "");
 }
@@ -63,7 +63,7 @@ TEST_F(Sets, EenOnbekendeActieveSetGeeftEenWaarschuwingEnGeenKeuze) {
              LaadSetPicklist(hoofd, menu, lijst);
              EXPECT_EQ(lijst.Index(), -1);
              EXPECT_EQ(hoofd.ActieveSetNaam, "<geen bestandenset actief>");
-             EXPECT_EQ(menu.StatusTekst(), "Actieve bestandenset: <geen bestandenset actief>");
+             EXPECT_EQ(menu.Statusbalk.Tekst(), "Actieve bestandenset: <geen bestandenset actief>");
              LaadSetPicklist(hoofd, menu, lijst);  // no set active: no warning
            }),
            R"(! uitroep "LIJNBOOM.INI geeft ongeldige actieve bestandenset")");
@@ -74,7 +74,7 @@ TEST_F(Sets, EenSetOpenenBewaartHaarInDeInstellingen) {
              hoofd.volgers.HuidigPersoonNr = 12;
              EXPECT_TRUE(OpenSetVanRij(hoofd, menu, "een,de eerste"));
              EXPECT_EQ(hoofd.ActieveSetNaam, "EEN");
-             EXPECT_EQ(menu.StatusTekst(), "Actieve bestandenset: EEN,de eerste");
+             EXPECT_EQ(menu.Statusbalk.Tekst(), "Actieve bestandenset: EEN,de eerste");
              EXPECT_EQ(hoofd.Persoon.AantalInAdmin(), 0);
              EXPECT_EQ(hoofd.volgers.HuidigPersoonNr, -1);
            }),

@@ -88,7 +88,7 @@ TEST_F(Hoofdvenster, EenSetDieEldersOpenIsKanDichtBlijven) {
              menu.LaatSetElders();
              EXPECT_TRUE(menu.Laad());
              EXPECT_EQ(hoofd.ActieveSetNaam, "<geen bestandenset actief>");
-             EXPECT_EQ(menu.StatusTekst(), "Actieve bestandenset: <geen bestandenset actief>");
+             EXPECT_EQ(menu.Statusbalk.Tekst(), "Actieve bestandenset: <geen bestandenset actief>");
            }),
            "");
   ander.Sluit();
@@ -118,7 +118,7 @@ TEST_F(Hoofdvenster, ZonderSetWerkenAlleenDeEntriesDieGeenSetNodigHebben) {
   ZetIni("");
   Verwacht("", Geladen([](Hoofdmodule& hoofd, MenuWindow& menu) {
              EXPECT_EQ(hoofd.ActieveSetNaam, "<geen bestandenset aanwezig>");
-             EXPECT_EQ(menu.StatusTekst(), "Actieve Bestandenset:");
+             EXPECT_EQ(menu.Statusbalk.Tekst(), "Actieve Bestandenset:");
              for (const char* naam :
                   {"MenuInvoer", "MenuUitvTekst", "MenuUitvSchema", "Rapport", "ExportData",
                    "ImportData", "Corrigeer", "Controle", "ViewTekst", "OpenSet"}) {
