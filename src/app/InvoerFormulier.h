@@ -1,4 +1,4 @@
-// The base of the forms that edit: the session comes ahead of the controls.
+// The base of the forms whose controls need the session: it comes ahead of them.
 #pragma once
 
 #include <string_view>

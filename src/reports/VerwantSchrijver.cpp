@@ -10,13 +10,13 @@
 namespace lb77 {
 namespace {
 
-// Names of whom can't be read are empty.
+// Both names; of whom can't be read, the blank between them.
 std::string Naam(PersoonLB77& persoon, std::int16_t nr) {
   if (!persoon.Lees(nr)) return " ";
   return persoon.VoorNaamTrue() + " " + persoon.AchterNaamTrue();
 }
 
-// What the person who was reached before is of this one. The blank at its end is kept.
+// What the person who was reached before is of this one, with a blank behind it.
 std::string_view Betrekking(VerwantSoort soort) {
   switch (soort) {
     case VerwantSoort::Kind:
