@@ -240,5 +240,6 @@ int Hoofd(const std::vector<std::string>& woorden) {
 }  // namespace lb77
 
 int main(int argc, char** argv) {
+  lb77::VulStandaardstromen();
   return lb77::Hoofd(lb77::Opdrachtwoorden(argc, argv));
 }

@@ -11,8 +11,10 @@
 #include "program/Vensterloop.h"
 #include "qt/StartVenster.h"
 #include "store/Platform.h"
+#include "store/PlatformUitvoer.h"
 
 int main(int argc, char** argv) {
+  lb77::VulStandaardstromen();
   // Without the program's own name, which a caller may leave out.
   const std::vector<std::string> woorden(argv + (argc > 0 ? 1 : 0), argv + argc);
   if (lb77::BeantwoordAanroep(woorden, std::cout)) return 0;

@@ -11,9 +11,11 @@
 // Behind the header that it builds on.
 #include <shellapi.h>
 #else
+#include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
 #endif
 
@@ -110,6 +112,9 @@ Opdrachtvenster::~Opdrachtvenster() {
   for (const Omleiding& omleiding : omleidingen_) omleiding.stroom->rdbuf(omleiding.vorige);
 }
 
+// Files get no place among the standard streams here.
+void VulStandaardstromen() {}
+
 // A write fails there, and ends no program.
 void OverleefVertrokkenLezer() {}
 
@@ -127,6 +132,15 @@ std::vector<std::string> Opdrachtwoorden(int argc, const char* const* argv) {
 // It shows what it is told to.
 Opdrachtvenster::Opdrachtvenster(std::ostream&, std::ostream&) {}
 Opdrachtvenster::~Opdrachtvenster() = default;
+
+// The lowest one that is closed is what the next opening gets. It is for reading: a write to it fails,
+// and is told like that to a full disk.
+void VulStandaardstromen() {
+  for (const int stroom : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+    const bool dicht = ::fcntl(stroom, F_GETFD) == -1 && errno == EBADF;
+    if (dicht && ::open("/dev/null", O_RDONLY) != stroom) ::_exit(1);
+  }
+}
 
 void OverleefVertrokkenLezer() {
   std::signal(SIGPIPE, SIG_IGN);

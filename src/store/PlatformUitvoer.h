@@ -16,6 +16,11 @@ namespace lb77 {
 // system are.
 [[nodiscard]] std::vector<std::string> Opdrachtwoorden(int argc, const char* const* argv);
 
+// To be called before any file is opened. Standard input, output and errors that were closed by who
+// started the program (`>&-`) become ones that hold nothing and take nothing: the next file to be
+// opened would get their place, and what is printed would be written into it.
+void VulStandaardstromen();
+
 // How many bytes of a UTF-8 text are whole characters, or never become one; what stands behind them is
 // the begin of a character whose rest is still to come.
 [[nodiscard]] std::size_t HeleTekens(std::string_view utf8);
