@@ -143,7 +143,10 @@ void Hand::Druk(std::string_view naam) {
 
 void Hand::Dubbelklik(std::string_view naam) {
   Bediening& bediening = VindBruikbaar(naam);
-  if (!bediening.HeeftDubbelklik()) Weiger(naam, "doet niets bij een dubbelklik");
+  // A pick list without one of its own presses OK.
+  const Bediening* ok = formulier_.Zoek("OKButton");
+  const bool kiest = bediening.Soort() == BedieningSoort::Keuzelijst && ok && ok->Bruikbaar();
+  if (!kiest && !bediening.HeeftDubbelklik()) Weiger(naam, "doet niets bij een dubbelklik");
   formulier_.Dubbelklik(bediening);
 }
 

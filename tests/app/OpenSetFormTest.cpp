@@ -40,6 +40,12 @@ TEST_F(OpenSetVenster, EenAndereSetWordtDeActieve) {
   EXPECT_TRUE(IniHeeft("SetOms=de tweede"));
 }
 
+TEST_F(OpenSetVenster, EenDubbelklikOpEenSetOpentHaar) {
+  Speelt("stel SetPicklist #1\ndubbelklik SetPicklist",
+         R"(- OpenSetForm
+            = Statusbalk "Actieve bestandenset: TWEE,de tweede")");
+}
+
 TEST_F(OpenSetVenster, EscapeEnHetKaderDoenAlsAnnuleren) {
   Speelt("stel SetPicklist #1\ntoets Escape",
          R"(- OpenSetForm
