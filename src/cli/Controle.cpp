@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,6 +16,7 @@
 #include "cli/Werkmap.h"
 #include "output/ToonTekst.h"
 #include "text/Pad.h"
+#include "text/Unicode.h"
 
 namespace lb77 {
 
@@ -83,21 +85,20 @@ class Ronde {
   Sessie sessie_;
   std::ofstream verslag_;
   bool getoond_ = false;
+  bool geweigerd_ = false;  // a choice that was told: no report, rather than a part of one
   std::size_t gevonden_ = 0;
 };
 
 void Ronde::InMenu(Werk& menu) {
-  if (rijen_.empty()) {
-    sessie_.bediener.Mislukt(argumenten_.woorden[1] +
-                             ": personen, relaties, plaatsen of opmerkingen verwacht");
-    return;
-  }
   if (!MagNaar(sessie_, omgeving_, argumenten_)) return;
   const Werkmap werkmap(sessie_.Hoofd().Ini.TempDir());
   sessie_.Hoofd().instellingen.tijdelijk = werkmap.Pad();
   const std::filesystem::path pad = werkmap.Pad() / "CONTROLE.TMP";
   verslag_.open(pad, std::ios::binary);
-  for (const ControleRij& rij : rijen_) menu.Kies(rij.menuKeuze);
+  for (const ControleRij& rij : rijen_) {
+    menu.Kies(rij.menuKeuze);
+    if (geweigerd_) return;
+  }
   verslag_.close();
   if (!verslag_) {
     sessie_.bediener.Mislukt("Fout bij het schrijven van " + PadTekst(pad));
@@ -120,7 +121,8 @@ void Ronde::VulIn(const ControleRij& rij, Formulier& form) {
     const std::size_t teken = std::min(zet.find('='), zet.size());
     const std::string naam = zet.substr(0, teken);
     if (!IsVoor(rij, naam)) continue;
-    if (!werk.Zet(naam, zet.substr(std::min(teken + 1, zet.size())))) return;
+    geweigerd_ = !werk.Zet(naam, zet.substr(std::min(teken + 1, zet.size())));
+    if (geweigerd_) return;
   }
   werk.Druk("OKButton");
   if (const auto* controle = dynamic_cast<const ControleForm*>(&form)) {
@@ -145,6 +147,11 @@ void Ronde::NeemVerslag(const Formulier& form) {
 }  // namespace
 
 int Controle(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
+  if (Gevraagd(argumenten.woorden[1]).empty()) {
+    omgeving.fout << WindowsNaarUtf8(argumenten.woorden[1])
+                  << ": personen, relaties, plaatsen of opmerkingen verwacht\n";
+    return 2;
+  }
   return Ronde(omgeving, argumenten).Voer();
 }
 

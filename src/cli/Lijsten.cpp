@@ -51,7 +51,7 @@ int MaakLijst(std::span<const Lijstwoord> lijsten, const Omgeving& omgeving,
   }
   omgeving.fout << WindowsNaarUtf8(argumenten.woorden[1]) << " is er niet; kies uit: " << keus
                 << '\n';
-  return 1;
+  return 2;
 }
 
 }  // namespace

@@ -147,8 +147,11 @@ std::string LeesScript(const std::string& bestand) {
     return std::string(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
   };
   if (bestand.empty()) return alles(std::cin);
-  std::ifstream in(PadVanUtf8(bestand), std::ios::binary);
-  if (!in) throw PadFout{bestand + " kan niet worden gelezen"};
+  std::error_code code;
+  const std::filesystem::path pad = PadVanUtf8(bestand);
+  std::ifstream in(pad, std::ios::binary);
+  if (!in || std::filesystem::is_directory(pad, code))
+    throw PadFout{bestand + " kan niet worden gelezen"};
   return alles(in);
 }
 

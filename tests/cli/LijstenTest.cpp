@@ -143,9 +143,9 @@ TEST_F(LijstenToets, WieErNietIsHeeftGeenTakken) {
 }
 
 TEST_F(LijstenToets, EenSoortDieErNietIsNoemtDieErWelZijn) {
-  EXPECT_EQ(Lijst("selectie", "takken", {}), 1);
+  EXPECT_EQ(Lijst("selectie", "takken", {}), 2);
   EXPECT_EQ(fout_, "takken is er niet; kies uit: personen, relaties, plaatsen, opmerkingen\n");
-  EXPECT_EQ(Lijst("statistiek", "caf\xe9", {}), 1);
+  EXPECT_EQ(Lijst("statistiek", "caf\xe9", {}), 2);
   EXPECT_EQ(fout_, "caf\xc3\xa9 is er niet; kies uit: takken, families, tijdbalk\n");
 }
 

@@ -27,6 +27,7 @@ verwacht(2 "--zet: NAAM=WAARDE verwacht" --map ${MAP} kwartierstaat A 2 --zet Ma
 verwacht(2 "--zet: verkeerd aantal waarden" --map ${MAP} kwartierstaat A 2 --zet)
 verwacht(2 "--klok: geen tijdstip" --map ${MAP} --klok gisteren sets)
 verwacht(2 "weg.txt kan niet worden gelezen" --map ${MAP} speel ${MAP}/weg.txt)
+verwacht(2 "${MAP} kan niet worden gelezen" --map ${MAP} speel ${MAP})
 verwacht(2 "--map: ${MAP}/weg is geen map" --map ${MAP}/weg sets)
 verwacht(2 "--map: ${MAP}/weg is geen map" --map ${MAP}/weg speel ${MAP}/weg.txt)
 if(EXISTS ${MAP}/weg)
