@@ -55,7 +55,7 @@ void MaakVeiligheidskopie(Veiligheidskopie kopie, Gesprek& gesprek) {
   if (const SysteemFout fout = kopie.Maak()) {
     gesprek.Fout("De veiligheidskopie is niet gemaakt\n" + fout.tekst);
   } else {
-    gesprek.Informeer("Veiligheidskopie gemaakt: " + PadTekst(kopie.Laatste()));
+    gesprek.Informeer("Veiligheidskopie gemaakt: " + PadTekst(kopie.Gemaakt()));
   }
 }
 

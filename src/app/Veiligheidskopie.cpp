@@ -207,6 +207,7 @@ SysteemFout Veiligheidskopie::Maak() {
     return fout;
   }
   Ruim(nieuw);
+  gemaakt_ = nieuw;
   return {};
 }
 

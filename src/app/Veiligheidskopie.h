@@ -69,6 +69,9 @@ class Veiligheidskopie {
   [[nodiscard]] SysteemFout Maak();
   // The same, unless the last one holds these very bytes.
   [[nodiscard]] SysteemFout MaakZonodig();
+  // The one that Maak made; empty before it has. The last one by its name is another when the clock was
+  // set back.
+  [[nodiscard]] const std::filesystem::path& Gemaakt() const { return gemaakt_; }
   // Asked before each copy is counted, from 1; False ends there.
   using Doorgaan = std::function<bool(std::size_t nummer, std::size_t aantal)>;
   // All of them, in all places, the last one first. Counting reads each person and relation of each.
@@ -105,6 +108,7 @@ class Veiligheidskopie {
   SetPaden paden_;
   KopieMappen plekken_;
   std::vector<Bestand> bestanden_;
+  std::filesystem::path gemaakt_;
 };
 
 }  // namespace lb77

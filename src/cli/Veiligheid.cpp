@@ -143,7 +143,7 @@ int Kopie(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
     if (const SysteemFout fout = kopie.Maak()) {
       sessie.bediener.Mislukt("De veiligheidskopie is niet gemaakt\n" + fout.tekst);
     } else {
-      Schrijf(omgeving.uit, PadTekst(kopie.Laatste().filename()));
+      Schrijf(omgeving.uit, PadTekst(kopie.Gemaakt().filename()));
     }
     if (!argumenten.bewaar || !argumenten.naar) return;
     if (const SysteemFout fout = BewaarKopiePlek(sessie.Hoofd().programmaMap, *plek)) {

@@ -42,6 +42,12 @@ TEST_F(Kopieen, BevatDeVierBestandenEnDeTeksten) {
   EXPECT_FALSE(Bestaat("KOPIE/EEN/BEZIG"));
 }
 
+TEST_F(Kopieen, GenoemdWordtDeNieuweOokAlsDeKlokIsTeruggezet) {
+  MaakLeeg("2040-01-01_000000");
+  Speelt("kies VeiligKopie",
+         R"~(! info "Veiligheidskopie gemaakt: <map>/KOPIE/EEN/2026-01-02_030405")~");
+}
+
 TEST_F(Kopieen, EenMislukteKopieWordtGemeldEnLaatNietsAchter) {
   Schrijf("KOPIE", "geen directory");
   Speelt("kies VeiligKopie",
