@@ -5,6 +5,7 @@
 
 #include "app/NietVeilig.h"
 #include "entry/Invoer.h"
+#include "entry/KaartVelden.h"
 #include "entry/Koppelingen.h"
 #include "entry/VolgersBewaker.h"
 #include "store/Handeling.h"
@@ -194,14 +195,10 @@ void WijzigRelatie::ToonKindertal() {
   RelatieLB77& relatie = Hoofd().Relatie;
   std::int16_t aantal = 0;
   if (bestaat_ && relatie.Lees(nr_)) {
-    const std::int32_t vervolg = -std::int32_t{relatie.KindNr(15)};
-    Kindtab tab{};
-    if (!relatie.VulKindtab(nr_, tab).heel) {
-      Hoofd().gesprek.Fout("Leesfout bij relatierecord " + GetalTekst(vervolg));
-    }
+    Kindtab tab = LeesKinderen(relatie, Hoofd().gesprek, nr_);
     aantal = AantalBezet(PlaatsenVan(tab));
   }
-  Kindertal.ZetTekst(aantal == 0 ? "geen" : GetalTekst(aantal));
+  Kindertal.ZetTekst(KindertalTekst(aantal));
 }
 
 bool WijzigRelatie::Weiger(Bediening& veld, std::string_view melding) {
