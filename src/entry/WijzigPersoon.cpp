@@ -5,6 +5,7 @@
 
 #include "app/NietVeilig.h"
 #include "entry/HuwRegels.h"
+#include "entry/RecordToets.h"
 #include "entry/VolgersBewaker.h"
 #include "store/Codes.h"
 #include "store/Handeling.h"
@@ -105,15 +106,7 @@ bool WijzigPersoon::NeemRecord() {
 }
 
 bool WijzigPersoon::NeemBestaand() {
-  PersoonLB77& persoon = Hoofd().Persoon;
-  if (nr_ < 2 || nr_ > persoon.AantalRecords()) {
-    Hoofd().gesprek.Waarschuw("Het opgegeven Persoonsnummer komt niet voor");
-    return false;
-  }
-  if (!persoon.Lees(nr_)) return false;
-  if (!persoon.IsVolgRecord()) return true;
-  Hoofd().gesprek.Waarschuw("Het opgegeven record is een vervolgrecord");
-  return false;
+  return LeesHoofdrecord(Hoofd().gesprek, Hoofd().Persoon, nr_, {kPersoonKomtNietVoor, {}});
 }
 
 // The number behind the last record, and an empty buffer, for a person who has none yet.

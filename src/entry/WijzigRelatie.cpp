@@ -7,6 +7,7 @@
 #include "entry/Invoer.h"
 #include "entry/KaartVelden.h"
 #include "entry/Koppelingen.h"
+#include "entry/RecordToets.h"
 #include "entry/VolgersBewaker.h"
 #include "store/Handeling.h"
 #include "store/RelatieVelden.h"
@@ -152,15 +153,7 @@ bool WijzigRelatie::NeemRecord() {
 }
 
 bool WijzigRelatie::NeemBestaand() {
-  RelatieLB77& relatie = Hoofd().Relatie;
-  if (nr_ < 2 || nr_ > relatie.AantalRecords()) {
-    Hoofd().gesprek.Waarschuw("Het opgegeven Relatienummer komt niet voor");
-    return false;
-  }
-  if (!relatie.Lees(nr_)) return false;
-  if (!relatie.IsVolgRecord()) return true;
-  Hoofd().gesprek.Waarschuw("Het opgegeven record is een vervolgrecord");
-  return false;
+  return LeesHoofdrecord(Hoofd().gesprek, Hoofd().Relatie, nr_, {kRelatieKomtNietVoor, {}});
 }
 
 bool WijzigRelatie::NeemNieuw() {
