@@ -16,10 +16,6 @@ namespace lb77 {
 
 namespace {
 
-Koppelingen Werk(Hoofdmodule& hoofd) {
-  return {hoofd.Persoon, hoofd.Relatie, hoofd.volgers, hoofd.gesprek};
-}
-
 // Both partners, as they go into the record.
 struct Paar {
   std::int16_t man = 0;
@@ -73,7 +69,7 @@ void MaakRelatie(Hoofdmodule& hoofd, const Paar& paar) {
   if (SchrijfRelatie(hoofd, relatie, paar)) {
     for (const std::int16_t nr : {paar.man, paar.vrouw}) {
       // What fails has its own message, or none: the relation stands all the same.
-      if (nr > 0) static_cast<void>(Werk(hoofd).VoegRelatieToe(nr, relatie));
+      if (nr > 0) static_cast<void>(Koppelingen(hoofd).VoegRelatieToe(nr, relatie));
     }
   }
   MeldNietVeilig(hoofd.gesprek, handeling.Voltooi());
@@ -88,7 +84,7 @@ void OrdenRelaties(Hoofdmodule& hoofd, std::int16_t persoon) {
       .plaatsen = PlaatsenVan(tab),
       .lees = [&] { return StaatVan(hoofd.Persoon.VulHuwtab(persoon, tab)); },
       .sorteer = [&](std::int16_t aantal) { return SorteerHuwtab(hoofd.Relatie, tab, aantal); },
-      .schrijf = [&] { return Werk(hoofd).SchrijfHuwtab(persoon, tab); },
+      .schrijf = [&] { return Koppelingen(hoofd).SchrijfHuwtab(persoon, tab); },
       .vraagWie =
           [&] {
             HuwSchuif vraag(hoofd);

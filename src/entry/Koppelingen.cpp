@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "app/Hoofdmodule.h"
 #include "store/Codes.h"
 #include "text/Getallen.h"
 
@@ -100,6 +101,9 @@ class LijstSchrijver {
 };
 
 }  // namespace
+
+Koppelingen::Koppelingen(Hoofdmodule& hoofd)
+    : Koppelingen(hoofd.Persoon, hoofd.Relatie, hoofd.volgers, hoofd.gesprek) {}
 
 bool Koppelingen::SchrijfKindtab(std::int16_t relatie, Kindtab& tab) {
   const bool gelukt =

@@ -8,7 +8,7 @@
 namespace lb77 {
 
 Koppelingen WijzigPersoon::Koppel() const {
-  return {Hoofd().Persoon, Hoofd().Relatie, Hoofd().volgers, Hoofd().gesprek};
+  return Koppelingen(Hoofd());
 }
 
 void WijzigPersoon::ToonOuders(std::int16_t relatie) {

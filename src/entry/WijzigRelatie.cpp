@@ -349,7 +349,7 @@ void WijzigRelatie::Koppel(const Partner& partner) {
   const std::int16_t nr = partner.vak.Nr();
   if (nr == partner.oud) return;
   const VolgersBewaker bewaker(Hoofd().volgers);
-  Koppelingen werk(Hoofd().Persoon, Hoofd().Relatie, Hoofd().volgers, Hoofd().gesprek);
+  Koppelingen werk(Hoofd());
   if (partner.oud > 0 && partner.oud != partner.deAndere &&
       !werk.HaalRelatieUit(partner.oud, nr_)) {
     Hoofd().gesprek.Waarschuw("Loskoppelen van oude " + std::string(partner.naam) + " is mislukt");
