@@ -126,15 +126,13 @@ bool WijzigPersoon::NeemVrijNummer() {
 void WijzigPersoon::ToonPartners() {
   std::vector<HuwRegel> regels;
   if (bestaat_) regels = LeesHuwRegels(Hoofd().Persoon, Hoofd().Relatie, Hoofd().gesprek, nr_);
-  Partners.Elk([&](int nummer, PartnerRij& rij) {
+  Partners.Elk([&](int nummer, HuwWijzigRij& rij) {
     const auto plaats = static_cast<std::size_t>(nummer - 1);
-    const bool bekend = plaats < regels.size();
-    const HuwRegel regel = bekend ? regels[plaats] : HuwRegel{};
-    rij.RelNrP.ZetTekst(NrTekst(regel.relatie));
-    rij.RecordNrP.ZetTekst(NrTekst(regel.partner));
-    rij.VoorNmP.ZetTekst(regel.voornaam);
-    rij.AchterNmP.ZetTekst(regel.achternaam);
-    rij.ZetZichtbaar(bekend);
+    if (plaats < regels.size()) {
+      rij.Toon(regels[plaats]);
+    } else {
+      rij.Verberg();
+    }
   });
 }
 
