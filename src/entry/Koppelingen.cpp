@@ -6,7 +6,6 @@
 #include <string>
 #include <string_view>
 
-#include "app/Hoofdmodule.h"
 #include "store/Codes.h"
 #include "text/Getallen.h"
 
@@ -101,9 +100,6 @@ class LijstSchrijver {
 };
 
 }  // namespace
-
-Koppelingen::Koppelingen(Hoofdmodule& hoofd)
-    : Koppelingen(hoofd.Persoon, hoofd.Relatie, hoofd.volgers, hoofd.gesprek) {}
 
 bool Koppelingen::SchrijfKindtab(std::int16_t relatie, Kindtab& tab) {
   const bool gelukt =

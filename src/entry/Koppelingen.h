@@ -11,8 +11,6 @@
 
 namespace lb77 {
 
-class Hoofdmodule;
-
 // Changes one side of a link; the caller writes the other. The buffers and the tracker of the record
 // class that is written change. What was written before a failure stays. A list that could not be
 // read whole is never written: that is told, and fails.
@@ -20,8 +18,6 @@ class Koppelingen {
  public:
   Koppelingen(PersoonLB77& persoon, RelatieLB77& relatie, Volgers& volgers, Gesprek& gesprek)
       : persoon_(persoon), relatie_(relatie), volgers_(volgers), gesprek_(gesprek) {}
-  // With the records of the session.
-  explicit Koppelingen(Hoofdmodule& hoofd);
 
   // Writes the children of a relation, with a continuation record from the sixteenth on; `tab` loses
   // its doubles and gaps. A continuation that is not needed any more stays in the file, where

@@ -6,6 +6,7 @@
 #include "app/NietVeilig.h"
 #include "entry/Invoer.h"
 #include "entry/KaartVelden.h"
+#include "entry/KindActies.h"
 #include "entry/Koppelingen.h"
 #include "entry/RecordToets.h"
 #include "entry/VolgersBewaker.h"
@@ -349,7 +350,7 @@ void WijzigRelatie::Koppel(const Partner& partner) {
   const std::int16_t nr = partner.vak.Nr();
   if (nr == partner.oud) return;
   const VolgersBewaker bewaker(Hoofd().volgers);
-  Koppelingen werk(Hoofd());
+  Koppelingen werk = Koppelwerk(Hoofd());
   if (partner.oud > 0 && partner.oud != partner.deAndere &&
       !werk.HaalRelatieUit(partner.oud, nr_)) {
     Hoofd().gesprek.Waarschuw("Loskoppelen van oude " + std::string(partner.naam) + " is mislukt");
