@@ -7,6 +7,7 @@
 
 #include "app/HandelingTekst.h"
 #include "app/Ongedaan.h"
+#include "app/VeiligTeksten.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
@@ -74,7 +75,7 @@ void Geschiedenis::OngedaanButtonKlik() {
     return;
   }
   if (regel->ongedaan) {
-    hoofd_.gesprek.Waarschuw("Deze bewerking is al ongedaan gemaakt");
+    hoofd_.gesprek.Waarschuw(kAlOngedaan);
     return;
   }
   if (!hoofd_.gesprek.Vraag(Vraagtekst(*regel, HandelingLijst.Index() + 1))) return;

@@ -1,10 +1,9 @@
 #include "app/GezienBestand.h"
 
-#include <algorithm>
-#include <cstddef>
 #include <string>
 
 #include "app/HeelBestand.h"
+#include "app/NeemRegel.h"
 #include "store/Paden.h"
 #include "text/Getallen.h"
 
@@ -14,15 +13,6 @@ namespace {
 
 constexpr const char* kInWording = "GEZIEN.TMP";
 constexpr std::int16_t kEersteNr = 2;
-
-// Takes the next line from `rest`, without its end.
-std::string_view NeemRegel(std::string_view& rest) {
-  const std::size_t eind = std::min(rest.find('\n'), rest.size());
-  std::string_view regel = rest.substr(0, eind);
-  if (regel.ends_with('\r')) regel.remove_suffix(1);
-  rest.remove_prefix(std::min(eind + 1, rest.size()));
-  return regel;
-}
 
 std::string Inhoud(const std::filesystem::path& programmaMap) {
   std::string inhoud;

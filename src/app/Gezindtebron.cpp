@@ -2,46 +2,26 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 #include <string_view>
 #include <system_error>
-#include <utility>
 
+#include "app/GezindteRij.h"
 #include "app/IniBestand.h"
 #include "store/Paden.h"
 #include "text/Dos437.h"
 #include "text/Getallen.h"
-#include "text/Namen.h"
 #include "text/Tekens.h"
 
 namespace lb77 {
 
 namespace {
 
-constexpr std::string_view kSectie = "Namenfile";
-constexpr std::size_t kCodeBreedte = 2;
-constexpr std::size_t kRijen = 20;
-
-// A row of the list: two characters of code, then the name.
-struct Gezindte {
-  std::string code;
-  std::string naam;
-};
-using Rijen = std::array<Gezindte, kRijen>;
-
-std::string SleutelVan(std::size_t rij) {
-  return "Gez" + GetalTekst(static_cast<std::int64_t>(rij + 1));
-}
-
-Gezindte Ontleed(std::string_view waarde) {
-  return {std::string(Trim(waarde.substr(0, kCodeBreedte))),
-          std::string(Trim(waarde.substr(std::min(kCodeBreedte, waarde.size()))))};
-}
+using Rijen = std::array<GezindteRij, kGezindteRijen>;
 
 Rijen EigenRijen(const IniClass& ini) {
   Rijen lijst;
   for (std::size_t i = 0; i < lijst.size(); ++i) {
-    lijst.at(i) = Ontleed(ini.IniWaarde(kSectie, SleutelVan(i)));
+    lijst.at(i) = GezindteRij::Ontleed(ini.IniWaarde(kGezindteSectie, GezindteSleutel(i)));
   }
   return lijst;
 }
@@ -50,28 +30,24 @@ Rijen RijenVan(std::string_view inhoud) {
   Rijen lijst;
   LeesIniRegels(
       inhoud, [&lijst](std::string_view sectie, std::string_view sleutel, std::string_view waarde) {
-        if (!GelijkZonderKast(sectie, kSectie)) return;
+        if (!GelijkZonderKast(sectie, kGezindteSectie)) return;
         for (std::size_t i = 0; i < lijst.size(); ++i) {
-          if (GelijkZonderKast(sleutel, SleutelVan(i)))
-            lijst.at(i) = Ontleed(DosNaarWindows(waarde));
+          if (GelijkZonderKast(sleutel, GezindteSleutel(i)))
+            lijst.at(i) = GezindteRij::Ontleed(DosNaarWindows(waarde));
         }
       });
   return lijst;
 }
 
-bool IsLeeg(const Gezindte& rij) {
-  return rij.code.empty() && rij.naam.empty();
-}
-
 // True when the list says of the code what it said there.
-bool Neem(IniClass& ini, Rijen& lijst, const Gezindte& nieuw) {
-  const auto zelfde = std::ranges::find(lijst, nieuw.code, &Gezindte::code);
+bool Neem(IniClass& ini, Rijen& lijst, const GezindteRij& nieuw) {
+  const auto zelfde = std::ranges::find(lijst, nieuw.code, &GezindteRij::code);
   if (zelfde != lijst.end()) return zelfde->naam == nieuw.naam;
-  const auto vrij = std::ranges::find_if(lijst, IsLeeg);
+  const auto vrij = std::ranges::find_if(lijst, &GezindteRij::IsLeeg);
   if (vrij == lijst.end()) return false;
   *vrij = nieuw;
-  ini.IniZet(kSectie, SleutelVan(static_cast<std::size_t>(vrij - lijst.begin())),
-             Links(nieuw.code, kCodeBreedte) + nieuw.naam);
+  ini.IniZet(kGezindteSectie, GezindteSleutel(static_cast<std::size_t>(vrij - lijst.begin())),
+             nieuw.Waarde());
   return true;
 }
 
@@ -96,7 +72,7 @@ std::vector<std::string> NeemGezindten(IniClass& ini, const std::filesystem::pat
   if (instellingen.empty() || LeesHeelBestand(instellingen, inhoud)) return over;
   Rijen lijst = EigenRijen(ini);
   bool genomen = false;
-  for (const Gezindte& rij : RijenVan(inhoud)) {
+  for (const GezindteRij& rij : RijenVan(inhoud)) {
     if (rij.code.empty()) continue;
     if (Neem(ini, lijst, rij)) {
       genomen = true;

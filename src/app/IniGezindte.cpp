@@ -3,25 +3,12 @@
 #include <cstddef>
 #include <string>
 
-#include "text/Getallen.h"
-#include "text/Namen.h"
 #include "text/Tekens.h"
 
 namespace lb77 {
 
-namespace {
-
-constexpr std::string_view kSectie = "Namenfile";
-constexpr std::size_t kCodeBreedte = 2;
-
-std::string SleutelVan(int nummer) {
-  return "Gez" + GetalTekst(nummer + 1);
-}
-
-}  // namespace
-
 GezindteRegel::GezindteRegel(Formulier& formulier, int nummer)
-    : GezAfkTekst(formulier, Genummerd("GezAfkTekst", nummer), "", kCodeBreedte),
+    : GezAfkTekst(formulier, Genummerd("GezAfkTekst", nummer), "", kGezindteCode),
       GezTekst(formulier, Genummerd("GezTekst", nummer)) {}
 
 IniGezindte::IniGezindte(Hoofdmodule& hoofd)
@@ -32,20 +19,18 @@ IniGezindte::IniGezindte(Hoofdmodule& hoofd)
 
 void IniGezindte::BijLaden() {
   Gezindten.Elk([this](int nummer, GezindteRegel& regel) {
-    const std::string gezindte = Hoofd().Ini.IniWaarde(kSectie, SleutelVan(nummer));
-    const std::string_view tekst = gezindte;
-    regel.GezAfkTekst.ZetTekst(Trim(tekst.substr(0, kCodeBreedte)));
-    regel.GezTekst.ZetTekst(tekst.size() > kCodeBreedte ? Trim(tekst.substr(kCodeBreedte))
-                                                        : std::string_view());
+    const GezindteRij rij = GezindteRij::Ontleed(
+        Hoofd().Ini.IniWaarde(kGezindteSectie, GezindteSleutel(static_cast<std::size_t>(nummer))));
+    regel.GezAfkTekst.ZetTekst(rij.code);
+    regel.GezTekst.ZetTekst(rij.naam);
   });
 }
 
-// An empty row is two blanks.
 void IniGezindte::Bewaar() {
   Gezindten.Elk([this](int nummer, const GezindteRegel& regel) {
-    Hoofd().Ini.IniZet(
-        kSectie, SleutelVan(nummer),
-        Links(regel.GezAfkTekst.Tekst(), kCodeBreedte) + std::string(Trim(regel.GezTekst.Tekst())));
+    const GezindteRij rij{regel.GezAfkTekst.Tekst(), std::string(Trim(regel.GezTekst.Tekst()))};
+    Hoofd().Ini.IniZet(kGezindteSectie, GezindteSleutel(static_cast<std::size_t>(nummer)),
+                       rij.Waarde());
   });
 }
 

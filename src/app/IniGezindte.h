@@ -1,6 +1,7 @@
 // The settings dialog of the denominations.
 #pragma once
 
+#include "app/GezindteRij.h"
 #include "app/InstelFormulier.h"
 #include "forms/Regels.h"
 
@@ -20,7 +21,7 @@ class IniGezindte final : public InstelFormulier {
   explicit IniGezindte(Hoofdmodule& hoofd);
 
   Label GezindtenLabel{*this, "GezindtenLabel", "Gezindten:"};
-  Regels<GezindteRegel, 20> Gezindten{*this, 0};
+  Regels<GezindteRegel, kGezindteRijen> Gezindten{*this, 0};
   Knop OKButton{*this, "OKButton", "&OK"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 

@@ -3,6 +3,7 @@
 #include <span>
 
 #include "app/IniBestand.h"
+#include "app/NeemRegel.h"
 #include "text/Getallen.h"
 #include "text/Tekens.h"
 
@@ -11,15 +12,6 @@ namespace lb77 {
 namespace {
 
 constexpr std::string_view kRegelEinde = "\r\n";
-
-// What is left of `rest` up to a line end, which goes with it.
-std::string_view NeemRegel(std::string_view& rest) {
-  const std::size_t eind = std::min(rest.find('\n'), rest.size());
-  std::string_view regel = rest.substr(0, eind);
-  rest.remove_prefix(std::min(eind + 1, rest.size()));
-  if (regel.ends_with('\r')) regel.remove_suffix(1);
-  return regel;
-}
 
 // A value never holds a line end: the file would come back as another one.
 std::string OpEenRegel(std::string tekst) {

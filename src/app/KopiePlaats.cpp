@@ -1,10 +1,11 @@
 #include "app/KopiePlaats.h"
 
 #include <filesystem>
+#include <string>
 #include <system_error>
 
 #include "app/KopiePlek.h"
-#include "text/Pad.h"
+#include "app/VeiligTeksten.h"
 #include "text/Tekens.h"
 
 namespace lb77 {
@@ -37,12 +38,12 @@ void KopiePlaats::OKButtonKlik() {
       leeg ? std::filesystem::path() : hoofd_.programmaMap / KopieMap.Pad();
   std::error_code code;
   if (!leeg && !std::filesystem::is_directory(plek, code)) {
-    hoofd_.gesprek.Waarschuw("De directory " + PadTekst(plek) + " is er niet");
+    hoofd_.gesprek.Waarschuw(DirectoryErNiet(plek));
     ZetFocus(KopieMap);
     return;
   }
   if (const SysteemFout fout = BewaarKopiePlek(hoofd_.programmaMap, plek)) {
-    hoofd_.gesprek.Fout("De plaats is niet bewaard\n" + fout.tekst);
+    hoofd_.gesprek.Fout(std::string(kPlaatsNietBewaard) + fout.tekst);
     return;
   }
   Sluit();

@@ -6,6 +6,7 @@
 
 #include "app/NietVeilig.h"
 #include "app/SetOpenen.h"
+#include "app/VeiligTeksten.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
@@ -60,7 +61,7 @@ void KopieTerugzetten::OKButtonKlik() {
   const TerugUitslag uitslag = KopieVan(hoofd_).ZetTerug(rij.naam);
   hoofd_.volgers = {};  // a record that they name may be gone
   if (uitslag.fout) {
-    hoofd_.gesprek.Fout("De veiligheidskopie is niet teruggezet\n" + uitslag.fout.tekst);
+    hoofd_.gesprek.Fout(std::string(kKopieNietTerug) + uitslag.fout.tekst);
     return;
   }
   const std::string uitleg = TekstUitleg(uitslag);
@@ -68,7 +69,7 @@ void KopieTerugzetten::OKButtonKlik() {
                            (uitleg.empty() ? "" : "\n" + uitleg));
   MeldNietVeilig(hoofd_.gesprek, uitslag.nietVeilig);
   if (uitslag.tekstFout) {
-    hoofd_.gesprek.Fout("De map TEKST is niet geheel teruggezet\n" + uitslag.tekstFout.tekst);
+    hoofd_.gesprek.Fout(std::string(kTekstNietTerug) + uitslag.tekstFout.tekst);
   }
   Sluit();
 }

@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "app/VeiligTeksten.h"
 #include "store/Bestandenset.h"
 #include "store/Journaal.h"
 #include "store/Volgers.h"
@@ -36,7 +37,7 @@ void MaakLaatsteOngedaan(const Opslag& opslag) {
     return;
   }
   if (MaakOngedaan(opslag, laatste->nummer)) {
-    opslag.gesprek.Informeer("Ongedaan gemaakt: " + laatste->label);
+    opslag.gesprek.Informeer(std::string(kOngedaanGemaakt) + laatste->label);
   }
 }
 
@@ -53,7 +54,7 @@ void MeldPlekWeg(const Veiligheidskopie& kopie, Gesprek& gesprek) {
 void MaakVeiligheidskopie(Veiligheidskopie kopie, Gesprek& gesprek) {
   MeldPlekWeg(kopie, gesprek);
   if (const SysteemFout fout = kopie.Maak()) {
-    gesprek.Fout("De veiligheidskopie is niet gemaakt\n" + fout.tekst);
+    gesprek.Fout(std::string(kKopieNietGemaakt) + fout.tekst);
   } else {
     gesprek.Informeer("Veiligheidskopie gemaakt: " + PadTekst(kopie.Gemaakt()));
   }

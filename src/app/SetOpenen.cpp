@@ -7,6 +7,7 @@
 #include "app/KopieBijSchrijven.h"
 #include "app/KopiePlek.h"
 #include "app/Ongedaan.h"
+#include "app/VeiligTeksten.h"
 #include "store/Bestandenset.h"
 #include "store/Paden.h"
 #include "store/Platform.h"
@@ -23,7 +24,7 @@ void MaakEersteKopie(Hoofdmodule& hoofd) {
   Veiligheidskopie kopie = KopieVan(hoofd);
   MeldPlekWeg(kopie, hoofd.gesprek);
   if (const SysteemFout fout = kopie.MaakZonodig()) {
-    hoofd.gesprek.Waarschuw("De veiligheidskopie is niet gemaakt\n" + fout.tekst);
+    hoofd.gesprek.Waarschuw(std::string(kKopieNietGemaakt) + fout.tekst);
   }
 }
 

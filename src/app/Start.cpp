@@ -4,9 +4,9 @@
 #include <string>
 #include <system_error>
 
+#include "app/GezindteRij.h"
 #include "app/IniBestand.h"
 #include "store/Platform.h"
-#include "text/Getallen.h"
 
 namespace lb77 {
 
@@ -46,7 +46,7 @@ bool Start(Hoofdmodule& hoofd) {
 void VulGezindten(Hoofdmodule& hoofd) {
   Gezindten& gezindten = hoofd.schrijfwijze.gezindten;
   for (std::size_t i = 1; i < gezindten.size(); ++i) {
-    gezindten[i] = hoofd.Ini.IniWaarde("Namenfile", "Gez" + GetalTekst(static_cast<int>(i)));
+    gezindten[i] = hoofd.Ini.IniWaarde(kGezindteSectie, GezindteSleutel(i - 1));
   }
 }
 

@@ -43,7 +43,7 @@ int Importeer(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
   sessie.bediener.Bij("ToonTekst", [&](Formulier& form) {
     const auto* toon = dynamic_cast<ToonTekst*>(&form);
     // Behind a file that could not be opened the viewer has the log of another import.
-    if (toon && import && import->Pass3box.Gekozen()) DrukUit(toon->UitvoerPad(), omgeving.uit);
+    if (toon && import && import->Pass3.Klaar.Gekozen()) DrukUit(toon->UitvoerPad(), omgeving.uit);
   });
   return sessie.Voer(
       argumenten.woorden[0], Omgang::Schrijven,

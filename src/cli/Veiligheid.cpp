@@ -13,6 +13,7 @@
 #include "app/NietVeilig.h"
 #include "app/Ongedaan.h"
 #include "app/SetOpenen.h"
+#include "app/VeiligTeksten.h"
 #include "app/Veiligheidskopie.h"
 #include "cli/Opdrachten.h"
 #include "cli/Sessie.h"
@@ -54,7 +55,7 @@ std::optional<std::filesystem::path> Plek(Sessie& sessie, const OpdrachtArgument
   std::error_code code;
   std::filesystem::path plek = std::filesystem::absolute(*argumenten.naar, code);
   if (std::filesystem::is_directory(plek, code)) return plek;
-  sessie.bediener.Mislukt("De directory " + PadTekst(plek) + " is er niet");
+  sessie.bediener.Mislukt(DirectoryErNiet(plek));
   return std::nullopt;
 }
 
@@ -104,9 +105,9 @@ int MaakOngedaan(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten)
       sessie.bediener.Mislukt(nummer.empty() ? std::string(kNietsOngedaan)
                                              : "Er is geen bewerking " + nummer);
     } else if (regel->ongedaan) {
-      sessie.bediener.Mislukt("Deze bewerking is al ongedaan gemaakt");
+      sessie.bediener.Mislukt(kAlOngedaan);
     } else if (MaakOngedaan(sessie.Hoofd().MaakOpslag(), regel->nummer)) {
-      Schrijf(omgeving.uit, "Ongedaan gemaakt: " + regel->label);
+      Schrijf(omgeving.uit, std::string(kOngedaanGemaakt) + regel->label);
     }
   };
   return sessie.Voer(argumenten.woorden[0], Omgang::Schrijven, doe, argumenten.toch);
@@ -128,7 +129,7 @@ int Herstel(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
       sessie.bediener.Mislukt("Het herstel is niet gelukt\n" + fout.tekst);
       return;
     }
-    Schrijf(omgeving.uit, (argumenten.behoud ? "Behouden: " : "Ongedaan gemaakt: ") +
+    Schrijf(omgeving.uit, std::string(argumenten.behoud ? "Behouden: " : kOngedaanGemaakt) +
                               onvoltooid->label + ", " + onvoltooid->tijd);
   });
 }
@@ -141,13 +142,13 @@ int Kopie(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) {
     Veiligheidskopie kopie = KopieVan(sessie.Hoofd(), *plek);
     if (!kopie.Weg().empty()) sessie.bediener.Mislukt(PlekWegTekst(kopie));
     if (const SysteemFout fout = kopie.Maak()) {
-      sessie.bediener.Mislukt("De veiligheidskopie is niet gemaakt\n" + fout.tekst);
+      sessie.bediener.Mislukt(std::string(kKopieNietGemaakt) + fout.tekst);
     } else {
       Schrijf(omgeving.uit, PadTekst(kopie.Gemaakt().filename()));
     }
     if (!argumenten.bewaar || !argumenten.naar) return;
     if (const SysteemFout fout = BewaarKopiePlek(sessie.Hoofd().programmaMap, *plek)) {
-      sessie.bediener.Mislukt("De plaats is niet bewaard\n" + fout.tekst);
+      sessie.bediener.Mislukt(std::string(kPlaatsNietBewaard) + fout.tekst);
     }
   });
 }
@@ -162,14 +163,14 @@ int Terugzetten(const Omgeving& omgeving, const OpdrachtArgumenten& argumenten) 
     if (naam.empty()) return ToonKopieen(std::move(kopie), omgeving.uit);
     const TerugUitslag uitslag = kopie.ZetTerug(naam);
     if (uitslag.fout) {
-      sessie.bediener.Mislukt("De veiligheidskopie is niet teruggezet\n" + uitslag.fout.tekst);
+      sessie.bediener.Mislukt(std::string(kKopieNietTerug) + uitslag.fout.tekst);
       return;
     }
     Schrijf(omgeving.uit, "Teruggezet: " + naam);
     if (uitslag.tekst) Schrijf(omgeving.uit, TekstUitleg(uitslag));
     MeldNietVeilig(sessie.Hoofd().gesprek, uitslag.nietVeilig);
     if (uitslag.tekstFout) {
-      sessie.bediener.Mislukt("De map TEKST is niet geheel teruggezet\n" + uitslag.tekstFout.tekst);
+      sessie.bediener.Mislukt(std::string(kTekstNietTerug) + uitslag.tekstFout.tekst);
     }
   };
   const Omgang omgang = naam.empty() ? Omgang::Lezen : Omgang::Schrijven;

@@ -28,20 +28,15 @@ ExpGCI::ExpGCI(Hoofdmodule& hoofd, const GciOpties& opties)
       opties_(opties),
       paden_(GciPaden::In(hoofd.Ini.TekstDir())) {
   ZetHulpOnderwerp("contactdienst");
-  for (Vinkje* vinkje : vinkjes_) vinkje->ZetIngeschakeld(false);
   KoppelTerug(BackButton);
 }
 
 void ExpGCI::BijLaden() {
-  for (Label* label : labels_) label->ZetZichtbaar(false);
+  gangen_.Rust();
 }
 
 void ExpGCI::ToonGang(int nummer) {
-  for (std::size_t i = 0; i < labels_.size(); ++i) {
-    const int deze = static_cast<int>(i) + 1;
-    labels_[i]->ZetZichtbaar(deze == nummer);
-    vinkjes_[i]->Zet(deze < nummer);
-  }
+  gangen_.Toon(nummer);
   Ververs();
 }
 
@@ -231,8 +226,8 @@ void ExpGCI::SluitAf(Afloop afloop) {
   if (afloop == Afloop::GeenReeksen) verslag_.reden = kGeenReeksen;
   Bestandswerk werk;
   const auto melding = SchrijfLog(paden_, LogTekst(verslag_, paden_), werk);
-  Pass6box.Zet(true);
-  Pass6Label.ZetZichtbaar(false);
+  Pass6.Klaar.Zet(true);
+  gangen_.Rust();
   ZetBezig(false);
   if (gelukt_) {
     Hoofd().gesprek.Informeer("Export voltooid");

@@ -1,7 +1,6 @@
 // The export to the contact service: reads the tables, makes the series, and writes both files.
 #pragma once
 
-#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,6 +14,7 @@
 #include "contact/GciUitvoer.h"
 #include "forms/Keuzen.h"
 #include "forms/Weergave.h"
+#include "reporting/Gangen.h"
 #include "reporting/WerkFormulier.h"
 
 namespace lb77 {
@@ -23,24 +23,18 @@ class ExpGCI final : public WerkFormulier {
  public:
   ExpGCI(Hoofdmodule& hoofd, const GciOpties& opties);
 
-  Label Pass1Label{*this, "Pass1Label", kBezig};
-  Vinkje Pass1box{*this, "Pass1box", "Inlezen GCI-Plaatsenbestand"};
+  Gang Pass1{*this, 1, "Inlezen GCI-Plaatsenbestand"};
   Teller PlaatsenGedaan{*this, "PlaatsenGedaan", "Plaatsen:"};
-  Label Pass2Label{*this, "Pass2Label", kBezig};
-  Vinkje Pass2box{*this, "Pass2box", "Inlezen GCI-Provinciebestand"};
+  Gang Pass2{*this, 2, "Inlezen GCI-Provinciebestand"};
   Teller ProvinciesGedaan{*this, "ProvinciesGedaan", "Provincies:"};
-  Label Pass3Label{*this, "Pass3Label", kBezig};
-  Vinkje Pass3box{*this, "Pass3box", "Inlezen GCI-Landenbestand"};
+  Gang Pass3{*this, 3, "Inlezen GCI-Landenbestand"};
   Teller LandenGedaan{*this, "LandenGedaan", "Landen:"};
-  Label Pass4Label{*this, "Pass4Label", kBezig};
-  Vinkje Pass4box{*this, "Pass4box", "Reeksen bepalen en controleren plaatsnamen"};
+  Gang Pass4{*this, 4, "Reeksen bepalen en controleren plaatsnamen"};
   Teller PersonenGedaan{*this, "PersonenGedaan", "Personen:"};
-  Label Pass5Label{*this, "Pass5Label", kBezig};
-  Vinkje Pass5box{*this, "Pass5box", "Reeksen Schrijven"};
+  Gang Pass5{*this, 5, "Reeksen Schrijven"};
   Teller ReeksenGedaan{*this, "ReeksenGedaan", "Reeksen:"};
   Teller NamenGedaan{*this, "NamenGedaan", "Namen:"};
-  Label Pass6Label{*this, "Pass6Label", kBezig};
-  Vinkje Pass6box{*this, "Pass6box", "Verslag schrijven"};
+  Gang Pass6{*this, 6, "Verslag schrijven"};
   Knop BackButton{*this, "BackButton", "&Terug"};
 
   // Both files were made.
@@ -51,8 +45,6 @@ class ExpGCI final : public WerkFormulier {
   void Werk() override;
 
  private:
-  static constexpr std::string_view kBezig = "Bezig met ... ==>";
-
   // How a step ended. Mislukt ends the run without a log; of any other end that is not Klaar the log
   // has the reason, which Verteld says the user knows already.
   enum class Afloop { Klaar, Mislukt, Afgebroken, GeenReeksen, Verteld };
@@ -85,9 +77,7 @@ class ExpGCI final : public WerkFormulier {
   GciVerslag verslag_;
   std::vector<GciReeks> reeksen_;
   bool gelukt_ = false;
-  std::array<Label*, 6> labels_{&Pass1Label, &Pass2Label, &Pass3Label,
-                                &Pass4Label, &Pass5Label, &Pass6Label};
-  std::array<Vinkje*, 6> vinkjes_{&Pass1box, &Pass2box, &Pass3box, &Pass4box, &Pass5box, &Pass6box};
+  Gangen gangen_{&Pass1, &Pass2, &Pass3, &Pass4, &Pass5, &Pass6};
 };
 
 // The whole export, from its questions to its log. True when both files were made. Of `opties` only what

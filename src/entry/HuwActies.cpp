@@ -5,6 +5,7 @@
 
 #include "app/Hoofdmodule.h"
 #include "app/NietVeilig.h"
+#include "entry/KindActies.h"
 #include "entry/KoppelVragen.h"
 #include "entry/Koppelingen.h"
 #include "entry/Ordenen.h"
@@ -15,10 +16,6 @@
 namespace lb77 {
 
 namespace {
-
-Koppelingen Werk(Hoofdmodule& hoofd) {
-  return {hoofd.Persoon, hoofd.Relatie, hoofd.volgers, hoofd.gesprek};
-}
 
 // Both partners, as they go into the record.
 struct Paar {
@@ -73,7 +70,7 @@ void MaakRelatie(Hoofdmodule& hoofd, const Paar& paar) {
   if (SchrijfRelatie(hoofd, relatie, paar)) {
     for (const std::int16_t nr : {paar.man, paar.vrouw}) {
       // What fails has its own message, or none: the relation stands all the same.
-      if (nr > 0) static_cast<void>(Werk(hoofd).VoegRelatieToe(nr, relatie));
+      if (nr > 0) static_cast<void>(Koppelwerk(hoofd).VoegRelatieToe(nr, relatie));
     }
   }
   MeldNietVeilig(hoofd.gesprek, handeling.Voltooi());
@@ -88,7 +85,7 @@ void OrdenRelaties(Hoofdmodule& hoofd, std::int16_t persoon) {
       .plaatsen = PlaatsenVan(tab),
       .lees = [&] { return StaatVan(hoofd.Persoon.VulHuwtab(persoon, tab)); },
       .sorteer = [&](std::int16_t aantal) { return SorteerHuwtab(hoofd.Relatie, tab, aantal); },
-      .schrijf = [&] { return Werk(hoofd).SchrijfHuwtab(persoon, tab); },
+      .schrijf = [&] { return Koppelwerk(hoofd).SchrijfHuwtab(persoon, tab); },
       .vraagWie =
           [&] {
             HuwSchuif vraag(hoofd);

@@ -1,7 +1,9 @@
 #include "entry/HuwRegels.h"
 
 #include <cstddef>
+#include <string>
 
+#include "entry/KaartVelden.h"
 #include "forms/Gesprek.h"
 #include "store/Codes.h"
 #include "store/Partner.h"
@@ -18,7 +20,7 @@ std::vector<HuwRegel> LeesHuwRegels(PersoonLB77& persoon, RelatieLB77& relatie, 
   const std::int32_t vervolg = -std::int32_t{persoon.relatie3()};
   Huwtab tab{};
   if (!persoon.VulHuwtab(persoonNr, tab).heel) {
-    gesprek.Fout("Leesfout bij persoonsrecord " + GetalTekst(vervolg));
+    gesprek.Fout(std::string(kLeesfoutPersoon) + GetalTekst(vervolg));
   }
   std::vector<HuwRegel> regels;
   for (std::size_t i = 1; i < tab.size() && tab[i] > 0; ++i) {

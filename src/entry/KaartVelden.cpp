@@ -15,6 +15,7 @@ namespace {
 
 constexpr std::string_view kOnbekend = "<onbekend>";
 constexpr std::string_view kOpschriftBegin = ">> ";
+constexpr std::int16_t kVervolgSlot = 15;
 
 std::string Samen(std::string_view een, std::string_view ander) {
   return std::string(een).append(ander);
@@ -93,6 +94,19 @@ bool MagErheen(Gesprek& gesprek, int nr, std::string_view geen, std::string_view
   if (nr > 0) return true;
   gesprek.Waarschuw(nr == 0 ? geen : komtNietVoor);
   return false;
+}
+
+Kindtab LeesKinderen(RelatieLB77& relatie, Gesprek& gesprek, std::int16_t nr) {
+  const std::int32_t vervolg = -std::int32_t{relatie.KindNr(kVervolgSlot)};
+  Kindtab tab{};
+  if (!relatie.VulKindtab(nr, tab).heel) {
+    gesprek.Fout(std::string(kLeesfoutRelatie) + GetalTekst(vervolg));
+  }
+  return tab;
+}
+
+std::string KindertalTekst(int aantal) {
+  return aantal > 0 ? GetalTekst(aantal) : "geen";
 }
 
 std::string_view DatumOpKaart(std::string_view datum10) {

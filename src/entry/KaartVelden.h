@@ -2,10 +2,12 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 #include "forms/Keuzen.h"
 #include "forms/Weergave.h"
+#include "store/RelatieLB77.h"
 #include "text/Gezindte.h"
 
 namespace lb77 {
@@ -74,6 +76,12 @@ class OpmKnop final : public Knop {
 // is damage, and would be taken for a new record.
 [[nodiscard]] bool MagErheen(Gesprek& gesprek, int nr, std::string_view geen,
                              std::string_view komtNietVoor);
+
+// The children of relation `nr`, whose record is in the buffer, as far as they can be read; a
+// continuation that can't be read is told.
+[[nodiscard]] Kindtab LeesKinderen(RelatieLB77& relatie, Gesprek& gesprek, std::int16_t nr);
+// The number of children as it is shown.
+[[nodiscard]] std::string KindertalTekst(int aantal);
 
 // A date in the entry form, without the mask of an empty one.
 [[nodiscard]] std::string_view DatumOpKaart(std::string_view datum10);

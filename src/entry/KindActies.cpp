@@ -17,10 +17,6 @@ namespace lb77 {
 
 namespace {
 
-Koppelingen Werk(Hoofdmodule& hoofd) {
-  return {hoofd.Persoon, hoofd.Relatie, hoofd.volgers, hoofd.gesprek};
-}
-
 // The child that the user names; 0 for none.
 std::int16_t VraagKind(Hoofdmodule& hoofd, const PersoonKeuzeSoort& soort) {
   hoofd.volgers.HuidigPersoonNr = -1;
@@ -33,7 +29,7 @@ std::int16_t VraagKind(Hoofdmodule& hoofd, const PersoonKeuzeSoort& soort) {
 void Verplaats(Hoofdmodule& hoofd, std::int16_t kind, std::int16_t oud, std::int16_t nieuw,
                std::string_view label) {
   Handeling handeling(hoofd.bestanden, label);
-  if (!Werk(hoofd).VerplaatsKind(kind, oud, nieuw)) {
+  if (!Koppelwerk(hoofd).VerplaatsKind(kind, oud, nieuw)) {
     hoofd.volgers.HuidigPersoonNr = -1;
   } else {
     // A failure has its own message.
@@ -64,6 +60,10 @@ std::optional<std::int16_t> OudeOuders(Hoofdmodule& hoofd, std::int16_t kind,
 }
 
 }  // namespace
+
+Koppelingen Koppelwerk(Hoofdmodule& hoofd) {
+  return {hoofd.Persoon, hoofd.Relatie, hoofd.volgers, hoofd.gesprek};
+}
 
 void VoegKindToe(Hoofdmodule& hoofd, std::int16_t relatie) {
   if (const std::int16_t kind = VraagKind(hoofd, kKindErbij); kind > 0) {
@@ -102,7 +102,7 @@ void OrdenKinderen(Hoofdmodule& hoofd, std::int16_t relatie) {
       .plaatsen = PlaatsenVan(tab),
       .lees = [&] { return StaatVan(hoofd.Relatie.VulKindtab(relatie, tab)); },
       .sorteer = [&](std::int16_t aantal) { return SorteerKindtab(hoofd.Persoon, tab, aantal); },
-      .schrijf = [&] { return Werk(hoofd).SchrijfKindtab(relatie, tab); },
+      .schrijf = [&] { return Koppelwerk(hoofd).SchrijfKindtab(relatie, tab); },
       .vraagWie = [&]() -> std::optional<std::int16_t> { return VraagKind(hoofd, kKindSchuif); },
       .vraagPlaats =
           [&] {

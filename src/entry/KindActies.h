@@ -6,6 +6,7 @@
 namespace lb77 {
 
 class Hoofdmodule;
+class Koppelingen;
 
 // Each asks what it needs and is one action of the journal. HuidigRelatieNr is `relatie` afterwards,
 // unless its function says otherwise; the buffers have changed, and the card loads itself again.
@@ -23,5 +24,8 @@ void HaalKindWeg(Hoofdmodule& hoofd, std::int16_t relatie, bool metKindErbij);
 // Sorts the children, or moves one. HuidigRelatieNr is -1 when the relation to be sorted can't be
 // read.
 void OrdenKinderen(Hoofdmodule& hoofd, std::int16_t relatie);
+
+// The links of the records of the session.
+[[nodiscard]] Koppelingen Koppelwerk(Hoofdmodule& hoofd);
 
 }  // namespace lb77

@@ -3,16 +3,11 @@
 #include <string>
 
 #include "entry/KindActies.h"
+#include "entry/RecordToets.h"
 #include "entry/ToonPersoon.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
-
-namespace {
-
-constexpr std::int16_t kEersteNr = 2;
-
-}  // namespace
 
 KindRij::KindRij(Formulier& formulier, int nummer)
     : KindLabel(formulier, Genummerd("KindLabel", nummer), GetalTekst(nummer)),
@@ -75,18 +70,8 @@ void KinderenKaart::BijLaden() {
 }
 
 bool KinderenKaart::MagTonen() {
-  RelatieLB77& relatie = Hoofd().Relatie;
-  Gesprek& gesprek = Hoofd().gesprek;
-  if (relatie_ < kEersteNr || relatie_ > relatie.AantalRecords()) {
-    gesprek.Waarschuw(kRelatieKomtNietVoor);
-  } else if (!relatie.Lees(relatie_)) {
-    gesprek.Fout(std::string(kLeesfoutRelatie) + GetalTekst(relatie_));
-  } else if (relatie.IsVolgRecord()) {
-    gesprek.Waarschuw(kIsVervolgrecord);
-  } else {
-    return true;
-  }
-  return false;
+  return LeesHoofdrecord(Hoofd().gesprek, Hoofd().Relatie, relatie_,
+                         {kRelatieKomtNietVoor, kLeesfoutRelatie});
 }
 
 // The last slot may be the way to the next card; that is no child.

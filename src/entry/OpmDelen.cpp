@@ -1,5 +1,6 @@
 #include "entry/OpmDelen.h"
 
+#include "entry/RecordToets.h"
 #include "forms/Gesprek.h"
 #include "store/Codes.h"
 #include "store/Gegevens.h"
@@ -23,29 +24,10 @@ std::string PartnerNaam(PersoonLB77& persoon, std::int16_t nr) {
   return naam.empty() ? std::string(kOnbekend) : naam;
 }
 
-// Is the number one of the file? Says no for it.
-template <class Klasse>
-bool KomtVoor(Gesprek& gesprek, Klasse& klasse, std::int16_t nr, std::string_view nummer,
-              std::string_view record) {
-  if (nr < 2 || nr > klasse.AantalRecords()) {
-    gesprek.Waarschuw("Het opgegeven " + std::string(nummer) + " komt niet voor");
-    return false;
-  }
-  if (!klasse.Lees(nr)) {
-    gesprek.Fout("Leesfout bij " + std::string(record) + " " + GetalTekst(nr));
-    return false;
-  }
-  if (klasse.IsVolgRecord()) {
-    gesprek.Waarschuw("Het opgegeven record is een vervolgrecord");
-    return false;
-  }
-  return true;
-}
-
 std::optional<OpmEigenaar> LeesPersoon(const Gegevens& gegevens, Gesprek& gesprek,
                                        std::int16_t nr) {
   PersoonLB77& persoon = gegevens.persoon;
-  if (!KomtVoor(gesprek, persoon, nr, "Persoonsnummer", "persoonsrecord")) {
+  if (!LeesHoofdrecord(gesprek, persoon, nr, {kPersoonKomtNietVoor, kLeesfoutPersoon})) {
     gegevens.volgers.HuidigPersoonNr = -1;
     return std::nullopt;
   }
@@ -55,7 +37,7 @@ std::optional<OpmEigenaar> LeesPersoon(const Gegevens& gegevens, Gesprek& gespre
 std::optional<OpmEigenaar> LeesRelatie(const Gegevens& gegevens, Gesprek& gesprek,
                                        std::int16_t nr) {
   RelatieLB77& relatie = gegevens.relatie;
-  if (!KomtVoor(gesprek, relatie, nr, "Relatienummer", "relatierecord")) {
+  if (!LeesHoofdrecord(gesprek, relatie, nr, {kRelatieKomtNietVoor, kLeesfoutRelatie})) {
     gegevens.volgers.HuidigRelatieNr = -1;
     return std::nullopt;
   }

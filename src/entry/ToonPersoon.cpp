@@ -40,7 +40,7 @@ ToonPersoon::ToonPersoon(Hoofdmodule& hoofd, std::int16_t nr)
   Pa.Nr.BijKlik([this] { PaNrKlik(); });
   Ma.Nr.BijKlik([this] { MaNrKlik(); });
   RelNrOuders.BijKlik([this] { RelNrOudersKlik(); });
-  Partners.Elk([this](int rij, HuwRij& regel) {
+  Partners.Elk([this](int rij, HuwKaartRij& regel) {
     regel.RelNrP.BijKlik([this, rij] { RelNrPKlik(rij); });
     regel.RecordNrP.BijKlik([this, rij] { RecordNrPKlik(rij); });
   });
@@ -120,7 +120,7 @@ void ToonPersoon::ToonOuders(std::int16_t relatie) {
 void ToonPersoon::ToonPartners(bool magNieuw) {
   const std::vector<HuwRegel> regels =
       LeesHuwRegels(Hoofd().Persoon, Hoofd().Relatie, Hoofd().gesprek, Nr());
-  Partners.Elk([&](int nummer, HuwRij& rij) {
+  Partners.Elk([&](int nummer, HuwKaartRij& rij) {
     const auto plaats = static_cast<std::size_t>(nummer - 1);
     if (plaats < regels.size()) {
       rij.Toon(regels[plaats]);

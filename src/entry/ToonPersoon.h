@@ -3,7 +3,7 @@
 
 #include <cstdint>
 
-#include "entry/HuwRij.h"
+#include "entry/HuwKaartRij.h"
 #include "entry/KaartVelden.h"
 #include "entry/RecordKaart.h"
 #include "forms/Regels.h"
@@ -56,7 +56,7 @@ class ToonPersoon final : public RecordKaartVan<PersoonLB77> {
   PersoonToon Pa{*this, "RecordNrPa", "Pa", "Vader:", "Vader"};
   Verwijzing RelNrOuders{*this, "RelNrOuders", "Relatie:", "Relatie van de ouders"};
   PersoonToon Ma{*this, "RecordNrMa", "Ma", "Moeder:", "Moeder"};
-  Regels<HuwRij, 5> Partners{*this, 1};
+  Regels<HuwKaartRij, 5> Partners{*this, 1};
   Tekstblok AlgPersOpmTekst{*this, "AlgPersOpmTekst", "Opmerking:"};
   OpmKnop AlgPersOpm{*this, "AlgPersOpm", persoonrubriek::kAlgemeen, AlgPersOpmTekst};
   Knop VorigPersoon{*this, "VorigPersoon", "Vorige"};

@@ -18,7 +18,6 @@ namespace {
 constexpr std::array<std::string_view, 3> kBanden = {"Huwelijk (wet)", "Samenwonen",
                                                      "Partnerschap"};
 constexpr std::int16_t kEersteRegel = 1;
-constexpr std::int16_t kVervolgSlot = 15;
 
 constexpr KaartWoorden kWoorden{
     .nummer = "Relatienummer:",
@@ -102,15 +101,10 @@ void ToonRelatie::ToonPartners() {
 }
 
 void ToonRelatie::ToonKindertal() {
-  RelatieLB77& relatie = Hoofd().Relatie;
-  const std::int32_t vervolg = -std::int32_t{relatie.KindNr(kVervolgSlot)};
-  Kindtab tab{};
-  if (!relatie.VulKindtab(Nr(), tab).heel) {
-    Hoofd().gesprek.Fout(std::string(kLeesfoutRelatie) + GetalTekst(vervolg));
-  }
+  const Kindtab tab = LeesKinderen(Hoofd().Relatie, Hoofd().gesprek, Nr());
   int aantal = 0;
   for (std::size_t i = 1; i < tab.size() && tab[i] > 0; ++i) ++aantal;
-  Kindertal.ZetTekst(aantal > 0 ? GetalTekst(aantal) : "geen");
+  Kindertal.ZetTekst(KindertalTekst(aantal));
 }
 
 void ToonRelatie::ManNrKlik() {

@@ -5,6 +5,7 @@
 
 #include "app/NietVeilig.h"
 #include "entry/HuwRegels.h"
+#include "entry/RecordToets.h"
 #include "entry/VolgersBewaker.h"
 #include "store/Codes.h"
 #include "store/Handeling.h"
@@ -105,15 +106,7 @@ bool WijzigPersoon::NeemRecord() {
 }
 
 bool WijzigPersoon::NeemBestaand() {
-  PersoonLB77& persoon = Hoofd().Persoon;
-  if (nr_ < 2 || nr_ > persoon.AantalRecords()) {
-    Hoofd().gesprek.Waarschuw("Het opgegeven Persoonsnummer komt niet voor");
-    return false;
-  }
-  if (!persoon.Lees(nr_)) return false;
-  if (!persoon.IsVolgRecord()) return true;
-  Hoofd().gesprek.Waarschuw("Het opgegeven record is een vervolgrecord");
-  return false;
+  return LeesHoofdrecord(Hoofd().gesprek, Hoofd().Persoon, nr_, {kPersoonKomtNietVoor, {}});
 }
 
 // The number behind the last record, and an empty buffer, for a person who has none yet.
@@ -133,15 +126,13 @@ bool WijzigPersoon::NeemVrijNummer() {
 void WijzigPersoon::ToonPartners() {
   std::vector<HuwRegel> regels;
   if (bestaat_) regels = LeesHuwRegels(Hoofd().Persoon, Hoofd().Relatie, Hoofd().gesprek, nr_);
-  Partners.Elk([&](int nummer, PartnerRij& rij) {
+  Partners.Elk([&](int nummer, HuwWijzigRij& rij) {
     const auto plaats = static_cast<std::size_t>(nummer - 1);
-    const bool bekend = plaats < regels.size();
-    const HuwRegel regel = bekend ? regels[plaats] : HuwRegel{};
-    rij.RelNrP.ZetTekst(NrTekst(regel.relatie));
-    rij.RecordNrP.ZetTekst(NrTekst(regel.partner));
-    rij.VoorNmP.ZetTekst(regel.voornaam);
-    rij.AchterNmP.ZetTekst(regel.achternaam);
-    rij.ZetZichtbaar(bekend);
+    if (plaats < regels.size()) {
+      rij.Toon(regels[plaats]);
+    } else {
+      rij.Verberg();
+    }
   });
 }
 

@@ -9,8 +9,8 @@
 #include "entry/CorrectieVak.h"
 #include "entry/DatumVak.h"
 #include "entry/GezindteVak.h"
+#include "entry/HuwWijzigRij.h"
 #include "entry/InvoerVak.h"
-#include "entry/PartnerRij.h"
 #include "entry/PersoonVak.h"
 #include "entry/PlaatsVak.h"
 #include "entry/RecordNrVak.h"
@@ -54,7 +54,7 @@ class WijzigPersoon final : public InvoerFormulier {
                           Vervolgtest::GeenVervolg};
   PersoonVak Pa{*this, "Pa", {.nrBijschrift = "Vader:"}};
   PersoonVak Ma{*this, "Ma", {.nrBijschrift = "Moeder:"}};
-  Regels<PartnerRij, 5> Partners{*this, 1};
+  Regels<HuwWijzigRij, 5> Partners{*this, 1};
   Teller AlgPersOpmTekst{*this, "AlgPersOpmTekst", "Opmerking:"};
   Knop Opslaan{*this, "Opslaan", "&Opslaan"};
   Knop BackButton{*this, "BackButton", "&Terug"};

@@ -1,6 +1,7 @@
 // The parents of WijzigPersoon: whom the fields mean, and the link to their relation.
 #include <string>
 
+#include "entry/KindActies.h"
 #include "entry/Koppelingen.h"
 #include "entry/WijzigPersoon.h"
 #include "text/Getallen.h"
@@ -8,7 +9,7 @@
 namespace lb77 {
 
 Koppelingen WijzigPersoon::Koppel() const {
-  return {Hoofd().Persoon, Hoofd().Relatie, Hoofd().volgers, Hoofd().gesprek};
+  return Koppelwerk(Hoofd());
 }
 
 void WijzigPersoon::ToonOuders(std::int16_t relatie) {

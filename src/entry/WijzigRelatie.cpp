@@ -5,7 +5,10 @@
 
 #include "app/NietVeilig.h"
 #include "entry/Invoer.h"
+#include "entry/KaartVelden.h"
+#include "entry/KindActies.h"
 #include "entry/Koppelingen.h"
+#include "entry/RecordToets.h"
 #include "entry/VolgersBewaker.h"
 #include "store/Handeling.h"
 #include "store/RelatieVelden.h"
@@ -151,15 +154,7 @@ bool WijzigRelatie::NeemRecord() {
 }
 
 bool WijzigRelatie::NeemBestaand() {
-  RelatieLB77& relatie = Hoofd().Relatie;
-  if (nr_ < 2 || nr_ > relatie.AantalRecords()) {
-    Hoofd().gesprek.Waarschuw("Het opgegeven Relatienummer komt niet voor");
-    return false;
-  }
-  if (!relatie.Lees(nr_)) return false;
-  if (!relatie.IsVolgRecord()) return true;
-  Hoofd().gesprek.Waarschuw("Het opgegeven record is een vervolgrecord");
-  return false;
+  return LeesHoofdrecord(Hoofd().gesprek, Hoofd().Relatie, nr_, {kRelatieKomtNietVoor, {}});
 }
 
 bool WijzigRelatie::NeemNieuw() {
@@ -194,14 +189,10 @@ void WijzigRelatie::ToonKindertal() {
   RelatieLB77& relatie = Hoofd().Relatie;
   std::int16_t aantal = 0;
   if (bestaat_ && relatie.Lees(nr_)) {
-    const std::int32_t vervolg = -std::int32_t{relatie.KindNr(15)};
-    Kindtab tab{};
-    if (!relatie.VulKindtab(nr_, tab).heel) {
-      Hoofd().gesprek.Fout("Leesfout bij relatierecord " + GetalTekst(vervolg));
-    }
+    Kindtab tab = LeesKinderen(relatie, Hoofd().gesprek, nr_);
     aantal = AantalBezet(PlaatsenVan(tab));
   }
-  Kindertal.ZetTekst(aantal == 0 ? "geen" : GetalTekst(aantal));
+  Kindertal.ZetTekst(KindertalTekst(aantal));
 }
 
 bool WijzigRelatie::Weiger(Bediening& veld, std::string_view melding) {
@@ -359,7 +350,7 @@ void WijzigRelatie::Koppel(const Partner& partner) {
   const std::int16_t nr = partner.vak.Nr();
   if (nr == partner.oud) return;
   const VolgersBewaker bewaker(Hoofd().volgers);
-  Koppelingen werk(Hoofd().Persoon, Hoofd().Relatie, Hoofd().volgers, Hoofd().gesprek);
+  Koppelingen werk = Koppelwerk(Hoofd());
   if (partner.oud > 0 && partner.oud != partner.deAndere &&
       !werk.HaalRelatieUit(partner.oud, nr_)) {
     Hoofd().gesprek.Waarschuw("Loskoppelen van oude " + std::string(partner.naam) + " is mislukt");

@@ -66,10 +66,6 @@ std::string Cijfers(std::string_view tekst) {
   return Rechts(tekst, kNummer, '0');
 }
 
-std::string Totaal(std::int32_t aantal, std::string_view wat) {
-  return ("Totaal " + GetalTekst(aantal) + " ").append(wat);
-}
-
 // The numbers of the places, which the buffer loses to a continuation record.
 struct PersoonPlaatsen {
   explicit PersoonPlaatsen(const PersoonLB77& persoon)

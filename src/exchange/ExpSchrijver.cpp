@@ -9,6 +9,10 @@ std::string NietUitgevoerd(std::string_view leesfout, std::int16_t nr) {
   return (std::string(leesfout) + GetalTekst(nr)).append(". Record niet geëxporteerd."_w);
 }
 
+std::string Totaal(std::int64_t aantal, std::string_view wat) {
+  return ("Totaal " + GetalTekst(aantal) + " ").append(wat);
+}
+
 void MeldWeggelaten(ExpUitvoer& log, std::size_t aantal, std::string_view waar) {
   if (aantal == 0) return;
   log.Regel(("LET OP: " + GetalTekst(static_cast<std::int64_t>(aantal)) +

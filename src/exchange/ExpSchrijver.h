@@ -19,6 +19,8 @@ inline constexpr std::string_view kExporterenVoltooid = "Exporteren voltooid";
 [[nodiscard]] std::string NietUitgevoerd(std::string_view leesfout, std::int16_t nr);
 inline constexpr std::string_view kPersoonLeesfout = "Leesfout bij Persoonsrecord ";
 inline constexpr std::string_view kRelatieLeesfout = "Leesfout bij Relatierecord ";
+// The line of the log that counts what was exported.
+[[nodiscard]] std::string Totaal(std::int64_t aantal, std::string_view wat);
 // The line at the end of a log for remarks that have no place in the file, when there are any.
 void MeldWeggelaten(ExpUitvoer& log, std::size_t aantal, std::string_view waar);
 inline constexpr std::string_view kTweedeOpmerking = "tweede of volgende opmerking bij een rubriek";

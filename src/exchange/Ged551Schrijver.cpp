@@ -37,10 +37,6 @@ std::string Keer(std::string_view tekst, int aantal) {
   return std::string(tekst) + ": " + GetalTekst(aantal) + " keer";
 }
 
-std::string Totaal(std::int64_t aantal, std::string_view wat) {
-  return ("Totaal " + GetalTekst(aantal) + " ").append(wat);
-}
-
 }  // namespace
 
 Ged551Schrijver::Ged551Schrijver(ExpUitvoer& uit, ExpUitvoer& log, const Gegevens& gegevens,

@@ -30,10 +30,6 @@ constexpr std::string_view kLetOp[] = {
     "        van Lijnboom/B77 voor DOS !!",
 };
 
-std::string Totaal(std::int32_t aantal, std::string_view wat) {
-  return ("Totaal " + GetalTekst(aantal) + " ").append(wat);
-}
-
 }  // namespace
 
 GedcomSchrijver::GedcomSchrijver(const GedBronnen& bronnen, GedKopGegevens kop)

@@ -123,7 +123,6 @@ ImpGedcom::ImpGedcom(Hoofdmodule& hoofd, std::filesystem::path bestand, ImpWijze
       wijze_(wijze) {
   ZetHulpOnderwerp("gedcom");
   ZetEersteVeld(begin_.empty() ? static_cast<Bediening&>(Bestandsnaam) : OKButton);
-  for (Vinkje* vinkje : vinkjes_) vinkje->ZetIngeschakeld(false);
   // One file is not read twice by one more click.
   Bestandsnaam.BijWijziging([this] { OKButton.ZetIngeschakeld(true); });
   BrowseButton.BijKlik([this] { BrowseButtonKlik(); });
@@ -132,7 +131,7 @@ ImpGedcom::ImpGedcom(Hoofdmodule& hoofd, std::filesystem::path bestand, ImpWijze
 }
 
 void ImpGedcom::BijLaden() {
-  for (Label* label : labels_) label->ZetZichtbaar(false);
+  gangen_.Rust();
   if (!begin_.empty()) Bestandsnaam.ZetPad(begin_);
   ToonDoel();
 }
@@ -178,7 +177,7 @@ void ImpGedcom::OKButtonKlik() {
   ToonDoel();
   ZetBezig(false);
   WisStop();
-  for (Label* label : labels_) label->ZetZichtbaar(false);
+  gangen_.Rust();
   if (afloop.gestopt && !afloop.systeem) return;
   if (afloop.afgebroken && !afloop.systeem) return ToonLog();
   if (wijze_ == ImpWijze::Vanzelf && gelukt_ && !afloop.systeem) return Sluit();
@@ -192,7 +191,7 @@ void ImpGedcom::OKButtonKlik() {
 
 void ImpGedcom::WisVoortgang() {
   for (Teller* teller : tellers_) teller->ZetTekst("");
-  for (Vinkje* vinkje : vinkjes_) vinkje->Zet(false);
+  gangen_.Wis();
   TellingLabel.ZetBijschrift("");
   gelukt_ = opmerkingenVol_ = heeftLog_ = false;
   gelezenPersonen_ = gelezenRelaties_ = 0;
@@ -332,7 +331,7 @@ SysteemFout ImpGedcom::Rond(const ImpUitslag& uitslag, ImpLoop& loop, GedLog& lo
   SluitVerslag(uitslag, loop, log);
   // kept: also behind an error of the file, where the lines ahead of it tell otherwise.
   log.Regel(kVoltooid);
-  Pass3box.Zet(true);
+  Pass3.Klaar.Zet(true);
   gelukt_ = uitslag.fout.empty();
   return Bij(log.Sluit(), kLogNaam);
 }
@@ -350,11 +349,7 @@ void ImpGedcom::SluitRest(ImpRest& rest, GedLog& log) {
 }
 
 void ImpGedcom::ToonGang(int nummer) {
-  for (std::size_t i = 0; i < labels_.size(); ++i) {
-    const int deze = static_cast<int>(i) + 1;
-    labels_[i]->ZetZichtbaar(deze == nummer);
-    vinkjes_[i]->Zet(deze < nummer);
-  }
+  gangen_.Toon(nummer);
   hoofd_.gesprek.Ververs(*this);
 }
 

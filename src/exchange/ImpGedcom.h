@@ -11,6 +11,7 @@
 #include "exchange/ImpLoop.h"
 #include "exchange/RegelLezer.h"
 #include "forms/Formulier.h"
+#include "reporting/Gangen.h"
 
 namespace lb77 {
 
@@ -33,12 +34,9 @@ class ImpGedcom final : public Formulier {
   Knop BrowseButton{*this, "BrowseButton", "&Browse"};
   Label DoelLabel{*this, "DoelLabel"};
   Label TellingLabel{*this, "TellingLabel"};
-  Label Pass1Label{*this, "Pass1Label", kBezig};
-  Vinkje Pass1box{*this, "Pass1box", "Eerste analyse"};
-  Label Pass2Label{*this, "Pass2Label", kBezig};
-  Vinkje Pass2box{*this, "Pass2box", "Records schrijven"};
-  Label Pass3Label{*this, "Pass3Label", kBezig};
-  Vinkje Pass3box{*this, "Pass3box", "Opmerkingen verwerken"};
+  Gang Pass1{*this, 1, "Eerste analyse"};
+  Gang Pass2{*this, 2, "Records schrijven"};
+  Gang Pass3{*this, 3, "Opmerkingen verwerken"};
   Teller RegelNr{*this, "RegelNr", "Regelnummer:"};
   Teller AantalPersonen{*this, "AantalPersonen", "Aantal personen:"};
   Teller AantalRelaties{*this, "AantalRelaties", "Aantal relaties:"};
@@ -70,8 +68,6 @@ class ImpGedcom final : public Formulier {
     bool afgebroken = false;
     SysteemFout systeem{};
   };
-  static constexpr std::string_view kBezig = "Bezig met ... ==>";
-
   void BrowseButtonKlik();
   void OKButtonKlik();
   void WisVoortgang();
@@ -109,8 +105,7 @@ class ImpGedcom final : public Formulier {
   bool nietOmgezet_ = false;  // a Unicode file is read as bytes
   std::size_t gelezenPersonen_ = 0;
   std::size_t gelezenRelaties_ = 0;
-  std::array<Label*, 3> labels_{&Pass1Label, &Pass2Label, &Pass3Label};
-  std::array<Vinkje*, 3> vinkjes_{&Pass1box, &Pass2box, &Pass3box};
+  Gangen gangen_{&Pass1, &Pass2, &Pass3};
   std::array<Teller*, 7> tellers_{&RegelNr, &AantalPersonen, &AantalRelaties, &AantalBronnen,
                                   &VoorNm,  &AchterNm,       &BronNm};
 };

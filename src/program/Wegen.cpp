@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "app/Bestandensets.h"
+#include "app/GezindteRij.h"
 #include "app/Gezindtebron.h"
 #include "app/InWelkeSet.h"
 #include "app/Installatie.h"
@@ -162,7 +163,7 @@ void Wegen::ToonVoorbeeld() {
     return HeropenSet(hoofd_, menu_, eerder);
   }
   // Without them the denominations of the sample would be cut to two letters.
-  if (hoofd_.Ini.IniWaarde("Namenfile", "Gez1").empty()) {
+  if (hoofd_.Ini.IniWaarde(kGezindteSectie, GezindteSleutel(0)).empty()) {
     static_cast<void>(NeemGezindten(hoofd_.Ini, bestand->parent_path() / "LIJNBOOM.INI"));
     VulGezindten(hoofd_);
   }

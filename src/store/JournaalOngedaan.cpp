@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "store/Journaal.h"
+#include "store/OngedaanMislukt.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
@@ -26,10 +27,6 @@ std::string OngedaanLabel(std::string_view label) {
 
 OngedaanUitslag Geweigerd(Soort soort, std::uint32_t nummer = 0) {
   return {.soort = soort, .nummer = nummer, .plek = {}, .fout = {}};
-}
-
-OngedaanUitslag Mislukt(SysteemFout fout) {
-  return {.soort = Soort::Mislukt, .nummer = 0, .plek = {}, .fout = std::move(fout)};
 }
 
 // The row of an action of which nobody has looked yet whether it is undone.
@@ -156,9 +153,9 @@ std::optional<OngedaanUitslag> Journaal::MaakPlan(const std::vector<Gelezen>& ge
 
 OngedaanUitslag Journaal::MaakOngedaan(std::uint32_t nummer) {
   if (diepte_ > 0) return Geweigerd(Soort::Bezig);
-  if (SysteemFout fout = SluitAf()) return Mislukt(std::move(fout));
+  if (SysteemFout fout = SluitAf()) return OngedaanMislukt(std::move(fout));
   std::vector<Gelezen> gelezen;
-  if (SysteemFout fout = LeesVanaf(nummer, gelezen)) return Mislukt(std::move(fout));
+  if (SysteemFout fout = LeesVanaf(nummer, gelezen)) return OngedaanMislukt(std::move(fout));
   if (gelezen.empty() || gelezen.front().nummer != nummer) return Geweigerd(Soort::NietAanwezig);
   OngedaanPlan plan([this](const RecordPlek& plek, std::string& b) { return LeesNu(plek, b); },
                     [this](BestandSoort soort, std::uint64_t& l) { return LengteNu(soort, l); });
@@ -168,7 +165,7 @@ OngedaanUitslag Journaal::MaakOngedaan(std::uint32_t nummer) {
   if (!fout) fout = Einde(kaart);
   if (!fout) return {};
   DraaiTerug();
-  return Mislukt(std::move(fout));
+  return OngedaanMislukt(std::move(fout));
 }
 
 // Half an undo is none: what it wrote is put back at once, from its own journal.

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <utility>
 
+#include "store/OngedaanMislukt.h"
 #include "text/Getallen.h"
 
 namespace lb77 {
@@ -12,10 +13,6 @@ namespace lb77 {
 namespace {
 
 using Soort = OngedaanUitslag::Soort;
-
-OngedaanUitslag Mislukt(SysteemFout fout) {
-  return {.soort = Soort::Mislukt, .nummer = 0, .plek = {}, .fout = std::move(fout)};
-}
 
 OngedaanUitslag Gewijzigd(const RecordPlek& plek) {
   return {.soort = Soort::Gewijzigd, .nummer = 0, .plek = plek, .fout = {}};
@@ -53,7 +50,7 @@ std::optional<OngedaanUitslag> OngedaanPlan::ControleerLengte(BestandSoort soort
                                                               std::uint64_t na) {
   std::uint64_t nu = lengten_.at(IndexVan(soort));
   if (nu == kGeenLengte) {
-    if (SysteemFout fout = leesLengte_(soort, nu)) return Mislukt(std::move(fout));
+    if (SysteemFout fout = leesLengte_(soort, nu)) return OngedaanMislukt(std::move(fout));
   }
   if (nu == na) return std::nullopt;
   const std::uint64_t eerste = std::min(nu, na) / RecordLengteVan(soort) + 1;
@@ -67,7 +64,7 @@ std::optional<OngedaanUitslag> OngedaanPlan::ControleerRecord(const JournaalStan
   if (later != records_.end()) {
     bytes = later->second;
   } else if (SysteemFout fout = leesRecord_(stand.plek, bytes)) {
-    return Mislukt(std::move(fout));
+    return OngedaanMislukt(std::move(fout));
   }
   if (StandVan(stand.plek, bytes) == stand) return std::nullopt;
   return Gewijzigd(stand.plek);

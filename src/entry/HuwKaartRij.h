@@ -11,8 +11,8 @@
 
 namespace lb77 {
 
-struct HuwRij {
-  HuwRij(Formulier& formulier, int nummer)
+struct HuwKaartRij {
+  HuwKaartRij(Formulier& formulier, int nummer)
       : LabelP(formulier, Genummerd("LabelP", nummer), "Partner " + GetalTekst(nummer)),
         RelNrP(formulier, Genummerd("RelNrP", nummer), {}, "Relatie " + GetalTekst(nummer)),
         RecordNrP(formulier, Genummerd("RecordNrP", nummer), {}, "Partner " + GetalTekst(nummer)),
