@@ -78,7 +78,7 @@ async function proef(naam) {
 }
 proef(decodeURIComponent(location.hash.slice(1)))
     .catch((fout) => ({fout: String(fout)}))
-    .then((uit) => fetch('/uitslag', {method: 'POST', body: JSON.stringify(uit)}));
+    .then((uit) => fetch('/uitslag' + location.search, {method: 'POST', body: JSON.stringify(uit)}));
 </script>"""
 
 
@@ -90,9 +90,14 @@ class Dienst(http.server.SimpleHTTPRequestHandler):
         super().__init__(*overige, **namen)
 
     def do_POST(self):
-        self.uitslagen.put(json.loads(self.rfile.read(int(self.headers["Content-Length"]))))
+        uitslag = json.loads(self.rfile.read(int(self.headers["Content-Length"])))
+        self.uitslagen.put((self.path.partition("?")[2], uitslag))
         self.send_response(204)
         self.end_headers()
+
+    def end_headers(self):
+        self.send_header("Cache-Control", "no-store")
+        super().end_headers()
 
     def log_message(self, *_):
         pass
@@ -109,6 +114,7 @@ class Browser(unittest.TestCase):
         self.lb77("nieuw", "ORANJE")
         self.lb77("importeer", "ORANJE", WORTEL / "voorbeeld" / "oranje-nassau.ged")
         self.uitslagen = queue.Queue()
+        self.keer = 0
         self.dienst = http.server.ThreadingHTTPServer(
             ("127.0.0.1", 0), functools.partial(Dienst, directory=self.map / "bladen",
                                                 uitslagen=self.uitslagen))
@@ -122,16 +128,20 @@ class Browser(unittest.TestCase):
         self.assertEqual(gedaan.returncode, 0, gedaan.stderr.decode())
 
     def bekijk(self, blad):
-        """What the browser found on a page."""
-        adres = f"http://127.0.0.1:{self.dienst.server_address[1]}/proef.html#{blad}"
+        """What the browser found on a page, this time: one that ends slowly may tell of the last one again."""
+        self.keer += 1
+        adres = f"http://127.0.0.1:{self.dienst.server_address[1]}/proef.html?{self.keer}#{blad}"
         opdracht = [CHROMIUM, "--headless", "--disable-gpu", "--no-first-run", "--disable-ipc-flooding-protection",
-                    f"--user-data-dir={self.map / 'chromium'}"]
+                    f"--user-data-dir={self.map / f'chromium{self.keer}'}"]
         if os.geteuid() == 0:
             opdracht.append("--no-sandbox")
         with subprocess.Popen(opdracht + ["--remote-debugging-port=0", adres],
                               stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL) as chromium:
             try:
-                return self.uitslagen.get(timeout=120)
+                keer = ""
+                while keer != str(self.keer):
+                    keer, uitslag = self.uitslagen.get(timeout=120)
+                return uitslag
             finally:
                 chromium.terminate()
 
